@@ -1,0 +1,23 @@
+# SPDX-License-Identifier: MIT
+#
+# Makes the linker's list of visible symbols from src/exports.txt: one name a
+# line, "#" starts a comment.
+
+function(ztk_read_exports file out)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
+  file(STRINGS "${file}" names REGEX "^[A-Za-z_]")
+  set(${out} ${names} PARENT_SCOPE)
+endfunction()
+
+function(ztk_version_script exports script)
+  ztk_read_exports("${exports}" names)
+  list(JOIN names ";\n    " body)
+  file(CONFIGURE OUTPUT "${script}" CONTENT
+"ZTKFUNC_${PROJECT_VERSION_MAJOR} {
+  global:
+    ${body};
+  local:
+    *;
+};
+")
+endfunction()
