@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+//
+// Texts. ZTKTextRef and ZTK_TEXT stand in the public header; here is what the
+// core does with them. A text "made" by one of these functions is owned by the
+// caller and goes back through Release().
+#ifndef ZTK_PLATFORM_TEXT_H_
+#define ZTK_PLATFORM_TEXT_H_
+
+#include <cstdint>
+
+#include "ZTKFunc.h"
+
+namespace ztk::platform::text {
+
+// Makes the upper-case form; at least ASCII letters are mapped.
+ZTKTextRef UpperCase(ZTKTextRef text);
+
+// True when `part` stands anywhere in `text`.
+bool Contains(ZTKTextRef text, ZTKTextRef part);
+
+// Make a text from a format: each "%@" takes the next text, "%d" the number.
+ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first);
+ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first, ZTKTextRef second);
+ZTKTextRef Format(ZTKTextRef format, std::int32_t number);
+
+// Makes the component at `position`, counted from 0, of a text split at every
+// "."; null when there are fewer. Components may be empty.
+ZTKTextRef DotComponent(ZTKTextRef text, unsigned position);
+
+// Compares runs of digits as numbers ("9" is below "10"), the rest by
+// character. Below 0, 0 or above 0, as the first is less, equal or greater.
+int CompareNumerically(ZTKTextRef first, ZTKTextRef second);
+
+// Gives back a made text; null is allowed.
+void Release(ZTKTextRef made);
+
+// A made text that goes back by itself.
+class Made {
+ public:
+  explicit Made(ZTKTextRef made) : text_(made) {}
+  ~Made() { Release(text_); }
+  Made(const Made &) = delete;
+  Made &operator=(const Made &) = delete;
+  ZTKTextRef get() const { return text_; }
+
+ private:
+  ZTKTextRef text_;
+};
+
+}  // namespace ztk::platform::text
+
+#endif  // ZTK_PLATFORM_TEXT_H_

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+//
+// USB access, cut at the system's own verbs. What is counted, chosen, released
+// or left unreleased is decided by src/usb/USB.cpp; a port only carries it out.
+//
+// No function keeps state between calls and any thread may call it. Handles
+// belong to the caller until given to the releasing verb that each names.
+#ifndef ZTK_PLATFORM_USB_H_
+#define ZTK_PLATFORM_USB_H_
+
+#include <cstdint>
+
+namespace ztk::platform::usb {
+
+// The platform's result of a USB call; a port that has other error numbers
+// maps them to these.
+using Code = std::uint32_t;
+inline constexpr Code kSuccess = 0;
+inline constexpr Code kError = 0xE00002BC;
+inline constexpr Code kNoDevice = 0xE00002C0;
+inline constexpr Code kNotPrivileged = 0xE00002C1;
+inline constexpr Code kExclusiveAccess = 0xE00002C5;
+inline constexpr Code kBusy = 0xE00002D5;
+inline constexpr Code kTimeout = 0xE00002D6;
+inline constexpr Code kNotPermitted = 0xE00002E2;
+inline constexpr Code kPipeStalled = 0xE000404F;
+
+// Registry objects; null is none.
+struct PortObject;
+struct IteratorObject;
+struct ServiceObject;
+using Port = PortObject *;
+using Iterator = IteratorObject *;
+using Service = ServiceObject *;
+
+// Opaque, reference-counted by the port.
+struct Matching;
+struct Number;
+struct PlugIn;
+struct Device;
+
+// A control request on the default pipe. Numbers are in host order; the port
+// lays out the setup packet. `data` belongs to the caller and is touched only
+// where the data stage delivers bytes.
+struct ControlRequest {
+  std::uint8_t requestType;
+  std::uint8_t request;
+  std::uint16_t value;
+  std::uint16_t index;
+  std::uint16_t length;
+  void *data;
+  std::uint32_t lengthDone;  // filled in by the port, 0 after a failure
+};
+
+// Gets the port that the registry is asked through. On failure *port is null.
+Code GetMasterPort(Port *port);
+void ReleaseMasterPort(Port port);
+
+// Makes a description that matches every service of a class; null on failure.
+Matching *CreateMatching(const char *className);
+// Makes a signed 32-bit number object; the caller owns it.
+Number *MakeNumber(std::int32_t value);
+// Narrows the matching to services whose property `key` equals the number.
+// The matching takes its own hold of the number.
+void SetMatchingValue(Matching *matching, const char *key, Number *number);
+
+// Finds the matching services and consumes `matching`, whatever the result.
+// On success *iterator may still be null: nothing to walk.
+Code FindServices(Port port, Matching *matching, Iterator *iterator);
+// The next service in registry order, owned by the caller; null at the end.
+Service NextService(Iterator iterator);
+void ReleaseService(Service service);
+void ReleaseIterator(Iterator iterator);
+
+// Makes the loader of a service's device interface, owned by the caller.
+// On failure *plugIn is null.
+Code CreatePlugIn(Service service, PlugIn **plugIn);
+// The device interface, holding one reference of the caller's, or null.
+Device *QueryDevice(PlugIn *plugIn);
+void ReleasePlugIn(PlugIn *plugIn);
+
+// Facts of the device descriptor. Outputs are written on success only.
+Code GetDeviceClass(Device *device, std::uint8_t *deviceClass);
+Code GetDeviceSubClass(Device *device, std::uint8_t *deviceSubClass);
+Code GetDeviceVendor(Device *device, std::uint16_t *vendor);
+Code GetDeviceProduct(Device *device, std::uint16_t *product);
+
+// Makes a found device ready for requests and gives back the interface to use
+// from now on: the same one, or one that takes its place. Consumes the
+// caller's reference; what is returned holds one. Null when the device cannot
+// be reached: then nothing is held.
+Device *MakeReady(Device *device);
+
+// Sends the request and waits for its end.
+Code Request(Device *device, ControlRequest *request);
+
+Code CloseDevice(Device *device);
+// Gives one reference back; returns how many remain.
+std::uint32_t ReleaseDevice(Device *device);
+
+}  // namespace ztk::platform::usb
+
+#endif  // ZTK_PLATFORM_USB_H_
