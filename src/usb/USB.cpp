@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: MIT
+#include "usb/USB.h"
+
+#include "build_config.h"
+
+using namespace ztk;
+using namespace ztk::usb;
+
+namespace {
+
+namespace port = platform::usb;
+
+constexpr char kServiceClass[] = "IOUSBDevice";
+constexpr char kVendorKey[] = "idVendor";
+constexpr char kProductKey[] = "idProduct";
+
+constexpr std::uint8_t kReadRequestType = 0xC0;   // device to host, vendor
+constexpr std::uint8_t kWriteRequestType = 0x40;  // host to device, vendor
+constexpr std::uint8_t kReadRequest = 0;
+constexpr std::uint8_t kWriteRequest = 3;
+
+// Facts of one device, each asked only if all before it were answered.
+struct Identity {
+  Code result;
+  std::uint16_t vendor = 0;
+  std::uint16_t product = 0;
+
+  bool IsMixer() const {
+    return result == port::kSuccess && vendor == build::kUsbVendorId &&
+           product == kMixerProductId;
+  }
+};
+
+Identity Identify(port::Device *device) {
+  Identity identity{.result = port::kSuccess};
+  // Read and not used: a device that cannot answer them is passed over too.
+  std::uint8_t unusedClass = 0;
+  identity.result = port::GetDeviceClass(device, &unusedClass);
+  if (identity.result != port::kSuccess) return identity;
+  identity.result = port::GetDeviceSubClass(device, &unusedClass);
+  if (identity.result != port::kSuccess) return identity;
+  identity.result = port::GetDeviceVendor(device, &identity.vendor);
+  if (identity.result != port::kSuccess) return identity;
+  identity.result = port::GetDeviceProduct(device, &identity.product);
+  return identity;
+}
+
+// The device interface of a service, which is released; null when the device
+// has to be passed over. *result takes the result of making the plug-in.
+port::Device *InterfaceOf(port::Service service, Code *result) {
+  port::PlugIn *plugIn = nullptr;
+  *result = port::CreatePlugIn(service, &plugIn);
+  port::ReleaseService(service);
+  if (*result != port::kSuccess || plugIn == nullptr) return nullptr;
+
+  port::Device *device = port::QueryDevice(plugIn);
+  port::ReleasePlugIn(plugIn);
+  return device;
+}
+
+// Walks every device and puts the mixer at position `index` into the slot.
+// Wanted: the walk goes on after it, and the interfaces of the devices after
+// it are neither released nor without effect on the result.
+Code ChooseMixer(port::Iterator iterator, Connection *slot,
+                 std::uint32_t index) {
+  Code result = port::kSuccess;
+  bool chosen = false;
+  while (port::Service service = port::NextService(iterator)) {
+    port::Device *device = InterfaceOf(service, &result);
+    if (device == nullptr) continue;
+
+    const Identity identity = Identify(device);
+    result = identity.result;
+    if (identity.IsMixer()) {
+      if (index == 0) {
+        chosen = true;
+        if (*slot != nullptr) {
+          port::ReleaseDevice(device);
+          return port::kError;
+        }
+        *slot = port::MakeReady(device);
+      }
+      // After the chosen one it wraps and does not reach 0 again.
+      --index;
+    }
+    if (!chosen) result = port::ReleaseDevice(device);
+  }
+  return result;
+}
+
+Code FindEveryDevice(port::Port masterPort, port::Iterator *iterator) {
+  port::Matching *matching = port::CreateMatching(kServiceClass);
+  if (matching == nullptr) return port::kSuccess;
+  return port::FindServices(masterPort, matching, iterator);
+}
+
+Code Read(Connection device, std::uint16_t reg, std::uint8_t *buffer,
+          std::uint16_t length) {
+  // How many bytes came stays here: callers go by what their buffer holds.
+  return DeviceRequest(device, kReadRequestType, kReadRequest, 0, reg, buffer,
+                       &length);
+}
+
+Code Write(Connection device, std::uint16_t reg, std::uint16_t value) {
+  std::uint16_t dataWord = 0;  // never transferred
+  std::uint16_t length = 0;
+  return DeviceRequest(device, kWriteRequestType, kWriteRequest, value, reg,
+                       &dataWord, &length);
+}
+
+}  // namespace
+
+std::int32_t CheckUSBAudio(std::uint32_t /*productId*/) {
+  port::Port masterPort = nullptr;
+  port::GetMasterPort(&masterPort);
+  port::Matching *matching = port::CreateMatching(kServiceClass);
+  if (matching == nullptr) return 0;
+
+  // Wanted: neither the numbers nor the port are given back.
+  port::SetMatchingValue(matching, kVendorKey,
+                         port::MakeNumber(build::kUsbVendorId));
+  port::SetMatchingValue(matching, kProductKey,
+                         port::MakeNumber(kMixerProductId));
+  port::Iterator iterator = nullptr;
+  const Code found = port::FindServices(masterPort, matching, &iterator);
+  if (found != port::kSuccess || iterator == nullptr) return 0;
+
+  std::int32_t count = 0;
+  while (port::Service service = port::NextService(iterator)) {
+    ++count;
+    port::ReleaseService(service);
+  }
+  port::ReleaseIterator(iterator);
+  return count;
+}
+
+Code open_pipes(Connection *slot, std::uint32_t index) {
+  if (slot == nullptr) return port::kError;
+  *slot = nullptr;
+  return openUSB(slot, index);
+}
+
+Code openUSB(Connection *slot, std::uint32_t index) {
+  port::Port masterPort = nullptr;
+  port::Iterator iterator = nullptr;
+  Code result = port::GetMasterPort(&masterPort);
+  if (result == port::kSuccess) result = FindEveryDevice(masterPort, &iterator);
+  if (result == port::kSuccess && iterator != nullptr) {
+    result = ChooseMixer(iterator, slot, index);
+  }
+
+  if (*slot == nullptr) result = port::kError;
+  if (iterator != nullptr) port::ReleaseIterator(iterator);
+  if (masterPort != nullptr) port::ReleaseMasterPort(masterPort);
+  return result;
+}
+
+void closeUSB(Connection *slot) {
+  if (*slot == nullptr) return;
+  port::CloseDevice(*slot);
+  port::ReleaseDevice(*slot);
+  *slot = nullptr;
+}
+
+Code DeviceRequest(Connection device, std::uint8_t requestType,
+                   std::uint8_t request, std::uint16_t value,
+                   std::uint16_t index, void *data, std::uint16_t *length) {
+  port::ControlRequest record{.requestType = requestType,
+                              .request = request,
+                              .value = value,
+                              .index = index,
+                              .length = *length,
+                              .data = data,
+                              .lengthDone = 0};
+  const Code result = port::Request(device, &record);
+  *length = static_cast<std::uint16_t>(record.lengthDone & 0xFFFF);
+  return result;
+}
+
+Code GetFirmwareVersionNumber(Connection device, std::uint8_t *buffer,
+                              std::uint16_t length) {
+  return Read(device, kFirmwareVersionRegister, buffer, length);
+}
+
+Code GetInputSelectorInfo(Connection device, std::uint8_t *buffer,
+                          std::uint16_t length) {
+  return Read(device, kInputSelectorRegister, buffer, length);
+}
+
+Code GetSeratoActiveInfo(Connection device, std::uint8_t *buffer,
+                         std::uint16_t length) {
+  return Read(device, kSeratoActiveRegister, buffer, length);
+}
+
+Code GetPortInfo(Connection device, std::uint8_t *buffer,
+                 std::uint16_t length) {
+  return Read(device, kPortInfoRegister, buffer, length);
+}
+
+Code GetCertifyLevel(Connection device, std::uint8_t *buffer,
+                     std::uint16_t length) {
+  return Read(device, kCertifyLevelRegister, buffer, length);
+}
+
+Code SetMixerOutputSetting(Connection device, std::uint16_t value) {
+  return Write(device, kMixerOutputRegister, value);
+}
+
+Code SetMixerInputSetting(Connection device, std::uint16_t value) {
+  return Write(device, kMixerInputRegister, value);
+}
+
+Code SetUSBOutputLevelSetting(Connection device, std::uint16_t value) {
+  return Write(device, kUsbOutputLevelRegister, value);
+}
+
+Code SetMidiChannelSetting(Connection device, std::uint16_t value) {
+  return Write(device, kMidiChannelRegister, value);
+}
+
+Code SetMidiKeyModeSetting(Connection device, std::uint16_t value) {
+  return Write(device, kMidiKeyModeRegister, value);
+}
