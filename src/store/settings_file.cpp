@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "store/settings_file.h"
+
+#include "platform/paths.h"
+#include "platform/property_list.h"
+#include "platform/text.h"
+
+namespace ztk::store {
+namespace {
+
+namespace plist = platform::property_list;
+using platform::text::Made;
+
+// Fixed: no separator stands between the model and "autosetup".
+const ZTKTextRef kPathFormat =
+    ZTK_TEXT("%@/Preferences/com.tarvix.%@autosetup.plist");
+
+ZTKTextRef MakePath(ZTKTextRef library, ZTKTextRef model) {
+  if (library == nullptr) return nullptr;
+  return platform::text::Format(kPathFormat, library, model);
+}
+
+ZTKTextRef MakeKey(ZTKTextRef keyFormat, std::uint32_t channel) {
+  return platform::text::Format(keyFormat, static_cast<std::int32_t>(channel));
+}
+
+}  // namespace
+
+std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback) {
+  const Made library(platform::paths::UserLibrary());
+  const Made path(MakePath(library.get(), model));
+  if (path.get() == nullptr) return fallback;
+
+  plist::Dictionary *settings = plist::ReadFile(path.get());
+  if (settings == nullptr) return fallback;
+  std::int32_t value = fallback;
+  plist::IntegerValue(settings, key, &value);
+  plist::Release(settings);
+  return value;
+}
+
+std::int32_t ReadChannel(ZTKTextRef model, ZTKTextRef keyFormat,
+                         std::uint32_t channel, std::int32_t fallback) {
+  const Made key(MakeKey(keyFormat, channel));
+  return Read(model, key.get(), fallback);
+}
+
+void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value) {
+  const Made library(platform::paths::UserLibrary());
+  const Made path(MakePath(library.get(), model));
+  if (path.get() == nullptr) return;
+
+  plist::Dictionary *settings = plist::MakeDictionary();
+  plist::AddEntriesOfFile(settings, path.get());
+  plist::SetInteger(settings, key, static_cast<std::int32_t>(value));
+  plist::WriteAtomically(settings, path.get());
+  plist::Release(settings);
+}
+
+void WriteChannel(ZTKTextRef model, ZTKTextRef keyFormat, std::uint32_t channel,
+                  std::uint32_t value) {
+  const Made key(MakeKey(keyFormat, channel));
+  Write(model, key.get(), value);
+}
+
+}  // namespace ztk::store

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+//
+// What the user chose last, one integer a setting, in one property-list file
+// for each model: <Library>/Preferences/com.tarvix.<model>autosetup.plist.
+// There is no cache and no lock: every call reads the file afresh.
+#ifndef ZTK_STORE_SETTINGS_FILE_H_
+#define ZTK_STORE_SETTINGS_FILE_H_
+
+#include <cstdint>
+
+#include "ZTKFunc.h"
+
+namespace ztk::store {
+
+// The integer under a key of the model's file, any value; `fallback` when there
+// is no such file or key. Creates nothing.
+std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback);
+
+// The same for a key made from a format with "%d" and a channel.
+std::int32_t ReadChannel(ZTKTextRef model, ZTKTextRef keyFormat,
+                         std::uint32_t channel, std::int32_t fallback);
+
+// Puts an integer into the model's file and keeps everything else in it. A
+// failure is not reported.
+void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value);
+void WriteChannel(ZTKTextRef model, ZTKTextRef keyFormat, std::uint32_t channel,
+                  std::uint32_t value);
+
+}  // namespace ztk::store
+
+#endif  // ZTK_STORE_SETTINGS_FILE_H_
