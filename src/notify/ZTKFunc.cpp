@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+//
+// The observer where it is a plain object. (On macOS it is a class of the
+// object runtime.)
+#include "notify/ZTKFunc.h"
+
+namespace {
+
+class ZTKFunc {
+ public:
+  using UserInfo = ztk::notify::UserInfo;
+
+  void InputAudioChanged(const UserInfo *userInfo) {
+    ztk::notify::InputAudioChanged(userInfo);
+  }
+  void OutputAudioChanged(const UserInfo *userInfo) {
+    ztk::notify::OutputAudioChanged(userInfo);
+  }
+  void BoostLevelChanged(const UserInfo *userInfo) {
+    ztk::notify::BoostLevelChanged(userInfo);
+  }
+  void MidiChannelChanged(const UserInfo *userInfo) {
+    ztk::notify::MidiChannelChanged(userInfo);
+  }
+  void MidiKeyModeChanged(const UserInfo *userInfo) {
+    ztk::notify::MidiKeyModeChanged(userInfo);
+  }
+};
+
+template <void (ZTKFunc::*method)(const ztk::notify::UserInfo *)>
+void Call(void *observer, const ztk::notify::UserInfo *userInfo) {
+  (static_cast<ZTKFunc *>(observer)->*method)(userInfo);
+}
+
+}  // namespace
+
+namespace ztk::notify {
+
+void *AllocateObserver() { return new ZTKFunc; }
+
+const Method kInputAudioChanged{.selector = "inputAudioChanged:",
+                                .code = Call<&ZTKFunc::InputAudioChanged>};
+const Method kOutputAudioChanged{.selector = "outputAudioChanged:",
+                                 .code = Call<&ZTKFunc::OutputAudioChanged>};
+const Method kBoostLevelChanged{.selector = "boostLevelChanged:",
+                                .code = Call<&ZTKFunc::BoostLevelChanged>};
+const Method kMidiChannelChanged{.selector = "midiChannelChanged:",
+                                 .code = Call<&ZTKFunc::MidiChannelChanged>};
+const Method kMidiKeyModeChanged{.selector = "midiKeyModeChanged:",
+                                 .code = Call<&ZTKFunc::MidiKeyModeChanged>};
+
+}  // namespace ztk::notify

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// The observer that receives the notifications of every process and calls the
+// registered callback. It has no state of its own.
+#ifndef ZTK_NOTIFY_ZTKFUNC_H_
+#define ZTK_NOTIFY_ZTKFUNC_H_
+
+#include "platform/notification_center.h"
+
+namespace ztk::notify {
+
+using UserInfo = platform::notification_center::UserInfo;
+using Method = platform::notification_center::Method;
+
+// Makes the observer; it lives until the process ends.
+void *AllocateObserver();
+
+// What the observer's five methods do with a record.
+void InputAudioChanged(const UserInfo *userInfo);
+void OutputAudioChanged(const UserInfo *userInfo);
+void BoostLevelChanged(const UserInfo *userInfo);
+void MidiChannelChanged(const UserInfo *userInfo);
+void MidiKeyModeChanged(const UserInfo *userInfo);
+
+// The methods by name and by code, in the observer's order.
+extern const Method kInputAudioChanged;
+extern const Method kOutputAudioChanged;
+extern const Method kBoostLevelChanged;
+extern const Method kMidiChannelChanged;
+extern const Method kMidiKeyModeChanged;
+
+}  // namespace ztk::notify
+
+#endif  // ZTK_NOTIFY_ZTKFUNC_H_

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+//
+// The settings whose changes are announced, and everything in which their
+// announcements differ.
+#ifndef ZTK_NOTIFY_FAMILIES_H_
+#define ZTK_NOTIFY_FAMILIES_H_
+
+#include "ZTKFunc.h"
+#include "platform/notification_center.h"
+
+namespace ztk::notify {
+
+using platform::notification_center::Delivery;
+
+inline const ZTKTextRef kProductKey = ZTK_TEXT("ProductID");
+inline const ZTKTextRef kChannelKey = ZTK_TEXT("Channel");
+inline const ZTKTextRef kIndexKey = ZTK_TEXT("Index");
+
+struct Family {
+  ZTKTextRef nameFormat;
+  ZTKTextRef postedModel;
+  ZTKTextRef observedModel;
+  Delivery delivery;
+};
+
+// clang-format off
+inline const Family kInputAudio{
+    .nameFormat = ZTK_TEXT("%@ InputAudio Change"),
+    .postedModel = ZTK_TEXT("VRM-D6"),
+    .observedModel = ZTK_TEXT("VRM-D6"),
+    .delivery = Delivery::Immediately};
+
+// Wanted: posted under one model and observed under another, so that the
+// library's own changes never reach a callback of this family.
+inline const Family kOutputAudio{
+    .nameFormat = ZTK_TEXT("%@ OutputAudio Change"),
+    .postedModel = ZTK_TEXT("VRM-B5"),
+    .observedModel = ZTK_TEXT("VRM-D6"),
+    .delivery = Delivery::Immediately};
+
+// Wanted: these two leave the moment of delivery to the center.
+inline const Family kBoostLevel{
+    .nameFormat = ZTK_TEXT("%@ BoostLevel Change"),
+    .postedModel = ZTK_TEXT("VRM-D6"),
+    .observedModel = ZTK_TEXT("VRM-D6"),
+    .delivery = Delivery::Default};
+
+inline const Family kMidiChannel{
+    .nameFormat = ZTK_TEXT("%@ MidiChannel Change"),
+    .postedModel = ZTK_TEXT("VRM-K2"),
+    .observedModel = ZTK_TEXT("VRM-K2"),
+    .delivery = Delivery::Default};
+// clang-format on
+
+}  // namespace ztk::notify
+
+#endif  // ZTK_NOTIFY_FAMILIES_H_

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+//
+// The announcement of a change, the last step of every setter that makes one.
+#ifndef ZTK_NOTIFY_POSTING_H_
+#define ZTK_NOTIFY_POSTING_H_
+
+#include <cstdint>
+
+#include "notify/callback_registry.h"
+#include "notify/families.h"
+
+namespace ztk::notify {
+
+// Replaces the family's last record by a new one (the old one is given back
+// first) and sends it to every process. `lastInfo` is the family's global.
+void PostIndex(const Family &family, UserInfo **lastInfo,
+               std::uint32_t productId, std::uint32_t index);
+void PostChannelIndex(const Family &family, UserInfo **lastInfo,
+                      std::uint32_t productId, std::uint32_t channel,
+                      std::uint32_t index);
+
+}  // namespace ztk::notify
+
+#endif  // ZTK_NOTIFY_POSTING_H_
