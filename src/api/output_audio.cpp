@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include <cstdint>
+#include <iterator>
+
+#include "ZTKFunc.h"
+#include "api/gate.h"
+#include "api/tables.h"
+#include "notify/posting.h"
+#include "store/settings_file.h"
+#include "usb/mixers.h"
+
+using namespace ztk;
+
+const ZTKTextRef OutputAudioText[3] = {ZTK_TEXT("CH1"), ZTK_TEXT("CH2"),
+                                       ZTK_TEXT("AUX")};
+
+// Three choices a channel, addressed as one flat array at channel * 3 + index,
+// across the rows: index 3 of a channel is the first entry of the next row.
+// clang-format off
+const std::int32_t VRMB5_OUT_TEXT[12] = {
+//  CH1  CH2  AUX
+    0,   1,   2,    // channel 0
+    0,   1,   2,    // channel 1
+    0,   1,   2,    // channel 2
+    0,   0,   0};   // behind it
+
+// High byte: channel + 1. Low byte: code of the choice.
+const std::uint16_t _convTableOut_B5[9] = {
+//  CH1     CH2     AUX
+    0x0100, 0x0101, 0x0104,   // channel 0
+    0x0200, 0x0201, 0x0204,   // channel 1
+    0x0300, 0x0301, 0x0304};  // channel 2
+// clang-format on
+
+namespace {
+
+constexpr ProductSet kServed{8};
+const ZTKTextRef kModel = ZTK_TEXT("VRM-B5");
+// Wanted: the key says Input although it keeps what the computer plays.
+const ZTKTextRef kKeyFormat = ZTK_TEXT("Input%d");
+
+constexpr std::int32_t kChannels = 3;
+// Wanted: the setters take two channels that have no device value.
+constexpr std::int32_t kSettableChannels = 5;
+
+constexpr std::uint32_t kChoices = 3;
+// Wanted: one more text than there are choices.
+constexpr std::uint32_t kTextBelow = 4;
+
+constexpr std::uint64_t kTableLength = 9;
+static_assert(std::size(_convTableOut_B5) == kTableLength);
+
+constexpr std::uint16_t kSelectorInfoLength = 4;  // bytes
+
+// A channel's default choice has its own number.
+std::uint32_t DefaultIndex(std::uint32_t channel) { return channel; }
+
+// Sends the device value of a choice to every mixer, or nothing where there is
+// none. Answers the count of mixers, which is taken in either case.
+std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
+                        std::uint32_t index) {
+  // The index may be any remembered number; 64 bits hold every position.
+  const std::uint64_t position = std::uint64_t{channel} * kChoices + index;
+  if (position >= kTableLength) return CheckUSBAudio(productId);
+  return usb::SendToEveryMixer(productId, SetMixerInputSetting,
+                               _convTableOut_B5[position]);
+}
+
+// Wanted: what the mixers answer is not looked at; this family never warns.
+void ReadSelectors(std::int32_t mixers) {
+  for (std::int32_t i = 0; i < mixers; ++i) {
+    usb::Reply unused;
+    if (const usb::OpenMixer mixer(i); mixer) {
+      GetInputSelectorInfo(mixer.connection(), unused.bytes,
+                           kSelectorInfoLength);
+    }
+  }
+}
+
+}  // namespace
+
+ZTKResult ZTK_GetNumOfOutputAudioIndex(uint32_t productId, uint32_t channel,
+                                       uint32_t *outCount) {
+  if (outCount == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+  if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
+
+  *outCount = kChoices;
+  return ZTK_SUCCESS;
+}
+
+ZTKResult ZTK_GetUSBOutputAudioText(uint32_t productId, uint32_t channel,
+                                    uint32_t index, uint32_t /*ignored*/,
+                                    ZTKTextRef *outText) {
+  if (outText == nullptr) return ZTK_REJECTED;
+  if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
+  if (!kServed.Has(productId) || index >= kTextBelow) return ZTK_REJECTED;
+
+  *outText = OutputAudioText[VRMB5_OUT_TEXT[channel * kChoices + index]];
+  return ZTK_SUCCESS;
+}
+
+ZTKResult ZTK_SetUSBOutputAudio(uint32_t productId, uint32_t channel,
+                                uint32_t index) {
+  if (!IsChannel(channel, kSettableChannels)) return ZTK_REJECTED;
+  if (!kServed.Has(productId) || index >= kChoices) return ZTK_REJECTED;
+
+  const std::int32_t mixers = SendChoice(productId, channel, index);
+  store::WriteChannel(kModel, kKeyFormat, channel, index);
+  notify::PostChannelIndex(notify::kOutputAudio, &outputAudioInfo, productId,
+                           channel, index);
+  ReadSelectors(mixers);
+  return ZTK_SUCCESS;
+}
+
+ZTKResult ZTK_SetUSBOutputAudioDefault(uint32_t productId, uint32_t channel) {
+  if (!IsChannel(channel, kSettableChannels)) return ZTK_REJECTED;
+  if (!kServed.Has(productId)) return ZTK_REJECTED;
+
+  const std::uint32_t index = DefaultIndex(channel);
+  const std::int32_t mixers = SendChoice(productId, channel, index);
+  // Wanted: a default is not remembered.
+  notify::PostChannelIndex(notify::kOutputAudio, &outputAudioInfo, productId,
+                           channel, index);
+  ReadSelectors(mixers);
+  return ZTK_SUCCESS;
+}
+
+ZTKResult ZTK_GetCurrentUSBOutputAudioIndex(uint32_t productId,
+                                            uint32_t channel,
+                                            uint32_t *outIndex) {
+  if (outIndex == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+  if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
+
+  const auto fallback = static_cast<std::int32_t>(DefaultIndex(channel));
+  *outIndex = static_cast<std::uint32_t>(
+      store::ReadChannel(kModel, kKeyFormat, channel, fallback));
+  return ZTK_SUCCESS;
+}
+
+ZTKResult ZTK_SetCurrentUSBOutputAudio(uint32_t productId, uint32_t channel) {
+  std::uint32_t index = 0;
+  const ZTKResult remembered =
+      ZTK_GetCurrentUSBOutputAudioIndex(productId, channel, &index);
+  if (remembered != ZTK_SUCCESS) return ZTK_REJECTED;
+
+  // Wanted: the remembered index is not tested against the choices.
+  SendChoice(productId, channel, index);
+  return ZTK_SUCCESS;
+}

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include <cstdint>
+
+#include "ZTKFunc.h"
+#include "api/gate.h"
+#include "usb/mixers.h"
+
+using namespace ztk;
+
+namespace {
+
+constexpr ProductSet kServed{10};
+
+// Lengths of the replies, in bytes.
+constexpr std::uint16_t kCertifyLevelLength = 4;
+constexpr std::uint16_t kFirmwareVersionLength = 2;
+constexpr std::uint16_t kSelectorInfoLength = 5;
+constexpr std::uint16_t kSeratoActiveLength = 2;
+
+constexpr std::int32_t kChannels = 5;
+constexpr std::uint8_t kSelectorPositions = 17;
+constexpr std::uint8_t kSeratoStates = 2;
+
+// A read that delivers nothing must not look like a state.
+constexpr std::uint8_t kNoSeratoAnswer = 0xFF;
+
+std::uint32_t BigEndian32(const std::uint8_t *bytes) {
+  return std::uint32_t{bytes[0]} << 24 | std::uint32_t{bytes[1]} << 16 |
+         std::uint32_t{bytes[2]} << 8 | std::uint32_t{bytes[3]};
+}
+
+std::uint32_t LittleEndian16(const std::uint8_t *bytes) {
+  return std::uint32_t{bytes[0]} | std::uint32_t{bytes[1]} << 8;
+}
+
+using ReadRequest = usb::Code (*)(usb::Connection device, std::uint8_t *buffer,
+                                  std::uint16_t length);
+
+// Reads from one mixer into the preset reply; false when it does not open.
+bool Ask(std::int32_t position, ReadRequest request, usb::Reply *reply,
+         std::uint16_t length) {
+  const usb::OpenMixer mixer(position);
+  if (!mixer) return false;
+  request(mixer.connection(), reply->bytes, length);
+  return true;
+}
+
+}  // namespace
+
+ZTKResult ZTK_GetMixerCertifyLevel(uint32_t productId, uint32_t *outLevel) {
+  if (outLevel == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+
+  *outLevel = 0;
+  const std::int32_t mixers = CheckUSBAudio(productId);
+  for (std::int32_t i = 0; i < mixers; ++i) {
+    usb::Reply reply;
+    if (!Ask(i, GetCertifyLevel, &reply, kCertifyLevelLength)) continue;
+    *outLevel = BigEndian32(reply.bytes);
+  }
+  return ZTK_SUCCESS;
+}
+
+ZTKResult ZTK_GetFirmwareVersionIndex(uint32_t productId,
+                                      uint32_t *outVersion) {
+  if (outVersion == nullptr) return ZTK_REJECTED;
+  // Wanted: written before the product is looked at.
+  *outVersion = 0;
+  if (!kServed.Has(productId)) return ZTK_REJECTED;
+
+  if (CheckUSBAudio(productId) == 0) return ZTK_SUCCESS;
+  // Wanted: only the first mixer is asked.
+  usb::Reply reply;
+  if (Ask(0, GetFirmwareVersionNumber, &reply, kFirmwareVersionLength)) {
+    *outVersion = LittleEndian16(reply.bytes);
+  }
+  return ZTK_SUCCESS;
+}
+
+ZTKResult ZTK_GetMixerInputSelectorStatus(uint32_t productId, uint32_t channel,
+                                          uint32_t *outPosition) {
+  if (outPosition == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+  if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
+
+  const std::int32_t mixers = CheckUSBAudio(productId);
+  for (std::int32_t i = 0; i < mixers; ++i) {
+    usb::Reply reply;
+    if (!Ask(i, GetInputSelectorInfo, &reply, kSelectorInfoLength)) continue;
+    *outPosition = reply.bytes[channel + 1];
+    if (*outPosition >= kSelectorPositions) return ZTK_REJECTED;
+  }
+  return ZTK_SUCCESS;
+}
+
+ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
+                                         uint32_t *outActive) {
+  if (outActive == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+
+  const std::int32_t mixers = CheckUSBAudio(productId);
+  for (std::int32_t i = 0; i < mixers; ++i) {
+    usb::Reply reply{.bytes = {kNoSeratoAnswer, kNoSeratoAnswer}};
+    if (!Ask(i, GetSeratoActiveInfo, &reply, kSeratoActiveLength)) continue;
+    if (reply.bytes[0] >= kSeratoStates) return ZTK_REJECTED;
+    *outActive = reply.bytes[0];
+  }
+  return ZTK_SUCCESS;
+}

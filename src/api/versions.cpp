@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include <cstdint>
+
+#include "ZTKFunc.h"
+#include "api/gate.h"
+#include "api/install_location.h"
+#include "platform/property_list.h"
+
+using namespace ztk;
+
+namespace {
+
+namespace plist = platform::property_list;
+
+constexpr ProductSet kServed{10};
+
+const ZTKTextRef kPkgFile =
+    ZTK_TEXT("/private/var/db/receipts/com.tarvix.VRM-D6.pkg.plist");
+const ZTKTextRef kUtilityFile = ZTK_TEXT(
+    "/Applications/Tarvix/VRM-D6/VRM-D6 Setup.app/Contents/Info.plist");
+const ZTKTextRef kNewDriverFile =
+    ZTK_TEXT("/Library/Extensions/VRM-D6 USBAudio.kext/Contents/Info.plist");
+const ZTKTextRef kOldDriverFile = ZTK_TEXT(
+    "/System/Library/Extensions/VRM-D6 USBAudio.kext/Contents/Info.plist");
+const ZTKTextRef kNewLibraryFile = ZTK_TEXT(
+    "/Library/Frameworks/VRM-D6Setup.framework/Versions/A/Resources/"
+    "Info.plist");
+const ZTKTextRef kOldLibraryFile = ZTK_TEXT(
+    "/System/Library/Frameworks/VRM-D6Setup.framework/Versions/A/Resources/"
+    "Info.plist");
+
+const ZTKTextRef kPkgKey = ZTK_TEXT("PackageVersion");
+// Wanted: the driver tells its short version, the other two their build.
+const ZTKTextRef kDriverKey = ZTK_TEXT("CFBundleShortVersionString");
+const ZTKTextRef kBundleKey = ZTK_TEXT("CFBundleVersion");
+
+ZTKResult ReadVersion(ZTKTextRef file, ZTKTextRef key, ZTKTextRef *outText) {
+  plist::Dictionary *info = plist::ReadFile(file);
+  if (info == nullptr) return ZTK_REJECTED;
+  const ZTKTextRef version = plist::TextValue(info, key);
+  plist::Release(info);
+  if (version == nullptr) return ZTK_REJECTED;
+
+  *outText = version;
+  return ZTK_SUCCESS;
+}
+
+}  // namespace
+
+ZTKResult ZTK_GetPkgVersionText(uint32_t productId, ZTKTextRef *outText) {
+  if (outText == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+  return ReadVersion(kPkgFile, kPkgKey, outText);
+}
+
+ZTKResult ZTK_GetDriverVersionText(uint32_t productId, ZTKTextRef *outText) {
+  if (outText == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+  return ReadVersion(IsInstalledInLibrary() ? kNewDriverFile : kOldDriverFile,
+                     kDriverKey, outText);
+}
+
+ZTKResult ZTK_GetUtilityVersionText(uint32_t productId, ZTKTextRef *outText) {
+  if (outText == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+  return ReadVersion(kUtilityFile, kBundleKey, outText);
+}
+
+ZTKResult ZTK_GetLibraryVersionText(uint32_t productId, ZTKTextRef *outText) {
+  if (outText == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
+  return ReadVersion(IsInstalledInLibrary() ? kNewLibraryFile : kOldLibraryFile,
+                     kBundleKey, outText);
+}

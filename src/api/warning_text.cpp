@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <iterator>
+
+#include "ZTKFunc.h"
+#include "api/gate.h"
+#include "api/install_location.h"
+#include "platform/bundle.h"
+#include "platform/property_list.h"
+#include "platform/text.h"
+#include "usb/mixers.h"
+
+using namespace ztk;
+
+namespace {
+
+namespace plist = platform::property_list;
+namespace bundle = platform::bundle;
+using platform::text::Made;
+
+constexpr ProductSet kServed{10};
+// Wanted: the fifth channel has no input selector, so there is no sentence
+// for it although it can be set.
+constexpr std::int32_t kChannels = 4;
+
+const ZTKTextRef kNewBundle =
+    ZTK_TEXT("/Library/Frameworks/VRM-D6Setup.framework");
+const ZTKTextRef kOldBundle =
+    ZTK_TEXT("/System/Library/Frameworks/VRM-D6Setup.framework");
+const ZTKTextRef kTable = ZTK_TEXT("Localizable");
+const ZTKTextRef kTablePath = ZTK_TEXT("%@/%@.lproj/Localizable.strings");
+
+// Keys of the sentences.
+const ZTKTextRef kNoMixer = ZTK_TEXT("WARNING1");
+const ZTKTextRef kSelector = ZTK_TEXT("WARNING2");
+const ZTKTextRef kSelectorOtherPort = ZTK_TEXT("WARNING3");
+
+// Folders of the languages, in the order of their codes.
+const ZTKTextRef kLanguages[] = {
+    ZTK_TEXT("English"), ZTK_TEXT("Japanese"), ZTK_TEXT("French"),
+    ZTK_TEXT("German"),  ZTK_TEXT("Italian"),  ZTK_TEXT("Dutch"),
+    ZTK_TEXT("Spanish"), ZTK_TEXT("ru"),       ZTK_TEXT("pt"),
+    ZTK_TEXT("zh_CN"),   ZTK_TEXT("zh_TW"),    ZTK_TEXT("ko")};
+constexpr std::uint32_t kUsersLanguage = 99;
+
+constexpr std::uint16_t kPortInfoLength = 2;  // bytes
+constexpr std::uint32_t kOtherPort = 1;
+
+// The port state of the first mixer, as the 32-bit number that starts with the
+// two reply bytes in memory; 0 when it does not answer.
+std::uint32_t PortState() {
+  usb::Reply reply;
+  if (const usb::OpenMixer mixer(0); mixer) {
+    GetPortInfo(mixer.connection(), reply.bytes, kPortInfoLength);
+  }
+  std::uint32_t state = 0;
+  static_assert(std::endian::native == std::endian::little);
+  std::memcpy(&state, reply.bytes, kPortInfoLength);
+  return state;
+}
+
+ZTKTextRef TextOfLanguage(const bundle::Bundle *library, std::uint32_t language,
+                          ZTKTextRef key) {
+  const Made resources(bundle::ResourcePath(library));
+  if (resources.get() == nullptr) return nullptr;
+  const Made path(platform::text::Format(kTablePath, resources.get(),
+                                         kLanguages[language]));
+  plist::Dictionary *table = plist::ReadFile(path.get());
+  if (table == nullptr) return nullptr;
+  const ZTKTextRef text = plist::TextValue(table, key);
+  plist::Release(table);
+  return text;
+}
+
+}  // namespace
+
+ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
+                                                uint32_t channel,
+                                                uint32_t resultCode,
+                                                uint32_t language,
+                                                ZTKTextRef *outText) {
+  if (!kServed.Has(productId)) return ZTK_REJECTED;
+  if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
+  if (resultCode != ZTK_WARNING) return ZTK_REJECTED;
+
+  // Wanted: a mixer that is counted and does not open is still there.
+  ZTKTextRef key = kNoMixer;
+  if (CheckUSBAudio(productId) != 0) {
+    key = PortState() == kOtherPort ? kSelectorOtherPort : kSelector;
+  }
+  // Wanted: known to be none only now.
+  const bool byPreference = language == kUsersLanguage;
+  if (!byPreference && language >= std::size(kLanguages)) return ZTK_REJECTED;
+
+  bundle::Bundle *library =
+      bundle::AtPath(IsInstalledInLibrary() ? kNewBundle : kOldBundle);
+  // Wanted: without a mixer the language asked for does not matter.
+  *outText = byPreference || key == kNoMixer
+                 ? bundle::LocalizedText(library, key, kTable)
+                 : TextOfLanguage(library, language, key);
+  bundle::Release(library);
+  return ZTK_SUCCESS;
+}
