@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+//
+// USB on the kernel's own interfaces: devices are listed from sysfs, requests
+// go through the device's usbfs node. A vendor request to the device itself
+// needs no claimed interface, so nothing is taken away from other programs.
+//
+// No node but the chosen mixer's is ever opened: opening wakes a sleeping
+// device, reading sysfs does not.
+#include "platform/usb.h"
+
+#include <errno.h>
+#include <fcntl.h>
+#include <linux/usbdevice_fs.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+#include "platform/linux/usb_snapshot.h"
+
+namespace ztk::platform::usb {
+
+// What a matching asks for; 0 asks for nothing, as no device has the number.
+struct Matching {
+  std::uint16_t vendor = 0;
+  std::uint16_t product = 0;
+};
+
+struct PortObject {};
+
+// A device as found, part of the snapshot and gone with it; or a connection,
+// which is freed on its own.
+struct Device {
+  DeviceFacts facts;
+  bool isConnection = false;
+  int node = -1;  // descriptor, of a connection that is open
+};
+
+// Services, plug-ins and devices are the same entry of the snapshot, seen
+// through three kinds of handle: nothing has to be made for any of them.
+struct IteratorObject {
+  std::vector<Device> devices;
+  std::size_t next = 0;
+};
+
+namespace {
+
+// A hung mixer must not hang its caller for ever.
+constexpr unsigned kTimeoutMs = 5000;
+
+PortObject theBus;
+
+Device *DeviceOf(Service service) {
+  return reinterpret_cast<Device *>(service);
+}
+Device *DeviceOf(PlugIn *plugIn) { return reinterpret_cast<Device *>(plugIn); }
+
+Code CodeOfErrno(int error) {
+  switch (error) {
+    case EPIPE:
+      return kPipeStalled;
+    case ENODEV:
+    case ESHUTDOWN:
+      return kNoDevice;
+    case EACCES:
+    case EPERM:
+      return kNotPermitted;
+    case ETIMEDOUT:
+      return kTimeout;
+    case EBUSY:
+      return kBusy;
+    default:
+      return kError;
+  }
+}
+
+// Opens the node and makes sure that the same device is still behind it: its
+// number may have been given to another one since the snapshot.
+int OpenNode(const DeviceFacts &facts) {
+  const int number = ReadDeviceNumber(facts);
+  if (number <= 0) return -1;
+  char path[40];
+  std::snprintf(path, sizeof path, "/dev/bus/usb/%03d/%03d", facts.bus, number);
+  const int node = open(path, O_RDWR | O_CLOEXEC);
+  if (node < 0) return -1;
+
+  std::uint8_t bytes[kDeviceDescriptorLength];
+  DeviceIdentity identity;
+  if (read(node, bytes, sizeof bytes) == static_cast<ssize_t>(sizeof bytes) &&
+      ParseDeviceDescriptor(bytes, &identity) && identity == facts.identity) {
+    return node;
+  }
+  close(node);
+  return -1;
+}
+
+}  // namespace
+
+Code GetMasterPort(Port *port) {
+  *port = &theBus;
+  return kSuccess;
+}
+
+void ReleaseMasterPort(Port /*port*/) {}
+
+Matching *CreateMatching(const char * /*className*/) { return new Matching; }
+
+// The core leaves its numbers behind, so they must cost nothing here: the
+// number travels in the pointer itself.
+Number *MakeNumber(std::int32_t value) {
+  return reinterpret_cast<Number *>(static_cast<std::intptr_t>(value));
+}
+
+void SetMatchingValue(Matching *matching, const char *key, Number *number) {
+  const auto value =
+      static_cast<std::uint16_t>(reinterpret_cast<std::intptr_t>(number));
+  if (std::strcmp(key, "idVendor") == 0) matching->vendor = value;
+  if (std::strcmp(key, "idProduct") == 0) matching->product = value;
+}
+
+Code FindServices(Port /*port*/, Matching *matching, Iterator *iterator) {
+  const Matching wanted = *matching;
+  delete matching;
+  *iterator = nullptr;
+
+  std::vector<DeviceFacts> found;
+  if (!ReadBus(&found)) return kSuccess;
+  auto *snapshot = new IteratorObject;
+  snapshot->devices.reserve(found.size());
+  for (const DeviceFacts &facts : found) {
+    const DeviceIdentity &identity = facts.identity;
+    if (wanted.vendor != 0 && identity.vendor != wanted.vendor) continue;
+    if (wanted.product != 0 && identity.product != wanted.product) continue;
+    snapshot->devices.push_back({.facts = facts});
+  }
+  *iterator = snapshot;
+  return kSuccess;
+}
+
+Service NextService(Iterator iterator) {
+  if (iterator->next >= iterator->devices.size()) return nullptr;
+  return reinterpret_cast<Service>(&iterator->devices[iterator->next++]);
+}
+
+void ReleaseService(Service /*service*/) {}
+
+void ReleaseIterator(Iterator iterator) { delete iterator; }
+
+Code CreatePlugIn(Service service, PlugIn **plugIn) {
+  *plugIn = reinterpret_cast<PlugIn *>(DeviceOf(service));
+  return kSuccess;
+}
+
+Device *QueryDevice(PlugIn *plugIn) { return DeviceOf(plugIn); }
+
+void ReleasePlugIn(PlugIn * /*plugIn*/) {}
+
+Code GetDeviceClass(Device *device, std::uint8_t *deviceClass) {
+  *deviceClass = device->facts.identity.deviceClass;
+  return kSuccess;
+}
+
+Code GetDeviceSubClass(Device *device, std::uint8_t *deviceSubClass) {
+  *deviceSubClass = device->facts.identity.deviceSubClass;
+  return kSuccess;
+}
+
+Code GetDeviceVendor(Device *device, std::uint16_t *vendor) {
+  *vendor = device->facts.identity.vendor;
+  return kSuccess;
+}
+
+Code GetDeviceProduct(Device *device, std::uint16_t *product) {
+  *product = device->facts.identity.product;
+  return kSuccess;
+}
+
+// The interface in the snapshot goes with its iterator; what outlives it is a
+// connection of its own.
+Device *MakeReady(Device *device) {
+  const int node = OpenNode(device->facts);
+  if (node < 0) return nullptr;
+  return new Device{.facts = device->facts, .isConnection = true, .node = node};
+}
+
+Code Request(Device *device, ControlRequest *request) {
+  request->lengthDone = 0;
+  // memset() for the padding: the kernel is given no byte that is not ours.
+  usbdevfs_ctrltransfer transfer;
+  std::memset(&transfer, 0, sizeof transfer);
+  transfer.bRequestType = request->requestType;
+  transfer.bRequest = request->request;
+  transfer.wValue = request->value;
+  transfer.wIndex = request->index;
+  transfer.wLength = request->length;
+  transfer.timeout = kTimeoutMs;
+  transfer.data = request->data;
+
+  const int done = ioctl(device->node, USBDEVFS_CONTROL, &transfer);
+  if (done < 0) return CodeOfErrno(errno);
+  request->lengthDone = static_cast<std::uint32_t>(done);
+  return kSuccess;
+}
+
+Code CloseDevice(Device *device) {
+  if (device->node >= 0) close(device->node);
+  device->node = -1;
+  return kSuccess;
+}
+
+// An interface of the snapshot is freed with its iterator; a connection, which
+// was closed before, here.
+std::uint32_t ReleaseDevice(Device *device) {
+  if (device->isConnection) delete device;
+  return 0;
+}
+
+}  // namespace ztk::platform::usb

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+//
+// The devices on the bus at one moment, read from sysfs.
+#ifndef ZTK_PLATFORM_LINUX_USB_SNAPSHOT_H_
+#define ZTK_PLATFORM_LINUX_USB_SNAPSHOT_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace ztk::platform::usb {
+
+// The device descriptor, which `descriptors` and the node both start with.
+inline constexpr std::size_t kDeviceDescriptorLength = 18;
+
+struct DeviceIdentity {
+  std::uint8_t deviceClass = 0;
+  std::uint8_t deviceSubClass = 0;
+  std::uint16_t vendor = 0;
+  std::uint16_t product = 0;
+
+  bool operator==(const DeviceIdentity &) const = default;
+};
+
+// Entry names are "usb2" for the root hub of bus 2, and "2-1.4" for the device
+// behind port 4 of the hub at port 1. The kernel limits them to 6 hubs.
+inline constexpr std::size_t kLongestEntry = 31;
+
+struct DeviceFacts {
+  char entry[kLongestEntry + 1] = {};
+  int bus = 0;
+  DeviceIdentity identity;
+};
+
+// False when these bytes are not a device descriptor.
+bool ParseDeviceDescriptor(const std::uint8_t *bytes, DeviceIdentity *identity);
+
+// Lists the devices by bus, and on a bus by the ports that lead to them: an
+// order that stays when a mixer is plugged out and in again, which device
+// numbers do not. A device that goes away while being read is left out. False
+// when there is no USB.
+bool ReadBus(std::vector<DeviceFacts> *devices);
+
+// The number of the device's node on its bus; 0 when it is gone.
+int ReadDeviceNumber(const DeviceFacts &facts);
+
+}  // namespace ztk::platform::usb
+
+#endif  // ZTK_PLATFORM_LINUX_USB_SNAPSHOT_H_
