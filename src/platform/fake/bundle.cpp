@@ -38,10 +38,10 @@ ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
   if (texts != tables.end()) {
     const auto text = texts->second.find(key);
     if (text != texts->second.end()) {
-      return common::InternText(text->second.c_str());
+      return common::Intern(text->second);
     }
   }
-  return common::InternText(key);
+  return common::Intern(key);
 }
 
 void Release(Bundle *bundle) {

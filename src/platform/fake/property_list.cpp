@@ -68,7 +68,7 @@ bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
     return true;
   }
   if (const auto *text = std::get_if<std::string>(&entry->second)) {
-    *value = common::IntegerOfText(text->c_str());
+    *value = common::IntegerFromText(*text);
     return true;
   }
   return false;
@@ -78,7 +78,7 @@ ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key) {
   const auto entry = dictionary->entries.find(key);
   if (entry == dictionary->entries.end()) return nullptr;
   const auto *text = std::get_if<std::string>(&entry->second);
-  return text == nullptr ? nullptr : common::InternText(text->c_str());
+  return text == nullptr ? nullptr : common::Intern(*text);
 }
 
 bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path) {

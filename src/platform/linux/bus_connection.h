@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+//
+// Private connections to the session bus, and waiting on them for a limited
+// time. sd-bus by itself would wait 90 s for a bus that accepts a connection
+// and then says nothing.
+#ifndef ZTK_PLATFORM_LINUX_BUS_CONNECTION_H_
+#define ZTK_PLATFORM_LINUX_BUS_CONNECTION_H_
+
+#include <cstdint>
+#include <memory>
+
+#include "platform/linux/sd_bus_header.h"
+
+namespace ztk::platform::notification_center {
+
+struct BusCloser {
+  void operator()(sd_bus *bus) const {
+    sd_bus_close(bus);
+    sd_bus_unref(bus);
+  }
+};
+using OwnedBus = std::unique_ptr<sd_bus, BusCloser>;
+
+// How long a caller is kept by a bus that does not answer, in microseconds.
+inline constexpr std::uint64_t kPatience = 1'000'000;
+
+// The end of a caller's patience that starts now, on the monotonic clock.
+std::uint64_t PatienceEnds();
+
+// Connects to the session bus and waits until messages can be sent. Null when
+// there is no bus (at once), or when the deadline passes.
+OwnedBus ConnectToSessionBus(std::uint64_t deadline);
+
+// Sends the message. Returns when all of it has left this process, the
+// connection breaks, or the deadline passes.
+void SendAndDrain(sd_bus *bus, sd_bus_message *message, std::uint64_t deadline);
+
+}  // namespace ztk::platform::notification_center
+
+#endif  // ZTK_PLATFORM_LINUX_BUS_CONNECTION_H_

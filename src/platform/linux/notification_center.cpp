@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+//
+// Notifications are signals on the session bus. GLib's own D-Bus support would
+// start threads inside a library that promises none; sd-bus does not.
+#include "platform/notification_center.h"
+
+#include <glib.h>
+
+#include <memory>
+#include <utility>
+
+#include "platform/linux/bus_connection.h"
+#include "platform/linux/bus_message.h"
+#include "platform/linux/bus_source.h"
+
+namespace ztk::platform::notification_center {
+
+namespace {
+
+// A registration on its way to the thread that owns the context.
+struct Request {
+  GMainContext *context;
+  std::unique_ptr<Registration> registration;
+};
+
+gboolean RunRequest(gpointer data) {
+  auto *request = static_cast<Request *>(data);
+  Register(request->context, std::move(request->registration));
+  return G_SOURCE_REMOVE;
+}
+
+void DeleteRequest(gpointer data) { delete static_cast<Request *>(data); }
+
+}  // namespace
+
+UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
+  auto userInfo = std::make_unique<UserInfo>();
+  userInfo->numbers.reserve(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    userInfo->numbers.push_back(
+        {.key = entries[i].key, .value = entries[i].value});
+  }
+  return userInfo.release();
+}
+
+void Release(UserInfo *userInfo) {
+  if (userInfo != nullptr && --userInfo->holds == 0) delete userInfo;
+}
+
+std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
+  if (userInfo == nullptr) return 0;
+  for (const UserInfo::Number &number : userInfo->numbers) {
+    if (number.key == key) return number.value;
+  }
+  return 0;
+}
+
+// The record is written into the message during the call, so the caller's hold
+// is enough.
+void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
+  const std::uint64_t deadline = PatienceEnds();
+  // A connection of its own works after fork() and in any thread, and does not
+  // take messages from the observers'.
+  const OwnedBus bus = ConnectToSessionBus(deadline);
+  if (bus == nullptr) return;
+  sd_bus_message *message = MakeMessage(bus.get(), name, userInfo, delivery);
+  if (message == nullptr) return;
+  SendAndDrain(bus.get(), message, deadline);
+  sd_bus_message_unref(message);
+}
+
+void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
+  GMainContext *context = g_main_context_get_thread_default();
+  if (context == nullptr) context = g_main_context_default();
+  auto *request = new Request{
+      .context = context,
+      .registration = std::make_unique<Registration>(Registration{
+          .observer = observer, .code = method.code, .name = name})};
+  // Runs at once, unless another thread is working on the context: then that
+  // thread registers, because the connection is its own.
+  g_main_context_invoke_full(context, G_PRIORITY_DEFAULT, RunRequest, request,
+                             DeleteRequest);
+}
+
+}  // namespace ztk::platform::notification_center

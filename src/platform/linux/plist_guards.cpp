@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+//
+// The XML scan. It need not know property lists, but must see the same tags as
+// libplist, or a file could hide nesting from it. So whatever two scanners
+// could read in two ways is refused: quotes that do not pair up inside a tag,
+// a "<" inside a tag, a name with odd characters.
+#include "platform/linux/plist_guards.h"
+
+#include <algorithm>
+
+namespace ztk::platform::property_list {
+namespace {
+
+using std::string_view;
+
+constexpr string_view kWhiteSpace = " \t\r\n";
+constexpr string_view kNameCharacters =
+    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_:.-";
+
+bool QuotesPairUp(string_view text) {
+  return std::count(text.begin(), text.end(), '"') % 2 == 0;
+}
+
+// Takes everything up to and including `end` off the front of `rest`, and
+// gives what stood before it. False when there is no `end`.
+bool TakeUntil(string_view end, string_view *rest, string_view *taken) {
+  const std::size_t at = rest->find(end);
+  if (at == string_view::npos) return false;
+  *taken = rest->substr(0, at);
+  rest->remove_prefix(at + end.size());
+  return true;
+}
+
+bool TakePrefix(string_view prefix, string_view *rest) {
+  if (!rest->starts_with(prefix)) return false;
+  rest->remove_prefix(prefix.size());
+  return true;
+}
+
+enum class Tag { Opening, Closing, Empty, Odd };
+
+// Tells the kind of a tag from what stands between "<" and ">".
+Tag KindOf(string_view tag) {
+  if (!QuotesPairUp(tag) || tag.find('<') != string_view::npos) {
+    return Tag::Odd;
+  }
+  const bool closing = TakePrefix("/", &tag);
+  const bool empty = !tag.empty() && tag.back() == '/';
+  if (empty) tag.remove_suffix(1);
+
+  const std::size_t nameEnd = tag.find_first_not_of(kNameCharacters);
+  if (nameEnd == 0 || tag.empty()) return Tag::Odd;
+  if (nameEnd != string_view::npos &&
+      kWhiteSpace.find(tag[nameEnd]) == string_view::npos) {
+    return Tag::Odd;
+  }
+  if (closing && empty) return Tag::Odd;
+  if (closing) return Tag::Closing;
+  return empty ? Tag::Empty : Tag::Opening;
+}
+
+// Takes what is neither text nor an element off the front of `rest`, which
+// stands behind a "<". False when it is malformed; *taken tells whether there
+// was any.
+bool TakeMarkup(string_view *rest, bool *taken) {
+  string_view content;
+  *taken = true;
+  if (TakePrefix("!--", rest)) return TakeUntil("-->", rest, &content);
+  if (TakePrefix("![CDATA[", rest)) return TakeUntil("]]>", rest, &content);
+  // The search begins at the first "?": libplist takes "<?>" for a whole one.
+  if (rest->starts_with("?")) {
+    return TakeUntil("?>", rest, &content) && QuotesPairUp(content);
+  }
+  if (TakePrefix("!DOCTYPE", rest)) {
+    return TakeUntil(">", rest, &content) && QuotesPairUp(content) &&
+           content.find_first_of("[<") == string_view::npos;
+  }
+  *taken = false;
+  return !rest->starts_with("!");
+}
+
+// libplist keeps only what stands before the first comment in these elements.
+// `tag` is the last one met.
+bool LosesWhatFollowsMarkup(string_view tag) {
+  const string_view name = tag.substr(0, tag.find_first_of(kWhiteSpace));
+  return name == "data" || name == "date";
+}
+
+}  // namespace
+
+bool IsBinary(string_view bytes) { return bytes.starts_with("bplist00"); }
+
+bool IsSafeXml(string_view bytes) {
+  if (bytes.size() > kMaxFileSize) return false;
+  if (bytes.find('\0') != string_view::npos) return false;
+  const std::size_t start = bytes.find_first_not_of(kWhiteSpace);
+  if (start == string_view::npos || bytes[start] != '<') return false;
+
+  // Two more than arrays and dictionaries: <plist> around, a value inside.
+  constexpr std::size_t kMaxOpen = kMaxDepth + 2;
+  std::size_t open = 0;
+  string_view rest = bytes;
+  string_view text;
+  string_view tag;
+  while (TakeUntil("<", &rest, &text)) {
+    bool isMarkup = false;
+    if (!TakeMarkup(&rest, &isMarkup)) return false;
+    if (isMarkup && LosesWhatFollowsMarkup(tag)) return false;
+    if (isMarkup) continue;
+
+    if (!TakeUntil(">", &rest, &tag)) return false;
+    switch (KindOf(tag)) {
+      case Tag::Opening:
+        if (++open > kMaxOpen) return false;
+        break;
+      case Tag::Closing:
+        if (open-- == 0) return false;
+        break;
+      case Tag::Empty:
+        break;
+      case Tag::Odd:
+        return false;
+    }
+  }
+  return open == 0;
+}
+
+}  // namespace ztk::platform::property_list
