@@ -72,14 +72,16 @@ ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
                          ZTKTextRef table) {
   if (bundle == nullptr || key == nullptr) return nullptr;
   const std::string resources = ResourceFolder(*bundle);
-  const std::string file = std::string("/") + (table ? table : "") + ".strings";
+  const std::string file = table == nullptr ? "" : table;
 
   std::vector<std::string> locales = PreferredLocales();
   locales.emplace_back("en");
   for (const std::string &locale : locales) {
     for (const std::string &name : FolderNames(locale)) {
-      const ZTKTextRef text =
-          TextOfTable(resources + "/" + name + ".lproj" + file, key);
+      std::string path = resources;
+      path.append("/").append(name).append(".lproj/");
+      path.append(file).append(".strings");
+      const ZTKTextRef text = TextOfTable(path, key);
       if (text != nullptr) return text;
     }
   }

@@ -1,0 +1,28 @@
+# SPDX-License-Identifier: MIT
+#
+# The shipped library, unchanged, on virtual mixers in the sandbox.
+if(NOT TARGET ztk_virtual_mixer)
+  return()
+endif()
+
+add_executable(library_child library_child.cpp)
+target_link_libraries(library_child PRIVATE ZTKFunc PkgConfig::GLIB ${CMAKE_DL_LIBS})
+target_compile_options(library_child PRIVATE -Wno-old-style-cast)
+
+add_executable(library_tests
+  ../support/library_world.cpp
+  library_main.cpp
+  library_files_test.cpp
+  library_process_test.cpp
+  library_settings_test.cpp
+  library_status_test.cpp)
+add_dependencies(library_tests library_child)
+target_include_directories(library_tests PRIVATE ${PROJECT_SOURCE_DIR}/tools)
+target_compile_definitions(library_tests PRIVATE
+  ZTK_LIBRARY_CHILD="$<TARGET_FILE:library_child>"
+  ZTK_LIBRARY_FILE="$<TARGET_FILE:ZTKFunc>")
+target_link_libraries(library_tests PRIVATE
+  ZTKFunc ztk_headers ztk_virtual_mixer ztk_test_support
+  GTest::gmock GTest::gtest)
+gtest_discover_tests(library_tests DISCOVERY_TIMEOUT 60
+  PROPERTIES LABELS sandbox TIMEOUT 600)

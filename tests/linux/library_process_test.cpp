@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+//
+// The shipped library across processes, and what it costs its own.
+#include "ZTKFunc.h"
+#include "support/library_world.h"
+#include "support/preload.h"
+
+namespace ztk::test {
+namespace {
+
+using testing::ContainsRegex;
+using testing::HasSubstr;
+
+class LibraryProcess : public LibraryWorld {};
+
+std::string Environment(const char *name) {
+  const char *value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+// Quick by default; ./check --full asks for many more.
+std::string GrowthCalls() {
+  const std::string asked = Environment("ZTK_GROWTH_CALLS");
+  return asked.empty() ? "2000" : asked;
+}
+
+[[maybe_unused]] std::string ReportIn(const std::filesystem::path &folder,
+                                      const std::string &prefix) {
+  for (const auto &entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.path().filename().string().starts_with(prefix)) {
+      return ReadAll(entry.path());
+    }
+  }
+  return "";
+}
+
+[[maybe_unused]] int CountOf(const std::string &word, const std::string &text) {
+  int count = 0;
+  for (std::size_t at = text.find(word); at != std::string::npos;
+       at = text.find(word, at + 1)) {
+    ++count;
+  }
+  return count;
+}
+
+TEST_F(LibraryProcess, ACallbackRunsWhenAnotherProcessSets) {
+  PlugMixers(1);
+  Child listener({"listen", "input"});
+  ASSERT_EQ(listener.ReadLine(), "ready");
+  EXPECT_EQ(RunChild({"set-input", "2", "5"}), "100\n");
+  EXPECT_EQ(listener.ReadLine(), "input 2 5");
+  EXPECT_EQ(listener.Finish(), 0);
+}
+
+TEST_F(LibraryProcess, RegisteredTwiceItRunsTwice) {
+  Child listener({"listen", "input", "input", "boost"});
+  ASSERT_EQ(listener.ReadLine(), "ready");
+  ZTK_SetUSBInputAudio(10, 0, 1);
+  ZTK_SetBoostLevelIndex(10, 2);
+  EXPECT_EQ(listener.ReadLine(), "input 0 1");
+  EXPECT_EQ(listener.ReadLine(), "input 0 1");
+  EXPECT_EQ(listener.ReadLine(), "boost 2");
+}
+
+// Absence is proven by a later notification that arrives.
+TEST_F(LibraryProcess, AfterUnregisterItNeverRuns) {
+  Child listener({"listen", "input", "input", "-input", "boost"});
+  ASSERT_EQ(listener.ReadLine(), "ready");
+  ZTK_SetUSBInputAudio(10, 0, 1);
+  ZTK_SetBoostLevelIndex(10, 2);
+  EXPECT_EQ(listener.ReadLine(), "boost 2");
+}
+
+TEST_F(LibraryProcess, OutputAudioNeverHearsTheLibrarysOwnChanges) {
+  Child listener({"listen", "output", "midi"});
+  ASSERT_EQ(listener.ReadLine(), "ready");
+  ZTK_SetUSBOutputAudio(8, 0, 1);
+  ZTK_SetUSBOutputAudioDefault(8, 2);
+  ZTK_SetMidiChannelIndex(1, 15);
+  EXPECT_EQ(listener.ReadLine(), "midi 15");
+}
+
+TEST_F(LibraryProcess, DirectAndReSendingAnnounceNothing) {
+  PlugMixers(1);
+  Child listener({"listen", "input", "boost", "midi"});
+  ASSERT_EQ(listener.ReadLine(), "ready");
+  ZTK_SetUSBInputAudioDirect(10, 0, 0, 1);
+  ZTK_SetCurrentUSBInputAudio(10, 0);
+  ZTK_SetCurrentBoostLevelIndex(10);
+  ZTK_SetCurrentMidiChannelIndex(1);
+  ZTK_SetBoostLevelIndex(10, 1);
+  EXPECT_EQ(listener.ReadLine(), "boost 1");
+}
+
+TEST_F(LibraryProcess, HasOneThreadAfterAnyCall) {
+  PlugMixers(1);
+  EXPECT_EQ(RunChild({"threads"}), "threads 1\n");
+}
+
+TEST_F(LibraryProcess, WithoutABusEverythingElseWorks) {
+  PlugMixers(1);
+  bus_.Stop();
+  EXPECT_EQ(ZTK_RegisterInputAudioChangedCallback(10, nullptr, nullptr), 100u);
+  EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 2), 100u);
+  EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6")),
+            SettingsText({{"Output0", 2}}));
+}
+
+TEST_F(LibraryProcess, UnloadedAndThenNotifiedItDoesNotCrash) {
+  Child client({"unload", ZTK_LIBRARY_FILE});
+  ASSERT_EQ(client.ReadLine(), "ready");
+  ZTK_SetUSBInputAudio(10, 1, 3);
+  EXPECT_EQ(client.ReadLine(), "input 1 3");
+  EXPECT_EQ(client.Finish(), 0);
+}
+
+// Register drops the record of the last post by design. Under the leak
+// sanitizer these, and nothing else, are left when a process ends.
+TEST_F(LibraryProcess, LeavesExactlyTheRecordsThatRegisterDrops) {
+#if !defined(ZTK_TEST_ASAN)
+  GTEST_SKIP() << "built without the leak sanitizer";
+#endif
+  const std::filesystem::path report = home_.path() / "leaks";
+  const std::string before = Environment("LSAN_OPTIONS");
+  const std::string options = "suppressions=:exitcode=0:log_path=";
+  setenv("LSAN_OPTIONS", (options + report.string()).c_str(), 1);
+  RunChild({"drop-records", "5"});
+  setenv("LSAN_OPTIONS", before.c_str(), 1);
+
+  const std::string leaks = ReportIn(home_.path(), "leaks.");
+  EXPECT_THAT(leaks, HasSubstr("MakeUserInfo"));
+  EXPECT_THAT(leaks, ContainsRegex("Direct leak of [0-9]+ byte\\(s\\) in 5 "));
+  EXPECT_EQ(CountOf("Direct leak of", leaks), 1) << leaks;
+}
+
+TEST_F(LibraryProcess, ManySettersLeaveNoDescriptorAndNoMemory) {
+  std::vector<Placement> placements = {{.kind = DeviceKind::Mixer, .bus = 1}};
+  for (int i = 0; i < 12; ++i) {
+    placements.push_back({.kind = DeviceKind::Keyboard, .bus = 2});
+  }
+  Plug(placements);
+  EXPECT_EQ(RunChild({"growth", GrowthCalls()}),
+            "descriptors 0\nmemory kept\n");
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "support/planted_root.h"
+
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+
+#include "support/temp_home.h"
+
+namespace ztk::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Failure(const char *what) {
+  return std::string(what) + ": " + std::strerror(errno);
+}
+
+bool WriteShort(const char *file, const std::string &text) {
+  const int descriptor = open(file, O_WRONLY | O_CLOEXEC);
+  if (descriptor < 0) return false;
+  const bool written = write(descriptor, text.data(), text.size()) ==
+                       static_cast<ssize_t>(text.size());
+  close(descriptor);
+  return written;
+}
+
+// A user without rights gets them in a user namespace of his own.
+bool Unshare() {
+  const std::string user = std::to_string(getuid());
+  const std::string group = std::to_string(getgid());
+  if (geteuid() == 0) return unshare(CLONE_NEWNS) == 0;
+  return unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 &&
+         WriteShort("/proc/self/setgroups", "deny") &&
+         WriteShort("/proc/self/uid_map", user + " " + user + " 1") &&
+         WriteShort("/proc/self/gid_map", group + " " + group + " 1");
+}
+
+// Shows an entry of the real root in the new one.
+bool Show(const fs::directory_entry &entry, const fs::path &root) {
+  const fs::path place = root / entry.path().filename();
+  std::error_code failed;
+  if (entry.is_symlink()) {
+    fs::copy_symlink(entry.path(), place, failed);
+    return !failed;
+  }
+  if (entry.is_directory()) {
+    fs::create_directory(place, failed);
+  } else {
+    WriteAll(place, "");
+  }
+  return mount(entry.path().c_str(), place.c_str(), nullptr, MS_BIND | MS_REC,
+               nullptr) == 0;
+}
+
+}  // namespace
+
+std::string EnterPlantedRoot(const Planted &files) {
+  if (!Unshare()) return Failure("no mount namespace");
+  if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
+    return Failure("the root stays shared");
+  }
+  // /mnt is there on every system, and what it shows is not needed.
+  const fs::path root = "/mnt";
+  if (mount("planted", root.c_str(), "tmpfs", 0, nullptr) != 0) {
+    return Failure("no tmpfs");
+  }
+  for (const auto &entry : fs::directory_iterator("/")) {
+    if (entry.path() == root) continue;
+    if (!Show(entry, root)) return Failure(entry.path().c_str());
+  }
+  for (const auto &[path, contents] : files) {
+    WriteAll(root / fs::path(path).relative_path(), contents);
+  }
+  if (chroot(root.c_str()) != 0 || chdir("/") != 0) return Failure("no chroot");
+  return "";
+}
+
+}  // namespace ztk::test

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_TESTS_SUPPORT_PRELOAD_H_
+#define ZTK_TESTS_SUPPORT_PRELOAD_H_
+
+// Defined in programs that are built with the address sanitizer.
+#if defined(__SANITIZE_ADDRESS__)
+#define ZTK_TEST_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define ZTK_TEST_ASAN 1
+#endif
+#endif
+
+namespace ztk::test {
+
+// Runs this program again with the sandbox's library preloaded, unless it runs
+// with it already. To be called first in main(); returns only in the second
+// run, or when the library is not to be had.
+void PreloadSandbox(char **arguments);
+
+}  // namespace ztk::test
+
+#endif  // ZTK_TESTS_SUPPORT_PRELOAD_H_
