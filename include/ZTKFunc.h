@@ -60,8 +60,9 @@ typedef uint32_t ZTKResult;
  */
 #define ZTK_SUCCESS 100u
 /**
- * Done, with a warning: the routing was sent and stored, but the input selector
- * of that channel does not stand where it makes the routing audible.
+ * Done, with a warning: no mixer is attached to hear the new routing from, or
+ * the input selector of that channel does not stand where it makes the routing
+ * audible.
  */
 #define ZTK_WARNING 101u
 /** Refused: an argument is null, out of range, or not served. */
@@ -261,9 +262,9 @@ ZTK_EXPORT ZTKResult ZTK_GetUSBInputAudioText(uint32_t productId,
  * @retval 102 (ZTK_REJECTED)  productId is not served (tested first), channel
  *                             or index is out of range.
  * @retval 101 (ZTK_WARNING)   Set. No mixer is attached and index is 0, 1 or 2;
- *                             or one is, index is 0 or 1, and the selector of
- *                             that channel is not at position 4. On channel 4,
- *                             which has no selector, 0 and 1 always warn.
+ *                             or one opens, index is 0 or 1, and the selector
+ *                             of that channel is not at position 4, or is not
+ *                             told. Channel 4 has none and is never at 4.
  * @retval 100 (ZTK_SUCCESS)   Set.
  */
 ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
@@ -284,9 +285,9 @@ ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
  * @retval 102 (ZTK_REJECTED)  productId is not served (tested first), channel
  *                             or source is out of range.
  * @retval 101 (ZTK_WARNING)   Sent. No mixer is attached and source is 0 or 1;
- *                             or one is, source is 0 to 3, and the selector of
- *                             that channel is not at position 4 (on channel 4:
- *                             always).
+ *                             or one opens, source is 0 to 3, and the selector
+ *                             of that channel is not at position 4, or is not
+ *                             told. Channel 4 has none and is never at 4.
  * @retval 100 (ZTK_SUCCESS)   Sent.
  */
 ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudioDirect(uint32_t productId,
@@ -300,7 +301,7 @@ ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudioDirect(uint32_t productId,
  * @param channel        0 to 5: one wider than elsewhere. Channel 5 is always
  *                       0.
  * @param[out] outIndex  The integer as it stands in the settings file, any
- *                       value; 0 when there is none.
+ *                       value, -1 as 0xFFFFFFFF; 0 without one.
  *
  * @retval 102 (ZTK_REJECTED)  outIndex is null (tested first), productId is not
  *                             served, or channel is out of range.
@@ -348,8 +349,10 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentUSBInputAudio(uint32_t productId,
  *                      11 Korean; 99 the user's own. With no mixer attached the
  *                      user's own language is used whatever is asked for.
  * @param[out] outText  Must not be null: it is not tested. The sentence, or
- *                      null when the library's bundle, the language or the
- *                      sentence is missing. Written on success only.
+ *                      null when the library's bundle is missing or, for
+ *                      languages 0 to 11, that language or its sentence. In
+ *                      the user's own language a missing sentence yields its
+ *                      key, such as "WARNING1". Written on success only.
  *
  * @retval 102 (ZTK_REJECTED)  productId is not served, channel is out of range,
  *                             or resultCode is not 101 (nothing is asked of a
@@ -357,9 +360,11 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentUSBInputAudio(uint32_t productId,
  *                             (known only after the mixer was asked).
  * @retval 100 (ZTK_SUCCESS)   *outText is set.
  */
-ZTK_EXPORT ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(
-    uint32_t productId, uint32_t channel, uint32_t resultCode,
-    uint32_t language, ZTKTextRef *outText);
+ZTK_EXPORT ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
+                                                           uint32_t channel,
+                                                           uint32_t resultCode,
+                                                           uint32_t language,
+                                                           ZTKTextRef *outText);
 /** @} */
 
 /**
@@ -448,7 +453,8 @@ ZTK_EXPORT ZTKResult ZTK_SetUSBOutputAudioDefault(uint32_t productId,
  * @param productId      Served: 8.
  * @param channel        0 to 2.
  * @param[out] outIndex  The integer as it stands in the settings file, any
- *                       value; the channel itself when there is none.
+ *                       value, -1 as 0xFFFFFFFF; the channel itself without
+ *                       one.
  *
  * @retval 102 (ZTK_REJECTED)  outIndex is null, productId is not served, or
  *                             channel is out of range.
@@ -537,7 +543,7 @@ ZTK_EXPORT ZTKResult ZTK_SetBoostLevelIndex(uint32_t productId, uint32_t index);
  *
  * @param productId      Served: 10.
  * @param[out] outIndex  The integer as it stands in the settings file, any
- *                       value; 3 when there is none.
+ *                       value, -1 as 0xFFFFFFFF; 3 without one.
  *
  * @retval 102 (ZTK_REJECTED)  outIndex is null (tested first), or productId is
  *                             not served.
@@ -616,7 +622,7 @@ ZTK_EXPORT ZTKResult ZTK_SetMidiChannelIndex(uint32_t productId,
  *
  * @param productId      Served: 1.
  * @param[out] outIndex  The integer as it stands in the settings file, any
- *                       value; 0 when there is none.
+ *                       value, -1 as 0xFFFFFFFF; 0 without one.
  *
  * @retval 102 (ZTK_REJECTED)  outIndex is null (tested first), or productId is
  *                             not served.
@@ -669,8 +675,8 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentMidiKeyModeIndex(uint32_t productId);
  * Reads the certification level.
  *
  * @param productId      Served: 10.
- * @param[out] outLevel  The mixer's number; 0 when no mixer answers. Untouched
- *                       on 102.
+ * @param[out] outLevel  The mixer's number; 0 when none opens, or when the last
+ *                       that opens does not answer. Untouched on 102.
  *
  * @retval 102 (ZTK_REJECTED)  outLevel is null (tested first), or productId is
  *                             not served.
@@ -699,7 +705,8 @@ ZTK_EXPORT ZTKResult ZTK_GetFirmwareVersionIndex(uint32_t productId,
  *
  * @param productId         Served: 10.
  * @param channel           0 to 4. The mixer reports 0 to 3; channel 4 is 0.
- * @param[out] outPosition  Position, 0 to 16. Untouched when no mixer can be
+ * @param[out] outPosition  Position, 0 to 16; 0 also for a mixer that opens
+ *                          and does not answer. Untouched when no mixer can be
  *                          opened: set it before.
  *
  * @retval 102 (ZTK_REJECTED)  outPosition is null (tested first), productId is
@@ -740,8 +747,8 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
  *
  * Register takes:
  * - productId: who is served stands with each function.
- * - callback: called on the event loop of the registering thread (see the head
- *   of this file). Null is taken and means nobody is called.
+ * - callback: called on the event loop that the head of this file names. Null
+ *   is taken and means nobody is called.
  * - context: handed back as it is; must stay valid until unregistered.
  *
  * It answers 102 when productId is not served, and else 100, also when there is
@@ -768,8 +775,8 @@ ZTK_EXPORT ZTKResult ZTK_UnregisterInputAudioChangedCallback(uint32_t productId,
 ZTK_EXPORT ZTKResult ZTK_RegisterOutputAudioChangedCallback(
     uint32_t productId, ZTKChannelCallback callback, void *context);
 /** Unregisters from USB output audio. Served: 0, 1, 5, 6, 8, 10. */
-ZTK_EXPORT ZTKResult ZTK_UnregisterOutputAudioChangedCallback(
-    uint32_t productId, void *ignored);
+ZTK_EXPORT ZTKResult
+ZTK_UnregisterOutputAudioChangedCallback(uint32_t productId, void *ignored);
 
 /** Registers for the boost level. Served: 10. */
 ZTK_EXPORT ZTKResult ZTK_RegisterBoostLevelChangedCallback(
@@ -782,15 +789,15 @@ ZTK_EXPORT ZTKResult ZTK_UnregisterBoostLevelChangedCallback(uint32_t productId,
 ZTK_EXPORT ZTKResult ZTK_RegisterMidiChannelChangedCallback(
     uint32_t productId, ZTKIndexCallback callback, void *context);
 /** Unregisters from the MIDI channel. Served: 1. */
-ZTK_EXPORT ZTKResult ZTK_UnregisterMidiChannelChangedCallback(
-    uint32_t productId, void *ignored);
+ZTK_EXPORT ZTKResult
+ZTK_UnregisterMidiChannelChangedCallback(uint32_t productId, void *ignored);
 
 /** Answers 102 (ZTK_REJECTED) and does nothing. */
 ZTK_EXPORT ZTKResult ZTK_RegisterMidiKeyModeChangedCallback(
     uint32_t productId, ZTKIndexCallback callback, void *context);
 /** Answers 102 (ZTK_REJECTED) and does nothing. */
-ZTK_EXPORT ZTKResult ZTK_UnregisterMidiKeyModeChangedCallback(
-    uint32_t productId, void *ignored);
+ZTK_EXPORT ZTKResult
+ZTK_UnregisterMidiKeyModeChangedCallback(uint32_t productId, void *ignored);
 /** @} */
 
 #ifdef __cplusplus

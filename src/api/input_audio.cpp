@@ -123,7 +123,7 @@ constexpr std::int32_t kRememberedChannels = 6;
 // threshold needs the input selector at this position.
 constexpr std::uint8_t kAudiblePosition = 4;
 constexpr std::uint16_t kSelectorInfoLength = 5;  // bytes
-// Wanted: four different thresholds.
+// Wanted: no pair of them is alike.
 struct Thresholds {
   std::uint32_t withoutMixer;
   std::uint32_t withMixer;

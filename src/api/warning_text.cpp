@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <bit>
 #include <cstdint>
-#include <cstring>
 #include <iterator>
 
 #include "ZTKFunc.h"
@@ -46,19 +44,17 @@ const ZTKTextRef kLanguages[] = {
 constexpr std::uint32_t kUsersLanguage = 99;
 
 constexpr std::uint16_t kPortInfoLength = 2;  // bytes
-constexpr std::uint32_t kOtherPort = 1;
+constexpr std::uint8_t kOtherPort = 1;
 
-// The port state of the first mixer, as the 32-bit number that starts with the
-// two reply bytes in memory; 0 when it does not answer.
-std::uint32_t PortState() {
+// Whether the first mixer says that its port is in the other state. One that
+// does not answer does not say so.
+bool IsOnOtherPort() {
   usb::Reply reply;
   if (const usb::OpenMixer mixer(0); mixer) {
     GetPortInfo(mixer.connection(), reply.bytes, kPortInfoLength);
   }
-  std::uint32_t state = 0;
-  static_assert(std::endian::native == std::endian::little);
-  std::memcpy(&state, reply.bytes, kPortInfoLength);
-  return state;
+  // Low byte first.
+  return reply.bytes[0] == kOtherPort && reply.bytes[1] == 0;
 }
 
 ZTKTextRef TextOfLanguage(const bundle::Bundle *library, std::uint32_t language,
@@ -88,7 +84,7 @@ ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
   // Wanted: a mixer that is counted and does not open is still there.
   ZTKTextRef key = kNoMixer;
   if (CheckUSBAudio(productId) != 0) {
-    key = PortState() == kOtherPort ? kSelectorOtherPort : kSelector;
+    key = IsOnOtherPort() ? kSelectorOtherPort : kSelector;
   }
   // Wanted: known to be none only now.
   const bool byPreference = language == kUsersLanguage;

@@ -18,7 +18,6 @@ using Code = std::uint32_t;
 inline constexpr Code kSuccess = 0;
 inline constexpr Code kError = 0xE00002BC;
 inline constexpr Code kNoDevice = 0xE00002C0;
-inline constexpr Code kNotPrivileged = 0xE00002C1;
 inline constexpr Code kExclusiveAccess = 0xE00002C5;
 inline constexpr Code kBusy = 0xE00002D5;
 inline constexpr Code kTimeout = 0xE00002D6;

@@ -50,12 +50,14 @@ ZTK_EXPORT std::int32_t CheckUSBAudio(std::uint32_t productId);
 ZTK_EXPORT ztk::usb::Code open_pipes(ztk::usb::Connection *slot,
                                      std::uint32_t index);
 
-// The search behind open_pipes(), which callers use instead. An occupied slot
-// keeps its connection and answers kError once the mixer is reached.
+// The search behind open_pipes(), which callers use instead. `slot` is not
+// null. An occupied slot keeps its connection and answers kError once the mixer
+// is reached.
 ZTK_EXPORT ztk::usb::Code openUSB(ztk::usb::Connection *slot,
                                   std::uint32_t index);
 
-// Closes the connection and empties the slot; nothing on an empty one.
+// Closes the connection and empties the slot, which is not null; nothing on an
+// empty one.
 ZTK_EXPORT void closeUSB(ztk::usb::Connection *slot);
 
 // Sends one control request. *length is the length of the data stage before,

@@ -66,8 +66,8 @@ class CoreTest : public testing::Test {
     }
     inputAudioInfo = outputAudioInfo = boostLevelInfo = nullptr;
     midiChannelInfo = midiKeyModeInfo = nullptr;
-    // The core never frees its observer; a test process makes many.
-    // Kept to the end, past the leak sanitizer's look.
+    // The core never frees its observer; a test process makes many, and keeps
+    // them past the leak sanitizer's look.
     static auto &observers = *new std::vector<void *>;
     observers.push_back(_ZTKFunc);
     _ZTKFunc = nullptr;

@@ -7,6 +7,7 @@
 #include <deque>
 #include <string>
 
+#include "build_config.h"
 #include "platform/fake/world.h"
 #include "virtual-mixer/request_line.h"
 
@@ -72,7 +73,7 @@ void Use(const Object *object, const char *what) {
 }
 
 bool IsMixer(const fake::Device &device) {
-  return device.vendor == 0x6666 && device.product == 27;
+  return device.vendor == build::kUsbVendorId && device.product == 27;
 }
 
 fake::Device &DeviceAt(std::size_t position) {

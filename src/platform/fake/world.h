@@ -13,6 +13,7 @@
 #include <variant>
 #include <vector>
 
+#include "build_config.h"
 #include "platform/notification_center.h"
 #include "platform/usb.h"
 
@@ -29,7 +30,7 @@ struct Answer {
 
 // One device on the bus. It answers as a mixer does unless a test says so.
 struct Device {
-  std::uint16_t vendor = 0x6666;
+  std::uint16_t vendor = build::kUsbVendorId;
   std::uint16_t product = 27;
   Code plugInResult = 0;
   bool hasInterface = true;

@@ -52,8 +52,10 @@ Reading ReadBytes(const char *path, std::string *bytes) {
       status.st_size > static_cast<off_t>(kMaxFileSize)) {
     return Reading::Unreadable;
   }
-  // One byte more than allowed shows a file that has grown meanwhile.
-  bytes->resize(kMaxFileSize + 1);
+  // One byte more than there are shows a file that has grown meanwhile: it is
+  // being written in place, and what is read of it would be no whole.
+  const auto size = static_cast<std::size_t>(status.st_size);
+  bytes->resize(size + 1);
   std::size_t length = 0;
   while (length < bytes->size()) {
     const ssize_t done =
@@ -64,7 +66,7 @@ Reading ReadBytes(const char *path, std::string *bytes) {
     length += static_cast<std::size_t>(done);
   }
   bytes->resize(length);
-  return length > kMaxFileSize ? Reading::Unreadable : Reading::Read;
+  return length > size ? Reading::Unreadable : Reading::Read;
 }
 
 plist_t CleanCopy(plist_t node);

@@ -16,6 +16,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <new>
 #include <vector>
 
 #include "platform/linux/usb_snapshot.h"
@@ -82,14 +83,16 @@ int OpenNode(const DeviceFacts &facts) {
   const int number = ReadDeviceNumber(facts);
   if (number <= 0) return -1;
   char path[40];
-  std::snprintf(path, sizeof path, "/dev/bus/usb/%03d/%03d", facts.bus, number);
+  std::snprintf(path, sizeof path, "/dev/bus/usb/%03d/%03d", BusOf(facts.place),
+                number);
   const int node = open(path, O_RDWR | O_CLOEXEC);
   if (node < 0) return -1;
 
   std::uint8_t bytes[kDeviceDescriptorLength];
   DeviceIdentity identity;
   if (read(node, bytes, sizeof bytes) == static_cast<ssize_t>(sizeof bytes) &&
-      ParseDeviceDescriptor(bytes, &identity) && identity == facts.identity) {
+      ParseDeviceDescriptor(bytes, ByteOrder::Machine, &identity) &&
+      identity == facts.identity) {
     return node;
   }
   close(node);
@@ -182,7 +185,10 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
 Device *MakeReady(Device *device) {
   const int node = OpenNode(device->facts);
   if (node < 0) return nullptr;
-  return new Device{.facts = device->facts, .isConnection = true, .node = node};
+  auto *connection = new (std::nothrow)
+      Device{.facts = device->facts, .isConnection = true, .node = node};
+  if (connection == nullptr) close(node);
+  return connection;
 }
 
 Code Request(Device *device, ControlRequest *request) {

@@ -2,11 +2,11 @@
 #include "platform/linux/usb_snapshot.h"
 
 #include <dirent.h>
+#include <endian.h>
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -21,8 +21,13 @@ constexpr std::uint8_t kDeviceDescriptorType = 1;
 // for another one's, because the entry's name says where it is plugged in.
 std::size_t ReadAttribute(const char *entry, const char *attribute, void *bytes,
                           std::size_t size) {
+  // No snprintf(): this runs for every device on the bus, three times a setter.
   char path[sizeof kDevices + kLongestEntry + 16];
-  std::snprintf(path, sizeof path, "%s/%s/%s", kDevices, entry, attribute);
+  char *end = stpcpy(path, kDevices);
+  *end++ = '/';
+  end = stpcpy(end, entry);
+  *end++ = '/';
+  stpcpy(end, attribute);
   const int file = open(path, O_RDONLY | O_CLOEXEC);
   if (file < 0) return 0;
   const ssize_t got = read(file, bytes, size);
@@ -30,16 +35,10 @@ std::size_t ReadAttribute(const char *entry, const char *attribute, void *bytes,
   return got < 0 ? 0 : static_cast<std::size_t>(got);
 }
 
-std::uint16_t LittleEndian16(const std::uint8_t *bytes) {
-  return static_cast<std::uint16_t>(bytes[0] | bytes[1] << 8);
-}
-
-// The next number in a name of numbers and single separators; -1 at its end.
-long NextNumber(const char **text) {
-  if (**text == '\0') return -1;
-  char *end = nullptr;
-  const long number = std::strtol(*text, &end, 10);
-  *text = *end == '\0' ? end : end + 1;
+std::uint16_t Number16(const std::uint8_t *bytes, ByteOrder order) {
+  std::uint16_t number = 0;
+  std::memcpy(&number, bytes, sizeof number);
+  if (order == ByteOrder::Bus) number = le16toh(number);
   return number;
 }
 
@@ -50,56 +49,66 @@ bool IsDeviceEntry(const char *name) {
   return name[0] >= '0' && name[0] <= '9' && std::strchr(name, ':') == nullptr;
 }
 
-// "usb2" becomes the number 2 alone, so a root hub comes before what it bears.
-const char *NumbersOf(const char *entry) {
-  return std::strncmp(entry, "usb", 3) == 0 ? entry + 3 : entry;
-}
-
-bool ComesBefore(const DeviceFacts &left, const DeviceFacts &right) {
-  const char *leftText = NumbersOf(left.entry);
-  const char *rightText = NumbersOf(right.entry);
-  while (true) {
-    const long leftNumber = NextNumber(&leftText);
-    const long rightNumber = NextNumber(&rightText);
-    if (leftNumber != rightNumber) return leftNumber < rightNumber;
-    if (leftNumber < 0) return false;
-  }
-}
-
 bool ReadIdentity(const char *entry, DeviceIdentity *identity) {
   std::uint8_t bytes[kDeviceDescriptorLength];
   const std::size_t got =
       ReadAttribute(entry, "descriptors", bytes, sizeof bytes);
-  return got == sizeof bytes && ParseDeviceDescriptor(bytes, identity);
+  return got == sizeof bytes &&
+         ParseDeviceDescriptor(bytes, ByteOrder::Bus, identity);
 }
 
 }  // namespace
 
-bool ParseDeviceDescriptor(const std::uint8_t *bytes,
+bool ParseDeviceDescriptor(const std::uint8_t *bytes, ByteOrder order,
                            DeviceIdentity *identity) {
   if (bytes[0] != kDeviceDescriptorLength) return false;
   if (bytes[1] != kDeviceDescriptorType) return false;
   *identity = {.deviceClass = bytes[4],
                .deviceSubClass = bytes[5],
-               .vendor = LittleEndian16(bytes + 8),
-               .product = LittleEndian16(bytes + 10)};
+               .vendor = Number16(bytes + 8, order),
+               .product = Number16(bytes + 10, order)};
   return true;
+}
+
+std::uint64_t PlaceOf(const char *entry) {
+  constexpr int kPorts = 6;  // the deepest that USB allows
+  constexpr int kPortBits = 8;
+  const char *rest = std::strncmp(entry, "usb", 3) == 0 ? entry + 3 : entry;
+  std::uint64_t place = 0;
+  for (int i = 0; i <= kPorts; ++i) {
+    std::uint64_t number = 0;
+    while (*rest >= '0' && *rest <= '9') {
+      number = number * 10 + static_cast<std::uint64_t>(*rest++ - '0');
+    }
+    place = place << kPortBits | number;
+    if (*rest != '\0') ++rest;
+  }
+  return place;
+}
+
+int BusOf(std::uint64_t place) {
+  constexpr int kBitsOfPorts = 48;
+  return static_cast<int>(place >> kBitsOfPorts);
 }
 
 bool ReadBus(std::vector<DeviceFacts> *devices) {
   DIR *directory = opendir(kDevices);
   if (directory == nullptr) return false;
+  constexpr std::size_t kUsualDevices = 32;
+  devices->reserve(kUsualDevices);
   while (const dirent *found = readdir(directory)) {
     if (!IsDeviceEntry(found->d_name)) continue;
     DeviceFacts facts;
     std::memcpy(facts.entry, found->d_name, std::strlen(found->d_name));
     if (!ReadIdentity(facts.entry, &facts.identity)) continue;
-    const char *numbers = NumbersOf(facts.entry);
-    facts.bus = static_cast<int>(NextNumber(&numbers));
+    facts.place = PlaceOf(facts.entry);
     devices->push_back(facts);
   }
   closedir(directory);
-  std::sort(devices->begin(), devices->end(), ComesBefore);
+  std::sort(devices->begin(), devices->end(),
+            [](const DeviceFacts &left, const DeviceFacts &right) {
+              return left.place < right.place;
+            });
   return true;
 }
 

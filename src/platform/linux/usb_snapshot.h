@@ -28,17 +28,27 @@ inline constexpr std::size_t kLongestEntry = 31;
 
 struct DeviceFacts {
   char entry[kLongestEntry + 1] = {};
-  int bus = 0;
+  std::uint64_t place = 0;
   DeviceIdentity identity;
 };
 
-// False when these bytes are not a device descriptor.
-bool ParseDeviceDescriptor(const std::uint8_t *bytes, DeviceIdentity *identity);
+// sysfs gives the descriptor as it came over the bus, low byte first; a node
+// gives its numbers in the order of this machine.
+enum class ByteOrder { Bus, Machine };
 
-// Lists the devices by bus, and on a bus by the ports that lead to them: an
-// order that stays when a mixer is plugged out and in again, which device
-// numbers do not. A device that goes away while being read is left out. False
-// when there is no USB.
+// False when these bytes are not a device descriptor.
+bool ParseDeviceDescriptor(const std::uint8_t *bytes, ByteOrder order,
+                           DeviceIdentity *identity);
+
+// Where a device is plugged in, as a number to sort by: its bus, then the ports
+// that lead to it, one byte each. A root hub comes before what it bears.
+std::uint64_t PlaceOf(const char *entry);
+// The bus of a place.
+int BusOf(std::uint64_t place);
+
+// Lists the devices by place: an order that stays when a mixer is plugged out
+// and in again, which that of device numbers does not. A device that goes away
+// while being read is left out. False when there is no USB.
 bool ReadBus(std::vector<DeviceFacts> *devices);
 
 // The number of the device's node on its bus; 0 when it is gone.

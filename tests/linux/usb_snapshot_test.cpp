@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/usb_snapshot.h"
+
+#include <gtest/gtest.h>
+
+#include <iterator>
+
+namespace ztk::platform::usb {
+namespace {
+
+TEST(PlaceOf, OrdersByBusThenByPortsAsNumbers) {
+  const char *const ordered[] = {
+      "usb1", "1-1", "1-1.2", "1-1.10", "1-2",    "1-10", "1-10.1.4.1.2.3",
+      "usb2", "2-1", "usb10", "10-1",   "usb256", "256-1"};
+  for (std::size_t i = 1; i < std::size(ordered); ++i) {
+    EXPECT_LT(PlaceOf(ordered[i - 1]), PlaceOf(ordered[i]))
+        << ordered[i - 1] << " and " << ordered[i];
+  }
+}
+
+TEST(PlaceOf, HoldsTheBus) {
+  const struct {
+    const char *entry;
+    int expected;
+  } rows[] = {{"usb1", 1}, {"1-4", 1}, {"12-1.3", 12}, {"usb300", 300}};
+  for (const auto &row : rows) {
+    EXPECT_EQ(BusOf(PlaceOf(row.entry)), row.expected) << row.entry;
+  }
+}
+
+TEST(ParseDeviceDescriptor, ReadsIdentityAndRefusesOtherDescriptors) {
+  std::uint8_t bytes[kDeviceDescriptorLength] = {
+      18, 1, 0, 2, 0xEF, 2, 0, 64, 0x66, 0x66, 27, 0, 0, 1, 1, 2, 3, 1};
+  DeviceIdentity identity;
+  ASSERT_TRUE(ParseDeviceDescriptor(bytes, ByteOrder::Bus, &identity));
+  EXPECT_EQ(identity.deviceClass, 0xEF);
+  EXPECT_EQ(identity.deviceSubClass, 2);
+  EXPECT_EQ(identity.vendor, 0x6666);
+  EXPECT_EQ(identity.product, 27);
+
+  bytes[1] = 2;
+  EXPECT_FALSE(ParseDeviceDescriptor(bytes, ByteOrder::Bus, &identity));
+  bytes[1] = 1;
+  bytes[0] = 9;
+  EXPECT_FALSE(ParseDeviceDescriptor(bytes, ByteOrder::Bus, &identity));
+}
+
+}  // namespace
+}  // namespace ztk::platform::usb
