@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// Runs ztk-virtual-mixer as a user does and keeps what it says.
+#ifndef ZTK_TESTS_VIRTUAL_MIXER_TOOL_H_
+#define ZTK_TESTS_VIRTUAL_MIXER_TOOL_H_
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace ztk::virtual_mixer {
+
+struct ToolResult {
+  int status = -1;
+  std::string out;
+  std::string err;
+};
+
+// Each test has a folder of its own, which is TMPDIR for what it runs.
+class ToolTest : public testing::Test {
+ protected:
+  ToolTest();
+  ~ToolTest() override;
+
+  // Runs the arguments as they are.
+  ToolResult Tool(const std::vector<std::string> &arguments) const;
+  // Runs a shell script in a sandbox: "run OPTIONS -- sh -c SCRIPT". In the
+  // script, $PROBE and $TOOL are the two programs and $DIR is this folder.
+  ToolResult Inside(const std::vector<std::string> &options,
+                    const std::string &script) const;
+
+  const std::string &Folder() const { return folder_; }
+  // Lines of a file in the folder.
+  std::vector<std::string> Lines(const std::string &name) const;
+  // What the sandboxes have left in TMPDIR.
+  std::vector<std::string> LeftBehind() const;
+
+ private:
+  std::string folder_;
+};
+
+std::vector<std::string> SplitLines(const std::string &text);
+
+}  // namespace ztk::virtual_mixer
+
+#endif  // ZTK_TESTS_VIRTUAL_MIXER_TOOL_H_

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "command_runner.h"
+
+#include <spawn.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+#include "fault.h"
+
+namespace ztk::virtual_mixer {
+namespace {
+
+constexpr int kCannotRun = 126;
+constexpr int kNotFound = 127;
+
+std::vector<char *> Pointers(const std::vector<std::string> &texts) {
+  std::vector<char *> pointers;
+  pointers.reserve(texts.size() + 1);
+  // posix_spawn does not write to them.
+  for (const std::string &text : texts) {
+    pointers.push_back(const_cast<char *>(text.c_str()));
+  }
+  pointers.push_back(nullptr);
+  return pointers;
+}
+
+// Starts the command; 0, or the error number.
+int Spawn(const std::vector<std::string> &command,
+          const std::vector<std::string> &environment,
+          const SignalGuard &signals, pid_t *pid) {
+  posix_spawnattr_t attributes;
+  posix_spawnattr_init(&attributes);
+  posix_spawnattr_setsigmask(&attributes, &signals.Before());
+  sigset_t defaults;
+  sigemptyset(&defaults);
+  // GLib ignores it for the whole process.
+  if (!signals.PipeWasIgnored()) sigaddset(&defaults, SIGPIPE);
+  posix_spawnattr_setsigdefault(&attributes, &defaults);
+  posix_spawnattr_setflags(&attributes,
+                           POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+  const int failure =
+      posix_spawnp(pid, command[0].c_str(), nullptr, &attributes,
+                   Pointers(command).data(), Pointers(environment).data());
+  posix_spawnattr_destroy(&attributes);
+  return failure;
+}
+
+int ExitStatus(int status) {
+  return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+}
+
+// The parent of a process, 0 when it has gone.
+pid_t ParentOf(pid_t pid) {
+  std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
+  std::string text;
+  std::getline(file, text, '\0');
+  // The name before it may hold anything, so look from its end.
+  const std::size_t nameEnd = text.rfind(')');
+  if (nameEnd == std::string::npos || nameEnd + 4 > text.size()) return 0;
+  return std::atoi(text.c_str() + nameEnd + 4);
+}
+
+void SignalChildren(int signal) {
+  std::error_code ignored;
+  for (const auto &entry :
+       std::filesystem::directory_iterator("/proc", ignored)) {
+    const auto pid =
+        ParseNumber(entry.path().filename().string(), 1, 0x7FFFFFFF);
+    if (!pid) continue;
+    const auto child = static_cast<pid_t>(*pid);
+    if (ParentOf(child) == getpid()) kill(child, signal);
+  }
+}
+
+class Family {
+ public:
+  explicit Family(pid_t command) : command_(command) {}
+
+  // Takes the status of every child that has ended; false when none is left.
+  bool Reap() {
+    while (true) {
+      int status = 0;
+      const pid_t pid = waitpid(-1, &status, WNOHANG);
+      if (pid < 0) return false;
+      if (pid == 0) return true;
+      if (pid != command_) continue;
+      exitStatus_ = ExitStatus(status);
+      commandEnded_ = true;
+    }
+  }
+
+  void PassOn(const siginfo_t &info) {
+    if (!commandEnded_) {
+      // The terminal has told the command already.
+      if (info.si_code > 0) return;
+      kill(command_, info.si_signo);
+      // An interrupt may be for the command alone; the others are to end all.
+      if (info.si_signo != SIGINT) ending_ = info.si_signo;
+      return;
+    }
+    // Processes in the background ignore the terminal's signals.
+    ending_ = info.si_code <= 0 ? info.si_signo : SIGTERM;
+    SignalChildren(ending_);
+  }
+
+  // What the command leaves behind arrives here only when its parents end.
+  void TellNewOrphans() const {
+    if (commandEnded_ && ending_ != 0) SignalChildren(ending_);
+  }
+
+  int ExitStatusOfCommand() const { return exitStatus_; }
+
+ private:
+  const pid_t command_;
+  bool commandEnded_ = false;
+  int exitStatus_ = 0;
+  int ending_ = 0;
+};
+
+}  // namespace
+
+SignalGuard::SignalGuard() {
+  sigemptyset(&held_);
+  for (const int signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+    sigaddset(&held_, signal);
+  }
+  // A parent that ignores it would take every exit status away.
+  std::signal(SIGCHLD, SIG_DFL);
+  struct sigaction pipe {};
+  sigaction(SIGPIPE, nullptr, &pipe);
+  pipeWasIgnored_ = pipe.sa_handler == SIG_IGN;
+  pthread_sigmask(SIG_BLOCK, &held_, &before_);
+}
+
+SignalGuard::~SignalGuard() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+
+int RunCommand(const std::vector<std::string> &command,
+               const std::vector<std::string> &environment,
+               const SignalGuard &signals, std::string *error) {
+  prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);
+  pid_t pid = 0;
+  const int failure = Spawn(command, environment, signals, &pid);
+  if (failure != 0) {
+    *error = command[0] + ": " + std::strerror(failure);
+    return failure == ENOENT ? kNotFound : kCannotRun;
+  }
+  Family family(pid);
+  while (family.Reap()) {
+    family.TellNewOrphans();
+    siginfo_t info{};
+    if (sigwaitinfo(&signals.Held(), &info) < 0) continue;
+    if (info.si_signo != SIGCHLD) family.PassOn(info);
+  }
+  return family.ExitStatusOfCommand();
+}
+
+}  // namespace ztk::virtual_mixer
