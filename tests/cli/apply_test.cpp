@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "cli_world.h"
+
+namespace ztk::test {
+namespace {
+
+class Apply : public CliWorld {};
+
+TEST_F(Apply, SendsWhatIsRememberedAndNothingElse) {
+  Remember("VRM-D6", {{"Output1", 2}, {"Output4", 7}});
+  Remember("VRM-B5", {{"Input0", 2}});
+  Remember("VRM-K2", {{"MidiChannel", 1}});
+  const Result result = OneMixer("ztk apply");
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_EQ(result.out,
+            "USB input 2: 3 Post CH2 Fader, sent\n"
+            "USB input 5: 8 MIC, sent\n");
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0206 8002 0000",
+                                      "mixer 1: 40 03 0509 8002 0000"));
+}
+
+TEST_F(Apply, SendsTheBoostLevelWithTheInputs) {
+  Remember("VRM-D6", {{"MaxLevel", 3}, {"Output0", 0}});
+  const Result result = OneMixer("ztk apply --json");
+  EXPECT_EQ(result.status, 0) << result.err;
+  const Json json = OneObject(result.out);
+  ASSERT_EQ(json["settings"].size(), 2U);
+  EXPECT_EQ(json["settings"][1],
+            Json::parse(R"({"setting":"boost","model":"VRM-D6","channel":null,
+                "number":4,"text":"-19 dB","value":3,"accepted":true})"));
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0103 8002 0000",
+                                      "mixer 1: 40 03 0000 8003 0000"));
+}
+
+TEST_F(Apply, LeavesEverythingAloneWhenNothingIsRemembered) {
+  for (const char *command :
+       {"ztk apply", "ztk apply --product VRM-B5", "ztk input apply",
+        "ztk output apply", "ztk boost apply", "ztk midi apply"}) {
+    SCOPED_TRACE(command);
+    const Result result = OneMixer(command);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out, StartsWith("Nothing is remembered for "));
+    EXPECT_THAT(Requests(), IsEmpty());
+  }
+}
+
+TEST_F(Apply, TakesAnotherModelsFamily) {
+  Remember("VRM-D6", {{"Output1", 2}});
+  Remember("VRM-B5", {{"Input1", 2}});
+  Remember("VRM-K2", {{"MidiChannel", 3}});
+  EXPECT_EQ(OneMixer("ztk apply --product VRM-B5").status, 0);
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0204 8016 0000"));
+  EXPECT_EQ(OneMixer("ztk apply --product 1").status, 0);
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0300 8004 0000"));
+}
+
+TEST_F(Apply, SendsOneChannelWhenToldSo) {
+  Remember("VRM-D6", {{"Output0", 5}, {"Output1", 5}});
+  const Result result = OneMixer("ztk input apply 2; ztk input apply 3");
+  EXPECT_EQ(Line(result.out, 1),
+            "Nothing is remembered for USB input 3: nothing to send.");
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0209 8002 0000"));
+}
+
+TEST_F(Apply, ReportsAValueThatTheLibraryRefuses) {
+  Remember("VRM-K2", {{"MidiChannel", 9}});
+  const Result result = OneMixer("ztk midi apply --json");
+  EXPECT_EQ(result.status, 4);
+  const Json json = OneObject(result.out);
+  EXPECT_EQ(json["settings"][0]["accepted"], false);
+  EXPECT_EQ(json["error"]["code"], "rejected");
+  EXPECT_THAT(result.err, HasSubstr("MIDI channel: 10 CH 10"));
+  EXPECT_THAT(result.err, HasSubstr("ztk midi set"));
+  EXPECT_THAT(Requests(), IsEmpty());
+}
+
+TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {
+  Remember("VRM-D6", {{"Output0", 5}, {"MaxLevel", 4}});
+  const Result result = OneMixer("ztk apply");
+  EXPECT_EQ(result.status, 4);
+  EXPECT_THAT(result.out, HasSubstr("USB input 1: 6 MIC, sent\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("Boost level: 4, which is no choice, refused\n"));
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0109 8002 0000"));
+}
+
+// The library would take the number for one of the next channel.
+TEST_F(Apply, NeverSendsAValueOfAnotherChannel) {
+  Remember("VRM-D6", {{"Output0", 9}});
+  Remember("VRM-B5", {{"Input0", 4}});
+  const Result result =
+      OneMixer("ztk apply; echo $?; ztk output apply; echo $?");
+  EXPECT_THAT(Line(result.out, 1), "4");
+  EXPECT_THAT(Line(result.out, 3), "4");
+  EXPECT_THAT(result.err, HasSubstr("USB input 1: 9, which is no choice"));
+  EXPECT_THAT(result.err, HasSubstr("USB output 1: 4, which is no choice"));
+  EXPECT_THAT(Requests(), IsEmpty());
+}
+
+TEST_F(Apply, SendsAPlaceholderThatAnotherProgramHasSet) {
+  Remember("VRM-D6", {{"Output0", 7}});
+  EXPECT_EQ(OneMixer("ztk apply").status, 0);
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 010f 8002 0000"));
+}
+
+TEST_F(Apply, IsThreeWithoutAMixerAndStillReportsARefusedValue) {
+  Remember("VRM-D6", {{"Output0", 5}});
+  const Result result = NoMixer("ztk apply");
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.out, "USB input 1: 6 MIC, not sent\n");
+  Remember("VRM-D6", {{"Output0", 5}, {"MaxLevel", 4}});
+  EXPECT_EQ(NoMixer("ztk apply").status, 4);
+}
+
+TEST_F(Apply, IsRejectedForAModelWithoutSettings) {
+  const Result result = OneMixer(
+      "ztk apply --product VRM-Q9; echo $?;"
+      "ztk boost apply --product VRM-B5; echo $?;"
+      "ztk input apply --product VRM-B5; echo $?");
+  EXPECT_EQ(result.out, "4\n4\n4\n");
+  EXPECT_THAT(result.err, HasSubstr("VRM-D6, VRM-B5, VRM-K2\n"));
+}
+
+TEST_F(Apply, SkipsAValueThatIsNoNumber) {
+  WriteAll(home_.SettingsFile("VRM-D6"),
+           "<plist version=\"1.0\"><dict><key>Output0</key><array/>"
+           "<key>Output1</key><string>5</string></dict></plist>");
+  EXPECT_EQ(OneMixer("ztk apply").out, "USB input 2: 6 MIC, sent\n");
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0209 8002 0000"));
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+//
+// Runs ztk as a user does: in a sandbox with virtual mixers, with a message
+// bus and a home of the test's own.
+#ifndef ZTK_TESTS_CLI_CLI_WORLD_H_
+#define ZTK_TESTS_CLI_CLI_WORLD_H_
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "support/planted_root.h"
+#include "support/private_bus.h"
+#include "support/temp_home.h"
+
+namespace ztk::test {
+
+using Json = nlohmann::json;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+struct Result {
+  int status = -1;
+  std::string out;
+  std::string err;
+};
+
+class CliWorld : public testing::Test {
+ protected:
+  CliWorld();
+  void SetUp() override;
+
+  // Runs a shell script in a sandbox with these options of "ztk-virtual-mixer
+  // run". In it $DIR is a folder for files, and ztk and ztk-virtual-mixer are
+  // found. The log of requests starts anew.
+  Result Inside(const std::vector<std::string> &options,
+                const std::string &script);
+  // The script is a single command.
+  Result OneMixer(const std::string &script) {
+    return Inside({"-n", "1"}, script);
+  }
+  Result NoMixer(const std::string &script) {
+    return Inside({"-n", "0"}, script);
+  }
+  // The same where these files stand besides those of the real system; the
+  // status is kCannotPlant where this system does not allow that.
+  static constexpr int kCannotPlant = 98;
+  Result InPlantedRoot(const Planted &files,
+                       const std::vector<std::string> &options,
+                       const std::string &script);
+
+  // The requests that the mixers got during the last run.
+  std::vector<std::string> Requests() const;
+  // Those of them that change something.
+  std::vector<std::string> Writes() const;
+  // A file that a script has left in $DIR.
+  std::string File(const std::string &name) const;
+  std::vector<std::string> Lines(const std::string &name) const;
+
+  // Puts a settings file of a model there.
+  void Remember(const std::string &model,
+                const std::vector<std::pair<std::string, int>> &values);
+  bool HasSettings(const std::string &model) const;
+
+  TempHome home_;
+  PrivateBus bus_;
+
+ private:
+  Result Run(const Planted &files, const std::vector<std::string> &words);
+};
+
+std::vector<std::string> SplitLines(const std::string &text);
+// Empty where there is no such line; counts from 0.
+std::string Line(const std::string &text, std::size_t position);
+std::string LastLine(const std::string &text);
+
+// The one object on the output; a failed test where it is something else.
+Json OneObject(const std::string &out);
+
+}  // namespace ztk::test
+
+#endif  // ZTK_TESTS_CLI_CLI_WORLD_H_

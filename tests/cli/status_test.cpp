@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "cli_world.h"
+
+namespace ztk::test {
+namespace {
+
+class Status : public CliWorld {};
+class Versions : public CliWorld {};
+
+TEST_F(Status, ShowsTheMixerAndWhatIsRemembered) {
+  Remember("VRM-D6", {{"Output1", 2}, {"MaxLevel", 0}});
+  Remember("VRM-K2", {{"MidiChannel", 40}});
+  const Result result = Inside(
+      {"-n", "1", "--selector", "2=3", "--reply", "8004=0100"}, "ztk status");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out,
+            "Mixer 1 is reachable\n"
+            "  firmware      1078 (0x0436, read as 4.36)\n"
+            "  certification level 1\n"
+            "  selectors     CH1 4   CH2 3   CH3 4   CH4 4\n"
+            "  Serato        active\n"
+            "Remembered\n"
+            "  USB input 2   3 Post CH2 Fader  (VRM-D6)\n"
+            "  Boost level   1 -5 dB  (VRM-D6)\n"
+            "  MIDI channel  40, which is no choice  (VRM-K2)\n");
+  EXPECT_THAT(result.err, IsEmpty());
+}
+
+TEST_F(Status, TellsTheSameInJson) {
+  Remember("VRM-D6", {{"Output1", 2}});
+  const Json json = OneObject(
+      Inside({"-n", "1", "--reply", "8007=01020304"}, "ztk status --json").out);
+  EXPECT_EQ(json["ok"], true);
+  EXPECT_EQ(json["connected"], true);
+  EXPECT_EQ(json["found"], 1);
+  EXPECT_EQ(json["reached"], 1);
+  EXPECT_EQ(json["mixers"], Json::parse(R"([{
+      "position":1,"reachable":true,
+      "firmware":{"number":1078,"hex":"0x0436","derived":"4.36"},
+      "certificationLevel":16909060,"selectors":[4,4,4,4],
+      "serato":"inactive"}])"));
+  EXPECT_EQ(json["remembered"], Json::parse(R"([{
+      "setting":"input","model":"VRM-D6","channel":2,"number":3,
+      "text":"Post CH2 Fader","value":2}])"));
+}
+
+TEST_F(Status, SaysThatNoMixerIsAttached) {
+  const Result result =
+      Inside({"-n", "0", "--other-devices", "4"}, "ztk status");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out, "No mixer is attached\nNothing is remembered\n");
+  const Json json = OneObject(NoMixer("ztk status --json").out);
+  EXPECT_EQ(json["connected"], false);
+  EXPECT_EQ(json["found"], 0);
+  EXPECT_EQ(json["mixers"], Json::array());
+  EXPECT_EQ(json["remembered"], Json::array());
+}
+
+TEST_F(Status, ExplainsAMixerThatMayNotBeOpened) {
+  const Result result =
+      Inside({"-n", "2", "--forbid", "1"}, "ztk status; ztk status --json");
+  EXPECT_THAT(result.out,
+              StartsWith("Mixer 1 is attached but cannot be opened\n"
+                         "Mixer 2 is reachable\n"));
+  const Json json = OneObject(LastLine(result.out) + "\n");
+  EXPECT_EQ(json["found"], 2);
+  EXPECT_EQ(json["reached"], 1);
+  EXPECT_EQ(json["mixers"][0]["reachable"], false);
+  EXPECT_THAT(json["mixers"][0]["reason"].get<std::string>(),
+              HasSubstr("/usr/lib/udev/rules.d/70-tarvix-mixer.rules"));
+  EXPECT_THAT(result.err, HasSubstr("unplug the mixer and plug it in again"));
+}
+
+TEST_F(Status, TellsEveryMixerInTheOrderOfTheBus) {
+  const Json json = OneObject(
+      Inside({"-n", "2", "--other-devices", "3", "--reply", "2:8001=0100"},
+             "ztk status --json")
+          .out);
+  EXPECT_EQ(json["mixers"][0]["firmware"]["number"], 1078);
+  EXPECT_EQ(json["mixers"][1]["firmware"]["number"], 1);
+  EXPECT_EQ(json["mixers"][1]["firmware"]["derived"], "0.01");
+}
+
+TEST_F(Status, SaysWhatAMixerDoesNotAnswer) {
+  const Result result = Inside({"-n", "1", "--fault", "stall@r8001"},
+                               "ztk status; ztk status --json");
+  EXPECT_THAT(result.out, HasSubstr("  firmware      refused by the mixer\n"));
+  const Json json = OneObject(LastLine(result.out) + "\n");
+  EXPECT_EQ(json["mixers"][0]["firmware"], nullptr);
+  EXPECT_EQ(json["mixers"][0]["unanswered"]["firmware"],
+            "refused by the mixer");
+  EXPECT_EQ(json["mixers"][0]["certificationLevel"], 1);
+}
+
+TEST_F(Status, AsksASilentMixerOnlyOnce) {
+  const Result result = Inside({"-n", "1", "--fault", "silence"}, "ztk status");
+  EXPECT_THAT(result.out, HasSubstr("  firmware      no answer\n"
+                                    "  certification not asked\n"));
+  EXPECT_EQ(Requests().size(), 1U);
+}
+
+TEST_F(Status, DoesNotTrustRepliesThatAreTooShortOrTooLarge) {
+  const Json json = OneObject(
+      Inside({"-n", "1", "--reply", "8002=0011040404", "--reply", "8004=02"},
+             "ztk status --json")
+          .out);
+  EXPECT_EQ(json["mixers"][0]["selectors"], Json::parse("[null,4,4,4]"));
+  EXPECT_EQ(json["mixers"][0]["serato"], nullptr);
+}
+
+TEST_F(Versions, SaysWhatIsNotInstalled) {
+  const Result result = NoMixer("ztk versions; ztk versions --json");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.out, StartsWith("Package  not installed\n"
+                                     "Driver   not installed\n"
+                                     "Utility  not installed\n"
+                                     "Library  not installed\n"
+                                     "ztk      1.0.0\n"));
+  EXPECT_EQ(OneObject(LastLine(result.out) + "\n")["versions"],
+            Json::parse(R"({"package":null,"driver":null,"utility":null,
+                            "library":null,"ztk":"1.0.0"})"));
+}
+
+TEST_F(Versions, ShowsWhatIs) {
+  const Result result =
+      InPlantedRoot({{"/private/var/db/receipts/com.tarvix.VRM-D6.pkg.plist",
+                      "<plist version=\"1.0\"><dict><key>PackageVersion</key>"
+                      "<string>2.0.1</string></dict></plist>"}},
+                    {"-n", "0"}, "ztk versions");
+  if (result.status == kCannotPlant) GTEST_SKIP() << "no mount namespace here";
+  EXPECT_THAT(result.out, StartsWith("Package  2.0.1\nDriver   not"));
+}
+
+}  // namespace
+}  // namespace ztk::test

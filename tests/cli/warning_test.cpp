@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+//
+// How a 101 is explained.
+#include "cli_world.h"
+
+namespace ztk::test {
+namespace {
+
+std::string Strings(const std::string &language) {
+  std::string text = "<plist version=\"1.0\"><dict>";
+  for (const char *key : {"WARNING1", "WARNING2", "WARNING3"}) {
+    text += std::string("<key>") + key + "</key><string>" + language + " " +
+            key + "\xC3\xA9</string>";
+  }
+  return text + "</dict></plist>";
+}
+
+Planted Bundle() {
+  const std::string folder =
+      "/System/Library/Frameworks/VRM-D6Setup.framework/Resources/";
+  return {{folder + "English.lproj/Localizable.strings", Strings("English")},
+          {folder + "German.lproj/Localizable.strings", Strings("German")},
+          {folder + "zh_TW.lproj/Localizable.strings", Strings("Chinese")}};
+}
+
+class Warning : public CliWorld {
+ protected:
+  // Skips the test where the system does not let the bundle be planted.
+  void WithBundle(const std::vector<std::string> &options,
+                  const std::string &script) {
+    result_ = InPlantedRoot(Bundle(), options, script);
+    if (result_.status == kCannotPlant) {
+      GTEST_SKIP() << "no mount namespace here";
+    }
+  }
+  Result result_;
+};
+
+TEST_F(Warning, IsTheLibrarysTextInTheLanguageOfTheTerminal) {
+  WithBundle({"-n", "1", "--selector", "2=1"},
+             "LC_ALL=de_DE.UTF-8 ztk input set 2 1 --json");
+  EXPECT_EQ(result_.status, 0);
+  EXPECT_EQ(result_.err, "ztk: warning: German WARNING2\xC3\xA9\n");
+  const Json json = OneObject(result_.out);
+  EXPECT_EQ(json["ok"], true);
+  EXPECT_EQ(json["result"], 101);
+  EXPECT_EQ(json["warnings"], Json({"German WARNING2\xC3\xA9"}));
+}
+
+TEST_F(Warning, StandsBesideTheErrorWithoutAMixer) {
+  WithBundle({"-n", "0"}, "ztk input set 2 1");
+  EXPECT_EQ(result_.status, 3);
+  EXPECT_EQ(Line(result_.err, 0), "ztk: warning: English WARNING1\xC3\xA9");
+  EXPECT_THAT(Line(result_.err, 1), StartsWith("ztk: no mixer is attached"));
+}
+
+TEST_F(Warning, FollowsThePort) {
+  WithBundle({"-n", "1", "--selector", "1=0", "--reply", "8006=0100"},
+             "ztk input raw 1 0 1");
+  EXPECT_EQ(result_.err, "ztk: warning: English WARNING3\xC3\xA9\n");
+}
+
+TEST_F(Warning, IsShownInAnyLanguageByNumberNameOrCode) {
+  WithBundle({"-n", "1"},
+             "ztk warning --language 3; ztk warning --language GERMAN;"
+             "ztk warning --language de; ztk warning --language zh_tw;"
+             "ztk warning --channel 4 --language 99");
+  EXPECT_EQ(result_.status, 0) << result_.err;
+  EXPECT_THAT(SplitLines(result_.out),
+              ElementsAre("German WARNING2\xC3\xA9", "German WARNING2\xC3\xA9",
+                          "German WARNING2\xC3\xA9", "Chinese WARNING2\xC3\xA9",
+                          "English WARNING2\xC3\xA9"));
+}
+
+TEST_F(Warning, IsFiveInALanguageThatIsNotThere) {
+  WithBundle({"-n", "1"}, "ztk warning --language fr");
+  EXPECT_EQ(result_.status, 5);
+  EXPECT_THAT(result_.err, HasSubstr("VRM-D6Setup.framework"));
+}
+
+TEST_F(Warning, IsExplainedPlainlyWithoutTheBundle) {
+  const Result result =
+      Inside({"-n", "1", "--selector", "1=0"}, "ztk input set 1 1");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.err, StartsWith("ztk: warning: the mixer's input "
+                                     "selector does not stand where USB "
+                                     "input 1 can be heard"));
+  EXPECT_EQ(SplitLines(result.err).size(), 1U);
+}
+
+TEST_F(Warning, SaysThatTheFifthChannelHasNoSelector) {
+  const Result result =
+      OneMixer("ztk input set 5 1; echo $?; ztk warning --channel 5; echo $?");
+  EXPECT_THAT(result.err, HasSubstr("warning: USB input 5 has no input "
+                                    "selector, so the mixer cannot tell"));
+  EXPECT_EQ(Line(result.out, 1), "0");
+  EXPECT_EQ(Line(result.out, 2), "4");
+}
+
+TEST_F(Warning, RefusesWrongWords) {
+  const Result result = OneMixer(
+      "ztk warning --channel 6; echo $?; ztk warning --channel x; echo $?;"
+      "ztk warning --language klingon; echo $?;"
+      "ztk warning --language 12; echo $?");
+  EXPECT_EQ(result.out, "2\n2\n2\n2\n");
+  EXPECT_THAT(result.err, HasSubstr("accepted, by number, name or ISO code: "
+                                    "0 English, 1 Japanese"));
+  EXPECT_THAT(Requests(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace ztk::test

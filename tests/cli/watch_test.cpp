@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include <chrono>
+#include <thread>
+
+#include "cli_world.h"
+#include "platform/notification_center.h"
+
+namespace ztk::test {
+namespace {
+
+namespace center = platform::notification_center;
+
+// A script may wait for the watcher, but not for ever.
+constexpr char kStart[] =
+    "await() { tries=0; until eval \"$1\"; do tries=$((tries + 1));\n"
+    "  [ $tries -lt 6000 ] || { echo gave up on: \"$1\"; exit 97; }\n"
+    "  sleep 0.01; done; }\n"
+    "trap 'kill $watcher 2> /dev/null' EXIT\n";
+
+class Watch : public CliWorld {
+ protected:
+  // Starts a watcher, makes the changes once it hears them, and sends the
+  // signal after $DIR/seen has so many lines. Its status is printed last.
+  Result WatchUntil(int lines, const std::string &options,
+                    const std::string &changes, const std::string &signal) {
+    return OneMixer(std::string(kStart) + "ztk watch " + options +
+                    " > $DIR/seen 2> $DIR/ready & watcher=$!\n"
+                    "await 'grep -q watching $DIR/ready'\n" +
+                    changes + "\nawait '[ $(wc -l < $DIR/seen) -ge " +
+                    std::to_string(lines) + " ]'\nkill -" + signal +
+                    " $watcher; wait $watcher; echo status $?");
+  }
+
+  // Posts what only a foreign program would, once the watcher is ready.
+  void PostForeign(std::int32_t channel, std::int32_t index) const {
+    for (int tries = 0; tries < 6000; ++tries) {
+      if (File("ready").find("watching") != std::string::npos) break;
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    const center::Entry entries[] = {{.key = "ProductID", .value = 10},
+                                     {.key = "Channel", .value = channel},
+                                     {.key = "Index", .value = index}};
+    center::UserInfo *userInfo = center::MakeUserInfo(entries, 3);
+    center::Post("VRM-D6 InputAudio Change", userInfo,
+                 center::Delivery::Immediately);
+    center::Release(userInfo);
+  }
+};
+
+TEST_F(Watch, ShowsAChangeOfEveryFamilyMadeByAnotherProcess) {
+  const Result result = WatchUntil(4, "",
+                                   "ztk input set 3 mic; ztk output set 2 aux;"
+                                   "ztk boost set -10; ztk midi set 16",
+                                   "INT");
+  EXPECT_THAT(result.out, HasSubstr("status 0\n"));
+  EXPECT_THAT(Lines("seen"),
+              testing::UnorderedElementsAre(
+                  "USB input 3: 6 MIC", "USB output 2: 3 AUX",
+                  "Boost level: 2 -10 dB", "MIDI channel: 16 CH 16"));
+}
+
+TEST_F(Watch, WritesOneObjectALine) {
+  const Result result =
+      WatchUntil(2, "--json", "ztk input set 3 mic; ztk boost set 1", "TERM");
+  EXPECT_THAT(result.out, HasSubstr("status 0\n"));
+  const std::vector<std::string> lines = Lines("seen");
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_EQ(OneObject(lines[0]), Json::parse(R"({"schema":1,"command":"watch",
+      "ok":true,"setting":"input","model":"VRM-D6","channel":3,"number":6,
+      "text":"MIC","value":5})"));
+  EXPECT_EQ(OneObject(lines[1])["channel"], nullptr);
+  EXPECT_EQ(OneObject(lines[1])["text"], "-5 dB");
+}
+
+TEST_F(Watch, TakesAnyNumberFromAnyProgram) {
+  WriteAll(home_.path() / "ready", "");
+  std::thread poster([this] {
+    PostForeign(-7, 99);
+    PostForeign(1, -1);
+    PostForeign(2147483647, 0);
+  });
+  const Result result = WatchUntil(3, "", "", "INT");
+  poster.join();
+  EXPECT_THAT(result.out, HasSubstr("status 0\n"));
+  EXPECT_THAT(Lines("seen"),
+              ElementsAre("USB input (unknown channel -7): 99",
+                          "USB input 2: -1, which is no choice",
+                          "USB input (unknown channel 2147483647): 0"));
+}
+
+TEST_F(Watch, IsFiveWithoutABus) {
+  const Result result = OneMixer(
+      "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent ztk watch --json");
+  EXPECT_EQ(result.status, 5);
+  EXPECT_THAT(result.err, HasSubstr("no session message bus"));
+  EXPECT_EQ(OneObject(result.out)["error"]["code"], "failed");
+}
+
+TEST_F(Watch, IsFiveOnceTheBusHasGone) {
+  WriteAll(home_.path() / "ready", "");
+  std::thread killer([this] {
+    for (int tries = 0; tries < 6000; ++tries) {
+      if (File("ready").find("watching") != std::string::npos) break;
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    bus_.Stop();
+  });
+  const Result result = OneMixer("ztk watch 2> $DIR/ready");
+  killer.join();
+  EXPECT_EQ(result.status, 5);
+  EXPECT_THAT(File("ready"), HasSubstr("it has gone"));
+}
+
+// The first connection that is opened would take the stream's number, and the
+// lines would go to the bus.
+TEST_F(Watch, WritesToNobodyWhenItsOutputIsClosed) {
+  const Result result =
+      OneMixer(std::string(kStart) +
+               "ztk watch >&- 2> $DIR/ready & watcher=$!\n"
+               "await 'grep -q watching $DIR/ready'\n"
+               "ztk boost set 1 > /dev/null; wait $watcher; echo status $?");
+  EXPECT_EQ(result.out, "status 5\n");
+  EXPECT_THAT(File("ready"), HasSubstr("cannot write the output: Bad file"));
+}
+
+TEST_F(Watch, IsFiveOnceItsOutputIsFull) {
+  const Result result =
+      OneMixer(std::string(kStart) +
+               "ztk watch > /dev/full 2> $DIR/ready & watcher=$!\n"
+               "await 'grep -q watching $DIR/ready'\n"
+               "ztk boost set 1 > /dev/null; wait $watcher; echo status $?");
+  EXPECT_EQ(result.out, "status 5\n");
+  EXPECT_THAT(File("ready"), HasSubstr("cannot write the output: No space"));
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+//
+// Sending what is remembered again.
+#include <algorithm>
+
+#include "mixers.h"
+#include "products.h"
+#include "setting_commands.h"
+
+namespace ztk::cli {
+
+namespace {
+
+// A setting that has a value in its file.
+struct Setting {
+  const Family *family;
+  std::uint32_t channel;
+  std::uint32_t index;
+  bool refused = false;
+};
+
+void AddRemembered(const Family &family,
+                   const std::vector<std::uint32_t> &channels,
+                   std::vector<Setting> *settings) {
+  for (const std::uint32_t channel : channels) {
+    const auto index = Remembered(family, channel);
+    if (!index) continue;
+    settings->push_back(
+        {.family = &family, .channel = channel, .index = *index});
+  }
+}
+
+// The library addresses its values across the channels: a remembered number
+// behind a channel's choices would send a value of another channel, which is
+// not what was remembered.
+bool BelongsToItsChannel(const Setting &setting) {
+  const Family &family = *setting.family;
+  const std::size_t choices =
+      ChoicesOf(family, family.product, setting.channel).size();
+  return setting.index < choices + family.placeholders;
+}
+
+void SendAgain(Setting *setting) {
+  const Family &family = *setting->family;
+  setting->refused =
+      !BelongsToItsChannel(*setting) ||
+      family.sendAgain(family.product, setting->channel) != ZTK_SUCCESS;
+}
+
+std::string NamedValue(const Setting &setting) {
+  return PlaceName(*setting.family, setting.channel) + ": " +
+         DescribedValue(*setting.family, setting.channel, setting.index);
+}
+
+void AddSetting(const Setting &setting, bool reached, Report *report) {
+  Json fields;
+  fields["setting"] = setting.family->name;
+  fields["model"] = ModelName(*setting.family);
+  AddValueFields(*setting.family, setting.channel, setting.index, &fields);
+  fields["accepted"] = !setting.refused;
+  report->fields["settings"].push_back(std::move(fields));
+  report->text += NamedValue(setting) + ", " +
+                  (setting.refused ? "refused"
+                   : reached       ? "sent"
+                                   : "not sent") +
+                  "\n";
+}
+
+// A refused value is the more urgent problem: it does not go away by itself.
+void AddRefused(const std::vector<Setting> &settings, Report *report) {
+  std::vector<std::string> refused;
+  std::string remedy;
+  for (const Setting &setting : settings) {
+    if (!setting.refused) continue;
+    refused.push_back(NamedValue(setting));
+    remedy = std::string("ztk ") + setting.family->name + " set";
+  }
+  if (refused.empty()) return;
+  if (report->problem) report->warnings.push_back(report->problem->message);
+  report->problem = {
+      .exit = ExitCode::Rejected,
+      .message = "remembered, but refused when sent again: " + Listed(refused) +
+                 "; choose another one with: " + remedy};
+}
+
+Report Apply(std::vector<Setting> settings, const std::string &what) {
+  Report report;
+  report.fields["settings"] = Json::array();
+  if (settings.empty()) {
+    report.text = "Nothing is remembered for " + what + ": nothing to send.\n";
+    return report;
+  }
+  const Sent sent = SendAndLook([&settings] {
+    for (Setting &setting : settings) SendAgain(&setting);
+    return ZTK_SUCCESS;
+  });
+  for (const Setting &setting : settings) {
+    AddSetting(setting, !sent.reach.reached.empty(), &report);
+  }
+  AddReach(sent.reach, "nothing was sent; what is remembered stays so",
+           &report);
+  AddRefused(settings, &report);
+  return report;
+}
+
+}  // namespace
+
+Report ApplyFamily(const Family &family, const Arguments &arguments) {
+  const std::uint32_t product = ProductFor(family, arguments);
+  const std::vector<std::uint32_t> channels = ChannelsFor(family, arguments);
+  // Throws when the product is not served.
+  ChoicesOf(family, product, channels.front());
+  if (product != family.product) {
+    throw Failure(ExitCode::Rejected,
+                  "nothing is remembered for the " + ProductName(product) +
+                      ": " + Belonging(family) + " Leave --product out");
+  }
+  std::vector<Setting> settings;
+  AddRemembered(family, channels, &settings);
+  return Apply(std::move(settings), channels.size() == 1
+                                        ? PlaceName(family, channels.front())
+                                        : family.title);
+}
+
+Report ApplyAll(const Arguments &arguments) {
+  const std::string *word = arguments.Find(Parameter::Product);
+  const std::uint32_t product =
+      word == nullptr ? kOwnProduct : ParseProduct(*word);
+  std::vector<Setting> settings;
+  std::vector<std::string> models;
+  bool known = false;
+  for (const Family *family : Families()) {
+    const std::string model = ModelName(*family);
+    if (std::find(models.begin(), models.end(), model) == models.end()) {
+      models.push_back(model);
+    }
+    if (family->product != product) continue;
+    known = true;
+    AddRemembered(*family, ChannelsFor(*family, {}), &settings);
+  }
+  if (!known) {
+    throw Failure(
+        ExitCode::Rejected,
+        "no setting belongs to the " + ProductName(product) +
+            "; those of these models are remembered: " + Listed(models));
+  }
+  return Apply(std::move(settings), "the " + ProductName(product));
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+#include "command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <deque>
+#include <map>
+
+#include "build_config.h"
+#include "commands.h"
+
+namespace ztk::cli {
+
+namespace {
+
+constexpr char kAbout[] =
+    "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
+    "Channels and choices count from 1, as they are listed.";
+constexpr char kFooter[] =
+    "Exit status:\n"
+    "  0  done; a warning, if there is one, stands on the error stream\n"
+    "  2  the words were wrong; nothing was sent\n"
+    "  3  no mixer was reached; a choice that was set is remembered\n"
+    "  4  rejected by the library: a model, value or remembered value that\n"
+    "     it does not take\n"
+    "  5  something else failed\n"
+    "\n"
+    "Example: ztk input set 2 \"post ch2 fader\"";
+
+// The words of one option or position, until they are read.
+struct Slot {
+  Parameter parameter;
+  bool required = false;
+  CLI::Option *option = nullptr;
+  std::vector<std::string> words;
+};
+
+std::string SeeHelp(const std::string &path) {
+  return "; see ztk " + (path.empty() ? "" : path + " ") + "--help";
+}
+
+std::string Footer(const std::string &note, const std::string &example) {
+  return note + "\nExample: " + example;
+}
+
+// The parser made from the table of commands. Nothing is required of it and
+// extra words are let through: what is wrong is said better here.
+class Parser {
+ public:
+  Parser() : app_(kAbout, "ztk") {
+    Prepare(&app_, kFooter);
+    app_.set_version_flag("--version", std::string("ztk ") + build::kVersion,
+                          "Show the version");
+    for (const Command &command : Commands()) Add(command);
+  }
+
+  // Throws what CLI11 throws.
+  void Parse(std::vector<std::string> words) {
+    std::reverse(words.begin(), words.end());
+    app_.parse(words);
+  }
+
+  // The app that the words led to, checking on the way that all were used.
+  const CLI::App *Selected() const {
+    const CLI::App *app = &app_;
+    while (true) {
+      const std::vector<CLI::App *> chosen = app->get_subcommands();
+      Check(*app, chosen.empty());
+      if (chosen.empty()) return app;
+      app = chosen.front();
+    }
+  }
+
+  // "input set", as far as it was recognised.
+  std::string Path() const {
+    std::string path;
+    const CLI::App *app = &app_;
+    while (!app->get_subcommands().empty()) {
+      app = app->get_subcommands().front();
+      path += (path.empty() ? "" : " ") + app->get_name();
+    }
+    return path;
+  }
+
+  // Shows what is required only now, as parsing must not insist on it.
+  std::string Help() {
+    for (auto &[app, slots] : slots_) {
+      for (Slot &slot : slots) slot.option->required(slot.required);
+    }
+    return app_.help();
+  }
+
+  Arguments ArgumentsOf(const CLI::App *app) const {
+    Arguments arguments;
+    arguments.json = json_;
+    const auto found = slots_.find(app);
+    if (found == slots_.end()) return arguments;
+    for (const Slot &slot : found->second) {
+      if (slot.option->count() == 0) continue;
+      std::string joined;
+      for (const std::string &word : slot.option->results()) {
+        joined += (joined.empty() ? "" : " ") + word;
+      }
+      arguments.given[slot.parameter] = joined;
+    }
+    return arguments;
+  }
+
+  const Command *CommandOf(const CLI::App *app) const {
+    const auto found = commands_.find(app);
+    return found == commands_.end() ? nullptr : found->second;
+  }
+
+ private:
+  void Prepare(CLI::App *app, const std::string &footer) {
+    app->allow_extras();
+    app->require_subcommand(0, 1);
+    app->get_formatter()->column_width(24);
+    app->set_help_flag("-h,--help", "Show this help");
+    app->add_flag("--json", json_, "Answer in JSON")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    app->footer(footer);
+  }
+
+  void Add(const Command &command) {
+    CLI::App *parent = &app_;
+    std::string name = command.path;
+    if (const std::size_t space = name.find(' '); space != std::string::npos) {
+      parent = GroupApp(name.substr(0, space));
+      name = name.substr(space + 1);
+    }
+    CLI::App *app = parent->add_subcommand(name, command.summary);
+    Prepare(app, Footer(command.note, command.example));
+    commands_[app] = &command;
+    for (const ParameterUse &use : command.parameters) AddUse(use, app);
+  }
+
+  CLI::App *GroupApp(const std::string &name) {
+    for (CLI::App *known : app_.get_subcommands({})) {
+      if (known->get_name() == name) return known;
+    }
+    for (const Group &group : Groups()) {
+      if (group.name != name) continue;
+      CLI::App *app = app_.add_subcommand(name, group.summary);
+      Prepare(app, Footer(group.note, group.example));
+      return app;
+    }
+    throw std::logic_error("a command without its group: " + name);
+  }
+
+  void AddUse(const ParameterUse &use, CLI::App *app) {
+    // A deque keeps its members where they are; the parser fills them in.
+    Slot &slot = slots_[app].emplace_back();
+    slot.parameter = use.parameter;
+    slot.required = use.required;
+    slot.option = app->add_option(ParameterName(use.parameter), slot.words,
+                                  use.description);
+    if (use.parameter != Parameter::Choice) {
+      slot.option->expected(1)->allow_extra_args(false);
+    }
+    slot.option->type_name(ParameterValueName(use.parameter));
+  }
+
+  // Throws when words are left over or a command is missing.
+  void Check(const CLI::App &app, bool isLast) const {
+    std::vector<std::string> extras = app.remaining();
+    // The mark before words that are no options is left over, and is no word.
+    std::erase(extras, "--");
+    const bool isGroup = CommandOf(&app) == nullptr;
+    if (extras.empty() && !(isLast && isGroup)) return;
+    const std::string path = Path();
+    const std::string place = path.empty() ? "" : " after \"" + path + "\"";
+    std::string message;
+    if (extras.empty()) {
+      message = "a command is missing" + place;
+    } else if (extras.front().starts_with("-")) {
+      message = "no option " + Quoted(extras.front()) + place;
+    } else if (isGroup) {
+      message = "no command " + Quoted(extras.front()) + place;
+    } else {
+      message = "one word too many" + place + ": " + Quoted(extras.front());
+    }
+    throw Failure(ExitCode::Usage, message + Accepted(app) + SeeHelp(path));
+  }
+
+  // The commands that could have stood there, where there are any.
+  static std::string Accepted(const CLI::App &app) {
+    std::vector<std::string> names;
+    for (const CLI::App *child : app.get_subcommands({})) {
+      names.push_back(child->get_name());
+    }
+    return names.empty() ? "" : "; accepted: " + Listed(names);
+  }
+
+  CLI::App app_;
+  bool json_ = false;
+  std::map<const CLI::App *, const Command *> commands_;
+  std::map<const CLI::App *, std::deque<Slot>> slots_;
+};
+
+// Known before the words are understood, because errors are told in it too.
+bool AsksForJson(const std::vector<std::string> &words) {
+  const auto end = std::find(words.begin(), words.end(), "--");
+  return std::find(words.begin(), end, "--json") != end;
+}
+
+Report Told(const char *name, const std::string &text) {
+  Report report;
+  report.text = text;
+  report.fields[name] = text;
+  return report;
+}
+
+}  // namespace
+
+Report Run(const std::vector<std::string> &words, Call *call) {
+  call->json = AsksForJson(words);
+  Parser parser;
+  try {
+    parser.Parse(words);
+  } catch (const CLI::CallForHelp &) {
+    call->command = parser.Path();
+    return Told("help", parser.Help());
+  } catch (const CLI::CallForVersion &) {
+    Report report = Told("version", build::kVersion);
+    report.text = std::string("ztk ") + build::kVersion + "\n";
+    return report;
+  } catch (const CLI::ParseError &error) {
+    call->command = parser.Path();
+    throw Failure(ExitCode::Usage,
+                  OneLine(error.what()) + SeeHelp(call->command));
+  }
+  call->command = parser.Path();
+  const CLI::App *selected = parser.Selected();
+  Arguments arguments = parser.ArgumentsOf(selected);
+  call->json = arguments.json;
+  return parser.CommandOf(selected)->run(arguments);
+}
+
+}  // namespace ztk::cli

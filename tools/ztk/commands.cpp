@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "commands.h"
+
+#include "families.h"
+#include "other_commands.h"
+#include "setting_commands.h"
+
+namespace ztk::cli {
+
+namespace {
+
+using Run = Report (*)(const Family &family, const Arguments &arguments);
+
+ParameterUse ProductOption(const std::string &otherwise) {
+  return {.parameter = Parameter::Product,
+          .required = false,
+          .description = "Model by name or number; else the " + otherwise};
+}
+
+// N, where the setting has channels.
+void AddChannel(const Family &family, bool required,
+                std::vector<ParameterUse> *uses) {
+  if (family.channels == 0) return;
+  std::string text = "Channel, 1 to " + std::to_string(family.channels);
+  if (!required) text += "; all when left out";
+  uses->push_back({.parameter = Parameter::Channel,
+                   .required = required,
+                   .description = text});
+}
+
+Command MakeCommand(const Family &family, const char *verb,
+                    const std::string &summary, const std::string &words,
+                    Run run) {
+  std::string path = std::string(family.name) + " " + verb;
+  std::string example = "ztk " + path;
+  if (!words.empty()) example += " " + words;
+  return {.path = path,
+          .summary = summary,
+          .parameters = {},
+          .note = Belonging(family),
+          .example = example,
+          .run = [&family, run](const Arguments &arguments) {
+            return run(family, arguments);
+          }};
+}
+
+// list, get and apply, which differ in nothing but what they run.
+Command MakePlain(const Family &family, const char *verb,
+                  const std::string &summary, Run run) {
+  Command command =
+      MakeCommand(family, verb, summary, family.channels == 0 ? "" : "1", run);
+  AddChannel(family, false, &command.parameters);
+  command.parameters.push_back(ProductOption(ModelName(family)));
+  return command;
+}
+
+Command MakeSet(const Family &family) {
+  Command command = MakeCommand(
+      family, "set", "Choose: send it to every mixer and remember it",
+      family.example, SetChoice);
+  AddChannel(family, true, &command.parameters);
+  command.parameters.push_back(
+      {.parameter = Parameter::Choice,
+       .required = true,
+       .description = "Number as listed (from 1), text, or its beginning"});
+  command.parameters.push_back(ProductOption(ModelName(family)));
+  return command;
+}
+
+Command MakeRaw() {
+  Command command = MakeCommand(
+      kInput, "raw", "Send a raw routing value; it is not remembered", "2 0 3",
+      SendRaw);
+  AddChannel(kInput, true, &command.parameters);
+  command.parameters.push_back(
+      {.parameter = Parameter::High,
+       .required = true,
+       .description = "Number whose low four bits, plus 1, go on top"});
+  command.parameters.push_back({.parameter = Parameter::Source,
+                                .required = true,
+                                .description = "Source code, 0 to 15"});
+  command.parameters.push_back(ProductOption(ModelName(kInput)));
+  return command;
+}
+
+void AddFamily(const Family &family, std::vector<Command> *commands) {
+  commands->push_back(MakePlain(
+      family, "list", "List the choices with their numbers", ListChoices));
+  commands->push_back(
+      MakePlain(family, "get", "Show what is remembered", GetRemembered));
+  commands->push_back(MakeSet(family));
+  if (&family == &kOutput) {
+    commands->push_back(MakePlain(family, "default",
+                                  "Send the default; it is not remembered",
+                                  SendDefault));
+  }
+  commands->push_back(
+      MakePlain(family, "apply", "Send what is remembered again", ApplyFamily));
+  if (&family == &kInput) commands->push_back(MakeRaw());
+}
+
+void AddOthers(std::vector<Command> *commands) {
+  commands->push_back(
+      {.path = "apply",
+       .summary = "Send all that is remembered for a model again",
+       .parameters = {ProductOption("VRM-D6")},
+       .note = "Only settings with a remembered value are sent. With another\n"
+               "model, what is remembered for that one: --product VRM-B5 for\n"
+               "USB output audio, --product VRM-K2 for the MIDI channel.",
+       .example = "ztk apply",
+       .run = ApplyAll});
+  commands->push_back(
+      {.path = "watch",
+       .summary = "Show changes made by any program, until interrupted",
+       .parameters = {},
+       .note = "Heard are all programs of your session.",
+       .example = "ztk watch --json",
+       .run = Watch});
+  commands->push_back(
+      {.path = "warning",
+       .summary = "Show the text that explains a routing without sound",
+       .parameters = {{.parameter = Parameter::OfChannel,
+                       .required = false,
+                       .description = "Channel, 1 to 4; else 1"},
+                      {.parameter = Parameter::Language,
+                       .required = false,
+                       .description = "As German, de or 3; else your own"}},
+       .note = "Without a mixer the text is always in your own language.",
+       .example = "ztk warning --language de",
+       .run = ShowWarning});
+  commands->push_back({.path = "versions",
+                       .summary = "Show the versions of the installed pieces",
+                       .parameters = {},
+                       .note = "They belong to the VRM-D6.",
+                       .example = "ztk versions",
+                       .run = ShowVersions});
+}
+
+std::vector<Command> MakeCommands() {
+  std::vector<Command> commands;
+  commands.push_back({.path = "status",
+                      .summary = "Show the mixers and what is remembered",
+                      .parameters = {},
+                      .note = "Mixers are numbered in the order of the bus.",
+                      .example = "ztk status",
+                      .run = ShowStatus});
+  for (const Family *family : Families()) AddFamily(*family, &commands);
+  AddOthers(&commands);
+  return commands;
+}
+
+std::vector<Group> MakeGroups() {
+  std::vector<Group> groups;
+  for (const Family *family : Families()) {
+    groups.push_back({.name = family->name,
+                      .summary = Summary(*family),
+                      .note = Belonging(*family),
+                      .example = std::string("ztk ") + family->name + " set " +
+                                 family->example});
+  }
+  return groups;
+}
+
+}  // namespace
+
+const std::vector<Command> &Commands() {
+  static const std::vector<Command> commands = MakeCommands();
+  return commands;
+}
+
+const std::vector<Group> &Groups() {
+  static const std::vector<Group> groups = MakeGroups();
+  return groups;
+}
+
+const char *ParameterName(Parameter parameter) {
+  switch (parameter) {
+    case Parameter::Channel:
+      return "N";
+    case Parameter::Choice:
+      return "CHOICE";
+    case Parameter::High:
+      return "HIGH";
+    case Parameter::Source:
+      return "SOURCE";
+    case Parameter::Product:
+      return "--product";
+    case Parameter::OfChannel:
+      return "--channel";
+    case Parameter::Language:
+      break;
+  }
+  return "--language";
+}
+
+const char *ParameterValueName(Parameter parameter) {
+  switch (parameter) {
+    case Parameter::Product:
+      return "MODEL";
+    case Parameter::OfChannel:
+      return "N";
+    case Parameter::Language:
+      return "L";
+    default:
+      break;
+  }
+  return "";
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "families.h"
+
+#include "products.h"
+#include "store/settings_file.h"
+#include "text.h"
+
+namespace ztk::cli {
+
+const Family kInput{
+    .name = "input",
+    .title = "USB input audio",
+    .place = "USB input",
+    .idea = "what is recorded",
+    .example = "2 \"post ch2 fader\"",
+    .product = 10,
+    .model = ZTK_TEXT("VRM-D6"),
+    .key = ZTK_TEXT("Output%d"),
+    .channels = 5,
+    .placeholders = 1,
+    .count = ZTK_GetNumOfInputAudioIndex,
+    .text =
+        [](std::uint32_t product, std::uint32_t channel, std::uint32_t index,
+           ZTKTextRef *outText) {
+          return ZTK_GetUSBInputAudioText(
+              product, static_cast<std::int32_t>(channel), index, 0, outText);
+        },
+    .set = ZTK_SetUSBInputAudio,
+    .current =
+        [](std::uint32_t product, std::uint32_t channel,
+           std::uint32_t *outIndex) {
+          return ZTK_GetCurrentUSBInputAudioIndex(
+              product, static_cast<std::int32_t>(channel), outIndex);
+        },
+    .sendAgain = ZTK_SetCurrentUSBInputAudio};
+
+const Family kOutput{.name = "output",
+                     .title = "USB output audio",
+                     .place = "USB output",
+                     .idea = "where playback goes",
+                     .example = "2 aux",
+                     .product = 8,
+                     .model = ZTK_TEXT("VRM-B5"),
+                     .key = ZTK_TEXT("Input%d"),
+                     .channels = 3,
+                     .placeholders = 0,
+                     .count = ZTK_GetNumOfOutputAudioIndex,
+                     .text =
+                         [](std::uint32_t product, std::uint32_t channel,
+                            std::uint32_t index, ZTKTextRef *outText) {
+                           return ZTK_GetUSBOutputAudioText(product, channel,
+                                                            index, 0, outText);
+                         },
+                     .set = ZTK_SetUSBOutputAudio,
+                     .current = ZTK_GetCurrentUSBOutputAudioIndex,
+                     .sendAgain = ZTK_SetCurrentUSBOutputAudio};
+
+const Family kBoost{
+    .name = "boost",
+    .title = "Boost level",
+    .place = "Boost level",
+    .idea = "how loud recording is",
+    .example = "\"-10 dB\"",
+    .product = 10,
+    .model = ZTK_TEXT("VRM-D6"),
+    .key = ZTK_TEXT("MaxLevel"),
+    .channels = 0,
+    .placeholders = 0,
+    .count =
+        [](std::uint32_t product, std::uint32_t /*channel*/,
+           std::uint32_t *outCount) {
+          return ZTK_GetNumOfBoostLevelIndex(product, outCount);
+        },
+    .text =
+        [](std::uint32_t product, std::uint32_t /*channel*/,
+           std::uint32_t index, ZTKTextRef *outText) {
+          return ZTK_GetBoostLevelText(product, index, 0, outText);
+        },
+    .set =
+        [](std::uint32_t product, std::uint32_t /*channel*/,
+           std::uint32_t index) {
+          return ZTK_SetBoostLevelIndex(product, index);
+        },
+    .current =
+        [](std::uint32_t product, std::uint32_t /*channel*/,
+           std::uint32_t *outIndex) {
+          return ZTK_GetCurrentBoostLevelIndex(product, outIndex);
+        },
+    .sendAgain =
+        [](std::uint32_t product, std::uint32_t /*channel*/) {
+          return ZTK_SetCurrentBoostLevelIndex(product);
+        }};
+
+const Family kMidi{
+    .name = "midi",
+    .title = "MIDI channel",
+    .place = "MIDI channel",
+    .idea = "what its controls send on",
+    .example = "\"ch 3\"",
+    .product = 1,
+    .model = ZTK_TEXT("VRM-K2"),
+    .key = ZTK_TEXT("MidiChannel"),
+    .channels = 0,
+    .placeholders = 0,
+    .count =
+        [](std::uint32_t product, std::uint32_t /*channel*/,
+           std::uint32_t *outCount) {
+          return ZTK_GetNumOfMidiChannelIndex(product, outCount);
+        },
+    .text =
+        [](std::uint32_t product, std::uint32_t /*channel*/,
+           std::uint32_t index, ZTKTextRef *outText) {
+          return ZTK_GetMidiChannelText(product, index, 0, outText);
+        },
+    .set =
+        [](std::uint32_t product, std::uint32_t /*channel*/,
+           std::uint32_t index) {
+          return ZTK_SetMidiChannelIndex(product, index);
+        },
+    .current =
+        [](std::uint32_t product, std::uint32_t /*channel*/,
+           std::uint32_t *outIndex) {
+          return ZTK_GetCurrentMidiChannelIndex(product, outIndex);
+        },
+    .sendAgain =
+        [](std::uint32_t product, std::uint32_t /*channel*/) {
+          return ZTK_SetCurrentMidiChannelIndex(product);
+        }};
+
+namespace {
+
+// In the order in which people are told of them.
+constexpr const Family *kFamilies[] = {&kInput, &kOutput, &kBoost, &kMidi};
+
+std::uint32_t Read(const Family &family, std::uint32_t channel,
+                   std::int32_t fallback) {
+  return static_cast<std::uint32_t>(
+      family.channels == 0
+          ? store::Read(family.model, family.key, fallback)
+          : store::ReadChannel(family.model, family.key, channel, fallback));
+}
+
+}  // namespace
+
+std::span<const Family *const> Families() { return kFamilies; }
+
+std::uint32_t ChannelsToWalk(const Family &family) {
+  return family.channels == 0 ? 1 : family.channels;
+}
+
+std::string ModelName(const Family &family) { return Utf8(family.model); }
+
+std::string Belonging(const Family &family) {
+  return std::string(family.title) + " belongs to the " + ModelName(family) +
+         ".";
+}
+
+std::string Summary(const Family &family) {
+  return std::string(family.title) + " of the " + ModelName(family) + ": " +
+         family.idea;
+}
+
+std::string PlaceName(const Family &family, std::uint32_t channel) {
+  if (family.channels == 0) return family.place;
+  return std::string(family.place) + " " + std::to_string(channel + 1);
+}
+
+std::vector<Choice> ChoicesOf(const Family &family, std::uint32_t product,
+                              std::uint32_t channel) {
+  std::uint32_t count = 0;
+  if (family.count(product, channel, &count) != ZTK_SUCCESS) {
+    throw Failure(ExitCode::Rejected,
+                  "the " + ProductName(product) + " is not served: " +
+                      Belonging(family) + " Leave --product out");
+  }
+  std::vector<Choice> choices;
+  for (std::uint32_t index = 0; index < count; ++index) {
+    ZTKTextRef text = nullptr;
+    family.text(product, channel, index, &text);
+    choices.push_back({.number = index + 1, .text = Utf8(text)});
+  }
+  return choices;
+}
+
+std::optional<Choice> ChoiceAt(const Family &family, std::uint32_t channel,
+                               std::uint32_t index) {
+  const std::vector<Choice> choices =
+      ChoicesOf(family, family.product, channel);
+  if (index >= choices.size()) return std::nullopt;
+  return choices[index];
+}
+
+std::optional<std::uint32_t> Remembered(const Family &family,
+                                        std::uint32_t channel) {
+  // What is there reads the same whatever would stand in for it.
+  const std::uint32_t value = Read(family, channel, 0);
+  if (value != Read(family, channel, 1)) return std::nullopt;
+  return value;
+}
+
+std::string DescribedValue(const Family &family, std::uint32_t channel,
+                           std::uint32_t index) {
+  const std::optional<Choice> choice = ChoiceAt(family, channel, index);
+  if (choice) return Described(*choice);
+  return std::to_string(static_cast<std::int32_t>(index)) +
+         ", which is no choice";
+}
+
+void AddValueFields(const Family &family, std::uint32_t channel,
+                    std::uint32_t index, Json *fields) {
+  const std::optional<Choice> choice = ChoiceAt(family, channel, index);
+  (*fields)["channel"] = ChannelField(family, channel);
+  (*fields)["number"] = choice ? Json(choice->number) : Json();
+  (*fields)["text"] = choice ? Json(choice->text) : Json();
+  (*fields)["value"] = static_cast<std::int32_t>(index);
+}
+
+Json ChannelField(const Family &family, std::uint32_t channel) {
+  return family.channels == 0 ? Json() : Json(channel + 1);
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "output.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+
+namespace ztk::cli {
+
+namespace {
+
+// Waits until a stream that does not block can take more.
+bool WaitUntilWritable(int stream) {
+  pollfd polled{.fd = stream, .events = POLLOUT, .revents = 0};
+  return poll(&polled, 1, -1) > 0 || errno == EINTR;
+}
+
+bool WriteAll(int stream, const std::string &text) {
+  std::size_t done = 0;
+  while (done < text.size()) {
+    const ssize_t written =
+        write(stream, text.data() + done, text.size() - done);
+    if (written >= 0) {
+      done += static_cast<std::size_t>(written);
+    } else if (errno == EAGAIN) {
+      if (!WaitUntilWritable(stream)) return false;
+    } else if (errno != EINTR) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+void PrepareStreams() {
+  std::signal(SIGPIPE, SIG_IGN);
+  for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+    if (fcntl(stream, F_GETFD) >= 0 || errno != EBADF) continue;
+    // The lowest free number is this one, as those below are open. A folder
+    // can neither be read nor written, and this one is always there.
+    if (open("/", O_RDONLY | O_DIRECTORY) < 0) return;
+  }
+}
+
+bool WriteOutput(const std::string &text) {
+  return WriteAll(STDOUT_FILENO, text);
+}
+
+void WriteError(const std::string &line) {
+  WriteAll(STDERR_FILENO, "ztk: " + OneLine(line) + "\n");
+}
+
+int Print(const std::string &command, const Report &report, bool json) {
+  bool written = true;
+  int error = 0;
+  if (!report.written || (json && report.problem)) {
+    written =
+        WriteOutput(json ? JsonLine(command, report) + "\n" : report.text);
+    error = errno;
+  }
+  for (const std::string &warning : report.warnings) {
+    WriteError("warning: " + warning);
+  }
+  if (report.problem) WriteError(report.problem->message);
+  if (!written) {
+    WriteError(std::string("cannot write the output: ") + std::strerror(error) +
+               "; what it would have said is lost");
+    return static_cast<int>(ExitCode::Failed);
+  }
+  return static_cast<int>(report.problem ? report.problem->exit
+                                         : ExitCode::Done);
+}
+
+}  // namespace ztk::cli

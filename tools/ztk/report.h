@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+//
+// What a command has to say, before it is known who reads it.
+#ifndef ZTK_TOOLS_ZTK_REPORT_H_
+#define ZTK_TOOLS_ZTK_REPORT_H_
+
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace ztk::cli {
+
+// Keeps its members in the order in which they were added.
+using Json = nlohmann::ordered_json;
+
+// Raised whenever a field is removed or changes its meaning.
+inline constexpr int kJsonSchema = 1;
+
+enum class ExitCode : std::uint8_t {
+  Done = 0,
+  Usage = 2,
+  NoMixer = 3,
+  Rejected = 4,
+  Failed = 5
+};
+
+// Why a command did not do all that was asked. One line, for people.
+struct Problem {
+  ExitCode exit;
+  std::string message;
+};
+
+// Thrown where there is nothing to report but the problem.
+class Failure : public std::runtime_error {
+ public:
+  Failure(ExitCode exit, const std::string &message)
+      : std::runtime_error(message), exit_(exit) {}
+  Problem problem() const { return {.exit = exit_, .message = what()}; }
+
+ private:
+  ExitCode exit_;
+};
+
+struct Report {
+  std::string text;              // for people: whole lines
+  Json fields = Json::object();  // for programs
+  std::vector<std::string> warnings;
+  std::optional<Problem> problem;
+  // The command wrote its output as it went: only a problem is left to tell.
+  bool written = false;
+};
+
+// The one object that a program reads, as one line without its end.
+std::string JsonLine(const std::string &command, const Report &report);
+
+// The word that stands for the exit code in a JSON error.
+const char *ErrorWord(ExitCode exit);
+
+// One line of text from anything: control characters become spaces. Texts of
+// the library and words of the user go through it on their way to a terminal.
+std::string OneLine(const std::string &text);
+
+// A word of the user's in quotation marks, on one line and not too long.
+std::string Quoted(const std::string &word);
+
+// "a, b, c"
+std::string Listed(const std::vector<std::string> &words);
+
+// Fills up with spaces to the width, so that columns align.
+std::string Padded(const std::string &text, std::size_t width);
+
+}  // namespace ztk::cli
+
+#endif  // ZTK_TOOLS_ZTK_REPORT_H_

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include <array>
+#include <cstdio>
+
+#include "advice.h"
+#include "families.h"
+#include "mixers.h"
+#include "other_commands.h"
+#include "products.h"
+#include "usb/mixers.h"
+
+namespace ztk::cli {
+
+namespace {
+
+constexpr std::uint16_t kFirmwareLength = 2;  // bytes
+constexpr std::uint16_t kCertifyLevelLength = 4;
+constexpr std::uint16_t kSelectorLength = 5;
+constexpr std::uint16_t kSeratoLength = 2;
+
+constexpr int kSelectors = 4;
+constexpr std::uint8_t kSelectorPositions = 17;
+
+// What a reply is preset to, as a read does not tell how much came.
+constexpr std::uint8_t kUntouched = 0xFF;
+
+constexpr std::size_t kColumn = 15;
+
+// One fact: a value for programs, and words for people.
+struct Fact {
+  const char *name;
+  const char *title;
+  Json value;
+  std::string words;
+};
+
+using Read = usb::Code (*)(usb::Connection device, std::uint8_t *buffer,
+                           std::uint16_t length);
+
+// Asks one mixer. After a request without an answer the others are not sent:
+// each would be waited for as long.
+class Interview {
+ public:
+  explicit Interview(usb::Connection mixer) : mixer_(mixer) {}
+
+  // Empty when it answered; else why not.
+  std::string Ask(Read read, usb::Reply *reply, std::uint16_t length) {
+    for (std::uint16_t i = 0; i < length; ++i) reply->bytes[i] = kUntouched;
+    if (silent_) return "not asked";
+    const usb::Code code = read(mixer_, reply->bytes, length);
+    if (code == platform::usb::kSuccess) return "";
+    silent_ = code == platform::usb::kTimeout;
+    return Described(code);
+  }
+
+ private:
+  usb::Connection mixer_;
+  bool silent_ = false;
+};
+
+std::string Formatted(const char *format, unsigned first, unsigned second = 0) {
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), format, first, second);
+  return text.data();
+}
+
+Fact Firmware(Interview *interview) {
+  Fact fact{.name = "firmware", .title = "firmware", .value = {}, .words = {}};
+  usb::Reply reply;
+  fact.words =
+      interview->Ask(GetFirmwareVersionNumber, &reply, kFirmwareLength);
+  if (!fact.words.empty()) return fact;
+  const unsigned low = reply.bytes[0];
+  const unsigned high = reply.bytes[1];
+  const unsigned number = low | high << 8;
+  const std::string hex = Formatted("0x%04X", number);
+  // Only the number is the mixer's; the version is read from its bytes.
+  const std::string version = Formatted("%x.%02x", high, low);
+  fact.value = {{"number", number}, {"hex", hex}, {"derived", version}};
+  fact.words =
+      std::to_string(number) + " (" + hex + ", read as " + version + ")";
+  return fact;
+}
+
+Fact CertificationLevel(Interview *interview) {
+  Fact fact{.name = "certificationLevel",
+            .title = "certification",
+            .value = {},
+            .words = {}};
+  usb::Reply reply;
+  fact.words = interview->Ask(GetCertifyLevel, &reply, kCertifyLevelLength);
+  if (!fact.words.empty()) return fact;
+  std::uint32_t level = 0;
+  for (int i = 0; i < kCertifyLevelLength; ++i) {
+    level = level << 8 | reply.bytes[i];
+  }
+  fact.value = level;
+  fact.words = "level " + std::to_string(level);
+  return fact;
+}
+
+Fact Selectors(Interview *interview) {
+  Fact fact{
+      .name = "selectors", .title = "selectors", .value = {}, .words = {}};
+  usb::Reply reply;
+  fact.words = interview->Ask(GetInputSelectorInfo, &reply, kSelectorLength);
+  if (!fact.words.empty()) return fact;
+  fact.value = Json::array();
+  for (int channel = 0; channel < kSelectors; ++channel) {
+    // The first byte has no meaning here.
+    const std::uint8_t position = reply.bytes[channel + 1];
+    const bool known = position < kSelectorPositions;
+    fact.value.push_back(known ? Json(position) : Json());
+    if (channel > 0) fact.words += "   ";
+    fact.words += "CH" + std::to_string(channel + 1) + " " +
+                  (known ? std::to_string(position) : "unknown");
+  }
+  return fact;
+}
+
+Fact Serato(Interview *interview) {
+  Fact fact{.name = "serato", .title = "Serato", .value = {}, .words = {}};
+  usb::Reply reply;
+  fact.words = interview->Ask(GetSeratoActiveInfo, &reply, kSeratoLength);
+  if (!fact.words.empty()) return fact;
+  const std::uint8_t state = reply.bytes[0];
+  if (state > 1) {
+    fact.words = "unknown";
+    return fact;
+  }
+  fact.value = state == 1 ? "active" : "inactive";
+  fact.words = state == 1 ? "active" : "not active";
+  return fact;
+}
+
+std::string Row(const std::string &title, const std::string &words) {
+  return Padded("  " + title, kColumn) + " " + words + "\n";
+}
+
+// A fact whose value is null carries its words, which say why.
+void AddFact(Fact fact, Json *fields, std::string *text) {
+  if (fact.value.is_null()) {
+    (*fields)["unanswered"][fact.name] = fact.words;
+  }
+  (*fields)[fact.name] = std::move(fact.value);
+  *text += Row(fact.title, fact.words);
+}
+
+// True when it was reached.
+bool AddMixer(int position, Json *mixers, std::string *text) {
+  const usb::OpenMixer mixer(position);
+  Json fields{{"position", position + 1},
+              {"reachable", static_cast<bool>(mixer)}};
+  *text += "Mixer " + std::to_string(position + 1) +
+           (mixer ? " is reachable\n" : " is attached but cannot be opened\n");
+  if (mixer) {
+    Interview interview(mixer.connection());
+    AddFact(Firmware(&interview), &fields, text);
+    AddFact(CertificationLevel(&interview), &fields, text);
+    AddFact(Selectors(&interview), &fields, text);
+    AddFact(Serato(&interview), &fields, text);
+  } else {
+    fields["reason"] = AdviceWhenNotOpened();
+  }
+  mixers->push_back(std::move(fields));
+  return static_cast<bool>(mixer);
+}
+
+void AddMixers(Report *report) {
+  const int found = CheckUSBAudio(kOwnProduct);
+  Json mixers = Json::array();
+  int reached = 0;
+  std::string text;
+  for (int position = 0; position < found; ++position) {
+    if (AddMixer(position, &mixers, &text)) ++reached;
+  }
+  report->fields["connected"] = found > 0;
+  report->fields["found"] = found;
+  report->fields["reached"] = reached;
+  report->fields["mixers"] = std::move(mixers);
+  report->text = found == 0 ? "No mixer is attached\n" : text;
+  if (reached < found) {
+    report->warnings.push_back("a mixer cannot be opened: " +
+                               AdviceWhenNotOpened());
+  }
+}
+
+void AddRemembered(Report *report) {
+  Json list = Json::array();
+  std::string text;
+  for (const Family *family : Families()) {
+    for (std::uint32_t channel = 0; channel < ChannelsToWalk(*family);
+         ++channel) {
+      const auto index = Remembered(*family, channel);
+      if (!index) continue;
+      Json fields{{"setting", family->name}, {"model", ModelName(*family)}};
+      AddValueFields(*family, channel, *index, &fields);
+      list.push_back(std::move(fields));
+      text += Row(PlaceName(*family, channel),
+                  DescribedValue(*family, channel, *index) + "  (" +
+                      ModelName(*family) + ")");
+    }
+  }
+  report->fields["remembered"] = std::move(list);
+  report->text +=
+      text.empty() ? "Nothing is remembered\n" : "Remembered\n" + text;
+}
+
+}  // namespace
+
+Report ShowStatus(const Arguments & /*arguments*/) {
+  Report report;
+  AddMixers(&report);
+  AddRemembered(&report);
+  return report;
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "warning.h"
+
+#include "families.h"
+#include "other_commands.h"
+#include "products.h"
+#include "text.h"
+#include "words.h"
+
+namespace ztk::cli {
+
+namespace {
+
+constexpr std::uint32_t kUsersLanguage = 99;
+
+// The library's languages: its number, its folder, and what else they are
+// called.
+struct Language {
+  std::uint32_t number;
+  const char *folder;
+  const char *code;
+  const char *otherCode;
+};
+constexpr Language kLanguages[] = {
+    {.number = 0, .folder = "English", .code = "en", .otherCode = "eng"},
+    {.number = 1, .folder = "Japanese", .code = "ja", .otherCode = "jpn"},
+    {.number = 2, .folder = "French", .code = "fr", .otherCode = "fra"},
+    {.number = 3, .folder = "German", .code = "de", .otherCode = "deu"},
+    {.number = 4, .folder = "Italian", .code = "it", .otherCode = "ita"},
+    {.number = 5, .folder = "Dutch", .code = "nl", .otherCode = "nld"},
+    {.number = 6, .folder = "Spanish", .code = "es", .otherCode = "spa"},
+    {.number = 7, .folder = "ru", .code = "Russian", .otherCode = "rus"},
+    {.number = 8, .folder = "pt", .code = "Portuguese", .otherCode = "por"},
+    {.number = 9, .folder = "zh_CN", .code = "zh-CN", .otherCode = "zh-Hans"},
+    {.number = 10, .folder = "zh_TW", .code = "zh-TW", .otherCode = "zh-Hant"},
+    {.number = 11, .folder = "ko", .code = "Korean", .otherCode = "kor"}};
+
+std::uint32_t ParseLanguage(const std::string &word) {
+  const std::string wanted = LowerCase(word);
+  const auto number = ParseNumber(word);
+  std::vector<std::string> accepted;
+  for (const Language &language : kLanguages) {
+    if (number == language.number ||
+        wanted == LowerCase(std::string(language.folder)) ||
+        wanted == LowerCase(std::string(language.code)) ||
+        wanted == LowerCase(std::string(language.otherCode))) {
+      return language.number;
+    }
+    accepted.push_back(std::to_string(language.number) + " " + language.folder);
+  }
+  if (number == kUsersLanguage) return kUsersLanguage;
+  throw Failure(ExitCode::Usage,
+                "no language " + Quoted(word) +
+                    "; accepted, by number, name or ISO code: " +
+                    Listed(accepted) + ", 99 your own");
+}
+
+// Null when the library has no sentence.
+ZTKResult Sentence(std::uint32_t channel, std::uint32_t language,
+                   ZTKTextRef *text) {
+  *text = nullptr;
+  return ZTK_GetWarningTextForSetUSBAudioInput(kOwnProduct, channel,
+                                               ZTK_WARNING, language, text);
+}
+
+std::string PlainSentence(const Reach &reach, const std::string &place) {
+  if (reach.found == 0) return "no mixer is attached: " + place + " is silent";
+  return "the mixer's input selector does not stand where " + place +
+         " can be heard; position 4 is needed, ztk status shows where it "
+         "stands";
+}
+
+}  // namespace
+
+void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
+  ZTKTextRef text = nullptr;
+  const std::string place = PlaceName(kInput, channel);
+  if (Sentence(channel, kUsersLanguage, &text) != ZTK_SUCCESS) {
+    // The fifth channel: no selector belongs to it.
+    report->warnings.push_back(
+        reach.found == 0
+            ? PlainSentence(reach, place)
+            : place +
+                  " has no input selector, so the mixer cannot tell "
+                  "whether this routing can be heard");
+    return;
+  }
+  report->warnings.push_back(text != nullptr
+                                 ? Utf8(text)
+                                 : PlainSentence(reach, place) +
+                                       " (the translated text is missing: "
+                                       "install VRM-D6Setup.framework)");
+}
+
+Report ShowWarning(const Arguments &arguments) {
+  std::uint32_t channel = 0;
+  if (const std::string *word = arguments.Find(Parameter::OfChannel)) {
+    const auto number = ParseNumber(*word);
+    if (!number || *number < 1 || *number > kInput.channels) {
+      throw Failure(ExitCode::Usage, "USB input audio has no channel " +
+                                         Quoted(*word) + "; accepted: 1 to 4");
+    }
+    channel = *number - 1;
+  }
+  std::uint32_t language = kUsersLanguage;
+  if (const std::string *word = arguments.Find(Parameter::Language)) {
+    language = ParseLanguage(*word);
+  }
+  ZTKTextRef text = nullptr;
+  const ZTKResult result = Sentence(channel, language, &text);
+  if (result == ZTK_REJECTED) {
+    throw Failure(ExitCode::Rejected, PlaceName(kInput, channel) +
+                                          " has no input selector, so the "
+                                          "library has no text for it; "
+                                          "accepted: 1 to 4");
+  }
+  if (text == nullptr) {
+    throw Failure(ExitCode::Failed,
+                  "the library finds no such text: make sure that "
+                  "VRM-D6Setup.framework is installed");
+  }
+  Report report;
+  report.text = OneLine(Utf8(text)) + "\n";
+  report.fields = {{"result", result},
+                   {"channel", channel + 1},
+                   {"language", language},
+                   {"text", Utf8(text)}};
+  return report;
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_TOOLS_ZTK_WARNING_H_
+#define ZTK_TOOLS_ZTK_WARNING_H_
+
+#include <cstdint>
+
+#include "mixers.h"
+#include "report.h"
+
+namespace ztk::cli {
+
+// Adds to the warnings what a 101 for a channel of USB input audio means: the
+// library's sentence in the user's language, or one of this program where the
+// library has none. May ask the first mixer for the state of its port.
+void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
+
+}  // namespace ztk::cli
+
+#endif  // ZTK_TOOLS_ZTK_WARNING_H_
