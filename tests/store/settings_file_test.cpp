@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "store/settings_file.h"
+
+#include "support/core_test.h"
+
+namespace ztk::test {
+namespace {
+
+using fake::Entries;
+using fake::Held;
+
+const ZTKTextRef kD6 = ZTK_TEXT("VRM-D6");
+const ZTKTextRef kB5 = ZTK_TEXT("VRM-B5");
+
+class Read : public CoreTest {};
+
+TEST_F(Read, AnswersTheFallbackWithoutAFileAndCreatesNone) {
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", -8), -8);
+  EXPECT_THAT(TheWorld().files, IsEmpty());
+  EXPECT_THAT(TakeSteps(), IsEmpty());
+}
+
+TEST_F(Read, AnswersTheFallbackForAKeyThatIsNotThere) {
+  TheWorld().files[kD6File] = {{"maxlevel", 2}, {"MaxLevel2", 1}};
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+}
+
+TEST_F(Read, AnswersTheFallbackForAnEntryOfAnotherKind) {
+  TheWorld().files[kD6File] = {{"MaxLevel", {}}};
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+}
+
+TEST_F(Read, AnswersTheIntegerWhateverItIs) {
+  for (const std::int32_t value : {0, 2, 99, -1, 2147483647, INT32_MIN}) {
+    SCOPED_TRACE(value);
+    TheWorld().files[kD6File] = {{"MaxLevel", value}};
+    EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), value);
+  }
+}
+
+TEST_F(Read, TakesTheNumberOfAText) {
+  TheWorld().files[kD6File] = {{"MaxLevel", "5"}};
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 5);
+  TheWorld().files[kD6File] = {{"MaxLevel", "loud"}};
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 0);
+}
+
+TEST_F(Read, ReadsTheFileOnceAndGivesItBack) {
+  TheWorld().files[kD6File] = {{"MaxLevel", 2}};
+  store::Read(kD6, "MaxLevel", 3);
+  EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kD6File,
+                                       "release dictionary"));
+  EXPECT_EQ(TheWorld().held, Held{});
+}
+
+TEST_F(Read, KeepsNothingFromCallToCall) {
+  TheWorld().files[kD6File] = {{"MaxLevel", 2}};
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 2);
+  TheWorld().files[kD6File] = {{"MaxLevel", 1}};
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 1);
+  TheWorld().files.clear();
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+}
+
+TEST_F(Read, AnswersTheFallbackWithoutALibraryDirectory) {
+  TheWorld().hasLibrary = false;
+  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+  EXPECT_THAT(TakeCalls(), IsEmpty());
+}
+
+TEST_F(Read, LooksWhereTheUsersLibraryIs) {
+  TheWorld().library = "/home/dj/.config/tarvix";
+  store::Read(kB5, "Input0", 0);
+  EXPECT_THAT(TakeCalls(),
+              ElementsAre("read file /home/dj/.config/tarvix/Preferences/"
+                          "com.tarvix.VRM-B5autosetup.plist"));
+}
+
+class ReadChannel : public CoreTest {};
+
+TEST_F(ReadChannel, PutsTheChannelIntoTheKey) {
+  TheWorld().files[kD6File] = {{"Output0", 10}, {"Output4", 14}};
+  EXPECT_EQ(store::ReadChannel(kD6, "Output%d", 0, 7), 10);
+  EXPECT_EQ(store::ReadChannel(kD6, "Output%d", 4, 7), 14);
+  EXPECT_EQ(store::ReadChannel(kD6, "Output%d", 3, 7), 7);
+}
+
+class Write : public CoreTest {};
+
+TEST_F(Write, CreatesTheFileWithTheOneKey) {
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
+}
+
+TEST_F(Write, KeepsEveryOtherKeyOfWhateverKind) {
+  TheWorld().files[kD6File] = {
+      {"MaxLevel", 2}, {"Foo", "bar"}, {"Other", {}}, {"Output1", "6"}};
+  store::Write(kD6, "Output0", 1);
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2},
+                                                   {"Foo", "bar"},
+                                                   {"Other", {}},
+                                                   {"Output0", 1},
+                                                   {"Output1", "6"}}));
+}
+
+TEST_F(Write, ReplacesWhatStoodUnderTheKey) {
+  TheWorld().files[kD6File] = {{"MaxLevel", "loud"}};
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
+}
+
+TEST_F(Write, MergesThenSetsThenWritesThenGivesBack) {
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_THAT(
+      TakeCalls(),
+      ElementsAre("make dictionary", std::string("add entries of ") + kD6File,
+                  "set MaxLevel 2", std::string("write ") + kD6File,
+                  "release dictionary"));
+  EXPECT_EQ(TheWorld().held, Held{});
+}
+
+TEST_F(Write, StoresASigned32BitNumber) {
+  store::Write(kD6, "MaxLevel", 0xFFFFFFFF);
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", -1}}));
+}
+
+TEST_F(Write, IgnoresAFailureAndLeavesTheOldFile) {
+  TheWorld().files[kD6File] = {{"MaxLevel", 3}};
+  TheWorld().canWrite = false;
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_THAT(TakeSteps(),
+              ElementsAre(std::string("write ") + kD6File + " {MaxLevel=2}"));
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(TheWorld().held, Held{});
+}
+
+TEST_F(Write, DoesNothingWithoutALibraryDirectory) {
+  TheWorld().hasLibrary = false;
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_THAT(TakeCalls(), IsEmpty());
+  EXPECT_THAT(TheWorld().files, IsEmpty());
+}
+
+TEST_F(Write, TouchesTheFileOfItsModelOnly) {
+  TheWorld().files[kD6File] = {{"MaxLevel", 3}};
+  store::Write(kB5, "Input0", 1);
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(TheWorld().files.at(kB5File), (Entries{{"Input0", 1}}));
+}
+
+class WriteChannel : public CoreTest {};
+
+TEST_F(WriteChannel, PutsTheChannelIntoTheKey) {
+  store::WriteChannel(kB5, "Input%d", 0, 2);
+  store::WriteChannel(kB5, "Input%d", 4, 1);
+  EXPECT_EQ(TheWorld().files.at(kB5File),
+            (Entries{{"Input0", 2}, {"Input4", 1}}));
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+//
+// Counting and choosing. Occupied slots, references and closing have their own
+// file, USB_slot_test.cpp.
+#include "usb/USB.h"
+
+#include "support/core_test.h"
+#include "usb/odd_devices.h"
+
+namespace ztk::test {
+namespace {
+
+using usb::Connection;
+
+class CheckUSBAudioTest : public CoreTest {};
+
+TEST_F(CheckUSBAudioTest, CountsTheMixersAndNobodyElse) {
+  EXPECT_EQ(CheckUSBAudio(10), 0);
+  TheWorld().bus = {SameMakersOtherProduct(), OtherMakersSameProduct(),
+                    Stranger()};
+  EXPECT_EQ(CheckUSBAudio(10), 0);
+  TheWorld().bus = {Mixer(),    SameMakersOtherProduct(), Mixer(),
+                    Stranger(), OtherMakersSameProduct(), Mixer()};
+  EXPECT_EQ(CheckUSBAudio(10), 3);
+}
+
+TEST_F(CheckUSBAudioTest, IgnoresTheProductId) {
+  TheWorld().bus = {Mixer(), Mixer()};
+  for (const std::uint32_t productId : {0u, 8u, 10u, 11u, 0xFFFFFFFFu}) {
+    SCOPED_TRACE(productId);
+    EXPECT_EQ(CheckUSBAudio(productId), 2);
+  }
+}
+
+TEST_F(CheckUSBAudioTest, LeavesTwoNumbersAndOnePortAndNothingElse) {
+  TheWorld().bus = {Stranger(), Mixer(), Mixer()};
+  EXPECT_EQ(CheckUSBAudio(10), 2);
+  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
+  EXPECT_EQ(CheckUSBAudio(10), 2);
+  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 2, .numbers = 4}));
+}
+
+TEST_F(CheckUSBAudioTest, NarrowsTheMatchingAndOpensNothing) {
+  TheWorld().bus = {Stranger(), Mixer(), Mixer()};
+  CheckUSBAudio(10);
+  EXPECT_THAT(
+      TakeCalls(),
+      ElementsAre("get master port", "create matching IOUSBDevice",
+                  "make number 26214", "match idVendor 26214", "make number 27",
+                  "match idProduct 27", "find services that match",
+                  "next service", "release service", "next service",
+                  "release service", "no further service", "release iterator"));
+}
+
+TEST_F(CheckUSBAudioTest, CountsMixersThatCannotBeOpened) {
+  TheWorld().bus = {OutOfReach(), WithoutInterface(), MixerFailingAtPlugIn()};
+  EXPECT_EQ(CheckUSBAudio(10), 3);
+}
+
+TEST_F(CheckUSBAudioTest, GoesOnWithoutAMasterPort) {
+  TheWorld().bus = {Mixer()};
+  TheWorld().masterPortResult = kNotResponding;
+  EXPECT_EQ(CheckUSBAudio(10), 1);
+  EXPECT_EQ(TheWorld().held, (fake::Held{.numbers = 2}));
+}
+
+TEST_F(CheckUSBAudioTest, IsZeroWithoutAMatching) {
+  TheWorld().bus = {Mixer()};
+  TheWorld().hasMatching = false;
+  EXPECT_EQ(CheckUSBAudio(10), 0);
+  EXPECT_THAT(TakeCalls(),
+              ElementsAre("get master port", "create matching IOUSBDevice"));
+  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 1}));
+}
+
+TEST_F(CheckUSBAudioTest, IsZeroWhenTheEnumerationFails) {
+  TheWorld().bus = {Mixer()};
+  TheWorld().findResult = kNotResponding;
+  EXPECT_EQ(CheckUSBAudio(10), 0);
+  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
+}
+
+TEST_F(CheckUSBAudioTest, IsZeroWithoutAnIterator) {
+  TheWorld().bus = {Mixer()};
+  TheWorld().hasIterator = false;
+  EXPECT_EQ(CheckUSBAudio(10), 0);
+  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
+}
+
+class OpenPipesTest : public CoreTest {};
+
+TEST_F(OpenPipesTest, TouchesNothingForANullSlot) {
+  TheWorld().bus = {Mixer()};
+  EXPECT_EQ(open_pipes(nullptr, 0), kGeneralError);
+  EXPECT_THAT(TakeCalls(), IsEmpty());
+}
+
+TEST_F(OpenPipesTest, EmptiesTheSlotFirst) {
+  TheWorld().bus = {Mixer()};
+  Connection old = nullptr;
+  ASSERT_EQ(open_pipes(&old, 0), 0u);
+  Connection slot = old;
+  EXPECT_EQ(open_pipes(&slot, 0), 0u);
+  EXPECT_NE(slot, nullptr);
+  EXPECT_NE(slot, old);
+
+  slot = old;
+  EXPECT_EQ(open_pipes(&slot, 1), kGeneralError);
+  EXPECT_EQ(slot, nullptr);
+}
+
+TEST_F(OpenPipesTest, OpensTheMixersInRegistryOrder) {
+  TheWorld().bus = {Stranger(), Mixer(), SameMakersOtherProduct(), Mixer()};
+  Connection first = nullptr;
+  Connection second = nullptr;
+  EXPECT_EQ(open_pipes(&first, 0), 0u);
+  EXPECT_EQ(open_pipes(&second, 1), 0u);
+  EXPECT_NE(first, second);
+  EXPECT_THAT(TakeSteps(), ElementsAre("open 1", "open 2"));
+}
+
+TEST_F(OpenPipesTest, ChoosesNoDeviceOfAnotherMakerOrWithAnotherProduct) {
+  TheWorld().bus = {OtherMakersSameProduct(), SameMakersOtherProduct(),
+                    Stranger()};
+  Connection slot = nullptr;
+  EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
+  EXPECT_EQ(slot, nullptr);
+  TheWorld().bus.push_back(Mixer());
+  EXPECT_EQ(open_pipes(&slot, 0), 0u);
+  EXPECT_THAT(TakeSteps(), ElementsAre("open 1"));
+}
+
+TEST_F(OpenPipesTest, ReportsAnIndexBeyondTheMixers) {
+  TheWorld().bus = {Mixer(), Mixer(), Stranger()};
+  for (const std::uint32_t index : {2u, 3u, 0x80000000u, 0xFFFFFFFFu}) {
+    SCOPED_TRACE(index);
+    Connection slot = nullptr;
+    EXPECT_EQ(open_pipes(&slot, index), kGeneralError);
+    EXPECT_EQ(slot, nullptr);
+  }
+  EXPECT_THAT(TakeSteps(), IsEmpty());
+  EXPECT_EQ(TheWorld().held, fake::Held{});
+}
+
+TEST_F(OpenPipesTest, SearchesEveryDeviceAndAsksEachForItsIdentity) {
+  TheWorld().bus = {Stranger(), Mixer(), Stranger()};
+  Connection slot = nullptr;
+  EXPECT_EQ(open_pipes(&slot, 0), 0u);
+  EXPECT_THAT(
+      TakeCalls(),
+      ElementsAre("get master port", "create matching IOUSBDevice",
+                  "find every service",
+                  // A device before the chosen one.
+                  "next service", "create plug-in", "release service",
+                  "query device interface", "release plug-in", "get class",
+                  "get subclass", "get vendor", "get product",
+                  "release device interface",
+                  // The chosen one.
+                  "next service", "create plug-in", "release service",
+                  "query device interface", "release plug-in", "get class",
+                  "get subclass", "get vendor", "get product", "make ready",
+                  // A device after it: asked all the same, and not released.
+                  "next service", "create plug-in", "release service",
+                  "query device interface", "release plug-in", "get class",
+                  "get subclass", "get vendor", "get product",
+                  // The end.
+                  "no further service", "release iterator",
+                  "release master port"));
+}
+
+TEST_F(OpenPipesTest, AsksNothingFurtherOfADeviceThatFailedOnce) {
+  TheWorld().bus = {MixerFailing(kDefects[2]), Mixer()};
+  Connection slot = nullptr;
+  EXPECT_EQ(open_pipes(&slot, 0), 0u);
+  EXPECT_THAT(
+      TakeCalls(),
+      ElementsAre("get master port", "create matching IOUSBDevice",
+                  "find every service", "next service", "create plug-in",
+                  "release service", "query device interface",
+                  "release plug-in", "get class", "get subclass",
+                  "release device interface", "next service", "create plug-in",
+                  "release service", "query device interface",
+                  "release plug-in", "get class", "get subclass", "get vendor",
+                  "get product", "make ready", "no further service",
+                  "release iterator", "release master port"));
+}
+
+TEST_F(OpenPipesTest, PassesOverADeviceBeforeTheChosenOneThatFails) {
+  for (const Defect &defect : kDefects) {
+    SCOPED_TRACE(defect.name);
+    TheWorld() = World{};
+    TheWorld().bus = {MixerFailing(defect), Mixer()};
+    Connection slot = nullptr;
+    EXPECT_EQ(open_pipes(&slot, 0), 0u);
+    ASSERT_NE(slot, nullptr);
+    closeUSB(&slot);
+    EXPECT_EQ(TheWorld().held, fake::Held{});
+  }
+}
+
+TEST_F(OpenPipesTest, HoldsTheMixerYetFailsWhenADeviceAfterItFails) {
+  for (const Defect &defect : kDefects) {
+    SCOPED_TRACE(defect.name);
+    TheWorld() = World{};
+    TheWorld().bus = {Mixer(), MixerFailing(defect)};
+    Connection slot = nullptr;
+    EXPECT_EQ(open_pipes(&slot, 0), kNotResponding);
+    ASSERT_NE(slot, nullptr);
+    SetMixerOutputSetting(slot, 0);
+    EXPECT_THAT(TakeSteps(),
+                ElementsAre("open 1", "mixer 1: 40 03 0000 8002 0000"));
+  }
+}
+
+TEST_F(OpenPipesTest, AnswersForTheLastDeviceOnly) {
+  TheWorld().bus = {Mixer(), MixerFailingAtPlugIn(), Stranger()};
+  Connection slot = nullptr;
+  EXPECT_EQ(open_pipes(&slot, 0), 0u);
+  EXPECT_NE(slot, nullptr);
+}
+
+TEST_F(OpenPipesTest, PassesOverADeviceWithoutAnInterface) {
+  TheWorld().bus = {WithoutInterface(), Mixer(), WithoutInterface()};
+  Connection slot = nullptr;
+  EXPECT_EQ(open_pipes(&slot, 0), 0u);
+  ASSERT_NE(slot, nullptr);
+  closeUSB(&slot);
+  EXPECT_EQ(TheWorld().held, fake::Held{});
+  EXPECT_EQ(open_pipes(&slot, 1), kGeneralError);
+}
+
+TEST_F(OpenPipesTest, FailsAndLeavesTheSlotEmptyForAMixerOutOfReach) {
+  TheWorld().bus = {OutOfReach(), Mixer()};
+  Connection slot = nullptr;
+  EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
+  EXPECT_EQ(slot, nullptr);
+  EXPECT_EQ(open_pipes(&slot, 1), 0u);
+  EXPECT_NE(slot, nullptr);
+  EXPECT_THAT(TakeSteps(), ElementsAre("cannot open 1", "open 2"));
+}
+
+TEST_F(OpenPipesTest, FailsWhenTheBusCannotBeReadAndHoldsNothing) {
+  for (const BusDefect &defect :
+       {kNoPort, kNoMatching, kNoServices, kNoIterator}) {
+    SCOPED_TRACE(defect.name);
+    TheWorld() = World{};
+    TheWorld().bus = {Mixer()};
+    defect.breakIt(&TheWorld());
+    Connection slot = nullptr;
+    EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
+    EXPECT_EQ(slot, nullptr);
+    EXPECT_THAT(TakeSteps(), IsEmpty());
+    EXPECT_EQ(TheWorld().held, fake::Held{});
+  }
+}
+
+TEST_F(OpenPipesTest, AsksNothingOfARegistryThatHasNoPort) {
+  TheWorld().masterPortResult = kNotResponding;
+  Connection slot = nullptr;
+  open_pipes(&slot, 0);
+  EXPECT_THAT(TakeCalls(), ElementsAre("get master port"));
+}
+
+}  // namespace
+}  // namespace ztk::test

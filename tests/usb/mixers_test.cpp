@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "usb/mixers.h"
+
+#include "support/core_test.h"
+#include "usb/odd_devices.h"
+
+namespace ztk::test {
+namespace {
+
+using fake::Held;
+
+class OpenMixer : public CoreTest {};
+
+TEST_F(OpenMixer, ClosesWhatItOpenedAtTheEndOfTheScope) {
+  TheWorld().bus = {Stranger(), Mixer(), Mixer()};
+  {
+    const usb::OpenMixer mixer(1);
+    EXPECT_TRUE(mixer);
+    EXPECT_NE(mixer.connection(), nullptr);
+    EXPECT_THAT(TakeSteps(), ElementsAre("open 2"));
+  }
+  EXPECT_THAT(TakeSteps(), ElementsAre("close 2"));
+  EXPECT_EQ(TheWorld().held, Held{});
+}
+
+TEST_F(OpenMixer, IsEmptyAndClosesNothingWhereThereIsNone) {
+  TheWorld().bus = {Mixer()};
+  { EXPECT_FALSE(usb::OpenMixer(1)); }
+  EXPECT_THAT(TakeSteps(), IsEmpty());
+}
+
+TEST_F(OpenMixer, IsEmptyForAMixerOutOfReach) {
+  TheWorld().bus = {OutOfReach()};
+  { EXPECT_FALSE(usb::OpenMixer(0)); }
+  EXPECT_THAT(TakeSteps(), ElementsAre("cannot open 1"));
+}
+
+// The search answers an error although the slot is filled: nobody closes it.
+TEST_F(OpenMixer, IsEmptyAndClosesNothingWhenADeviceAfterTheMixerFails) {
+  TheWorld().bus = {Mixer(), MixerFailingAtPlugIn()};
+  {
+    const usb::OpenMixer mixer(0);
+    EXPECT_FALSE(mixer);
+    EXPECT_NE(mixer.connection(), nullptr);
+  }
+  EXPECT_THAT(TakeSteps(), ElementsAre("open 1"));
+  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 1}));
+}
+
+class SendToEveryMixer : public CoreTest {};
+
+TEST_F(SendToEveryMixer, CountsThenOpensSendsAndClosesEachInTurn) {
+  TheWorld().bus = {Mixer(), Stranger(), Mixer()};
+  EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206), 2);
+  EXPECT_THAT(
+      TakeSteps(),
+      ElementsAre("count", "open 1", "mixer 1: 40 03 0206 8002 0000", "close 1",
+                  "open 2", "mixer 2: 40 03 0206 8002 0000", "close 2"));
+}
+
+TEST_F(SendToEveryMixer, OnlyCountsWithoutAMixer) {
+  TheWorld().bus = {Stranger(), SameMakersOtherProduct()};
+  EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206), 0);
+  EXPECT_THAT(TakeSteps(), ElementsAre("count"));
+}
+
+TEST_F(SendToEveryMixer, SkipsAMixerThatDoesNotOpenAndGoesOn) {
+  TheWorld().bus = {OutOfReach(), Mixer()};
+  EXPECT_EQ(usb::SendToEveryMixer(10, SetMidiChannelSetting, 0x0F00), 2);
+  EXPECT_THAT(TakeSteps(),
+              ElementsAre("count", "cannot open 1", "open 2",
+                          "mixer 2: 40 03 0f00 8004 0000", "close 2"));
+}
+
+TEST_F(SendToEveryMixer, GoesOnAfterAMixerThatRefuses) {
+  TheWorld().bus = {Mixer(), Mixer()};
+  TheWorld().bus[0].writeResult = 0xE000404F;
+  EXPECT_EQ(usb::SendToEveryMixer(10, SetUSBOutputLevelSetting, 0x0300), 2);
+  EXPECT_THAT(
+      TakeSteps(),
+      ElementsAre("count", "open 1", "mixer 1: 40 03 0300 8003 0000 -> stall",
+                  "close 1", "open 2", "mixer 2: 40 03 0300 8003 0000",
+                  "close 2"));
+}
+
+// The count sees two mixers, the search only the second one: it stands at
+// position 0, and position 1 is empty.
+TEST_F(SendToEveryMixer, PassesOverAMixerThatGivesNoInterface) {
+  TheWorld().bus = {WithoutInterface(), Mixer()};
+  EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerInputSetting, 0x0102), 2);
+  EXPECT_THAT(TakeSteps(),
+              ElementsAre("count", "open 2", "mixer 2: 40 03 0102 8016 0000",
+                          "close 2"));
+}
+
+TEST_F(SendToEveryMixer, SendsToNobodyWhenADeviceAfterTheMixersFails) {
+  TheWorld().bus = {Mixer(), Mixer(), MixerFailing(kDefects[2])};
+  TheWorld().bus[2].product = 28;
+  EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206), 2);
+  EXPECT_THAT(TakeSteps(), ElementsAre("count", "open 1", "open 2"));
+}
+
+}  // namespace
+}  // namespace ztk::test
