@@ -1,0 +1,220 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Compares the visible symbols of the built library with the one list of them
+and with the headers that declare them, and looks at how it was linked."""
+
+import argparse
+import pathlib
+import re
+import subprocess
+import sys
+import unittest
+
+HEADERS = ["include/ZTKFunc.h", "src/usb/USB.h", "src/api/tables.h",
+           "src/notify/callback_registry.h"]
+
+POINTER = 8 if sys.maxsize > 2**32 else 4
+
+# The length of a visible table is binary interface: programs may copy it.
+CONSTANT_TABLES = {
+    "InputAudioText": 44 * POINTER,
+    "PC_INPUT_PULLDOWN_TEXT": 42 * 4,
+    "_convTable_PC_INPUT": 42 * 2,
+    "OutputAudioText": 3 * POINTER,
+    "VRMB5_OUT_TEXT": 12 * 4,
+    "_convTableOut_B5": 9 * 2,
+    "BoostLevelText": 4 * POINTER,
+    "_convDbTable": 4 * 1,
+    "MidiChannelText": 16 * POINTER,
+    "MidiKeyModeText": 2 * POINTER,
+}
+VARIABLES = {
+    "InputAudioChangedCallback": 11 * POINTER,
+    "OutputAudioChangedCallback": 11 * POINTER,
+    "BoostLevelChangedCallback": 11 * POINTER,
+    "MidiChannelChangedCallback": 11 * POINTER,
+    "MidiKeyModeChangedCallback": 11 * POINTER,
+    "InputAudioChangedContext": 11 * POINTER,
+    "OutputAudioChangedContext": 11 * POINTER,
+    "BoostLevelChangedContext": 11 * POINTER,
+    "MidiChannelChangedContext": 11 * POINTER,
+    "MidiKeyModeChangedContext": 11 * POINTER,
+    "inputAudioInfo": POINTER,
+    "outputAudioInfo": POINTER,
+    "boostLevelInfo": POINTER,
+    "midiChannelInfo": POINTER,
+    "midiKeyModeInfo": POINTER,
+    "_ZTKFunc": POINTER,
+}
+FUNCTIONS = 63  # 48 of the public header and 15 of the device link
+
+OPTIONS = None
+
+
+def output_of(*command):
+    return subprocess.run(command, check=True, text=True, timeout=60,
+                          stdout=subprocess.PIPE).stdout
+
+
+def listed():
+    lines = (OPTIONS.root / "src/exports.txt").read_text().splitlines()
+    return [line.strip() for line in lines
+            if line.strip() and not line.startswith("#")]
+
+
+def declared(header):
+    """The names that a header declares visible, in its order."""
+    text = (OPTIONS.root / header).read_text()
+    text = re.sub(r"/\*.*?\*/|//[^\n]*|^\s*#[^\n]*", "", text,
+                  flags=re.DOTALL | re.MULTILINE)
+    names = []
+    for declaration in re.findall(r"\bZTK_EXPORT\b([^;]*);", text):
+        # A function's name stands before its arguments, a table's before its
+        # length, and that of a plain variable last.
+        head = re.split(r"[(\[]", declaration, maxsplit=1)[0]
+        names.append(re.findall(r"\w+", head)[-1])
+    return names
+
+
+class Symbol:
+    """A line of `readelf --dyn-syms`."""
+
+    def __init__(self, fields):
+        self.size = int(fields[2], 0)
+        self.kind = fields[3]
+        self.binding = fields[4]
+        self.section = fields[6]
+        self.name = fields[7].split("@")[0]
+
+
+def visible():
+    """The symbols that the library offers to others, by name."""
+    symbols = {}
+    text = output_of("readelf", "-W", "--dyn-syms", OPTIONS.library)
+    for line in text.splitlines():
+        fields = line.split()
+        if len(fields) < 8 or not fields[0].rstrip(":").isdigit():
+            continue
+        symbol = Symbol(fields)
+        # The name of the version itself is an absolute symbol.
+        if symbol.section not in ("UND", "ABS") and symbol.binding != "LOCAL":
+            symbols[symbol.name] = symbol
+    return symbols
+
+
+def section_names():
+    text = output_of("readelf", "-W", "-S", OPTIONS.library)
+    return {number: name for number, name in
+            re.findall(r"\[ *(\d+)\] (\S+)", text)}
+
+
+class Lists(unittest.TestCase):
+    def test_library_shows_what_is_listed_and_nothing_else(self):
+        self.assertEqual(sorted(visible()), sorted(listed()))
+
+    def test_list_is_what_the_headers_declare_in_their_order(self):
+        names = [name for header in HEADERS for name in declared(header)]
+        self.assertEqual(listed(), names)
+
+    def test_no_name_is_listed_twice(self):
+        self.assertEqual(len(listed()), len(set(listed())))
+
+    def test_every_symbol_carries_the_version_of_the_soname(self):
+        text = output_of("nm", "-D", "--defined-only", OPTIONS.library)
+        versions = {line.split()[-1].partition("@@")[2]
+                    for line in text.splitlines() if line.split()[1] != "A"}
+        self.assertEqual(versions, {"ZTKFUNC_1"})
+
+    def test_c_program_takes_the_address_of_every_public_function(self):
+        program = (OPTIONS.root / "tests/abi/header_functions_test.c")
+        taken = re.findall(r"^ +FUNCTION\((\w+)\),", program.read_text(),
+                           re.MULTILINE)
+        self.assertEqual(taken, declared("include/ZTKFunc.h"))
+
+
+class Tables(unittest.TestCase):
+    def test_every_visible_name_is_a_table_or_a_function(self):
+        symbols = visible()
+        tables = {name for name, symbol in symbols.items()
+                  if symbol.kind == "OBJECT"}
+        functions = {name for name, symbol in symbols.items()
+                     if symbol.kind == "FUNC"}
+        self.assertEqual(tables, set(CONSTANT_TABLES) | set(VARIABLES))
+        self.assertEqual(len(functions), FUNCTIONS)
+        self.assertEqual(len(symbols), len(tables) + len(functions))
+
+    def test_tables_have_their_length(self):
+        skip_with_instruments(self)
+        found = {name: symbol.size for name, symbol in visible().items()
+                 if symbol.kind == "OBJECT"}
+        self.assertEqual(found, CONSTANT_TABLES | VARIABLES)
+
+    def test_constant_tables_cannot_be_written(self):
+        names = section_names()
+        for name, symbol in visible().items():
+            if name not in CONSTANT_TABLES:
+                continue
+            with self.subTest(table=name):
+                self.assertRegex(names[symbol.section],
+                                 r"^\.(rodata|data\.rel\.ro)")
+
+
+class Linking(unittest.TestCase):
+    def setUp(self):
+        self.dynamic = output_of("readelf", "-W", "-d", OPTIONS.library)
+
+    def flags(self, tag):
+        return re.findall(rf"\({tag}\)\s+(?:Flags: )?(.*)", self.dynamic)
+
+    def test_soname_has_the_major_version(self):
+        self.assertEqual(re.findall(r"soname: \[(.*)\]", self.dynamic),
+                         ["libZTKFunc.so.1"])
+
+    def test_code_stays_after_it_is_closed(self):
+        self.assertIn("NODELETE", " ".join(self.flags("FLAGS_1")).split())
+
+    def test_everything_is_bound_when_it_is_loaded(self):
+        self.assertIn("NOW", " ".join(self.flags("FLAGS_1")).split())
+        self.assertIn("BIND_NOW", " ".join(self.flags("FLAGS")).split())
+
+    def test_relocated_data_is_made_read_only(self):
+        segments = output_of("readelf", "-W", "-l", OPTIONS.library)
+        self.assertIn("GNU_RELRO", segments)
+        self.assertNotIn("TEXTREL", self.dynamic)
+
+    def test_library_calls_its_own_functions_and_nobody_elses(self):
+        relocations = output_of("readelf", "-W", "-r", OPTIONS.library)
+        bound_by_name = {
+            line.split()[4].split("@")[0] for line in relocations.splitlines()
+            if len(line.split()) > 4 and "JUMP_SLO" in line}
+        self.assertEqual(bound_by_name & set(listed()), set())
+        self.assertNotEqual(bound_by_name, set())
+
+    def test_nothing_runs_when_it_is_loaded(self):
+        """One entry is the compiler's own; a table that needs code to be
+        filled would add another."""
+        skip_with_instruments(self)
+        sizes = re.findall(r"\((INIT_ARRAYSZ|PREINIT_ARRAYSZ)\)\s+(\d+)",
+                           self.dynamic)
+        self.assertEqual(sizes, [("INIT_ARRAYSZ", str(POINTER))])
+
+
+def skip_with_instruments(test):
+    if OPTIONS.instruments:
+        test.skipTest(f"{OPTIONS.instruments} add to this")
+
+
+def main():
+    global OPTIONS
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--library", required=True)
+    parser.add_argument("--root", required=True, type=pathlib.Path,
+                        help="folder of the sources")
+    parser.add_argument("--instruments", default="",
+                        help="what the library was instrumented for")
+    OPTIONS = parser.parse_args()
+    unittest.main(argv=[sys.argv[0], "-v"])
+
+
+if __name__ == "__main__":
+    main()
