@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+#include "floor_parts.h"
+
+namespace ztk::bench::floor {
+namespace {
+
+constexpr std::size_t kLongestPath = 1024;
+char makersFolder[kLongestPath];
+char folder[kLongestPath + 16];
+char file[kLongestPath + 64];
+// The part of a new file's name that is made up comes after this length.
+std::size_t fileLength;
+
+constexpr char kContent[] =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+    "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+    "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+    "<plist version=\"1.0\">\n"
+    "<dict>\n"
+    "\t<key>Output0</key>\n"
+    "\t<integer>0</integer>\n"
+    "</dict>\n"
+    "</plist>\n";
+// The two digits that change.
+constexpr std::size_t kChannelAt = std::string_view(kContent).find("0</key>");
+constexpr std::size_t kIndexAt = std::string_view(kContent).find("0</integer>");
+char content[sizeof kContent];
+
+// For calls whose result changes nothing: what follows is called all the same.
+void Ignore(ssize_t /*result*/) {}
+
+}  // namespace
+
+const char *PrepareSettings() {
+  const char *config = std::getenv("XDG_CONFIG_HOME");
+  const char *home = std::getenv("HOME");
+  int length = -1;
+  if (config != nullptr && config[0] == '/') {
+    length = std::snprintf(makersFolder, kLongestPath, "%s/tarvix", config);
+  } else if (home != nullptr && home[0] == '/') {
+    length =
+        std::snprintf(makersFolder, kLongestPath, "%s/.config/tarvix", home);
+  }
+  if (length < 0 || static_cast<std::size_t>(length) >= kLongestPath) {
+    return "HOME is not set";
+  }
+  std::memcpy(content, kContent, sizeof kContent);
+  std::snprintf(folder, sizeof folder, "%s/Preferences", makersFolder);
+  fileLength = static_cast<std::size_t>(std::snprintf(
+      file, sizeof file, "%s/com.tarvix.VRM-D6autosetup.plist", folder));
+  return nullptr;
+}
+
+void ReadSettings() {
+  struct stat status;
+  stat(makersFolder, &status);
+  const int settings = open(file, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+  if (settings < 0) return;
+  char bytes[4096];
+  fstat(settings, &status);
+  while (read(settings, bytes, sizeof bytes) > 0) {
+  }
+  close(settings);
+}
+
+// The signal is held back around the write because the library, which must not
+// end its program, does so.
+void StoreIndex(std::uint32_t channel, std::uint32_t index) {
+  ReadSettings();
+
+  sigset_t pending;
+  sigset_t signal;
+  sigset_t before;
+  sigemptyset(&signal);
+  sigaddset(&signal, SIGXFSZ);
+  sigpending(&pending);
+  pthread_sigmask(SIG_BLOCK, &signal, &before);
+
+  struct stat status;
+  stat(folder, &status);
+  char target[8];
+  Ignore(readlink(file, target, sizeof target));
+  char fresh[sizeof file + 8];
+  std::memcpy(fresh, file, fileLength);
+  std::memcpy(fresh + fileLength, ".XXXXXX", sizeof ".XXXXXX");
+  const int made = mkostemp(fresh, O_CLOEXEC);
+  stat(file, &status);
+  content[kChannelAt] = static_cast<char>('0' + channel);
+  content[kIndexAt] = static_cast<char>('0' + index);
+  Ignore(write(made, content, sizeof content - 1));
+  Ignore(fchown(made, status.st_uid, status.st_gid));
+  fchmod(made, status.st_mode & 0777);
+  fsync(made);
+  rename(fresh, file);
+  close(made);
+
+  sigpending(&pending);
+  pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
+}  // namespace ztk::bench::floor

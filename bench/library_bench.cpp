@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+//
+// Times of the library's calls, beside those of the floor and, for the count,
+// of libusb. Measures whatever devices this process sees; bench/run shows it
+// virtual ones.
+#include <benchmark/benchmark.h>
+#include <libusb.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "operations.h"
+
+namespace {
+
+using namespace ztk::bench;
+
+// Set by who gives this program a home and a mixer to write to.
+constexpr char kMayChange[] = "ZTK_BENCH_MAY_CHANGE_SETTINGS";
+
+bool IsSet(const char *variable) { return std::getenv(variable) != nullptr; }
+
+void Repeat(benchmark::State &state, bool (*call)(std::uint32_t turn),
+            bool needsMixer) {
+  std::uint32_t turn = 0;
+  for (auto _ : state) {
+    turn ^= 1;
+    const bool reached = call(turn);
+    if (!reached && needsMixer) {
+      state.SkipWithError("no mixer was reached");
+      break;
+    }
+  }
+}
+
+void CountWithLibusb(benchmark::State &state) {
+  for (auto _ : state) {
+    libusb_context *context = nullptr;
+    libusb_device **devices = nullptr;
+    if (libusb_init(&context) != 0) {
+      state.SkipWithError("libusb does not start");
+      break;
+    }
+    const ssize_t count = libusb_get_device_list(context, &devices);
+    if (count >= 0) libusb_free_device_list(devices, 1);
+    libusb_exit(context);
+    benchmark::DoNotOptimize(count);
+  }
+}
+
+void NameOfChoice(benchmark::State &state) {
+  ZTKTextRef text = nullptr;
+  std::uint32_t index = 0;
+  for (auto _ : state) {
+    index = (index + 1) & 7;
+    benchmark::DoNotOptimize(
+        ZTK_GetUSBInputAudioText(kProduct, 1, index, 0, &text));
+    benchmark::DoNotOptimize(text);
+  }
+}
+
+void NumberOfChoices(benchmark::State &state) {
+  std::uint32_t count = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(
+        ZTK_GetNumOfInputAudioIndex(kProduct, kChannel, &count));
+    benchmark::DoNotOptimize(count);
+  }
+}
+
+void RejectedSetter(benchmark::State &state) {
+  std::uint32_t channel = 5;  // one too many
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(channel);
+    benchmark::DoNotOptimize(ZTK_SetUSBInputAudio(kProduct, channel, 0));
+  }
+}
+
+void RegisterPair(const Operation &operation, bool needsMixer) {
+  const std::string name = operation.name;
+  const auto add = [needsMixer](const std::string &full, auto *call) {
+    benchmark::RegisterBenchmark(full.c_str(), Repeat, call, needsMixer)
+        ->Unit(benchmark::kMicrosecond)
+        ->MeasureProcessCPUTime()
+        ->UseRealTime();
+  };
+  add(name + "/library", operation.library);
+  add(name + "/floor", operation.floor);
+}
+
+// Without mixers, only the count can be measured.
+void RegisterAll(bool hasMixer, bool mayChange) {
+  for (const Operation &operation : kOperations) {
+    const bool isCount = &operation == &kOperations[0];
+    if (!isCount && !hasMixer) continue;
+    if (operation.changesSettings && !mayChange) continue;
+    RegisterPair(operation, hasMixer);
+  }
+  benchmark::RegisterBenchmark("count/libusb", CountWithLibusb)
+      ->Unit(benchmark::kMicrosecond)
+      ->MeasureProcessCPUTime()
+      ->UseRealTime();
+  benchmark::RegisterBenchmark("text/library", NameOfChoice);
+  benchmark::RegisterBenchmark("choices/library", NumberOfChoices);
+  benchmark::RegisterBenchmark("rejected/library", RejectedSetter);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
+  const bool hasMixer = floor::Count() > 0;
+  const bool mayChange = hasMixer && IsSet(kMayChange);
+  if (mayChange) {
+    if (const char *problem = floor::Prepare(); problem != nullptr) {
+      std::fprintf(stderr, "library_bench: %s\n", problem);
+      return EXIT_FAILURE;
+    }
+    // The first call makes the settings file; all others replace it.
+    ZTK_SetUSBInputAudio(kProduct, kChannel, kChoices[0]);
+  } else {
+    std::fprintf(stderr, "library_bench: setters are left out: %s\n",
+                 hasMixer ? "set ZTK_BENCH_MAY_CHANGE_SETTINGS to let them "
+                            "change this user's settings and mixers"
+                          : "there is no mixer");
+  }
+  RegisterAll(hasMixer, mayChange);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return EXIT_SUCCESS;
+}

@@ -1,0 +1,292 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Counts the system calls of one call into the library, among virtual mixers.
+
+    system_calls.py BIN_FOLDER              counts, with one mixer, as a table
+    system_calls.py BIN_FOLDER library set  every call of one operation
+
+A program that repeats a call marks each one in its trace. What stands between
+the last two marks is one call of a process that has warmed up, exactly; no
+start-up has to be subtracted.
+
+The sandbox makes calls of its own inside the program: it looks for its folder
+before it opens anything, holds back signals meanwhile, and speaks to the mixers
+over a socket where a real device has ioctl(). They are recognised by what they
+are about (each descriptor is followed from where it was opened) and left out;
+in place of ioctl() the log of the mixers counts the requests. So the counts
+are those of a machine with real devices. Two more kinds are left out, since
+they say how fast others are and not what the library does: waiting for the
+message bus, and what the C library needs for itself now and then, which is
+memory, and random bits for a file's name.
+"""
+
+import collections
+import difflib
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+MARK = 'write(-1, "mark", 4)'
+LINE = re.compile(r"^(\d+) +(\w+)\((.*)\) += (-?\d+|\?)(.*)$")
+SANDBOX = re.compile(r"/tmp/umockdev\.\w+")
+SANDBOX_CHECK = re.compile(r"/tmp/umockdev\.\w+/(disabled|ioctl/|dev/)")
+TEXT = re.compile(r'"((?:[^"\\]|\\.)*)"')
+PIECE = re.compile(r'iov_base="((?:[^"\\]|\\.)*)"')
+# One thing under several names, by C library and machine.
+SAME = {"newfstatat": "stat", "fstat": "stat", "lstat": "stat",
+        "statx": "stat", "stat": "stat", "open": "openat",
+        "renameat": "rename", "renameat2": "rename",
+        "readlinkat": "readlink", "poll": "ppoll"}
+C_LIBRARY = {"brk", "mmap", "munmap", "madvise", "mremap", "futex",
+             "getrandom"}
+WAITING = {"ppoll", "recvmsg"}
+OPERATIONS = ("count", "set", "query", "apply")
+TIMES = 4
+
+
+class Unavailable(Exception):
+    """The calls cannot be counted here; says why."""
+
+
+class Trace:
+    """Turns the lines of a trace into those of the calls that count."""
+
+    def __init__(self, home):
+        self.home = home
+        self.names = {}  # of the descriptors that are open
+        self.in_sandbox = False  # between its taking and giving back signals
+        self.calls = []
+
+    def add(self, name, arguments, result):
+        name = SAME.get(name, name)
+        if name in C_LIBRARY or name in WAITING:
+            return
+        if name == "access" and SANDBOX_CHECK.search(arguments):
+            return
+        if name == "rt_sigprocmask" and self.is_sandbox_mask(arguments):
+            return
+        subject = self.subject(name, arguments)
+        if subject.startswith("sandbox") or name == "clock_nanosleep":
+            self.follow(name, arguments, result, subject)
+            return
+        call = f"{name} {subject}{self.payload(name, arguments, result)}"
+        self.follow(name, arguments, result, subject)
+        # The sandbox asks once more about a file that it does not know.
+        if name == "stat" and self.calls and self.calls[-1] == call:
+            return
+        self.calls.append(call.rstrip())
+
+    def is_sandbox_mask(self, arguments):
+        if arguments.startswith("SIG_SETMASK, ~["):
+            self.in_sandbox = True
+            return True
+        was = self.in_sandbox
+        self.in_sandbox = False
+        return was
+
+    def subject(self, name, arguments):
+        """What the call is about: a path, or what a descriptor was opened as."""
+        if name == "socket":
+            # The library's socket closes on exec; the sandbox's does not.
+            return "bus" if "SOCK_CLOEXEC" in arguments else "sandbox socket"
+        first = arguments.split(",", 1)[0]
+        if first.isdigit():
+            return self.names.get(int(first), f"descriptor {first}")
+        if name.startswith("rt_sig"):
+            return ""
+        texts = TEXT.findall(arguments)
+        return self.path(texts[0]) if texts else ""
+
+    def path(self, text):
+        text = SANDBOX.sub("", text).replace(self.home, "~")
+        return re.sub(r"(\.plist)\.\w{6}$", r"\1.NEW", text)
+
+    @staticmethod
+    def payload(name, arguments, result):
+        if name == "write":
+            return " " + TEXT.findall(arguments)[0]
+        if name == "sendmsg":
+            return f" {result} " + "".join(PIECE.findall(arguments))
+        if name in ("getsockopt", "setsockopt"):
+            return " " + arguments.split(", ")[2]
+        return ""
+
+    def follow(self, name, arguments, result, subject):
+        if name in ("openat", "socket") and int(result) >= 0:
+            self.names[int(result)] = subject
+        if name == "close":
+            self.names.pop(int(arguments), None)
+
+
+def needed(program):
+    found = shutil.which(program)
+    if found is None:
+        raise Unavailable(f"there is no {program}")
+    return found
+
+
+def check_tracing():
+    """Raises Unavailable where a program cannot be traced with a bus."""
+    needed("dbus-daemon")
+    strace = needed("strace")
+    tried = subprocess.run([strace, "-o", os.devnull, "true"],
+                           capture_output=True, text=True, check=False)
+    if tried.returncode != 0:
+        raise Unavailable("this process may not be traced: " +
+                          tried.stderr.strip().splitlines()[-1])
+
+
+class Bus:
+    """A message bus of our own."""
+
+    def __init__(self, folder):
+        self.address = f"unix:path={folder}/bus"
+        configuration = pathlib.Path(folder, "bus.conf")
+        configuration.write_text(
+            "<busconfig><type>session</type><auth>EXTERNAL</auth>"
+            f"<listen>{self.address}</listen><policy context='default'>"
+            "<allow send_destination='*'/><allow receive_sender='*'/>"
+            "<allow own='*'/></policy></busconfig>")
+        self.daemon = subprocess.Popen(
+            [needed("dbus-daemon"), f"--config-file={configuration}",
+             "--nofork", "--print-address"],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        if not self.daemon.stdout.readline():
+            raise Unavailable("dbus-daemon does not start")
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.daemon.kill()
+        self.daemon.wait()
+        self.daemon.stdout.close()
+
+
+def calls_between_marks(trace_file, home):
+    """The calls of each repetition, start-up first and the end last."""
+    trace = Trace(home)
+    repetitions = []
+    processes = set()
+    for line in trace_file.read_text(errors="replace").splitlines():
+        if MARK in line:
+            repetitions.append(trace.calls)
+            trace.calls = []
+            continue
+        match = LINE.match(line)
+        if match is None:
+            continue
+        processes.add(match[1])
+        trace.add(match[2], match[3], match[4])
+    if len(processes) != 1:
+        raise RuntimeError(f"{len(processes)} threads or processes, not one")
+    return repetitions
+
+
+def write_settings(home):
+    """Gives the user the settings file that every call but the first meets."""
+    folder = pathlib.Path(home, ".config/tarvix/Preferences")
+    folder.mkdir(parents=True)
+    (folder / "com.tarvix.VRM-D6autosetup.plist").write_text(
+        '<plist version="1.0"><dict><key>Output1</key><integer>2</integer>'
+        "</dict></plist>")
+
+
+def script(folder, cases, temporary):
+    """A shell's script that traces the cases, in one sandbox to save time."""
+    lines = ["set -e"]
+    for number, (who, operation) in enumerate(cases):
+        lines += [f"strace -f -s 4096 -o trace.{number} "
+                  f"'{folder}/repeat_calls' {who} {operation} {TIMES}",
+                  f"cp log log.{number}"]
+    return f"cd '{temporary}'\n" + "\n".join(lines)
+
+
+def run_in_sandbox(folder, cases, temporary, devices):
+    home = os.path.join(temporary, "home")
+    write_settings(home)
+    with Bus(temporary) as bus:
+        environment = dict(os.environ, HOME=home, TMPDIR="/tmp",
+                           DBUS_SESSION_BUS_ADDRESS=bus.address)
+        environment.pop("XDG_CONFIG_HOME", None)
+        run = subprocess.run(
+            [folder / "ztk-virtual-mixer", "run", "-n", str(devices[0]),
+             "--other-devices", str(devices[1]), "--log",
+             os.path.join(temporary, "log"), "--",
+             "sh", "-c", script(folder, cases, temporary)],
+            env=environment, capture_output=True, text=True, check=False)
+    if run.returncode != 0:
+        raise RuntimeError(run.stderr.strip())
+    return home
+
+
+def one_call(temporary, number, home):
+    """The system calls of one call, from the trace with this number."""
+    calls = calls_between_marks(pathlib.Path(temporary, f"trace.{number}"),
+                                home)
+    # The turns alternate, so the last is of the kind of the last but one
+    # before it, and both of a process that has warmed up.
+    if len(calls) != TIMES + 1:
+        raise RuntimeError("the trace is not complete")
+    if calls[-1] != calls[-3]:
+        difference = difflib.unified_diff(calls[-3], calls[-1], n=0,
+                                          lineterm="")
+        raise RuntimeError("two equal calls differ in their system calls:\n" +
+                           "\n".join(difference))
+    return calls[-1]
+
+
+def requests_of(temporary, count):
+    """How many requests reached the mixers in each of the runs."""
+    totals = [len(pathlib.Path(temporary, f"log.{number}").read_text()
+                  .splitlines()) for number in range(count)]
+    if any(total % TIMES != 0 for total in totals):
+        raise RuntimeError("equal calls differ in their requests")
+    return [now - before for before, now in zip([0] + totals, totals)]
+
+
+def measure(folder, cases, mixers=1, other_devices=0):
+    """The system calls of one call for each (who, operation), in order. The
+    requests stand at the end as "ioctl": only their number is known."""
+    check_tracing()
+    folder = pathlib.Path(folder).resolve()
+    with tempfile.TemporaryDirectory(dir="/tmp") as temporary:
+        home = run_in_sandbox(folder, cases, temporary,
+                              (mixers, other_devices))
+        requests = requests_of(temporary, len(cases))
+        return {case: one_call(temporary, number, home) +
+                      ["ioctl"] * (requests[number] // TIMES)
+                for number, case in enumerate(cases)}
+
+
+def names(calls):
+    """How many there are of each kind."""
+    return collections.Counter(call.split(" ", 1)[0] for call in calls)
+
+
+def main(arguments):
+    if len(arguments) == 3:
+        case = (arguments[1], arguments[2])
+        print("\n".join(measure(arguments[0], [case])[case]))
+        return
+    print("System calls per call, one mixer, without waiting for the bus:\n")
+    print(f"{'devices':>8}" + "".join(f"{name:>8}" for name in OPERATIONS))
+    cases = [("library", name) for name in OPERATIONS]
+    for others in (0, 3, 28):
+        calls = measure(arguments[0], cases, other_devices=others)
+        # The mixer and its bus are devices too.
+        print(f"{others + 2:>8}" +
+              "".join(f"{len(calls[case]):>8}" for case in cases))
+
+
+if __name__ == "__main__":
+    if len(sys.argv) not in (2, 4):
+        sys.exit(__doc__)
+    try:
+        main(sys.argv[1:])
+    except Unavailable as problem:
+        sys.exit(f"system_calls.py: {problem}")

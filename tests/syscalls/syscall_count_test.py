@@ -1,0 +1,109 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Holds the number of system calls of the library, and the benchmarks' floor.
+
+    syscall_count_test.py BENCH_FOLDER BIN_FOLDER
+
+Times are noisy, system calls are exact: one more of them a device is seen here
+at once. system_calls.py tells what is counted and what is left out, so that
+the numbers are those of a machine with real devices.
+"""
+
+import sys
+import unittest
+
+BENCH_FOLDER, BIN_FOLDER = sys.argv[1:3]
+sys.path.insert(0, BENCH_FOLDER)
+
+import system_calls  # noqa: E402  (found through the argument)
+
+SKIPPED = 77  # what the build takes for "did not run"
+
+ONE_WALK_OF_THREE = [
+    "openat /sys/bus/usb/devices", "stat /sys/bus/usb/devices",
+    "getdents64 /sys/bus/usb/devices",
+    "openat descriptors", "read descriptors", "close descriptors",
+    "openat descriptors", "read descriptors", "close descriptors",
+    "openat descriptors", "read descriptors", "close descriptors",
+    "getdents64 /sys/bus/usb/devices", "close /sys/bus/usb/devices"]
+
+
+def library_calls(operation, mixers=1, other_devices=0):
+    case = ("library", operation)
+    return system_calls.measure(BIN_FOLDER, [case], mixers,
+                                other_devices)[case]
+
+
+class Count(unittest.TestCase):
+    def test_reads_each_device_once_with_three_calls(self):
+        calls = library_calls("count", mixers=2)
+        # Which device comes first is the file system's choice.
+        shortened = [
+            f"{call.split()[0]} descriptors"
+            if call.endswith("/descriptors") else call for call in calls]
+        self.assertEqual(shortened, ONE_WALK_OF_THREE)
+
+    def test_takes_five_calls_and_three_a_device(self):
+        # The bus is a device itself.
+        for mixers, others, expected in ((0, 0, 8),     # 1 device
+                                         (1, 3, 20),    # 5 devices
+                                         (1, 11, 44)):  # 13 devices
+            with self.subTest(mixers=mixers, others=others):
+                self.assertEqual(
+                    len(library_calls("count", mixers, others)), expected)
+
+
+class Setter(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.calls = library_calls("set", other_devices=11)
+        cls.names = system_calls.names(cls.calls)
+
+    def number(self, *names):
+        return tuple(self.names[name] for name in names)
+
+    def test_walks_the_bus_three_times_and_opens_the_node_twice(self):
+        # 13 devices, seen by the count, the write and the read.
+        descriptors = [call for call in self.calls
+                       if call.endswith("/descriptors")]
+        self.assertEqual(len(descriptors), 3 * 13 * 3)
+        nodes = [call.split("/", 1)[0] for call in self.calls
+                 if "/dev/bus/usb/" in call]
+        self.assertEqual(nodes, ["openat ", "read ", "close "] * 2)
+        self.assertEqual(self.number("ioctl"), (2,))
+
+    def test_writes_its_file_once_and_makes_it_durable(self):
+        self.assertEqual(
+            self.number("write", "fsync", "rename", "readlink", "fchown",
+                        "fchmod"), (1, 1, 1, 1, 1, 1))
+
+    def test_says_three_things_to_the_bus(self):
+        self.assertEqual(self.number("socket", "connect", "sendmsg"),
+                         (1, 1, 3))
+
+    def test_takes_186_calls_among_13_devices(self):
+        self.assertEqual(len(self.calls), 186)
+
+    def test_does_not_grow_but_by_nine_calls_a_device(self):
+        fewer = library_calls("set", other_devices=10)
+        self.assertEqual(len(self.calls) - len(fewer), 9)
+
+
+class Floor(unittest.TestCase):
+    def test_makes_the_calls_of_the_library_in_their_order(self):
+        cases = [(who, operation) for operation in system_calls.OPERATIONS
+                 for who in ("library", "floor")]
+        calls = system_calls.measure(BIN_FOLDER, cases, other_devices=3)
+        for operation in system_calls.OPERATIONS:
+            with self.subTest(operation):
+                self.assertEqual(calls["floor", operation],
+                                 calls["library", operation])
+
+
+if __name__ == "__main__":
+    try:
+        system_calls.check_tracing()
+    except system_calls.Unavailable as reason:
+        print(f"skipped: {reason}")
+        sys.exit(SKIPPED)
+    unittest.main(argv=sys.argv[:1], verbosity=2)
