@@ -40,12 +40,13 @@ const Operation *Find(const char *name) {
 
 int main(int argc, char **argv) {
   const Operation *operation = argc == 4 ? Find(argv[2]) : nullptr;
-  if (operation == nullptr) {
+  const bool isFloor = argc == 4 && std::strcmp(argv[1], "floor") == 0;
+  const bool isLibrary = argc == 4 && std::strcmp(argv[1], "library") == 0;
+  if (operation == nullptr || isFloor == isLibrary) {
     std::fputs("repeat_calls library|floor count|set|query|apply TIMES\n",
                stderr);
     return kUsage;
   }
-  const bool isFloor = std::strcmp(argv[1], "floor") == 0;
   const bool needsPlaces = isFloor && operation->changesSettings;
   const char *problem = needsPlaces ? ztk::bench::floor::Prepare() : nullptr;
   if (problem != nullptr) {
