@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "serve.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+
+#include "command_runner.h"
+#include "control_commands.h"
+#include "control_socket.h"
+#include "usbip_world.h"
+
+namespace ztk::virtual_mixer {
+namespace {
+
+constexpr char kStandardPort[] = "3240";
+
+// The control socket's path, without anything left of it at the end.
+class ControlPath {
+ public:
+  ControlPath() {
+    std::string folder = Variable("XDG_RUNTIME_DIR");
+    if (folder.empty()) folder = Variable("TMPDIR");
+    if (folder.empty()) folder = "/tmp";
+    path_ = folder + "/ztk-virtual-mixer." + std::to_string(getpid());
+  }
+  ~ControlPath() {
+    std::error_code ignored;
+    std::filesystem::remove(path_, ignored);
+  }
+  ControlPath(const ControlPath &) = delete;
+  ControlPath &operator=(const ControlPath &) = delete;
+  const std::string &Get() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+std::string CountOf(const WorldOptions &options) {
+  std::string text = std::to_string(options.mixers) +
+                     (options.mixers == 1 ? " mixer" : " mixers");
+  if (options.otherDevices > 0) {
+    text += " and " + std::to_string(options.otherDevices) +
+            (options.otherDevices == 1 ? " other device" : " other devices");
+  }
+  return text;
+}
+
+// How to attach the first mixer, as one would type it.
+std::string AttachCommand(const UsbipWorld &world, const std::string &address) {
+  const std::size_t colon = address.rfind(':');
+  const std::string port = address.substr(colon + 1);
+  std::string host = address.substr(0, colon);
+  if (host.front() == '[') host = host.substr(1, host.size() - 2);
+  return "sudo usbip " +
+         (port == kStandardPort ? "" : "--tcp-port " + port + " ") +
+         "attach -r " + host + " -b " +
+         (world.MixerCount() == 0 ? "1-1" : world.Status(1).address.Name());
+}
+
+void Introduce(const ServeOptions &options, const UsbipWorld &world,
+               const std::string &address, const std::string &controlPath) {
+  const std::string count = CountOf(options.world);
+  if (options.attach) {
+    std::printf("Attached %s to this machine's kernel.\n", count.c_str());
+  } else {
+    std::printf("Serving %s at %s. Attach as in:\n  %s\n", count.c_str(),
+                address.c_str(), AttachCommand(world, address).c_str());
+  }
+  std::printf(
+      "To turn selectors, unplug and set faults from another terminal, first:\n"
+      "  export %s=%s\nCtrl-C ends it.\n",
+      kControlVariable, controlPath.c_str());
+  std::fflush(stdout);
+}
+
+void WaitForSignal(const SignalGuard &signals) {
+  siginfo_t info{};
+  do {
+    info.si_signo = SIGCHLD;
+    sigwaitinfo(&signals.Held(), &info);
+  } while (info.si_signo == SIGCHLD);
+}
+
+}  // namespace
+
+int Serve(const ServeOptions &options) {
+  if (!Variable("UMOCKDEV_DIR").empty()) {
+    throw std::runtime_error(
+        "inside a sandbox there is no kernel to serve; leave it first");
+  }
+  FillStandardStreams();
+  const SignalGuard signals;
+  const LogFile log(options.world.logFile);
+  UsbipWorld world(
+      SpreadDevices(options.world.mixers, options.world.otherDevices, 1),
+      log.Sink());
+  Prepare(&world, options.world);
+  const ControlPath path;
+  const ControlServer control(path.Get(), [&world](std::string_view line) {
+    return RunControlCommand(&world, line);
+  });
+  std::string address;
+  if (options.attach) {
+    world.Attach();
+  } else {
+    address = world.Listen(options.listen);
+  }
+  if (options.command.empty()) {
+    Introduce(options, world, address, path.Get());
+    WaitForSignal(signals);
+    return 0;
+  }
+  AddOwnFolderToPath();
+  std::string error;
+  const int status = RunCommand(
+      options.command,
+      EnvironmentWith({std::string(kControlVariable) + "=" + path.Get()}),
+      signals, &error);
+  if (!error.empty()) {
+    std::fprintf(stderr, "ztk-virtual-mixer: %s\n", error.c_str());
+  }
+  return status;
+}
+
+}  // namespace ztk::virtual_mixer
