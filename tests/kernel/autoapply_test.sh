@@ -1,0 +1,129 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# What plugging in a mixer does for a user who has turned autoapply on. Runs in
+# the guest, beside systemd and a session of the user "guest":
+#
+#   autoapply_test.sh BUILD_FOLDER
+set -euo pipefail
+
+readonly build=$1 requests=/run/requests
+
+fail() {
+  printf 'autoapply_test: %s\n' "$*" >&2
+  journalctl --no-pager --quiet -t ztk-apply -t systemd --lines 40 >&2
+  cat "$requests" >&2
+  exit 1
+}
+
+expect() {  # what expected actual
+  [[ $2 == "$3" ]] || fail "$1: \"$3\" instead of \"$2\""
+  printf 'ok: %s\n' "$1"
+}
+
+expect_start() {  # what start-of-text text
+  [[ $3 == "$2"* ]] || fail "$1: \"$3\" instead of \"$2...\""
+  printf 'ok: %s\n' "$1"
+}
+
+# As in a terminal of the user's session.
+as_guest() {
+  local runtime
+  runtime=/run/user/$(id -u guest)
+  runuser -u guest -- env -u XDG_CONFIG_HOME HOME=/home/guest \
+    XDG_RUNTIME_DIR="$runtime" DBUS_SESSION_BUS_ADDRESS="unix:path=$runtime/bus" \
+    "$@"
+}
+
+# What changed something on a mixer since the last time.
+writes() {
+  sed -n 's/^\(mixer [0-9]*: 40 .*\)/\1/p' "$requests"
+}
+
+runs_logged() {
+  journalctl --quiet --output cat -t ztk-apply | grep -c . || true
+}
+
+plug_in_anew_for_nobody() {
+  ztk-virtual-mixer unplug
+  until_true no_mixer
+  : >"$requests"
+  ztk-virtual-mixer plug
+  until_true all_mixers
+  udevadm settle
+}
+
+# Plugs in and waits until the user's systemd has done what it does then.
+plug_in_anew() {
+  plug_in_anew_for_nobody
+  until_true nothing_to_do
+}
+
+mixers() { grep -slx 6666 /sys/bus/usb/devices/*/idVendor | wc -l; }
+no_mixer() { [[ $(mixers) == 0 ]]; }
+all_mixers() { [[ $(mixers) == 2 ]]; }
+# The user's systemd has seen both devices, and has no job left.
+nothing_to_do() {
+  [[ $(as_guest systemctl --user list-units --plain --no-legend \
+    --type device '*-usb*' | grep -c VRM-D6) == 2 &&
+    -z $(as_guest systemctl --user list-jobs --no-legend) ]]
+}
+
+user_has_gone() { ! systemctl --quiet is-active "$user_manager"; }
+
+until_true() {  # function
+  local tries
+  for ((tries = 0; tries < 100; ++tries)); do
+    ! "$1" || return 0
+    sleep 0.2
+  done
+  fail "'$1' is not so after twenty seconds"
+}
+
+if [[ ${2:-} != --among-mixers ]]; then
+  cmake --install "$build" >/dev/null
+  udevadm control --reload
+  export PATH=/usr/local/bin:$PATH
+  exec ztk-virtual-mixer serve -n 2 --attach --log "$requests" -- \
+    "$0" "$build" --among-mixers
+fi
+
+until_true all_mixers
+udevadm settle
+
+expect_start "it is off at first" "Off: " "$(as_guest ztk autoapply status)"
+as_guest ztk input set 2 post >/dev/null
+as_guest ztk boost set "-10 dB" >/dev/null
+plug_in_anew
+expect "plugging in sends nothing while it is off" "" "$(writes)"
+expect "and nothing is in the journal" 0 "$(runs_logged)"
+
+expect_start "the user turns it on" "On: " "$(as_guest ztk autoapply on)"
+expect "which leaves one link behind" ztk-apply@.service \
+  "$(ls /home/guest/.config/systemd/user)"
+expect "and sends nothing by itself" "" "$(writes)"
+plug_in_anew
+expect "plugging in sends what is remembered, and only that" \
+  "mixer 1: 40 03 0200 8003 0000
+mixer 1: 40 03 0206 8002 0000
+mixer 2: 40 03 0200 8003 0000
+mixer 2: 40 03 0206 8002 0000" "$(writes | sort -u)"
+expect_start "the journal tells of it" \
+  "USB input 2: 3 Post CH2 Fader, sent" \
+  "$(journalctl --quiet --output cat -t ztk-apply | head -n 1)"
+expect "no run of it failed" "" \
+  "$(as_guest systemctl --user list-units --failed --no-legend)"
+
+expect_start "the user turns it off" "Off: " "$(as_guest ztk autoapply off)"
+expect "which leaves nothing behind" "" \
+  "$(find /home/guest/.config/systemd -type l 2>/dev/null)"
+plug_in_anew
+expect "plugging in sends nothing any more" "" "$(writes)"
+
+as_guest ztk autoapply on >/dev/null
+user_manager=user@$(id -u guest).service
+systemctl stop guest-session
+loginctl terminate-user guest || true
+until_true user_has_gone
+plug_in_anew_for_nobody
+expect "nothing is sent for a user who has logged out" "" "$(writes)"

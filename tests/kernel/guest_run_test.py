@@ -1,0 +1,147 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Holds guest-run to what it says of itself.
+
+    guest_run_test.py GUEST_RUN
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+GUEST_RUN = sys.argv[1]
+SKIPPED = 77
+
+
+def guest_run(*arguments, **options):
+    return subprocess.run([GUEST_RUN, *arguments], capture_output=True,
+                          text=True, check=False, timeout=240, **options)
+
+
+class Whole(unittest.TestCase):
+    """One guest that does many things."""
+
+    SCRIPT = """
+        printf "<%s>" "$@"
+        echo to errors >&2
+        echo; echo "-- root"; id --user; pwd; cat </dev/stdin; cat <(echo fd)
+        echo "-- machine"; nproc; ls /sys/class/net
+        cat /sys/bus/usb/devices/usb1/idVendor
+        ls /sys/devices/platform/ | grep ^vhci_hcd.0
+        ls -d /sys/bus/usb/devices/usb* | wc -l
+        echo "-- files"; echo gone >lost; cat lost
+        cd kept*; cat old; echo inside >new; rm old
+        exit 5"""
+
+    @classmethod
+    def setUpClass(cls):
+        folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(folder.cleanup)
+        cls.folder = pathlib.Path(folder.name)
+        cls.kept = cls.folder / "kept, with a comma"
+        cls.kept.mkdir()
+        (cls.kept / "old").write_text("outside\n")
+        cls.done = guest_run(
+            "--writable", str(cls.kept), "bash", "-c", cls.SCRIPT, "bash",
+            "two words", "", "it's", "a\nline", "$HOME", "--option",
+            cwd=cls.folder, input="unseen")
+        head, *parts = cls.done.stdout.split("\n-- ")
+        cls.parts = dict(part.split("\n", 1) for part in parts)
+        cls.parts["arguments"] = head
+
+    def test_gets_the_arguments_as_they_were_given(self):
+        self.assertEqual(self.parts["arguments"],
+                         "<two words><><it's><a\nline><$HOME><--option>")
+
+    def test_keeps_standard_error_apart_and_answers_the_status(self):
+        self.assertEqual(self.done.stderr, "to errors\n")
+        self.assertEqual(self.done.returncode, 5)
+
+    def test_runs_as_root_in_the_same_folder_without_input(self):
+        self.assertEqual(self.parts["root"], f"0\n{self.folder}\nfd")
+
+    def test_has_one_processor_no_network_and_the_hubs_of_usbip(self):
+        self.assertEqual(self.parts["machine"],
+                         "1\nlo\n1d6b\nvhci_hcd.0\n16")
+
+    def test_keeps_only_what_goes_to_a_writable_folder(self):
+        self.assertEqual(self.parts["files"], "gone\noutside\n")
+        self.assertEqual((self.kept / "new").read_text(), "inside\n")
+        self.assertEqual(os.listdir(self.kept), ["new"])
+        self.assertEqual(os.listdir(self.folder), [self.kept.name])
+
+
+class Ends(unittest.TestCase):
+    def test_by_a_signal_like_in_a_shell_with_all_output(self):
+        done = guest_run("bash", "-c", "seq 300000; kill -KILL $$")
+        self.assertEqual(done.stdout,
+                         "".join(f"{i}\n" for i in range(1, 300001)))
+        self.assertEqual(done.returncode, 137)
+
+    def test_after_too_long_a_time(self):
+        done = guest_run("--timeout", "5", "sleep", "100")
+        self.assertEqual(done.returncode, 124)
+        self.assertEqual(done.stderr.splitlines()[-1],
+                         "guest-run: ended after 5 seconds: sleep 100")
+
+    def test_without_a_status_if_the_kernel_does(self):
+        done = guest_run("bash", "-c", "echo c >/proc/sysrq-trigger")
+        self.assertEqual(done.returncode, 125)
+        self.assertIn("the guest ended without a status", done.stderr)
+
+
+class Refusal(unittest.TestCase):
+    """Answers that come without a guest."""
+
+    def test_names_what_is_wrong_with_the_options(self):
+        for arguments, why in (
+                ((), "no command is given"),
+                (("--wrong", "true"), "'--wrong' is not an option"),
+                (("--timeout", "soon", "true"),
+                 "--timeout takes a number, not 'soon'"),
+                (("--timeout",), "--timeout lacks its value"),
+                (("--writable", "/nowhere", "true"),
+                 "'/nowhere' is not a folder")):
+            with self.subTest(arguments):
+                done = guest_run(*arguments)
+                self.assertEqual(done.returncode, 2)
+                self.assertEqual(
+                    done.stderr, f"guest-run: {why}; "
+                    "guest-run --help tells how to use it\n")
+
+    def test_counts_as_skipped_without_qemu(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for program in ("bash", "dirname", "env"):
+                os.symlink(f"/usr/bin/{program}", f"{folder}/{program}")
+            done = guest_run("true", env={"PATH": folder})
+        self.assertEqual(done.returncode, SKIPPED)
+        self.assertEqual(done.stderr,
+                         "guest-run: there is no qemu-system-x86_64: "
+                         "install qemu-system-x86\n")
+
+    def test_counts_as_skipped_without_a_kernel(self):
+        # An apt-get that has nothing to offer, and a cache that is empty.
+        with tempfile.TemporaryDirectory() as folder:
+            apt = pathlib.Path(folder, "apt-cache")
+            apt.write_text("#!/bin/sh\necho E: no network >&2\nexit 100\n")
+            apt.chmod(0o755)
+            done = guest_run("true", env={
+                **os.environ, "XDG_CACHE_HOME": folder,
+                "PATH": f"{folder}:{os.environ['PATH']}"})
+        self.assertEqual(done.returncode, SKIPPED)
+        self.assertEqual(done.stderr,
+                         "guest-kernel: E: no network "
+                         "(apt-cache depends --no-recommends)\n")
+
+
+if __name__ == "__main__":
+    kernel = subprocess.run([str(pathlib.Path(GUEST_RUN).with_name(
+        "guest-kernel"))], capture_output=True, text=True, check=False)
+    if kernel.returncode == SKIPPED or not shutil.which("qemu-system-x86_64"):
+        print(f"skipped: no guest can run here: {kernel.stderr.strip()}")
+        sys.exit(SKIPPED)
+    unittest.main(argv=sys.argv[:1], verbosity=2)

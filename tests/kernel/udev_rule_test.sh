@@ -1,0 +1,97 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Who may open the mixer once the udev rule is installed. Runs in the guest,
+# beside systemd and a session of the user "guest":
+#
+#   udev_rule_test.sh BIN_FOLDER RULES_FILE
+set -euo pipefail
+
+readonly bin=$1 rules=$2
+
+fail() {
+  printf 'udev_rule_test: %s\n' "$*" >&2
+  exit 1
+}
+
+if [[ ${3:-} != --among-mixers ]]; then
+  # Among others, one of them a foot switch of the same maker.
+  exec "$bin/ztk-virtual-mixer" serve -n 2 --other-devices 4 --attach \
+    --log /run/requests -- "$0" "$bin" "$rules" --among-mixers
+fi
+
+as() {  # user command...
+  local user=$1
+  shift
+  runuser -u "$user" -- env -u XDG_CONFIG_HOME HOME="/run/home-$user" "$@"
+}
+
+for user in guest nobody; do
+  install --directory --owner "$user" "/run/home-$user"
+done
+
+# The products whose nodes a user may open for writing, each once. Hubs are left
+# out.
+open_to() {  # user
+  # shellcheck disable=SC2016  # the inner shell's own variables
+  as "$1" bash -c 'for device in /sys/bus/usb/devices/*; do
+      [[ -e $device/busnum && $(<"$device/bDeviceClass") != 09 ]] || continue
+      printf -v node /dev/bus/usb/%03d/%03d \
+        "$(<"$device/busnum")" "$(<"$device/devnum")"
+      ! { : <>"$node"; } 2>/dev/null || echo "$(<"$device/product")"
+    done' | sort -u
+}
+
+expect() {  # what expected actual
+  [[ $2 == "$3" ]] || fail "$1: \"$3\" instead of \"$2\""
+  printf 'ok: %s\n' "$1"
+}
+
+reachable() {  # user
+  as "$1" "$bin/ztk" status 2>/dev/null | grep -c ' is reachable$' || true
+}
+
+# The number of mixers that root reaches, once it is the wanted one.
+mixers_come_to() {  # number
+  local tries
+  for ((tries = 0; tries < 100; ++tries)); do
+    [[ $(reachable root) != "$1" ]] || return 0
+    sleep 0.1
+  done
+  fail "there are not $1 mixers after ten seconds"
+}
+
+everybody=$(open_to root)
+grep -qx 'Foot Switch' <<<"$everybody" ||
+  fail "no other product of the maker's is attached: $everybody"
+expect "without the rule root alone reaches the mixers" "2 0 0" \
+  "$(reachable root) $(reachable guest) $(reachable nobody)"
+
+# What README says to do after the installation.
+install --mode 644 "$rules" /lib/udev/rules.d/
+udevadm control --reload
+"$bin/ztk-virtual-mixer" unplug
+mixers_come_to 0
+"$bin/ztk-virtual-mixer" plug
+mixers_come_to 2
+# As if the others had been plugged in again as well.
+udevadm trigger --subsystem-match=usb --action=add --settle
+
+expect "the user of the session reaches both mixers" 2 "$(reachable guest)"
+expect "and may set them" "40 03 0109 8002 0000" "$(
+  as guest "$bin/ztk" input set 1 mic >/dev/null 2>&1
+  sed -n 's/^mixer 1: \(40 .*\)/\1/p' /run/requests)"
+expect "another user does not reach them" 0 "$(reachable nobody)"
+status=0
+as nobody "$bin/ztk" input set 1 mic &>/dev/null || status=$?
+expect "and is told so" 3 "$status"
+expect "nothing else is open to the user of the session" VRM-D6 \
+  "$(open_to guest)"
+expect "nothing at all is open to another user" "" "$(open_to nobody)"
+
+systemctl stop guest-session
+for ((tries = 0; tries < 100; ++tries)); do
+  [[ $(reachable guest) != 0 ]] || break
+  sleep 0.1
+done
+expect "who has logged out reaches no mixer" 0 "$(reachable guest)"

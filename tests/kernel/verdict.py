@@ -1,0 +1,41 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Says how one test of the guest's report ended.
+
+Usage: verdict.py FOLDER SUITE.TEST
+
+Ends with 0 when it passed, with 77 when it was skipped, else with 1.
+"""
+
+import pathlib
+import sys
+import xml.etree.ElementTree
+
+SKIPPED = 77
+
+
+def main(folder, name):
+    reason = folder / "skipped"
+    if reason.exists():
+        print(reason.read_text(), end="")
+        return SKIPPED
+    suite, test = name.split(".")
+    report = xml.etree.ElementTree.parse(folder / "report.xml")
+    for case in report.iter("testcase"):
+        if (case.get("classname"), case.get("name")) != (suite, test):
+            continue
+        failures = case.findall("failure")
+        for failure in failures:
+            print(failure.get("message"))
+        if failures:
+            return 1
+        for skipped in case.findall("skipped"):
+            print(skipped.get("message"))
+            return SKIPPED
+        return 0 if case.get("status") == "run" else 1
+    print(f"{name} is not in the report")
+    return 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(pathlib.Path(sys.argv[1]), sys.argv[2]))
