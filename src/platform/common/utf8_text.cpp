@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+//
+// Texts where ZTKTextRef is UTF-8. A made one is a malloc'ed string.
+#include "platform/text.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+namespace ztk::platform::text {
+namespace {
+
+ZTKTextRef Make(std::string_view content) {
+  auto *made = static_cast<char *>(std::malloc(content.size() + 1));
+  if (made == nullptr) return nullptr;
+  std::memcpy(made, content.data(), content.size());
+  made[content.size()] = '\0';
+  return made;
+}
+
+bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
+// Splits the run of digits off the front; leading zeros are left out.
+std::string_view TakeNumber(std::string_view *rest) {
+  std::size_t end = 0;
+  while (end < rest->size() && IsDigit((*rest)[end])) ++end;
+  std::string_view digits = rest->substr(0, end);
+  rest->remove_prefix(end);
+  while (!digits.empty() && digits.front() == '0') digits.remove_prefix(1);
+  return digits;
+}
+
+// Of numbers without leading zeros the longer is greater, so that no length
+// overflows.
+int CompareNumbers(std::string_view first, std::string_view second) {
+  if (first.size() != second.size()) {
+    return first.size() < second.size() ? -1 : 1;
+  }
+  return first.compare(second);
+}
+
+// Fills "%@" from `texts` in turn and "%d" with the number; "%%" is a percent
+// sign. A "%@" that finds no text left gives nothing.
+struct Arguments {
+  const ZTKTextRef *texts;
+  std::size_t textCount;
+  std::int32_t number;
+};
+
+ZTKTextRef Fill(ZTKTextRef format, const Arguments &arguments) {
+  if (format == nullptr) return nullptr;
+  const std::string_view pattern(format);
+  std::string filled;
+  std::size_t nextText = 0;
+  for (std::size_t at = 0; at < pattern.size(); ++at) {
+    const std::string_view verb = pattern.substr(at, 2);
+    if (verb == "%@") {
+      if (nextText < arguments.textCount) {
+        if (arguments.texts[nextText] == nullptr) return nullptr;
+        filled += arguments.texts[nextText++];
+      }
+    } else if (verb == "%d") {
+      filled += std::to_string(arguments.number);
+    } else if (verb == "%%") {
+      filled += '%';
+    } else {
+      filled += pattern[at];
+      continue;
+    }
+    ++at;
+  }
+  return Make(filled);
+}
+
+}  // namespace
+
+// Only ASCII letters are mapped: what lies beyond depends on the language.
+ZTKTextRef UpperCase(ZTKTextRef text) {
+  if (text == nullptr) return nullptr;
+  std::string upper(text);
+  for (char &character : upper) {
+    if (character >= 'a' && character <= 'z') {
+      character = static_cast<char>(character - 'a' + 'A');
+    }
+  }
+  return Make(upper);
+}
+
+bool Contains(ZTKTextRef text, ZTKTextRef part) {
+  if (text == nullptr || part == nullptr) return false;
+  return std::strstr(text, part) != nullptr;
+}
+
+ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first) {
+  return Fill(format, {.texts = &first, .textCount = 1, .number = 0});
+}
+
+ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first, ZTKTextRef second) {
+  const ZTKTextRef texts[] = {first, second};
+  return Fill(format, {.texts = texts, .textCount = 2, .number = 0});
+}
+
+ZTKTextRef Format(ZTKTextRef format, std::int32_t number) {
+  return Fill(format, {.texts = nullptr, .textCount = 0, .number = number});
+}
+
+ZTKTextRef DotComponent(ZTKTextRef text, unsigned position) {
+  if (text == nullptr) return nullptr;
+  std::string_view rest(text);
+  for (; position > 0; --position) {
+    const std::size_t dot = rest.find('.');
+    if (dot == std::string_view::npos) return nullptr;
+    rest.remove_prefix(dot + 1);
+  }
+  return Make(rest.substr(0, rest.find('.')));
+}
+
+// No text at all is below every text.
+int CompareNumerically(ZTKTextRef first, ZTKTextRef second) {
+  if (first == nullptr || second == nullptr) {
+    return (first != nullptr) - (second != nullptr);
+  }
+  std::string_view left(first);
+  std::string_view right(second);
+  while (!left.empty() && !right.empty()) {
+    if (IsDigit(left.front()) && IsDigit(right.front())) {
+      const std::string_view leftNumber = TakeNumber(&left);
+      const int order = CompareNumbers(leftNumber, TakeNumber(&right));
+      if (order != 0) return order;
+      continue;
+    }
+    // As unsigned bytes: UTF-8 then sorts as its code points do.
+    const int order = left.substr(0, 1).compare(right.substr(0, 1));
+    if (order != 0) return order;
+    left.remove_prefix(1);
+    right.remove_prefix(1);
+  }
+  return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
+}
+
+void Release(ZTKTextRef made) { std::free(const_cast<char *>(made)); }
+
+}  // namespace ztk::platform::text

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+//
+// A UserInfo is an NSDictionary of numbers. The center calls the observer's
+// methods by name; Method::code stays unused.
+#include "platform/notification_center.h"
+
+#include <span>
+#include <vector>
+
+#include "platform/macos/foundation.h"
+
+namespace ztk::platform::notification_center {
+namespace {
+
+using macos::StringOf;
+
+NSDictionary *DictionaryOf(const UserInfo *userInfo) {
+  return (NSDictionary *)userInfo;
+}
+
+}  // namespace
+
+UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
+  @autoreleasepool {
+    std::vector<id> keys;
+    std::vector<id> numbers;
+    for (const Entry &entry : std::span(entries, count)) {
+      keys.push_back(StringOf(entry.key));
+      numbers.push_back([NSNumber numberWithInt:entry.value]);
+    }
+    return (UserInfo *)[[NSDictionary alloc] initWithObjects:numbers.data()
+                                                     forKeys:keys.data()
+                                                       count:count];
+  }
+}
+
+void Release(UserInfo *userInfo) { [DictionaryOf(userInfo) release]; }
+
+// Another poster may have put anything under the key.
+std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
+  const id number = [DictionaryOf(userInfo) valueForKey:StringOf(key)];
+  if (![number respondsToSelector:@selector(intValue)]) return 0;
+  return [number intValue];
+}
+
+void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
+  @autoreleasepool {
+    NSDistributedNotificationCenter *center =
+        [NSDistributedNotificationCenter defaultCenter];
+    if (delivery == Delivery::Immediately) {
+      [center postNotificationName:StringOf(name)
+                            object:nil
+                          userInfo:DictionaryOf(userInfo)
+                deliverImmediately:YES];
+    } else {
+      [center postNotificationName:StringOf(name)
+                            object:nil
+                          userInfo:DictionaryOf(userInfo)];
+    }
+  }
+}
+
+void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
+  @autoreleasepool {
+    [[NSDistributedNotificationCenter defaultCenter]
+        addObserver:(id)observer
+           selector:sel_registerName(method.selector)
+               name:StringOf(name)
+             object:nil];
+  }
+}
+
+}  // namespace ztk::platform::notification_center

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+//
+// A made text carries one retain.
+#include "platform/text.h"
+
+#include "platform/macos/foundation.h"
+
+namespace ztk::platform::text {
+
+using macos::StringOf;
+using macos::TextOf;
+
+ZTKTextRef UpperCase(ZTKTextRef text) {
+  @autoreleasepool {
+    return TextOf([[StringOf(text) uppercaseString] retain]);
+  }
+}
+
+bool Contains(ZTKTextRef text, ZTKTextRef part) {
+  if (text == nullptr || part == nullptr) return false;
+  return [StringOf(text) rangeOfString:StringOf(part)].location != NSNotFound;
+}
+
+// A missing text would be filled in as "(null)".
+ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first) {
+  if (format == nullptr || first == nullptr) return nullptr;
+  return TextOf(
+      [[NSString alloc] initWithFormat:StringOf(format), StringOf(first)]);
+}
+
+ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first, ZTKTextRef second) {
+  if (format == nullptr || first == nullptr || second == nullptr) {
+    return nullptr;
+  }
+  return TextOf([[NSString alloc]
+      initWithFormat:StringOf(format), StringOf(first), StringOf(second)]);
+}
+
+ZTKTextRef Format(ZTKTextRef format, std::int32_t number) {
+  if (format == nullptr) return nullptr;
+  return TextOf([[NSString alloc] initWithFormat:StringOf(format), number]);
+}
+
+ZTKTextRef DotComponent(ZTKTextRef text, unsigned position) {
+  @autoreleasepool {
+    NSCharacterSet *dot =
+        [NSCharacterSet characterSetWithCharactersInString:@"."];
+    NSArray *components =
+        [StringOf(text) componentsSeparatedByCharactersInSet:dot];
+    if (position >= [components count]) return nullptr;
+    return TextOf([[components objectAtIndex:position] retain]);
+  }
+}
+
+// No text at all is below every text.
+int CompareNumerically(ZTKTextRef first, ZTKTextRef second) {
+  if (first == nullptr || second == nullptr) {
+    return (first != nullptr) - (second != nullptr);
+  }
+  return static_cast<int>([StringOf(first) compare:StringOf(second)
+                                           options:NSNumericSearch]);
+}
+
+void Release(ZTKTextRef made) { [StringOf(made) release]; }
+
+}  // namespace ztk::platform::text

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+//
+// The fixture of the tests on GNUstep's Foundation. main() has given the
+// process a home, a root and a notification center of its own.
+#ifndef ZTK_TESTS_MACOS_FOUNDATION_FOUNDATION_TEST_H_
+#define ZTK_TESTS_MACOS_FOUNDATION_FOUNDATION_TEST_H_
+
+#import <Foundation/Foundation.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "iokit_double.h"
+#include "support/child.h"
+
+namespace ztk::test {
+
+using iokit::TheWorld;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// Without it, every object that a test was handed would stay for good.
+class FoundationTest : public testing::Test {
+ protected:
+  FoundationTest();
+  ~FoundationTest() override;
+
+ private:
+  NSAutoreleasePool *pool_;
+};
+
+// The one whose root may be written to; skipped where there is no such root.
+class PlantedRootTest : public FoundationTest {
+ protected:
+  void SetUp() override;
+};
+
+// Whether main() could make the root.
+inline constexpr char kNoRoot[] = "ZTK_TEST_NO_ROOT";
+
+// A client of client.h, told these words.
+struct Client : ChildProcess {
+  explicit Client(const std::vector<std::string> &words);
+};
+
+std::string StringOf(ZTKTextRef text);
+// Autoreleased.
+NSString *ObjectOf(const std::string &text);
+ZTKTextRef TextOf(const std::string &text);
+
+// $HOME/Library/Preferences, made anew and empty.
+std::string Preferences();
+std::string SettingsFile(const std::string &model);
+// A property list with this inside its root dictionary.
+std::string PropertyList(const std::string &entries);
+
+}  // namespace ztk::test
+
+#endif  // ZTK_TESTS_MACOS_FOUNDATION_FOUNDATION_TEST_H_

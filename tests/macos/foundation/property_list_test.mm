@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "platform/property_list.h"
+
+#include <filesystem>
+
+#include "foundation_test.h"
+#include "support/temp_home.h"
+
+namespace ztk::test {
+namespace {
+
+namespace plist = platform::property_list;
+
+class MacPropertyList : public FoundationTest {
+ protected:
+  // A dictionary read from a file with these entries, given back at the end.
+  plist::Dictionary *Reading(const std::string &entries) {
+    WriteAll(File(), PropertyList(entries));
+    read_ = plist::ReadFile(TextOf(File()));
+    EXPECT_NE(read_, nullptr);
+    return read_;
+  }
+  ~MacPropertyList() override { plist::Release(read_); }
+
+  static std::string File() { return Preferences() + "/test.plist"; }
+
+  plist::Dictionary *read_ = nullptr;
+};
+
+TEST_F(MacPropertyList, IsNotReadFromWhatIsNone) {
+  EXPECT_EQ(plist::ReadFile(TextOf(File())), nullptr);
+  EXPECT_EQ(plist::ReadFile(nullptr), nullptr);
+  WriteAll(File(), "");
+  EXPECT_EQ(plist::ReadFile(TextOf(File())), nullptr);
+  WriteAll(File(), "<plist version=\"1.0\"><dict><key>a");
+  EXPECT_EQ(plist::ReadFile(TextOf(File())), nullptr);
+  WriteAll(File(),
+           "<plist version=\"1.0\"><array><string>a</string></array></plist>");
+  EXPECT_EQ(plist::ReadFile(TextOf(File())), nullptr);
+  std::filesystem::remove(File());
+  std::filesystem::create_directory(File());
+  EXPECT_EQ(plist::ReadFile(TextOf(File())), nullptr);
+}
+
+TEST_F(MacPropertyList, GivesIntegersOfWhateverHasANumber) {
+  const plist::Dictionary *list = Reading(
+      "<key>integer</key><integer>-7</integer><key>real</key><real>3.9</real>"
+      "<key>true</key><true/><key>false</key><false/>"
+      "<key>text</key><string>5</string><key>word</key><string>five</string>");
+  const struct {
+    const char *key;
+    std::int32_t expected;
+  } rows[] = {{"integer", -7}, {"real", 3}, {"true", 1},
+              {"false", 0},    {"text", 5}, {"word", 0}};
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.key);
+    std::int32_t value = 99;
+    EXPECT_TRUE(plist::IntegerValue(list, TextOf(row.key), &value));
+    EXPECT_EQ(value, row.expected);
+  }
+}
+
+TEST_F(MacPropertyList, GivesNoIntegerOfWhatHasNone) {
+  const plist::Dictionary *list = Reading(
+      "<key>array</key><array><integer>1</integer></array>"
+      "<key>dictionary</key><dict><key>a</key><integer>1</integer></dict>"
+      "<key>data</key><data>AAEC</data>"
+      "<key>date</key><date>2020-01-02T03:04:05Z</date>");
+  for (const char *key : {"absent", "array", "dictionary", "data", "date"}) {
+    SCOPED_TRACE(key);
+    std::int32_t value = 99;
+    EXPECT_FALSE(plist::IntegerValue(list, TextOf(key), &value));
+    EXPECT_EQ(value, 99);
+  }
+  std::int32_t value = 99;
+  EXPECT_FALSE(plist::IntegerValue(list, nullptr, &value));
+}
+
+TEST_F(MacPropertyList, GivesTextsOnly) {
+  const plist::Dictionary *list = Reading(
+      "<key>text</key><string>1.2.3</string><key>empty</key><string></string>"
+      "<key>number</key><integer>5</integer>"
+      "<key>array</key><array><string>a</string></array>");
+  EXPECT_EQ(StringOf(plist::TextValue(list, ZTK_TEXT("text"))), "1.2.3");
+  EXPECT_EQ(StringOf(plist::TextValue(list, ZTK_TEXT("empty"))), "");
+  EXPECT_EQ(plist::TextValue(list, ZTK_TEXT("number")), nullptr);
+  EXPECT_EQ(plist::TextValue(list, ZTK_TEXT("array")), nullptr);
+  EXPECT_EQ(plist::TextValue(list, ZTK_TEXT("absent")), nullptr);
+  EXPECT_EQ(plist::TextValue(list, nullptr), nullptr);
+}
+
+// The dictionary lives in the pool for as long as the pool does.
+TEST_F(MacPropertyList, KeepsItsTextsAfterItsRelease) {
+  WriteAll(File(), PropertyList("<key>a</key><string>a text</string>"));
+  plist::Dictionary *list = plist::ReadFile(TextOf(File()));
+  const ZTKTextRef text = plist::TextValue(list, ZTK_TEXT("a"));
+  EXPECT_EQ([(NSDictionary *)list retainCount], 2u);
+  plist::Release(list);
+  EXPECT_EQ([(NSDictionary *)list retainCount], 1u);
+  EXPECT_EQ(StringOf(text), "a text");
+}
+
+TEST_F(MacPropertyList, ThatIsMadeBelongsToTheCallerAlone) {
+  plist::Dictionary *list = nullptr;
+  @autoreleasepool {
+    list = plist::MakeDictionary();
+    plist::SetInteger(list, ZTK_TEXT("a"), 1);
+  }
+  EXPECT_EQ([(NSDictionary *)list retainCount], 1u);
+  plist::Release(list);
+  plist::Release(nullptr);
+}
+
+TEST_F(MacPropertyList, IsMergedWithAFile) {
+  WriteAll(File(), PropertyList("<key>a</key><integer>1</integer>"
+                                "<key>b</key><string>kept</string>"));
+  plist::Dictionary *list = plist::MakeDictionary();
+  plist::AddEntriesOfFile(list, TextOf(Preferences() + "/absent.plist"));
+  plist::AddEntriesOfFile(list, nullptr);
+  plist::AddEntriesOfFile(list, TextOf(File()));
+  plist::SetInteger(list, ZTK_TEXT("a"), -2147483647 - 1);
+  plist::SetInteger(list, nullptr, 1);
+  EXPECT_TRUE(plist::WriteAtomically(list, TextOf(File())));
+  EXPECT_FALSE(plist::WriteAtomically(list, nullptr));
+  plist::Release(list);
+
+  NSDictionary *written =
+      [NSDictionary dictionaryWithContentsOfFile:ObjectOf(File())];
+  EXPECT_EQ([written count], 2u);
+  EXPECT_EQ([[written objectForKey:@"a"] intValue], -2147483647 - 1);
+  EXPECT_TRUE([[written objectForKey:@"b"] isEqual:@"kept"]);
+  EXPECT_EQ(ReadAll(File()).substr(0, 5), "<?xml");
+}
+
+TEST_F(MacPropertyList, IsNotWrittenWhereThereIsNoFolder) {
+  plist::Dictionary *list = plist::MakeDictionary();
+  plist::SetInteger(list, ZTK_TEXT("a"), 1);
+  EXPECT_FALSE(plist::WriteAtomically(
+      list, TextOf(Preferences() + "/absent/test.plist")));
+  plist::Release(list);
+}
+
+}  // namespace
+}  // namespace ztk::test
