@@ -1,0 +1,34 @@
+# shellcheck shell=bash
+# SPDX-License-Identifier: MIT
+#
+# What the commands of this folder share.
+
+# Starts a message bus of our own in a folder and sets $bus to its process.
+start_bus() {  # folder
+  cat >"$1/bus.conf" <<END
+<busconfig><type>session</type><auth>EXTERNAL</auth>
+<listen>unix:path=$1/bus</listen><policy context="default">
+<allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/>
+</policy></busconfig>
+END
+  mkfifo "$1/address"
+  dbus-daemon --config-file="$1/bus.conf" --nofork --print-address \
+    >"$1/address" 2>/dev/null &
+  # shellcheck disable=SC2034  # for the caller to end it
+  bus=$!
+  local address
+  read -r address <"$1/address" || return 1
+  # Without its "guid=", as a session's variable has it.
+  export DBUS_SESSION_BUS_ADDRESS=${address%%,*}
+}
+
+# Runs the benchmarks that a filter names and keeps their results as a file.
+run_benchmarks() {  # bin results filter repetitions seconds
+  ZTK_BENCH_MAY_CHANGE_SETTINGS=1 "$1/library_bench" \
+    --benchmark_filter="$3" --benchmark_repetitions="$4" \
+    --benchmark_min_time="$5" --benchmark_enable_random_interleaving=true \
+    --benchmark_out_format=json --benchmark_out="$2.json" >"$2.txt" 2>&1 || {
+    cat "$2.txt" >&2
+    return 1
+  }
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+//
+// The same four operations as a program would write them that talks to the
+// mixer through libusb: each call starts libusb, lists the devices once, sends
+// to every mixer in the list, and ends libusb. The settings file and the
+// announcement, which have nothing to do with USB, are the floor's.
+#ifndef ZTK_BENCH_LIBUSB_WAY_H_
+#define ZTK_BENCH_LIBUSB_WAY_H_
+
+#include <cstdint>
+#include <iterator>
+
+#include "floor.h"
+#include "operations.h"
+
+namespace ztk::bench::libusb_way {
+
+// As in floor.h; -1 when libusb does not start. Set() and Apply() need
+// floor::Prepare().
+int Count();
+int Set(std::uint32_t channel, std::uint32_t index, std::uint16_t value);
+int Query(std::uint32_t channel);
+int Apply(std::uint16_t value);
+
+// In the order of kOperations.
+inline constexpr bool (*kCalls[])(std::uint32_t turn) = {
+    [](std::uint32_t) { return Count() > 0; },
+    [](std::uint32_t turn) {
+      return Set(kChannel, kChoices[turn], kValues[turn]) > 0;
+    },
+    [](std::uint32_t) { return Query(kChannel) >= 0; },
+    [](std::uint32_t) { return Apply(kValues[0]) > 0; },
+};
+static_assert(std::size(kCalls) == std::size(kOperations));
+
+}  // namespace ztk::bench::libusb_way
+
+#endif  // ZTK_BENCH_LIBUSB_WAY_H_

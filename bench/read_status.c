@@ -1,0 +1,96 @@
+/* SPDX-License-Identifier: MIT
+ *
+ * The least that reads what "ztk status" reads: every device's identity, four
+ * registers of each mixer, the settings files. It links the C library alone,
+ * reads everything once, and prints the bytes as they are.
+ */
+#include <dirent.h>
+#include <fcntl.h>
+#include <linux/usbdevice_fs.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+enum { kDescriptor = 18, kProduct = 27, kTimeoutMs = 5000, kPath = 512 };
+enum {
+  kFirmware = 0x8001,
+  kSelectors = 0x8002,
+  kSerato = 0x8004,
+  kCertifyLevel = 0x8007
+};
+
+static const char kDevices[] = "/sys/bus/usb/devices";
+
+static ssize_t ReadFile(const char *path, void *bytes, size_t size) {
+  const int file = open(path, O_RDONLY | O_CLOEXEC);
+  if (file < 0) return -1;
+  const ssize_t got = read(file, bytes, size);
+  close(file);
+  return got;
+}
+
+static void Ask(int node, unsigned short index, unsigned short length) {
+  unsigned char reply[8] = {0};
+  struct usbdevfs_ctrltransfer transfer;
+  memset(&transfer, 0, sizeof transfer);
+  transfer.bRequestType = 0xC0;
+  transfer.wIndex = index;
+  transfer.wLength = length;
+  transfer.timeout = kTimeoutMs;
+  transfer.data = reply;
+  if (ioctl(node, USBDEVFS_CONTROL, &transfer) < 0) return;
+  printf(" %04x:", index);
+  for (int i = 0; i < length; ++i) printf(" %02x", reply[i]);
+}
+
+static void ShowMixer(const char *name) {
+  char path[kPath];
+  char number[16] = {0};
+  snprintf(path, sizeof path, "%s/%s/devnum", kDevices, name);
+  if (ReadFile(path, number, sizeof number - 1) <= 0) return;
+  snprintf(path, sizeof path, "/dev/bus/usb/%03d/%03d", atoi(name),
+           atoi(number));
+  const int node = open(path, O_RDWR | O_CLOEXEC);
+  if (node < 0) return;
+  printf("mixer %s:", name);
+  Ask(node, kFirmware, 2);
+  Ask(node, kCertifyLevel, 4);
+  Ask(node, kSelectors, 5);
+  Ask(node, kSerato, 2);
+  printf("\n");
+  close(node);
+}
+
+static void ShowSettings(const char *model) {
+  char path[kPath];
+  char text[4096];
+  const char *home = getenv("HOME");
+  snprintf(path, sizeof path,
+           "%s/.config/tarvix/Preferences/com.tarvix.%sautosetup.plist",
+           home != NULL ? home : "", model);
+  const ssize_t length = ReadFile(path, text, sizeof text);
+  if (length > 0) printf("%s: %zd bytes\n", model, length);
+}
+
+int main(void) {
+  DIR *directory = opendir(kDevices);
+  if (directory == NULL) return 1;
+  const struct dirent *entry;
+  while ((entry = readdir(directory)) != NULL) {
+    char path[kPath];
+    unsigned char bytes[kDescriptor];
+    if (entry->d_name[0] == '.' || strchr(entry->d_name, ':') != NULL) continue;
+    snprintf(path, sizeof path, "%s/%s/descriptors", kDevices, entry->d_name);
+    if (ReadFile(path, bytes, sizeof bytes) != kDescriptor) continue;
+    if ((bytes[8] | bytes[9] << 8) == VENDOR_ID && bytes[10] == kProduct) {
+      ShowMixer(entry->d_name);
+    }
+  }
+  closedir(directory);
+  ShowSettings("VRM-D6");
+  ShowSettings("VRM-B5");
+  ShowSettings("VRM-K2");
+  return 0;
+}

@@ -1,0 +1,58 @@
+# SPDX-License-Identifier: MIT
+"""Reads a folder of results of bench/run; report.py and plot.py share it."""
+
+import json
+import pathlib
+import sys
+
+CONTENDERS = ("library", "floor", "libusb")
+OPERATIONS = ("count", "set", "query", "apply")
+PLACES = {"guest": "on a real kernel (guest)", "sandbox": "in the sandbox"}
+SCALE = {"ns": 1, "us": 1e3, "ms": 1e6}
+
+
+def medians(file):
+    """The median of each benchmark, in nanoseconds. A count in the sandbox
+    never waits for anybody, so for it the time of the processor is taken:
+    other work on the machine does not count."""
+    found = {}
+    processor = not file.name.startswith("guest")
+    for result in json.loads(file.read_text())["benchmarks"]:
+        if result.get("error_occurred"):
+            sys.exit(f"{file.name}: {result['name']}: "
+                     f"{result['error_message']}")
+        if result.get("aggregate_name") == "median":
+            name = result["run_name"].removesuffix("/process_time/real_time")
+            of_processor = processor and name.startswith("count/")
+            found[name] = (result["cpu_time" if of_processor else "real_time"] *
+                           SCALE[result["time_unit"]])
+    return found
+
+
+class Results:
+    """Times by (place, mixers, devices), and what else was counted."""
+
+    def __init__(self, folder):
+        self.folder = pathlib.Path(folder)
+        self.worlds = {}
+        for file in sorted(self.folder.glob("*-[0-9]*-[0-9]*.json")):
+            place, mixers, devices = file.stem.rsplit("-", 2)
+            self.worlds[place, int(mixers), int(devices)] = medians(file)
+
+    def json(self, name):
+        file = self.folder / f"{name}.json"
+        return json.loads(file.read_text()) if file.exists() else None
+
+    def text(self, name):
+        file = self.folder / name
+        return file.read_text().strip() if file.exists() else ""
+
+    def by_devices(self, place):
+        """(devices, times) with one mixer."""
+        return [(world[2], times) for world, times in sorted(
+            self.worlds.items()) if world[:2] == (place, 1)]
+
+    def by_mixers(self, place):
+        """(mixers, times) among thirty devices."""
+        return [(world[1], times) for world, times in sorted(
+            self.worlds.items()) if world[0] == place and world[2] == 30]

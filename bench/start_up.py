@@ -1,0 +1,55 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Prints, as JSON, how many milliseconds programs take from start to end.
+
+    start_up.py BIN_FOLDER RUNS
+
+The median of RUNS turns; in each turn every program runs once. BIN_FOLDER has
+ztk and the two programs of this folder that it is compared with.
+"""
+
+import json
+import os
+import shutil
+import statistics
+import sys
+import time
+
+
+def seconds(command):
+    """From before the process is made to after it has ended."""
+    sink = os.open(os.devnull, os.O_WRONLY)
+    start = time.perf_counter()
+    child = os.posix_spawn(
+        command[0], command, os.environ,
+        file_actions=[(os.POSIX_SPAWN_DUP2, sink, 1),
+                      (os.POSIX_SPAWN_DUP2, sink, 2)])
+    _, status = os.waitpid(child, 0)
+    duration = time.perf_counter() - start
+    os.close(sink)
+    if status != 0:
+        sys.exit(f"start_up.py: {' '.join(command)} failed")
+    return duration
+
+
+def main(folder, runs):
+    commands = {"ztk status": [f"{folder}/ztk", "status"],
+                "minimal C program": [f"{folder}/read_status"],
+                "libusb lister": [f"{folder}/list_devices"]}
+    lsusb = shutil.which("lsusb")
+    if lsusb:
+        commands["lsusb"] = [lsusb]
+    times = {name: [] for name in commands}
+    for turn in range(runs + 1):
+        for name, command in commands.items():
+            duration = seconds(command)
+            if turn > 0:  # the first one fetches the programs from the disk
+                times[name].append(duration * 1e3)
+    print(json.dumps({name: statistics.median(all_times)
+                      for name, all_times in times.items()}, indent=1))
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 3:
+        sys.exit(__doc__)
+    main(sys.argv[1], int(sys.argv[2]))
