@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+//
+// Every cause is made for real: the mixer is forbidden, silent or away, the
+// rule stands or does not, the bus is stopped.
+#include <filesystem>
+
+#include "doctor_world.h"
+
+namespace ztk::test {
+namespace {
+
+constexpr char kRule[] = "/etc/udev/rules.d/70-tarvix-mixer.rules";
+constexpr char kGoodRule[] =
+    "ACTION!=\"remove\", SUBSYSTEM==\"usb\", ENV{DEVTYPE}==\"usb_device\", "
+    "ATTR{idVendor}==\"6666\", ATTR{idProduct}==\"001b\", TAG+=\"uaccess\"";
+constexpr char kReplug[] =
+    "sudo udevadm control --reload && sudo udevadm trigger --action=add "
+    "/sys/bus/usb/devices/1-1";
+constexpr char kBundle[] =
+    "/System/Library/Frameworks/VRM-D6Setup.framework/Resources/";
+
+class Doctor : public DoctorWorld {
+ protected:
+  // Skips the test where the system does not let the files be planted.
+  void Plant(const Planted &files, const std::vector<std::string> &options,
+             const std::string &script) {
+    result_ = InPlantedRoot(files, options, script);
+    if (result_.status == kCannotPlant) {
+      GTEST_SKIP() << "no mount namespace here";
+    }
+    if (result_.status == kCannotSet) GTEST_SKIP() << result_.err;
+  }
+  static bool RuleIsInstalled() {
+    for (const char *folder :
+         {"/etc/", "/run/", "/usr/local/lib/", "/usr/lib/"}) {
+      if (std::filesystem::exists(std::string(folder) +
+                                  "udev/rules.d/70-tarvix-mixer.rules")) {
+        return true;
+      }
+    }
+    return false;
+  }
+  Result result_;
+};
+
+TEST_F(Doctor, FindsNothingWhereAllIsWell) {
+  Plant({{std::string(kBundle) + "English.lproj/Localizable.strings",
+          "<plist version=\"1.0\"><dict><key>WARNING1</key>"
+          "<string>none</string></dict></plist>"}},
+        {"-n", "2"}, "ztk doctor; echo $?; ztk doctor --json");
+  EXPECT_EQ(result_.status, 0) << result_.err;
+  EXPECT_EQ(Line(result_.out, 0),
+            "mixers    ok: 2 mixers are attached and answer");
+  EXPECT_EQ(Line(result_.out, 1),
+            "settings  ok: they can be read and written in " +
+                home_.path().string() + "/.config/tarvix/Preferences");
+  EXPECT_EQ(Line(result_.out, 2),
+            "bus       ok: other programs hear of changes");
+  EXPECT_EQ(Line(result_.out, 3),
+            "texts     ok: the warning texts are installed");
+  EXPECT_EQ(Line(result_.out, 4), "0");
+  const Json json = OneObject(LastLine(result_.out) + "\n");
+  EXPECT_EQ(json.value("findings", Json()), Json::array());
+  EXPECT_EQ(json.value("checks", Json::array()).size(), 4U);
+  EXPECT_THAT(Writes(), IsEmpty());
+  EXPECT_FALSE(std::filesystem::exists(home_.path() / ".config"));
+}
+
+TEST_F(Doctor, NamesFindingCauseAndCommandAndIsOne) {
+  const Result result = NoMixer("ztk doctor");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.out,
+              StartsWith("mixers    no mixer is attached\n"
+                         "          cause: the system sees none: its plug is "
+                         "out, or it is off; plug it in and switch it on\n"
+                         "          type:  ztk doctor\n"));
+  EXPECT_EQ(SplitLines(result.err).size(), 1U);
+  EXPECT_EQ(OneObject(NoMixer("ztk doctor --json").out)["error"]["code"],
+            "found");
+}
+
+TEST_F(Doctor, TellsNoMixerFromNoUsb) {
+  EXPECT_EQ(Word(OnlyOneIn("mixers", NoMixer("ztk doctor --json")), "id"),
+            "no-mixer");
+  const Json finding =
+      OnlyOneIn("mixers", NoMixer("rm -r $UMOCKDEV_DIR/sys/bus/usb;"
+                                  "ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "no-usb");
+}
+
+TEST_F(Doctor, FindsThatTheRuleIsMissing) {
+  if (RuleIsInstalled()) GTEST_SKIP() << "the rule is installed here";
+  const Json finding = OnlyOneIn(
+      "mixers", Inside({"-n", "1", "--forbid", "1"}, "ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "rule-missing");
+  EXPECT_EQ(Word(finding, "finding"),
+            "mixer 1 is attached, but you cannot open it");
+  EXPECT_EQ(Word(finding, "command"), std::string("echo '") + kGoodRule +
+                                          "' | sudo tee " + kRule + " && " +
+                                          kReplug);
+}
+
+TEST_F(Doctor, FindsThatTheRuleIsDisabledOrForAnotherMixer) {
+  for (const char *contents :
+       {"", "ATTR{idVendor}==\"1234\", ATTR{idProduct}==\"001b\""}) {
+    Plant({{kRule, contents}}, {"-n", "1", "--forbid", "1"},
+          "ztk doctor --json");
+    const Json finding = OnlyOneIn("mixers", result_);
+    EXPECT_EQ(Word(finding, "id"), "rule-disabled");
+    EXPECT_THAT(Word(finding, "cause"), HasSubstr(kRule));
+  }
+}
+
+TEST_F(Doctor, FindsThatTheRuleCameAfterTheMixer) {
+  Plant(
+      {{kRule, kGoodRule}, {"/run/udev/data/c189:1", "I:12345\nG:seat\nV:1\n"}},
+      {"-n", "1", "--forbid", "1"}, "ztk doctor --json");
+  const Json finding = OnlyOneIn("mixers", result_);
+  EXPECT_EQ(Word(finding, "id"), "rule-not-applied");
+  EXPECT_EQ(Word(finding, "command"), kReplug);
+}
+
+TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
+  const Planted files{
+      {"/usr/lib/udev/rules.d/70-tarvix-mixer.rules", kGoodRule},
+      {"/run/udev/data/c189:1", "I:12345\nG:uaccess\nQ:uaccess\nV:1\n"}};
+  Plant(files, {"-n", "1", "--forbid", "1"},
+        "USER=dj SSH_CONNECTION='::1 1 ::1 22' ztk doctor --json");
+  Json finding = OnlyOneIn("mixers", result_);
+  EXPECT_EQ(Word(finding, "id"), "no-seat");
+  EXPECT_THAT(Word(finding, "cause"), HasSubstr("you came over ssh"));
+  EXPECT_THAT(Word(finding, "command"),
+              HasSubstr(", OWNER=\"dj\"' | sudo tee "
+                        "/etc/udev/rules.d/71-tarvix-mixer-owner.rules && "));
+  Plant(files, {"-n", "1", "--forbid", "1"},
+        "unset SSH_CONNECTION SSH_TTY; USER=dj ztk doctor --json");
+  finding = OnlyOneIn("mixers", result_);
+  EXPECT_EQ(Word(finding, "id"), "no-seat");
+  EXPECT_THAT(Word(finding, "cause"), Not(HasSubstr("ssh")));
+}
+
+TEST_F(Doctor, FindsAContainerThatTheDeviceWasNotLetInto) {
+  const std::string script =
+      "rm $UMOCKDEV_DIR/dev/bus/usb/001/002; ztk doctor --json";
+  const struct {
+    Planted files;
+    const char *cause;
+    const char *command;
+  } rows[] = {
+      {{{"/.dockerenv", ""}}, "this is a docker container", "docker run "},
+      {{{"/.flatpak-info", "[Application]\nname=org.example.Decks\n"}},
+       "this is a Flatpak sandbox",
+       "flatpak override --user --device=all org.example.Decks"},
+      {{{"/run/systemd/container", "lxc\n"}},
+       "this is an LXC container",
+       "lxc config device add CONTAINER mixer usb vendorid=6666 "
+       "productid=001b"},
+  };
+  for (const auto &row : rows) {
+    Plant(row.files, {"-n", "1"}, script);
+    const Json finding = OnlyOneIn("mixers", result_);
+    EXPECT_EQ(Word(finding, "id"), "no-node");
+    EXPECT_THAT(Word(finding, "cause"), StartsWith(row.cause));
+    EXPECT_THAT(Word(finding, "command"), StartsWith(row.command));
+  }
+}
+
+TEST_F(Doctor, FindsThatAServiceOrContainerMayNotUseTheDevice) {
+  // Nobody may write such a file, whatever rights he has: the same answer as
+  // that of a device controller.
+  Plant({{"/.dockerenv", ""}}, {"-n", "1"},
+        "node=$UMOCKDEV_DIR/dev/bus/usb/001/002\n"
+        "chattr +i $node || exit 97\n"
+        "trap 'chattr -i $node' EXIT\n"
+        "ztk doctor --json; ztk boost set 1 2> /dev/null");
+  const Result first{
+      .status = result_.status, .out = Line(result_.out, 0), .err = {}};
+  const Json finding = OnlyOneIn("mixers", first);
+  EXPECT_EQ(Word(finding, "id"), "forbidden");
+  EXPECT_THAT(Word(finding, "cause"),
+              HasSubstr("may not use /dev/bus/usb/001/002"));
+}
+
+TEST_F(Doctor, FindsAMixerThatDoesNotAnswer) {
+  const struct {
+    const char *fault;
+    const char *id;
+    const char *command;
+  } rows[] = {
+      {"silence@r8001", "silent",
+       "for on in 0 1; do echo $on | sudo tee "
+       "/sys/bus/usb/devices/1-2/authorized; done"},
+      {"stall@r8001", "refusing",
+       "for on in 0 1; do echo $on | sudo tee "
+       "/sys/bus/usb/devices/1-2/authorized; done"},
+      {"unplug@r8001", "gone", "ztk doctor"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.fault);
+    const Json finding = OnlyOneIn(
+        "mixers", Inside({"-n", "2", "--fault", std::string("2:") + row.fault},
+                         "ztk doctor --json"));
+    EXPECT_EQ(Word(finding, "id"), row.id);
+    EXPECT_THAT(Word(finding, "finding"), StartsWith("mixer 2 "));
+    EXPECT_EQ(Word(finding, "command"), row.command);
+  }
+}
+
+TEST_F(Doctor, FindsThatTheBusIsGone) {
+  bus_.Stop();
+  const Json finding = OnlyOneIn("bus", NoMixer("ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "no-bus");
+  EXPECT_THAT(Word(finding, "cause"), HasSubstr("DBUS_SESSION_BUS_ADDRESS"));
+  const Result after = NoMixer(
+      "dbus-run-session -- ztk doctor --json 2> $DIR/noise | tee $DIR/answer;"
+      "grep -q '\"bus\",\"ok\":true' $DIR/answer && echo helped");
+  EXPECT_EQ(LastLine(after.out), "helped");
+}
+
+TEST_F(Doctor, FindsTheBusThatTheShellWasNotTold) {
+  std::filesystem::create_symlink(
+      bus_.address().substr(std::string("unix:path=").size()),
+      home_.path() / "bus");
+  const std::string elsewhere =
+      "export XDG_RUNTIME_DIR=$DIR DBUS_SESSION_BUS_ADDRESS=unix:path=/none;";
+  const Json finding =
+      OnlyOneIn("bus", NoMixer(elsewhere + "ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "no-bus");
+  EXPECT_EQ(Word(finding, "command"),
+            "export DBUS_SESSION_BUS_ADDRESS=unix:path=" +
+                (home_.path() / "bus").string());
+  const Result after =
+      NoMixer(elsewhere + Word(finding, "command") + "; ztk doctor --json");
+  EXPECT_THAT(FoundIn("bus", after), IsEmpty());
+}
+
+TEST_F(Doctor, SaysThatRootHasNoBusOfYours) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can be that";
+  bus_.Stop();
+  const Json finding =
+      OnlyOneIn("bus", NoMixer("SUDO_USER=dj ztk doctor --json"));
+  EXPECT_THAT(Word(finding, "cause"), HasSubstr("without sudo"));
+}
+
+TEST_F(Doctor, FindsThatTheTextsAreMissingOrBroken) {
+  const Json missing = OnlyOneIn("texts", NoMixer("ztk doctor --json"));
+  EXPECT_EQ(Word(missing, "id"), "texts-missing");
+  Plant({{std::string(kBundle) + "Info.plist", ""}}, {"-n", "0"},
+        "ztk doctor --json");
+  EXPECT_EQ(Word(OnlyOneIn("texts", result_), "id"), "texts-broken");
+}
+
+}  // namespace
+}  // namespace ztk::test

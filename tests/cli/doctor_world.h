@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+//
+// What ztk doctor finds, by part, with what it says.
+#ifndef ZTK_TESTS_CLI_DOCTOR_WORLD_H_
+#define ZTK_TESTS_CLI_DOCTOR_WORLD_H_
+
+#include <unistd.h>
+
+#include "cli_world.h"
+
+namespace ztk::test {
+
+// A script ends with it when this system does not let it set the scene.
+inline constexpr int kCannotSet = 97;
+
+class DoctorWorld : public CliWorld {
+ protected:
+  // The findings of one part in the answer on the last line.
+  static std::vector<Json> FoundIn(const std::string &part,
+                                   const Result &result) {
+    std::vector<Json> found;
+    const Json json = OneObject(LastLine(result.out) + "\n");
+    for (const Json &one : json.value("findings", Json::array())) {
+      if (one.value("part", "") == part) found.push_back(one);
+    }
+    return found;
+  }
+  // The only one, or one with nothing but an id that tells how many.
+  static Json OnlyOneIn(const std::string &part, const Result &result) {
+    const std::vector<Json> found = FoundIn(part, result);
+    if (found.size() == 1) return found.front();
+    return {{"id", std::to_string(found.size()) + " findings"}};
+  }
+  static std::string Word(const Json &finding, const char *name) {
+    return finding.value(name, "");
+  }
+  // Whether the command that was told helps: nothing is found after it.
+  bool Helps(const Json &finding, const std::string &part,
+             const std::vector<std::string> &options = {"-n", "0"}) {
+    const Result after = Inside(
+        options, Word(finding, "command") + " > /dev/null; ztk doctor --json");
+    return FoundIn(part, after).empty();
+  }
+};
+
+}  // namespace ztk::test
+
+#endif  // ZTK_TESTS_CLI_DOCTOR_WORLD_H_

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+//
+// What somebody meant who typed a wrong word.
+#include "nearest.h"
+
+#include "cli_world.h"
+
+namespace ztk::test {
+namespace {
+
+using cli::Nearest;
+using cli::NearestAndAccepted;
+using cli::NearestByFar;
+
+const std::vector<std::string> kWords{"status", "input",   "output",  "boost",
+                                      "midi",   "warning", "versions"};
+
+TEST(Nearest, IsTheWordThatDiffersLeast) {
+  const struct {
+    const char *name;
+    const char *word;
+    const char *expected;
+  } rows[] = {{"swapped", "inptu", "input"},
+              {"missing", "bost", "boost"},
+              {"too many", "statuss", "status"},
+              {"wrong", "mibi", "midi"},
+              {"a part of it", "version", "versions"},
+              {"capitals", "INPTU", "input"},
+              {"dashes", "--out-put", "output"},
+              {"the first of two", "put", "input"},
+              {"the shorter of two", "nput", "input"},
+              {"nothing in common", "xyz", ""},
+              {"one letter", "x", ""},
+              {"no word", "", ""},
+              {"no letters", " -", ""},
+              {"not UTF-8", "\xFF\xFE", ""}};
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(Nearest(row.word, kWords), row.expected);
+  }
+  EXPECT_EQ(Nearest("input", {}), "");
+}
+
+TEST(Nearest, TakesNoTimeForAWordWithoutEnd) {
+  EXPECT_EQ(Nearest(std::string(4000000, 'q'), kWords), "");
+}
+
+TEST(NearestByFar, IsNoGuess) {
+  EXPECT_EQ(NearestByFar("json", {"--json", "--help"}), "--json");
+  EXPECT_EQ(NearestByFar("jsn", {"--json", "--help"}), "--json");
+  EXPECT_EQ(NearestByFar("now", {"--json", "--help"}), "");
+  EXPECT_EQ(NearestByFar("js", {"--json", "--help"}), "");
+}
+
+TEST(NearestAndAccepted, SaysWhatCanStandThere) {
+  EXPECT_EQ(NearestAndAccepted("bost", {"input", "boost"}),
+            "; nearest: boost; accepted: input, boost");
+  EXPECT_EQ(NearestAndAccepted("zzz", {"input", "boost"}),
+            "; accepted: input, boost");
+  EXPECT_EQ(NearestAndAccepted("bost", {}), "");
+}
+
+TEST(NearestAndAccepted, KnowsTheNumberThatIsNearest) {
+  const struct {
+    const char *word;
+    const char *expected;
+  } rows[] = {{"0", "; nearest: 1; accepted: 1 to 5"},
+              {"6", "; nearest: 5; accepted: 1 to 5"},
+              {"99999999999999999999", "; nearest: 5; accepted: 1 to 5"},
+              {"-1", "; accepted: 1 to 5"},
+              {"one", "; accepted: 1 to 5"},
+              {"", "; accepted: 1 to 5"}};
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.word);
+    EXPECT_EQ(NearestAndAccepted(row.word, 1, 5), row.expected);
+  }
+}
+
+}  // namespace
+}  // namespace ztk::test

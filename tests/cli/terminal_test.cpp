@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: MIT
+//
+// What a user at a terminal sees, and what Ctrl-C leaves behind.
+#include "terminal.h"
+
+#include "cli_world.h"
+#include "pseudo_terminal.h"
+
+namespace ztk::test {
+namespace {
+
+using cli::LaidOut;
+using cli::Strong;
+
+TEST(LaidOut, LeavesLinesAloneWithoutATerminal) {
+  EXPECT_EQ(
+      LaidOut("a  b c d e f g\n\n  h", {.columns = 0, .standsOut = false}),
+      "a  b c d e f g\n\n  h");
+}
+
+TEST(LaidOut, ShowsMarksOnlyWhereTextMayStandOut) {
+  const std::string text = "  1\n" + Strong("* 2") + "\n";
+  EXPECT_EQ(LaidOut(text, {.columns = 0, .standsOut = false}), "  1\n* 2\n");
+  EXPECT_EQ(LaidOut(text, {.columns = 80, .standsOut = false}), "  1\n* 2\n");
+  EXPECT_EQ(LaidOut(text, {.columns = 80, .standsOut = true}),
+            "  1\n\033[1m* 2\033[0m\n");
+}
+
+TEST(LaidOut, BreaksLinesBetweenWords) {
+  const struct {
+    const char *name;
+    std::size_t columns;
+    std::string text;
+    const char *expected;
+  } rows[] = {
+      {"fits exactly", 7, "ab cd e\n", "ab cd e\n"},
+      {"one too many", 6, "ab cd e\n", "ab cd\n  e\n"},
+      {"below the second column", 20, "  name    one two three four\n",
+       "  name    one two\n          three four\n"},
+      {"marks take no room", 8, Strong("ab cd ef") + "\n", "ab cd ef\n"},
+      {"the second column is too far", 10, "  a long name  one two\n",
+       "  a long\n    name\n    one\n    two\n"},
+      {"a word that is too long", 4, "abcdefgh ij\n", "abcdefgh ij\n"},
+      {"umlauts are one column", 5, "\xC3\xA4\xC3\xB6 \xC3\xBC\xC3\xA4\n",
+       "\xC3\xA4\xC3\xB6 \xC3\xBC\xC3\xA4\n"},
+      {"no end of line", 5, "ab cd ef", "ab cd\n  ef"},
+      {"empty lines stay", 5, "\n\na\n", "\n\na\n"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(LaidOut(row.text, {.columns = row.columns, .standsOut = false}),
+              row.expected);
+  }
+}
+
+class Terminal : public CliWorld {
+ protected:
+  void SetUp() override {
+    CliWorld::SetUp();
+    setenv("TERM", "xterm", 1);
+    for (const char *name : {"NO_COLOR", "CLICOLOR"}) unsetenv(name);
+  }
+
+  // What stands before the command of a sandbox.
+  std::vector<std::string> Sandbox(const std::vector<std::string> &options,
+                                   const std::string &script) const {
+    std::vector<std::string> words{ZTK_VIRTUAL_MIXER, "run", "--log",
+                                   (home_.path() / "requests").string()};
+    words.insert(words.end(), options.begin(), options.end());
+    for (const char *word : {"--", "sh", "-c"}) words.emplace_back(word);
+    words.push_back(script);
+    return words;
+  }
+
+  std::string Shown(const std::string &script, unsigned short columns) const {
+    PseudoTerminal terminal(Sandbox({"-n", "1"}, script), columns);
+    terminal.End();
+    return terminal.shown();
+  }
+};
+
+TEST_F(Terminal, MakesTheCurrentChoiceStandOut) {
+  const std::string shown = Shown("ztk boost list", 80);
+  EXPECT_THAT(shown, HasSubstr("\033[1m* 4  -19 dB\033[0m\n"));
+  EXPECT_THAT(shown, HasSubstr("\n  3  -15 dB\n"));
+}
+
+TEST_F(Terminal, IsPlainWhereTheUserWantsIt) {
+  for (const char *wish : {"NO_COLOR=1", "CLICOLOR=0", "TERM=dumb", "TERM="}) {
+    SCOPED_TRACE(wish);
+    const std::string shown = Shown(std::string(wish) + " ztk boost list", 80);
+    EXPECT_THAT(shown, HasSubstr("\n* 4  -19 dB\n"));
+    EXPECT_THAT(shown, Not(HasSubstr("\033")));
+  }
+  // Set to nothing, it is no wish.
+  EXPECT_THAT(Shown("NO_COLOR= ztk boost list", 80), HasSubstr("\033[1m"));
+}
+
+TEST_F(Terminal, GivesAPipeNothingButText) {
+  const std::string shown = Shown(
+      "export CLICOLOR_FORCE=1 FORCE_COLOR=1; ztk boost list | cat; "
+      "ztk boost list --json",
+      80);
+  EXPECT_THAT(shown, HasSubstr("\n* 4  -19 dB\n"));
+  EXPECT_THAT(shown, Not(HasSubstr("\033")));
+}
+
+TEST_F(Terminal, KeepsToANarrowWidth) {
+  Remember("VRM-D6", {{"Output1", 0}, {"MaxLevel", 1}});
+  const std::string shown = Shown(
+      "NO_COLOR=1; export NO_COLOR; ztk status; ztk input list; ztk get;"
+      "ztk input get; ztk apply; ztk versions; ztk midi list; ztk --help",
+      40);
+  for (const std::string &line : SplitLines(shown)) {
+    if (line.rfind("ztk: ", 0) == 0) continue;  // to be copied as one line
+    EXPECT_LE(line.size(), 40U) << line;
+  }
+  EXPECT_THAT(shown, HasSubstr("  selectors     CH1 4   CH2 4   CH3 4\n"
+                               "                CH4 4\n"));
+}
+
+TEST_F(Terminal, ShowsThatItWaitsForASilentMixer) {
+  PseudoTerminal terminal(
+      Sandbox({"--fault", "delay:1900@8001*1"}, "ztk status"), 80);
+  EXPECT_TRUE(terminal.WaitFor("\r\033[KWaiting for a mixer; Ctrl-C ends"));
+  EXPECT_TRUE(terminal.WaitFor("\r\033[KWaiting for a mixer, 1 s; Ctrl-C"));
+  EXPECT_EQ(terminal.End(), 0);
+  // It has gone before the answer is shown.
+  EXPECT_THAT(terminal.shown(), HasSubstr("ends\r\033[KMixer 1 is reachable"));
+}
+
+TEST_F(Terminal, ShowsOnADumbTerminalOnceThatItWaits) {
+  PseudoTerminal terminal(
+      Sandbox({"--fault", "delay:1000@8001*1"}, "TERM=dumb ztk status"), 80);
+  EXPECT_EQ(terminal.End(), 0);
+  EXPECT_THAT(terminal.shown(),
+              StartsWith("Waiting for a mixer; Ctrl-C ends\nMixer 1 is"));
+}
+
+TEST_F(Terminal, SaysNothingOfWaitingElsewhere) {
+  const Result result =
+      Inside({"--fault", "delay:1000@8001*1"}, "ztk status > $DIR/o");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.err, IsEmpty());
+}
+
+TEST_F(Terminal, EndsOnCtrlCWithOneLineAndStatus130) {
+  PseudoTerminal terminal(Sandbox({"--fault", "delay:2000"},
+                                  "trap : INT; ztk boost set 1; echo =$?"),
+                          80);
+  ASSERT_TRUE(terminal.WaitFor("Ctrl-C ends"));
+  terminal.Type("\x03");
+  EXPECT_TRUE(terminal.WaitFor("; ending"));
+  terminal.End();
+  EXPECT_THAT(terminal.shown(), HasSubstr("\r\033[Kztk: interrupted; "));
+  EXPECT_THAT(terminal.shown(), HasSubstr("\n=130\n"));
+  EXPECT_FALSE(HasSettings("VRM-D6"));
+}
+
+TEST_F(Terminal, EndsOnCtrlCWithAnObject) {
+  PseudoTerminal terminal(
+      Sandbox({"--fault", "delay:2000"},
+              "trap : INT; ztk status --json > $DIR/out.json; echo =$?"),
+      80);
+  ASSERT_TRUE(terminal.WaitFor("Ctrl-C ends"));
+  terminal.Type("\x03");
+  EXPECT_TRUE(terminal.WaitFor("=130"));
+  const Json json = OneObject(File("out.json"));
+  EXPECT_EQ(json["command"], "status");
+  EXPECT_EQ(json["ok"], false);
+  EXPECT_EQ(json["error"]["code"], "interrupted");
+}
+
+TEST_F(Terminal, IsNotInterruptedWhereTheSignalIsIgnored) {
+  const Result result = Inside(
+      {"--fault", "delay:300*1"},
+      "trap '' INT; ztk boost set 1 > $DIR/o & until [ -s $DIR/requests ];"
+      "do sleep 0.01; done; kill -INT $!; wait $!; echo $?");
+  EXPECT_EQ(result.out, "0\n");
+  EXPECT_EQ(File("o"), "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n");
+}
+
+class Picking : public Terminal {};
+
+TEST_F(Picking, TakesANumberOrTextFromTheList) {
+  for (const char *answer : {"3\n", "post\n", "POST CH2\n"}) {
+    SCOPED_TRACE(answer);
+    PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk input set 2"), 80);
+    EXPECT_TRUE(
+        terminal.WaitFor("\033[1m* 1  CH2 Control Tone PHONO\033[0m\n"));
+    EXPECT_TRUE(
+        terminal.WaitFor("  7  REC OUT\nUSB input 2, number or text: "));
+    terminal.Type(answer);
+    EXPECT_EQ(terminal.End(), 0);
+    EXPECT_THAT(terminal.shown(),
+                HasSubstr("\nUSB input 2: 3 Post CH2 Fader, sent to 1 mixer, "
+                          "remembered\n"));
+    EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0206 8002 0000"));
+    Remember("VRM-D6", {});
+  }
+}
+
+TEST_F(Picking, AsksAgainAfterAWrongWord) {
+  PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk boost set"), 40);
+  ASSERT_TRUE(terminal.WaitFor("Boost level, number or text: "));
+  terminal.Type("12\n");
+  EXPECT_TRUE(terminal.WaitFor("no choice \"12\"; nearest: 4 -19 dB\n"));
+  terminal.Type("-1\n");
+  EXPECT_TRUE(terminal.WaitFor("\"-1\" can mean: 2 -10 dB, 3 -15 dB, 4 -19\n"));
+  EXPECT_TRUE(terminal.WaitFor("Boost level, number or text: "));
+  terminal.Type("-10\n");
+  EXPECT_EQ(terminal.End(), 0);
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
+}
+
+TEST_F(Picking, SendsNothingWithoutAnAnswer) {
+  for (const char *answer : {"\n", "  \n", "\x04"}) {
+    PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk midi set; echo =$?"), 80);
+    ASSERT_TRUE(terminal.WaitFor("MIDI channel, number or text: "));
+    terminal.Type(answer);
+    EXPECT_TRUE(terminal.WaitFor("ztk: nothing was chosen for MIDI channel"));
+    EXPECT_TRUE(terminal.WaitFor("\n=2\n"));
+    EXPECT_THAT(Requests(), IsEmpty());
+    EXPECT_FALSE(HasSettings("VRM-K2"));
+  }
+}
+
+TEST_F(Picking, EndsOnCtrlC) {
+  PseudoTerminal terminal(
+      Sandbox({"-n", "1"}, "trap : INT; ztk midi set; echo =$?"), 80);
+  ASSERT_TRUE(terminal.WaitFor("MIDI channel, number or text: "));
+  terminal.Type("\x03");
+  EXPECT_TRUE(terminal.WaitFor("\n=130\n"));
+  EXPECT_THAT(Requests(), IsEmpty());
+}
+
+TEST_F(Picking, IsNotForScripts) {
+  for (const char *script :
+       {"ztk midi set < /dev/null", "ztk midi set --json > $DIR/o",
+        "ztk midi set | cat", "ztk midi set --json"}) {
+    SCOPED_TRACE(script);
+    PseudoTerminal terminal(Sandbox({"-n", "1"}, script), 80);
+    terminal.End();
+    EXPECT_THAT(terminal.shown(),
+                HasSubstr("ztk: a CHOICE is missing for MIDI channel; "));
+    EXPECT_THAT(terminal.shown(), Not(HasSubstr("number or text")));
+  }
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+
+#include "cli_world.h"
+
+namespace ztk::test {
+namespace {
+
+class Undo : public CliWorld {
+ protected:
+  std::filesystem::path History() const {
+    return home_.path() / ".local/state/tarvix/ztk-history.jsonl";
+  }
+};
+
+TEST_F(Undo, PutsBackStepByStepLikeASetter) {
+  Remember("VRM-D6", {{"Output1", 4}, {"MaxLevel", 0}});
+  const Result result = OneMixer(
+      "ztk input set 2 3 > /dev/null; ztk boost set 2 > /dev/null;"
+      "ztk input set 2 mic > /dev/null; : > $DIR/seen\n"
+      "ztk undo; echo $?; ztk undo; echo $?; ztk undo; echo $?;"
+      "ztk undo; echo $?");
+  EXPECT_THAT(SplitLines(result.out),
+              ElementsAre("USB input 2: 6 MIC undone, 3 Post CH2 Fader sent to "
+                          "1 mixer, remembered",
+                          "0",
+                          "Boost level: 2 -10 dB undone, 1 -5 dB sent to 1 "
+                          "mixer, remembered",
+                          "0",
+                          "USB input 2: 3 Post CH2 Fader undone, 5 Cross Fader "
+                          "B sent to 1 mixer, remembered",
+                          "0", "Nothing to undo.", "0"));
+  const std::vector<std::string> writes = Writes();
+  ASSERT_EQ(writes.size(), 6U);
+  EXPECT_EQ(writes[3], "mixer 1: 40 03 0206 8002 0000");
+  EXPECT_EQ(writes[4], "mixer 1: 40 03 0300 8003 0000");
+  EXPECT_EQ(writes[5], "mixer 1: 40 03 0208 8002 0000");
+}
+
+TEST_F(Undo, TellsTheSameInJsonAndAnnouncesIt) {
+  Remember("VRM-K2", {{"MidiChannel", 4}});
+  const Result result = OneMixer("ztk midi set 9 > /dev/null; ztk undo --json");
+  const Json json = OneObject(result.out);
+  EXPECT_EQ(json.value("undone", ""), "midi set");
+  EXPECT_EQ(json.value("stepsLeft", -1), 0);
+  EXPECT_EQ(json.value("settings", Json()),
+            Json::parse(R"([{"setting":"midi","model":"VRM-K2","channel":null,
+                "number":5,"text":"CH 5","value":4,"undoneValue":8,
+                "wasRemembered":true,"result":100,"remembered":true,
+                "announced":true}])"));
+}
+
+TEST_F(Undo, PutsTheDefaultBackWhereNothingWasRemembered) {
+  const Result result = OneMixer(
+      "ztk input set 1 mic > /dev/null; ztk output set 2 aux > /dev/null;"
+      "ztk boost set 1 > /dev/null; ztk midi set 7 > /dev/null;"
+      "ztk undo; ztk undo; ztk undo; ztk undo");
+  const std::string note =
+      "  nothing was remembered before: this is the default";
+  EXPECT_THAT(SplitLines(result.out),
+              ElementsAre("MIDI channel: 7 CH 7 undone, 1 CH 1 sent to 1 "
+                          "mixer, remembered",
+                          note,
+                          "Boost level: 1 -5 dB undone, 4 -19 dB sent to 1 "
+                          "mixer, remembered",
+                          note,
+                          "USB output 2: 3 AUX undone, 2 CH2 sent to 1 mixer, "
+                          "remembered",
+                          note,
+                          "USB input 1: 6 MIC undone, 1 CH1 Control Tone PHONO "
+                          "sent to 1 mixer, remembered",
+                          note));
+}
+
+TEST_F(Undo, LeavesAloneWhatAnotherProgramHasChangedSince) {
+  Remember("VRM-D6", {{"Output0", 1}, {"MaxLevel", 0}});
+  OneMixer("ztk boost set 2; ztk input set 1 3");
+  Remember("VRM-D6", {{"Output0", 5}, {"MaxLevel", 1}});
+  const Result result = OneMixer("ztk undo; echo $?; ztk undo; echo $?");
+  EXPECT_EQ(Line(result.out, 0), "4");
+  EXPECT_THAT(Line(result.err, 0),
+              HasSubstr("left alone, as another program has changed it since: "
+                        "USB input 1 is 6 MIC (for what it was, type: ztk "
+                        "input set 1 2)"));
+  // The step before is another one's to judge.
+  EXPECT_THAT(Line(result.out, 1), HasSubstr("Boost level: 2 -10 dB undone"));
+  EXPECT_EQ(Line(result.out, 2), "0");
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
+}
+
+TEST_F(Undo, DoesNotCountWhatChangedNothing) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  const Result result = OneMixer(
+      "ztk boost set 2 > /dev/null; ztk boost set 2 > /dev/null;"
+      "ztk boost apply > /dev/null; ztk input raw 1 0 9 > /dev/null;"
+      "ztk output default > /dev/null; ztk boost set 3 --dry-run > /dev/null;"
+      "ztk undo; ztk undo");
+  EXPECT_EQ(Line(result.out, 0),
+            "Boost level: 2 -10 dB undone, 1 -5 dB sent to 1 mixer, "
+            "remembered");
+  EXPECT_EQ(Line(result.out, 1), "Nothing to undo.");
+}
+
+TEST_F(Undo, SaysWhatCannotBePutBack) {
+  Remember("VRM-D6", {{"MaxLevel", 77}});
+  const Result result = OneMixer(
+      "ztk boost set 2 > /dev/null; ztk undo --dry-run > $DIR/dry;"
+      "echo $? >> $DIR/dry; ztk undo; echo $?; ztk undo");
+  EXPECT_EQ(LastLine(File("dry")), "4");
+  EXPECT_THAT(File("dry"), Not(HasSubstr("MaxLevel")));
+  EXPECT_EQ(Line(result.out, 0),
+            "Boost level: 2 -10 dB undone, 77, which is no choice refused");
+  EXPECT_EQ(Line(result.out, 1), "4");
+  EXPECT_THAT(result.err, HasSubstr("cannot be put back, as the library "
+                                    "refuses it: Boost level: 77"));
+  EXPECT_EQ(Line(result.out, 2), "Nothing to undo.");
+}
+
+TEST_F(Undo, IsThreeWithoutAMixerAndStillPutsBack) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  const Result result =
+      NoMixer("ztk boost set 2 2> /dev/null; ztk undo; echo $?; ztk boost get");
+  EXPECT_EQ(Line(result.out, 1),
+            "Boost level: 2 -10 dB undone, 1 -5 dB not sent, remembered");
+  EXPECT_EQ(Line(result.out, 2), "3");
+  EXPECT_EQ(LastLine(result.out), "Boost level  1 -5 dB");
+}
+
+TEST_F(Undo, ShowsInADryRunWhatItWouldDo) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  OneMixer("ztk boost set 2");
+  const Result result = OneMixer("ztk undo --dry-run; ztk boost get");
+  EXPECT_THAT(result.out, HasSubstr("MaxLevel: 1 -> 0 (1 -5 dB)"));
+  EXPECT_EQ(LastLine(result.out), "Boost level  2 -10 dB");
+  EXPECT_THAT(Requests(), IsEmpty());
+  EXPECT_THAT(OneMixer("ztk undo").out, StartsWith("Boost level: 2 -10 dB "));
+}
+
+TEST_F(Undo, UsesWhatCanBeReadOfADamagedHistory) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  OneMixer("ztk boost set 2");
+  const std::string good = ReadAll(History());
+  const std::string damage =
+      good + "{\"command\":\"x\",\"changes\":[{\"setting\":\"input\"," +
+      "\"channel\":99,\"after\":1}]}\n[[[\n\xFF\n{}\n" +
+      "{\"command\":3,\"changes\":{}}\n" +
+      "{\"command\":\"x\",\"changes\":[]}\n" + good.substr(0, 20);
+  WriteAll(History(), damage);
+  const Result result = OneMixer("ztk undo; echo $?; ztk undo");
+  EXPECT_EQ(Line(result.out, 0),
+            "Boost level: 2 -10 dB undone, 1 -5 dB sent to 1 mixer, "
+            "remembered");
+  EXPECT_EQ(Line(result.out, 1), "0");
+  EXPECT_EQ(Line(result.out, 2), "Nothing to undo.");
+  EXPECT_THAT(Line(result.err, 0), HasSubstr("history is damaged"));
+  // Nothing of it is lost, and it is told once.
+  EXPECT_EQ(ReadAll(History().string() + ".unreadable-1"), damage);
+  EXPECT_EQ(SplitLines(result.err).size(), 1U);
+}
+
+TEST_F(Undo, IsKeptUnderTheStateFolderOfTheUser) {
+  OneMixer("XDG_STATE_HOME=$DIR/elsewhere ztk boost set 2");
+  EXPECT_FALSE(std::filesystem::exists(History()));
+  EXPECT_THAT(ReadAll(home_.path() / "elsewhere/tarvix/ztk-history.jsonl"),
+              StartsWith("{\"command\":\"boost set\",\"changes\":[{"));
+}
+
+TEST_F(Undo, IsMissedWithAWarningAndNothingElse) {
+  WriteAll(home_.path() / ".local/state", "");
+  const Result result = OneMixer("ztk boost set 2; echo $?; ztk undo; echo $?");
+  EXPECT_EQ(Line(result.out, 0),
+            "Boost level: 2 -10 dB, sent to 1 mixer, remembered");
+  EXPECT_EQ(Line(result.out, 1), "0");
+  EXPECT_EQ(Line(result.out, 2), "5");
+  EXPECT_THAT(Line(result.err, 0),
+              StartsWith("ztk: warning: ztk undo will not know of this: "));
+}
+
+TEST_F(Undo, GoesBackAHundredStepsAndNoFurther) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  std::string history;
+  for (int i = 0; i < 150; ++i) {
+    history +=
+        "{\"command\":\"boost set\",\"changes\":[{\"setting\":\"boost\","
+        "\"channel\":null,\"before\":1,\"after\":0}]}\n";
+  }
+  WriteAll(History(), history);
+  OneMixer("ztk boost set 3");
+  EXPECT_LE(SplitLines(ReadAll(History())).size(), 100U);
+}
+
+}  // namespace
+}  // namespace ztk::test

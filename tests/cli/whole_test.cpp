@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+//
+// Two at once, and killed at any moment: what is remembered stays whole.
+#include "cli_world.h"
+
+namespace ztk::test {
+namespace {
+
+class Whole : public CliWorld {};
+
+TEST_F(Whole, AfterTwoHundredKills) {
+  const Result result =
+      OneMixer(std::string(ZTK_KILL_CHILD) + " 200 " +
+               home_.SettingsFile("VRM-D6").string() +
+               "; ztk undo > /dev/null 2> $DIR/e; grep -c damaged $DIR/e");
+  const std::vector<std::string> lines = SplitLines(result.out);
+  ASSERT_EQ(lines.size(), 2U) << result.out;
+  int killed = 0;
+  int changed = 0;
+  ASSERT_EQ(std::sscanf(lines[0].c_str(), "killed %d of 200, changed %d",
+                        &killed, &changed),
+            2)
+      << lines[0];
+  // Else nothing was tried.
+  EXPECT_GT(killed, 0);
+  EXPECT_GT(changed, 0);
+  EXPECT_EQ(lines[1], "0");
+}
+
+// The library merges what it read before: without a lock, two programs lose
+// each other's values.
+TEST_F(Whole, WhenTwoChangeDifferentSettingsAtOnce) {
+  const Result result = OneMixer(
+      "for i in 1 2 3 4 5 6 7 1 2 3 4 5 6 7; do ztk input set 1 $i || echo"
+      " lost; ztk input get 1; done > $DIR/one & \n"
+      "for i in 1 2 3 4 1 2 3 4 1 2 3 4 1 2; do ztk boost set $i || echo"
+      " lost; ztk boost get; done > $DIR/two\n"
+      "wait; ztk input get 1; ztk boost get");
+  EXPECT_THAT(File("one"), Not(HasSubstr("lost")));
+  EXPECT_THAT(File("two"), Not(HasSubstr("lost")));
+  EXPECT_EQ(Line(result.out, 1), "USB input 1  7 REC OUT");
+  EXPECT_EQ(LastLine(result.out), "Boost level  2 -10 dB");
+  EXPECT_EQ(SplitLines(
+                ReadAll(home_.path() / ".local/state/tarvix/ztk-history.jsonl"))
+                .size(),
+            28U);
+}
+
+TEST_F(Whole, WhenOneIsStoppedInTheMiddleForTheOthersToWait) {
+  // The first one waits for its mixer while the second one comes.
+  const Result result = Inside(
+      {"-n", "1", "--fault", "delay:600@w8003"},
+      "ztk boost set 1 > /dev/null & sleep 0.3; ztk input set 1 mic; wait;"
+      "ztk boost get");
+  EXPECT_EQ(Line(result.out, 0),
+            "USB input 1: 6 MIC, sent to 1 mixer, remembered");
+  EXPECT_EQ(LastLine(result.out), "Boost level  1 -5 dB");
+}
+
+}  // namespace
+}  // namespace ztk::test

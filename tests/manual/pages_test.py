@@ -1,0 +1,140 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Reads the manual pages with the two programs that show them.
+
+Neither may complain, and the library's page has to tell every function of the
+header with its parameters and results, a program's page every command and
+option that its completion offers.
+
+Usage: pages_test.py FOLDER SOURCES PROGRAMS
+"""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+
+PAGES = ("ztk.1", "ztk-virtual-mixer.1", "ZTKFunc.3")
+
+
+def complaints_of(command, page):
+    environment = dict(os.environ, LC_ALL="C.UTF-8", MANWIDTH="80")
+    done = subprocess.run([*command, page], env=environment, check=False,
+                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.PIPE, text=True)
+    # mandoc complains on its output, man beside it.
+    said = done.stdout if command[0] == "mandoc" else done.stderr
+    if said or done.returncode:
+        return [f"{' '.join(command)} {page.name} ({done.returncode}):\n{said}"]
+    return []
+
+
+def plain(page):
+    """The words of a page without its markup."""
+    text = page.read_text(encoding="utf-8")
+    for markup, character in ((r"\fB", ""), (r"\fI", ""), (r"\fR", ""),
+                              (r"\-", "-"), (r"\(aq", "'"), (r"\(dq", '"'),
+                              (r"\&", ""), (r"\e", "\\")):
+        text = text.replace(markup, character)
+    return text
+
+
+def functions_of(header):
+    """Each function with its parameters, read from the declarations alone."""
+    code = re.sub(r"/\*.*?\*/", "", header, flags=re.S)
+    for name, parameters in re.findall(
+            r"ZTK_EXPORT\s+ZTKResult\s+(\w+)\(([^)]*)\);", code):
+        yield name, re.findall(r"(\w+)(?:,|$)", parameters)
+
+
+def check_library_page(folder, sources):
+    header = (sources / "include/ZTKFunc.h").read_text(encoding="utf-8")
+    exported = (sources / "src/exports.txt").read_text(encoding="utf-8")
+    page = plain(folder / "ZTKFunc.3")
+    sections = dict(re.findall(r'\.SS "(\w+)"\n(.*?)(?=\n\.S[SH] |\Z)', page,
+                               flags=re.S))
+    found = dict(functions_of(header))
+    names = set(re.findall(r"^ZTK_\w+", exported, flags=re.M))
+    complaints = []
+    if set(found) != names:
+        complaints.append(f"the header and exports.txt differ: "
+                          f"{set(found) ^ names}")
+    for name, parameters in found.items():
+        section = sections.get(name, "")
+        for word in (name, *parameters):
+            if not re.search(rf"\b{word}\b", section):
+                complaints.append(f"ZTKFunc(3) does not tell {word} of {name}")
+    # What a comment says of a parameter or a result stands there word by word.
+    squeezed = " ".join(page.split())
+    for text in re.findall(r"@(?:param(?:\[out\])?|retval) +(.*?)"
+                           r"(?=\n \*\n| \*/|\n \* @)", header, flags=re.S):
+        words = re.sub(r"\n \* +", " ", text).split()
+        sentence = " ".join(words[2 if words[1].startswith("(") else 1:])
+        if sentence not in squeezed:
+            complaints.append(f"ZTKFunc(3) does not say: {sentence}")
+    return complaints
+
+
+def offered(programs, words):
+    done = subprocess.run(
+        [f"{programs}/{words[0]}", "__complete", *words[1:]], check=True,
+        stdout=subprocess.PIPE, text=True)
+    return [line.split("\t")[0] for line in done.stdout.splitlines()]
+
+
+def check_program_page(folder, programs, name):
+    page = plain(folder / f"{name}.1")
+    told = dict(re.findall(r'\.SS "([a-z ]+)"\n(.*?)(?=\n\.S[SH] )', page,
+                           flags=re.S))
+    complaints = []
+    commands = 0
+    heads = [[name]]
+    for head in heads:
+        path = " ".join(head[1:])
+        below = [word for word in offered(programs, [*head, ""])
+                 if re.fullmatch("[a-z]+", word)]
+        if path not in told and below and len(head) < 3:
+            heads += [[*head, word] for word in below]
+            continue
+        commands += 1
+        help_text = subprocess.run(
+            [f"{programs}/{name}", *head[1:], "--help"], check=True,
+            stdout=subprocess.PIPE, text=True).stdout
+        for option in offered(programs, [*head, "--"]):
+            if not re.search(rf"{option}\b", told.get(path, "") + page[:2000]):
+                complaints.append(f"{name}(1) does not tell {option} of {path}")
+            if option != "--version" and option not in help_text:
+                complaints.append(f"{name} {path} --help does not tell {option}")
+        if path not in told:
+            complaints.append(f"{name}(1) does not tell {path}")
+    if commands != len(told) or not commands:
+        complaints.append(f"{name}(1) tells {len(told)} commands, and there are "
+                          f"{commands}")
+    return complaints
+
+
+def main(folder, sources, programs):
+    folder = pathlib.Path(folder)
+    complaints = check_library_page(folder, pathlib.Path(sources))
+    for name in ("ztk", "ztk-virtual-mixer"):
+        complaints += check_program_page(folder, programs, name)
+    readers = [command for command in (
+        ["mandoc", "-T", "lint", "-W", "warning"],
+        ["man", "--warnings", "-E", "UTF-8", "-Tutf8", "-Z", "-l"])
+               if shutil.which(command[0])]
+    for page in PAGES:
+        for command in readers:
+            complaints += complaints_of(command, folder / page)
+    print("\n".join(complaints))
+    if complaints:
+        return 1
+    if len(readers) < 2:
+        print("mandoc or man is not installed")
+        return 77
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "change.h"
+
+#include <algorithm>
+
+#include "announcement.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "text.h"
+
+namespace ztk::cli {
+
+namespace {
+
+std::vector<const notify::Family *> Notices(
+    const std::vector<Change> &changes) {
+  std::vector<const notify::Family *> notices;
+  for (const Change &change : changes) {
+    const notify::Family *notice = change.family->notice;
+    if (std::find(notices.begin(), notices.end(), notice) == notices.end()) {
+      notices.push_back(notice);
+    }
+  }
+  return notices;
+}
+
+std::string SettingsFolder() {
+  const platform::text::Made library(platform::paths::UserLibrary());
+  if (library.get() == nullptr) return "your home folder";
+  return Utf8(library.get()) + "/Preferences";
+}
+
+// The file is the last to be asked: what is sent can be sent again, what is
+// not remembered is lost.
+void AddForgotten(const MadeChanges &made, Report *report) {
+  const bool kept =
+      std::all_of(made.changes.begin(), made.changes.end(),
+                  [](const MadeChange &change) { return change.remembered; });
+  if (kept) return;
+  const bool sent = made.reach.answered() > 0;
+  if (report->problem) report->warnings.push_back(report->problem->message);
+  report->problem = {
+      .exit = sent ? ExitCode::NotRemembered : ExitCode::Failed,
+      .message = (sent ? Described(made.reach) + ", but not remembered"
+                       : "neither answered by a mixer nor remembered") +
+                 ": make sure that you can write to " + SettingsFolder()};
+}
+
+}  // namespace
+
+MadeChanges MakeChanges(const std::vector<Change> &changes) {
+  MadeChanges made;
+  BusWitness witness(Notices(changes));
+  const Sent sent = SendAndLook([&] {
+    ZTKResult all = ZTK_REJECTED;
+    for (const Change &change : changes) {
+      made.changes.push_back(
+          {.change = change,
+           .result = change.family->set(change.product, change.channel,
+                                        change.index)});
+      if (made.changes.back().result != ZTK_REJECTED) all = ZTK_SUCCESS;
+    }
+    return all;
+  });
+  made.reach = sent.reach;
+  for (MadeChange &one : made.changes) {
+    if (one.result == ZTK_REJECTED) continue;
+    const Change &change = one.change;
+    one.remembered = Remembered(*change.family, change.channel) == change.index;
+    one.announced =
+        witness.Heard({.family = change.family->notice,
+                       .product = change.product,
+                       .channel = change.family->channels == 0
+                                      ? std::nullopt
+                                      : std::optional(change.channel),
+                       .index = change.index});
+  }
+  return made;
+}
+
+void AddTruth(const MadeChanges &made, const std::string &what,
+              const std::string &again, Report *report) {
+  AddReach(made.reach,
+           {.notSent = what +
+                       " is remembered, not sent; once a mixer can be "
+                       "reached, run: " +
+                       again,
+            .notAnswered =
+                what + " is remembered; once a mixer answers, run: " + again,
+            .someMissing = "once the others do, run: " + again},
+           report);
+  AddForgotten(made, report);
+  const bool announced =
+      std::all_of(made.changes.begin(), made.changes.end(),
+                  [](const MadeChange &change) { return change.announced; });
+  if (!announced) WarnOfSilentBus(report);
+}
+
+std::string Described(const MadeChange &change, const Reach &reach) {
+  return Described(reach) +
+         (change.remembered ? ", remembered" : ", not remembered");
+}
+
+void WarnOfSilentBus(Report *report) {
+  report->warnings.emplace_back(
+      "not announced: there is no session message bus here, so other programs "
+      "do not hear of it");
+}
+
+}  // namespace ztk::cli

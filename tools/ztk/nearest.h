@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// What somebody meant who typed a word that there is not.
+#ifndef ZTK_TOOLS_ZTK_NEAREST_H_
+#define ZTK_TOOLS_ZTK_NEAREST_H_
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ztk::cli {
+
+// The accepted word from which the other differs least: it may be a part of it,
+// letters may be missing, too many, wrong or swapped; case does not count.
+// Empty when none has anything in common with it.
+std::string Nearest(const std::string &word,
+                    const std::vector<std::string> &accepted);
+
+// The same, but empty as well where it is no more than a guess.
+std::string NearestByFar(const std::string &word,
+                         const std::vector<std::string> &accepted);
+
+// "; nearest: input; accepted: status, input"; the nearest only where there is
+// one, and nothing where nothing is accepted.
+std::string NearestAndAccepted(const std::string &word,
+                               const std::vector<std::string> &accepted);
+
+// "; nearest: 5; accepted: 1 to 5", for a word that shall be a number.
+std::string NearestAndAccepted(const std::string &word, std::uint32_t least,
+                               std::uint32_t most);
+
+}  // namespace ztk::cli
+
+#endif  // ZTK_TOOLS_ZTK_NEAREST_H_

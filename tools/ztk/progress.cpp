@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "progress.h"
+
+#include <unistd.h>
+
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <string_view>
+#include <utility>
+
+#include "report.h"
+#include "terminal.h"
+
+namespace ztk::cli {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+using std::chrono::steady_clock;
+
+constexpr milliseconds kPatience{500};
+constexpr seconds kStep{1};
+constexpr char kClearLine[] = "\r\033[K";
+constexpr char kHowToEnd[] = "; Ctrl-C ends";
+constexpr char kEnding[] = "; ending";
+
+// True while a line without an end stands on the terminal.
+std::atomic<bool> theLineStands = false;
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+// Made before the signal can come, as nothing can be made when it does.
+std::string_view theJsonLine;
+bool theErrorsAreShown = false;
+
+// Nobody is left to tell when it fails.
+void WriteNow(int stream, std::string_view text) {
+  [[maybe_unused]] const ssize_t written =
+      write(stream, text.data(), text.size());
+}
+
+void OnInterrupt(int /*signal*/) {
+  if (theLineStands.load()) {
+    WriteNow(STDERR_FILENO, kClearLine);
+  } else if (theErrorsAreShown) {
+    // Behind the "^C" that the terminal shows.
+    WriteNow(STDERR_FILENO, "\n");
+  }
+  WriteNow(STDOUT_FILENO, theJsonLine);
+  WriteNow(STDERR_FILENO, "ztk: ");
+  WriteNow(STDERR_FILENO, kInterrupted);
+  WriteNow(STDERR_FILENO, "\n");
+  _exit(static_cast<int>(ExitCode::Interrupted));
+}
+
+// A request keeps the main thread from being interrupted until it has ended.
+// Only a thread that holds the signal back sees that it has come.
+bool InterruptWaits() {
+  sigset_t pending;
+  return sigpending(&pending) == 0 && sigismember(&pending, SIGINT) == 1;
+}
+
+void ShowWaiting(const std::string &what, int waited) {
+  std::string line = what;
+  if (waited > 0) line += ", " + std::to_string(waited) + " s";
+  line += InterruptWaits() ? kEnding : kHowToEnd;
+  const std::size_t columns = Columns(STDERR_FILENO);
+  // A line that the terminal had to break could not be cleared.
+  if (columns > 0 && line.size() >= columns) line.resize(columns - 1);
+  theLineStands = true;
+  WriteNow(STDERR_FILENO, kClearLine);
+  WriteNow(STDERR_FILENO, line);
+}
+
+}  // namespace
+
+Progress::Progress(std::string what)
+    : what_(std::move(what)), hasCursor_(HasCursor(STDERR_FILENO)) {
+  if (!IsTerminal(STDERR_FILENO)) return;
+  // The signals of the program are the main thread's, which alone knows when
+  // they have to wait.
+  sigset_t all;
+  sigset_t before;
+  sigfillset(&all);
+  pthread_sigmask(SIG_SETMASK, &all, &before);
+  thread_ = std::thread(&Progress::Tell, this);
+  pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
+Progress::~Progress() {
+  if (!thread_.joinable()) return;
+  {
+    const std::lock_guard lock(mutex_);
+    ended_ = true;
+  }
+  end_.notify_one();
+  thread_.join();
+}
+
+void Progress::Tell() {
+  const auto begin = steady_clock::now();
+  std::unique_lock lock(mutex_);
+  auto next = begin + kPatience;
+  for (int tick = 0; !end_.wait_until(lock, next, [this] { return ended_; });
+       ++tick) {
+    if (hasCursor_) {
+      ShowWaiting(what_, tick);
+    } else if (tick == 0) {
+      WriteNow(STDERR_FILENO, what_ + kHowToEnd + "\n");
+    }
+    next += kStep;
+  }
+  if (!theLineStands) return;
+  WriteNow(STDERR_FILENO, kClearLine);
+  theLineStands = false;
+}
+
+void EndOnInterrupt(const std::string &jsonLine) {
+  theErrorsAreShown = IsTerminal(STDERR_FILENO);
+  static std::string line;
+  line = jsonLine;
+  theJsonLine = line;
+  struct sigaction action {};
+  if (sigaction(SIGINT, nullptr, &action) != 0) return;
+  if (action.sa_handler == SIG_IGN) return;
+  action = {};
+  action.sa_handler = OnInterrupt;
+  sigaction(SIGINT, &action, nullptr);
+}
+
+}  // namespace ztk::cli
