@@ -1,0 +1,97 @@
+# shellcheck shell=bash
+# SPDX-License-Identifier: MIT
+#
+# A Debian 12 that has nothing but its base system, in a temporary folder, for
+# the commands that try things there. They source lib.sh first.
+
+readonly suite=bookworm
+
+# Where this machine takes the suite's packages from: both forms of source
+# lists, the first that offers it.
+mirror() {
+  local lists=(/etc/apt/sources.list /etc/apt/sources.list.d/*.list)
+  { cat /etc/apt/sources.list.d/*.sources 2>/dev/null || true; } |
+    awk -v RS= -v suite="$suite" -F '\n' '{
+      uri = ""; offers = 0
+      for (i = 1; i <= NF; ++i) {
+        n = split($i, word, /[[:space:]]+/)
+        if (word[1] == "URIs:") uri = word[2]
+        if (word[1] == "Suites:")
+          for (j = 2; j <= n; ++j) if (word[j] == suite) offers = 1
+      }
+      if (offers && uri != "") { print uri; exit }
+    }'
+  { cat "${lists[@]}" 2>/dev/null || true; } |
+    sed 's/\[[^]]*\]//' |
+    awk -v suite="$suite" '$1 == "deb" && $3 == suite { print $2; exit }'
+}
+
+# What makes apt work on this machine makes it work in the root.
+copy_apt_settings() {  # root
+  local file
+  rm -f "$1/etc/apt/sources.list"
+  for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list \
+    /etc/apt/sources.list.d/*.sources /etc/apt/keyrings \
+    /etc/apt/trusted.gpg.d /usr/share/keyrings /etc/apt/auth.conf.d \
+    /etc/resolv.conf /etc/hosts; do
+    [[ -e $file ]] || continue
+    mkdir -p "$1/${file%/*}"
+    cp -aL --remove-destination "$file" "$1/${file%/*}/"
+  done
+  # Only how packages are fetched: other settings may run programs that a bare
+  # system does not have.
+  apt-config dump | grep -E '^Acquire::(https?|Check|Allow)' \
+    >"$1/etc/apt/apt.conf.d/90machine" || true
+}
+
+# Everything from here on happens in namespaces of its own: mounts and left
+# processes end with them.
+mount_system() {  # root
+  local device
+  mount --bind "$1" "$1"
+  mount -t proc proc "$1/proc"
+  mount --rbind /sys "$1/sys"
+  mount -t tmpfs -o mode=755 tmpfs "$1/dev"
+  for device in null zero full random urandom tty; do
+    touch "$1/dev/$device"
+    mount --bind "/dev/$device" "$1/dev/$device"
+  done
+  mkdir "$1/dev/pts" "$1/dev/shm"
+  mount -t devpts -o newinstance,ptmxmode=0666,mode=0620 devpts "$1/dev/pts"
+  mount -t tmpfs tmpfs "$1/dev/shm"
+  ln -s pts/ptmx "$1/dev/ptmx"
+  ln -s /proc/self/fd "$1/dev/fd"
+}
+
+# Runs a command in the root with the environment of a fresh login.
+in_bare_root() {  # root command...
+  local bare=$1 settings=() name
+  shift
+  for name in http_proxy https_proxy no_proxy; do
+    [[ -z ${!name:-} ]] || settings+=("$name=${!name}")
+  done
+  env -i PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin \
+    HOME=/root USER=root TERM="${TERM:-dumb}" LANG=C.UTF-8 "${settings[@]}" \
+    chroot "$bare" bash -c 'cd /root/project && "$@"' bash "$@" </dev/null
+}
+
+# Makes the root and sets $bare to its folder; it goes when the command ends.
+make_bare_root() {
+  [[ $(id -u) == 0 ]] || fail "Only root can make a bare Debian root."
+  need_packages full
+  local origin extra=()
+  origin=$(mirror | head -n 1)
+  origin=${origin:-http://deb.debian.org/debian}
+  [[ $origin != https:* ]] || extra=(--include=ca-certificates)
+
+  bare_root_folder=$(mktemp -d "${TMPDIR:-/var/tmp}/bare-root.XXXXXX")
+  trap 'rm -rf --one-file-system "$bare_root_folder"' EXIT
+  bare=$bare_root_folder/root
+  say "Making a bare Debian 12 from $origin."
+  debootstrap --variant=minbase "${extra[@]}" "$suite" "$bare" "$origin" \
+    >"$bare_root_folder/log" 2>&1 || {
+    tail -n 20 "$bare_root_folder/log" >&2
+    fail "The bare root could not be made."
+  }
+  copy_apt_settings "$bare"
+}
