@@ -1,0 +1,201 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Does what a reader of a document does, and compares what it shows.
+
+- A block marked "console" holds commands after "$ " and what they print. All of
+  them run in order, in one home folder, on a private message bus. A block marked
+  "console mixer" runs inside the sandbox of a virtual mixer. "..." alone on a
+  line stands for any lines.
+- A block marked "c" is a program: it has to compile and to run among virtual
+  mixers. Words after the "c" name what it uses besides, as pkg-config knows it.
+  What it prints stands in the "text" block after it.
+- Blocks marked "sh" are not run: they install things or take a build's time.
+- What the links of the document point to has to be there.
+
+Usage: document_test.py DOCUMENT BUILD [COMPILER [FLAG]...]
+"""
+
+import difflib
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+from typing import NamedTuple
+
+SECONDS = 60
+
+
+class Block(NamedTuple):
+    kind: str
+    text: str
+    line: int
+
+
+class Exchange(NamedTuple):
+    command: str
+    output: str
+    line: int
+
+
+def blocks_of(text):
+    found = []
+    kind = None
+    for number, line in enumerate(text.splitlines(), 1):
+        fence = re.match(r"```(.*)$", line)
+        if fence and kind is None:
+            kind, start, lines = fence[1].strip(), number, []
+        elif fence:
+            found.append(Block(kind, "".join(lines), start))
+            kind = None
+        elif kind is not None:
+            lines.append(line + "\n")
+    return found
+
+
+def exchanges_of(block):
+    """The commands of a block, each with the output that is shown."""
+    found = []
+    for offset, line in enumerate(block.text.splitlines(), 1):
+        if line.startswith("$ "):
+            found.append(Exchange(line[2:], "", block.line + offset))
+        elif found:
+            found[-1] = found[-1]._replace(output=found[-1].output + line + "\n")
+        else:
+            sys.exit(f"line {block.line}: output before any command")
+    return found
+
+
+def fits(shown, printed):
+    pattern = "".join(
+        "(?:.*\n)*" if line.strip() == "..." else re.escape(line)
+        for line in shown.splitlines(keepends=True))
+    return re.fullmatch(pattern, printed) is not None
+
+
+class Reader:
+    """A user with a fresh home folder and a message bus of their own."""
+
+    def __init__(self, folder, build):
+        self.folder = folder
+        self.home = folder / "home"
+        self.home.mkdir()
+        address = f"unix:path={folder}/bus"
+        self.environment = {
+            "PATH": f"{build}/bin:{os.environ['PATH']}",
+            "LD_LIBRARY_PATH": f"{build}/lib",
+            "HOME": str(self.home),
+            "TMPDIR": str(folder),
+            "LC_ALL": "C.UTF-8",
+            "DBUS_SESSION_BUS_ADDRESS": address}
+        for name in ("ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"):
+            if name in os.environ:
+                self.environment[name] = os.environ[name]
+        self.bus = subprocess.Popen(
+            ["dbus-daemon", "--session", "--nofork", f"--address={address}",
+             "--print-address=1"], stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL, text=True)
+        self.bus.stdout.readline()
+
+    def leave(self):
+        self.bus.terminate()
+        self.bus.wait()
+        self.bus.stdout.close()
+
+    def run(self, command):
+        done = subprocess.run(
+            command, cwd=self.home, env=self.environment, timeout=SECONDS,
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT, text=True, check=False)
+        return done.stdout
+
+    def try_console(self, block):
+        """Runs a block as one script; the outputs are told apart by a mark."""
+        exchanges = exchanges_of(block)
+        mark = "-- the next command --"
+        script = f"; echo '{mark}'\n".join(e.command for e in exchanges)
+        command = ["bash", "-c", f"exec 2>&1\n{script}"]
+        if block.kind == "console mixer":
+            command = ["ztk-virtual-mixer", "run", "--", *command]
+        printed = self.run(command).split(mark + "\n")
+        printed += ["(it did not run)\n"] * (len(exchanges) - len(printed))
+        return [difference(f"line {exchange.line}: {exchange.command}",
+                           exchange.output, output)
+                for exchange, output in zip(exchanges, printed)]
+
+    def try_program(self, block, shown, compiler, header):
+        source = self.folder / "example.c"
+        source.write_text(block.text)
+        program = self.folder / "example"
+        others = block.kind.split()[1:]
+        if others:
+            others = self.run(
+                ["pkg-config", "--cflags", "--libs", *others]).split()
+        output = self.run(
+            [*compiler, "-std=c99", "-Wall", "-Wextra", "-Werror",
+             f"-I{header}", source, "-lZTKFunc", *others,
+             f"-L{self.environment['LD_LIBRARY_PATH']}", "-o", program])
+        title = f"line {block.line}: the program"
+        if not program.exists():
+            return f"{title} does not compile\n{output}"
+        return difference(title, shown.text, self.run(
+            ["ztk-virtual-mixer", "run", "--", program]))
+
+
+def difference(title, shown, printed):
+    """Empty when it fits; else what to tell."""
+    if fits(shown, printed):
+        return ""
+    return "\n".join([title, *difflib.unified_diff(
+        shown.splitlines(), printed.splitlines(), "shown", "printed",
+        lineterm="")])
+
+
+def dead_links(document):
+    """What the document links to in the project, and is not there."""
+    text = document.read_text(encoding="utf-8")
+    return [f"a link to {target} leads nowhere"
+            for target in re.findall(r"\]\(([^)#]+)[^)]*\)", text)
+            if not re.match(r"\w+:", target)
+            and not (document.parent / target).exists()]
+
+
+def try_examples(blocks, build, compiler):
+    header = pathlib.Path(__file__).resolve().parents[2] / "include"
+    complaints = []
+    # Short: sockets lie below it.
+    with tempfile.TemporaryDirectory(prefix="ztk.", dir="/tmp") as folder:
+        reader = Reader(pathlib.Path(folder), os.path.abspath(build))
+        try:
+            for block, following in blocks:
+                if block.kind.startswith("console"):
+                    complaints += reader.try_console(block)
+                else:
+                    complaints.append(reader.try_program(
+                        block, following, compiler or ["cc"], header))
+        finally:
+            reader.leave()
+    return complaints
+
+
+def main(document, build, *compiler):
+    document = pathlib.Path(document)
+    blocks = blocks_of(document.read_text(encoding="utf-8"))
+    examples = [(block, following)
+                for block, following in zip(blocks, [*blocks[1:], None])
+                if block.kind.split()[:1] in (["console"], ["c"])]
+    complaints = dead_links(document)
+    if document.name == "README.md" and not examples:
+        complaints.append("there are no examples")
+    if examples:
+        complaints += try_examples(examples, build, compiler)
+    complaints = [complaint for complaint in complaints if complaint]
+    for complaint in complaints:
+        print(complaint, end="\n\n")
+    print(f"{len(examples)} examples tried, {len(complaints)} complaints")
+    return 1 if complaints else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
