@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// Times of the library's calls, beside those of the floor and, for the count,
-// of libusb. Measures whatever devices this process sees; bench/run shows it
+// Times of the library's calls, beside those of the floor and of a program that
+// uses libusb. Measures whatever devices this process sees; bench/run shows it
 // virtual ones.
 #include <benchmark/benchmark.h>
-#include <libusb.h>
 
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <string>
 
+#include "libusb_way.h"
 #include "operations.h"
 
 namespace {
@@ -31,21 +32,6 @@ void Repeat(benchmark::State &state, bool (*call)(std::uint32_t turn),
       state.SkipWithError("no mixer was reached");
       break;
     }
-  }
-}
-
-void CountWithLibusb(benchmark::State &state) {
-  for (auto _ : state) {
-    libusb_context *context = nullptr;
-    libusb_device **devices = nullptr;
-    if (libusb_init(&context) != 0) {
-      state.SkipWithError("libusb does not start");
-      break;
-    }
-    const ssize_t count = libusb_get_device_list(context, &devices);
-    if (count >= 0) libusb_free_device_list(devices, 1);
-    libusb_exit(context);
-    benchmark::DoNotOptimize(count);
   }
 }
 
@@ -77,7 +63,8 @@ void RejectedSetter(benchmark::State &state) {
   }
 }
 
-void RegisterPair(const Operation &operation, bool needsMixer) {
+void RegisterContenders(std::size_t index, bool needsMixer) {
+  const Operation &operation = kOperations[index];
   const std::string name = operation.name;
   const auto add = [needsMixer](const std::string &full, auto *call) {
     benchmark::RegisterBenchmark(full.c_str(), Repeat, call, needsMixer)
@@ -87,20 +74,16 @@ void RegisterPair(const Operation &operation, bool needsMixer) {
   };
   add(name + "/library", operation.library);
   add(name + "/floor", operation.floor);
+  add(name + "/libusb", libusb_way::kCalls[index]);
 }
 
 // Without mixers, only the count can be measured.
 void RegisterAll(bool hasMixer, bool mayChange) {
-  for (const Operation &operation : kOperations) {
-    const bool isCount = &operation == &kOperations[0];
-    if (!isCount && !hasMixer) continue;
-    if (operation.changesSettings && !mayChange) continue;
-    RegisterPair(operation, hasMixer);
+  for (std::size_t i = 0; i < std::size(kOperations); ++i) {
+    if (i > 0 && !hasMixer) continue;
+    if (kOperations[i].changesSettings && !mayChange) continue;
+    RegisterContenders(i, hasMixer);
   }
-  benchmark::RegisterBenchmark("count/libusb", CountWithLibusb)
-      ->Unit(benchmark::kMicrosecond)
-      ->MeasureProcessCPUTime()
-      ->UseRealTime();
   benchmark::RegisterBenchmark("text/library", NameOfChoice);
   benchmark::RegisterBenchmark("choices/library", NumberOfChoices);
   benchmark::RegisterBenchmark("rejected/library", RejectedSetter);

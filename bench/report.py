@@ -1,113 +1,198 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Prints what a folder of benchmark results says, beside the goals.
+"""Prints what a folder of benchmark results says, as Markdown.
 
-    report.py FOLDER
+    report.py FOLDER            prints it
+    report.py FOLDER DOCUMENT   and puts it between DOCUMENT's two marks
 
-A goal that is missed is a line in the table and no failure: times depend on
+A goal that is missed is a word in the table and no failure: times depend on
 the machine and on what else it does. Only results that are missing or not
 valid are a failure.
 """
 
-import json
 import pathlib
 import sys
 
-# What the numbers of a file were measured on.
-WORLDS = {
-    "sandbox": "among virtual mixers, settings on disk",
-    "memory": "among virtual mixers, settings in memory",
-    "machine": "on this machine's own bus",
-    "copy": "on a copy of a bus, without the sandbox",
-}
-# File, operation, how many times the floor it may cost.
-FLOOR_GOALS = {("sandbox", "count"): 1.15, ("machine", "count"): 1.15,
-               ("sandbox", "set"): 1.2}
-LIBUSB_GOAL = 20  # times faster
+import results
+
+FLOOR_GOAL = {("guest", "set"): 1.10, ("guest", "query"): 1.10,
+              ("sandbox", "count"): 1.15, ("sandbox", "set"): 1.2}
+LIBUSB_GOAL = {("guest", "set"): 5, ("sandbox", "count"): 20}
+START_UP_GOAL = 1.5
 PURE_GOAL = 20  # nanoseconds
-PURE = {"text": PURE_GOAL, "rejected": PURE_GOAL, "choices": None}
-
-
-def medians(file):
-    """The median of each benchmark, in nanoseconds. A count never waits for
-    anybody, so for it the time of the processor is taken: other work on the
-    machine does not count."""
-    scale = {"ns": 1, "us": 1e3, "ms": 1e6}
-    found = {}
-    for result in json.loads(file.read_text())["benchmarks"]:
-        if result.get("error_occurred"):
-            sys.exit(f"report.py: {result['name']}: "
-                     f"{result['error_message']}")
-        if result.get("aggregate_name") == "median":
-            name = result["run_name"].removesuffix("/process_time/real_time")
-            clock = "cpu_time" if name.startswith("count/") else "real_time"
-            found[name] = result[clock] * scale[result["time_unit"]]
-    return found
+PURE = {"text": "text of a choice", "choices": "number of choices",
+        "rejected": "refused setter"}
+# How often the bus is walked with so many mixers.
+WALKS = {"count": lambda mixers: 1, "set": lambda mixers: 1 + 2 * mixers,
+         "query": lambda mixers: 1 + mixers, "apply": lambda mixers: 1 + mixers}
+BEGIN, END = "<!-- figures: bench/run writes them -->", "<!-- end of figures -->"
 
 
 def duration(nanoseconds):
     if nanoseconds < 1e3:
         return f"{nanoseconds:.1f} ns"
-    return f"{nanoseconds / 1e3:.1f} us"
+    if nanoseconds < 1e6:
+        return f"{nanoseconds / 1e3:.0f} µs"
+    return f"{nanoseconds / 1e6:.2f} ms"
 
 
-def verdict(met):
-    return "met" if met else "NOT MET"
+def verdict(met, goal):
+    return f"{goal}: {'met' if met else 'not met'}"
 
 
-def row(*cells):
-    print(f"{cells[0]:<20}{cells[1]:>12}{cells[2]:>12}{cells[3]:>10}  "
-          f"{cells[4]}".rstrip())
+def table(head, rows, out):
+    out.append("| " + " | ".join(head) + " |")
+    out.append("|---" + "|--:" * (len(head) - 1) + "|")
+    out.extend("| " + " | ".join(row) + " |" for row in rows)
+    out.append("")
 
 
-def report_pairs(world, times):
-    for name in dict.fromkeys(full.split("/")[0] for full in times):
-        if f"{name}/floor" not in times:
+def one_mixer(found, out):
+    for place, where in results.PLACES.items():
+        times = found.worlds.get((place, 1, 30))
+        if times is None:
             continue
-        library, floor = times[f"{name}/library"], times[f"{name}/floor"]
-        ratio = library / floor
-        goal = FLOOR_GOALS.get((world, name))
-        row(name, duration(library), duration(floor), f"{ratio:.2f} x",
-            "" if goal is None else f"at most {goal} x: {verdict(ratio <= goal)}")
+        rows = []
+        for name in results.OPERATIONS:
+            library, floor, libusb = (times.get(f"{name}/{who}")
+                                      for who in results.CONTENDERS)
+            goals = []
+            if goal := FLOOR_GOAL.get((place, name)):
+                goals.append(verdict(library <= goal * floor,
+                                     f"at most {goal:.2f} × floor"))
+            if goal := LIBUSB_GOAL.get((place, name)):
+                goals.append(verdict(libusb >= goal * library,
+                                     f"{goal} × faster than libusb"))
+            rows.append((name, duration(library), duration(floor),
+                         f"{library / floor:.2f}",
+                         duration(libusb) if libusb else "",
+                         f"{libusb / library:.1f}" if libusb else "",
+                         ", ".join(goals)))
+        out.append(f"One mixer among 30 devices, {where}:\n")
+        table(("call", "library", "floor", "library / floor", "libusb",
+               "libusb / library", "goals"), rows, out)
 
 
-def report_libusb(times):
-    if "count/libusb" not in times:
+def compared(times, name):
+    """The library's time, and how it stands to the others."""
+    library = times[f"{name}/library"]
+    ratios = [f"{library / times[f'{name}/floor']:.2f}"]
+    if f"{name}/libusb" in times:
+        ratios.append(f"{times[f'{name}/libusb'] / library:.1f}")
+    return f"{duration(library)} ({'; '.join(ratios)})"
+
+
+def growth(found, out):
+    for place, where in results.PLACES.items():
+        for what, series in (("devices, with one mixer",
+                              found.by_devices(place)),
+                             ("mixers, among 30 devices",
+                              found.by_mixers(place))):
+            if len(series) < 2:
+                continue
+            rows = [[str(number)] + [compared(times, name)
+                                     for name in results.OPERATIONS]
+                    for number, times in series]
+            out.append(f"By {what}, {where}; in brackets library / floor and "
+                       "libusb / library:\n")
+            table((what.split(",")[0],) + results.OPERATIONS, rows, out)
+
+
+def walks(found, out):
+    for place, where in results.PLACES.items():
+        series = found.by_mixers(place)
+        if len(series) < 2:
+            continue
+        rows = []
+        for mixers, times in series:
+            cells = [f"{WALKS[name](mixers)} walks, " +
+                     duration(times[f"{name}/library"] / WALKS[name](mixers))
+                     for name in ("query", "apply", "set")]
+            rows.append([str(mixers)] + cells)
+        out.append(f"Time for each walk over 30 devices, {where}:\n")
+        table(("mixers", "query", "apply", "set"), rows, out)
+
+
+def counts(found, out):
+    calls, instructions = (found.json("guest-calls"),
+                           found.json("guest-instructions"))
+    if calls is None or instructions is None:
         return
-    faster = times["count/libusb"] / times["count/library"]
-    row("count by libusb", duration(times["count/libusb"]), "",
-        f"{faster:.1f} x",
-        f"at least {LIBUSB_GOAL} x the library's: "
-        f"{verdict(faster >= LIBUSB_GOAL)}")
+    rows = []
+    for name in results.OPERATIONS:
+        rows.append([name] + [
+            f"{numbers[f'{name}/{who}']:,}".replace(",", " ")
+            for numbers in (calls, instructions)
+            for who in results.CONTENDERS])
+    out.append("System calls and instructions in user space of one call, with "
+               "one mixer among 30 devices, on a real kernel:\n")
+    table(("call", "system calls: library", "floor", "libusb",
+           "instructions: library", "floor", "libusb"), rows, out)
+    if text := found.text("system_calls.txt"):
+        lines = [line.split() for line in text.splitlines()
+                 if line.strip() and not line.startswith("System")]
+        out.append("System calls by devices on the bus, with one mixer (these "
+                   "are what `./check` holds):\n")
+        table(lines[0], lines[1:], out)
 
 
-def report_pure(times):
-    for name, goal in PURE.items():
-        time = times.get(f"{name}/library")
-        if time is not None:
-            row(name, duration(time), "", "",
-                "" if goal is None else
-                f"under {goal} ns: {verdict(time < goal)}")
+def start_up(found, out):
+    for place, where in results.PLACES.items():
+        times = found.json(f"{place}-start_up")
+        if times is None:
+            continue
+        least = times["minimal C program"]
+        rows = []
+        for name, time in times.items():
+            goal = ("" if name != "ztk status" else
+                    verdict(time <= START_UP_GOAL * least,
+                            f"at most {START_UP_GOAL} × the minimal program"))
+            rows.append((name, f"{time:.1f} ms", f"{time / least:.2f}", goal))
+        out.append(f"From start to end of a program, {where}:\n")
+        table(("program", "time", "× the minimal program", "goal"), rows, out)
 
 
-def main(folder):
-    for world, where in WORLDS.items():
-        file = folder / f"{world}.json"
+def others(found, out):
+    for name, what in (("memory", "Setter with settings in memory, in the "
+                        "sandbox"),
+                       ("machine", "Count on this machine's own bus"),
+                       ("copy", "Count on a copy of a bus, without the "
+                        "sandbox")):
+        file = found.folder / f"{name}.json"
         if not file.exists():
             continue
-        times = medians(file)
-        row(f"{where[0].upper()}{where[1:]}", "", "", "", "")
-        row("", "library", "floor", "ratio", "goal")
-        report_pairs(world, times)
-        report_libusb(times)
-        report_pure(times)
-        print()
-    calls = folder / "system_calls.txt"
-    if calls.exists():
-        print(calls.read_text(), end="")
+        times = results.medians(file)
+        call = "set" if name == "memory" else "count"
+        library, floor = times[f"{call}/library"], times[f"{call}/floor"]
+        out.append(f"{what}: {duration(library)}, floor {duration(floor)}, "
+                   f"ratio {library / floor:.2f}.\n")
+    times = found.worlds.get(("sandbox", 1, 30), {})
+    pure = [f"{what} {duration(times[f'{name}/library'])}"
+            for name, what in PURE.items() if f"{name}/library" in times]
+    if pure:
+        out.append(f"Without leaving the process (goal: under {PURE_GOAL} ns): "
+                   + ", ".join(pure) + ".\n")
+
+
+def main(folder, document=None):
+    found = results.Results(folder)
+    if not found.worlds:
+        sys.exit(f"report.py: there are no results in {folder}")
+    out = []
+    if machine := found.text("machine.txt"):
+        out.append(machine + "\n")
+    for part in (one_mixer, growth, walks, counts, start_up, others):
+        part(found, out)
+    text = "\n".join(out).strip()
+    print(text)
+    if document is not None:
+        file = pathlib.Path(document)
+        before, rest = file.read_text().split(BEGIN)
+        after = rest.split(END)[1]
+        file.write_text(f"{before}{BEGIN}\n\n{text}\n\n{END}{after}")
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 2:
+    if len(sys.argv) not in (2, 3):
         sys.exit(__doc__)
-    main(pathlib.Path(sys.argv[1]))
+    main(*sys.argv[1:])

@@ -4,10 +4,15 @@
 
     system_calls.py BIN_FOLDER              counts, with one mixer, as a table
     system_calls.py BIN_FOLDER library set  every call of one operation
+    system_calls.py --here BIN_FOLDER       counts, on the devices that are here,
+                                            of the library, the floor and libusb
 
 A program that repeats a call marks each one in its trace. What stands between
 the last two marks is one call of a process that has warmed up, exactly; no
 start-up has to be subtracted.
+
+With --here nothing is left out that the process does, in all its threads, but
+for waiting; it prints JSON.
 
 The sandbox makes calls of its own inside the program: it looks for its folder
 before it opens anything, holds back signals meanwhile, and speaks to the mixers
@@ -22,6 +27,7 @@ memory, and random bits for a file's name.
 
 import collections
 import difflib
+import json
 import os
 import pathlib
 import re
@@ -46,6 +52,7 @@ C_LIBRARY = {"brk", "mmap", "munmap", "madvise", "mremap", "futex",
 WAITING = {"ppoll", "recvmsg"}
 OPERATIONS = ("count", "set", "query", "apply")
 TIMES = 4
+FEW_TIMES = 2  # where only the number matters
 
 
 class Unavailable(Exception):
@@ -263,12 +270,51 @@ def measure(folder, cases, mixers=1, other_devices=0):
                 for number, case in enumerate(cases)}
 
 
+RESUMED = re.compile(r"^\d+ +<\.\.\. (?P<resumed>\w+) resumed>")
+
+
+def measure_here(folder):
+    """The number of system calls of one call of every contender, on the
+    devices that this process sees. Changes the settings of this HOME."""
+    check_tracing()
+    counts = {}
+    with tempfile.TemporaryDirectory() as temporary:
+        trace = pathlib.Path(temporary, "trace")
+        for who in ("library", "floor", "libusb"):
+            program = "repeat_libusb" if who == "libusb" else "repeat_calls"
+            for operation in OPERATIONS:
+                subprocess.run(
+                    ["strace", "-f", "-o", trace, f"{folder}/{program}", who,
+                     operation, str(FEW_TIMES)], check=True)
+                counts[f"{operation}/{who}"] = calls_of_last(trace)
+    return counts
+
+
+def calls_of_last(trace):
+    """How many calls stand between the last two marks."""
+    number = last = 0
+    for line in trace.read_text(errors="replace").splitlines():
+        if MARK in line:
+            number, last = 0, number
+            continue
+        # One that another thread interrupts appears twice: its beginning,
+        # which is no whole line, is not counted.
+        match = RESUMED.match(line) or LINE.match(line)
+        name = match and (match["resumed"] if match.re is RESUMED else match[2])
+        if name and name not in C_LIBRARY | WAITING:
+            number += 1
+    return last
+
+
 def names(calls):
     """How many there are of each kind."""
     return collections.Counter(call.split(" ", 1)[0] for call in calls)
 
 
 def main(arguments):
+    if arguments[0] == "--here":
+        print(json.dumps(measure_here(arguments[1]), indent=1))
+        return
     if len(arguments) == 3:
         case = (arguments[1], arguments[2])
         print("\n".join(measure(arguments[0], [case])[case]))
@@ -284,7 +330,7 @@ def main(arguments):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) not in (2, 4):
+    if len(sys.argv) not in (2, 3, 4):
         sys.exit(__doc__)
     try:
         main(sys.argv[1:])

@@ -6,8 +6,12 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_C_STANDARD 99)
+set(CMAKE_OBJCXX_STANDARD 20)
+set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
+set(CMAKE_OBJCXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_C_VISIBILITY_PRESET hidden)
+set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
@@ -17,8 +21,12 @@ endif()
 
 add_compile_options(
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wundef
-  $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
-  $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast>)
+  $<$<COMPILE_LANGUAGE:CXX,OBJCXX>:-Wnon-virtual-dtor>
+  $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast>
+  $<$<COMPILE_LANGUAGE:OBJCXX>:-Wundeclared-selector>)
+if(APPLE)
+  add_compile_options(-Wunguarded-availability)
+endif()
 if(ZTK_WERROR)
   add_compile_options(-Werror)
 endif()

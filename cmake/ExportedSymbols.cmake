@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 #
-# Makes the linker's list of visible symbols from src/exports.txt: one name a
+# Makes the linker's lists of visible symbols from src/exports.txt: one name a
 # line, "#" starts a comment.
 
 function(ztk_read_exports file out)
@@ -20,4 +20,16 @@ function(ztk_version_script exports script)
     *;
 };
 ")
+endfunction()
+
+# For the linker of macOS, which writes a C name with an underscore before it,
+# and an Objective-C class as two symbols.
+function(ztk_exported_symbols_list exports list)
+  ztk_read_exports("${exports}" names)
+  list(TRANSFORM names PREPEND "_")
+  foreach(class IN LISTS ARGN)
+    list(APPEND names "_OBJC_CLASS_$_${class}" "_OBJC_METACLASS_$_${class}")
+  endforeach()
+  list(JOIN names "\n" body)
+  file(CONFIGURE OUTPUT "${list}" CONTENT "${body}\n" @ONLY)
 endfunction()

@@ -1,21 +1,32 @@
 # SPDX-License-Identifier: MIT
 #
-# What is installed and where. Component "runtime" is what a user needs,
-# "development" what a programmer adds to it. The programs and the bundle of
-# texts say so themselves, in tools/ and resources/.
+# What is installed and where, by component; each is a package of its own:
+#   library      the shared library
+#   common       what every program that uses it needs beside it: the bundle of
+#                texts (resources/ installs it) and the udev rule
+#   development  what a programmer adds to it
+#   runtime      the programs and what belongs to them (tools/ installs them);
+#                also whatever names no component
+#   documents    what a reader wants who has not got the sources
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZTKFunc)
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-install(TARGETS ZTKFunc EXPORT ZTKFuncTargets
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    COMPONENT runtime NAMELINK_COMPONENT development)
+if(APPLE)
+  install(TARGETS ZTKFunc EXPORT ZTKFuncTargets
+    FRAMEWORK DESTINATION ${ZTK_FRAMEWORK_DIR} COMPONENT library)
+else()
+  install(TARGETS ZTKFunc EXPORT ZTKFuncTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+      COMPONENT library NAMELINK_COMPONENT development)
+endif()
 install(FILES ${PROJECT_SOURCE_DIR}/include/ZTKFunc.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 
-# Programs find the library beside themselves, wherever the two are moved.
-if(TARGET ztk)
+# Programs find the library beside themselves, wherever the two are moved; a
+# framework they find by its full name.
+if(TARGET ztk AND NOT APPLE)
   file(RELATIVE_PATH bin_to_lib
     ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
   set_target_properties(ztk PROPERTIES INSTALL_RPATH "$ORIGIN/${bin_to_lib}")
@@ -49,23 +60,40 @@ foreach(kind LIB INCLUDE)
     set(pc_${kind} "\${prefix}/${CMAKE_INSTALL_${kind}DIR}")
   endif()
 endforeach()
+if(APPLE)
+  set(pc_libs "-F${ZTK_FRAMEWORK_DIR} -framework VRM-D6Setup")
+else()
+  set(pc_libs "-L\${libdir} -lZTKFunc")
+endif()
 configure_file(${PROJECT_SOURCE_DIR}/cmake/ztkfunc.pc.in
   ${PROJECT_BINARY_DIR}/generated/ztkfunc.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/generated/ztkfunc.pc
   DESTINATION ${pkgconfig_dir} COMPONENT development)
 
-# udev knows vendors by four small hexadecimal digits.
+# udev knows vendors by four small hexadecimal digits. The unit lies where no
+# systemd looks: each user makes it known to their own.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   string(REGEX REPLACE "^0x" "" vendor_id "${ZTK_USB_VENDOR_ID}")
   string(TOLOWER "${vendor_id}" vendor_id)
   configure_file(${PROJECT_SOURCE_DIR}/packaging/70-tarvix-mixer.rules.in
     ${PROJECT_BINARY_DIR}/generated/70-tarvix-mixer.rules @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/generated/70-tarvix-mixer.rules
-    DESTINATION lib/udev/rules.d COMPONENT runtime)
+    DESTINATION lib/udev/rules.d COMPONENT common)
+  if(TARGET ztk)
+    foreach(file IN ITEMS 71-ztk-apply.rules ztk-apply@.service)
+      configure_file(${PROJECT_SOURCE_DIR}/packaging/${file}.in
+        ${PROJECT_BINARY_DIR}/generated/${file} @ONLY)
+    endforeach()
+    install(FILES ${PROJECT_BINARY_DIR}/generated/71-ztk-apply.rules
+      DESTINATION lib/udev/rules.d)
+    install(FILES ${PROJECT_BINARY_DIR}/generated/ztk-apply@.service
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/ztk)
+  endif()
 endif()
 
 install(FILES
   ${PROJECT_SOURCE_DIR}/LICENSE
   ${PROJECT_SOURCE_DIR}/README.md
   ${PROJECT_SOURCE_DIR}/CHANGELOG.md
-  DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+  ${PROJECT_SOURCE_DIR}/docs/ztk.schema.json
+  DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)

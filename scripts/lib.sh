@@ -98,6 +98,17 @@ need_packages() {
     fail "The packages could not be installed."
 }
 
+# Installs what is missing of the named lists if that can be done; whatever
+# needs the packages is skipped otherwise.
+want_packages() {
+  (need_packages "$@") || say "Going on without them."
+}
+
+# The one place that the version stands in.
+project_version() {
+  sed -n 's/^  VERSION \([0-9.]*\)$/\1/p' CMakeLists.txt
+}
+
 # Every source of ours in C, C++ or Objective-C++.
 sources() {
   local folders=() folder
@@ -106,4 +117,13 @@ sources() {
   done
   find "${folders[@]}" -type f \
     \( -name '*.h' -o -name '*.c' -o -name '*.cpp' -o -name '*.mm' \) | sort
+}
+
+# The files of the work tree, committed or not, without what git ignores.
+copy_work_tree() {  # folder
+  mkdir -p "$1"
+  git ls-files -co --exclude-standard -z |
+    while IFS= read -r -d '' file; do
+      [[ ! -e $file && ! -L $file ]] || printf '%s\0' "$file"
+    done | tar --null -T - -c | tar -x -C "$1"
 }

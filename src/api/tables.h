@@ -16,18 +16,18 @@ extern "C" {
 // USB input audio.
 ZTK_EXPORT extern const ZTKTextRef InputAudioText[44];
 ZTK_EXPORT extern const std::int32_t PC_INPUT_PULLDOWN_TEXT[42];
-// NOLINTNEXTLINE(bugprone-reserved-identifier): fixed name
+// NOLINTNEXTLINE(bugprone-reserved-identifier,*-naming): fixed name
 ZTK_EXPORT extern const std::uint16_t _convTable_PC_INPUT[42];
 
 // USB output audio.
 ZTK_EXPORT extern const ZTKTextRef OutputAudioText[3];
 ZTK_EXPORT extern const std::int32_t VRMB5_OUT_TEXT[12];
-// NOLINTNEXTLINE(bugprone-reserved-identifier): fixed name
+// NOLINTNEXTLINE(bugprone-reserved-identifier,*-naming): fixed name
 ZTK_EXPORT extern const std::uint16_t _convTableOut_B5[9];
 
 // Boost level.
 ZTK_EXPORT extern const ZTKTextRef BoostLevelText[4];
-// NOLINTNEXTLINE(bugprone-reserved-identifier): fixed name
+// NOLINTNEXTLINE(bugprone-reserved-identifier,*-naming): fixed name
 ZTK_EXPORT extern const std::uint8_t _convDbTable[4];
 
 // MIDI.

@@ -27,7 +27,7 @@ UserInfo *boostLevelInfo = nullptr;
 UserInfo *midiChannelInfo = nullptr;
 UserInfo *midiKeyModeInfo = nullptr;
 
-// NOLINTNEXTLINE(bugprone-reserved-identifier): fixed name
+// NOLINTNEXTLINE(bugprone-reserved-identifier,*-naming): fixed name
 void *_ZTKFunc = nullptr;
 
 namespace {

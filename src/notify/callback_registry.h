@@ -51,7 +51,7 @@ ZTK_EXPORT extern ztk::notify::UserInfo *midiKeyModeInfo;
 
 // The one observer; null until the first successful Register of any family,
 // then alive until the process ends.
-// NOLINTNEXTLINE(bugprone-reserved-identifier): fixed name
+// NOLINTNEXTLINE(bugprone-reserved-identifier,*-naming): fixed name
 ZTK_EXPORT extern void *_ZTKFunc;
 
 }  // extern "C"

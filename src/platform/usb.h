@@ -48,7 +48,8 @@ struct ControlRequest {
   std::uint16_t index;
   std::uint16_t length;
   void *data;
-  std::uint32_t lengthDone;  // filled in by the port, 0 after a failure
+  std::uint32_t lengthDone;  // filled in by the port; after a failure what
+                             // came before it, 0 where nobody can tell
 };
 
 // Gets the port that the registry is asked through. On failure *port is null.
@@ -72,7 +73,7 @@ void ReleaseService(Service service);
 void ReleaseIterator(Iterator iterator);
 
 // Makes the loader of a service's device interface, owned by the caller.
-// On failure *plugIn is null.
+// On failure *plugIn is null, and it may be null on success as well.
 Code CreatePlugIn(Service service, PlugIn **plugIn);
 // The device interface, holding one reference of the caller's, or null.
 Device *QueryDevice(PlugIn *plugIn);

@@ -15,20 +15,20 @@ using platform::text::Made;
 const ZTKTextRef kPathFormat =
     ZTK_TEXT("%@/Preferences/com.tarvix.%@autosetup.plist");
 
-ZTKTextRef MakePath(ZTKTextRef library, ZTKTextRef model) {
-  if (library == nullptr) return nullptr;
-  return platform::text::Format(kPathFormat, library, model);
-}
-
 ZTKTextRef MakeKey(ZTKTextRef keyFormat, std::uint32_t channel) {
   return platform::text::Format(keyFormat, static_cast<std::int32_t>(channel));
 }
 
 }  // namespace
 
-std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback) {
+ZTKTextRef MakePath(ZTKTextRef model) {
   const Made library(platform::paths::UserLibrary());
-  const Made path(MakePath(library.get(), model));
+  if (library.get() == nullptr) return nullptr;
+  return platform::text::Format(kPathFormat, library.get(), model);
+}
+
+std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback) {
+  const Made path(MakePath(model));
   if (path.get() == nullptr) return fallback;
 
   plist::Dictionary *settings = plist::ReadFile(path.get());
@@ -46,8 +46,7 @@ std::int32_t ReadChannel(ZTKTextRef model, ZTKTextRef keyFormat,
 }
 
 void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value) {
-  const Made library(platform::paths::UserLibrary());
-  const Made path(MakePath(library.get(), model));
+  const Made path(MakePath(model));
   if (path.get() == nullptr) return;
 
   plist::Dictionary *settings = plist::MakeDictionary();

@@ -12,6 +12,10 @@
 
 namespace ztk::store {
 
+// Makes the path of the model's file; the caller gives it back with
+// text::Release(). Null when the user has no home. There may be no such file.
+ZTKTextRef MakePath(ZTKTextRef model);
+
 // The integer under a key of the model's file, any value; `fallback` when there
 // is no such file or key. Creates nothing.
 std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback);

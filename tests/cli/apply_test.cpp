@@ -15,8 +15,8 @@ TEST_F(Apply, SendsWhatIsRememberedAndNothingElse) {
   EXPECT_EQ(result.out,
             "USB input 2: 3 Post CH2 Fader, sent\n"
             "USB input 5: 8 MIC, sent\n");
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0206 8002 0000",
-                                      "mixer 1: 40 03 0509 8002 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0206 8002 0000",
+                                    "mixer 1: 40 03 0509 8002 0000"));
 }
 
 TEST_F(Apply, SendsTheBoostLevelWithTheInputs) {
@@ -28,8 +28,8 @@ TEST_F(Apply, SendsTheBoostLevelWithTheInputs) {
   EXPECT_EQ(json["settings"][1],
             Json::parse(R"({"setting":"boost","model":"VRM-D6","channel":null,
                 "number":4,"text":"-19 dB","value":3,"accepted":true})"));
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0103 8002 0000",
-                                      "mixer 1: 40 03 0000 8003 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0103 8002 0000",
+                                    "mixer 1: 40 03 0000 8003 0000"));
 }
 
 TEST_F(Apply, LeavesEverythingAloneWhenNothingIsRemembered) {
@@ -40,7 +40,7 @@ TEST_F(Apply, LeavesEverythingAloneWhenNothingIsRemembered) {
     const Result result = OneMixer(command);
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.out, StartsWith("Nothing is remembered for "));
-    EXPECT_THAT(Requests(), IsEmpty());
+    EXPECT_THAT(Writes(), IsEmpty());
   }
 }
 
@@ -49,9 +49,9 @@ TEST_F(Apply, TakesAnotherModelsFamily) {
   Remember("VRM-B5", {{"Input1", 2}});
   Remember("VRM-K2", {{"MidiChannel", 3}});
   EXPECT_EQ(OneMixer("ztk apply --product VRM-B5").status, 0);
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0204 8016 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0204 8016 0000"));
   EXPECT_EQ(OneMixer("ztk apply --product 1").status, 0);
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0300 8004 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8004 0000"));
 }
 
 TEST_F(Apply, SendsOneChannelWhenToldSo) {
@@ -59,7 +59,7 @@ TEST_F(Apply, SendsOneChannelWhenToldSo) {
   const Result result = OneMixer("ztk input apply 2; ztk input apply 3");
   EXPECT_EQ(Line(result.out, 1),
             "Nothing is remembered for USB input 3: nothing to send.");
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0209 8002 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0209 8002 0000"));
 }
 
 TEST_F(Apply, ReportsAValueThatTheLibraryRefuses) {
@@ -71,7 +71,7 @@ TEST_F(Apply, ReportsAValueThatTheLibraryRefuses) {
   EXPECT_EQ(json["error"]["code"], "rejected");
   EXPECT_THAT(result.err, HasSubstr("MIDI channel: 10 CH 10"));
   EXPECT_THAT(result.err, HasSubstr("ztk midi set"));
-  EXPECT_THAT(Requests(), IsEmpty());
+  EXPECT_THAT(Writes(), IsEmpty());
 }
 
 TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {
@@ -81,7 +81,7 @@ TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {
   EXPECT_THAT(result.out, HasSubstr("USB input 1: 6 MIC, sent\n"));
   EXPECT_THAT(result.out,
               HasSubstr("Boost level: 4, which is no choice, refused\n"));
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0109 8002 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0109 8002 0000"));
 }
 
 // The library would take the number for one of the next channel.
@@ -94,13 +94,13 @@ TEST_F(Apply, NeverSendsAValueOfAnotherChannel) {
   EXPECT_THAT(Line(result.out, 3), "4");
   EXPECT_THAT(result.err, HasSubstr("USB input 1: 9, which is no choice"));
   EXPECT_THAT(result.err, HasSubstr("USB output 1: 4, which is no choice"));
-  EXPECT_THAT(Requests(), IsEmpty());
+  EXPECT_THAT(Writes(), IsEmpty());
 }
 
 TEST_F(Apply, SendsAPlaceholderThatAnotherProgramHasSet) {
   Remember("VRM-D6", {{"Output0", 7}});
   EXPECT_EQ(OneMixer("ztk apply").status, 0);
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 010f 8002 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 010f 8002 0000"));
 }
 
 TEST_F(Apply, IsThreeWithoutAMixerAndStillReportsARefusedValue) {
@@ -126,7 +126,7 @@ TEST_F(Apply, SkipsAValueThatIsNoNumber) {
            "<plist version=\"1.0\"><dict><key>Output0</key><array/>"
            "<key>Output1</key><string>5</string></dict></plist>");
   EXPECT_EQ(OneMixer("ztk apply").out, "USB input 2: 6 MIC, sent\n");
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0209 8002 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0209 8002 0000"));
 }
 
 }  // namespace

@@ -6,9 +6,23 @@
 namespace ztk::test {
 namespace {
 
-constexpr char kRule[] = "/usr/lib/udev/rules.d/70-tarvix-mixer.rules";
-
-class Reach : public CliWorld {};
+class Reach : public CliWorld {
+ protected:
+  // The mixers of an answer: found, answered, and who did not and why.
+  static std::string Told(const Json &json) {
+    const Json mixers = json.value("mixers", Json::object());
+    std::string told = std::to_string(mixers.value("answered", -1)) + "/" +
+                       std::to_string(mixers.value("found", -1));
+    for (const Json &one : mixers.value("unanswered", Json::array())) {
+      told += " " + std::to_string(one.value("mixer", -1)) + ":" +
+              one.value("reason", "");
+    }
+    return told;
+  }
+  static std::string ErrorWord(const Json &json) {
+    return json.value("error", Json::object()).value("code", "");
+  }
+};
 
 TEST_F(Reach, IsThreeWithoutAMixerAndTheValueIsRemembered) {
   const Result result = NoMixer("ztk input set 2 3 --json");
@@ -17,9 +31,9 @@ TEST_F(Reach, IsThreeWithoutAMixerAndTheValueIsRemembered) {
   EXPECT_EQ(json["ok"], false);
   EXPECT_EQ(json["result"], 101);
   EXPECT_EQ(json["remembered"], true);
-  EXPECT_EQ(json["mixers"]["found"], 0);
-  EXPECT_EQ(json["mixers"]["reached"], 0);
-  EXPECT_EQ(json["error"]["code"], "no-mixer");
+  EXPECT_EQ(json["announced"], true);
+  EXPECT_EQ(Told(json), "0/0");
+  EXPECT_EQ(ErrorWord(json), "no-mixer");
   EXPECT_THAT(result.err, HasSubstr("no mixer is attached"));
   EXPECT_THAT(result.err, HasSubstr("run: ztk input apply"));
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output1"));
@@ -30,30 +44,41 @@ TEST_F(Reach, ExplainsAMixerThatMayNotBeOpened) {
       Inside({"-n", "1", "--forbid", "1"}, "ztk boost set 2 --json");
   EXPECT_EQ(result.status, 3);
   const Json json = OneObject(result.out);
-  EXPECT_EQ(json["mixers"]["found"], 1);
-  EXPECT_EQ(json["mixers"]["reached"], 0);
-  EXPECT_EQ(json["mixers"]["notOpened"], Json({1}));
+  EXPECT_EQ(Told(json), "0/1 1:not-permitted");
   EXPECT_EQ(json["remembered"], true);
-  EXPECT_EQ(json["error"]["code"], "no-mixer");
-  EXPECT_THAT(result.err, HasSubstr("attached but cannot be opened"));
-  EXPECT_THAT(result.err, HasSubstr(kRule));
+  EXPECT_EQ(ErrorWord(json), "no-mixer");
+  EXPECT_THAT(result.err, HasSubstr("attached but cannot be opened: you have "
+                                    "no permission for /dev/bus/usb/001/002"));
+  EXPECT_THAT(result.err, HasSubstr("; ztk doctor tells why; "));
+  EXPECT_THAT(result.err, HasSubstr("is remembered, not sent"));
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
   EXPECT_THAT(Requests(), IsEmpty());
 }
 
-TEST_F(Reach, WarnsOfOneMixerAmongSeveralThatMayNotBeOpened) {
+TEST_F(Reach, IsSixWhenOneOfSeveralMayNotBeOpened) {
   const Result result =
       Inside({"-n", "3", "--forbid", "2"}, "ztk boost set 2 --json");
-  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.status, 6);
   const Json json = OneObject(result.out);
-  EXPECT_EQ(json["mixers"]["found"], 3);
-  EXPECT_EQ(json["mixers"]["reached"], 2);
-  EXPECT_EQ(json["mixers"]["notOpened"], Json({2}));
+  EXPECT_EQ(Told(json), "2/3 2:not-permitted");
+  EXPECT_EQ(ErrorWord(json), "some-mixers");
   EXPECT_EQ(json["warnings"].size(), 1U);
   EXPECT_THAT(result.err, StartsWith("ztk: warning: mixer 2 is attached"));
-  EXPECT_THAT(result.err, HasSubstr(kRule));
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0200 8003 0000",
-                                      "mixer 3: 40 03 0200 8003 0000"));
+  EXPECT_THAT(Line(result.err, 1),
+              HasSubstr("only 2 of 3 mixers answered; once the others do, run: "
+                        "ztk boost apply"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000",
+                                    "mixer 3: 40 03 0200 8003 0000"));
+}
+
+TEST_F(Reach, NamesAllWhenNoneOfSeveralMayBeOpened) {
+  const Result result =
+      Inside({"-n", "2", "--forbid", "1", "--forbid", "2"}, "ztk boost set 2");
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.out, "Boost level: 2 -10 dB, not sent, remembered\n");
+  EXPECT_THAT(Line(result.err, 0), HasSubstr("mixer 1 is attached"));
+  EXPECT_THAT(Line(result.err, 1), HasSubstr("mixer 2 is attached"));
+  EXPECT_THAT(Line(result.err, 2), HasSubstr("none of 2 mixers answered"));
 }
 
 TEST_F(Reach, SendsToEveryMixer) {
@@ -64,18 +89,69 @@ TEST_F(Reach, SendsToEveryMixer) {
                                     "mixer 2: 40 03 0109 8002 0000"));
 }
 
-TEST_F(Reach, IsFiveWhenTheValueCouldNotBeRemembered) {
+// The library says 100 to each of these.
+TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
+  const struct {
+    const char *fault;
+    const char *told;
+    const char *message;
+  } rows[] = {
+      {"stall@r8001", "0/1 1:refused", "mixer 1 refuses what it is asked"},
+      {"silence@r8001", "0/1 1:silent", "mixer 1 does not answer"},
+      {"unplug@r8001", "0/1 1:gone", "mixer 1 has gone"},
+      {"unplug@w8003", "0/1 1:gone", "mixer 1 has gone"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.fault);
+    const Result result =
+        Inside({"-n", "1", "--fault", row.fault}, "ztk boost set 2 --json");
+    EXPECT_EQ(result.status, 3);
+    const Json json = OneObject(result.out);
+    EXPECT_EQ(Told(json), row.told);
+    EXPECT_EQ(json["result"], 100);
+    EXPECT_EQ(json["remembered"], true);
+    EXPECT_THAT(result.err, StartsWith(std::string("ztk: ") + row.message));
+    EXPECT_THAT(result.err, HasSubstr("run: ztk boost apply"));
+  }
+}
+
+TEST_F(Reach, TellsWhichMixerWasUnpluggedByTheNumberThatItHad) {
+  const Result result = Inside(
+      {"-n", "3", "--fault", "1:unplug@w8003", "--fault", "3:stall@r8001"},
+      "ztk boost set 2 --json");
+  EXPECT_EQ(result.status, 6);
+  EXPECT_EQ(Told(OneObject(result.out)), "1/3 1:gone 3:refused");
+}
+
+TEST_F(Reach, SaysThatASentValueWasNotAnswered) {
+  const Result result = Inside({"-n", "1", "--fault", "stall"},
+                               "ztk boost set 2; ztk boost apply");
+  EXPECT_EQ(result.out,
+            "Boost level: 2 -10 dB, sent, but not answered, remembered\n"
+            "Boost level: 2 -10 dB, sent, but not answered\n");
+}
+
+TEST_F(Reach, IsSevenWhenTheValueCouldNotBeRemembered) {
   // A file where the folder should be.
   WriteAll(home_.path() / ".config/tarvix/Preferences", "");
   const Result result = OneMixer("ztk boost set 1 --json");
-  EXPECT_EQ(result.status, 5);
+  EXPECT_EQ(result.status, 7);
   const Json json = OneObject(result.out);
   EXPECT_EQ(json["remembered"], false);
-  EXPECT_EQ(json["mixers"]["reached"], 1);
-  EXPECT_EQ(json["error"]["code"], "failed");
+  EXPECT_EQ(Told(json), "1/1");
+  EXPECT_EQ(ErrorWord(json), "not-remembered");
   EXPECT_THAT(result.err, HasSubstr("sent to 1 mixer, but not remembered"));
   EXPECT_THAT(result.err, HasSubstr(".config/tarvix/Preferences"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
+}
+
+TEST_F(Reach, IsFiveWhenTheValueWentNowhere) {
+  WriteAll(home_.path() / ".config/tarvix/Preferences", "");
+  const Result result = NoMixer("ztk boost set 1");
+  EXPECT_EQ(result.status, 5);
+  EXPECT_EQ(result.out, "Boost level: 1 -5 dB, not sent, not remembered\n");
+  EXPECT_THAT(result.err, HasSubstr("neither answered by a mixer nor "
+                                    "remembered: make sure that"));
 }
 
 TEST_F(Reach, IsThreeForWhatIsNeverRemembered) {
@@ -85,6 +161,31 @@ TEST_F(Reach, IsThreeForWhatIsNeverRemembered) {
   EXPECT_THAT(Line(result.out, 3), "3");
   EXPECT_FALSE(HasSettings("VRM-D6"));
   EXPECT_FALSE(HasSettings("VRM-B5"));
+}
+
+TEST_F(Reach, WarnsWhenThereIsNoBusToAnnounceOn) {
+  bus_.Stop();
+  const Result result = OneMixer(
+      "ztk boost set 1 --json; echo $?; ztk output default 1 --json; echo $?;"
+      "ztk input set 1 mic");
+  EXPECT_EQ(Json::parse(Line(result.out, 0))["announced"], false);
+  EXPECT_EQ(Line(result.out, 1), "0");
+  EXPECT_EQ(Json::parse(Line(result.out, 2))["announced"], false);
+  EXPECT_EQ(Line(result.out, 3), "0");
+  const std::vector<std::string> lines = SplitLines(result.err);
+  ASSERT_EQ(lines.size(), 3U);
+  for (const std::string &line : lines) {
+    EXPECT_THAT(line, HasSubstr("warning: not announced: there is no session "
+                                "message bus"));
+  }
+}
+
+TEST_F(Reach, DoesNotTakeAFrozenBusForOneThatHasHeard) {
+  bus_.Freeze();
+  const Result result = OneMixer("ztk boost set 1 --json");
+  bus_.Thaw();
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(OneObject(result.out)["announced"], false);
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ TEST_F(Output, IsFiveWhenItIsClosedAndSoForJson) {
 TEST_F(Output, NeverReachesAMixerThroughAClosedStream) {
   const Result result = OneMixer("ztk boost set 1 >&- 2>&- <&-; echo $?");
   EXPECT_EQ(result.out, "5\n");
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
 }
 
 TEST_F(Output, HasNoColourAndNoControlCharacters) {

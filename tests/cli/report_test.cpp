@@ -30,10 +30,13 @@ TEST(JsonLine, StaysJsonWhenTheUserTypesSomethingElseThanUtf8) {
 }
 
 TEST(ErrorWord, NamesEveryExitCode) {
+  EXPECT_STREQ(ErrorWord(ExitCode::Found), "found");
   EXPECT_STREQ(ErrorWord(ExitCode::Usage), "usage");
   EXPECT_STREQ(ErrorWord(ExitCode::NoMixer), "no-mixer");
   EXPECT_STREQ(ErrorWord(ExitCode::Rejected), "rejected");
   EXPECT_STREQ(ErrorWord(ExitCode::Failed), "failed");
+  EXPECT_STREQ(ErrorWord(ExitCode::SomeMixers), "some-mixers");
+  EXPECT_STREQ(ErrorWord(ExitCode::NotRemembered), "not-remembered");
 }
 
 TEST(Quoted, KeepsToOneShortLine) {

@@ -22,7 +22,8 @@ TEST_F(InputSet, SendsRemembersAndReadsTheSelector) {
   EXPECT_THAT(result.err, IsEmpty());
   EXPECT_THAT(Requests(),
               ElementsAre("mixer 1: 40 03 0206 8002 0000",
-                          "mixer 1: c0 00 0000 8002 0005 -> 00 04 04 04 04"));
+                          "mixer 1: c0 00 0000 8002 0005 -> 00 04 04 04 04",
+                          "mixer 1: c0 00 0000 8001 0002 -> 36 04"));
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")),
               HasSubstr("<key>Output1</key>"));
 }
@@ -116,7 +117,8 @@ TEST_F(OutputSet, BelongsToTheB5AndKeepsItsFile) {
   EXPECT_EQ(json["value"], 2);
   EXPECT_EQ(json["result"], 100);
   EXPECT_EQ(json["remembered"], true);
-  EXPECT_EQ(json["mixers"]["reached"], 1);
+  EXPECT_EQ(json["mixers"]["answered"], 1);
+  EXPECT_EQ(json["announced"], true);
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0204 8016 0000"));
   EXPECT_TRUE(HasSettings("VRM-B5"));
   EXPECT_FALSE(HasSettings("VRM-D6"));
@@ -149,7 +151,7 @@ TEST_F(BoostSet, TakesALevelHoweverItIsTyped) {
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out,
               "Boost level: 2 -10 dB, sent to 1 mixer, remembered\n");
-    EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
+    EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
   }
 }
 
@@ -168,7 +170,7 @@ TEST_F(MidiSet, BelongsToTheK2) {
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(result.out,
             "MIDI channel: 10 CH 10, sent to 1 mixer, remembered\n");
-  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0900 8004 0000"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0900 8004 0000"));
   EXPECT_TRUE(HasSettings("VRM-K2"));
 }
 

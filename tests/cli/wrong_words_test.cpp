@@ -3,6 +3,7 @@
 // Wrong command lines, made by the hundred: each is one line of error, status
 // 2, and nothing is sent or remembered.
 #include <random>
+#include <utility>
 
 #include "cli_world.h"
 #include "commands.h"
@@ -10,7 +11,7 @@
 namespace ztk::test {
 namespace {
 
-constexpr int kLines = 240;
+constexpr int kLines = 500;
 
 class WrongWords : public CliWorld {
  protected:
@@ -60,6 +61,41 @@ class WrongWords : public CliWorld {
     return OneOf(bad);
   }
 
+  // A word with one letter too few, too many, wrong or swapped.
+  std::string Mistyped(std::string word) {
+    const std::size_t place = 1 + Below(word.size() - 2);
+    switch (Below(4)) {
+      case 0:
+        return word.erase(place, 1);
+      case 1:
+        return word.insert(place, 1, 'x');
+      case 2:
+        word[place] = 'x';
+        return word;
+      default:
+        std::swap(word[place], word[place + 1]);
+        // Two that are the same.
+        return word[place] == word[place + 1] ? word.insert(place, 1, 'x')
+                                              : word;
+    }
+  }
+
+  // A line in which one word is nearly right.
+  std::string NearlyRight() {
+    const std::size_t kind = Below(3);
+    if (kind == 0) {
+      return Mistyped(OneOf<std::string>({"status", "input", "output", "boost",
+                                          "apply", "watch", "versions"})) +
+             " --json";
+    }
+    if (kind == 1) {
+      return OneOf<std::string>({"input ", "output ", "boost "}) +
+             Mistyped(OneOf<std::string>({"list", "apply"})) + " 1";
+    }
+    return OneOf<std::string>({"apply", "input list", "boost get"}) + " --" +
+           Mistyped("product") + " 10";
+  }
+
   std::string Line() {
     const cli::Command &command = OneOf(cli::Commands());
     switch (Below(6)) {
@@ -94,18 +130,24 @@ class WrongWords : public CliWorld {
 TEST_F(WrongWords, AreOneLineOfErrorAndNothingIsSent) {
   std::string script;
   std::vector<std::string> lines;
+  std::vector<bool> nearlyRight;
   for (int i = 0; i < kLines; ++i) {
-    lines.push_back(Line() + (Below(3) == 0 ? " --json" : ""));
+    nearlyRight.push_back(Below(4) == 0);
+    lines.push_back((nearlyRight.back() ? NearlyRight() : Line()) +
+                    (Below(3) == 0 ? " --json" : ""));
     script += "ztk " + lines.back() +
               " > $DIR/o 2> $DIR/e; echo $? $(wc -l < $DIR/e) "
-              "$(head -c 5 $DIR/e)\n";
+              "$(head -c 5 $DIR/e) $(grep -c '; nearest: ' $DIR/e)\n";
   }
   const Result result = OneMixer(script);
   const std::vector<std::string> answers = SplitLines(result.out);
   ASSERT_EQ(answers.size(), lines.size()) << result.err;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     SCOPED_TRACE(lines[i]);
-    EXPECT_EQ(answers[i], "2 1 ztk:");
+    EXPECT_THAT(answers[i], StartsWith("2 1 ztk: "));
+    if (nearlyRight[i]) {
+      EXPECT_EQ(answers[i], "2 1 ztk: 1");
+    }
   }
   EXPECT_THAT(Requests(), IsEmpty());
   EXPECT_FALSE(HasSettings("VRM-D6"));
@@ -119,28 +161,34 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
     const char *expected;
   } rows[] = {
       {"inptu",
-       "ztk: no command \"inptu\"; accepted: status, input, output, boost, "
-       "midi, apply, watch, warning, versions; see ztk --help\n"},
+       "ztk: no command \"inptu\"; nearest: input; accepted: status, input, "
+       "output, boost, midi, apply, autoapply, undo, export, import, watch, "
+       "warning, doctor, versions; see ztk --help\n"},
       {"",
        "ztk: a command is missing; accepted: status, input, output, boost, "
-       "midi, apply, watch, warning, versions; see ztk --help\n"},
+       "midi, apply, autoapply, undo, export, import, watch, warning, doctor, "
+       "versions; see ztk --help\n"},
       {"input",
        "ztk: a command is missing after \"input\"; accepted: list, get, set, "
        "apply, raw; see ztk input --help\n"},
       {"output lst",
-       "ztk: no command \"lst\" after \"output\"; accepted: list, get, set, "
+       "ztk: no command \"lst\" after \"output\"; nearest: list; accepted: "
+       "list, get, set, "
        "default, apply; see ztk output --help\n"},
       {"input set 6 1",
-       "ztk: USB input audio has no channel \"6\"; accepted: 1 to 5\n"},
+       "ztk: USB input audio has no channel \"6\"; nearest: 5; accepted: 1 to "
+       "5\n"},
       {"input set",
        "ztk: N is missing: a channel from 1 to 5; see ztk input set --help\n"},
       {"status now",
        "ztk: one word too many after \"status\": \"now\"; see ztk status "
        "--help\n"},
       {"status --all",
-       "ztk: no option \"--all\" after \"status\"; see ztk status --help\n"},
+       "ztk: no option \"--all\" after \"status\"; nearest: --help; accepted: "
+       "--help, --json; see ztk status --help\n"},
       {"apply --product VRM-Z1",
-       "ztk: no model \"VRM-Z1\"; accepted, by number or name: 0 VRM-Q8X, 1 "
+       "ztk: no model \"VRM-Z1\"; nearest: VRM-K2; accepted, by number or "
+       "name: 0 VRM-Q8X, 1 "
        "VRM-K2, 2 VRM-Q8S, 3 VRC-H7, 4 VRM-Q9, 5 VRM-L4, 6 VRM-E3, 8 VRM-B5, "
        "10 VRM-D6\n"},
   };
@@ -150,6 +198,47 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.err, row.expected);
     EXPECT_THAT(result.out, IsEmpty());
+  }
+}
+
+TEST_F(WrongWords, TellTheNearestRightOne) {
+  const struct {
+    const char *words;
+    const char *nearest;
+  } rows[] = {
+      {"inptu list", "input"},
+      {"statsu", "status"},
+      {"verison --json", "versions"},
+      {"input lits 2", "list"},
+      {"boost sett 1", "set"},
+      {"set 2 mic", "input set, output set, boost set, midi set"},
+      {"raw 1 2 3", "input raw"},
+      {"status --jsn", "--json"},
+      {"status json", "--json"},
+      {"apply --prodct VRM-K2", "--product"},
+      {"warning --langauge de", "--language"},
+      {"input set 2 mike", "6 MIC"},
+      {"input set 2 rec uot", "7 REC OUT"},
+      {"input set 2 fadr", "4 Cross Fader A"},
+      {"input set 2 8", "7 REC OUT"},
+      {"boost set 0", "1 -5 dB"},
+      {"boost set -11dB", "2 -10 dB"},
+      {"midi set 17", "16 CH 16"},
+      {"output set 1 auxx", "3 AUX"},
+      {"output set 4 aux", "3"},
+      {"apply --product VRM-D7", "VRM-D6"},
+      {"boost get --product vrm_b5", "VRM-B5"},
+      {"warning --language germna", "German"},
+      {"warning --channel 7", "4"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.words);
+    const Result result = OneMixer(std::string("ztk ") + row.words);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.err,
+                HasSubstr(std::string("; nearest: ") + row.nearest + ";"));
+    EXPECT_EQ(SplitLines(result.err).size(), 1U);
+    EXPECT_THAT(Requests(), IsEmpty());
   }
 }
 

@@ -41,7 +41,7 @@ files() {
   expect "12" "$(find "$PREFIX/share/tarvix" -name Localizable.strings |
     wc -l)" "Installed languages"
   local file
-  for file in LICENSE README.md CHANGELOG.md; do
+  for file in LICENSE README.md CHANGELOG.md ztk.schema.json; do
     [[ -s $PREFIX/share/doc/ZTKFunc/$file ]] || fail "$file is not installed."
   done
 }
@@ -97,6 +97,39 @@ bundle() {
     "$PREFIX/share" "$FULL_DATADIR" "$program")
   expect "Es ist kein Mixer angeschlossen." "${text%%. *}." \
     "The German warning, up to its first full stop"
+}
+
+udev_rule() {
+  local file=lib/udev/rules.d/70-tarvix-mixer.rules
+  expect "$(udev_rule_for 6666)" "$(grep -v '^#' "$PREFIX/$file")" \
+    "The installed udev rule"
+
+  # udev compares small digits, however the vendor id was written.
+  local other=$WORK/other-vendor
+  rm -rf "$other"
+  "$CMAKE" -S "$SOURCE" -B "$other" -DZTK_USB_VENDOR_ID=0x0ABC \
+    -DBUILD_TESTING=OFF -DCMAKE_C_COMPILER="$CC" -DCMAKE_CXX_COMPILER="$CXX" \
+    >/dev/null
+  expect "$(udev_rule_for 0abc)" \
+    "$(grep -v '^#' "$other/generated/${file##*/}")" \
+    "The udev rule of another vendor id"
+}
+
+udev_rule_for() {  # vendor
+  printf '%s, ' 'ACTION!="remove"' 'SUBSYSTEM=="usb"' \
+    'ENV{DEVTYPE}=="usb_device"' "ATTR{idVendor}==\"$1\"" \
+    'ATTR{idProduct}=="001b"'
+  printf 'TAG+="uaccess"\n'
+}
+
+manuals() {
+  local file
+  for file in man/man1/ztk.1 man/man1/ztk-virtual-mixer.1 man/man3/ZTKFunc.3 \
+    bash-completion/completions/{ztk,ztk-virtual-mixer} \
+    fish/vendor_completions.d/{ztk,ztk-virtual-mixer}.fish \
+    "${ZSH_COMPLETIONS#share/}"/{_ztk,_ztk-virtual-mixer}; do
+    [[ -s $PREFIX/share/$file ]] || fail "$file is not installed."
+  done
 }
 
 # They find the library beside themselves.

@@ -11,9 +11,11 @@ target_compile_options(library_child PRIVATE -Wno-old-style-cast)
 
 add_executable(library_tests
   ../support/library_world.cpp
+  ../support/library_world_sandbox.cpp
   library_main.cpp
   library_files_test.cpp
   library_process_test.cpp
+  library_requests_test.cpp
   library_settings_test.cpp
   library_status_test.cpp)
 add_dependencies(library_tests library_child)

@@ -172,7 +172,7 @@ TEST_F(LibraryFiles, ThePortStateChoosesTheSentence) {
               {{1, 1}, "warning 100 English 2 new\n"},
               {{0, 1}, "warning 100 English 2 new\n"}};
   for (const auto &row : rows) {
-    sandbox().WithMixer(
+    world().WithMixer(
         1, [&row](MixerModel &mixer) { mixer.SetReply(0x8006, row.reply); });
     Run(Bundles("10.15"), {"warning", "3", "101", "0"});
     EXPECT_EQ(output_, row.expected);
@@ -181,7 +181,7 @@ TEST_F(LibraryFiles, ThePortStateChoosesTheSentence) {
 
 TEST_F(LibraryFiles, ALanguageWithoutTheSentenceYieldsNull) {
   PlugMixers(1);
-  sandbox().WithMixer(1, [](MixerModel &mixer) {
+  world().WithMixer(1, [](MixerModel &mixer) {
     mixer.SetReply(0x8006, {1, 0});
   });
   Run(Bundles("10.15"), {"warning", "0", "101", "1"});

@@ -43,6 +43,16 @@ std::string GrowthCalls() {
   return count;
 }
 
+TEST_F(LibraryProcess, AMixerThatMayNotBeOpenedIsSkipped) {
+  PlugMixers(2);
+  world().SetForbidden(1, true);
+  EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
+  EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 2), 100u);
+  EXPECT_THAT(TakeLog(),
+              ElementsAre("mixer 2: 40 03 0106 8002 0000",
+                          "mixer 2: c0 00 0000 8002 0005 -> 00 04 04 04 04"));
+}
+
 TEST_F(LibraryProcess, ACallbackRunsWhenAnotherProcessSets) {
   PlugMixers(1);
   Child listener({"listen", "input"});

@@ -17,11 +17,11 @@ class LibraryStatus : public LibraryWorld {
     std::string error;
     const std::optional<Fault> fault = virtual_mixer::ParseFault(text, &error);
     ASSERT_TRUE(fault) << error;
-    sandbox().WithMixer(mixer,
-                        [&](MixerModel &model) { model.AddFault(*fault); });
+    world().WithMixer(mixer,
+                      [&](MixerModel &model) { model.AddFault(*fault); });
   }
   void Reply(int mixer, std::uint16_t reg, const virtual_mixer::Bytes &bytes) {
-    sandbox().WithMixer(mixer, [&](MixerModel &model) {
+    world().WithMixer(mixer, [&](MixerModel &model) {
       ASSERT_TRUE(model.SetReply(reg, bytes));
     });
   }
@@ -64,7 +64,7 @@ TEST_F(LibraryStatus, TheLastMixerStandsButTheFirstTellsItsFirmware) {
   Reply(2, 0x8007, {0, 0, 0, 9});
   Reply(2, 0x8001, {1, 1});
   Reply(2, 0x8004, {1, 0});
-  sandbox().WithMixer(2, [](MixerModel &mixer) { mixer.TurnSelector(0, 16); });
+  world().WithMixer(2, [](MixerModel &mixer) { mixer.TurnSelector(0, 16); });
   uint32_t value = 0;
   EXPECT_EQ(ZTK_GetMixerCertifyLevel(10, &value), 100u);
   EXPECT_EQ(value, 9u);
@@ -78,7 +78,7 @@ TEST_F(LibraryStatus, TheLastMixerStandsButTheFirstTellsItsFirmware) {
 
 TEST_F(LibraryStatus, ABadStateIsRefused) {
   PlugMixers(1);
-  sandbox().WithMixer(1, [](MixerModel &mixer) { mixer.TurnSelector(0, 17); });
+  world().WithMixer(1, [](MixerModel &mixer) { mixer.TurnSelector(0, 17); });
   Reply(1, 0x8004, {2, 0});
   uint32_t value = 77;
   EXPECT_EQ(ZTK_GetMixerSeratoActiveStatus(10, &value), 102u);
@@ -134,16 +134,16 @@ TEST_F(LibraryStatus, RequestsTellStalledSilentAndGone) {
   }
   usb::Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 2), 0u);
-  sandbox().Unplug(3);
+  world().Unplug(3);
   EXPECT_EQ(SetMidiChannelSetting(slot, 0), 0xE00002C0u);
   closeUSB(&slot);
 }
 
 TEST_F(LibraryStatus, AMixerThatComesBackIsFoundAgain) {
   PlugMixers(1);
-  sandbox().Unplug(1);
+  world().Unplug(1);
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);
-  sandbox().PlugIn(1);
+  world().PlugIn(1);
   EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 3), 100u);
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 1: 40 03 0000 8003 0000"));

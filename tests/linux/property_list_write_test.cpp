@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // How a file is replaced, and what stands when it cannot be.
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sched.h>
@@ -8,10 +9,13 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "linux/plist_files.h"
 #include "linux/temp_folder.h"
@@ -193,6 +197,47 @@ TEST_F(WriteAtomically, LeavesASignalThatWasAlreadyPending) {
     if (sigismember(&signals, SIGXFSZ) != 1) return 2;
     pthread_sigmask(SIG_SETMASK, nullptr, &signals);
     return sigismember(&signals, SIGXFSZ) == 1 ? 0 : 3;
+  });
+  EXPECT_EQ(code, 0);
+}
+
+const char *theWatchedFolder = nullptr;
+volatile sig_atomic_t theInterrupts = 0;
+
+// Asked for, an end comes at once: nothing unfinished may lie about then. Only
+// what may be called from a signal handler is called.
+void LookAround(int signal) {
+  if (signal == SIGALRM) {
+    raise(SIGINT);
+    return;
+  }
+  theInterrupts = theInterrupts + 1;
+  static char entries[4096];
+  const int folder = open(theWatchedFolder, O_RDONLY | O_DIRECTORY);
+  const long length = syscall(SYS_getdents64, folder, entries, sizeof entries);
+  close(folder);
+  const std::string_view names(
+      entries, length > 0 ? static_cast<std::size_t>(length) : 0);
+  if (names.find("a.plist.") != std::string_view::npos) _exit(3);
+}
+
+TEST_F(WriteAtomically, IsNotInterruptedHalfWay) {
+  Put(path_, old_);
+  const std::string folder = folder_.path();
+  theWatchedFolder = folder.c_str();
+  const int code = ExitCodeOf([this] {
+    struct sigaction action {};
+    action.sa_handler = LookAround;
+    action.sa_flags = SA_RESTART;
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGALRM, &action, nullptr);
+    const itimerval often = {.it_interval = {.tv_sec = 0, .tv_usec = 200},
+                             .it_value = {.tv_sec = 0, .tv_usec = 200}};
+    setitimer(ITIMER_REAL, &often, nullptr);
+    while (theInterrupts < 500) {
+      if (!Write(path_)) return 1;
+    }
+    return 0;
   });
   EXPECT_EQ(code, 0);
 }

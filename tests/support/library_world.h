@@ -1,24 +1,26 @@
 // SPDX-License-Identifier: MIT
 //
 // The fixture of the tests that run the shipped library, unchanged, on virtual
-// mixers in the sandbox, with a message bus and a home of their own.
+// mixers, with a message bus and a home of their own. The program that the
+// tests are linked into says where the mixers are: in the sandbox, or on the
+// bus of a real kernel.
 #ifndef ZTK_TESTS_SUPPORT_LIBRARY_WORLD_H_
 #define ZTK_TESTS_SUPPORT_LIBRARY_WORLD_H_
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
 
+#include "support/child.h"
 #include "support/planted_root.h"
 #include "support/private_bus.h"
 #include "support/temp_home.h"
-#include "virtual-mixer/sandbox.h"
+#include "virtual-mixer/mixer_world.h"
 
 namespace ztk::test {
 
@@ -27,6 +29,15 @@ using testing::IsEmpty;
 using virtual_mixer::DeviceKind;
 using virtual_mixer::Placement;
 
+using virtual_mixer::LogSink;
+using virtual_mixer::MixerWorld;
+
+// Defined beside each kind of world. `log` gets the vendor requests.
+std::unique_ptr<MixerWorld> MakeWorld(const std::vector<Placement> &placements,
+                                      LogSink log);
+// Why there can be no world here; empty when there can.
+std::string WorldRefusal();
+
 class LibraryWorld : public testing::Test {
  protected:
   void SetUp() override;
@@ -34,7 +45,7 @@ class LibraryWorld : public testing::Test {
   // Builds the bus anew.
   void Plug(const std::vector<Placement> &placements);
   void PlugMixers(int count);
-  virtual_mixer::Sandbox &sandbox() { return *sandbox_; }
+  MixerWorld &world() { return *world_; }
 
   // Request lines since the last call.
   std::vector<std::string> TakeLog();
@@ -45,7 +56,7 @@ class LibraryWorld : public testing::Test {
  private:
   std::mutex logMutex_;
   std::vector<std::string> log_;
-  std::unique_ptr<virtual_mixer::Sandbox> sandbox_;
+  std::unique_ptr<MixerWorld> world_;
 };
 
 // The text of a settings file that holds these entries and no others, each
@@ -61,27 +72,11 @@ std::string RunChild(const std::vector<std::string> &arguments);
 std::string RunChildInPlantedRoot(const Planted &files,
                                   const std::vector<std::string> &arguments);
 
-// The child program, running. Reads its lines as they come.
-class Child {
+// The child program, running.
+class Child : public ChildProcess {
  public:
-  // `prepare`, if any, runs in the new process before the program does; what
-  // it answers is printed and ends the process, unless it is empty.
   explicit Child(const std::vector<std::string> &arguments,
                  const std::function<std::string()> &prepare = nullptr);
-  ~Child();
-  Child(const Child &) = delete;
-  Child &operator=(const Child &) = delete;
-
-  // The next line without its end; empty when the child has closed.
-  std::string ReadLine();
-  // Lets it end (its standard input closes) and answers its exit status, or
-  // 128 and the signal's number.
-  int Finish();
-
- private:
-  pid_t process_ = -1;
-  int toChild_ = -1;
-  std::FILE *fromChild_ = nullptr;
 };
 
 }  // namespace ztk::test

@@ -6,6 +6,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -41,9 +42,8 @@ bool Unshare() {
          WriteShort("/proc/self/gid_map", group + " " + group + " 1");
 }
 
-// Shows an entry of the real root in the new one.
-bool Show(const fs::directory_entry &entry, const fs::path &root) {
-  const fs::path place = root / entry.path().filename();
+// Shows an entry of the real system at a place of the new root.
+bool Show(const fs::directory_entry &entry, const fs::path &place) {
   std::error_code failed;
   if (entry.is_symlink()) {
     fs::copy_symlink(entry.path(), place, failed);
@@ -58,6 +58,33 @@ bool Show(const fs::directory_entry &entry, const fs::path &root) {
                nullptr) == 0;
 }
 
+bool LeadsTo(const fs::path &folder, const Planted &files) {
+  const std::string start = folder.string() + "/";
+  return std::any_of(files.begin(), files.end(), [&start](const auto &file) {
+    return file.first.starts_with(start);
+  });
+}
+
+// Shows all of a folder but what is planted there. A folder that something is
+// planted in is made anew, so that nothing of the real one changes.
+std::string ShowFolder(const fs::path &folder, const fs::path &root,
+                       const Planted &files) {
+  for (const auto &entry : fs::directory_iterator(folder)) {
+    const fs::path &path = entry.path();
+    const fs::path place = root / path.relative_path();
+    if (path == root || files.contains(path.string())) continue;
+    std::string reason;
+    if (entry.is_directory() && !entry.is_symlink() && LeadsTo(path, files)) {
+      fs::create_directory(place);
+      reason = ShowFolder(path, root, files);
+    } else if (!Show(entry, place)) {
+      reason = Failure(path.c_str());
+    }
+    if (!reason.empty()) return reason;
+  }
+  return "";
+}
+
 }  // namespace
 
 std::string EnterPlantedRoot(const Planted &files) {
@@ -70,9 +97,8 @@ std::string EnterPlantedRoot(const Planted &files) {
   if (mount("planted", root.c_str(), "tmpfs", 0, nullptr) != 0) {
     return Failure("no tmpfs");
   }
-  for (const auto &entry : fs::directory_iterator("/")) {
-    if (entry.path() == root) continue;
-    if (!Show(entry, root)) return Failure(entry.path().c_str());
+  if (std::string reason = ShowFolder("/", root, files); !reason.empty()) {
+    return reason;
   }
   for (const auto &[path, contents] : files) {
     WriteAll(root / fs::path(path).relative_path(), contents);

@@ -12,9 +12,9 @@ using Planted = std::map<std::string, std::string>;
 
 // Puts this process (a forked child that is about to run a program) into a
 // mount namespace whose root shows everything that the real one does, and
-// these files besides. Nothing outside the process sees them. Their top
-// folders must not exist on the real system. Answers why it cannot be done
-// here, or an empty text.
+// these files besides, or in the place of real ones. Nothing outside the
+// process sees them. Their paths must lead through no symbolic link. Answers
+// why it cannot be done here, or an empty text.
 std::string EnterPlantedRoot(const Planted &files);
 
 }  // namespace ztk::test

@@ -229,6 +229,16 @@ TEST_F(OpenPipesTest, PassesOverADeviceWithoutAnInterface) {
   EXPECT_EQ(open_pipes(&slot, 1), kGeneralError);
 }
 
+TEST_F(OpenPipesTest, PassesOverADeviceWhosePlugInIsNoneAlthoughItSucceeds) {
+  TheWorld().bus = {WithoutPlugIn(), Mixer(), WithoutPlugIn()};
+  Connection slot = nullptr;
+  EXPECT_EQ(open_pipes(&slot, 0), 0u);
+  EXPECT_THAT(TakeSteps(), ElementsAre("open 2"));
+  ASSERT_NE(slot, nullptr);
+  closeUSB(&slot);
+  EXPECT_EQ(TheWorld().held, fake::Held{});
+}
+
 TEST_F(OpenPipesTest, FailsAndLeavesTheSlotEmptyForAMixerOutOfReach) {
   TheWorld().bus = {OutOfReach(), Mixer()};
   Connection slot = nullptr;

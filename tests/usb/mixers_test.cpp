@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "usb/mixers.h"
 
+#include <algorithm>
+
 #include "support/core_test.h"
 #include "usb/odd_devices.h"
 
@@ -62,6 +64,23 @@ TEST_F(SendToEveryMixer, OnlyCountsWithoutAMixer) {
   TheWorld().bus = {Stranger(), SameMakersOtherProduct()};
   EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206), 0);
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
+}
+
+// Each walk over the bus costs: one for the count, one to open each mixer.
+TEST_F(SendToEveryMixer, WalksOnceToCountAndOnceForEachMixer) {
+  const struct {
+    std::vector<fake::Device> bus;
+    std::ptrdiff_t walks;
+  } rows[] = {
+      {{Stranger()}, 1}, {{Mixer()}, 2}, {{Mixer(), Stranger(), Mixer()}, 3}};
+  for (const auto &row : rows) {
+    TheWorld() = World{};
+    TheWorld().bus = row.bus;
+    usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206);
+    const std::vector<std::string> calls = TakeCalls();
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "get master port"),
+              row.walks);
+  }
 }
 
 TEST_F(SendToEveryMixer, SkipsAMixerThatDoesNotOpenAndGoesOn) {

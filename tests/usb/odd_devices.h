@@ -45,6 +45,12 @@ inline fake::Device MixerFailing(const Defect &defect) {
 
 inline fake::Device MixerFailingAtPlugIn() { return MixerFailing(kDefects[0]); }
 
+inline fake::Device WithoutPlugIn() {
+  fake::Device mixer = fake::Mixer();
+  mixer.hasPlugIn = false;
+  return mixer;
+}
+
 inline fake::Device WithoutInterface() {
   fake::Device mixer = fake::Mixer();
   mixer.hasInterface = false;

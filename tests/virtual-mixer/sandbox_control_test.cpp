@@ -124,10 +124,13 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
       {{"fault", "x"}, 2, "unknown fault \"x\"; accepted: stall, silence"},
       {{"reply", "80", "00"}, 2, "bad register \"80\"; accepted: 8001, 8002"},
       {{"reply", "8001", "0"}, 2, "bad bytes \"0\"; accepted: 1 to 64 pairs"},
-      {{"bogus"}, 2, "unknown command \"bogus\"; accepted: run, turn"},
-      {{}, 2, "no command is given; accepted: run, turn"},
+      {{"bogus"}, 2, "unknown command \"bogus\"; accepted: run, serve, turn"},
+      {{}, 2, "no command is given; accepted: run, serve, turn"},
       {{"run", "ls"}, 2, "put \"--\" before the command"},
-      {{"run", "-n", "33", "--", "true"}, 2, "not in range 0 to 32"},
+      {{"run", "-n", "33", "--", "true"},
+       2,
+       "bad number of mixers \"33\"; "
+       "accepted: 0 to 32"},
       {{"run", "--selector", "1", "--", "true"}, 2, "the form is [MIXER:]CH"},
       {{"run", "--selector", "5=1", "--", "true"}, 2, "no channel \"5\""},
       {{"run", "--selector", "2:1=1", "--", "true"}, 2, "no mixer \"2\"; "},
@@ -168,7 +171,7 @@ TEST_F(Control, HasHelpWithAnExampleForEachCommand) {
         result.out,
         HasSubstr(std::string("Example: ztk-virtual-mixer ") + command));
   }
-  EXPECT_THAT(Tool({"--version"}).out, EndsWith(" 1.0.0\n"));
+  EXPECT_THAT(Tool({"--version"}).out, EndsWith(" " ZTK_VERSION "\n"));
 }
 
 }  // namespace

@@ -188,13 +188,14 @@ TEST_F(World, IsSeenByLsusb) {
   // It does not free all that it takes, which is none of our business.
   const ToolResult result = Inside({"-n", "2"},
                                    "command -v lsusb >/dev/null || exit 77; "
-                                   "ASAN_OPTIONS=detect_leaks=0 lsusb | sort");
+                                   "ASAN_OPTIONS=detect_leaks=0 lsusb | sort | "
+                                   "cut -d' ' -f1-6");
   if (result.status == 77) GTEST_SKIP() << "lsusb is not installed";
+  // The names behind them are the machine's, where it has a list of names.
   EXPECT_THAT(SplitLines(result.out),
-              ElementsAre("Bus 001 Device 001: ID 1d6b:0002 Linux Virtual Host "
-                          "Controller",
-                          "Bus 001 Device 002: ID 6666:001b Tarvix VRM-D6",
-                          "Bus 001 Device 003: ID 6666:001b Tarvix VRM-D6"));
+              ElementsAre("Bus 001 Device 001: ID 1d6b:0002",
+                          "Bus 001 Device 002: ID 6666:001b",
+                          "Bus 001 Device 003: ID 6666:001b"));
 }
 
 }  // namespace

@@ -36,8 +36,9 @@ std::string Word(std::uint16_t value) {
   return digits.data();
 }
 
-std::vector<int> ChosenMixers(const Sandbox &sandbox, const std::string &text) {
-  const int count = sandbox.MixerCount();
+std::vector<int> ChosenMixers(const MixerWorld &world,
+                              const std::string &text) {
+  const int count = world.MixerCount();
   if (text == "all") {
     std::vector<int> all;
     for (int mixer = 1; mixer <= count; ++mixer) all.push_back(mixer);
@@ -53,7 +54,7 @@ std::vector<int> ChosenMixers(const Sandbox &sandbox, const std::string &text) {
   return {static_cast<int>(*number)};
 }
 
-void Turn(Sandbox *sandbox, int mixer, const Words &words) {
+void Turn(MixerWorld *world, int mixer, const Words &words) {
   const auto channel = ParseNumber(words[2], 1, kSelectors);
   const auto position = ParseNumber(words[3], 0, 255);
   if (!channel) {
@@ -62,24 +63,24 @@ void Turn(Sandbox *sandbox, int mixer, const Words &words) {
   if (!position) {
     throw Refusal("no position \"" + words[3] + "\"; accepted: 0 to 255");
   }
-  sandbox->WithMixer(mixer, [&](MixerModel &model) {
+  world->WithMixer(mixer, [&](MixerModel &model) {
     model.TurnSelector(static_cast<int>(*channel) - 1,
                        static_cast<std::uint8_t>(*position));
   });
 }
 
-void SetFault(Sandbox *sandbox, int mixer, const Words &words) {
+void SetFault(MixerWorld *world, int mixer, const Words &words) {
   if (words[2] == "none") {
-    sandbox->WithMixer(mixer, [](MixerModel &model) { model.ClearFaults(); });
+    world->WithMixer(mixer, [](MixerModel &model) { model.ClearFaults(); });
     return;
   }
   std::string error;
   const auto fault = ParseFault(words[2], &error);
   if (!fault) throw Refusal(error);
-  sandbox->WithMixer(mixer, [&](MixerModel &model) { model.AddFault(*fault); });
+  world->WithMixer(mixer, [&](MixerModel &model) { model.AddFault(*fault); });
 }
 
-void SetReply(Sandbox *sandbox, int mixer, const Words &words) {
+void SetReply(MixerWorld *world, int mixer, const Words &words) {
   const auto registerNumber = ParseRegister(words[2]);
   const auto bytes = ParseBytes(words[3]);
   if (!bytes) {
@@ -87,7 +88,7 @@ void SetReply(Sandbox *sandbox, int mixer, const Words &words) {
                   "\"; accepted: 1 to 64 pairs of hexadecimal digits");
   }
   bool known = false;
-  sandbox->WithMixer(mixer, [&](MixerModel &model) {
+  world->WithMixer(mixer, [&](MixerModel &model) {
     known = registerNumber && model.SetReply(*registerNumber, *bytes);
   });
   if (!known) {
@@ -101,7 +102,7 @@ struct Command {
   std::string_view name;
   std::size_t words;
   std::string_view usage;
-  void (*run)(Sandbox *, int mixer, const Words &);
+  void (*run)(MixerWorld *, int mixer, const Words &);
 };
 
 constexpr std::array<Command, 7> kCommands{{
@@ -109,32 +110,32 @@ constexpr std::array<Command, 7> kCommands{{
     {"fault", 3, "fault M FAULT", SetFault},
     {"reply", 4, "reply M REGISTER HEX", SetReply},
     {"plug", 2, "plug M",
-     [](Sandbox *sandbox, int mixer, const Words &) {
-       sandbox->PlugIn(mixer);
-     }},
+     [](MixerWorld *world, int mixer, const Words &) { world->PlugIn(mixer); }},
     {"unplug", 2, "unplug M",
-     [](Sandbox *sandbox, int mixer, const Words &) {
-       sandbox->Unplug(mixer);
-     }},
+     [](MixerWorld *world, int mixer, const Words &) { world->Unplug(mixer); }},
     {"forbid", 2, "forbid M",
-     [](Sandbox *sandbox, int mixer, const Words &) {
-       sandbox->SetForbidden(mixer, true);
+     [](MixerWorld *world, int mixer, const Words &) {
+       world->SetForbidden(mixer, true);
      }},
     {"allow", 2, "allow M",
-     [](Sandbox *sandbox, int mixer, const Words &) {
-       sandbox->SetForbidden(mixer, false);
+     [](MixerWorld *world, int mixer, const Words &) {
+       world->SetForbidden(mixer, false);
      }},
 }};
 
-Json MixerState(Sandbox *sandbox, int mixer) {
-  const MixerStatus status = sandbox->Status(mixer);
-  Json state{{"number", mixer},
-             {"pluggedIn", status.pluggedIn},
-             {"forbidden", status.forbidden},
-             {"bus", status.address.bus},
-             {"device", status.address.DeviceNumber()},
-             {"node", status.address.Node()}};
-  sandbox->WithMixer(mixer, [&](const MixerModel &model) {
+Json MixerState(MixerWorld *world, int mixer) {
+  const MixerStatus status = world->Status(mixer);
+  Json state{{"number", mixer}, {"pluggedIn", status.pluggedIn}};
+  if (status.attached) {
+    state["busId"] = status.address.Name();
+    state["attached"] = *status.attached;
+  } else {
+    state["forbidden"] = status.forbidden;
+    state["bus"] = status.address.bus;
+    state["device"] = status.address.DeviceNumber();
+    state["node"] = status.address.Node();
+  }
+  world->WithMixer(mixer, [&](const MixerModel &model) {
     state["selectors"] = Json::array();
     for (int channel = 0; channel < kSelectors; ++channel) {
       state["selectors"].push_back(model.SelectorPosition(channel));
@@ -156,24 +157,23 @@ Json MixerState(Sandbox *sandbox, int mixer) {
   return state;
 }
 
-std::string Show(Sandbox *sandbox) {
-  Json state{{"mixers", Json::array()},
-             {"otherDevices", sandbox->OtherCount()}};
-  for (int mixer = 1; mixer <= sandbox->MixerCount(); ++mixer) {
-    state["mixers"].push_back(MixerState(sandbox, mixer));
+std::string Show(MixerWorld *world) {
+  Json state{{"mixers", Json::array()}, {"otherDevices", world->OtherCount()}};
+  for (int mixer = 1; mixer <= world->MixerCount(); ++mixer) {
+    state["mixers"].push_back(MixerState(world, mixer));
   }
   return "ok " + state.dump();
 }
 
-std::string Run(Sandbox *sandbox, const Words &words) {
-  if (words.size() == 1 && words[0] == "show") return Show(sandbox);
+std::string Run(MixerWorld *world, const Words &words) {
+  if (words.size() == 1 && words[0] == "show") return Show(world);
   for (const Command &command : kCommands) {
     if (words.empty() || command.name != words[0]) continue;
     if (command.words != words.size()) {
       throw Refusal("the form is: " + std::string(command.usage));
     }
-    for (const int mixer : ChosenMixers(*sandbox, words[1])) {
-      command.run(sandbox, mixer, words);
+    for (const int mixer : ChosenMixers(*world, words[1])) {
+      command.run(world, mixer, words);
     }
     return "ok";
   }
@@ -184,10 +184,16 @@ std::string Run(Sandbox *sandbox, const Words &words) {
 
 std::string DescribeMixer(const Json &mixer) {
   std::ostringstream text;
-  text << "mixer " << mixer["number"].get<int>() << "  bus "
-       << mixer["bus"].get<int>() << " device " << mixer["device"].get<int>()
-       << (mixer["pluggedIn"].get<bool>() ? "" : "  unplugged")
-       << (mixer["forbidden"].get<bool>() ? "  forbidden" : "") << "\n";
+  text << "mixer " << mixer["number"].get<int>() << "  ";
+  if (mixer.contains("busId")) {
+    text << "bus id " << mixer["busId"].get<std::string>();
+  } else {
+    text << "bus " << mixer["bus"].get<int>() << " device "
+         << mixer["device"].get<int>();
+  }
+  text << (mixer["pluggedIn"].get<bool>() ? "" : "  unplugged")
+       << (mixer.value("forbidden", false) ? "  forbidden" : "")
+       << (mixer.value("attached", false) ? "  attached" : "") << "\n";
   text << "  selectors ";
   for (const Json &position : mixer["selectors"]) {
     text << " " << position.get<int>();
@@ -216,9 +222,9 @@ std::string DescribeMixer(const Json &mixer) {
 
 }  // namespace
 
-std::string RunControlCommand(Sandbox *sandbox, std::string_view line) {
+std::string RunControlCommand(MixerWorld *world, std::string_view line) {
   try {
-    return Run(sandbox, Split(line));
+    return Run(world, Split(line));
   } catch (const std::exception &refusal) {
     return std::string("error ") + refusal.what();
   }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// What can be done to the mixers of a running sandbox, one line a command:
+// What can be done to the mixers of a running world, one line a command:
 //
-//   turn M CHANNEL POSITION   turn a selector: channel 1 to 4, position 0 to
-//   255 fault M FAULT | none      add a fault (fault.h), or clear them all
+//   turn M CHANNEL POSITION   turn a selector: channel 1 to 4, position up to
+//                             255
+//   fault M FAULT | none      add a fault (fault.h), or clear them all
 //   reply M REGISTER HEX      what a register replies: 8004 0100
 //   plug M   unplug M         attach the mixer, detach it
 //   forbid M   allow M        refuse to open its node, or allow it again
@@ -17,12 +18,12 @@
 #include <string>
 #include <string_view>
 
-#include "sandbox.h"
+#include "mixer_world.h"
 
 namespace ztk::virtual_mixer {
 
 // Carries out one command. Safe from any thread.
-std::string RunControlCommand(Sandbox *sandbox, std::string_view line);
+std::string RunControlCommand(MixerWorld *world, std::string_view line);
 
 // The state that "show" answers, laid out for people.
 std::string DescribeState(const std::string &json);

@@ -127,12 +127,17 @@ std::string AskControl(const std::string &path, const std::string &line) {
   const sockaddr_un address = AddressOf(path);
   const Descriptor connection = MakeSocket();
   if (connect(connection.Get(), Generic(&address), sizeof address) != 0) {
-    throw std::runtime_error("the sandbox at " + path + " has ended");
+    if (errno == EACCES) {
+      throw std::runtime_error("the mixers at " + path +
+                               " are another user's; only who started them, "
+                               "or root, may change them");
+    }
+    throw std::runtime_error("the mixers at " + path + " have ended");
   }
   std::string answer;
   if (!SendLine(connection.Get(), line) ||
       !ReceiveLine(connection.Get(), &answer)) {
-    throw std::runtime_error("the sandbox does not answer");
+    throw std::runtime_error("the mixers do not answer");
   }
   return answer;
 }

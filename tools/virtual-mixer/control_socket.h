@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The way from a program inside the sandbox to its owner: a Unix socket, one
+// The way from a program to the owner of a world of mixers: a Unix socket, one
 // command line and one answer line for each connection.
 #ifndef ZTK_VIRTUAL_MIXER_CONTROL_SOCKET_H_
 #define ZTK_VIRTUAL_MIXER_CONTROL_SOCKET_H_
@@ -12,7 +12,7 @@
 
 namespace ztk::virtual_mixer {
 
-// Names the socket's path to the programs inside.
+// Names the socket's path to programs.
 inline constexpr char kControlVariable[] = "ZTK_VIRTUAL_MIXER_CONTROL";
 
 // Closes a descriptor when it goes.

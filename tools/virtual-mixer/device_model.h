@@ -65,6 +65,8 @@ class MixerModel {
   // What is set outlives being detached: the mixer has its own power supply.
   bool Attached() const { return attached_; }
   void SetAttached(bool attached);
+  // The configuration that a system has chosen, 0 for none.
+  std::uint8_t Configuration() const { return configuration_; }
 
   // A knob: channel 0 to 3. False when there is no such channel.
   bool TurnSelector(int channel, std::uint8_t position);

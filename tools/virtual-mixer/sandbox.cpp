@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -23,22 +22,6 @@ namespace {
 
 // A file that not even the superuser may open for writing.
 constexpr char kReadOnlyForAll[] = "/proc/sys/kernel/ostype";
-
-Descriptors DescriptorsOf(DeviceKind kind, int mixer) {
-  switch (kind) {
-    case DeviceKind::Mixer:
-      return MixerDescriptors(mixer);
-    case DeviceKind::Hub:
-      return HubDescriptors();
-    case DeviceKind::Keyboard:
-      return KeyboardDescriptors();
-    case DeviceKind::Storage:
-      return StorageDescriptors();
-    case DeviceKind::Sibling:
-      break;
-  }
-  return SiblingDescriptors();
-}
 
 void CheckTempDir() {
   const char *const folder = std::getenv("TMPDIR");
@@ -76,25 +59,6 @@ std::string NumbersLink(const Address &address) {
 }
 
 }  // namespace
-
-std::vector<Placement> SpreadDevices(int mixers, int others, int buses) {
-  constexpr std::array kKinds{DeviceKind::Sibling, DeviceKind::Hub,
-                              DeviceKind::Keyboard, DeviceKind::Storage};
-  const int total = mixers + others;
-  const int before = (others + 1) / 2;
-  const int fewest = (total + kPortsOfABus - 1) / kPortsOfABus;
-  const int used = std::max({buses, fewest, 1});
-  const int onEach = std::max((total + used - 1) / used, 1);
-  std::vector<Placement> placements;
-  std::size_t stranger = 0;
-  for (int i = 0; i < total; ++i) {
-    const bool isMixer = i >= before && i < before + mixers;
-    placements.push_back({.kind = isMixer ? DeviceKind::Mixer
-                                          : kKinds[stranger++ % kKinds.size()],
-                          .bus = i / onEach + 1});
-  }
-  return placements;
-}
 
 void Sandbox::TestbedDeleter::operator()(_UMockdevTestbed *testbed) const {
   g_object_unref(testbed);
@@ -144,7 +108,7 @@ void Sandbox::AddDevice(const Placement &placement, int port) {
   auto device = std::make_unique<Device>();
   device->address = {.bus = placement.bus, .port = port};
   if (placement.kind == DeviceKind::Mixer) {
-    device->mixer = MixerCount() + 1;
+    device->mixer = static_cast<int>(mixers_.size()) + 1;
     device->model = std::make_unique<MixerModel>(device->mixer);
     mixers_.push_back(device.get());
   }
@@ -165,7 +129,8 @@ MixerStatus Sandbox::Status(int mixer) const {
   const Device &device = Mixer(mixer);
   return {.address = device.address,
           .pluggedIn = device.present,
-          .forbidden = device.forbidden};
+          .forbidden = device.forbidden,
+          .attached = std::nullopt};
 }
 
 void Sandbox::WithMixer(int mixer,

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "device_model.h"
+#include "mixer_world.h"
 #include "usb_tree.h"
 #include "usbfs_front.h"
 
@@ -25,37 +26,15 @@ struct _UMockdevTestbed;  // NOLINT(bugprone-reserved-identifier): fixed name
 
 namespace ztk::virtual_mixer {
 
-enum class DeviceKind { Mixer, Hub, Keyboard, Storage, Sibling };
-
-// One device of the world. Devices are numbered along each bus in the order
-// in which they are listed.
-struct Placement {
-  DeviceKind kind = DeviceKind::Mixer;
-  int bus = 1;
-};
-
-// Mixers with half of the strangers before them and half behind, filling
-// `buses` buses in this order; more buses when the ports do not suffice.
-std::vector<Placement> SpreadDevices(int mixers, int others, int buses);
-
-struct MixerStatus {
-  Address address;
-  bool pluggedIn = false;
-  bool forbidden = false;
-};
-
-class Sandbox {
+class Sandbox : public MixerWorld {
  public:
-  // Gets each request line; called from several threads, one at a time.
-  using LogSink = std::function<void(const std::string &line)>;
-
   // Builds the world in a new folder under TMPDIR and sets UMOCKDEV_DIR.
   // TMPDIR must be at most kLongestTempDir characters: the paths of sockets
   // have to fit. Only one sandbox can exist in a process at a time. Throws
   // std::runtime_error when the world cannot be built.
   explicit Sandbox(const std::vector<Placement> &placements,
                    LogSink log = nullptr);
-  ~Sandbox();
+  ~Sandbox() override;
   Sandbox(const Sandbox &) = delete;
   Sandbox &operator=(const Sandbox &) = delete;
 
@@ -64,23 +43,18 @@ class Sandbox {
   // The folder that holds everything; removed with the sandbox.
   const std::string &RootDir() const { return rootDir_; }
 
-  // Mixers count from 1, plugged in or not.
-  int MixerCount() const { return static_cast<int>(mixers_.size()); }
-  int OtherCount() const;
-  MixerStatus Status(int mixer) const;
+  int MixerCount() const override { return static_cast<int>(mixers_.size()); }
+  int OtherCount() const override;
+  MixerStatus Status(int mixer) const override;
+  void WithMixer(int mixer,
+                 const std::function<void(MixerModel &)> &visit) override;
 
-  // Calls `visit` with the mixer while no request can reach it.
-  void WithMixer(int mixer, const std::function<void(MixerModel &)> &visit);
+  // A mixer that comes back has the place and number that it had.
+  void PlugIn(int mixer) override;
+  void Unplug(int mixer) override;
 
-  // Both do nothing when it is so already. A mixer that comes back has the
-  // place and number that it had.
-  void PlugIn(int mixer);
-  void Unplug(int mixer);
-
-  // Forbids opening the mixer's node for writing (EACCES), or allows it again.
-  // Holds for the superuser too. Throws std::runtime_error where this system
-  // cannot do that.
-  void SetForbidden(int mixer, bool forbidden);
+  // Holds for the superuser too.
+  void SetForbidden(int mixer, bool forbidden) override;
 
  private:
   struct Device {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "mixers.h"
+#include "plan.h"
 #include "products.h"
 #include "setting_commands.h"
 
@@ -52,18 +53,24 @@ std::string NamedValue(const Setting &setting) {
          DescribedValue(*setting.family, setting.channel, setting.index);
 }
 
-void AddSetting(const Setting &setting, bool reached, Report *report) {
+// How many mixers there were is told once, at the end.
+std::string SentOrNot(const Reach &reach) {
+  return reach.answered() > 0 ? "sent" : Described(reach);
+}
+
+void AddSettingFields(const Setting &setting, Report *report) {
   Json fields;
   fields["setting"] = setting.family->name;
   fields["model"] = ModelName(*setting.family);
   AddValueFields(*setting.family, setting.channel, setting.index, &fields);
   fields["accepted"] = !setting.refused;
   report->fields["settings"].push_back(std::move(fields));
+}
+
+void AddSetting(const Setting &setting, const Reach &reach, Report *report) {
+  AddSettingFields(setting, report);
   report->text += NamedValue(setting) + ", " +
-                  (setting.refused ? "refused"
-                   : reached       ? "sent"
-                                   : "not sent") +
-                  "\n";
+                  (setting.refused ? "refused" : SentOrNot(reach)) + "\n";
 }
 
 // A refused value is the more urgent problem: it does not go away by itself.
@@ -83,22 +90,61 @@ void AddRefused(const std::vector<Setting> &settings, Report *report) {
                  "; choose another one with: " + remedy};
 }
 
-Report Apply(std::vector<Setting> settings, const std::string &what) {
+// Without asking the library, which would send.
+bool WouldBeRefused(const Setting &setting) {
+  const std::uint32_t limit = setting.family->sentAgainBelow;
+  return !BelongsToItsChannel(setting) ||
+         (limit != 0 && setting.index >= limit);
+}
+
+Report PlanOfApply(std::vector<Setting> settings) {
+  Plan plan;
+  Report report;
+  report.fields["settings"] = Json::array();
+  std::size_t refused = 0;
+  for (Setting &setting : settings) {
+    setting.refused = WouldBeRefused(setting);
+    if (setting.refused) {
+      ++refused;
+    } else {
+      plan.AddSendingAgain(*setting.family, setting.channel, setting.index);
+    }
+    AddSettingFields(setting, &report);
+  }
+  if (refused < settings.size()) plan.AddQuestion();
+  plan.Tell(&report);
+  AddRefused(settings, &report);
+  return report;
+}
+
+Report Apply(std::vector<Setting> settings, const std::string &what,
+             const Arguments &arguments) {
   Report report;
   report.fields["settings"] = Json::array();
   if (settings.empty()) {
     report.text = "Nothing is remembered for " + what + ": nothing to send.\n";
     return report;
   }
+  if (arguments.Has(Parameter::DryRun)) return PlanOfApply(settings);
+
   const Sent sent = SendAndLook([&settings] {
-    for (Setting &setting : settings) SendAgain(&setting);
-    return ZTK_SUCCESS;
+    ZTKResult all = ZTK_REJECTED;
+    for (Setting &setting : settings) {
+      SendAgain(&setting);
+      if (!setting.refused) all = ZTK_SUCCESS;
+    }
+    return all;
   });
   for (const Setting &setting : settings) {
-    AddSetting(setting, !sent.reach.reached.empty(), &report);
+    AddSetting(setting, sent.reach, &report);
   }
-  AddReach(sent.reach, "nothing was sent; what is remembered stays so",
-           &report);
+  if (sent.result != ZTK_REJECTED) {
+    AddReach(sent.reach,
+             {.notSent = "nothing was sent; what is remembered stays so",
+              .notAnswered = "what is remembered stays so; try again",
+              .someMissing = "once the others do, run this again"},
+             &report);
+  }
   AddRefused(settings, &report);
   return report;
 }
@@ -117,9 +163,10 @@ Report ApplyFamily(const Family &family, const Arguments &arguments) {
   }
   std::vector<Setting> settings;
   AddRemembered(family, channels, &settings);
-  return Apply(std::move(settings), channels.size() == 1
-                                        ? PlaceName(family, channels.front())
-                                        : family.title);
+  return Apply(
+      std::move(settings),
+      channels.size() == 1 ? PlaceName(family, channels.front()) : family.title,
+      arguments);
 }
 
 Report ApplyAll(const Arguments &arguments) {
@@ -144,7 +191,7 @@ Report ApplyAll(const Arguments &arguments) {
         "no setting belongs to the " + ProductName(product) +
             "; those of these models are remembered: " + Listed(models));
   }
-  return Apply(std::move(settings), "the " + ProductName(product));
+  return Apply(std::move(settings), "the " + ProductName(product), arguments);
 }
 
 }  // namespace ztk::cli

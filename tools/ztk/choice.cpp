@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "choice.h"
 
+#include "nearest.h"
 #include "report.h"
 #include "words.h"
 
@@ -51,6 +52,29 @@ Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
   if (found.empty()) found = BeginningWith(choices, wanted, true);
   if (found.size() == 1) return {.choice = found.front(), .candidates = {}};
   return {.choice = std::nullopt, .candidates = std::move(found)};
+}
+
+std::string NearestChoice(const std::string &words,
+                          const std::vector<Choice> &choices) {
+  if (choices.empty()) return "";
+  const bool digits = !words.empty() && words.find_first_not_of("0123456789") ==
+                                            std::string::npos;
+  if (digits) {
+    // Choices count from 1, without gaps.
+    const std::uint32_t wanted =
+        ParseNumber(words).value_or(choices.back().number);
+    return "; nearest: " + Described(wanted < choices.front().number
+                                         ? choices.front()
+                                         : choices.back());
+  }
+  std::vector<std::string> texts;
+  texts.reserve(choices.size());
+  for (const Choice &choice : choices) texts.push_back(choice.text);
+  const std::string nearest = Nearest(words, texts);
+  for (const Choice &choice : choices) {
+    if (choice.text == nearest) return "; nearest: " + Described(choice);
+  }
+  return "";
 }
 
 std::string Described(const Choice &choice) {

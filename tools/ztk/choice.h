@@ -29,6 +29,11 @@ struct Match {
 // stumble over it; a number that is listed comes first.
 Match FindChoice(const std::vector<Choice> &choices, const std::string &words);
 
+// "; nearest: 6 MIC" for words that no choice begins with; empty where none is
+// near.
+std::string NearestChoice(const std::string &words,
+                          const std::vector<Choice> &choices);
+
 // "1 REC OUT", for lists on one line.
 std::string Described(const Choice &choice);
 std::string Described(const std::vector<Choice> &choices);

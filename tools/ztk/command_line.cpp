@@ -8,24 +8,16 @@
 
 #include "build_config.h"
 #include "commands.h"
+#include "manual/completion.h"
+#include "manual/described.h"
+#include "nearest.h"
+#include "progress.h"
 
 namespace ztk::cli {
 
 namespace {
 
-constexpr char kAbout[] =
-    "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
-    "Channels and choices count from 1, as they are listed.";
-constexpr char kFooter[] =
-    "Exit status:\n"
-    "  0  done; a warning, if there is one, stands on the error stream\n"
-    "  2  the words were wrong; nothing was sent\n"
-    "  3  no mixer was reached; a choice that was set is remembered\n"
-    "  4  rejected by the library: a model, value or remembered value that\n"
-    "     it does not take\n"
-    "  5  something else failed\n"
-    "\n"
-    "Example: ztk input set 2 \"post ch2 fader\"";
+constexpr char kExample[] = "ztk input set 2 \"post ch2 fader\"";
 
 // The words of one option or position, until they are read.
 struct Slot {
@@ -43,14 +35,30 @@ std::string Footer(const std::string &note, const std::string &example) {
   return note + "\nExample: " + example;
 }
 
+std::string ProgramFooter() {
+  constexpr std::size_t kColumn = 5;
+  std::string text = "Exit status:\n";
+  for (const ExitMeaning &meaning : ExitMeanings()) {
+    const std::string number = std::to_string(static_cast<int>(meaning.exit));
+    std::string lead = "  " + Padded(number, kColumn - 2);
+    for (const char character : lead + meaning.text + std::string("\n")) {
+      text += character;
+      if (character == '\n') text += std::string(kColumn, ' ');
+    }
+    text.erase(text.size() - kColumn);
+  }
+  return Footer(text, kExample);
+}
+
 // The parser made from the table of commands. Nothing is required of it and
 // extra words are let through: what is wrong is said better here.
 class Parser {
  public:
   Parser() : app_(kAbout, "ztk") {
-    Prepare(&app_, kFooter);
-    app_.set_version_flag("--version", std::string("ztk ") + build::kVersion,
-                          "Show the version");
+    Prepare(&app_, ProgramFooter());
+    app_.set_version_flag(kVersionOption.names,
+                          std::string("ztk ") + build::kVersion,
+                          kVersionOption.description);
     for (const Command &command : Commands()) Add(command);
   }
 
@@ -116,8 +124,8 @@ class Parser {
     app->allow_extras();
     app->require_subcommand(0, 1);
     app->get_formatter()->column_width(24);
-    app->set_help_flag("-h,--help", "Show this help");
-    app->add_flag("--json", json_, "Answer in JSON")
+    app->set_help_flag(kHelpOption.names, kHelpOption.description);
+    app->add_flag(kJsonOption.names, json_, kJsonOption.description)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     app->footer(footer);
   }
@@ -153,6 +161,11 @@ class Parser {
     Slot &slot = slots_[app].emplace_back();
     slot.parameter = use.parameter;
     slot.required = use.required;
+    if (IsFlag(use.parameter)) {
+      slot.option =
+          app->add_flag(ParameterName(use.parameter), use.description);
+      return;
+    }
     slot.option = app->add_option(ParameterName(use.parameter), slot.words,
                                   use.description);
     if (use.parameter != Parameter::Choice) {
@@ -172,24 +185,53 @@ class Parser {
     const std::string place = path.empty() ? "" : " after \"" + path + "\"";
     std::string message;
     if (extras.empty()) {
-      message = "a command is missing" + place;
+      message =
+          "a command is missing" + place + "; accepted: " + Listed(Below(app));
     } else if (extras.front().starts_with("-")) {
-      message = "no option " + Quoted(extras.front()) + place;
+      message = "no option " + Quoted(extras.front()) + place +
+                NearestAndAccepted(extras.front(), Options(app));
     } else if (isGroup) {
-      message = "no command " + Quoted(extras.front()) + place;
+      message = "no command " + Quoted(extras.front()) + place +
+                NearestCommand(app, extras.front());
     } else {
-      message = "one word too many" + place + ": " + Quoted(extras.front());
+      // It may be an option without its dashes.
+      const std::string option = NearestByFar(extras.front(), Options(app));
+      message = "one word too many" + place + ": " + Quoted(extras.front()) +
+                (option.empty() ? "" : "; nearest: " + option);
     }
-    throw Failure(ExitCode::Usage, message + Accepted(app) + SeeHelp(path));
+    throw Failure(ExitCode::Usage, message + SeeHelp(path));
   }
 
-  // The commands that could have stood there, where there are any.
-  static std::string Accepted(const CLI::App &app) {
+  // The words that go on from there.
+  static std::vector<std::string> Below(const CLI::App &app) {
     std::vector<std::string> names;
     for (const CLI::App *child : app.get_subcommands({})) {
       names.push_back(child->get_name());
     }
-    return names.empty() ? "" : "; accepted: " + Listed(names);
+    return names;
+  }
+
+  static std::vector<std::string> Options(const CLI::App &app) {
+    std::vector<std::string> names;
+    for (const CLI::Option *option : app.get_options()) {
+      for (const std::string &name : option->get_lnames()) {
+        names.push_back("--" + name);
+      }
+    }
+    return names;
+  }
+
+  // A word that goes on from another one is nearer than any that is alike.
+  static std::string NearestCommand(const CLI::App &app,
+                                    const std::string &word) {
+    std::vector<std::string> whole;
+    for (const Command &command : Commands()) {
+      if (command.path.ends_with(" " + word)) whole.push_back(command.path);
+    }
+    if (whole.empty() || app.get_parent() != nullptr) {
+      return NearestAndAccepted(word, Below(app));
+    }
+    return "; nearest: " + Listed(whole) + "; accepted: " + Listed(Below(app));
   }
 
   CLI::App app_;
@@ -211,9 +253,24 @@ Report Told(const char *name, const std::string &text) {
   return report;
 }
 
+Report Completed(const std::vector<std::string> &words) {
+  Report report;
+  report.text = manual::Completions(manual::Described(), words);
+  return report;
+}
+
+Report Interrupted() {
+  Report report;
+  report.problem = {.exit = ExitCode::Interrupted, .message = kInterrupted};
+  return report;
+}
+
 }  // namespace
 
 Report Run(const std::vector<std::string> &words, Call *call) {
+  if (!words.empty() && words.front() == manual::kCompletionCall) {
+    return Completed({words.begin() + 1, words.end()});
+  }
   call->json = AsksForJson(words);
   Parser parser;
   try {
@@ -234,6 +291,8 @@ Report Run(const std::vector<std::string> &words, Call *call) {
   const CLI::App *selected = parser.Selected();
   Arguments arguments = parser.ArgumentsOf(selected);
   call->json = arguments.json;
+  EndOnInterrupt(arguments.json ? JsonLine(call->command, Interrupted()) + "\n"
+                                : "");
   return parser.CommandOf(selected)->run(arguments);
 }
 

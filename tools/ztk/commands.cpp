@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "commands.h"
 
+#include "autoapply.h"
 #include "families.h"
 #include "other_commands.h"
 #include "setting_commands.h"
@@ -15,6 +16,12 @@ ParameterUse ProductOption(const std::string &otherwise) {
   return {.parameter = Parameter::Product,
           .required = false,
           .description = "Model by name or number; else the " + otherwise};
+}
+
+ParameterUse DryRunOption() {
+  return {.parameter = Parameter::DryRun,
+          .required = false,
+          .description = "Show what would be done, and do nothing"};
 }
 
 // N, where the setting has channels.
@@ -44,13 +51,20 @@ Command MakeCommand(const Family &family, const char *verb,
           }};
 }
 
-// list, get and apply, which differ in nothing but what they run.
+// list, get, default and apply, which differ in nothing but what they run.
 Command MakePlain(const Family &family, const char *verb,
                   const std::string &summary, Run run) {
   Command command =
       MakeCommand(family, verb, summary, family.channels == 0 ? "" : "1", run);
   AddChannel(family, false, &command.parameters);
   command.parameters.push_back(ProductOption(ModelName(family)));
+  return command;
+}
+
+Command MakeSending(const Family &family, const char *verb,
+                    const std::string &summary, Run run) {
+  Command command = MakePlain(family, verb, summary, run);
+  command.parameters.push_back(DryRunOption());
   return command;
 }
 
@@ -64,6 +78,7 @@ Command MakeSet(const Family &family) {
        .required = true,
        .description = "Number as listed (from 1), text, or its beginning"});
   command.parameters.push_back(ProductOption(ModelName(family)));
+  command.parameters.push_back(DryRunOption());
   return command;
 }
 
@@ -80,6 +95,7 @@ Command MakeRaw() {
                                 .required = true,
                                 .description = "Source code, 0 to 15"});
   command.parameters.push_back(ProductOption(ModelName(kInput)));
+  command.parameters.push_back(DryRunOption());
   return command;
 }
 
@@ -90,25 +106,64 @@ void AddFamily(const Family &family, std::vector<Command> *commands) {
       MakePlain(family, "get", "Show what is remembered", GetRemembered));
   commands->push_back(MakeSet(family));
   if (&family == &kOutput) {
-    commands->push_back(MakePlain(family, "default",
-                                  "Send the default; it is not remembered",
-                                  SendDefault));
+    commands->push_back(MakeSending(family, "default",
+                                    "Send the default; it is not remembered",
+                                    SendDefault));
   }
-  commands->push_back(
-      MakePlain(family, "apply", "Send what is remembered again", ApplyFamily));
+  commands->push_back(MakeSending(
+      family, "apply", "Send what is remembered again", ApplyFamily));
   if (&family == &kInput) commands->push_back(MakeRaw());
+}
+
+// Of what is remembered as a whole.
+void AddMemory(std::vector<Command> *commands) {
+  commands->push_back(
+      {.path = "undo",
+       .summary = "Put back what ztk has changed last",
+       .parameters = {DryRunOption()},
+       .note =
+           "Again and again goes further back, 100 commands at most. What\n"
+           "another program has changed since is left alone. Where nothing\n"
+           "was remembered before, the default is put back and remembered,\n"
+           "as the library cannot forget. Known is what was remembered:\n"
+           "raw values, defaults and what was applied leave no trace.",
+       .example = "ztk undo",
+       .run = Undo});
+  commands->push_back(
+      {.path = "export",
+       .summary = "Write all that is remembered, in words",
+       .parameters = {},
+       .note = "In JSON, by model, setting and channel, for ztk import.",
+       .example = "ztk export",
+       .run = Export});
+  commands->push_back(
+      {.path = "import",
+       .summary = "Set all that stands in a file of ztk export",
+       .parameters = {{.parameter = Parameter::File,
+                       .required = true,
+                       .description = "File, or - for the input"},
+                      DryRunOption()},
+       .note =
+           "All of it is checked before anything is changed. Settings that\n"
+           "do not stand in it are left alone.",
+       .example = "ztk import club.json --dry-run",
+       .run = Import});
 }
 
 void AddOthers(std::vector<Command> *commands) {
   commands->push_back(
       {.path = "apply",
        .summary = "Send all that is remembered for a model again",
-       .parameters = {ProductOption("VRM-D6")},
+       .parameters = {ProductOption("VRM-D6"), DryRunOption()},
        .note = "Only settings with a remembered value are sent. With another\n"
                "model, what is remembered for that one: --product VRM-B5 for\n"
                "USB output audio, --product VRM-K2 for the MIDI channel.",
        .example = "ztk apply",
        .run = ApplyAll});
+  for (Command &command : AutoapplyCommands()) {
+    commands->push_back(std::move(command));
+  }
+  AddMemory(commands);
   commands->push_back(
       {.path = "watch",
        .summary = "Show changes made by any program, until interrupted",
@@ -128,6 +183,16 @@ void AddOthers(std::vector<Command> *commands) {
        .note = "Without a mixer the text is always in your own language.",
        .example = "ztk warning --language de",
        .run = ShowWarning});
+  commands->push_back(
+      {.path = "doctor",
+       .summary = "Find out why something does not work, and what to type",
+       .parameters = {},
+       .note = "Looked at are the mixers, the settings files, the session's\n"
+               "message bus and the warning texts. Nothing is changed; every\n"
+               "mixer is asked one question. Ends with 1 when something is\n"
+               "wrong; a note alone is nothing wrong.",
+       .example = "ztk doctor",
+       .run = Diagnose});
   commands->push_back({.path = "versions",
                        .summary = "Show the versions of the installed pieces",
                        .parameters = {},
@@ -158,6 +223,7 @@ std::vector<Group> MakeGroups() {
                       .example = std::string("ztk ") + family->name + " set " +
                                  family->example});
   }
+  groups.push_back(AutoapplyGroup());
   return groups;
 }
 
@@ -173,6 +239,8 @@ const std::vector<Group> &Groups() {
   return groups;
 }
 
+bool IsFlag(Parameter parameter) { return parameter == Parameter::DryRun; }
+
 const char *ParameterName(Parameter parameter) {
   switch (parameter) {
     case Parameter::Channel:
@@ -187,6 +255,10 @@ const char *ParameterName(Parameter parameter) {
       return "--product";
     case Parameter::OfChannel:
       return "--channel";
+    case Parameter::DryRun:
+      return "--dry-run";
+    case Parameter::File:
+      return "FILE";
     case Parameter::Language:
       break;
   }

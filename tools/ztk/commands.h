@@ -24,6 +24,8 @@ enum class Parameter : std::uint8_t {
   Product,    // --product MODEL
   OfChannel,  // --channel N
   Language,   // --language L
+  DryRun,     // --dry-run
+  File,       // FILE
 };
 
 // A parameter as one command has it.
@@ -42,6 +44,11 @@ struct Arguments {
   const std::string *Find(Parameter parameter) const {
     const auto found = given.find(parameter);
     return found == given.end() ? nullptr : &found->second;
+  }
+  // For what is either said or not.
+  bool Has(Parameter parameter) const {
+    const std::string *word = Find(parameter);
+    return word != nullptr && *word == "true";
   }
 };
 
@@ -62,9 +69,30 @@ struct Group {
   std::string example;
 };
 
+// An option that every command takes.
+struct OptionForAll {
+  const char *names;
+  const char *description;
+};
+
+// What the program is, in a few sentences.
+inline constexpr char kAbout[] =
+    "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
+    "Channels and choices count from 1, as they are listed.";
+
+inline constexpr OptionForAll kHelpOption{.names = "-h,--help",
+                                          .description = "Show this help"};
+inline constexpr OptionForAll kJsonOption{.names = "--json",
+                                          .description = "Answer in JSON"};
+// Of the program alone.
+inline constexpr OptionForAll kVersionOption{.names = "--version",
+                                             .description = "Show the version"};
+
 const std::vector<Command> &Commands();
 const std::vector<Group> &Groups();
 
+// True where no word follows the name.
+bool IsFlag(Parameter parameter);
 // "N", "CHOICE", "--product"
 const char *ParameterName(Parameter parameter);
 // "MODEL" for "--product"; empty for what stands without a name.

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "families.h"
 
+#include "api/tables.h"
 #include "products.h"
 #include "store/settings_file.h"
 #include "text.h"
+#include "usb/USB.h"
 
 namespace ztk::cli {
 
@@ -16,6 +18,13 @@ const Family kInput{
     .product = 10,
     .model = ZTK_TEXT("VRM-D6"),
     .key = ZTK_TEXT("Output%d"),
+    .notice = &notify::kInputAudio,
+    .writeRegister = usb::kMixerOutputRegister,
+    .deviceValue =
+        [](std::uint32_t channel, std::uint32_t index) {
+          return _convTable_PC_INPUT[channel * 8 + index];
+        },
+    .selectorLength = 5,
     .channels = 5,
     .placeholders = 1,
     .count = ZTK_GetNumOfInputAudioIndex,
@@ -32,6 +41,7 @@ const Family kInput{
           return ZTK_GetCurrentUSBInputAudioIndex(
               product, static_cast<std::int32_t>(channel), outIndex);
         },
+    .sentAgainBelow = 0,
     .sendAgain = ZTK_SetCurrentUSBInputAudio};
 
 const Family kOutput{.name = "output",
@@ -42,6 +52,13 @@ const Family kOutput{.name = "output",
                      .product = 8,
                      .model = ZTK_TEXT("VRM-B5"),
                      .key = ZTK_TEXT("Input%d"),
+                     .notice = &notify::kOutputAudio,
+                     .writeRegister = usb::kMixerInputRegister,
+                     .deviceValue =
+                         [](std::uint32_t channel, std::uint32_t index) {
+                           return _convTableOut_B5[channel * 3 + index];
+                         },
+                     .selectorLength = 4,
                      .channels = 3,
                      .placeholders = 0,
                      .count = ZTK_GetNumOfOutputAudioIndex,
@@ -53,6 +70,7 @@ const Family kOutput{.name = "output",
                          },
                      .set = ZTK_SetUSBOutputAudio,
                      .current = ZTK_GetCurrentUSBOutputAudioIndex,
+                     .sentAgainBelow = 0,
                      .sendAgain = ZTK_SetCurrentUSBOutputAudio};
 
 const Family kBoost{
@@ -64,6 +82,13 @@ const Family kBoost{
     .product = 10,
     .model = ZTK_TEXT("VRM-D6"),
     .key = ZTK_TEXT("MaxLevel"),
+    .notice = &notify::kBoostLevel,
+    .writeRegister = usb::kUsbOutputLevelRegister,
+    .deviceValue =
+        [](std::uint32_t /*channel*/, std::uint32_t index) {
+          return static_cast<std::uint16_t>(_convDbTable[index] << 8);
+        },
+    .selectorLength = 0,
     .channels = 0,
     .placeholders = 0,
     .count =
@@ -86,6 +111,7 @@ const Family kBoost{
            std::uint32_t *outIndex) {
           return ZTK_GetCurrentBoostLevelIndex(product, outIndex);
         },
+    .sentAgainBelow = 0,
     .sendAgain =
         [](std::uint32_t product, std::uint32_t /*channel*/) {
           return ZTK_SetCurrentBoostLevelIndex(product);
@@ -100,6 +126,13 @@ const Family kMidi{
     .product = 1,
     .model = ZTK_TEXT("VRM-K2"),
     .key = ZTK_TEXT("MidiChannel"),
+    .notice = &notify::kMidiChannel,
+    .writeRegister = usb::kMidiChannelRegister,
+    .deviceValue =
+        [](std::uint32_t /*channel*/, std::uint32_t index) {
+          return static_cast<std::uint16_t>(index << 8);
+        },
+    .selectorLength = 0,
     .channels = 0,
     .placeholders = 0,
     .count =
@@ -122,6 +155,8 @@ const Family kMidi{
            std::uint32_t *outIndex) {
           return ZTK_GetCurrentMidiChannelIndex(product, outIndex);
         },
+    // Wanted: the library sends no MIDI channel above the fourth again.
+    .sentAgainBelow = 4,
     .sendAgain =
         [](std::uint32_t product, std::uint32_t /*channel*/) {
           return ZTK_SetCurrentMidiChannelIndex(product);

@@ -12,6 +12,7 @@
 
 #include "ZTKFunc.h"
 #include "choice.h"
+#include "notify/families.h"
 #include "report.h"
 
 namespace ztk::cli {
@@ -28,6 +29,14 @@ struct Family {
   ZTKTextRef model;
   // In that file; with channels, a format that takes the channel from 0.
   ZTKTextRef key;
+  // How its changes are announced.
+  const notify::Family *notice;
+
+  // What a mixer is sent for a choice: where to, and the value.
+  std::uint16_t writeRegister;
+  std::uint16_t (*deviceValue)(std::uint32_t channel, std::uint32_t index);
+  // How much of its selectors is read after a change, in bytes; 0 for nothing.
+  std::uint16_t selectorLength;
 
   std::uint32_t channels;  // 0 where the setting has none
   // Indexes behind the choices that the library sets and sends again although
@@ -44,6 +53,8 @@ struct Family {
                    std::uint32_t index);
   ZTKResult (*current)(std::uint32_t product, std::uint32_t channel,
                        std::uint32_t *outIndex);
+  // The library sends only such indexes again; 0 where the choices decide.
+  std::uint32_t sentAgainBelow;
   ZTKResult (*sendAgain)(std::uint32_t product, std::uint32_t channel);
 };
 

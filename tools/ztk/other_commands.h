@@ -13,6 +13,16 @@ namespace ztk::cli {
 // for every model.
 Report ShowStatus(const Arguments &arguments);
 
+// Puts back what this program has changed last.
+Report Undo(const Arguments &arguments);
+
+// All that is remembered, in words, and such words read again: all or nothing.
+Report Export(const Arguments &arguments);
+Report Import(const Arguments &arguments);
+
+// What is wrong, why, and what to type about it.
+Report Diagnose(const Arguments &arguments);
+
 Report ShowVersions(const Arguments &arguments);
 
 // The library's sentence for a 101.

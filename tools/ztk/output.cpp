@@ -9,6 +9,8 @@
 #include <csignal>
 #include <cstring>
 
+#include "terminal.h"
+
 namespace ztk::cli {
 
 namespace {
@@ -59,13 +61,16 @@ int Print(const std::string &command, const Report &report, bool json) {
   bool written = true;
   int error = 0;
   if (!report.written || (json && report.problem)) {
-    written =
-        WriteOutput(json ? JsonLine(command, report) + "\n" : report.text);
+    written = WriteOutput(
+        json ? JsonLine(command, report) + "\n"
+             : LaidOut(report.text, {.columns = Columns(STDOUT_FILENO),
+                                     .standsOut = MayStandOut(STDOUT_FILENO)}));
     error = errno;
   }
   for (const std::string &warning : report.warnings) {
     WriteError("warning: " + warning);
   }
+  for (const std::string &line : report.errors) WriteError(line);
   if (report.problem) WriteError(report.problem->message);
   if (!written) {
     WriteError(std::string("cannot write the output: ") + std::strerror(error) +

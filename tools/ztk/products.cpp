@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "nearest.h"
 #include "report.h"
 #include "text.h"
 #include "words.h"
@@ -46,9 +47,17 @@ std::uint32_t ParseProduct(const std::string &word) {
   for (const Product &product : kProducts) {
     accepted.push_back(std::to_string(product.id) + " " + product.name);
   }
+  const std::string nearest = Nearest(word, ProductNames());
   throw Failure(ExitCode::Usage,
                 "no model " + Quoted(word) +
+                    (nearest.empty() ? "" : "; nearest: " + nearest) +
                     "; accepted, by number or name: " + Listed(accepted));
+}
+
+std::vector<std::string> ProductNames() {
+  std::vector<std::string> names;
+  for (const Product &product : kProducts) names.emplace_back(product.name);
+  return names;
 }
 
 std::string ProductName(std::uint32_t product) {

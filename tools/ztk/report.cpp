@@ -7,6 +7,38 @@ namespace {
 
 constexpr std::size_t kLongestQuotation = 60;  // bytes
 
+constexpr ExitMeaning kExitMeanings[] = {
+    {.exit = ExitCode::Done,
+     .word = "",
+     .text = "done: every mixer answered, and what is to be remembered is; a\n"
+             "warning, if there is one, stands on the error stream"},
+    {.exit = ExitCode::Found,
+     .word = "found",
+     .text = "ztk doctor has found a problem"},
+    {.exit = ExitCode::Usage,
+     .word = "usage",
+     .text = "the words, or a file to import, were wrong; nothing was sent"},
+    {.exit = ExitCode::NoMixer,
+     .word = "no-mixer",
+     .text = "no mixer answered; a choice that was set is remembered"},
+    {.exit = ExitCode::Rejected,
+     .word = "rejected",
+     .text =
+         "rejected by the library: a model, value or remembered value that\n"
+         "it does not take"},
+    {.exit = ExitCode::Failed,
+     .word = "failed",
+     .text = "something else failed"},
+    {.exit = ExitCode::SomeMixers,
+     .word = "some-mixers",
+     .text = "some mixers answered, others did not; a choice is remembered"},
+    {.exit = ExitCode::NotRemembered,
+     .word = "not-remembered",
+     .text = "sent, but not remembered: the settings file does not hold it"},
+    {.exit = ExitCode::Interrupted,
+     .word = "interrupted",
+     .text = "interrupted by Ctrl-C"}};
+
 // Never throws for text that is not UTF-8: a user may type anything.
 std::string Dump(const Json &json) {
   return json.dump(-1, ' ', false, Json::error_handler_t::replace);
@@ -14,17 +46,11 @@ std::string Dump(const Json &json) {
 
 }  // namespace
 
+std::span<const ExitMeaning> ExitMeanings() { return kExitMeanings; }
+
 const char *ErrorWord(ExitCode exit) {
-  switch (exit) {
-    case ExitCode::Usage:
-      return "usage";
-    case ExitCode::NoMixer:
-      return "no-mixer";
-    case ExitCode::Rejected:
-      return "rejected";
-    case ExitCode::Done:
-    case ExitCode::Failed:
-      break;
+  for (const ExitMeaning &meaning : kExitMeanings) {
+    if (meaning.exit == exit) return meaning.word;
   }
   return "failed";
 }

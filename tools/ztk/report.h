@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -21,11 +22,23 @@ inline constexpr int kJsonSchema = 1;
 
 enum class ExitCode : std::uint8_t {
   Done = 0,
+  Found = 1,
   Usage = 2,
   NoMixer = 3,
   Rejected = 4,
-  Failed = 5
+  Failed = 5,
+  SomeMixers = 6,
+  NotRemembered = 7,
+  Interrupted = 130
 };
+
+// What an exit status means.
+struct ExitMeaning {
+  ExitCode exit;
+  const char *word;  // for programs; empty where it is no error
+  const char *text;  // for people
+};
+std::span<const ExitMeaning> ExitMeanings();
 
 // Why a command did not do all that was asked. One line, for people.
 struct Problem {
@@ -48,6 +61,8 @@ struct Report {
   std::string text;              // for people: whole lines
   Json fields = Json::object();  // for programs
   std::vector<std::string> warnings;
+  // Several things that are wrong; the problem sums them up.
+  std::vector<std::string> errors;
   std::optional<Problem> problem;
   // The command wrote its output as it went: only a problem is left to tell.
   bool written = false;

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "setting_commands.h"
 
+#include "announcement.h"
+#include "change.h"
+#include "history.h"
 #include "mixers.h"
-#include "platform/paths.h"
-#include "platform/text.h"
+#include "nearest.h"
+#include "pick.h"
+#include "plan.h"
 #include "products.h"
+#include "terminal.h"
 #include "text.h"
 #include "warning.h"
 #include "words.h"
@@ -12,6 +17,9 @@
 namespace ztk::cli {
 
 namespace {
+
+constexpr std::uint32_t kSources = 16;
+constexpr char kAcceptedSources[] = " (SOURCE: 0 to 15)";
 
 std::string SeeHelp(const Family &family, const char *verb) {
   return std::string("; see ztk ") + family.name + " " + verb + " --help";
@@ -24,26 +32,6 @@ std::uint32_t RequiredChannel(const Family &family, const Arguments &arguments,
   throw Failure(ExitCode::Usage, "N is missing: a channel from 1 to " +
                                      std::to_string(family.channels) +
                                      SeeHelp(family, verb));
-}
-
-// The choice that the words mean.
-Choice Choose(const Family &family, const std::string &place,
-              const std::vector<Choice> &choices, const Arguments &arguments) {
-  const std::string *words = arguments.Find(Parameter::Choice);
-  if (words == nullptr) {
-    throw Failure(ExitCode::Usage, "a CHOICE is missing for " + place +
-                                       "; accepted: " + Described(choices));
-  }
-  const Match match = FindChoice(choices, *words);
-  if (match.choice) return *match.choice;
-  if (match.candidates.empty()) {
-    throw Failure(ExitCode::Usage, place + " has no choice " + Quoted(*words) +
-                                       "; accepted: " + Described(choices));
-  }
-  throw Failure(
-      ExitCode::Usage,
-      "choice " + Quoted(*words) + " can mean: " + Described(match.candidates) +
-          "; type more of it, or its number" + SeeHelp(family, "set"));
 }
 
 // HIGH or SOURCE.
@@ -74,36 +62,18 @@ void AddFamilyFields(const Family &family, std::uint32_t product,
   report->fields["product"] = ProductName(product);
 }
 
-std::string MixersInWords(const Reach &reach) {
-  const std::size_t count = reach.reached.size();
-  if (count == 0) return "not sent";
-  return "sent to " + std::to_string(count) +
-         (count == 1 ? " mixer" : " mixers");
-}
-
-std::string SettingsFolder() {
-  const platform::text::Made library(platform::paths::UserLibrary());
-  if (library.get() == nullptr) return "your home folder";
-  return Utf8(library.get()) + "/Preferences";
-}
-
-// After a set: whether the value stands in the file, which no answer tells.
-void AddKept(bool kept, const Reach &reach, Report *report) {
-  report->fields["remembered"] = kept;
-  if (kept) return;
-  report->problem = {
-      .exit = ExitCode::Failed,
-      .message = MixersInWords(reach) +
-                 ", but not remembered: make sure that you can write to " +
-                 SettingsFolder()};
+Outcome NeverRemembered(const std::string &what, const std::string &command) {
+  return {.notSent = what + " was not sent, and is never remembered",
+          .notAnswered = what + " is never remembered; try again",
+          .someMissing = "once the others do, run " + command + " again"};
 }
 
 std::string ChoiceLine(const Choice &choice, bool current,
                        std::size_t numberWidth) {
   const std::string number = std::to_string(choice.number);
-  return (current ? "* " : "  ") +
-         std::string(numberWidth - number.size(), ' ') + number + "  " +
-         choice.text + "\n";
+  const std::string line = std::string(numberWidth - number.size(), ' ') +
+                           number + "  " + choice.text;
+  return (current ? Strong("* " + line) : "  " + line) + "\n";
 }
 
 // What the library holds to be the current choice: the remembered value or a
@@ -148,6 +118,102 @@ void AddChoiceList(const Family &family, std::uint32_t product,
        {"choices", std::move(list)}});
 }
 
+// The one that the library would refuse is refused here too.
+void CheckServed(const Family &family, std::uint32_t product,
+                 const std::string &what) {
+  if (product != family.product) ThrowRejected(family, product, what);
+}
+
+Report PlanOfSet(const Change &change, const Choice &choice) {
+  const Family &family = *change.family;
+  CheckServed(family, change.product, Quoted(choice.text));
+  Plan plan;
+  plan.AddChange(change);
+  plan.AddQuestion();
+  Report report;
+  AddFamilyFields(family, change.product, &report);
+  AddValueFields(family, change.channel, change.index, &report.fields);
+  plan.Tell(&report);
+  return report;
+}
+
+Report PlanOfDefault(const Family &family, std::uint32_t product,
+                     const std::vector<std::uint32_t> &channels) {
+  CheckServed(family, product, "the default");
+  Plan plan;
+  for (const std::uint32_t channel : channels) {
+    plan.AddDefault(family, channel);
+  }
+  plan.AddQuestion();
+  Report report;
+  AddFamilyFields(family, product, &report);
+  plan.Tell(&report);
+  return report;
+}
+
+// What is sent without being a choice.
+struct RawValue {
+  std::uint32_t channel;
+  std::uint32_t high;
+  std::uint32_t source;
+
+  std::string InWords() const {
+    return "HIGH " + std::to_string(high) + ", SOURCE " +
+           std::to_string(source);
+  }
+};
+
+void AddRawFields(const Family &family, const RawValue &raw, Report *report) {
+  report->fields["channel"] = ChannelField(family, raw.channel);
+  report->fields["high"] = raw.high;
+  report->fields["source"] = raw.source;
+}
+
+Report PlanOfRaw(const Family &family, std::uint32_t product,
+                 const RawValue &raw) {
+  CheckServed(family, product, raw.InWords());
+  if (raw.source >= kSources) {
+    ThrowRejected(family, product, raw.InWords() + kAcceptedSources);
+  }
+  Plan plan;
+  plan.AddRaw(raw.channel, raw.high, raw.source);
+  plan.AddQuestion();
+  Report report;
+  AddFamilyFields(family, product, &report);
+  AddRawFields(family, raw, &report);
+  plan.Tell(&report);
+  return report;
+}
+
+// The choice that the words mean; without words, the one that is picked from
+// the list, where somebody is there to pick.
+Choice Choose(const Family &family, std::uint32_t product,
+              std::uint32_t channel, const Arguments &arguments) {
+  const std::string place = PlaceName(family, channel);
+  const std::vector<Choice> choices = ChoicesOf(family, product, channel);
+  const std::string *words = arguments.Find(Parameter::Choice);
+  if (words == nullptr && !arguments.json && CanPick()) {
+    Report list;
+    AddChoiceList(family, product, channel, &list);
+    return Pick(place, list.text, choices);
+  }
+  if (words == nullptr) {
+    throw Failure(ExitCode::Usage, "a CHOICE is missing for " + place +
+                                       "; accepted: " + Described(choices));
+  }
+  const Match match = FindChoice(choices, *words);
+  if (match.choice) return *match.choice;
+  if (match.candidates.empty()) {
+    throw Failure(ExitCode::Usage, place + " has no choice " + Quoted(*words) +
+                                       NearestChoice(*words, choices) +
+                                       "; accepted: " + Described(choices));
+  }
+  throw Failure(
+      ExitCode::Usage,
+      "choice " + Quoted(*words) + " can mean: " + Described(match.candidates) +
+          "; type more of it, or its number" + SeeHelp(family, "set"));
+}
+
 }  // namespace
 
 std::uint32_t ProductFor(const Family &family, const Arguments &arguments) {
@@ -165,7 +231,7 @@ std::optional<std::uint32_t> ChannelFor(const Family &family,
   }
   throw Failure(ExitCode::Usage,
                 std::string(family.title) + " has no channel " + Quoted(*word) +
-                    "; accepted: 1 to " + std::to_string(family.channels));
+                    NearestAndAccepted(*word, 1, family.channels));
 }
 
 std::vector<std::uint32_t> ChannelsFor(const Family &family,
@@ -215,31 +281,31 @@ Report SetChoice(const Family &family, const Arguments &arguments) {
   const std::uint32_t product = ProductFor(family, arguments);
   const std::uint32_t channel = RequiredChannel(family, arguments, "set");
   const std::string place = PlaceName(family, channel);
-  const Choice choice =
-      Choose(family, place, ChoicesOf(family, product, channel), arguments);
-  const std::uint32_t index = choice.number - 1;
+  const Choice choice = Choose(family, product, channel, arguments);
+  const Change wanted{.family = &family,
+                      .product = product,
+                      .channel = channel,
+                      .index = choice.number - 1};
+  if (arguments.Has(Parameter::DryRun)) return PlanOfSet(wanted, choice);
 
-  const Sent sent =
-      SendAndLook([&] { return family.set(product, channel, index); });
-  if (sent.result == ZTK_REJECTED) {
+  Report report;
+  const MadeChanges made =
+      MakeStep(std::string(family.name) + " set", {wanted}, &report);
+  const MadeChange &change = made.changes.front();
+  if (change.result == ZTK_REJECTED) {
     ThrowRejected(family, product, Quoted(choice.text));
   }
-  Report report;
   AddFamilyFields(family, product, &report);
-  AddValueFields(family, channel, index, &report.fields);
-  report.fields["result"] = sent.result;
-  AddReach(sent.reach,
-           place +
-               " is remembered, not sent; once a mixer can be reached, "
-               "run: ztk " +
-               family.name + " apply",
-           &report);
-  const bool kept = Remembered(family, channel) == index;
-  AddKept(kept, sent.reach, &report);
+  AddValueFields(family, channel, change.change.index, &report.fields);
+  report.fields["result"] = change.result;
+  report.fields["remembered"] = change.remembered;
+  report.fields["announced"] = change.announced;
+  AddTruth(made, place, std::string("ztk ") + family.name + " apply", &report);
   report.text = place + ": " + Described(choice) + ", " +
-                MixersInWords(sent.reach) +
-                (kept ? ", remembered\n" : ", not remembered\n");
-  if (sent.result == ZTK_WARNING) ExplainWarning(channel, sent.reach, &report);
+                Described(change, made.reach) + "\n";
+  if (change.result == ZTK_WARNING) {
+    ExplainWarning(channel, made.reach, &report);
+  }
   return report;
 }
 
@@ -249,6 +315,10 @@ Report SendDefault(const Family &family, const Arguments &arguments) {
   AddFamilyFields(family, product, &report);
   report.fields["channels"] = Json::array();
   const std::vector<std::uint32_t> channels = ChannelsFor(family, arguments);
+  if (arguments.Has(Parameter::DryRun)) {
+    return PlanOfDefault(family, product, channels);
+  }
+  BusWitness witness({family.notice});
   const Sent sent = SendAndLook([&] {
     ZTKResult result = ZTK_SUCCESS;
     for (const std::uint32_t channel : channels) {
@@ -259,6 +329,7 @@ Report SendDefault(const Family &family, const Arguments &arguments) {
   if (sent.result != ZTK_SUCCESS) {
     ThrowRejected(family, product, "the default");
   }
+  bool announced = true;
   for (const std::uint32_t channel : channels) {
     // The default of a channel is the choice with its own number.
     Json fields;
@@ -266,40 +337,44 @@ Report SendDefault(const Family &family, const Arguments &arguments) {
     report.fields["channels"].push_back(std::move(fields));
     report.text += PlaceName(family, channel) + ": default " +
                    DescribedValue(family, channel, channel) + ", " +
-                   MixersInWords(sent.reach) + ", not remembered\n";
+                   Described(sent.reach) + ", not remembered\n";
+    announced = announced && witness.Heard({.family = family.notice,
+                                            .product = product,
+                                            .channel = channel,
+                                            .index = channel});
   }
   report.fields["result"] = sent.result;
-  AddReach(sent.reach, "the default was not sent, and is never remembered",
+  report.fields["announced"] = announced;
+  AddReach(sent.reach, NeverRemembered("the default", "ztk output default"),
            &report);
+  if (!announced) WarnOfSilentBus(&report);
   return report;
 }
 
 Report SendRaw(const Family &family, const Arguments &arguments) {
   const std::uint32_t product = ProductFor(family, arguments);
   const std::uint32_t channel = RequiredChannel(family, arguments, "raw");
-  const std::uint32_t high = RawNumber(arguments, Parameter::High);
-  const std::uint32_t source = RawNumber(arguments, Parameter::Source);
-
+  const RawValue raw{.channel = channel,
+                     .high = RawNumber(arguments, Parameter::High),
+                     .source = RawNumber(arguments, Parameter::Source)};
+  if (arguments.Has(Parameter::DryRun)) {
+    return PlanOfRaw(family, product, raw);
+  }
   const Sent sent = SendAndLook([&] {
-    return ZTK_SetUSBInputAudioDirect(product, channel, high, source);
+    return ZTK_SetUSBInputAudioDirect(product, channel, raw.high, raw.source);
   });
-  const std::string what =
-      "HIGH " + std::to_string(high) + ", SOURCE " + std::to_string(source);
   if (sent.result == ZTK_REJECTED) {
-    ThrowRejected(family, product, what + " (SOURCE: 0 to 15)");
+    ThrowRejected(family, product, raw.InWords() + kAcceptedSources);
   }
   Report report;
   AddFamilyFields(family, product, &report);
-  report.fields["channel"] = ChannelField(family, channel);
-  report.fields["high"] = high;
-  report.fields["source"] = source;
+  AddRawFields(family, raw, &report);
   report.fields["result"] = sent.result;
-  report.text = PlaceName(family, channel) + ": " + what + ", " +
-                MixersInWords(sent.reach) + ", not remembered\n";
-  AddReach(sent.reach, "the value was not sent, and is never remembered",
-           &report);
+  report.text = PlaceName(family, channel) + ": " + raw.InWords() + ", " +
+                Described(sent.reach) + ", not remembered\n";
+  AddReach(sent.reach, NeverRemembered("the value", "ztk input raw"), &report);
   // The sentence for no mixer says that the setting was saved; this one is not.
-  if (sent.result == ZTK_WARNING && sent.reach.found > 0) {
+  if (sent.result == ZTK_WARNING && sent.reach.found() > 0) {
     ExplainWarning(channel, sent.reach, &report);
   }
   return report;

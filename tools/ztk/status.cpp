@@ -2,11 +2,10 @@
 #include <array>
 #include <cstdio>
 
-#include "advice.h"
 #include "families.h"
 #include "mixers.h"
 #include "other_commands.h"
-#include "products.h"
+#include "progress.h"
 #include "usb/mixers.h"
 
 namespace ztk::cli {
@@ -147,42 +146,46 @@ void AddFact(Fact fact, Json *fields, std::string *text) {
 }
 
 // True when it was reached.
-bool AddMixer(int position, Json *mixers, std::string *text) {
+bool AddMixer(int position, const std::string &place, Report *report,
+              Json *mixers) {
   const usb::OpenMixer mixer(position);
   Json fields{{"position", position + 1},
               {"reachable", static_cast<bool>(mixer)}};
-  *text += "Mixer " + std::to_string(position + 1) +
-           (mixer ? " is reachable\n" : " is attached but cannot be opened\n");
+  std::string *text = &report->text;
+  const std::string number = std::to_string(position + 1);
   if (mixer) {
+    *text += "Mixer " + number + " is reachable\n";
     Interview interview(mixer.connection());
     AddFact(Firmware(&interview), &fields, text);
     AddFact(CertificationLevel(&interview), &fields, text);
     AddFact(Selectors(&interview), &fields, text);
     AddFact(Serato(&interview), &fields, text);
   } else {
-    fields["reason"] = AdviceWhenNotOpened();
+    const std::string reason =
+        "mixer " + number + " " + Explained(TryToOpen(place));
+    *text += "Mixer " + number + " is attached but cannot be opened\n";
+    fields["reason"] = reason;
+    report->warnings.push_back(reason);
   }
   mixers->push_back(std::move(fields));
   return static_cast<bool>(mixer);
 }
 
 void AddMixers(Report *report) {
-  const int found = CheckUSBAudio(kOwnProduct);
+  const Progress progress(kWaitingForMixer);
+  const std::vector<std::string> places = MixerPlaces();
+  const int found = static_cast<int>(places.size());
   Json mixers = Json::array();
   int reached = 0;
-  std::string text;
   for (int position = 0; position < found; ++position) {
-    if (AddMixer(position, &mixers, &text)) ++reached;
+    const std::string &place = places[static_cast<std::size_t>(position)];
+    if (AddMixer(position, place, report, &mixers)) ++reached;
   }
   report->fields["connected"] = found > 0;
   report->fields["found"] = found;
   report->fields["reached"] = reached;
   report->fields["mixers"] = std::move(mixers);
-  report->text = found == 0 ? "No mixer is attached\n" : text;
-  if (reached < found) {
-    report->warnings.push_back("a mixer cannot be opened: " +
-                               AdviceWhenNotOpened());
-  }
+  if (found == 0) report->text = "No mixer is attached\n";
 }
 
 void AddRemembered(Report *report) {

@@ -2,8 +2,10 @@
 #include "warning.h"
 
 #include "families.h"
+#include "nearest.h"
 #include "other_commands.h"
 #include "products.h"
+#include "progress.h"
 #include "text.h"
 #include "words.h"
 
@@ -49,8 +51,10 @@ std::uint32_t ParseLanguage(const std::string &word) {
     accepted.push_back(std::to_string(language.number) + " " + language.folder);
   }
   if (number == kUsersLanguage) return kUsersLanguage;
+  const std::string nearest = Nearest(word, LanguageNames());
   throw Failure(ExitCode::Usage,
                 "no language " + Quoted(word) +
+                    (nearest.empty() ? "" : "; nearest: " + nearest) +
                     "; accepted, by number, name or ISO code: " +
                     Listed(accepted) + ", 99 your own");
 }
@@ -59,12 +63,14 @@ std::uint32_t ParseLanguage(const std::string &word) {
 ZTKResult Sentence(std::uint32_t channel, std::uint32_t language,
                    ZTKTextRef *text) {
   *text = nullptr;
+  const Progress progress(kWaitingForMixer);
   return ZTK_GetWarningTextForSetUSBAudioInput(kOwnProduct, channel,
                                                ZTK_WARNING, language, text);
 }
 
 std::string PlainSentence(const Reach &reach, const std::string &place) {
-  if (reach.found == 0) return "no mixer is attached: " + place + " is silent";
+  if (reach.found() == 0)
+    return "no mixer is attached: " + place + " is silent";
   return "the mixer's input selector does not stand where " + place +
          " can be heard; position 4 is needed, ztk status shows where it "
          "stands";
@@ -78,7 +84,7 @@ void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
   if (Sentence(channel, kUsersLanguage, &text) != ZTK_SUCCESS) {
     // The fifth channel: no selector belongs to it.
     report->warnings.push_back(
-        reach.found == 0
+        reach.found() == 0
             ? PlainSentence(reach, place)
             : place +
                   " has no input selector, so the mixer cannot tell "
@@ -92,13 +98,22 @@ void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
                                        "install VRM-D6Setup.framework)");
 }
 
+std::vector<std::string> LanguageNames() {
+  std::vector<std::string> names;
+  for (const Language &language : kLanguages) {
+    names.emplace_back(language.folder);
+  }
+  return names;
+}
+
 Report ShowWarning(const Arguments &arguments) {
   std::uint32_t channel = 0;
   if (const std::string *word = arguments.Find(Parameter::OfChannel)) {
     const auto number = ParseNumber(*word);
     if (!number || *number < 1 || *number > kInput.channels) {
-      throw Failure(ExitCode::Usage, "USB input audio has no channel " +
-                                         Quoted(*word) + "; accepted: 1 to 4");
+      throw Failure(ExitCode::Usage,
+                    "USB input audio has no channel " + Quoted(*word) +
+                        NearestAndAccepted(*word, 1, kWarningChannels));
     }
     channel = *number - 1;
   }

@@ -14,6 +14,12 @@ namespace ztk::cli {
 // library has none. May ask the first mixer for the state of its port.
 void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
 
+// The channels that have a selector, and so a warning: the first ones.
+inline constexpr std::uint32_t kWarningChannels = 4;
+
+// What can follow --language, by name.
+std::vector<std::string> LanguageNames();
+
 }  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_ZTK_WARNING_H_

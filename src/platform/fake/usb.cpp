@@ -177,6 +177,7 @@ Code CreatePlugIn(Service service, PlugIn **plugIn) {
   *plugIn = nullptr;
   const Code result = DeviceAt(service->position).plugInResult;
   if (result != kSuccess) return result;
+  if (!DeviceAt(service->position).hasPlugIn) return kSuccess;
   ++TheWorld().held.plugIns;
   *plugIn = Keep(PlugIn{.references = 1, .position = service->position});
   return kSuccess;

@@ -33,6 +33,7 @@ struct Device {
   std::uint16_t vendor = build::kUsbVendorId;
   std::uint16_t product = 27;
   Code plugInResult = 0;
+  bool hasPlugIn = true;
   bool hasInterface = true;
   Code classResult = 0;
   Code subClassResult = 0;

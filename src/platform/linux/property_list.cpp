@@ -18,13 +18,13 @@
 #include <string>
 #include <string_view>
 
+#include "platform/common/descriptor.h"
 #include "platform/common/interned_text.h"
 #include "platform/common/number_rules.h"
+#include "platform/common/replace_file.h"
 #include "platform/linux/c_locale.h"
 #include "platform/linux/clean_text.h"
-#include "platform/linux/descriptor.h"
 #include "platform/linux/plist_guards.h"
-#include "platform/linux/plist_write.h"
 
 namespace ztk::platform::property_list {
 
