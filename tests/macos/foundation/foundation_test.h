@@ -21,6 +21,7 @@ namespace ztk::test {
 using iokit::TheWorld;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 
 // Without it, every object that a test was handed would stay for good.
 class FoundationTest : public testing::Test {
