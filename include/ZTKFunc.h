@@ -23,7 +23,9 @@
  * the thread that registers, or on the global default context when it has
  * none: a worker thread pushes its own context first
  * (g_main_context_push_thread_default()). On macOS they run on the run loop of
- * the distributed notification center. Somebody has to run that loop.
+ * the distributed notification center. Nothing is delivered while no loop runs:
+ * keep one running on the thread that registers, or, for the global context, on
+ * the thread that works on it.
  *
  * **Texts** are never freed by the caller; see ZTKTextRef.
  */
@@ -62,10 +64,15 @@ typedef uint32_t ZTKResult;
 /**
  * Done, with a warning: no mixer is attached to hear the new routing from, or
  * the input selector of that channel does not stand where it makes the routing
- * audible.
+ * audible. Only ZTK_SetUSBInputAudio() and ZTK_SetUSBInputAudioDirect() answer
+ * it.
  */
 #define ZTK_WARNING 101u
-/** Refused: an argument is null, out of range, or not served. */
+/**
+ * Refused: an argument is null, out of range, or not served, or a name holds no
+ * model. Where a function refuses for what it read from a file or a mixer, its
+ * own comment says so.
+ */
 #define ZTK_REJECTED 102u
 /** At least one mixer is attached; only ZTK_IsUSBConnection() answers it. */
 #define ZTK_CONNECTED 103u
@@ -689,8 +696,9 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerCertifyLevel(uint32_t productId,
  * Reads the firmware version of the first mixer.
  *
  * @param productId        Served: 10.
- * @param[out] outVersion  The mixer's 16-bit number, such as 1078; 0 when no
- *                         mixer answers. Set to 0 also when productId is
+ * @param[out] outVersion  The mixer's 16-bit number, such as 1078; 0 when the
+ *                         first mixer does not open or answer, whatever the
+ *                         others would. Set to 0 also when productId is
  *                         refused.
  *
  * @retval 102 (ZTK_REJECTED)  outVersion is null (tested first), or productId
@@ -755,7 +763,8 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
  * no message bus to listen on.
  *
  * Unregister ignores its second argument. It answers 102 when productId is not
- * served, and else 100; it serves more products than Register.
+ * served, and else 100; in three families it serves more products than Register
+ * does.
  * @{
  */
 
