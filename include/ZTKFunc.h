@@ -287,7 +287,11 @@ ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
  * @param productId  Served: 10.
  * @param channel    0 to 4.
  * @param high       Any value; only its low four bits count.
- * @param source     Source code, 0 to 15.
+ * @param source     Source code, 0 to 15: 1 control tone LINE, 3 control tone
+ *                   PHONO, 6 post fader of the channel, 7 cross fader A, 8
+ *                   cross fader B, 9 MIC, 10 REC OUT; the others have no name.
+ *                   The faders of another channel, 17 to 20 on channel 4, are
+ *                   out of this function's reach.
  *
  * @retval 102 (ZTK_REJECTED)  productId is not served (tested first), channel
  *                             or source is out of range.
@@ -490,7 +494,7 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentUSBOutputAudio(uint32_t productId,
 
 /**
  * @defgroup boost Boost level
- * How loud the mixer's signal goes to the computer, in four steps.
+ * The level of the mixer's USB output, in four steps.
  *
  * Only the VRM-D6 (10) can be set; the choices can be listed for more models.
  * @{

@@ -77,7 +77,7 @@ const Family kBoost{
     .name = "boost",
     .title = "Boost level",
     .place = "Boost level",
-    .idea = "how loud recording is",
+    .idea = "the USB output level",
     .example = "\"-10 dB\"",
     .product = 10,
     .model = ZTK_TEXT("VRM-D6"),
