@@ -80,7 +80,7 @@ TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {
   EXPECT_EQ(result.status, 4);
   EXPECT_THAT(result.out, HasSubstr("USB input 1: 6 MIC, sent\n"));
   EXPECT_THAT(result.out,
-              HasSubstr("Boost level: 4, which is no choice, refused\n"));
+              HasSubstr("Boost level: 4, which is not a choice, refused\n"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0109 8002 0000"));
 }
 
@@ -92,8 +92,8 @@ TEST_F(Apply, NeverSendsAValueOfAnotherChannel) {
       OneMixer("ztk apply; echo $?; ztk output apply; echo $?");
   EXPECT_THAT(Line(result.out, 1), "4");
   EXPECT_THAT(Line(result.out, 3), "4");
-  EXPECT_THAT(result.err, HasSubstr("USB input 1: 9, which is no choice"));
-  EXPECT_THAT(result.err, HasSubstr("USB output 1: 4, which is no choice"));
+  EXPECT_THAT(result.err, HasSubstr("USB input 1: 9, which is not a choice"));
+  EXPECT_THAT(result.err, HasSubstr("USB output 1: 4, which is not a choice"));
   EXPECT_THAT(Writes(), IsEmpty());
 }
 

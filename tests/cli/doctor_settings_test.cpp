@@ -38,7 +38,8 @@ TEST_F(DoctorSettings, AreUnreadableWhenDamaged) {
   WriteAll(home_.SettingsFile("VRM-D6"), "<plist><dict><key>Max");
   const Json finding = OnlyOneIn("settings", Diagnosis());
   EXPECT_EQ(Word(finding, "id"), "settings-unreadable");
-  EXPECT_EQ(Word(finding, "cause"), "it is no settings file, or a damaged one");
+  EXPECT_EQ(Word(finding, "cause"),
+            "it is not a settings file, or it is damaged");
   EXPECT_TRUE(Helps(finding, "settings"));
   EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6").string() + ".old"),
             "<plist><dict><key>Max");

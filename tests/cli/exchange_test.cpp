@@ -68,7 +68,7 @@ TEST_F(Export, LeavesOutWhatHasNoWordsAndSaysSo) {
   EXPECT_EQ(OneObject(result.out).value("settings", Json()), Json::object());
   EXPECT_THAT(Line(result.err, 0), HasSubstr("left out"));
   EXPECT_THAT(Line(result.err, 1),
-              HasSubstr("Boost level: 9, which is no choice"));
+              HasSubstr("Boost level: 9, which is not a choice"));
 }
 
 // Every choice of every family, out and in again.
@@ -146,9 +146,9 @@ TEST_F(Import, ChecksAllOfItBeforeItChangesAnything) {
 }
 
 TEST_F(Import, RefusesWhatIsNoExport) {
-  EXPECT_THAT(Errors(""), ElementsAre(StartsWith("this is no JSON")));
+  EXPECT_THAT(Errors(""), ElementsAre(StartsWith("this is not JSON")));
   EXPECT_THAT(Errors("{\"version\":1,"),
-              ElementsAre("this is no JSON, at byte 14"));
+              ElementsAre("this is not JSON, at byte 14"));
   EXPECT_THAT(Errors("[]"), ElementsAre(StartsWith("there are no settings")));
   EXPECT_THAT(Errors("{\"settings\":{}}"),
               ElementsAre("version: it is missing"));

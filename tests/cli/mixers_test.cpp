@@ -34,8 +34,9 @@ TEST_F(Reach, IsThreeWithoutAMixerAndTheValueIsRemembered) {
   EXPECT_EQ(json["announced"], true);
   EXPECT_EQ(Told(json), "0/0");
   EXPECT_EQ(ErrorWord(json), "no-mixer");
-  EXPECT_THAT(result.err, HasSubstr("no mixer is attached"));
-  EXPECT_THAT(result.err, HasSubstr("run: ztk input apply"));
+  EXPECT_EQ(LastLine(result.err),
+            "ztk: USB input 2 is remembered, but not sent: no mixer is "
+            "attached; once a mixer answers, run: ztk input apply");
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output1"));
 }
 
@@ -50,7 +51,7 @@ TEST_F(Reach, ExplainsAMixerThatMayNotBeOpened) {
   EXPECT_THAT(result.err, HasSubstr("attached but cannot be opened: you have "
                                     "no permission for /dev/bus/usb/001/002"));
   EXPECT_THAT(result.err, HasSubstr("; ztk doctor tells why; "));
-  EXPECT_THAT(result.err, HasSubstr("is remembered, not sent"));
+  EXPECT_THAT(result.err, HasSubstr("is remembered, but not sent"));
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
   EXPECT_THAT(Requests(), IsEmpty());
 }
@@ -98,8 +99,8 @@ TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
   } rows[] = {
       {"stall@r8001", "0/1 1:refused", "mixer 1 refuses what it is asked"},
       {"silence@r8001", "0/1 1:silent", "mixer 1 does not answer"},
-      {"unplug@r8001", "0/1 1:gone", "mixer 1 has gone"},
-      {"unplug@w8003", "0/1 1:gone", "mixer 1 has gone"},
+      {"unplug@r8001", "0/1 1:gone", "mixer 1 is gone"},
+      {"unplug@w8003", "0/1 1:gone", "mixer 1 is gone"},
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.fault);
@@ -110,7 +111,10 @@ TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
     EXPECT_EQ(Told(json), row.told);
     EXPECT_EQ(json["result"], 100);
     EXPECT_EQ(json["remembered"], true);
-    EXPECT_THAT(result.err, StartsWith(std::string("ztk: ") + row.message));
+    EXPECT_THAT(result.err,
+                StartsWith("ztk: Boost level is remembered and sent, but not "
+                           "answered: " +
+                           std::string(row.message)));
     EXPECT_THAT(result.err, HasSubstr("run: ztk boost apply"));
   }
 }
@@ -140,7 +144,8 @@ TEST_F(Reach, IsSevenWhenTheValueCouldNotBeRemembered) {
   EXPECT_EQ(json["remembered"], false);
   EXPECT_EQ(Told(json), "1/1");
   EXPECT_EQ(ErrorWord(json), "not-remembered");
-  EXPECT_THAT(result.err, HasSubstr("sent to 1 mixer, but not remembered"));
+  EXPECT_THAT(result.err, HasSubstr("Boost level is sent to 1 mixer, but not "
+                                    "remembered; make sure"));
   EXPECT_THAT(result.err, HasSubstr(".config/tarvix/Preferences"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
 }
@@ -150,8 +155,33 @@ TEST_F(Reach, IsFiveWhenTheValueWentNowhere) {
   const Result result = NoMixer("ztk boost set 1");
   EXPECT_EQ(result.status, 5);
   EXPECT_EQ(result.out, "Boost level: 1 -5 dB, not sent, not remembered\n");
-  EXPECT_THAT(result.err, HasSubstr("neither answered by a mixer nor "
-                                    "remembered: make sure that"));
+  EXPECT_THAT(result.err,
+              StartsWith("ztk: Boost level is neither sent nor remembered: no "
+                         "mixer is attached; make sure that you can write "));
+  EXPECT_EQ(SplitLines(result.err).size(), 1U);
+}
+
+TEST_F(Reach, IsFiveWhenWhatIsNotRememberedWasNotAnsweredEither) {
+  WriteAll(home_.path() / ".config/tarvix/Preferences", "");
+  const Result result =
+      Inside({"-n", "1", "--fault", "stall@r8001"}, "ztk boost set 1");
+  EXPECT_EQ(result.status, 5);
+  EXPECT_THAT(result.err,
+              StartsWith("ztk: Boost level is sent, but not answered, and not "
+                         "remembered: mixer 1 refuses what it is asked; "));
+  EXPECT_EQ(SplitLines(result.err).size(), 1U);
+}
+
+TEST_F(Reach, DoesNotSayThatWhatWasNotRememberedCanBeApplied) {
+  WriteAll(home_.path() / ".config/tarvix/Preferences", "");
+  const Result result =
+      Inside({"-n", "2", "--fault", "2:stall@r8001"}, "ztk boost set 1");
+  EXPECT_EQ(result.status, 7);
+  EXPECT_THAT(result.err, HasSubstr("warning: only 1 of 2 mixers answered; "
+                                    "once the others do, set it again\n"));
+  EXPECT_THAT(LastLine(result.err),
+              StartsWith("ztk: Boost level is sent to 1 of 2 mixers, but not "
+                         "remembered; "));
 }
 
 TEST_F(Reach, IsThreeForWhatIsNeverRemembered) {

@@ -233,11 +233,22 @@ TEST_F(Get, TellsRememberedValuesFromDefaults) {
                              "value":2,"remembered":true}])"));
 }
 
+TEST_F(Get, SaysWhyThereIsNothingToReadForAnotherModel) {
+  const Result result = OneMixer("ztk input get --product VRM-B5");
+  EXPECT_EQ(result.status, 4);
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err,
+            "ztk: nothing can be read for the VRM-B5: USB input audio belongs "
+            "to the VRM-D6. Leave --product out\n");
+}
+
 TEST_F(Get, ShowsAnyNumberThatStandsInTheFile) {
   Remember("VRM-D6", {{"Output0", 77}, {"MaxLevel", -3}});
   const Result result = NoMixer("ztk input get 1; ztk boost get");
-  EXPECT_THAT(result.out, HasSubstr("USB input 1  77, which is no choice\n"));
-  EXPECT_THAT(result.out, HasSubstr("Boost level  -3, which is no choice\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("USB input 1  77, which is not a choice\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("Boost level  -3, which is not a choice\n"));
   const Json json = OneObject(NoMixer("ztk boost get --json").out);
   EXPECT_EQ(json["channels"],
             Json::parse(R"([{"channel":null,"number":null,"text":null,

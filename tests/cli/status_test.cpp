@@ -22,7 +22,7 @@ TEST_F(Status, ShowsTheMixerAndWhatIsRemembered) {
             "Remembered\n"
             "  USB input 2   3 Post CH2 Fader  (VRM-D6)\n"
             "  Boost level   1 -5 dB  (VRM-D6)\n"
-            "  MIDI channel  40, which is no choice  (VRM-K2)\n");
+            "  MIDI channel  40, which is not a choice  (VRM-K2)\n");
   EXPECT_THAT(result.err, IsEmpty());
 }
 

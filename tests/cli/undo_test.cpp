@@ -109,7 +109,7 @@ TEST_F(Undo, SaysWhatCannotBePutBack) {
   EXPECT_EQ(LastLine(File("dry")), "4");
   EXPECT_THAT(File("dry"), Not(HasSubstr("MaxLevel")));
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 2 -10 dB undone, 77, which is no choice refused");
+            "Boost level: 2 -10 dB undone, 77, which is not a choice refused");
   EXPECT_EQ(Line(result.out, 1), "4");
   EXPECT_THAT(result.err, HasSubstr("cannot be put back, as the library "
                                     "refuses it: Boost level: 77"));
@@ -124,6 +124,18 @@ TEST_F(Undo, IsThreeWithoutAMixerAndStillPutsBack) {
             "Boost level: 2 -10 dB undone, 1 -5 dB not sent, remembered");
   EXPECT_EQ(Line(result.out, 2), "3");
   EXPECT_EQ(LastLine(result.out), "Boost level  1 -5 dB");
+}
+
+TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
+  EXPECT_THAT(NoMixer("ztk output set 1 2; ztk undo").err,
+              HasSubstr("ztk: what was put back is remembered, but not sent: "
+                        "no mixer is attached; once a mixer answers, run: "
+                        "ztk apply --product VRM-B5\n"));
+  WriteAll(home_.path() / "both.json",
+           R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB","input":)"
+           R"({"1":"MIC"}},"VRM-K2":{"midi":"CH 3"}}})");
+  EXPECT_THAT(NoMixer("ztk import $DIR/both.json; ztk undo").err,
+              HasSubstr("run: ztk apply; ztk apply --product VRM-K2\n"));
 }
 
 TEST_F(Undo, ShowsInADryRunWhatItWouldDo) {

@@ -51,7 +51,21 @@ TEST_F(Warning, StandsBesideTheErrorWithoutAMixer) {
   WithBundle({"-n", "0"}, "ztk input set 2 1");
   EXPECT_EQ(result_.status, 3);
   EXPECT_EQ(Line(result_.err, 0), "ztk: warning: English WARNING1\xC3\xA9");
-  EXPECT_THAT(Line(result_.err, 1), StartsWith("ztk: no mixer is attached"));
+  EXPECT_THAT(Line(result_.err, 1), StartsWith("ztk: USB input 2 is "
+                                               "remembered, but not sent"));
+}
+
+// The sentence says that the setting has been saved.
+TEST_F(Warning, IsNotTheOneForNoMixerWhereNothingWasRemembered) {
+  WriteAll(home_.path() / ".config/tarvix/Preferences", "");
+  WithBundle({"-n", "0"}, "ztk input set 2 1");
+  EXPECT_EQ(result_.status, 5);
+  EXPECT_THAT(result_.err,
+              StartsWith("ztk: USB input 2 is neither sent nor remembered"));
+  EXPECT_EQ(SplitLines(result_.err).size(), 1U);
+  WithBundle({"-n", "1", "--selector", "2=1"}, "ztk input set 2 1");
+  EXPECT_EQ(result_.status, 7);
+  EXPECT_EQ(Line(result_.err, 0), "ztk: warning: English WARNING2\xC3\xA9");
 }
 
 TEST_F(Warning, FollowsThePort) {

@@ -84,7 +84,7 @@ TEST_F(Watch, TakesAnyNumberFromAnyProgram) {
   EXPECT_THAT(result.out, HasSubstr("status 0\n"));
   EXPECT_THAT(Lines("seen"),
               ElementsAre("USB input (unknown channel -7): 99",
-                          "USB input 2: -1, which is no choice",
+                          "USB input 2: -1, which is not a choice",
                           "USB input (unknown channel 2147483647): 0"));
 }
 
@@ -108,7 +108,7 @@ TEST_F(Watch, IsFiveOnceTheBusHasGone) {
   const Result result = OneMixer("ztk watch 2> $DIR/ready");
   killer.join();
   EXPECT_EQ(result.status, 5);
-  EXPECT_THAT(File("ready"), HasSubstr("it has gone"));
+  EXPECT_THAT(File("ready"), HasSubstr("it is gone"));
 }
 
 // The first connection that is opened would take the stream's number, and the

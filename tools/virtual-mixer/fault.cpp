@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kAccepted =
     "; accepted: stall, silence, delay:MS, short:N, bytes:HEX, unplug, each "
-    "with @REGISTER and *TIMES behind it, as in stall@8002*3";
+    "with @REGISTER and, except unplug, *TIMES behind it, as in stall@8002*3";
 
 struct KindName {
   Fault::Kind kind;
@@ -118,8 +118,7 @@ std::optional<Fault> ParseFault(std::string_view text, std::string *error) {
     return Refuse("bad or missing amount in fault", whole, error);
   }
   if (fault.kind == Fault::Kind::Unplug && fault.timesLeft) {
-    return Refuse("a mixer is unplugged once, not counted times:", whole,
-                  error);
+    return Refuse("unplug takes no *TIMES, as it happens once:", whole, error);
   }
   return fault;
 }

@@ -140,8 +140,9 @@ Report Apply(std::vector<Setting> settings, const std::string &what,
   }
   if (sent.result != ZTK_REJECTED) {
     AddReach(sent.reach,
-             {.notSent = "nothing was sent; what is remembered stays so",
-              .notAnswered = "what is remembered stays so; try again",
+             {.notSent = "nothing was sent",
+              .notAnswered = "all was sent, but not answered",
+              .remedy = "what is remembered stays so; try again",
               .someMissing = "once the others do, run this again"},
              &report);
   }

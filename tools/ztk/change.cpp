@@ -30,20 +30,31 @@ std::string SettingsFolder() {
   return Utf8(library.get()) + "/Preferences";
 }
 
-// The file is the last to be asked: what is sent can be sent again, what is
-// not remembered is lost.
-void AddForgotten(const MadeChanges &made, Report *report) {
-  const bool kept =
-      std::all_of(made.changes.begin(), made.changes.end(),
-                  [](const MadeChange &change) { return change.remembered; });
-  if (kept) return;
-  const bool sent = made.reach.answered() > 0;
+// What is sent can be sent again; what is not remembered is lost.
+void AddForgotten(const MadeChanges &made, const std::string &what,
+                  Report *report) {
+  const std::string remedy =
+      "make sure that you can write to " + SettingsFolder();
+  AddReach(made.reach,
+           {.notSent = what + " is neither sent nor remembered",
+            .notAnswered = what + " is sent, but not answered, and not "
+                                  "remembered",
+            .remedy = remedy,
+            .someMissing = "once the others do, set it again"},
+           report);
+  if (made.reach.answered() == 0) {
+    report->problem->exit = ExitCode::Failed;
+    return;
+  }
   if (report->problem) report->warnings.push_back(report->problem->message);
-  report->problem = {
-      .exit = sent ? ExitCode::NotRemembered : ExitCode::Failed,
-      .message = (sent ? Described(made.reach) + ", but not remembered"
-                       : "neither answered by a mixer nor remembered") +
-                 ": make sure that you can write to " + SettingsFolder()};
+  const bool none =
+      std::none_of(made.changes.begin(), made.changes.end(),
+                   [](const MadeChange &change) { return change.remembered; });
+  report->problem = {.exit = ExitCode::NotRemembered,
+                     .message = what + " is " + Described(made.reach) +
+                                (none ? ", but not remembered; "
+                                      : ", but not all is remembered; ") +
+                                remedy};
 }
 
 }  // namespace
@@ -80,16 +91,19 @@ MadeChanges MakeChanges(const std::vector<Change> &changes) {
 
 void AddTruth(const MadeChanges &made, const std::string &what,
               const std::string &again, Report *report) {
-  AddReach(made.reach,
-           {.notSent = what +
-                       " is remembered, not sent; once a mixer can be "
-                       "reached, run: " +
-                       again,
-            .notAnswered =
-                what + " is remembered; once a mixer answers, run: " + again,
-            .someMissing = "once the others do, run: " + again},
-           report);
-  AddForgotten(made, report);
+  const bool kept =
+      std::all_of(made.changes.begin(), made.changes.end(),
+                  [](const MadeChange &change) { return change.remembered; });
+  if (kept) {
+    AddReach(made.reach,
+             {.notSent = what + " is remembered, but not sent",
+              .notAnswered = what + " is remembered and sent, but not answered",
+              .remedy = "once a mixer answers, run: " + again,
+              .someMissing = "once the others do, run: " + again},
+             report);
+  } else {
+    AddForgotten(made, what, report);
+  }
   const bool announced =
       std::all_of(made.changes.begin(), made.changes.end(),
                   [](const MadeChange &change) { return change.announced; });

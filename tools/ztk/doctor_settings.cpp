@@ -56,7 +56,7 @@ void FindUnreadable(const std::string &path, Findings *findings) {
   if (settings != nullptr) return;
   Finding finding{.id = "settings-unreadable",
                   .what = path + " cannot be read, so defaults stand in",
-                  .cause = "it is no settings file, or a damaged one",
+                  .cause = "it is not a settings file, or it is damaged",
                   .command = MoveAwayCommand(path)};
   const int opened = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   if (opened >= 0) {

@@ -79,7 +79,7 @@ Json Parse(const std::string &text, Errors *errors) {
   try {
     return Json::parse(text, watch);
   } catch (const Json::parse_error &error) {
-    errors->Add("", "this is no JSON, at byte " + std::to_string(error.byte));
+    errors->Add("", "this is not JSON, at byte " + std::to_string(error.byte));
     return {};
   }
 }
@@ -301,7 +301,7 @@ Report Import(const Arguments &arguments) {
   for (const MadeChange &one : made.changes) {
     AddImported(one, made.reach, &report);
   }
-  AddTruth(made, "all of it", "ztk import " + *file, &report);
+  AddTruth(made, "what stands in it", "ztk import " + *file, &report);
   return report;
 }
 

@@ -238,7 +238,7 @@ std::string DescribedValue(const Family &family, std::uint32_t channel,
   const std::optional<Choice> choice = ChoiceAt(family, channel, index);
   if (choice) return Described(*choice);
   return std::to_string(static_cast<std::int32_t>(index)) +
-         ", which is no choice";
+         ", which is not a choice";
 }
 
 void AddValueFields(const Family &family, std::uint32_t channel,

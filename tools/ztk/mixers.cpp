@@ -58,7 +58,7 @@ std::string Sentence(int number, usb::Code code) {
     case MixerState::Silent:
       return Named(number) + " does not answer";
     case MixerState::Gone:
-      return Named(number) + " has gone: it was unplugged or switched off";
+      return Named(number) + " is gone: it was unplugged or switched off";
     case MixerState::NotOpened:
     case MixerState::Failed:
       break;
@@ -149,8 +149,8 @@ void AddReach(const Reach &reach, const Outcome &outcome, Report *report) {
   }
   const bool sent = reach.opened() > 0;
   report->problem = {.exit = ExitCode::NoMixer,
-                     .message = why + (reach.found() == 0 ? ": " : "; ") +
-                                (sent ? outcome.notAnswered : outcome.notSent)};
+                     .message = (sent ? outcome.notAnswered : outcome.notSent) +
+                                ": " + why + "; " + outcome.remedy};
 }
 
 std::string Described(const Reach &reach) {
@@ -166,7 +166,7 @@ std::string Described(usb::Code code) {
     case platform::usb::kTimeout:
       return "no answer";
     case platform::usb::kNoDevice:
-      return "the mixer has gone";
+      return "the mixer is gone";
     default:
       break;
   }

@@ -62,11 +62,11 @@ Sent SendAndLook(Function send) {
   return {.result = result, .reach = AskMixers(before)};
 }
 
-// What became of a setting, as a part of a sentence: where nothing could be
-// sent, and where it was but no mixer has answered.
+// What became of a setting, as parts of a sentence.
 struct Outcome {
-  std::string notSent;
-  std::string notAnswered;
+  std::string notSent;      // where nothing could be sent
+  std::string notAnswered;  // where it was, but no mixer has answered
+  std::string remedy;       // what to do in both cases
   std::string someMissing;  // what to do once the others are back
 };
 

@@ -74,7 +74,7 @@ bool MayBeOpened(const std::string &place) {
 
 Access TryToOpen(const std::string &place) {
   const Access vanished{
-      .obstacle = Obstacle::Vanished, .node = {}, .reason = "it has gone"};
+      .obstacle = Obstacle::Vanished, .node = {}, .reason = "it is gone"};
   for (const DeviceFacts &facts : Mixers()) {
     if (place != facts.entry) continue;
     const std::string node = NodeOf(facts);
@@ -96,7 +96,7 @@ std::string Explained(const Access &access) {
     case Obstacle::None:
       return "could not be opened, but can be now; try again";
     case Obstacle::Vanished:
-      return "has gone: it was unplugged or switched off";
+      return "is gone: it was unplugged or switched off";
     case Obstacle::NoNode:
       return "is attached but cannot be opened: there is no " + access.node +
              " here; ztk doctor tells why";

@@ -138,7 +138,7 @@ Access TryToOpen(const std::string &place) {
     return {
         .obstacle = ObstacleOf(result), .node = {}, .reason = Written(result)};
   }
-  return {.obstacle = Obstacle::Vanished, .node = {}, .reason = "it has gone"};
+  return {.obstacle = Obstacle::Vanished, .node = {}, .reason = "it is gone"};
 }
 
 std::string Explained(const Access &access) {
@@ -146,7 +146,7 @@ std::string Explained(const Access &access) {
     case Obstacle::None:
       return "could not be opened, but can be now; try again";
     case Obstacle::Vanished:
-      return "has gone: it was unplugged or switched off";
+      return "is gone: it was unplugged or switched off";
     case Obstacle::NoRight:
       return "is attached but cannot be opened: only an administrator may (" +
              access.reason + ")";

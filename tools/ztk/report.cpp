@@ -10,8 +10,8 @@ constexpr std::size_t kLongestQuotation = 60;  // bytes
 constexpr ExitMeaning kExitMeanings[] = {
     {.exit = ExitCode::Done,
      .word = "",
-     .text = "done: every mixer answered, and what is to be remembered is; a\n"
-             "warning, if there is one, stands on the error stream"},
+     .text = "done: every mixer that was sent something answered, and what was\n"
+             "set is remembered; there may be a warning all the same"},
     {.exit = ExitCode::Found,
      .word = "found",
      .text = "ztk doctor has found a problem"},
@@ -20,7 +20,9 @@ constexpr ExitMeaning kExitMeanings[] = {
      .text = "the words, or a file to import, were wrong; nothing was sent"},
     {.exit = ExitCode::NoMixer,
      .word = "no-mixer",
-     .text = "no mixer answered; a choice that was set is remembered"},
+     .text =
+         "no mixer answered; what was set, imported or undone is remembered,\n"
+         "what was sent raw or as the default is not"},
     {.exit = ExitCode::Rejected,
      .word = "rejected",
      .text =

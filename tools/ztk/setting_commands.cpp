@@ -42,7 +42,7 @@ std::uint32_t RawNumber(const Arguments &arguments, Parameter parameter) {
   throw Failure(ExitCode::Usage,
                 std::string(ParameterName(parameter)) +
                     (word == nullptr ? std::string(" is missing")
-                                     : " is no number: " + Quoted(*word)) +
+                                     : " is not a number: " + Quoted(*word)) +
                     "; accepted: decimal, or hexadecimal after 0x" +
                     SeeHelp(kInput, "raw"));
 }
@@ -63,8 +63,9 @@ void AddFamilyFields(const Family &family, std::uint32_t product,
 }
 
 Outcome NeverRemembered(const std::string &what, const std::string &command) {
-  return {.notSent = what + " was not sent, and is never remembered",
-          .notAnswered = what + " is never remembered; try again",
+  return {.notSent = what + " was not sent",
+          .notAnswered = what + " was sent, but not answered",
+          .remedy = "it is never remembered, so run " + command + " again",
           .someMissing = "once the others do, run " + command + " again"};
 }
 
@@ -264,7 +265,11 @@ Report GetRemembered(const Family &family, const Arguments &arguments) {
   report.text = Belonging(family) + "\n";
   for (const std::uint32_t channel : ChannelsFor(family, arguments)) {
     const auto index = Current(family, product, channel);
-    if (!index) ThrowRejected(family, product, "to read it");
+    if (!index) {
+      throw Failure(ExitCode::Rejected,
+                    "nothing can be read for the " + ProductName(product) +
+                        ": " + Belonging(family) + " Leave --product out");
+    }
     const bool remembered = Remembered(family, channel).has_value();
     Json fields;
     AddValueFields(family, channel, *index, &fields);
@@ -303,7 +308,9 @@ Report SetChoice(const Family &family, const Arguments &arguments) {
   AddTruth(made, place, std::string("ztk ") + family.name + " apply", &report);
   report.text = place + ": " + Described(choice) + ", " +
                 Described(change, made.reach) + "\n";
-  if (change.result == ZTK_WARNING) {
+  // The sentence for no mixer says that the setting has been saved.
+  if (change.result == ZTK_WARNING &&
+      (change.remembered || made.reach.found() > 0)) {
     ExplainWarning(channel, made.reach, &report);
   }
   return report;
@@ -373,7 +380,7 @@ Report SendRaw(const Family &family, const Arguments &arguments) {
   report.text = PlaceName(family, channel) + ": " + raw.InWords() + ", " +
                 Described(sent.reach) + ", not remembered\n";
   AddReach(sent.reach, NeverRemembered("the value", "ztk input raw"), &report);
-  // The sentence for no mixer says that the setting was saved; this one is not.
+  // The same sentence again; this value never is.
   if (sent.result == ZTK_WARNING && sent.reach.found() > 0) {
     ExplainWarning(channel, sent.reach, &report);
   }

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "history.h"
 #include "other_commands.h"
 #include "plan.h"
+#include "products.h"
 
 namespace ztk::cli {
 
@@ -189,6 +192,26 @@ void TellPlan(const std::vector<Change> &changes, Report *report) {
   AddRefused(refused, report);
 }
 
+// How to send again what was put back; each model is sent by itself.
+std::string SendingAgain(const MadeChanges &made) {
+  std::string commands;
+  for (const Family *family : Families()) {
+    const bool concerned =
+        std::any_of(made.changes.begin(), made.changes.end(),
+                    [family](const MadeChange &one) {
+                      return one.change.family->product == family->product;
+                    });
+    if (!concerned) continue;
+    std::string command = "ztk apply";
+    if (family->product != kOwnProduct) {
+      command += " --product " + ProductName(family->product);
+    }
+    if (commands.find(command) != std::string::npos) continue;
+    commands += (commands.empty() ? "" : "; ") + command;
+  }
+  return commands;
+}
+
 // True where the step is done with, for better or worse.
 bool UndoStep(const std::vector<Undoing> &undoings, Report *report) {
   const MadeChanges made = MakeChanges(ToMake(undoings));
@@ -199,7 +222,7 @@ bool UndoStep(const std::vector<Undoing> &undoings, Report *report) {
   }
   const MadeChanges accepted = Accepted(made);
   if (!accepted.changes.empty()) {
-    AddTruth(accepted, "it", "ztk apply", report);
+    AddTruth(accepted, "what was put back", SendingAgain(accepted), report);
   }
   AddRefused(made, report);
   return done;

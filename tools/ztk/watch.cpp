@@ -90,7 +90,7 @@ Report Watch(const Arguments &arguments) {
         .exit = ExitCode::Failed,
         .message =
             "there is no session message bus to hear changes on, or it "
-            "has gone; run this inside your login session"};
+            "is gone; run this inside your login session"};
   } else if (end == LoopEnd::Stopped) {
     report.problem = {.exit = ExitCode::Failed,
                       .message = std::string("cannot write the output: ") +
