@@ -9,6 +9,7 @@
 namespace ztk::test {
 namespace {
 
+using cli::Flowed;
 using cli::LaidOut;
 using cli::Strong;
 
@@ -45,12 +46,42 @@ TEST(LaidOut, BreaksLinesBetweenWords) {
        "\xC3\xA4\xC3\xB6 \xC3\xBC\xC3\xA4\n"},
       {"no end of line", 5, "ab cd ef", "ab cd\n  ef"},
       {"empty lines stay", 5, "\n\na\n", "\n\na\n"},
+      {"what is to be copied", 5,
+       "\x10"
+       "ab cd ef\nab cd\n",
+       "ab cd ef\nab cd\n"},
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(LaidOut(row.text, {.columns = row.columns, .standsOut = false}),
               row.expected);
   }
+}
+
+TEST(Flowed, FillsUpSentencesAndNothingElse) {
+  const struct {
+    const char *name;
+    std::size_t columns;
+    const char *text;
+    const char *expected;
+  } rows[] = {
+      {"sentences", 9, "ab cd\nef gh ij\n\nkl\n", "ab cd ef\ngh ij\n\nkl\n"},
+      {"no indentation", 5, "ab cd ef\n", "ab cd\nef\n"},
+      {"a list", 14, "ab:\n  c   d e f g h\n  i   j\n",
+       "ab:\n  c   d e f g\n      h\n  i   j\n"},
+      {"a whole line", 20, "ab\n\x10Try: ab cd\n", "ab\n\x10Try: ab cd\n"},
+      {"a whole line that is too long", 8, "\x10Try: ab cd\n",
+       "\x10Try:\n\x10  ab cd\n"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(Flowed(row.text, row.columns), row.expected);
+  }
+  const std::string words =
+      "1234567 1234567 1234567 1234567 1234567 1234567 "
+      "1234567 1234567 1234567 1234567 1";
+  EXPECT_EQ(Flowed(words + " 2\n", 0), words.substr(0, 79) + "\n1 2\n");
+  EXPECT_EQ(Flowed(words + " 2\n", 200), words.substr(0, 79) + "\n1 2\n");
 }
 
 class Terminal : public CliWorld {
@@ -117,6 +148,24 @@ TEST_F(Terminal, KeepsToANarrowWidth) {
   }
   EXPECT_THAT(shown, HasSubstr("  selectors     CH1 4   CH2 4   CH3 4\n"
                                "                CH4 4\n"));
+}
+
+TEST_F(Terminal, ShowsHelpInANarrowWidth) {
+  std::string script;
+  for (const char *command : {"", "run", "serve", "fault", "reply", "show"}) {
+    script += std::string("ztk-virtual-mixer ") + command + " --help;";
+  }
+  for (const char *command : {"", "input set", "autoapply", "undo", "doctor"}) {
+    script += std::string("ztk ") + command + " --help;";
+  }
+  const std::string shown = Shown(script, 40);
+  for (const std::string &line : SplitLines(shown)) {
+    // Commands to be copied, and a word that is longer than its column.
+    if (line.rfind("  ztk", 0) == 0 || line.rfind("  sudo", 0) == 0) continue;
+    EXPECT_LE(line.size(), 40U) << line;
+  }
+  EXPECT_THAT(shown, HasSubstr("\nExample:\n  ztk input set 2 \"post ch2 "
+                               "fader\"\n"));
 }
 
 TEST_F(Terminal, ShowsThatItWaitsForASilentMixer) {

@@ -32,7 +32,7 @@ constexpr char kFaultHelp[] =
     "  delay:MS   answer MS milliseconds late, 1 to 60000\n"
     "  short:N    cut the reply to N bytes, 0 to 63\n"
     "  bytes:HEX  reply these bytes, 1 to 64 pairs of digits\n"
-    "  unplug     vanish while the request is under way\n"
+    "  unplug     vanish while the request is under way, without *TIMES\n"
     "@8002 limits it to one register, @r8002 to reads of it, @w8002 to\n"
     "writes; *3 to the next three requests. A new fault replaces one with\n"
     "the same register; of several that fit, the newest counts.";
@@ -198,15 +198,15 @@ Values Registers() {
 std::vector<Option> WorldOptionTexts() {
   return {{.names = "-n,--mixers",
            .value = "N",
-           .description = "Mixers, 0 to 32; else 1"},
+           .description = "Mixers, 0 to 32; 1 when left out"},
           {.names = "--other-devices",
            .value = "N",
            .description = "Other devices, half before and half after the "
-                          "mixers, 0 to 128; else 0"},
+                          "mixers, 0 to 128; 0 when left out"},
           {.names = "--selector",
            .value = "[M:]CH=POS",
            .description = "Position of an input selector: channel 1 to 4, "
-                          "position 0 to 255; else 4",
+                          "position 0 to 255; 4 when left out",
            .repeats = true},
           {.names = "--reply",
            .value = "[M:]REG=HEX",
@@ -234,7 +234,7 @@ Option CommandText() {
 Option MixerText() {
   return {.names = "-m,--mixer",
           .value = "M",
-          .description = "Number of the mixer, from 1; else all mixers"};
+          .description = "Number of the mixer, from 1; all when left out"};
 }
 
 Command MakeRun() {
@@ -255,7 +255,8 @@ Command MakeRun() {
   command.text.options.push_back(
       {.names = "--buses",
        .value = "N",
-       .description = "Buses to spread the devices over, 1 to 8; else 1"});
+       .description =
+           "Buses to spread the devices over, 1 to 8; 1 when left out"});
   command.text.options.push_back(
       {.names = "--forbid",
        .value = "M",
@@ -286,7 +287,7 @@ Command MakeServe() {
       {.names = "--listen",
        .value = "ADDRESS:PORT",
        .description = "Where clients connect; everybody who reaches it may "
-                      "attach the devices; else 127.0.0.1:3240"});
+                      "attach the devices; 127.0.0.1:3240 when left out"});
   command.text.options.push_back(
       {.names = "--attach",
        .value = "",
@@ -298,7 +299,7 @@ Command MakeServe() {
 
 Command MakeTurn() {
   return {.text = {.path = "turn",
-                   .summary = "Turn an input selector (inside a sandbox)",
+                   .summary = "Turn an input selector (inside run or serve)",
                    .options = {MixerText(),
                                Offering({.names = "channel",
                                          .value = "",
@@ -323,7 +324,7 @@ Command MakeFault() {
   return {
       .text = {.path = "fault",
                .summary =
-                   "Make mixers misbehave, or stop it (inside a sandbox)",
+                   "Make mixers misbehave, or stop it (inside run or serve)",
                .options = {MixerText(),
                            Offering({.names = "fault",
                                      .value = "",
@@ -337,33 +338,33 @@ Command MakeFault() {
 }
 
 Command MakeReply() {
-  return {
-      .text = {.path = "reply",
-               .summary = "Change what a register replies (inside a sandbox)",
-               .options = {MixerText(),
-                           Offering(
-                               {.names = "register",
+  return {.text = {.path = "reply",
+                   .summary =
+                       "Change what a register replies (inside run or serve)",
+                   .options = {MixerText(),
+                               Offering(
+                                   {.names = "register",
+                                    .value = "",
+                                    .description =
+                                        "8001 firmware, 8002 selectors, 8004 "
+                                        "Serato, 8006 port, 8007 certification "
+                                        "level",
+                                    .required = true},
+                                   Registers()),
+                               {.names = "bytes",
                                 .value = "",
-                                .description =
-                                    "8001 firmware, 8002 selectors, 8004 "
-                                    "Serato, 8006 port, 8007 certification "
-                                    "level",
-                                .required = true},
-                               Registers()),
-                           {.names = "bytes",
-                            .value = "",
-                            .description = "1 to 64 pairs of digits",
-                            .required = true}},
-               .note = "",
-               .examples = {"ztk-virtual-mixer reply 8004 0100"}},
-      .run = RunReply};
+                                .description = "1 to 64 pairs of digits",
+                                .required = true}},
+                   .note = "",
+                   .examples = {"ztk-virtual-mixer reply 8004 0100"}},
+          .run = RunReply};
 }
 
 // The commands that need no more than a mixer.
 Command MakeSimple(const std::string &name, const std::string &summary,
                    int (*run)(const Words &)) {
   return {.text = {.path = name,
-                   .summary = summary + " (inside a sandbox)",
+                   .summary = summary + " (inside run or serve)",
                    .options = {MixerText()},
                    .note = "",
                    .examples = {"ztk-virtual-mixer " + name + " --mixer 1"}},
@@ -373,7 +374,7 @@ Command MakeSimple(const std::string &name, const std::string &summary,
 Command MakeShow() {
   return {.text = {.path = "show",
                    .summary = "Show mixers, selectors, values and faults "
-                              "(inside a sandbox)",
+                              "(inside run or serve)",
                    .options = {{.names = "--json",
                                 .value = "",
                                 .description = "As JSON"}},
@@ -393,8 +394,8 @@ const std::vector<Command> &Commands() {
       MakeReply(),
       MakeSimple("plug", "Attach mixers", RunSimple<kPlug>),
       MakeSimple("unplug", "Detach mixers", RunSimple<kUnplug>),
-      MakeSimple("forbid", "Let mixers not be opened", RunSimple<kForbid>),
-      MakeSimple("allow", "Let mixers be opened again", RunSimple<kAllow>),
+      MakeSimple("forbid", "Forbid opening mixers", RunSimple<kForbid>),
+      MakeSimple("allow", "Allow opening them again", RunSimple<kAllow>),
       MakeShow()};
   return commands;
 }

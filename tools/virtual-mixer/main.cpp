@@ -1,19 +1,25 @@
 // SPDX-License-Identifier: MIT
 //
 // ztk-virtual-mixer: programs among virtual mixers.
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <deque>
 #include <iostream>
 #include <map>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "build_config.h"
 #include "commands.h"
 #include "manual/completion.h"
 #include "manual/described.h"
+#include "manual/help_format.h"
 #include "world_options.h"
+#include "ztk/terminal.h"
 
 namespace {
 
@@ -34,10 +40,6 @@ bool TakesCommand(const Command &command) {
 
 std::string Footer(const Command &command) {
   std::string footer;
-  if (TakesCommand(command)) {
-    footer += "Form: ztk-virtual-mixer " + command.text.path +
-              " [OPTIONS] [-- COMMAND...]\n\n";
-  }
   if (!command.text.note.empty()) footer += command.text.note + "\n\n";
   std::string title = "Example: ";
   for (const std::string &example : command.text.examples) {
@@ -48,12 +50,43 @@ std::string Footer(const Command &command) {
   return footer;
 }
 
+// What follows "--" is no word of the parser's.
+class Format : public ztk::manual::HelpFormat {
+ public:
+  Format() : HelpFormat(IsNarrow() ? kNarrowColumn : kColumn) {}
+
+  std::string make_usage(const CLI::App *app, std::string name) const override {
+    std::string usage = HelpFormat::make_usage(app, std::move(name));
+    for (const Command &command : Commands()) {
+      if (command.text.path != app->get_name() || !TakesCommand(command)) {
+        continue;
+      }
+      usage.insert(usage.find_last_not_of('\n') + 1, " [-- COMMAND...]");
+    }
+    return usage;
+  }
+
+ private:
+  static constexpr std::size_t kColumn = 30;
+  // Longer options have a line of their own.
+  static constexpr std::size_t kNarrowColumn = 20;
+
+  static bool IsNarrow() {
+    const std::size_t columns = ztk::cli::Columns(STDOUT_FILENO);
+    return columns > 0 && columns < 2 * kColumn;
+  }
+};
+
 // The parser made from the table of commands.
 class Parser {
  public:
   Parser() : app_(ztk::virtual_mixer::kAbout, "ztk-virtual-mixer") {
+    // The commands take them over.
+    app_.formatter(std::make_shared<Format>());
+    app_.set_help_flag("-h,--help", "Show this help");
     app_.set_version_flag(
-        "--version", std::string("ztk-virtual-mixer ") + ztk::build::kVersion);
+        "--version", std::string("ztk-virtual-mixer ") + ztk::build::kVersion,
+        "Show the version");
     app_.require_subcommand(1);
     app_.footer(std::string("Example: ") + ztk::virtual_mixer::kExample);
     for (const Command &command : Commands()) Add(command);
@@ -81,7 +114,11 @@ class Parser {
     return command->run(words);
   }
 
-  int Exit(const CLI::ParseError &error) const { return app_.exit(error); }
+  // As ztk shows its own, in a narrow terminal too.
+  void ShowHelp() const {
+    std::cout << ztk::cli::Flowed(app_.help(),
+                                  ztk::cli::Columns(STDOUT_FILENO));
+  }
 
   // What was wrong, and what is accepted instead.
   std::string Explain(const CLI::ParseError &error) const {
@@ -109,6 +146,7 @@ class Parser {
   void Add(const Command &command) {
     CLI::App *const app =
         app_.add_subcommand(command.text.path, command.text.summary);
+    app->group(ztk::manual::kCommandGroup);
     app->footer(Footer(command));
     options_[command.text.path];
     for (const ztk::manual::Option &option : command.text.options) {
@@ -153,8 +191,13 @@ int Main(const std::vector<std::string> &words) {
   Parser parser;
   try {
     parser.Parse(words);
+  } catch (const CLI::CallForHelp &) {
+    parser.ShowHelp();
+    return 0;
+  } catch (const CLI::CallForVersion &version) {
+    std::cout << version.what() << "\n";
+    return 0;
   } catch (const CLI::ParseError &error) {
-    if (error.get_exit_code() == 0) return parser.Exit(error);
     return Complain(parser.Explain(error), kUsage);
   }
   return parser.Run();

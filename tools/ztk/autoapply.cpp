@@ -14,8 +14,9 @@ namespace {
 constexpr char kUnit[] = "ztk-apply@.service";
 
 constexpr char kNote[] =
-    "Off until you turn it on, for you alone. Each time is in your journal:\n"
-    "journalctl --user -t ztk-apply";
+    "Off until you turn it on, for you alone. What was sent, and when, is in\n"
+    "your journal:\n"
+    "  journalctl --user -t ztk-apply";
 
 constexpr char kNoRule[] =
     "nothing tells of a mixer that is plugged in: udev has no rule "
@@ -89,9 +90,9 @@ Group AutoapplyGroup() {
 }
 
 std::vector<Command> AutoapplyCommands() {
-  return {MakeCommand("on", "Send it from now on", TurnOn),
-          MakeCommand("off", "Send it no longer", TurnOff),
-          MakeCommand("status", "Show whether it is sent", ShowState)};
+  return {MakeCommand("on", "Turn it on, for every mixer from now on", TurnOn),
+          MakeCommand("off", "Turn it off", TurnOff),
+          MakeCommand("status", "Show whether it is on", ShowState)};
 }
 
 }  // namespace ztk::cli

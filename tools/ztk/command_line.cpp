@@ -1,22 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "command_line.h"
 
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <deque>
 #include <map>
+#include <memory>
 
 #include "build_config.h"
 #include "commands.h"
 #include "manual/completion.h"
 #include "manual/described.h"
+#include "manual/help_format.h"
 #include "nearest.h"
 #include "progress.h"
+#include "terminal.h"
 
 namespace ztk::cli {
 
 namespace {
 
+// Half of a narrow terminal, and room for the longest option.
+constexpr std::size_t kHelpColumn = 20;
 constexpr char kExample[] = "ztk input set 2 \"post ch2 fader\"";
 
 // The words of one option or position, until they are read.
@@ -32,20 +39,16 @@ std::string SeeHelp(const std::string &path) {
 }
 
 std::string Footer(const std::string &note, const std::string &example) {
-  return note + "\nExample: " + example;
+  return note + "\n\n" + kWhole + "Example: " + example;
 }
 
 std::string ProgramFooter() {
   constexpr std::size_t kColumn = 5;
-  std::string text = "Exit status:\n";
+  std::string text = "Exit status:";
   for (const ExitMeaning &meaning : ExitMeanings()) {
     const std::string number = std::to_string(static_cast<int>(meaning.exit));
-    std::string lead = "  " + Padded(number, kColumn - 2);
-    for (const char character : lead + meaning.text + std::string("\n")) {
-      text += character;
-      if (character == '\n') text += std::string(kColumn, ' ');
-    }
-    text.erase(text.size() - kColumn);
+    text += "\n" + std::string(kColumn - number.size(), ' ') + number + "  " +
+            OneLine(meaning.text);
   }
   return Footer(text, kExample);
 }
@@ -55,6 +58,8 @@ std::string ProgramFooter() {
 class Parser {
  public:
   Parser() : app_(kAbout, "ztk") {
+    // The commands take it over.
+    app_.formatter(std::make_shared<manual::HelpFormat>(kHelpColumn));
     Prepare(&app_, ProgramFooter());
     app_.set_version_flag(kVersionOption.names,
                           std::string("ztk ") + build::kVersion,
@@ -123,7 +128,7 @@ class Parser {
   void Prepare(CLI::App *app, const std::string &footer) {
     app->allow_extras();
     app->require_subcommand(0, 1);
-    app->get_formatter()->column_width(24);
+    app->group(manual::kCommandGroup);
     app->set_help_flag(kHelpOption.names, kHelpOption.description);
     app->add_flag(kJsonOption.names, json_, kJsonOption.description)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
@@ -246,10 +251,18 @@ bool AsksForJson(const std::vector<std::string> &words) {
   return std::find(words.begin(), end, "--json") != end;
 }
 
-Report Told(const char *name, const std::string &text) {
+Report Help(const std::string &text) {
   Report report;
-  report.text = text;
-  report.fields[name] = text;
+  report.text = Flowed(text, Columns(STDOUT_FILENO));
+  report.fields["help"] =
+      LaidOut(Flowed(text, 0), {.columns = 0, .standsOut = false});
+  return report;
+}
+
+Report Version() {
+  Report report;
+  report.text = std::string("ztk ") + build::kVersion + "\n";
+  report.fields["version"] = build::kVersion;
   return report;
 }
 
@@ -277,11 +290,9 @@ Report Run(const std::vector<std::string> &words, Call *call) {
     parser.Parse(words);
   } catch (const CLI::CallForHelp &) {
     call->command = parser.Path();
-    return Told("help", parser.Help());
+    return Help(parser.Help());
   } catch (const CLI::CallForVersion &) {
-    Report report = Told("version", build::kVersion);
-    report.text = std::string("ztk ") + build::kVersion + "\n";
-    return report;
+    return Version();
   } catch (const CLI::ParseError &error) {
     call->command = parser.Path();
     throw Failure(ExitCode::Usage,

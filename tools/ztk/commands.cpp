@@ -15,7 +15,8 @@ using Run = Report (*)(const Family &family, const Arguments &arguments);
 ParameterUse ProductOption(const std::string &otherwise) {
   return {.parameter = Parameter::Product,
           .required = false,
-          .description = "Model by name or number; else the " + otherwise};
+          .description =
+              "Model, by name or number; " + otherwise + " when left out"};
 }
 
 ParameterUse DryRunOption() {
@@ -75,8 +76,9 @@ Command MakeSet(const Family &family) {
   AddChannel(family, true, &command.parameters);
   command.parameters.push_back(
       {.parameter = Parameter::Choice,
-       .required = true,
-       .description = "Number as listed (from 1), text, or its beginning"});
+       .required = false,
+       .description = "Number as listed (from 1), text, or its beginning; "
+                      "asked for in a terminal when left out"});
   command.parameters.push_back(ProductOption(ModelName(family)));
   command.parameters.push_back(DryRunOption());
   return command;
@@ -87,10 +89,11 @@ Command MakeRaw() {
       kInput, "raw", "Send a raw routing value; it is not remembered", "2 0 3",
       SendRaw);
   AddChannel(kInput, true, &command.parameters);
-  command.parameters.push_back(
-      {.parameter = Parameter::High,
-       .required = true,
-       .description = "Number whose low four bits, plus 1, go on top"});
+  command.parameters.push_back({.parameter = Parameter::High,
+                                .required = true,
+                                .description =
+                                    "Number that goes, raised by 1, into the "
+                                    "top four bits of the value"});
   command.parameters.push_back({.parameter = Parameter::Source,
                                 .required = true,
                                 .description = "Source code, 0 to 15"});
@@ -122,11 +125,11 @@ void AddMemory(std::vector<Command> *commands) {
        .summary = "Put back what ztk has changed last",
        .parameters = {DryRunOption()},
        .note =
-           "Again and again goes further back, 100 commands at most. What\n"
+           "Each further undo goes one command back, 100 at most. What\n"
            "another program has changed since is left alone. Where nothing\n"
            "was remembered before, the default is put back and remembered,\n"
-           "as the library cannot forget. Known is what was remembered:\n"
-           "raw values, defaults and what was applied leave no trace.",
+           "as the library cannot forget. Only what is remembered can be\n"
+           "undone: not raw values, defaults, or what was applied.",
        .example = "ztk undo",
        .run = Undo});
   commands->push_back(
@@ -134,14 +137,16 @@ void AddMemory(std::vector<Command> *commands) {
        .summary = "Write all that is remembered, in words",
        .parameters = {},
        .note = "In JSON, by model, setting and channel, for ztk import.",
-       .example = "ztk export",
+       .example = "ztk export > club.json",
        .run = Export});
   commands->push_back(
       {.path = "import",
        .summary = "Set all that stands in a file of ztk export",
        .parameters = {{.parameter = Parameter::File,
                        .required = true,
-                       .description = "File, or - for the input"},
+                       .description =
+                           "File that ztk export has written, or - for "
+                           "the standard input"},
                       DryRunOption()},
        .note =
            "All of it is checked before anything is changed. Settings that\n"
@@ -168,18 +173,20 @@ void AddOthers(std::vector<Command> *commands) {
       {.path = "watch",
        .summary = "Show changes made by any program, until interrupted",
        .parameters = {},
-       .note = "Heard are all programs of your session.",
+       .note = "All programs of your session are heard.",
        .example = "ztk watch --json",
        .run = Watch});
   commands->push_back(
       {.path = "warning",
-       .summary = "Show the text that explains a routing without sound",
+       .summary = "Show the text that explains why a routing is silent",
        .parameters = {{.parameter = Parameter::OfChannel,
                        .required = false,
-                       .description = "Channel, 1 to 4; else 1"},
+                       .description = "Channel, 1 to 4; 1 when left out"},
                       {.parameter = Parameter::Language,
                        .required = false,
-                       .description = "As German, de or 3; else your own"}},
+                       .description =
+                           "As in German, de or 3; your own when left "
+                           "out"}},
        .note = "Without a mixer the text is always in your own language.",
        .example = "ztk warning --language de",
        .run = ShowWarning});
@@ -187,16 +194,17 @@ void AddOthers(std::vector<Command> *commands) {
       {.path = "doctor",
        .summary = "Find out why something does not work, and what to type",
        .parameters = {},
-       .note = "Looked at are the mixers, the settings files, the session's\n"
-               "message bus and the warning texts. Nothing is changed; every\n"
-               "mixer is asked one question. Ends with 1 when something is\n"
-               "wrong; a note alone is nothing wrong.",
+       .note =
+           "Looks at the mixers, the settings files, the session's message\n"
+           "bus and the warning texts. Nothing is changed; every mixer is\n"
+           "asked one question. The exit status is 1 when something is\n"
+           "wrong; a note alone does not count as wrong.",
        .example = "ztk doctor",
        .run = Diagnose});
   commands->push_back({.path = "versions",
                        .summary = "Show the versions of the installed pieces",
                        .parameters = {},
-                       .note = "They belong to the VRM-D6.",
+                       .note = "The installed pieces belong to the VRM-D6.",
                        .example = "ztk versions",
                        .run = ShowVersions});
 }

@@ -5,7 +5,9 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <sstream>
 #include <string_view>
+#include <vector>
 
 namespace ztk::cli {
 
@@ -21,7 +23,7 @@ std::string_view Variable(const char *name) {
 }
 
 bool IsMark(char character) {
-  return character == kStrong || character == kPlain;
+  return character == kStrong || character == kPlain || character == kWhole;
 }
 
 // The first byte of a character, in UTF-8. All that is shown here is one column
@@ -80,8 +82,9 @@ std::size_t Fitting(std::string_view line, std::size_t columns) {
 }
 
 // Words that are too long for a line are left to the terminal.
-std::string Wrapped(std::string_view line, std::size_t columns) {
-  const std::size_t hanging = HangingIndentation(line, columns);
+std::string Wrapped(std::string_view line, std::size_t columns,
+                    std::size_t hanging) {
+  if (line.starts_with(kWhole)) return std::string(line);
   std::string wrapped;
   std::string rest(line);
   while (true) {
@@ -94,12 +97,20 @@ std::string Wrapped(std::string_view line, std::size_t columns) {
   }
 }
 
+// A whole line that is too long, below the title that it begins with.
+std::string WholeBelowTitle(const std::string &line, std::size_t columns) {
+  const std::size_t title = line.find(": ");
+  if (WidthOf(line) <= columns || title == std::string::npos) return line;
+  return line.substr(0, title + 1) + "\n" + kWhole + " " +
+         line.substr(title + 1);
+}
+
 std::string Marked(const std::string &text, bool standsOut) {
   std::string marked;
   for (const char character : text) {
     if (!IsMark(character)) {
       marked += character;
-    } else if (standsOut) {
+    } else if (standsOut && character != kWhole) {
       marked += character == kStrong ? kBold : kNormal;
     }
   }
@@ -135,12 +146,41 @@ std::string LaidOut(const std::string &text, const Layout &layout) {
   while (begin < text.size()) {
     const std::size_t end = text.find('\n', begin);
     const std::string_view all(text);
-    wrapped += Wrapped(all.substr(begin, end - begin), layout.columns);
+    const std::string_view line = all.substr(begin, end - begin);
+    wrapped +=
+        Wrapped(line, layout.columns, HangingIndentation(line, layout.columns));
     if (end == std::string::npos) break;
     wrapped += '\n';
     begin = end + 1;
   }
   return Marked(wrapped, layout.standsOut);
+}
+
+std::string Flowed(const std::string &text, std::size_t columns) {
+  constexpr std::size_t kWidest = 80;
+  const std::size_t width =
+      columns == 0 || columns > kWidest ? kWidest : columns;
+  std::vector<std::string> lines;
+  bool goesOn = false;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) {
+    const bool isSentence =
+        !line.empty() && line.front() != ' ' && line.front() != kWhole;
+    if (isSentence && goesOn) {
+      lines.back() += " " + line;
+    } else {
+      lines.push_back(line);
+    }
+    goesOn = isSentence;
+  }
+  std::string flowed;
+  for (std::string &line : lines) {
+    if (line.starts_with(kWhole)) line = WholeBelowTitle(line, width);
+    const std::size_t hanging =
+        line.starts_with(' ') ? HangingIndentation(line, width) : 0;
+    flowed += Wrapped(line, width, hanging) + "\n";
+  }
+  return flowed;
 }
 
 }  // namespace ztk::cli

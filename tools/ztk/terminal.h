@@ -13,6 +13,9 @@ namespace ztk::cli {
 // choice or model, and OneLine() lets none of them in from outside.
 inline constexpr char kStrong = '\x0E';
 inline constexpr char kPlain = '\x0F';
+// Before a line that is not to be broken, because it is to be copied: where the
+// terminal breaks it, it is still one line.
+inline constexpr char kWhole = '\x10';
 
 // `text` between the two marks.
 std::string Strong(const std::string &text);
@@ -37,6 +40,10 @@ struct Layout {
 // Text as it is shown. A line that is too long goes on below its second column,
 // where it has columns, which are at least two spaces apart.
 std::string LaidOut(const std::string &text, const Layout &layout);
+
+// Sentences filled up to the width, at most 80 columns, which is also that of
+// 0. A line that is indented or whole stays by itself.
+std::string Flowed(const std::string &text, std::size_t columns);
 
 }  // namespace ztk::cli
 
