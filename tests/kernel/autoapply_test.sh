@@ -69,6 +69,8 @@ nothing_to_do() {
     -z $(as_guest systemctl --user list-jobs --no-legend) ]]
 }
 
+something_logged() { [[ $(runs_logged) != 0 ]]; }
+
 user_has_gone() { ! systemctl --quiet is-active "$user_manager"; }
 
 until_true() {  # function
@@ -102,6 +104,16 @@ expect_start "the user turns it on" "On: " "$(as_guest ztk autoapply on)"
 expect "which leaves one link behind" ztk-apply@.service \
   "$(ls /home/guest/.config/systemd/user)"
 expect "and sends nothing by itself" "" "$(writes)"
+
+as_guest mv /home/guest/.config/tarvix /home/guest/away
+as_guest systemctl --user start ztk-apply@by-hand.service
+until_true something_logged
+expect "the journal tells that there was nothing to send" \
+  "Nothing is remembered for the VRM-D6: nothing to send." \
+  "$(journalctl --quiet --output cat -t ztk-apply)"
+expect "and nothing was sent" "" "$(writes)"
+as_guest mv /home/guest/away /home/guest/.config/tarvix
+
 plug_in_anew
 expect "plugging in sends what is remembered, and only that" \
   "mixer 1: 40 03 0200 8003 0000
@@ -110,7 +122,7 @@ mixer 2: 40 03 0200 8003 0000
 mixer 2: 40 03 0206 8002 0000" "$(writes | sort -u)"
 expect_start "the journal tells of it" \
   "USB input 2: 3 Post CH2 Fader, sent" \
-  "$(journalctl --quiet --output cat -t ztk-apply | head -n 1)"
+  "$(journalctl --quiet --output cat -t ztk-apply | sed -n 2p)"
 expect "no run of it failed" "" \
   "$(as_guest systemctl --user list-units --failed --no-legend)"
 
