@@ -15,7 +15,8 @@ constexpr char kGoodRule[] =
     "ATTR{idVendor}==\"6666\", ATTR{idProduct}==\"001b\", TAG+=\"uaccess\"";
 constexpr char kReplug[] =
     "sudo udevadm control --reload && sudo udevadm trigger --action=add "
-    "/sys/bus/usb/devices/1-1";
+    "--settle --subsystem-match=usb --attr-match=idVendor=6666 "
+    "--attr-match=idProduct=001b";
 constexpr char kBundle[] =
     "/System/Library/Frameworks/VRM-D6Setup.framework/Resources/";
 
@@ -125,15 +126,16 @@ TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
       {"/usr/lib/udev/rules.d/70-tarvix-mixer.rules", kGoodRule},
       {"/run/udev/data/c189:1", "I:12345\nG:uaccess\nQ:uaccess\nV:1\n"}};
   Plant(files, {"-n", "1", "--forbid", "1"},
-        "USER=dj SSH_CONNECTION='::1 1 ::1 22' ztk doctor --json");
+        "id -un; USER=dj SSH_CONNECTION='::1 1 ::1 22' ztk doctor --json");
   Json finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
   EXPECT_THAT(Word(finding, "cause"), HasSubstr("you came over ssh"));
   EXPECT_THAT(Word(finding, "command"),
-              HasSubstr(", OWNER=\"dj\"' | sudo tee "
+              HasSubstr(", OWNER=\"" + Line(result_.out, 0) +
+                        "\"' | sudo tee "
                         "/etc/udev/rules.d/71-tarvix-mixer-owner.rules && "));
   Plant(files, {"-n", "1", "--forbid", "1"},
-        "unset SSH_CONNECTION SSH_TTY; USER=dj ztk doctor --json");
+        "unset SSH_CONNECTION SSH_TTY; ztk doctor --json");
   finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
   EXPECT_THAT(Word(finding, "cause"), Not(HasSubstr("ssh")));

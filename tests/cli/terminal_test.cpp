@@ -168,6 +168,17 @@ TEST_F(Terminal, ShowsHelpInANarrowWidth) {
                                "fader\"\n"));
 }
 
+// A line end within it would be a part of what is pasted into a shell.
+TEST_F(Terminal, NeverBreaksACommandThatIsToBeTyped) {
+  const std::string shown = Shown(
+      "ztk-virtual-mixer unplug; ztk-virtual-mixer plug; "
+      "ztk-virtual-mixer fault silence@r8001; ztk doctor",
+      40);
+  EXPECT_THAT(shown, HasSubstr("\n          type:  for on in 0 1; do echo $on "
+                               "| sudo tee /sys/bus/usb/devices/1-1/authorized;"
+                               " done\n"));
+}
+
 TEST_F(Terminal, ShowsThatItWaitsForASilentMixer) {
   PseudoTerminal terminal(
       Sandbox({"--fault", "delay:1900@8001*1"}, "ztk status"), 80);

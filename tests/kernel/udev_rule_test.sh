@@ -61,26 +61,84 @@ mixers_come_to() {  # number
   fail "there are not $1 mixers after ten seconds"
 }
 
+# Has "ztk doctor" tell a user what is wrong with the mixers: $cause, and the
+# $command to type. Both mixers have the same.
+ask_doctor() {  # user [environment...]
+  local user=$1 told
+  shift
+  told=$({ as "$user" env "$@" "$bin/ztk" doctor 2>/dev/null || true; } |
+    sed '/^settings /,$d')
+  cause=$(sed -n 's/^ *cause: //p' <<<"$told" | sort -u)
+  command=$(sed -n 's/^ *type:  //p' <<<"$told" | sort -u)
+}
+
+# The user types it. Everybody here is root for "sudo" already.
+type_command() {
+  mkdir -p /run/typed
+  # shellcheck disable=SC2016  # expanded inside
+  printf '#!/bin/sh\nexec "$@"\n' >/run/typed/sudo
+  chmod 755 /run/typed/sudo
+  [[ $command == *sudo* && $command != *$'\n'* ]] ||
+    fail "no single command: \"$command\""
+  PATH=/run/typed:$PATH bash -c "$command" >/dev/null
+}
+
+# What the mixers are sent when the user sets something.
+sent_for() {  # user choice
+  : >/run/requests
+  as "$1" "$bin/ztk" input set 1 "$2" &>/dev/null || true
+  sed -n 's/^\(mixer .: 40 .*\)/\1/p' /run/requests
+}
+
+plug_in_anew() {
+  "$bin/ztk-virtual-mixer" unplug
+  mixers_come_to 0
+  "$bin/ztk-virtual-mixer" plug
+  mixers_come_to 2
+}
+
 everybody=$(open_to root)
 grep -qx 'Foot Switch' <<<"$everybody" ||
   fail "no other product of the maker's is attached: $everybody"
 expect "without the rule root alone reaches the mixers" "2 0 0" \
   "$(reachable root) $(reachable guest) $(reachable nobody)"
 
+# The rule is there, but came after the mixers.
+install --mode 644 "$rules" /lib/udev/rules.d/
+ask_doctor guest
+expect "the doctor sees that the rule came too late" \
+  "the rule that lets you in came after the mixer was plugged in; this does \
+what plugging it in again does" "$cause"
+type_command
+expect "and the one command lets the user set both mixers" \
+  "mixer 1: 40 03 0107 8002 0000
+mixer 2: 40 03 0107 8002 0000" "$(sent_for guest "cross fader a")"
+rm "/lib/udev/rules.d/${rules##*/}"
+udevadm control --reload
+plug_in_anew
+udevadm settle
+
+ask_doctor guest
+expect "the doctor sees that the rule is missing" \
+  "only root may open it, as no rule lets you" "$cause"
+type_command
+expect "and the one command lets the user set both mixers" \
+  "mixer 1: 40 03 0108 8002 0000
+mixer 2: 40 03 0108 8002 0000" "$(sent_for guest "cross fader b")"
+expect "but nobody else" 0 "$(reachable nobody)"
+rm /etc/udev/rules.d/70-tarvix-mixer.rules
+udevadm control --reload
+
 # What README says to do after the installation.
 install --mode 644 "$rules" /lib/udev/rules.d/
 udevadm control --reload
-"$bin/ztk-virtual-mixer" unplug
-mixers_come_to 0
-"$bin/ztk-virtual-mixer" plug
-mixers_come_to 2
+plug_in_anew
 # As if the others had been plugged in again as well.
 udevadm trigger --subsystem-match=usb --action=add --settle
 
 expect "the user of the session reaches both mixers" 2 "$(reachable guest)"
-expect "and may set them" "40 03 0109 8002 0000" "$(
-  as guest "$bin/ztk" input set 1 mic >/dev/null 2>&1
-  sed -n 's/^mixer 1: \(40 .*\)/\1/p' /run/requests)"
+expect "and may set them" "mixer 1: 40 03 0109 8002 0000
+mixer 2: 40 03 0109 8002 0000" "$(sent_for guest mic)"
 expect "another user does not reach them" 0 "$(reachable nobody)"
 status=0
 as nobody "$bin/ztk" input set 1 mic &>/dev/null || status=$?
@@ -95,3 +153,18 @@ for ((tries = 0; tries < 100; ++tries)); do
   sleep 0.1
 done
 expect "who has logged out reaches no mixer" 0 "$(reachable guest)"
+
+# The same user from elsewhere: over ssh, and in a service of the system.
+ask_doctor guest SSH_CONNECTION="::1 9 ::1 22"
+expect "the doctor sees that the user came over ssh" \
+  "the rule lets in who sits at this machine, and you came over ssh; this lets \
+guest in from everywhere" "$cause"
+ask_doctor guest
+expect "the doctor sees that it runs in a service" \
+  "the rule lets in who sits at this machine, and guest-command.service sits \
+nowhere; this lets guest in from everywhere" "$cause"
+type_command
+expect "and the one command lets the user set both mixers" \
+  "mixer 1: 40 03 010a 8002 0000
+mixer 2: 40 03 010a 8002 0000" "$(sent_for guest "rec out")"
+expect "but nobody else" 0 "$(reachable nobody)"

@@ -7,6 +7,7 @@
 #include "platform/bundle.h"
 #include "platform/text.h"
 #include "progress.h"
+#include "terminal.h"
 #include "text.h"
 
 namespace ztk::cli {
@@ -56,8 +57,8 @@ void AddFinding(const char *part, const Finding &finding, Report *report) {
        {"command", finding.command}});
   report->text += Padded(part, kColumn) + (finding.isNote ? "note: " : "") +
                   finding.what + "\n" + Padded("", kColumn) +
-                  "cause: " + finding.cause + "\n" + Padded("", kColumn) +
-                  "type:  " + finding.command + "\n";
+                  "cause: " + finding.cause + "\n" + kWhole +
+                  Padded("", kColumn) + "type:  " + finding.command + "\n";
 }
 
 // True when the bundle has the sentences too.
@@ -109,9 +110,9 @@ Findings FindTextTrouble(std::string *good) {
 }
 
 std::string ShellQuoted(const std::string &word) {
-  constexpr char kPlain[] =
+  constexpr char kSafe[] =
       "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_./:=@~-";
-  if (!word.empty() && word.find_first_not_of(kPlain) == std::string::npos) {
+  if (!word.empty() && word.find_first_not_of(kSafe) == std::string::npos) {
     return word;
   }
   std::string quoted = "'";

@@ -2,6 +2,7 @@
 //
 // Why a mixer that is attached cannot be opened on Linux: udev, its rules and
 // the seat give the right, and a container can take the device away.
+#include <pwd.h>
 #include <unistd.h>
 
 #include <array>
@@ -118,15 +119,21 @@ std::string Service() {
   return end == std::string::npos ? "" : unit.substr(0, end) + ".service";
 }
 
-// Has udev read its rules, and apply them as if the mixer was plugged in.
-std::string Replug(const std::string &place) {
-  return "sudo udevadm control --reload && sudo udevadm trigger --action=add " +
-         SysFolder(place);
+// Has udev read its rules, and apply them as if every mixer was plugged in now.
+std::string Replug() {
+  std::array<char, 60> matches{};
+  std::snprintf(matches.data(), matches.size(),
+                "--attr-match=idVendor=%04x --attr-match=idProduct=%04x",
+                static_cast<unsigned>(build::kUsbVendorId),
+                static_cast<unsigned>(usb::kMixerProductId));
+  return std::string(
+             "sudo udevadm control --reload && sudo udevadm trigger "
+             "--action=add --settle --subsystem-match=usb ") +
+         matches.data();
 }
 
-std::string InstallRule(const std::string &rule, const std::string &file,
-                        const std::string &place) {
-  return "echo '" + rule + "' | sudo tee " + file + " && " + Replug(place);
+std::string InstallRule(const std::string &rule, const std::string &file) {
+  return "echo '" + rule + "' | sudo tee " + file + " && " + Replug();
 }
 
 // The rule as udev would find it.
@@ -157,14 +164,13 @@ bool IsTagged(const std::string &place) {
   return false;
 }
 
+// What the environment says is another's after "su", and nobody's in a service.
 std::string UserName() {
-  for (const char *name : {"USER", "LOGNAME"}) {
-    if (const std::string user = Variable(name); !user.empty()) return user;
-  }
-  return std::to_string(geteuid());
+  const passwd *user = getpwuid(geteuid());
+  return user == nullptr ? std::to_string(geteuid()) : user->pw_name;
 }
 
-Finding NoSeat(const std::string &what, const std::string &place) {
+Finding NoSeat(const std::string &what) {
   std::string cause =
       "the rule lets in who sits at this machine, and your session is not the "
       "active one there";
@@ -180,7 +186,7 @@ Finding NoSeat(const std::string &what, const std::string &place) {
   return {.id = "no-seat",
           .what = what,
           .cause = cause + "; this lets " + user + " in from everywhere",
-          .command = InstallRule(rule, kOwnersRule, place)};
+          .command = InstallRule(rule, kOwnersRule)};
 }
 
 Finding NotPermitted(const std::string &what, const std::string &place) {
@@ -189,14 +195,14 @@ Finding NotPermitted(const std::string &what, const std::string &place) {
     return {.id = "rule-missing",
             .what = what,
             .cause = "only root may open it, as no rule lets you",
-            .command = InstallRule(kUdevRule, kOwnRule, place)};
+            .command = InstallRule(kUdevRule, kOwnRule)};
   }
   if (!rule.fits) {
     return {.id = "rule-disabled",
             .what = what,
             .cause = "only root may open it: " + rule.path +
                      " hides the rule that lets you, or is for another mixer",
-            .command = InstallRule(kUdevRule, kOwnRule, place)};
+            .command = InstallRule(kUdevRule, kOwnRule)};
   }
   if (!IsTagged(place)) {
     return {.id = "rule-not-applied",
@@ -204,17 +210,16 @@ Finding NotPermitted(const std::string &what, const std::string &place) {
             .cause =
                 "the rule that lets you in came after the mixer was "
                 "plugged in; this does what plugging it in again does",
-            .command = Replug(place)};
+            .command = Replug()};
   }
-  return NoSeat(what, place);
+  return NoSeat(what);
 }
 
-Finding NoNode(const std::string &what, const std::string &node,
-               const std::string &place) {
+Finding NoNode(const std::string &what, const std::string &node) {
   Finding finding{.id = "no-node",
                   .what = what,
                   .cause = "there is no " + node + "; this has udev make it",
-                  .command = Replug(place)};
+                  .command = Replug()};
   if (const auto container = AroundUs()) {
     finding.cause =
         "this is " + container->name + ", into which " + node + " was not let";
@@ -273,7 +278,7 @@ Finding ExplainUnopened(int mixer, const std::string &place) {
     case Obstacle::NoRight:
       return NotPermitted(what, place);
     case Obstacle::NoNode:
-      return NoNode(what, access.node, place);
+      return NoNode(what, access.node);
     case Obstacle::Forbidden:
       return Forbidden(what, access.node);
     case Obstacle::None:
