@@ -170,6 +170,16 @@ class Linking(unittest.TestCase):
         self.assertEqual(re.findall(r"soname: \[(.*)\]", self.dynamic),
                          ["libZTKFunc.so.1"])
 
+    def test_starts_with_few_other_libraries(self):
+        """Each is loaded and bound at the start of every program that uses
+        this one, whatever it is going to do."""
+        skip_with_instruments(self)
+        needed = re.findall(r"\(NEEDED\)\s+Shared library: \[(.*?)\.so",
+                            self.dynamic)
+        self.assertEqual(
+            sorted(set(needed) - {"libgcc_s", "libm"}),
+            ["libc", "libglib-2.0", "libplist-2.0", "libstdc++"])
+
     def test_code_stays_after_it_is_closed(self):
         self.assertIn("NODELETE", " ".join(self.flags("FLAGS_1")).split())
 

@@ -22,7 +22,8 @@ add_dependencies(library_tests library_child)
 target_include_directories(library_tests PRIVATE ${PROJECT_SOURCE_DIR}/tools)
 target_compile_definitions(library_tests PRIVATE
   ZTK_LIBRARY_CHILD="$<TARGET_FILE:library_child>"
-  ZTK_LIBRARY_FILE="$<TARGET_FILE:ZTKFunc>")
+  ZTK_LIBRARY_FILE="$<TARGET_FILE:ZTKFunc>"
+  $<TARGET_PROPERTY:ztk_platform_linux,COMPILE_DEFINITIONS>)
 target_link_libraries(library_tests PRIVATE
   ZTKFunc ztk_headers ztk_virtual_mixer ztk_test_support
   GTest::gmock GTest::gtest)

@@ -116,6 +116,40 @@ TEST_F(LibraryProcess, WithoutABusEverythingElseWorks) {
             SettingsText({{"Output0", 2}}));
 }
 
+// The library behind the bus is loaded when it is needed. It may be missing, or
+// not be what it is taken for: here something stands in its place.
+TEST_F(LibraryProcess, WithoutSdBusEverythingElseWorks) {
+  struct Row {
+    const char *name;
+    const char *standIn;
+  };
+  const Row rows[] = {{"no library at all", "/dev/null"},
+                      {"a library without its functions", ZTK_LIBRARY_FILE}};
+  PlugMixers(1);
+  Child listener({"listen", "input", "boost"});
+  ASSERT_EQ(listener.ReadLine(), "ready");
+  for (const Row &row : rows) {
+    SCOPED_TRACE(row.name);
+    const std::filesystem::path folder = home_.path() / "libraries";
+    std::filesystem::create_directory(folder);
+    std::filesystem::create_symlink(row.standIn, folder / ZTK_SD_BUS_LIBRARY);
+    Child child({"set-input", "2", "5"}, [&folder] {
+      setenv("LD_LIBRARY_PATH", folder.c_str(), 1);
+      return std::string();
+    });
+    EXPECT_EQ(child.ReadLine(), "100");
+    EXPECT_EQ(child.Finish(), 0);
+    EXPECT_THAT(TakeLog(),
+                ElementsAre("mixer 1: 40 03 0309 8002 0000",
+                            "mixer 1: c0 00 0000 8002 0005 -> 00 04 04 04 04"));
+    std::filesystem::remove_all(folder);
+  }
+  EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6")),
+            SettingsText({{"Output2", 5}}));
+  ZTK_SetBoostLevelIndex(10, 2);
+  EXPECT_EQ(listener.ReadLine(), "boost 2");
+}
+
 TEST_F(LibraryProcess, UnloadedAndThenNotifiedItDoesNotCrash) {
   Child client({"unload", ZTK_LIBRARY_FILE});
   ASSERT_EQ(client.ReadLine(), "ready");

@@ -158,6 +158,13 @@ class Real(Project):
         self.assertTrue(self.made("changelog", ROOT).startswith(
             f"ztkfunc ({VERSION}) "))
 
+    def test_packages_ask_for_what_is_loaded_when_it_is_needed(self):
+        """Nothing in the files themselves tells dpkg-shlibdeps of it."""
+        packages = self.made("control", ROOT).split("\n\n")
+        asking = [package.splitlines()[0] for package in packages
+                  if "Depends: libsystemd0,\n" in package]
+        self.assertEqual(asking, ["Package: libztkfunc1", "Package: ztk"])
+
     def test_symbols_are_those_that_the_library_exports(self):
         exports = [line for line in
                    (ROOT / "src/exports.txt").read_text().splitlines()

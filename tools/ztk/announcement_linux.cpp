@@ -85,12 +85,12 @@ bool BusWitness::Heard(const Announcement &announcement) {
   if (bus == nullptr) return false;
   const std::uint64_t deadline = center::PatienceEnds();
   while (!ear_->Has(announcement)) {
-    const int progress = sd_bus_process(bus, nullptr);
+    const int progress = center::sd_bus_process(bus, nullptr);
     if (progress < 0) return false;
     if (progress > 0) continue;
     const auto now = static_cast<std::uint64_t>(g_get_monotonic_time());
     if (now >= deadline) return false;
-    if (sd_bus_wait(bus, deadline - now) < 0) return false;
+    if (center::sd_bus_wait(bus, deadline - now) < 0) return false;
   }
   return true;
 }

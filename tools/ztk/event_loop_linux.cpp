@@ -70,10 +70,10 @@ LoopEnd RunLoop(void (*ready)()) {
   if (bus == nullptr) return LoopEnd::NoBus;
 
   theLoop = {.loop = g_main_loop_new(nullptr, FALSE), .end = LoopEnd::Stopped};
-  const guint sources[] = {
-      g_unix_signal_add(SIGINT, OnSignal, nullptr),
-      g_unix_signal_add(SIGTERM, OnSignal, nullptr),
-      g_unix_fd_add(sd_bus_get_fd(bus.get()), G_IO_HUP, OnBusGone, nullptr)};
+  const guint sources[] = {g_unix_signal_add(SIGINT, OnSignal, nullptr),
+                           g_unix_signal_add(SIGTERM, OnSignal, nullptr),
+                           g_unix_fd_add(center::sd_bus_get_fd(bus.get()),
+                                         G_IO_HUP, OnBusGone, nullptr)};
   ready();
   g_main_loop_run(theLoop.loop);
   for (const guint source : sources) {

@@ -35,8 +35,8 @@ class Answer {
  public:
   Answer() = default;
   ~Answer() {
-    sd_bus_error_free(&error_);
-    sd_bus_message_unref(message_);
+    center::sd_bus_error_free(&error_);
+    center::sd_bus_message_unref(message_);
   }
   Answer(const Answer &) = delete;
   Answer &operator=(const Answer &) = delete;
@@ -68,9 +68,9 @@ struct UserManager::Connection {
   template <typename... Arguments>
   int Call(const char *method, Answer *answer, const char *types,
            Arguments... arguments) const {
-    return sd_bus_call_method(bus.get(), kService, kObject, kInterface, method,
-                              answer->error(), answer->message(), types,
-                              arguments...);
+    return center::sd_bus_call_method(bus.get(), kService, kObject, kInterface,
+                                      method, answer->error(),
+                                      answer->message(), types, arguments...);
   }
 
   template <typename... Arguments>
@@ -83,7 +83,7 @@ struct UserManager::Connection {
 
 UserManager::UserManager() : connection_(std::make_unique<Connection>()) {
   if (connection_->bus == nullptr) Refuse("there is no session message bus");
-  sd_bus_set_method_call_timeout(connection_->bus.get(), kPatience);
+  center::sd_bus_set_method_call_timeout(connection_->bus.get(), kPatience);
 }
 
 UserManager::~UserManager() = default;
@@ -95,7 +95,7 @@ bool UserManager::Knows(const std::string &unit) {
   if (result == -ENOENT) return false;
   if (result < 0) Refuse(answer.Reason(result));
   const char *state = nullptr;
-  sd_bus_message_read(*answer.message(), "s", &state);
+  center::sd_bus_message_read(*answer.message(), "s", &state);
   return state != nullptr && std::strncmp(state, "linked", 6) == 0;
 }
 

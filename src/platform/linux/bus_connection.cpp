@@ -40,6 +40,7 @@ bool WorkUntil(bool (*reached)(sd_bus *), sd_bus *bus, std::uint64_t deadline) {
 std::uint64_t PatienceEnds() { return Now() + kPatience; }
 
 OwnedBus ConnectToSessionBus(std::uint64_t deadline) {
+  if (SdBus() == nullptr) return nullptr;
   sd_bus *opened = nullptr;
   if (sd_bus_open_user(&opened) < 0) return nullptr;
   OwnedBus bus(opened);

@@ -9,14 +9,14 @@
 #include <cstdint>
 #include <memory>
 
-#include "platform/linux/sd_bus_header.h"
+#include "platform/linux/sd_bus_library.h"
 
 namespace ztk::platform::notification_center {
 
 struct BusCloser {
   void operator()(sd_bus *bus) const {
-    sd_bus_close(bus);
-    sd_bus_unref(bus);
+    SdBus()->sd_bus_close(bus);
+    SdBus()->sd_bus_unref(bus);
   }
 };
 using OwnedBus = std::unique_ptr<sd_bus, BusCloser>;
@@ -28,7 +28,7 @@ inline constexpr std::uint64_t kPatience = 1'000'000;
 std::uint64_t PatienceEnds();
 
 // Connects to the session bus and waits until messages can be sent. Null when
-// there is no bus (at once), or when the deadline passes.
+// there is no bus or no sd-bus (at once), or when the deadline passes.
 OwnedBus ConnectToSessionBus(std::uint64_t deadline);
 
 // Sends the message. Returns when all of it has left this process, the

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/sd_bus_header.h"
+#include "platform/linux/sd_bus_library.h"
 #include "platform/notification_center.h"
 
 namespace ztk::platform::notification_center {

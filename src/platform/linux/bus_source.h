@@ -10,7 +10,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/linux/sd_bus_header.h"
+#include "platform/linux/sd_bus_library.h"
 #include "platform/notification_center.h"
 
 namespace ztk::platform::notification_center {

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+//
+// The functions of sd-bus, whose library is loaded by whoever first wants to
+// say or hear something. It brings six others with it, which would make up a
+// third of the start of every program that only asks a mixer something.
+#ifndef ZTK_PLATFORM_LINUX_SD_BUS_LIBRARY_H_
+#define ZTK_PLATFORM_LINUX_SD_BUS_LIBRARY_H_
+
+#include "platform/linux/sd_bus_header.h"
+
+// All that are used, one a line.
+#define ZTK_FOR_EVERY_SD_BUS_FUNCTION(Do)                                      \
+  Do(sd_bus_add_match) Do(sd_bus_call_method) Do(sd_bus_close)                 \
+      Do(sd_bus_error_free) Do(sd_bus_get_events) Do(sd_bus_get_fd) Do(        \
+          sd_bus_get_n_queued_write) Do(sd_bus_get_timeout) Do(sd_bus_is_open) \
+          Do(sd_bus_is_ready) Do(sd_bus_message_append) Do(                    \
+              sd_bus_message_append_basic) Do(sd_bus_message_close_container)  \
+              Do(sd_bus_message_enter_container) Do(                           \
+                  sd_bus_message_exit_container)                               \
+                  Do(sd_bus_message_has_signature) Do(                         \
+                      sd_bus_message_new_signal)                               \
+                      Do(sd_bus_message_open_container) Do(                    \
+                          sd_bus_message_read) Do(sd_bus_message_read_basic)   \
+                          Do(sd_bus_message_rewind) Do(sd_bus_message_unref)   \
+                              Do(sd_bus_open_user) Do(sd_bus_process)          \
+                                  Do(sd_bus_send)                              \
+                                      Do(sd_bus_set_exit_on_disconnect) Do(    \
+                                          sd_bus_set_method_call_timeout)      \
+                                          Do(sd_bus_slot_set_destroy_callback) \
+                                              Do(sd_bus_slot_set_floating)     \
+                                                  Do(sd_bus_slot_unref)        \
+                                                      Do(sd_bus_unref)         \
+                                                          Do(sd_bus_wait)
+
+namespace ztk::platform::notification_center {
+
+struct SdBusFunctions {
+#define ZTK_DECLARE(name) decltype(&::name) name;
+  ZTK_FOR_EVERY_SD_BUS_FUNCTION(ZTK_DECLARE)
+#undef ZTK_DECLARE
+};
+
+// All of them, for as long as the process lives. Null where the library is
+// missing, lacks one, or cannot be loaded now; then it is tried again at the
+// next call. Any thread may call, and a child after fork().
+const SdBusFunctions *SdBus();
+
+// Each under its own name, which within this namespace means the loaded one;
+// the one that the header declares is not linked with. Not to be called before
+// SdBus() has found them: whoever holds a connection or a message can be sure.
+#define ZTK_DEFINE(name)                               \
+  inline constexpr auto name = [](auto... arguments) { \
+    return SdBus()->name(arguments...);                \
+  };
+ZTK_FOR_EVERY_SD_BUS_FUNCTION(ZTK_DEFINE)
+#undef ZTK_DEFINE
+
+}  // namespace ztk::platform::notification_center
+
+#endif  // ZTK_PLATFORM_LINUX_SD_BUS_LIBRARY_H_
