@@ -53,18 +53,34 @@ std::string ProgramFooter() {
   return Footer(text, kExample);
 }
 
+// What a path starts with: a command, or the group that it is in.
+std::string FirstWord(const std::string &path) {
+  return path.substr(0, path.find(' '));
+}
+
+bool IsFirstWord(const std::string &word) {
+  return std::any_of(
+      Commands().begin(), Commands().end(),
+      [&](const Command &command) { return FirstWord(command.path) == word; });
+}
+
 // The parser made from the table of commands. Nothing is required of it and
 // extra words are let through: what is wrong is said better here.
 class Parser {
  public:
-  Parser() : app_(kAbout, "ztk") {
+  // When the first word leads to a command or group there is no way to another,
+  // so those are left out: making them all takes longer than most commands do.
+  explicit Parser(const std::vector<std::string> &words) : app_(kAbout, "ztk") {
     // The commands take it over.
     app_.formatter(std::make_shared<manual::HelpFormat>(kHelpColumn));
-    Prepare(&app_, ProgramFooter());
+    const bool isClear = !words.empty() && IsFirstWord(words.front());
+    Prepare(&app_, isClear ? "" : ProgramFooter());
     app_.set_version_flag(kVersionOption.names,
                           std::string("ztk ") + build::kVersion,
                           kVersionOption.description);
-    for (const Command &command : Commands()) Add(command);
+    for (const Command &command : Commands()) {
+      if (!isClear || FirstWord(command.path) == words.front()) Add(command);
+    }
   }
 
   // Throws what CLI11 throws.
@@ -285,7 +301,7 @@ Report Run(const std::vector<std::string> &words, Call *call) {
     return Completed({words.begin() + 1, words.end()});
   }
   call->json = AsksForJson(words);
-  Parser parser;
+  Parser parser(words);
   try {
     parser.Parse(words);
   } catch (const CLI::CallForHelp &) {
