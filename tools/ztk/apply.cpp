@@ -7,6 +7,7 @@
 #include "plan.h"
 #include "products.h"
 #include "setting_commands.h"
+#include "settings_snapshot.h"
 
 namespace ztk::cli {
 

@@ -6,6 +6,7 @@
 #include "announcement.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "settings_snapshot.h"
 #include "text.h"
 
 namespace ztk::cli {

@@ -13,6 +13,7 @@
 #include "history.h"
 #include "other_commands.h"
 #include "plan.h"
+#include "settings_snapshot.h"
 
 namespace ztk::cli {
 
@@ -248,10 +249,11 @@ void AddImported(const MadeChange &one, const Reach &reach, Report *report) {
 Report Export(const Arguments & /*arguments*/) {
   Report report;
   Json settings = Json::object();
+  SettingsSnapshot remembered;
   for (const Family *family : Families()) {
     for (std::uint32_t channel = 0; channel < ChannelsToWalk(*family);
          ++channel) {
-      const auto index = Remembered(*family, channel);
+      const auto index = remembered.Remembered(*family, channel);
       if (!index) continue;
       const auto choice = ChoiceAt(*family, channel, *index);
       if (!choice) {

@@ -3,7 +3,6 @@
 
 #include "api/tables.h"
 #include "products.h"
-#include "store/settings_file.h"
 #include "text.h"
 #include "usb/USB.h"
 
@@ -167,14 +166,6 @@ namespace {
 // In the order in which people are told of them.
 constexpr const Family *kFamilies[] = {&kInput, &kOutput, &kBoost, &kMidi};
 
-std::uint32_t Read(const Family &family, std::uint32_t channel,
-                   std::int32_t fallback) {
-  return static_cast<std::uint32_t>(
-      family.channels == 0
-          ? store::Read(family.model, family.key, fallback)
-          : store::ReadChannel(family.model, family.key, channel, fallback));
-}
-
 }  // namespace
 
 std::span<const Family *const> Families() { return kFamilies; }
@@ -223,14 +214,6 @@ std::optional<Choice> ChoiceAt(const Family &family, std::uint32_t channel,
       ChoicesOf(family, family.product, channel);
   if (index >= choices.size()) return std::nullopt;
   return choices[index];
-}
-
-std::optional<std::uint32_t> Remembered(const Family &family,
-                                        std::uint32_t channel) {
-  // What is there reads the same whatever would stand in for it.
-  const std::uint32_t value = Read(family, channel, 0);
-  if (value != Read(family, channel, 1)) return std::nullopt;
-  return value;
 }
 
 std::string DescribedValue(const Family &family, std::uint32_t channel,

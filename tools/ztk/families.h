@@ -88,11 +88,6 @@ std::vector<Choice> ChoicesOf(const Family &family, std::uint32_t product,
 std::optional<Choice> ChoiceAt(const Family &family, std::uint32_t channel,
                                std::uint32_t index);
 
-// The integer in the settings file; none when it holds none. The library's own
-// getter would answer a default then.
-std::optional<std::uint32_t> Remembered(const Family &family,
-                                        std::uint32_t channel);
-
 // "3 Post CH2 Fader", or "77, which is no choice".
 std::string DescribedValue(const Family &family, std::uint32_t channel,
                            std::uint32_t index);

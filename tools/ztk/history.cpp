@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "report.h"
+#include "settings_snapshot.h"
 
 namespace ztk::cli {
 

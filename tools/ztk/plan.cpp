@@ -6,6 +6,7 @@
 
 #include "places.h"
 #include "platform/text.h"
+#include "settings_snapshot.h"
 #include "store/settings_file.h"
 #include "text.h"
 #include "usb/USB.h"

@@ -9,6 +9,7 @@
 #include "pick.h"
 #include "plan.h"
 #include "products.h"
+#include "settings_snapshot.h"
 #include "terminal.h"
 #include "text.h"
 #include "warning.h"

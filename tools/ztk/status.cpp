@@ -6,6 +6,7 @@
 #include "mixers.h"
 #include "other_commands.h"
 #include "progress.h"
+#include "settings_snapshot.h"
 #include "usb/mixers.h"
 
 namespace ztk::cli {
@@ -189,12 +190,13 @@ void AddMixers(Report *report) {
 }
 
 void AddRemembered(Report *report) {
+  SettingsSnapshot settings;
   Json list = Json::array();
   std::string text;
   for (const Family *family : Families()) {
     for (std::uint32_t channel = 0; channel < ChannelsToWalk(*family);
          ++channel) {
-      const auto index = Remembered(*family, channel);
+      const auto index = settings.Remembered(*family, channel);
       if (!index) continue;
       Json fields{{"setting", family->name}, {"model", ModelName(*family)}};
       AddValueFields(*family, channel, *index, &fields);

@@ -5,6 +5,7 @@
 #include "other_commands.h"
 #include "plan.h"
 #include "products.h"
+#include "settings_snapshot.h"
 
 namespace ztk::cli {
 
