@@ -28,6 +28,23 @@ TEST(PlaceOf, HoldsTheBus) {
   }
 }
 
+TEST(NodeOf, NamesBusAndNumberInThreeDigitsAtLeast) {
+  const struct {
+    const char *entry;
+    int number;
+    const char *expected;
+  } rows[] = {{"1-4", 7, "/dev/bus/usb/001/007"},
+              {"12-1.3", 10, "/dev/bus/usb/012/010"},
+              {"usb99", 99, "/dev/bus/usb/099/099"},
+              {"usb100", 100, "/dev/bus/usb/100/100"},
+              {"1000-1", 2147483647, "/dev/bus/usb/1000/2147483647"}};
+  for (const auto &row : rows) {
+    const DeviceFacts facts{
+        .entry = {}, .place = PlaceOf(row.entry), .identity = {}};
+    EXPECT_STREQ(NodeOf(facts, row.number).text, row.expected) << row.entry;
+  }
+}
+
 TEST(ParseDeviceDescriptor, ReadsIdentityAndRefusesOtherDescriptors) {
   std::uint8_t bytes[kDeviceDescriptorLength] = {
       18, 1, 0, 2, 0xEF, 2, 0, 64, 0x66, 0x66, 27, 0, 0, 1, 1, 2, 3, 1};

@@ -4,9 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 
 #include "build_config.h"
@@ -21,21 +19,16 @@ using platform::usb::DeviceFacts;
 
 std::vector<DeviceFacts> Mixers() {
   std::vector<DeviceFacts> devices;
-  platform::usb::ReadBus(&devices);
-  std::erase_if(devices, [](const DeviceFacts &facts) {
-    return facts.identity.vendor != build::kUsbVendorId ||
-           facts.identity.product != usb::kMixerProductId;
-  });
+  platform::usb::ReadBus(
+      {.vendor = build::kUsbVendorId, .product = usb::kMixerProductId},
+      &devices);
   return devices;
 }
 
 std::string NodeOf(const DeviceFacts &facts) {
   const int number = platform::usb::ReadDeviceNumber(facts);
   if (number <= 0) return "";
-  std::array<char, 40> path{};
-  std::snprintf(path.data(), path.size(), "/dev/bus/usb/%03d/%03d",
-                platform::usb::BusOf(facts.place), number);
-  return path.data();
+  return platform::usb::NodeOf(facts, number).text;
 }
 
 Obstacle ObstacleOf(int error) {

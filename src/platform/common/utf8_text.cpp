@@ -3,6 +3,7 @@
 // Texts where ZTKTextRef is UTF-8. A made one is a malloc'ed string.
 #include "platform/text.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -54,6 +55,9 @@ ZTKTextRef Fill(ZTKTextRef format, const Arguments &arguments) {
   std::string filled;
   std::size_t nextText = 0;
   for (std::size_t at = 0; at < pattern.size(); ++at) {
+    const std::size_t percent = std::min(pattern.find('%', at), pattern.size());
+    filled += pattern.substr(at, percent - at);
+    at = percent;
     const std::string_view verb = pattern.substr(at, 2);
     if (verb == "%@") {
       if (nextText < arguments.textCount) {
@@ -65,7 +69,7 @@ ZTKTextRef Fill(ZTKTextRef format, const Arguments &arguments) {
     } else if (verb == "%%") {
       filled += '%';
     } else {
-      filled += pattern[at];
+      filled += verb.substr(0, 1);
       continue;
     }
     ++at;

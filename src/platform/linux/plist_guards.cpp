@@ -14,8 +14,13 @@ namespace {
 using std::string_view;
 
 constexpr string_view kWhiteSpace = " \t\r\n";
-constexpr string_view kNameCharacters =
-    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_:.-";
+
+// Ranges, not a text to be searched: every tag of every file that is read or
+// written goes through here.
+bool IsNameCharacter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
+         (c >= '0' && c <= '9') || c == '_' || c == ':' || c == '.' || c == '-';
+}
 
 bool QuotesPairUp(string_view text) {
   return std::count(text.begin(), text.end(), '"') % 2 == 0;
@@ -48,10 +53,10 @@ Tag KindOf(string_view tag) {
   const bool empty = !tag.empty() && tag.back() == '/';
   if (empty) tag.remove_suffix(1);
 
-  const std::size_t nameEnd = tag.find_first_not_of(kNameCharacters);
-  if (nameEnd == 0 || tag.empty()) return Tag::Odd;
-  if (nameEnd != string_view::npos &&
-      kWhiteSpace.find(tag[nameEnd]) == string_view::npos) {
+  const auto nameEnd =
+      std::find_if_not(tag.begin(), tag.end(), IsNameCharacter);
+  if (nameEnd == tag.begin()) return Tag::Odd;
+  if (nameEnd != tag.end() && kWhiteSpace.find(*nameEnd) == string_view::npos) {
     return Tag::Odd;
   }
   if (closing && empty) return Tag::Odd;

@@ -14,7 +14,6 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include <cstdio>
 #include <cstring>
 #include <new>
 #include <vector>
@@ -23,10 +22,8 @@
 
 namespace ztk::platform::usb {
 
-// What a matching asks for; 0 asks for nothing, as no device has the number.
 struct Matching {
-  std::uint16_t vendor = 0;
-  std::uint16_t product = 0;
+  WantedDevice wanted;
 };
 
 struct PortObject {};
@@ -82,10 +79,7 @@ Code CodeOfErrno(int error) {
 int OpenNode(const DeviceFacts &facts) {
   const int number = ReadDeviceNumber(facts);
   if (number <= 0) return -1;
-  char path[40];
-  std::snprintf(path, sizeof path, "/dev/bus/usb/%03d/%03d", BusOf(facts.place),
-                number);
-  const int node = open(path, O_RDWR | O_CLOEXEC);
+  const int node = open(NodeOf(facts, number).text, O_RDWR | O_CLOEXEC);
   if (node < 0) return -1;
 
   std::uint8_t bytes[kDeviceDescriptorLength];
@@ -119,23 +113,20 @@ Number *MakeNumber(std::int32_t value) {
 void SetMatchingValue(Matching *matching, const char *key, Number *number) {
   const auto value =
       static_cast<std::uint16_t>(reinterpret_cast<std::intptr_t>(number));
-  if (std::strcmp(key, "idVendor") == 0) matching->vendor = value;
-  if (std::strcmp(key, "idProduct") == 0) matching->product = value;
+  if (std::strcmp(key, "idVendor") == 0) matching->wanted.vendor = value;
+  if (std::strcmp(key, "idProduct") == 0) matching->wanted.product = value;
 }
 
 Code FindServices(Port /*port*/, Matching *matching, Iterator *iterator) {
-  const Matching wanted = *matching;
+  const WantedDevice wanted = matching->wanted;
   delete matching;
   *iterator = nullptr;
 
   std::vector<DeviceFacts> found;
-  if (!ReadBus(&found)) return kSuccess;
+  if (!ReadBus(wanted, &found)) return kSuccess;
   auto *snapshot = new IteratorObject;
   snapshot->devices.reserve(found.size());
   for (const DeviceFacts &facts : found) {
-    const DeviceIdentity &identity = facts.identity;
-    if (wanted.vendor != 0 && identity.vendor != wanted.vendor) continue;
-    if (wanted.product != 0 && identity.product != wanted.product) continue;
     snapshot->devices.push_back({.facts = facts});
   }
   *iterator = snapshot;

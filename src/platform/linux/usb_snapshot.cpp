@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
 
@@ -16,24 +17,55 @@ namespace {
 constexpr char kDevices[] = "/sys/bus/usb/devices";
 constexpr std::uint8_t kDeviceDescriptorType = 1;
 
-// Reads the start of an attribute; the number of bytes, 0 on failure. Absolute
-// paths and open(): the attributes of a device that has gone cannot be taken
-// for another one's, because the entry's name says where it is plugged in.
-std::size_t ReadAttribute(const char *entry, const char *attribute, void *bytes,
-                          std::size_t size) {
-  // No snprintf(): this runs for every device on the bus, three times a setter.
-  char path[sizeof kDevices + kLongestEntry + 16];
-  char *end = stpcpy(path, kDevices);
-  *end++ = '/';
-  end = stpcpy(end, entry);
-  *end++ = '/';
-  stpcpy(end, attribute);
-  const int file = open(path, O_RDONLY | O_CLOEXEC);
-  if (file < 0) return 0;
-  const ssize_t got = read(file, bytes, size);
-  close(file);
-  return got < 0 ? 0 : static_cast<std::size_t>(got);
-}
+bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
+// The path of an entry's attributes, changed in place from entry to entry: no
+// snprintf(), as this runs for every device on the bus, three times a setter.
+class AttributePath {
+ public:
+  AttributePath() {
+    std::memcpy(text_, kDevices, sizeof kDevices);
+    text_[kPrefix - 1] = '/';
+  }
+
+  // Takes a name and is true when it is that of a device: interfaces have a ':'
+  // in theirs.
+  bool SetEntry(const char *name) {
+    if (!IsDigit(name[0]) && std::strncmp(name, "usb", 3) != 0) return false;
+    length_ = 0;
+    for (; name[length_] != '\0'; ++length_) {
+      if (name[length_] == ':' || length_ == kLongestEntry) return false;
+      text_[kPrefix + length_] = name[length_];
+    }
+    return true;
+  }
+
+  const char *entry() const { return text_ + kPrefix; }
+  std::size_t length() const { return length_; }
+
+  // Reads the start of an attribute; the number of bytes, 0 on failure.
+  // Absolute paths and open(): the attributes of a device that has gone cannot
+  // be taken for another one's, because the entry's name says where it is
+  // plugged in.
+  template <std::size_t kNameSize>
+  std::size_t Read(const char (&attribute)[kNameSize], void *bytes,
+                   std::size_t size) {
+    static_assert(kNameSize <= kLongestAttribute);
+    std::memcpy(text_ + kPrefix + length_, attribute, kNameSize);
+    const int file = open(text_, O_RDONLY | O_CLOEXEC);
+    if (file < 0) return 0;
+    const ssize_t got = read(file, bytes, size);
+    close(file);
+    return got < 0 ? 0 : static_cast<std::size_t>(got);
+  }
+
+ private:
+  static constexpr std::size_t kPrefix = sizeof kDevices;  // and the '/'
+  static constexpr std::size_t kLongestAttribute = 16;
+
+  char text_[kPrefix + kLongestEntry + kLongestAttribute];
+  std::size_t length_ = 0;
+};
 
 std::uint16_t Number16(const std::uint8_t *bytes, ByteOrder order) {
   std::uint16_t number = 0;
@@ -42,18 +74,16 @@ std::uint16_t Number16(const std::uint8_t *bytes, ByteOrder order) {
   return number;
 }
 
-// Devices only: interfaces have a ':' in their name.
-bool IsDeviceEntry(const char *name) {
-  if (std::strlen(name) > kLongestEntry) return false;
-  if (std::strncmp(name, "usb", 3) == 0) return true;
-  return name[0] >= '0' && name[0] <= '9' && std::strchr(name, ':') == nullptr;
+// Three digits or more, as "%03d" has them; answers their end.
+char *WriteThreeDigits(int number, char *to) {
+  constexpr int kMostDigits = 10;
+  for (int least = 100; least > 1 && number < least; least /= 10) *to++ = '0';
+  return std::to_chars(to, to + kMostDigits, number).ptr;
 }
 
-bool ReadIdentity(const char *entry, DeviceIdentity *identity) {
+bool ReadIdentity(AttributePath *path, DeviceIdentity *identity) {
   std::uint8_t bytes[kDeviceDescriptorLength];
-  const std::size_t got =
-      ReadAttribute(entry, "descriptors", bytes, sizeof bytes);
-  return got == sizeof bytes &&
+  return path->Read("/descriptors", bytes, sizeof bytes) == sizeof bytes &&
          ParseDeviceDescriptor(bytes, ByteOrder::Bus, identity);
 }
 
@@ -73,17 +103,20 @@ bool ParseDeviceDescriptor(const std::uint8_t *bytes, ByteOrder order,
 std::uint64_t PlaceOf(const char *entry) {
   constexpr int kPorts = 6;  // the deepest that USB allows
   constexpr int kPortBits = 8;
-  const char *rest = std::strncmp(entry, "usb", 3) == 0 ? entry + 3 : entry;
+  const bool isRoot = !IsDigit(entry[0]) && std::strncmp(entry, "usb", 3) == 0;
+  const char *rest = isRoot ? entry + 3 : entry;
   std::uint64_t place = 0;
-  for (int i = 0; i <= kPorts; ++i) {
+  int left = kPorts;
+  for (;; --left) {
     std::uint64_t number = 0;
-    while (*rest >= '0' && *rest <= '9') {
+    while (IsDigit(*rest)) {
       number = number * 10 + static_cast<std::uint64_t>(*rest++ - '0');
     }
     place = place << kPortBits | number;
-    if (*rest != '\0') ++rest;
+    if (left == 0 || *rest == '\0') break;
+    ++rest;
   }
-  return place;
+  return place << kPortBits * left;
 }
 
 int BusOf(std::uint64_t place) {
@@ -91,18 +124,20 @@ int BusOf(std::uint64_t place) {
   return static_cast<int>(place >> kBitsOfPorts);
 }
 
-bool ReadBus(std::vector<DeviceFacts> *devices) {
+bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices) {
   DIR *directory = opendir(kDevices);
   if (directory == nullptr) return false;
   constexpr std::size_t kUsualDevices = 32;
-  devices->reserve(kUsualDevices);
+  if (wanted.IsAny()) devices->reserve(kUsualDevices);
+  AttributePath path;
+  DeviceIdentity identity;
   while (const dirent *found = readdir(directory)) {
-    if (!IsDeviceEntry(found->d_name)) continue;
-    DeviceFacts facts;
-    std::memcpy(facts.entry, found->d_name, std::strlen(found->d_name));
-    if (!ReadIdentity(facts.entry, &facts.identity)) continue;
+    if (!path.SetEntry(found->d_name)) continue;
+    if (!ReadIdentity(&path, &identity) || !wanted.Is(identity)) continue;
+    DeviceFacts &facts = devices->emplace_back();
+    std::memcpy(facts.entry, path.entry(), path.length());
     facts.place = PlaceOf(facts.entry);
-    devices->push_back(facts);
+    facts.identity = identity;
   }
   closedir(directory);
   std::sort(devices->begin(), devices->end(),
@@ -114,10 +149,19 @@ bool ReadBus(std::vector<DeviceFacts> *devices) {
 
 int ReadDeviceNumber(const DeviceFacts &facts) {
   char text[16] = {};
-  if (ReadAttribute(facts.entry, "devnum", text, sizeof text - 1) == 0) {
-    return 0;
-  }
+  AttributePath path;
+  if (!path.SetEntry(facts.entry)) return 0;
+  if (path.Read("/devnum", text, sizeof text - 1) == 0) return 0;
   return std::atoi(text);
+}
+
+NodePath NodeOf(const DeviceFacts &facts, int number) {
+  NodePath path;
+  char *end = stpcpy(path.text, "/dev/bus/usb/");
+  end = WriteThreeDigits(BusOf(facts.place), end);
+  *end++ = '/';
+  *WriteThreeDigits(number, end) = '\0';
+  return path;
 }
 
 }  // namespace ztk::platform::usb

@@ -22,6 +22,18 @@ struct DeviceIdentity {
   bool operator==(const DeviceIdentity &) const = default;
 };
 
+// What is asked for; 0 asks for nothing, as no device has the number.
+struct WantedDevice {
+  std::uint16_t vendor = 0;
+  std::uint16_t product = 0;
+
+  bool IsAny() const { return vendor == 0 && product == 0; }
+  bool Is(const DeviceIdentity &identity) const {
+    return (vendor == 0 || identity.vendor == vendor) &&
+           (product == 0 || identity.product == product);
+  }
+};
+
 // Entry names are "usb2" for the root hub of bus 2, and "2-1.4" for the device
 // behind port 4 of the hub at port 1. The kernel limits them to 6 hubs.
 inline constexpr std::size_t kLongestEntry = 31;
@@ -46,13 +58,19 @@ std::uint64_t PlaceOf(const char *entry);
 // The bus of a place.
 int BusOf(std::uint64_t place);
 
-// Lists the devices by place: an order that stays when a mixer is plugged out
-// and in again, which that of device numbers does not. A device that goes away
-// while being read is left out. False when there is no USB.
-bool ReadBus(std::vector<DeviceFacts> *devices);
+// Lists the wanted devices by place: an order that stays when a mixer is
+// plugged out and in again, which that of device numbers does not. A device
+// that goes away while being read is left out. False when there is no USB.
+bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices);
 
 // The number of the device's node on its bus; 0 when it is gone.
 int ReadDeviceNumber(const DeviceFacts &facts);
+
+// The path of the node with that number, which is above 0.
+struct NodePath {
+  char text[40];
+};
+NodePath NodeOf(const DeviceFacts &facts, int number);
 
 }  // namespace ztk::platform::usb
 
