@@ -10,8 +10,9 @@ constexpr std::size_t kLongestQuotation = 60;  // bytes
 constexpr ExitMeaning kExitMeanings[] = {
     {.exit = ExitCode::Done,
      .word = "",
-     .text = "done: every mixer that was sent something answered, and what was\n"
-             "set is remembered; there may be a warning all the same"},
+     .text =
+         "done: every mixer that was sent something answered, and what was\n"
+         "set is remembered; there may be a warning all the same"},
     {.exit = ExitCode::Found,
      .word = "found",
      .text = "ztk doctor has found a problem"},

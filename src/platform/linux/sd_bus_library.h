@@ -8,29 +8,42 @@
 
 #include "platform/linux/sd_bus_header.h"
 
-// All that are used, one a line.
-#define ZTK_FOR_EVERY_SD_BUS_FUNCTION(Do)                                      \
-  Do(sd_bus_add_match) Do(sd_bus_call_method) Do(sd_bus_close)                 \
-      Do(sd_bus_error_free) Do(sd_bus_get_events) Do(sd_bus_get_fd) Do(        \
-          sd_bus_get_n_queued_write) Do(sd_bus_get_timeout) Do(sd_bus_is_open) \
-          Do(sd_bus_is_ready) Do(sd_bus_message_append) Do(                    \
-              sd_bus_message_append_basic) Do(sd_bus_message_close_container)  \
-              Do(sd_bus_message_enter_container) Do(                           \
-                  sd_bus_message_exit_container)                               \
-                  Do(sd_bus_message_has_signature) Do(                         \
-                      sd_bus_message_new_signal)                               \
-                      Do(sd_bus_message_open_container) Do(                    \
-                          sd_bus_message_read) Do(sd_bus_message_read_basic)   \
-                          Do(sd_bus_message_rewind) Do(sd_bus_message_unref)   \
-                              Do(sd_bus_open_user) Do(sd_bus_process)          \
-                                  Do(sd_bus_send)                              \
-                                      Do(sd_bus_set_exit_on_disconnect) Do(    \
-                                          sd_bus_set_method_call_timeout)      \
-                                          Do(sd_bus_slot_set_destroy_callback) \
-                                              Do(sd_bus_slot_set_floating)     \
-                                                  Do(sd_bus_slot_unref)        \
-                                                      Do(sd_bus_unref)         \
-                                                          Do(sd_bus_wait)
+// All that are used.
+// clang-format off
+#define ZTK_FOR_EVERY_SD_BUS_FUNCTION(Do) \
+  Do(sd_bus_add_match)                    \
+  Do(sd_bus_call_method)                  \
+  Do(sd_bus_close)                        \
+  Do(sd_bus_error_free)                   \
+  Do(sd_bus_get_events)                   \
+  Do(sd_bus_get_fd)                       \
+  Do(sd_bus_get_n_queued_write)           \
+  Do(sd_bus_get_timeout)                  \
+  Do(sd_bus_is_open)                      \
+  Do(sd_bus_is_ready)                     \
+  Do(sd_bus_message_append)               \
+  Do(sd_bus_message_append_basic)         \
+  Do(sd_bus_message_close_container)      \
+  Do(sd_bus_message_enter_container)      \
+  Do(sd_bus_message_exit_container)       \
+  Do(sd_bus_message_has_signature)        \
+  Do(sd_bus_message_new_signal)           \
+  Do(sd_bus_message_open_container)       \
+  Do(sd_bus_message_read)                 \
+  Do(sd_bus_message_read_basic)           \
+  Do(sd_bus_message_rewind)               \
+  Do(sd_bus_message_unref)                \
+  Do(sd_bus_open_user)                    \
+  Do(sd_bus_process)                      \
+  Do(sd_bus_send)                         \
+  Do(sd_bus_set_exit_on_disconnect)       \
+  Do(sd_bus_set_method_call_timeout)      \
+  Do(sd_bus_slot_set_destroy_callback)    \
+  Do(sd_bus_slot_set_floating)            \
+  Do(sd_bus_slot_unref)                   \
+  Do(sd_bus_unref)                        \
+  Do(sd_bus_wait)
+// clang-format on
 
 namespace ztk::platform::notification_center {
 
