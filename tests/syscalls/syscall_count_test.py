@@ -9,7 +9,12 @@ at once. system_calls.py tells what is counted and what is left out, so that
 the numbers are those of a machine with real devices.
 """
 
+import os
+import pathlib
+import re
+import subprocess
 import sys
+import tempfile
 import unittest
 
 BENCH_FOLDER, BIN_FOLDER = sys.argv[1:3]
@@ -87,6 +92,20 @@ class Setter(unittest.TestCase):
     def test_does_not_grow_but_by_nine_calls_a_device(self):
         fewer = library_calls("set", other_devices=10)
         self.assertEqual(len(self.calls) - len(fewer), 9)
+
+
+class Status(unittest.TestCase):
+    def test_reads_each_settings_file_once(self):
+        with tempfile.TemporaryDirectory() as home:
+            environment = {"HOME": home, "PATH": os.environ["PATH"]}
+            trace = pathlib.Path(home) / "trace"
+            subprocess.run(
+                ["strace", "-qq", "-o", trace, "-e", "trace=open,openat",
+                 pathlib.Path(BIN_FOLDER) / "ztk", "status"],
+                check=True, env=environment, stdout=subprocess.DEVNULL)
+            opened = re.findall(r"tarvix\.([\w-]+)autosetup\.plist",
+                                trace.read_text())
+        self.assertEqual(sorted(opened), ["VRM-B5", "VRM-D6", "VRM-K2"])
 
 
 class Floor(unittest.TestCase):
