@@ -54,7 +54,9 @@ bool WriteOutput(const std::string &text) {
 }
 
 void WriteError(const std::string &line) {
-  WriteAll(STDERR_FILENO, "ztk: " + OneLine(line) + "\n");
+  WriteAll(STDERR_FILENO,
+           LaidOut("ztk: " + OneLine(line) + "\n",
+                   {.columns = Columns(STDERR_FILENO), .standsOut = false}));
 }
 
 int Print(const std::string &command, const Report &report, bool json) {

@@ -20,7 +20,8 @@ void PrepareStreams();
 // False when not all of it could be written.
 bool WriteOutput(const std::string &text);
 
-// A line on the error stream; nobody is left to tell when that fails.
+// A line on the error stream, which only a terminal may break, between words;
+// nobody is left to tell when that fails.
 void WriteError(const std::string &line);
 
 // Writes the report, in the form asked for, and answers the exit status.

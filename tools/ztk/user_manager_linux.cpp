@@ -54,9 +54,9 @@ class Answer {
 
 [[noreturn]] void Refuse(const std::string &reason) {
   throw Failure(ExitCode::Failed,
-                "the systemd of your session does not do it (" +
+                "autoapply needs the systemd of your session, which fails (" +
                     OneLine(reason) +
-                    "); without it, run 'ztk apply' after plugging in");
+                    "); instead, run 'ztk apply' after plugging in");
 }
 
 }  // namespace
