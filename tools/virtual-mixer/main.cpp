@@ -19,6 +19,8 @@
 #include "manual/described.h"
 #include "manual/help_format.h"
 #include "world_options.h"
+#include "ztk/nearest.h"
+#include "ztk/report.h"
 #include "ztk/terminal.h"
 
 namespace {
@@ -120,29 +122,62 @@ class Parser {
                                   ztk::cli::Columns(STDOUT_FILENO));
   }
 
-  // What was wrong, and what is accepted instead.
+  // What was wrong, the nearest right word, and what is accepted instead.
   std::string Explain(const CLI::ParseError &error) const {
     const std::vector<CLI::App *> chosen = app_.get_subcommands();
-    const std::vector<std::string> extra = app_.remaining(true);
+    const std::string extra = FirstExtra();
+    if (chosen.empty() && extra.starts_with('-')) {
+      return "no option " + ztk::cli::Quoted(extra) +
+             ztk::cli::NearestAndAccepted(extra, OptionsOf(app_)) +
+             "; see ztk-virtual-mixer --help";
+    }
     if (chosen.empty()) {
-      std::string accepted;
+      std::vector<std::string> accepted;
       for (const Command &command : Commands()) {
-        accepted += (accepted.empty() ? "" : ", ") + command.text.path;
+        accepted.push_back(command.text.path);
       }
-      return (extra.empty() ? "no command is given"
-                            : "unknown command \"" + extra.front() + "\"") +
-             "; accepted: " + accepted;
+      if (extra.empty()) {
+        return "no command is given; accepted: " + ztk::cli::Listed(accepted);
+      }
+      return "unknown command " + ztk::cli::Quoted(extra) +
+             ztk::cli::NearestAndAccepted(extra, accepted);
     }
     const std::string name = chosen.front()->get_name();
-    const bool forgotten = (name == "run" || name == "serve") &&
-                           !extra.empty() && extra.front()[0] != '-';
-    return error.what() +
-           std::string(forgotten ? "; put \"--\" before the command, see "
-                                 : "; see ") +
-           "ztk-virtual-mixer " + name + " --help";
+    const std::string help = "see ztk-virtual-mixer " + name + " --help";
+    if (extra.empty()) return error.what() + ("; " + help);
+    if (extra.starts_with('-')) {
+      return "no option " + ztk::cli::Quoted(extra) + " after \"" + name +
+             "\"" +
+             ztk::cli::NearestAndAccepted(extra, OptionsOf(*chosen.front())) +
+             "; " + help;
+    }
+    const bool forgotten = name == "run" || name == "serve";
+    return "one word too many after \"" + name +
+           "\": " + ztk::cli::Quoted(extra) +
+           (forgotten ? "; put \"--\" before the command, " : "; ") + help;
   }
 
  private:
+  // The first word that nothing took, an option before others: what stands
+  // behind it may have been its value.
+  std::string FirstExtra() const {
+    const std::vector<std::string> extra = app_.remaining(true);
+    for (const std::string &word : extra) {
+      if (word.starts_with('-')) return word;
+    }
+    return extra.empty() ? "" : extra.front();
+  }
+
+  static std::vector<std::string> OptionsOf(const CLI::App &app) {
+    std::vector<std::string> names;
+    for (const CLI::Option *option : app.get_options()) {
+      for (const std::string &name : option->get_lnames()) {
+        names.push_back("--" + name);
+      }
+    }
+    return names;
+  }
+
   void Add(const Command &command) {
     CLI::App *const app =
         app_.add_subcommand(command.text.path, command.text.summary);
