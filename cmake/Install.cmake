@@ -91,9 +91,13 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   endif()
 endif()
 
+# Laid out as here, so that the links between them lead somewhere.
 install(FILES
   ${PROJECT_SOURCE_DIR}/LICENSE
   ${PROJECT_SOURCE_DIR}/README.md
   ${PROJECT_SOURCE_DIR}/CHANGELOG.md
-  ${PROJECT_SOURCE_DIR}/docs/ztk.schema.json
+  ${PROJECT_SOURCE_DIR}/CONTRIBUTING.md
   DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs
+  DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents
+  FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.json)

@@ -119,11 +119,20 @@ sources() {
     \( -name '*.h' -o -name '*.c' -o -name '*.cpp' -o -name '*.mm' \) | sort
 }
 
+# Copies those of the files named on standard input that there are.
+copy_files() {  # folder
+  mkdir -p "$1"
+  while IFS= read -r -d '' file; do
+    [[ ! -e $file && ! -L $file ]] || printf '%s\0' "$file"
+  done | tar --null -T - -c | tar -x -C "$1"
+}
+
 # The files of the work tree, committed or not, without what git ignores.
 copy_work_tree() {  # folder
-  mkdir -p "$1"
-  git ls-files -co --exclude-standard -z |
-    while IFS= read -r -d '' file; do
-      [[ ! -e $file && ! -L $file ]] || printf '%s\0' "$file"
-    done | tar --null -T - -c | tar -x -C "$1"
+  git ls-files -co --exclude-standard -z | copy_files "$1"
+}
+
+# The files that git knows, with changes that are not committed yet.
+copy_known_files() {  # folder
+  git ls-files -z | copy_files "$1"
 }

@@ -41,7 +41,8 @@ files() {
   expect "12" "$(find "$PREFIX/share/tarvix" -name Localizable.strings |
     wc -l)" "Installed languages"
   local file
-  for file in LICENSE README.md CHANGELOG.md ztk.schema.json; do
+  for file in LICENSE README.md CHANGELOG.md CONTRIBUTING.md \
+    docs/ztk.schema.json docs/architecture.md docs/architecture.svg; do
     [[ -s $PREFIX/share/doc/ZTKFunc/$file ]] || fail "$file is not installed."
   done
 }
@@ -57,6 +58,29 @@ cmake_package() {
   # CMake links with a run path.
   "$folder/consumer_c"
   "$folder/consumer_cpp"
+}
+
+readme_block() {  # start of the first line
+  awk -v start="\`\`\`$1" 'index($0, start) == 1 { on = 1; next }
+    /^```/ { on = 0 } on' "$SOURCE/README.md"
+}
+
+# README's program with README's lines for CMake.
+readme() {
+  local folder=$WORK/from-readme
+  rm -rf "$folder"
+  mkdir "$folder"
+  readme_block c\  >"$folder/my_program.c"
+  {
+    echo 'cmake_minimum_required(VERSION 3.25)'
+    echo 'project(my_program C)'
+    echo 'add_executable(my_program my_program.c)'
+    readme_block cmake
+  } >"$folder/CMakeLists.txt"
+  "$CMAKE" -S "$folder" -B "$folder/build" -DCMAKE_PREFIX_PATH="$PREFIX" \
+    -DCMAKE_C_COMPILER="$CC" -DCMAKE_C_FLAGS="$flags"
+  "$CMAKE" --build "$folder/build"
+  [[ -x $folder/build/my_program ]] || fail "README's program is not there."
 }
 
 with_pkg_config() {
