@@ -93,8 +93,11 @@ TEST_F(KernelPrograms, TheRunningMixersObeyTheControlCommands) {
       "$V show | head -1");
   EXPECT_THAT(output, HasSubstr("CH2 16"));
   EXPECT_THAT(output, HasSubstr("\n  Serato        active\n"
+                                "1 mixer: unplugged\n"
                                 "No mixer is attached\n"
+                                "1 mixer: plugged in\n"
                                 "Mixer 1 is reachable\n"
+                                "1 mixer: fault delay:20\n"
                                 "  certification level 1\n"));
   EXPECT_THAT(output, EndsWith("mixer 1  bus id 1-1  attached\nstatus 0"));
 }

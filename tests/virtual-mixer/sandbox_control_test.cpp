@@ -24,7 +24,9 @@ TEST_F(Control, TurnsSelectorsOfOneOrOfAllMixers) {
       Inside({"-n", "2"},
              "$TOOL turn 1 3; $TOOL turn --mixer 2 4 17; $PROBE read 1 8002 5; "
              "$PROBE read 2 8002 5");
-  EXPECT_EQ(result.out, "5: 00 03 04 04 04\n5: 00 03 04 04 11\n");
+  EXPECT_EQ(result.out,
+            "2 mixers: channel 1 at position 3\nmixer 2: channel 4 at position "
+            "17\n5: 00 03 04 04 04\n5: 00 03 04 04 11\n");
   EXPECT_EQ(result.err, "");
 }
 
@@ -36,8 +38,9 @@ TEST_F(Control, AddsAndEndsFaults) {
       "$TOOL fault stall; $PROBE read 2 8001 1; $TOOL fault none; "
       "$PROBE read 2 8001 1");
   EXPECT_THAT(SplitLines(result.out),
-              ElementsAre("1: 00", "EPIPE: ee", "EPIPE: ee", "1: 00",
-                          "EPIPE: ee", "1: 36"));
+              ElementsAre("mixer 1: fault stall@8002*2", "1: 00", "EPIPE: ee",
+                          "EPIPE: ee", "1: 00", "2 mixers: fault stall",
+                          "EPIPE: ee", "2 mixers: no faults", "1: 36"));
 }
 
 TEST_F(Control, ChangesReplies) {
@@ -45,7 +48,8 @@ TEST_F(Control, ChangesReplies) {
       Inside({"--reply", "8004=0100"},
              "$PROBE read 1 8004 2; $TOOL reply 8004 0200; "
              "$PROBE read 1 8004 2");
-  EXPECT_EQ(result.out, "2: 01 00\n2: 02 00\n");
+  EXPECT_EQ(result.out,
+            "2: 01 00\n1 mixer: register 8004 replies 0200\n2: 02 00\n");
 }
 
 TEST_F(Control, UnplugsAndPlugsInWithTheStateKept) {
@@ -56,7 +60,9 @@ TEST_F(Control, UnplugsAndPlugsInWithTheStateKept) {
              "$TOOL plug; $PROBE list; $PROBE read 1 8002 5");
   EXPECT_THAT(
       SplitLines(result.out),
-      ElementsAre("001/001 usb1 1d6b:0002", "001/003 1-2 6666:001b", "no node",
+      ElementsAre("2 mixers: channel 1 at position 3", "mixer 1: unplugged",
+                  "mixer 1: unplugged", "001/001 usb1 1d6b:0002",
+                  "001/003 1-2 6666:001b", "no node", "2 mixers: plugged in",
                   "001/001 usb1 1d6b:0002", "001/002 1-1 6666:001b",
                   "001/003 1-2 6666:001b", "5: 00 03 04 04 04"));
   EXPECT_EQ(result.err, "");
@@ -68,7 +74,9 @@ TEST_F(Control, LeavesAnOpenNodeDeadWhenTheMixerComesBack) {
       "mkfifo $DIR/go; $PROBE hold 1 <$DIR/go >$DIR/held & exec 3>$DIR/go; "
       "until grep -q open $DIR/held; do sleep 0.01; done; $TOOL unplug; "
       "$TOOL plug; echo >&3; wait; cat $DIR/held; $PROBE read 1 8001 2");
-  EXPECT_EQ(result.out, "open\nENODEV: ee ee\n2: 36 04\n");
+  EXPECT_EQ(result.out,
+            "1 mixer: unplugged\n1 mixer: plugged in\nopen\nENODEV: ee ee\n2: "
+            "36 04\n");
   EXPECT_THAT(Lines("log"),
               ElementsAre("mixer 1: c0 00 0000 8001 0002 -> gone",
                           "mixer 1: c0 00 0000 8001 0002 -> 36 04"));
@@ -81,7 +89,8 @@ TEST_F(Control, ShowsTheStateForPeople) {
              "$TOOL unplug --mixer 2; $TOOL show");
   EXPECT_THAT(
       SplitLines(result.out),
-      ElementsAre("0", "mixer 1  bus 1 device 2", "  selectors  4 4 4 4",
+      ElementsAre("0", "mixer 1: fault stall*2", "mixer 2: unplugged",
+                  "mixer 1  bus 1 device 2", "  selectors  4 4 4 4",
                   "  replies    8001: 36 04, 8002: 00 04 04 04 04, 8004: 00 "
                   "00, 8006: 00 00, 8007: 00 00 00 01",
                   "  written    8002: 0206, 8003: -, 8004: -, 8005: -, 8016: "
@@ -93,10 +102,10 @@ TEST_F(Control, ShowsTheStateForPeople) {
 }
 
 TEST_F(Control, ShowsTheStateAsJson) {
-  const ToolResult result =
-      Inside({"--other-devices", "2"},
-             "$PROBE write 1 8003 0300; $TOOL fault silence; $TOOL show "
-             "--json");
+  const ToolResult result = Inside(
+      {"--other-devices", "2"},
+      "$PROBE write 1 8003 0300; $TOOL fault silence >$DIR/said; $TOOL show "
+      "--json");
   EXPECT_EQ(
       SplitLines(result.out).at(1),
       R"({"mixers":[{"number":1,"pluggedIn":true,"forbidden":false,"bus":1,)"
@@ -118,7 +127,7 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
       {{"turn", "1", "256"}, 2, "bad position \"256\"; accepted: 0 to 255"},
       {{"turn", "1"},
        2,
-       "position is required; see ztk-virtual-mixer turn "
+       "POSITION is required; see ztk-virtual-mixer turn "
        "--help"},
       {{"turn", "-m", "0", "1", "3"}, 2, "bad mixer \"0\"; accepted: 1 to 32"},
       {{"fault", "x"}, 2, "unknown fault \"x\"; accepted: stall, silence"},
@@ -160,6 +169,10 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
   }
 }
 
+TEST_F(Control, SaysWhatIsTrueOfNoMixer) {
+  EXPECT_EQ(Inside({"-n", "0"}, "$TOOL unplug").out, "no mixer: unplugged\n");
+}
+
 TEST_F(Control, RefusesAMixerThatIsNotThere) {
   const ToolResult result = Inside({}, "$TOOL turn --mixer 2 1 3");
   EXPECT_EQ(result.status, 1);
@@ -178,6 +191,12 @@ TEST_F(Control, HasHelpWithAnExampleForEachCommand) {
         result.out,
         HasSubstr(std::string("Example: ztk-virtual-mixer ") + command));
   }
+  EXPECT_THAT(Tool({"turn", "--help"}).out,
+              HasSubstr("turn [OPTIONS] CHANNEL POSITION\n"));
+  EXPECT_THAT(Tool({"reply", "--help"}).out,
+              HasSubstr("reply [OPTIONS] REGISTER BYTES\n"));
+  EXPECT_THAT(Tool({"fault", "--help"}).out,
+              HasSubstr("fault [OPTIONS] FAULT\n"));
   EXPECT_THAT(Tool({"--version"}).out, EndsWith(" " ZTK_VERSION "\n"));
 }
 

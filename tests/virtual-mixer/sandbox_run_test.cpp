@@ -58,7 +58,7 @@ TEST_F(Running, LastsUntilTheLastChildHasEnded) {
       Inside({},
              "(while kill -0 $$ 2>/dev/null; do sleep 0.01; done; "
              "$TOOL turn 1 3; $PROBE read 1 8002 2) & exit 4");
-  EXPECT_EQ(result.out, "2: 00 03\n");
+  EXPECT_EQ(result.out, "1 mixer: channel 1 at position 3\n2: 00 03\n");
   EXPECT_EQ(result.status, 4);
   EXPECT_THAT(LeftBehind(), IsEmpty());
 }
@@ -163,7 +163,7 @@ TEST_F(Running, StartsTheUsersShellWithoutACommand) {
 TEST_F(Running, FindsItsOwnFolderInside) {
   EXPECT_EQ(
       Inside({}, "ztk-virtual-mixer turn 1 2 && $PROBE read 1 8002 2").out,
-      "2: 00 02\n");
+      "1 mixer: channel 1 at position 2\n2: 00 02\n");
 }
 
 }  // namespace

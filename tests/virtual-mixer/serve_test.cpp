@@ -48,7 +48,10 @@ TEST_F(Serve, TakesTheSameCommandsAsASandbox) {
   EXPECT_EQ(result.err, "");
   EXPECT_THAT(
       SplitLines(result.out),
-      ElementsAre("mixer 1  bus id 1-1", "  selectors  4 4 4 17",
+      ElementsAre("mixer 1: channel 4 at position 17",
+                  "mixer 2: fault stall@8002*2",
+                  "mixer 1: register 8004 replies 0100", "mixer 2: unplugged",
+                  "mixer 1  bus id 1-1", "  selectors  4 4 4 17",
                   "  replies    8001: 36 04, 8002: 00 04 04 04 11, 8004: 01 00"
                   ", 8006: 00 00, 8007: 00 00 00 01",
                   "  written    8002: -, 8003: -, 8004: -, 8005: -, 8016: -",

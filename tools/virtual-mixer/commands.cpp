@@ -52,6 +52,12 @@ std::string Ask(const std::string &line) {
   return answer.size() > 3 ? answer.substr(3) : "";
 }
 
+// Which mixers, as the world answers, and what is true of them now.
+int Tell(const std::string &mixers, const std::string &what) {
+  std::cout << mixers << ": " << what << "\n";
+  return 0;
+}
+
 // The world checks again; here, a slip is known before it is asked.
 unsigned Number(const char *what, const std::string &text, unsigned least,
                 unsigned most) {
@@ -115,31 +121,29 @@ int RunServe(const Words &words) {
 
 int RunTurn(const Words &words) {
   const std::string mixer = Mixer(words);
-  const std::string channel = words.One("channel");
-  const std::string position = words.One("position");
+  const std::string channel = words.One("CHANNEL");
+  const std::string position = words.One("POSITION");
   Number("channel", channel, 1, 4);
   Number("position", position, 0, 255);
   std::string line = "turn " + mixer;
   for (const std::string &word : {channel, position}) line += " " + word;
-  Ask(line);
-  return 0;
+  return Tell(Ask(line), "channel " + channel + " at position " + position);
 }
 
 int RunFault(const Words &words) {
   const std::string mixer = Mixer(words);
-  const std::string fault = words.One("fault");
+  const std::string fault = words.One("FAULT");
   std::string error;
   if (fault != "none" && !ParseFault(fault, &error)) throw UsageError(error);
   std::string line = "fault " + mixer;
   line += " " + fault;
-  Ask(line);
-  return 0;
+  return Tell(Ask(line), fault == "none" ? "no faults" : "fault " + fault);
 }
 
 int RunReply(const Words &words) {
   const std::string mixer = Mixer(words);
-  const std::string number = words.One("register");
-  const std::string bytes = words.One("bytes");
+  const std::string number = words.One("REGISTER");
+  const std::string bytes = words.One("BYTES");
   if (!ParseRegister(number)) {
     throw UsageError("bad register \"" + number +
                      "\"; accepted: 8001, 8002, 8004, 8006, 8007");
@@ -150,19 +154,31 @@ int RunReply(const Words &words) {
   }
   std::string line = "reply " + mixer;
   for (const std::string &word : {number, bytes}) line += " " + word;
-  Ask(line);
-  return 0;
+  return Tell(Ask(line), "register " + number + " replies " + bytes);
 }
 
-template <const char *const &kName>
+// The commands that need no more than a mixer.
+struct Simple {
+  const char *name;
+  const char *summary;
+  const char *done;
+};
+constexpr Simple kPlug{
+    .name = "plug", .summary = "Attach mixers", .done = "plugged in"};
+constexpr Simple kUnplug{
+    .name = "unplug", .summary = "Detach mixers", .done = "unplugged"};
+constexpr Simple kForbid{.name = "forbid",
+                         .summary = "Forbid opening mixers",
+                         .done = "may not be opened"};
+constexpr Simple kAllow{.name = "allow",
+                        .summary = "Allow opening them again",
+                        .done = "may be opened"};
+
+template <const Simple &kSimple>
 int RunSimple(const Words &words) {
-  Ask(std::string(kName) + " " + Mixer(words));
-  return 0;
+  return Tell(Ask(std::string(kSimple.name) + " " + Mixer(words)),
+              kSimple.done);
 }
-constexpr const char *kPlug = "plug";
-constexpr const char *kUnplug = "unplug";
-constexpr const char *kForbid = "forbid";
-constexpr const char *kAllow = "allow";
 
 int RunShow(const Words &words) {
   const std::string state = Ask("show");
@@ -301,7 +317,7 @@ Command MakeTurn() {
   return {.text = {.path = "turn",
                    .summary = "Turn an input selector (inside run or serve)",
                    .options = {MixerText(),
-                               Offering({.names = "channel",
+                               Offering({.names = "CHANNEL",
                                          .value = "",
                                          .description = "Channel, 1 to 4",
                                          .required = true},
@@ -309,7 +325,7 @@ Command MakeTurn() {
                                          {.word = "2", .meaning = "CH2"},
                                          {.word = "3", .meaning = "CH3"},
                                          {.word = "4", .meaning = "CH4"}}),
-                               {.names = "position",
+                               {.names = "POSITION",
                                 .value = "",
                                 .description = "Position, 0 to 255",
                                 .required = true}},
@@ -326,7 +342,7 @@ Command MakeFault() {
                .summary =
                    "Make mixers misbehave, or stop it (inside run or serve)",
                .options = {MixerText(),
-                           Offering({.names = "fault",
+                           Offering({.names = "FAULT",
                                      .value = "",
                                      .description =
                                          "FAULT as below; none ends all faults",
@@ -343,7 +359,7 @@ Command MakeReply() {
                        "Change what a register replies (inside run or serve)",
                    .options = {MixerText(),
                                Offering(
-                                   {.names = "register",
+                                   {.names = "REGISTER",
                                     .value = "",
                                     .description =
                                         "8001 firmware, 8002 selectors, 8004 "
@@ -351,7 +367,7 @@ Command MakeReply() {
                                         "level",
                                     .required = true},
                                    Registers()),
-                               {.names = "bytes",
+                               {.names = "BYTES",
                                 .value = "",
                                 .description = "1 to 64 pairs of digits",
                                 .required = true}},
@@ -360,15 +376,16 @@ Command MakeReply() {
           .run = RunReply};
 }
 
-// The commands that need no more than a mixer.
-Command MakeSimple(const std::string &name, const std::string &summary,
-                   int (*run)(const Words &)) {
+template <const Simple &kSimple>
+Command MakeSimple() {
+  const std::string name = kSimple.name;
   return {.text = {.path = name,
-                   .summary = summary + " (inside run or serve)",
+                   .summary =
+                       std::string(kSimple.summary) + " (inside run or serve)",
                    .options = {MixerText()},
                    .note = "",
                    .examples = {"ztk-virtual-mixer " + name + " --mixer 1"}},
-          .run = run};
+          .run = RunSimple<kSimple>};
 }
 
 Command MakeShow() {
@@ -386,17 +403,16 @@ Command MakeShow() {
 }  // namespace
 
 const std::vector<Command> &Commands() {
-  static const std::vector<Command> commands{
-      MakeRun(),
-      MakeServe(),
-      MakeTurn(),
-      MakeFault(),
-      MakeReply(),
-      MakeSimple("plug", "Attach mixers", RunSimple<kPlug>),
-      MakeSimple("unplug", "Detach mixers", RunSimple<kUnplug>),
-      MakeSimple("forbid", "Forbid opening mixers", RunSimple<kForbid>),
-      MakeSimple("allow", "Allow opening them again", RunSimple<kAllow>),
-      MakeShow()};
+  static const std::vector<Command> commands{MakeRun(),
+                                             MakeServe(),
+                                             MakeTurn(),
+                                             MakeFault(),
+                                             MakeReply(),
+                                             MakeSimple<kPlug>(),
+                                             MakeSimple<kUnplug>(),
+                                             MakeSimple<kForbid>(),
+                                             MakeSimple<kAllow>(),
+                                             MakeShow()};
   return commands;
 }
 

@@ -54,6 +54,13 @@ std::vector<int> ChosenMixers(const MixerWorld &world,
   return {static_cast<int>(*number)};
 }
 
+// The mixers that were chosen by this word, as people are told of them.
+std::string Named(const std::string &word, std::size_t count) {
+  if (word != "all") return "mixer " + word;
+  if (count == 0) return "no mixer";
+  return std::to_string(count) + (count == 1 ? " mixer" : " mixers");
+}
+
 void Turn(MixerWorld *world, int mixer, const Words &words) {
   const auto channel = ParseNumber(words[2], 1, kSelectors);
   const auto position = ParseNumber(words[3], 0, 255);
@@ -172,10 +179,9 @@ std::string Run(MixerWorld *world, const Words &words) {
     if (command.words != words.size()) {
       throw Refusal("the form is: " + std::string(command.usage));
     }
-    for (const int mixer : ChosenMixers(*world, words[1])) {
-      command.run(world, mixer, words);
-    }
-    return "ok";
+    const std::vector<int> mixers = ChosenMixers(*world, words[1]);
+    for (const int mixer : mixers) command.run(world, mixer, words);
+    return "ok " + Named(words[1], mixers.size());
   }
   throw Refusal(
       "unknown command; accepted: turn, fault, reply, plug, unplug, forbid, "

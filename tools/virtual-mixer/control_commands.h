@@ -10,8 +10,9 @@
 //   forbid M   allow M        refuse to open its node, or allow it again
 //   show                      the state of everything
 //
-// M is a mixer's number, from 1, or "all". The answer is one line too: "ok",
-// "ok " and the state as JSON, or "error " and what was wrong.
+// M is a mixer's number, from 1, or "all". The answer is one line too: "ok" and
+// the mixers that it was done to or, of "show", the state as JSON; or "error"
+// and what was wrong.
 #ifndef ZTK_VIRTUAL_MIXER_CONTROL_COMMANDS_H_
 #define ZTK_VIRTUAL_MIXER_CONTROL_COMMANDS_H_
 

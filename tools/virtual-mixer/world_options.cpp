@@ -29,7 +29,7 @@ std::string WithMixerFirst(const std::string &text) {
 void PrepareOne(MixerWorld *world, const char *option, const std::string &text,
                 const std::string &line) {
   const std::string answer = RunControlCommand(world, line);
-  if (answer == "ok") return;
+  if (answer.starts_with("ok ")) return;
   throw UsageError(std::string(option) + " " + text + ": " +
                    answer.substr(answer.find(' ') + 1));
 }
