@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/pseudo_terminal.h"
 #include "tool.h"
 
 namespace ztk::virtual_mixer {
@@ -61,6 +62,29 @@ TEST_F(Running, LastsUntilTheLastChildHasEnded) {
   EXPECT_EQ(result.out, "1 mixer: channel 1 at position 3\n2: 00 03\n");
   EXPECT_EQ(result.status, 4);
   EXPECT_THAT(LeftBehind(), IsEmpty());
+}
+
+// Would last for ever if Ctrl-C did not end it.
+TEST_F(Running, SaysInATerminalWhatItWaitsForAfterTheCommand) {
+  setenv("TMPDIR", (Folder() + "/tmp").c_str(), 1);
+  test::PseudoTerminal terminal(
+      {VIRTUAL_MIXER, "run", "--", "sh", "-c", "sleep 1000000 & exit 4"}, 80);
+  unsetenv("TMPDIR");
+  EXPECT_TRUE(terminal.WaitFor("ends it\n"));
+  EXPECT_THAT(
+      terminal.shown(),
+      MatchesRegex("ztk-virtual-mixer: waiting for what still runs "
+                   "among the mixers: (sh|sleep) \\([0-9]+\\); Ctrl-C ends "
+                   "it\n"));
+  terminal.Type("\x03");
+  EXPECT_EQ(terminal.End(), 4);
+  EXPECT_THAT(LeftBehind(), IsEmpty());
+}
+
+TEST_F(Running, TellsAScriptNothingOfWhatItWaitsFor) {
+  const ToolResult result = Inside({}, "sleep 1 & exit 4");
+  EXPECT_EQ(result.status, 4);
+  EXPECT_EQ(result.err, "");
 }
 
 TEST_F(Running, PassesSignalsToTheCommand) {

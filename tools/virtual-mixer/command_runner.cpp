@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -66,7 +67,8 @@ pid_t ParentOf(pid_t pid) {
   return std::atoi(text.c_str() + nameEnd + 4);
 }
 
-void SignalChildren(int signal) {
+std::vector<pid_t> Children() {
+  std::vector<pid_t> children;
   std::error_code ignored;
   for (const auto &entry :
        std::filesystem::directory_iterator("/proc", ignored)) {
@@ -74,8 +76,27 @@ void SignalChildren(int signal) {
         ParseNumber(entry.path().filename().string(), 1, 0x7FFFFFFF);
     if (!pid) continue;
     const auto child = static_cast<pid_t>(*pid);
-    if (ParentOf(child) == getpid()) kill(child, signal);
+    if (ParentOf(child) == getpid()) children.push_back(child);
   }
+  return children;
+}
+
+void SignalChildren(int signal) {
+  for (const pid_t child : Children()) kill(child, signal);
+}
+
+// "sleep (4711), sh (4712)"
+std::string NamesOfChildren() {
+  std::string names;
+  for (const pid_t child : Children()) {
+    const std::string number = std::to_string(child);
+    std::ifstream file("/proc/" + number + "/comm");
+    std::string name;
+    std::getline(file, name);
+    if (!names.empty()) names += ", ";
+    names += name + " (" + number + ")";
+  }
+  return names;
 }
 
 class Family {
@@ -114,6 +135,8 @@ class Family {
     if (commandEnded_ && ending_ != 0) SignalChildren(ending_);
   }
 
+  bool IsWaitingForTheRest() const { return commandEnded_ && ending_ == 0; }
+
   int ExitStatusOfCommand() const { return exitStatus_; }
 
  private:
@@ -122,6 +145,34 @@ class Family {
   int exitStatus_ = 0;
   int ending_ = 0;
 };
+
+// What ends with the command is not worth a word.
+constexpr timespec kBeforeAWord{.tv_sec = 0, .tv_nsec = 500'000'000};
+
+// Who leaves a shell sees nothing else of what it has left behind.
+void SayWhatIsWaitedFor() {
+  const std::string names = NamesOfChildren();
+  if (names.empty()) return;
+  std::fprintf(stderr,
+               "ztk-virtual-mixer: waiting for what still runs among the "
+               "mixers: %s; Ctrl-C ends it\n",
+               names.c_str());
+}
+
+// The next signal. Unless it is to be quiet, says once what is waited for after
+// the command, and is quiet from then on.
+int NextSignal(const Family &family, const SignalGuard &signals, bool *quiet,
+               siginfo_t *info) {
+  if (*quiet || !family.IsWaitingForTheRest()) {
+    return sigwaitinfo(&signals.Held(), info);
+  }
+  const int signal = sigtimedwait(&signals.Held(), info, &kBeforeAWord);
+  if (signal < 0 && errno == EAGAIN) {
+    SayWhatIsWaitedFor();
+    *quiet = true;
+  }
+  return signal;
+}
 
 }  // namespace
 
@@ -151,10 +202,12 @@ int RunCommand(const std::vector<std::string> &command,
     return failure == ENOENT ? kNotFound : kCannotRun;
   }
   Family family(pid);
+  // A script gets what the command says and nothing that depends on the time.
+  bool quiet = isatty(STDERR_FILENO) == 0;
   while (family.Reap()) {
     family.TellNewOrphans();
     siginfo_t info{};
-    if (sigwaitinfo(&signals.Held(), &info) < 0) continue;
+    if (NextSignal(family, signals, &quiet, &info) < 0) continue;
     if (info.si_signo != SIGCHLD) family.PassOn(info);
   }
   return family.ExitStatusOfCommand();
