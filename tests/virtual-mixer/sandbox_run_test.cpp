@@ -178,10 +178,13 @@ TEST_F(Running, RefusesToBeNested) {
 
 TEST_F(Running, StartsTheUsersShellWithoutACommand) {
   setenv("SHELL", "/bin/true", 1);
-  const ToolResult result = Tool({"run", "-n", "2"});
+  const ToolResult result = Tool({"run", "-n", "32"});
   EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.out, HasSubstr("A shell with 2 virtual mixers. Try:\n"));
-  EXPECT_THAT(result.out, HasSubstr("  ztk-virtual-mixer turn 1 3 "));
+  EXPECT_THAT(result.out, HasSubstr("A shell with 32 virtual mixers. Try:\n"));
+  EXPECT_THAT(result.out, HasSubstr("  ztk-virtual-mixer turn 1 3\n"));
+  for (const std::string &line : SplitLines(result.out)) {
+    EXPECT_LE(line.size(), 40U) << line;
+  }
 }
 
 TEST_F(Running, FindsItsOwnFolderInside) {

@@ -110,17 +110,23 @@ class AbortGuard {
   AbortGuard &operator=(const AbortGuard &) = delete;
 };
 
-std::vector<std::string> CommandOrShell(const RunOptions &options) {
-  if (!options.command.empty()) return options.command;
-  const std::string shell = Variable("SHELL");
+// No line is longer than 40 columns, the narrowest terminal there is.
+void Greet(int mixers) {
   std::printf(
       "A shell with %d virtual mixer%s. Try:\n"
-      "  ztk status                      what the mixer says\n"
-      "  ztk input set 1 mic             change a setting\n"
-      "  ztk-virtual-mixer turn 1 3      turn the selector of channel 1\n"
-      "  exit                            back to the real devices\n",
-      options.world.mixers, options.world.mixers == 1 ? "" : "s");
+      "  ztk status            ask the mixer\n"
+      "  ztk input set 1 mic   change a setting\n"
+      "  ztk-virtual-mixer turn 1 3\n"
+      "                        turn a selector\n"
+      "  exit                  leave the mixers\n",
+      mixers, mixers == 1 ? "" : "s");
   std::fflush(stdout);
+}
+
+std::vector<std::string> CommandOrShell(const RunOptions &options) {
+  if (!options.command.empty()) return options.command;
+  Greet(options.world.mixers);
+  const std::string shell = Variable("SHELL");
   return {shell.empty() ? "/bin/sh" : shell};
 }
 
