@@ -16,6 +16,7 @@ namespace ztk::virtual_mixer {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
@@ -182,9 +183,14 @@ TEST_F(Running, StartsTheUsersShellWithoutACommand) {
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(result.out, HasSubstr("A shell with 32 virtual mixers. Try:\n"));
   EXPECT_THAT(result.out, HasSubstr("  ztk-virtual-mixer turn 1 3\n"));
+  EXPECT_THAT(result.out,
+              EndsWith("What you set changes your own settings;\n"
+                       "run --private-settings keeps them apart.\n"));
   for (const std::string &line : SplitLines(result.out)) {
     EXPECT_LE(line.size(), 40U) << line;
   }
+  EXPECT_THAT(Tool({"run", "--private-settings"}).out,
+              EndsWith("mixers\nWhat you set is gone when you exit.\n"));
 }
 
 TEST_F(Running, FindsItsOwnFolderInside) {

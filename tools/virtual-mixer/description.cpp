@@ -38,7 +38,13 @@ ztk::manual::Program ztk::manual::Described() {
                        .meaning = "How the other commands reach the "
                                   "mixers; set inside run and serve."},
                       {.name = "SHELL",
-                       .meaning = "What run starts without a command."}}}},
+                       .meaning = "What run starts without a command."},
+                      {.name = "XDG_CONFIG_HOME, XDG_STATE_HOME",
+                       .meaning =
+                           "Set inside run --private-settings, to folders of "
+                           "links to what\nyours hold, except for the settings "
+                           "of the mixers. A shell whose own\nfiles set them "
+                           "undoes it."}}}},
       .seeAlso = {"ztk(1)", "ZTKFunc(3)"}};
   for (const virtual_mixer::Command &command : virtual_mixer::Commands()) {
     program.commands.push_back(command.text);

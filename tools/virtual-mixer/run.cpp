@@ -10,10 +10,12 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <optional>
 
 #include "command_runner.h"
 #include "control_commands.h"
 #include "control_socket.h"
+#include "private_settings.h"
 #include "sandbox.h"
 
 namespace ztk::virtual_mixer {
@@ -76,7 +78,7 @@ std::string PreloadList() {
 // abort. Whoever comes second waits for the end of the process.
 enum class TakenDown { No, AtTheEnd, ByAbort };
 std::atomic<TakenDown> takenDown{TakenDown::No};
-std::string folderToRemove;
+std::vector<std::string> foldersToRemove;
 
 bool TakeDownFirst(TakenDown by) {
   TakenDown expected = TakenDown::No;
@@ -90,17 +92,19 @@ bool TakeDownFirst(TakenDown by) {
 void OnAbort(int signal) {
   if (!TakeDownFirst(TakenDown::ByAbort)) WaitForTheEnd();
   std::error_code ignored;
-  std::filesystem::remove_all(folderToRemove, ignored);
+  for (const std::string &folder : foldersToRemove) {
+    std::filesystem::remove_all(folder, ignored);
+  }
   std::signal(signal, SIG_DFL);
   std::raise(signal);
 }
 
 // umockdev aborts on what it does not understand, on a thread of its own and
-// at any time. The folder goes even then. To be made after the sandbox.
+// at any time. The folders go even then. To be made after what owns them.
 class AbortGuard {
  public:
-  explicit AbortGuard(const Sandbox &sandbox) {
-    folderToRemove = sandbox.RootDir();
+  explicit AbortGuard(std::vector<std::string> folders) {
+    foldersToRemove = std::move(folders);
     std::signal(SIGABRT, OnAbort);
   }
   ~AbortGuard() {
@@ -111,21 +115,25 @@ class AbortGuard {
 };
 
 // No line is longer than 40 columns, the narrowest terminal there is.
-void Greet(int mixers) {
+void Greet(int mixers, bool privateSettings) {
   std::printf(
       "A shell with %d virtual mixer%s. Try:\n"
       "  ztk status            ask the mixer\n"
       "  ztk input set 1 mic   change a setting\n"
       "  ztk-virtual-mixer turn 1 3\n"
       "                        turn a selector\n"
-      "  exit                  leave the mixers\n",
-      mixers, mixers == 1 ? "" : "s");
+      "  exit                  leave the mixers\n"
+      "%s",
+      mixers, mixers == 1 ? "" : "s",
+      privateSettings ? "What you set is gone when you exit.\n"
+                      : "What you set changes your own settings;\n"
+                        "run --private-settings keeps them apart.\n");
   std::fflush(stdout);
 }
 
 std::vector<std::string> CommandOrShell(const RunOptions &options) {
   if (!options.command.empty()) return options.command;
-  Greet(options.world.mixers);
+  Greet(options.world.mixers, options.privateSettings);
   const std::string shell = Variable("SHELL");
   return {shell.empty() ? "/bin/sh" : shell};
 }
@@ -142,19 +150,23 @@ int Run(const RunOptions &options) {
   const LogFile log(options.world.logFile);
   const std::unique_ptr<Sandbox> sandbox =
       MakeSandbox(options.world, log.Sink());
-  const AbortGuard guard(*sandbox);
+  std::optional<PrivateSettings> settings;
+  if (options.privateSettings) settings.emplace();
+  const AbortGuard guard(
+      {sandbox->RootDir(), settings ? settings->Folder() : ""});
   Prepare(sandbox.get(), options.world);
   const std::string controlPath = sandbox->RootDir() + "/control";
   const ControlServer control(controlPath, [&sandbox](std::string_view line) {
     return RunControlCommand(sandbox.get(), line);
   });
   AddOwnFolderToPath();
+  std::vector<std::string> variables;
+  if (settings) variables = settings->Environment();
+  variables.push_back("LD_PRELOAD=" + PreloadList());
+  variables.push_back(std::string(kControlVariable) + "=" + controlPath);
   std::string error;
-  const int status = RunCommand(
-      CommandOrShell(options),
-      EnvironmentWith({"LD_PRELOAD=" + PreloadList(),
-                       std::string(kControlVariable) + "=" + controlPath}),
-      signals, &error);
+  const int status = RunCommand(CommandOrShell(options),
+                                EnvironmentWith(variables), signals, &error);
   if (!error.empty()) {
     std::fprintf(stderr, "ztk-virtual-mixer: %s\n", error.c_str());
   }

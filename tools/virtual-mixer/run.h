@@ -11,6 +11,8 @@ namespace ztk::virtual_mixer {
 
 struct RunOptions {
   WorldOptions world;
+  // Else the user's own are changed.
+  bool privateSettings = false;
   // The user's shell when empty.
   std::vector<std::string> command;
 };

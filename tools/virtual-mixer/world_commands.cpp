@@ -39,7 +39,9 @@ WorldOptions World(const Words &words) {
 }
 
 int RunRun(const Words &words) {
-  return Run({.world = World(words), .command = words.command});
+  return Run({.world = World(words),
+              .privateSettings = words.Has("--private-settings"),
+              .command = words.command});
 }
 
 int RunServe(const Words &words) {
@@ -107,9 +109,16 @@ Command MakeRun() {
                            "command follows \"--\"; the\nmixers last until it "
                            "and all that it started have ended. The exit "
                            "status is\nits own. Programs of another user "
-                           "(sudo) do not see the mixers.\n\n") +
+                           "(sudo) do not see the mixers.\n\nSettings that "
+                           "are changed inside are your own, and stay "
+                           "changed.\nWith --private-settings nothing is "
+                           "remembered at first, and what is\nremembered goes "
+                           "with the run; the configuration of other "
+                           "programs\nis there as ever. Changes are announced "
+                           "on your message bus all the same.\n\n") +
                        kFaultHelp,
-               .examples = {"ztk-virtual-mixer run -n 2 --fault 2:stall -- ztk "
+               .examples = {"ztk-virtual-mixer run --private-settings",
+                            "ztk-virtual-mixer run -n 2 --fault 2:stall -- ztk "
                             "status"}},
       .run = RunRun};
   command.text.options.push_back(
@@ -122,6 +131,12 @@ Command MakeRun() {
        .value = "M",
        .description = "Mixer that may not be opened (permission denied)",
        .repeats = true});
+  command.text.options.push_back(
+      {.names = "--private-settings",
+       .value = "",
+       .description = "Keep settings and undo history in a folder of this run, "
+                      "removed at its end; your own are changed when left "
+                      "out"});
   command.text.options.push_back(CommandText());
   return command;
 }
