@@ -88,6 +88,7 @@ struct Simple {
   const char *name;
   const char *summary;
   const char *done;
+  const char *note = "";
 };
 constexpr Simple kPlug{
     .name = "plug", .summary = "Attach mixers", .done = "plugged in"};
@@ -95,7 +96,13 @@ constexpr Simple kUnplug{
     .name = "unplug", .summary = "Detach mixers", .done = "unplugged"};
 constexpr Simple kForbid{.name = "forbid",
                          .summary = "Forbid opening mixers",
-                         .done = "may not be opened"};
+                         .done =
+                             "may not be opened, until: "
+                             "ztk-virtual-mixer allow",
+                         .note =
+                             "For programs it is as with a real mixer: ztk "
+                             "doctor tells what would help\nthere. Here, "
+                             "ztk-virtual-mixer allow does."};
 constexpr Simple kAllow{.name = "allow",
                         .summary = "Allow opening them again",
                         .done = "may be opened"};
@@ -196,7 +203,7 @@ Command MakeSimple() {
                    .summary =
                        std::string(kSimple.summary) + " (inside run or serve)",
                    .options = {MixerText()},
-                   .note = "",
+                   .note = kSimple.note,
                    .examples = {"ztk-virtual-mixer " + name + " --mixer 1"}},
           .run = RunSimple<kSimple>};
 }

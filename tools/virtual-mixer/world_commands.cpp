@@ -129,7 +129,8 @@ Command MakeRun() {
   command.text.options.push_back(
       {.names = "--forbid",
        .value = "M",
-       .description = "Mixer that may not be opened (permission denied)",
+       .description =
+           "Mixer that may not be opened (permission denied), until allow",
        .repeats = true});
   command.text.options.push_back(
       {.names = "--private-settings",
