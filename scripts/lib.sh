@@ -57,13 +57,46 @@ apt_get() {
     -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 "$@"
 }
 
+# Shows the newest line of a log, in place, as long as this command runs.
+show_newest_line() {  # title log
+  local columns line='' shown=none
+  columns=$({ stty size </dev/tty; } 2>/dev/null | cut -d ' ' -f 2) || columns=0
+  ((columns > 1)) || columns=80
+  while kill -0 "$$" 2>/dev/null; do
+    line=$(tail -n 1 "$2" | LC_ALL=C tr -cd '[:print:]')
+    # Whatever comes next begins at the left.
+    [[ $line == "$shown" ]] ||
+      printf '\r\033[K%.*s\r' "$((columns - 1))" "$1: $line"
+    shown=$line
+    sleep 0.3
+  done
+}
+
+# Runs a command with its output in a log. In a terminal, shows how far it is.
+logged() {  # title log command...
+  local title=$1 log=$2 shows='' status=0
+  shift 2
+  : >"$log"
+  if [[ -t 1 && ${TERM:-dumb} != dumb ]]; then
+    show_newest_line "$title" "$log" &
+    shows=$!
+  fi
+  "$@" >"$log" 2>&1 </dev/null || status=$?
+  if [[ -n $shows ]]; then
+    kill "$shows" 2>/dev/null || true
+    wait "$shows" 2>/dev/null || true
+    printf '\r\033[K'
+  fi
+  return "$status"
+}
+
 # Runs a command quietly, at most three times; its output appears only if the
 # last try fails.
 try_thrice() {
   local log try
   log=$(mktemp)
   for try in 1 2 3; do
-    if "$@" >"$log" 2>&1 </dev/null; then
+    if logged apt-get "$log" "$@"; then
       rm -f "$log"
       return 0
     fi
