@@ -156,6 +156,17 @@ TEST_F(Running, LivesInTmpWhenTheTemporaryFolderHasALongName) {
   EXPECT_TRUE(std::filesystem::is_empty(folder));
 }
 
+TEST_F(Running, SaysThatThereIsNoTemporaryFolder) {
+  std::filesystem::remove(Folder() + "/tmp");
+  const ToolResult result = Tool({"run", "--", "true"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.err,
+            "ztk-virtual-mixer: no folder for the mixers can be made in " +
+                Folder() +
+                "/tmp: No such file or directory; set TMPDIR to one that you "
+                "may write to\n");
+}
+
 TEST_F(Running, WorksWithoutStandardStreams) {
   const std::string command = "TMPDIR=" + Folder() + "/tmp " + VIRTUAL_MIXER +
                               " run -- sh -c '" + PROBE + " read 1 8001 2 >" +

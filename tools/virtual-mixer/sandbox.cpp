@@ -23,11 +23,18 @@ namespace {
 // A file that not even the superuser may open for writing.
 constexpr char kReadOnlyForAll[] = "/proc/sys/kernel/ostype";
 
+// Where there can be no folder the testbed ends the whole program.
 void CheckTempDir() {
-  const char *const folder = std::getenv("TMPDIR");
-  if (folder != nullptr && std::strlen(folder) > Sandbox::kLongestTempDir) {
+  const char *const variable = std::getenv("TMPDIR");
+  const bool isSet = variable != nullptr && *variable != '\0';
+  const char *const folder = isSet ? variable : "/tmp";
+  if (std::strlen(folder) > Sandbox::kLongestTempDir) {
     throw std::runtime_error("the path in TMPDIR is too long for sockets");
   }
+  if (access(folder, W_OK | X_OK) == 0) return;
+  throw std::runtime_error(
+      std::string("no folder for the mixers can be made in ") + folder + ": " +
+      std::strerror(errno) + "; set TMPDIR to one that you may write to");
 }
 
 void AddRecord(UMockdevTestbed *testbed, const std::string &record) {
