@@ -16,7 +16,7 @@ TEST_F(Status, ShowsTheMixerAndWhatIsRemembered) {
   EXPECT_EQ(result.out,
             "Mixer 1 is reachable\n"
             "  firmware      1078 (0x0436, read as 4.36)\n"
-            "  certification level 1\n"
+            "  certified     level 1\n"
             "  selectors     CH1 4   CH2 3   CH3 4   CH4 4\n"
             "  Serato        active\n"
             "Remembered\n"
@@ -96,7 +96,7 @@ TEST_F(Status, SaysWhatAMixerDoesNotAnswer) {
 TEST_F(Status, AsksASilentMixerOnlyOnce) {
   const Result result = Inside({"-n", "1", "--fault", "silence"}, "ztk status");
   EXPECT_THAT(result.out, HasSubstr("  firmware      no answer\n"
-                                    "  certification not asked\n"));
+                                    "  certified     not asked\n"));
   EXPECT_EQ(Requests().size(), 1U);
 }
 

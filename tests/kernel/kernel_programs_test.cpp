@@ -61,7 +61,7 @@ TEST_F(KernelPrograms, StatusReadsAMixerOfTheKernel) {
   EXPECT_EQ(Attached("--reply 8007=00000009 --selector 1=3", "$Z status"),
             "Mixer 1 is reachable\n"
             "  firmware      1078 (0x0436, read as 4.36)\n"
-            "  certification level 9\n"
+            "  certified     level 9\n"
             "  selectors     CH1 3   CH2 4   CH3 4   CH4 4\n"
             "  Serato        not active\n"
             "Nothing is remembered\n"
@@ -98,7 +98,7 @@ TEST_F(KernelPrograms, TheRunningMixersObeyTheControlCommands) {
                                 "1 mixer: plugged in\n"
                                 "Mixer 1 is reachable\n"
                                 "1 mixer: fault delay:20\n"
-                                "  certification level 1\n"));
+                                "  certified     level 1\n"));
   EXPECT_THAT(output, EndsWith("mixer 1  bus id 1-1  attached\nstatus 0"));
 }
 

@@ -84,7 +84,7 @@ Fact Firmware(Interview *interview) {
 
 Fact CertificationLevel(Interview *interview) {
   Fact fact{.name = "certificationLevel",
-            .title = "certification",
+            .title = "certified",
             .value = {},
             .words = {}};
   usb::Reply reply;
