@@ -10,7 +10,6 @@ namespace {
 
 using cli::Nearest;
 using cli::NearestAndAccepted;
-using cli::NearestByFar;
 
 const std::vector<std::string> kWords{"status", "input",   "output",  "boost",
                                       "midi",   "warning", "versions"};
@@ -45,11 +44,31 @@ TEST(Nearest, TakesNoTimeForAWordWithoutEnd) {
   EXPECT_EQ(Nearest(std::string(4000000, 'q'), kWords), "");
 }
 
-TEST(NearestByFar, IsNoGuess) {
-  EXPECT_EQ(NearestByFar("json", {"--json", "--help"}), "--json");
-  EXPECT_EQ(NearestByFar("jsn", {"--json", "--help"}), "--json");
-  EXPECT_EQ(NearestByFar("now", {"--json", "--help"}), "");
-  EXPECT_EQ(NearestByFar("js", {"--json", "--help"}), "");
+TEST(Nearest, IsNoGuess) {
+  const struct {
+    const char *word;
+    std::vector<std::string> accepted;
+    const char *expected;
+  } rows[] = {{"help", {"export", "import", "boost"}, ""},
+              {"foo", {"boost"}, ""},
+              {"klingon", {"Italian", "English"}, ""},
+              {"nonsense", {"VRM-Q8S", "VRM-D6"}, ""},
+              {"Deutsch", {"Dutch", "German"}, ""},
+              {"VRM-Z1", {"VRM-K2"}, ""},
+              {"now", {"--json", "--help"}, ""},
+              {"all", {"--json", "--help"}, ""},
+              {"dx", {"Dutch"}, ""},
+              {"mci", {"MIC"}, "MIC"},
+              {"jsn", {"--json", "--help"}, "--json"},
+              {"js", {"--json", "--help"}, "--json"},
+              {"K2", {"VRM-Q8X", "VRM-K2"}, "VRM-K2"},
+              {"VRM-D7", {"VRM-K2", "VRM-D6"}, "VRM-D6"},
+              {"fadr", {"MIC", "Cross Fader A"}, "Cross Fader A"},
+              {"Portugese", {"Portuguese"}, "Portuguese"}};
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.word);
+    EXPECT_EQ(Nearest(row.word, row.accepted), row.expected);
+  }
 }
 
 TEST(NearestAndAccepted, SaysWhatCanStandThere) {

@@ -184,10 +184,10 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
        "ztk: one word too many after \"status\": \"now\"; see ztk status "
        "--help\n"},
       {"status --all",
-       "ztk: no option \"--all\" after \"status\"; nearest: --help; accepted: "
+       "ztk: no option \"--all\" after \"status\"; accepted: "
        "--help, --json; see ztk status --help\n"},
       {"apply --product VRM-Z1",
-       "ztk: no model \"VRM-Z1\"; nearest: VRM-K2; accepted, by number or "
+       "ztk: no model \"VRM-Z1\"; accepted, by number or "
        "name: 0 VRM-Q8X, 1 "
        "VRM-K2, 2 VRM-Q8S, 3 VRC-H7, 4 VRM-Q9, 5 VRM-L4, 6 VRM-E3, 8 VRM-B5, "
        "10 VRM-D6\n"},
@@ -217,7 +217,7 @@ TEST_F(WrongWords, TellTheNearestRightOne) {
       {"status json", "--json"},
       {"apply --prodct VRM-K2", "--product"},
       {"warning --langauge de", "--language"},
-      {"input set 2 mike", "6 MIC"},
+      {"input set 2 mci", "6 MIC"},
       {"input set 2 rec uot", "7 REC OUT"},
       {"input set 2 fadr", "4 Cross Fader A"},
       {"input set 2 8", "7 REC OUT"},

@@ -216,7 +216,7 @@ class Parser {
                 NearestCommand(app, extras.front());
     } else {
       // It may be an option without its dashes.
-      const std::string option = NearestByFar(extras.front(), Options(app));
+      const std::string option = Nearest(extras.front(), Options(app));
       message = "one word too many" + place + ": " + Quoted(extras.front()) +
                 (option.empty() ? "" : "; nearest: " + option);
     }

@@ -51,23 +51,14 @@ std::size_t Differences(const std::string &word, const std::string &text,
   return ofPart ? *std::min_element(last.begin(), last.end()) : last.back();
 }
 
-// Nothing that differs in more than `most` letters.
-std::string Closest(const std::string &word,
-                    const std::vector<std::string> &accepted,
-                    std::size_t most) {
-  const std::string wanted = Folded(word.substr(0, kLongestWord));
-  std::string closest;
-  std::pair<std::size_t, std::size_t> least;
-  for (const std::string &text : accepted) {
-    const std::string folded = Folded(text);
-    const std::pair<std::size_t, std::size_t> differences{
-        Differences(wanted, folded, true), Differences(wanted, folded, false)};
-    if (differences.first > most) continue;
-    if (!closest.empty() && differences >= least) continue;
-    closest = text;
-    least = differences;
-  }
-  return closest;
+// How many letters may differ in a word that is only a slip of the text: a
+// third of the shorter one; fewer where the word is only a part of the text, as
+// a few letters are soon found in any.
+std::size_t MostDifferences(const std::string &word, const std::string &text,
+                            bool ofPart) {
+  if (ofPart) return text.size() > word.size() ? (word.size() - 1) / 3 : 0;
+  if (word.size() < 3) return 0;
+  return std::max<std::size_t>(std::min(word.size(), text.size()) / 3, 1);
 }
 
 std::string NearestPart(const std::string &nearest) {
@@ -78,14 +69,24 @@ std::string NearestPart(const std::string &nearest) {
 
 std::string Nearest(const std::string &word,
                     const std::vector<std::string> &accepted) {
-  const std::size_t letters = Folded(word.substr(0, kLongestWord)).size();
-  return letters == 0 ? "" : Closest(word, accepted, letters - 1);
-}
-
-std::string NearestByFar(const std::string &word,
-                         const std::vector<std::string> &accepted) {
-  const std::size_t letters = Folded(word.substr(0, kLongestWord)).size();
-  return letters < 3 ? "" : Closest(word, accepted, letters / 3);
+  const std::string wanted = Folded(word.substr(0, kLongestWord));
+  if (wanted.size() < 2) return "";
+  std::string closest;
+  std::pair<std::size_t, std::size_t> least;
+  for (const std::string &text : accepted) {
+    const std::string folded = Folded(text);
+    const std::size_t ofPart = Differences(wanted, folded, true);
+    const std::size_t ofAll = Differences(wanted, folded, false);
+    if (ofPart > MostDifferences(wanted, folded, true) &&
+        ofAll > MostDifferences(wanted, folded, false)) {
+      continue;
+    }
+    const std::pair<std::size_t, std::size_t> differences{ofPart, ofAll};
+    if (!closest.empty() && differences >= least) continue;
+    closest = text;
+    least = differences;
+  }
+  return closest;
 }
 
 std::string NearestAndAccepted(const std::string &word,

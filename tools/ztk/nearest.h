@@ -10,15 +10,11 @@
 
 namespace ztk::cli {
 
-// The accepted word from which the other differs least: it may be a part of it,
+// The accepted word of which the other is a slip: it may be a part of it, a few
 // letters may be missing, too many, wrong or swapped; case does not count.
-// Empty when none has anything in common with it.
+// Empty when it is too far from each, as that would be no more than a guess.
 std::string Nearest(const std::string &word,
                     const std::vector<std::string> &accepted);
-
-// The same, but empty as well where it is no more than a guess.
-std::string NearestByFar(const std::string &word,
-                         const std::vector<std::string> &accepted);
 
 // "; nearest: input; accepted: status, input"; the nearest only where there is
 // one, and nothing where nothing is accepted.
