@@ -83,10 +83,18 @@ TEST(FindChoice, FindsALevelWithAndWithoutItsSign) {
   CheckAll({{"as listed", kLevels, "-10 dB", "2 -10 dB"},
             {"no space", kLevels, "-10dB", "2 -10 dB"},
             {"no unit", kLevels, "-10", "2 -10 dB"},
-            {"no sign", kLevels, "10", "2 -10 dB"},
-            {"no sign, with unit", kLevels, "19 db", "4 -19 dB"},
-            {"one digit that is no number", kLevels, "5", "1 -5 dB"},
-            {"one digit that is", kLevels, "3", "3 -15 dB"}});
+            {"no sign, with unit", kLevels, "19 db", "4 -19 dB"}});
+}
+
+// Else 4 and 5 would be neighbours that mean -19 dB and -5 dB.
+TEST(FindChoice, TakesABareNumberForNothingElse) {
+  CheckAll({{"a listed one", kLevels, "3", "3 -15 dB"},
+            {"a level", kLevels, "5", "[]"},
+            {"two digits", kLevels, "10", "[]"}});
+  EXPECT_EQ(NearestChoice("5", kLevels), "; nearest: 1 -5 dB");
+  EXPECT_EQ(NearestChoice("10", kLevels), "; nearest: 2 -10 dB");
+  EXPECT_EQ(NearestChoice("9", kLevels), "; nearest: 4 -19 dB");
+  EXPECT_EQ(NearestChoice("0", kLevels), "; nearest: 1 -5 dB");
 }
 
 TEST(FindChoice, FindsNothingForNothing) {

@@ -145,7 +145,7 @@ TEST_F(OutputDefault, SendsOneOrAllAndRemembersNothing) {
 
 TEST_F(BoostSet, TakesALevelHoweverItIsTyped) {
   for (const char *words :
-       {"-10", "'-10 dB'", "-10dB", "-10 dB", "10", "10dB", "2", "-- -10"}) {
+       {"-10", "'-10 dB'", "-10dB", "-10 dB", "10dB", "2", "-- -10"}) {
     SCOPED_TRACE(words);
     const Result result = OneMixer(std::string("ztk boost set ") + words);
     EXPECT_EQ(result.status, 0) << result.err;
@@ -153,6 +153,16 @@ TEST_F(BoostSet, TakesALevelHoweverItIsTyped) {
               "Boost level: 2 -10 dB, sent to 1 mixer, remembered\n");
     EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
   }
+}
+
+// "4" is the fourth choice, so "5" is no level beside it.
+TEST_F(BoostSet, TakesABareNumberForTheOneOfAChoice) {
+  const Result result = OneMixer("ztk boost set 5");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.err,
+            "ztk: Boost level has no choice \"5\"; nearest: 1 -5 dB; accepted: "
+            "1 -5 dB, 2 -10 dB, 3 -15 dB, 4 -19 dB\n");
+  EXPECT_THAT(Requests(), IsEmpty());
 }
 
 TEST_F(BoostSet, IsRejectedForAModelThatCanOnlyBeListed) {

@@ -38,6 +38,11 @@ std::vector<Choice> BeginningWith(const std::vector<Choice> &choices,
   return found;
 }
 
+bool IsDigits(const std::string &words) {
+  return !words.empty() &&
+         words.find_first_not_of("0123456789") == std::string::npos;
+}
+
 }  // namespace
 
 Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
@@ -49,7 +54,10 @@ Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
     if (number == choice.number) return {.choice = choice, .candidates = {}};
   }
   std::vector<Choice> found = BeginningWith(choices, wanted, false);
-  if (found.empty()) found = BeginningWith(choices, wanted, true);
+  // A bare number is the number of a choice, and of no other thing.
+  if (found.empty() && !IsDigits(wanted)) {
+    found = BeginningWith(choices, wanted, true);
+  }
   if (found.size() == 1) return {.choice = found.front(), .candidates = {}};
   return {.choice = std::nullopt, .candidates = std::move(found)};
 }
@@ -57,9 +65,9 @@ Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
 std::string NearestChoice(const std::string &words,
                           const std::vector<Choice> &choices) {
   if (choices.empty()) return "";
-  const bool digits = !words.empty() && words.find_first_not_of("0123456789") ==
-                                            std::string::npos;
-  if (digits) {
+  if (IsDigits(words)) {
+    const std::vector<Choice> meant = BeginningWith(choices, words, true);
+    if (meant.size() == 1) return "; nearest: " + Described(meant.front());
     // Choices count from 1, without gaps.
     const std::uint32_t wanted =
         ParseNumber(words).value_or(choices.back().number);

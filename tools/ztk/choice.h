@@ -26,7 +26,8 @@ struct Match {
 // Looks for a choice by its number, by its text, or by the beginning of its
 // text. Upper and lower case are the same and spaces do not count. A text that
 // starts with a minus sign is also found without it, because shells and users
-// stumble over it; a number that is listed comes first.
+// stumble over it, but not by its bare number: "10 dB" can only be a level, and
+// "4" is the fourth choice.
 Match FindChoice(const std::vector<Choice> &choices, const std::string &words);
 
 // "; nearest: 6 MIC" for words that no choice begins with; empty where none is
