@@ -78,12 +78,14 @@ TEST_F(Warning, IsShownInAnyLanguageByNumberNameOrCode) {
   WithBundle({"-n", "1"},
              "ztk warning --language 3; ztk warning --language GERMAN;"
              "ztk warning --language de; ztk warning --language zh_tw;"
+             "ztk warning --language 'traditional chinese';"
              "ztk warning --channel 4 --language 99");
   EXPECT_EQ(result_.status, 0) << result_.err;
-  EXPECT_THAT(SplitLines(result_.out),
-              ElementsAre("German WARNING2\xC3\xA9", "German WARNING2\xC3\xA9",
-                          "German WARNING2\xC3\xA9", "Chinese WARNING2\xC3\xA9",
-                          "English WARNING2\xC3\xA9"));
+  EXPECT_THAT(
+      SplitLines(result_.out),
+      ElementsAre("German WARNING2\xC3\xA9", "German WARNING2\xC3\xA9",
+                  "German WARNING2\xC3\xA9", "Chinese WARNING2\xC3\xA9",
+                  "Chinese WARNING2\xC3\xA9", "English WARNING2\xC3\xA9"));
 }
 
 TEST_F(Warning, IsFiveInALanguageThatIsNotThere) {
@@ -117,8 +119,12 @@ TEST_F(Warning, RefusesWrongWords) {
       "ztk warning --language klingon; echo $?;"
       "ztk warning --language 12; echo $?");
   EXPECT_EQ(result.out, "2\n2\n2\n2\n");
-  EXPECT_THAT(result.err, HasSubstr("accepted, by number, name or ISO code: "
-                                    "0 English, 1 Japanese"));
+  EXPECT_EQ(
+      Line(result.err, 2),
+      "ztk: no language \"klingon\"; accepted, by number, name or code: "
+      "0 English en, 1 Japanese ja, 2 French fr, 3 German de, 4 Italian it, "
+      "5 Dutch nl, 6 Spanish es, 7 Russian ru, 8 Portuguese pt, 9 Simplified "
+      "Chinese zh-CN, 10 Traditional Chinese zh-TW, 11 Korean ko, 99 your own");
   EXPECT_THAT(Requests(), IsEmpty());
 }
 

@@ -229,6 +229,7 @@ TEST_F(WrongWords, TellTheNearestRightOne) {
       {"apply --product VRM-D7", "VRM-D6"},
       {"boost get --product vrm_b5", "VRM-B5"},
       {"warning --language germna", "German"},
+      {"warning --language portugese", "Portuguese"},
       {"warning --channel 7", "4"},
   };
   for (const auto &row : rows) {

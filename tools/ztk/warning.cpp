@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "warning.h"
 
+#include <algorithm>
+
 #include "families.h"
 #include "nearest.h"
 #include "other_commands.h"
@@ -15,48 +17,62 @@ namespace {
 
 constexpr std::uint32_t kUsersLanguage = 99;
 
-// The library's languages: its number, its folder, and what else they are
-// called.
+// The library's languages: its number, and what they are called.
 struct Language {
   std::uint32_t number;
-  const char *folder;
+  const char *name;
   const char *code;
   const char *otherCode;
 };
 constexpr Language kLanguages[] = {
-    {.number = 0, .folder = "English", .code = "en", .otherCode = "eng"},
-    {.number = 1, .folder = "Japanese", .code = "ja", .otherCode = "jpn"},
-    {.number = 2, .folder = "French", .code = "fr", .otherCode = "fra"},
-    {.number = 3, .folder = "German", .code = "de", .otherCode = "deu"},
-    {.number = 4, .folder = "Italian", .code = "it", .otherCode = "ita"},
-    {.number = 5, .folder = "Dutch", .code = "nl", .otherCode = "nld"},
-    {.number = 6, .folder = "Spanish", .code = "es", .otherCode = "spa"},
-    {.number = 7, .folder = "ru", .code = "Russian", .otherCode = "rus"},
-    {.number = 8, .folder = "pt", .code = "Portuguese", .otherCode = "por"},
-    {.number = 9, .folder = "zh_CN", .code = "zh-CN", .otherCode = "zh-Hans"},
-    {.number = 10, .folder = "zh_TW", .code = "zh-TW", .otherCode = "zh-Hant"},
-    {.number = 11, .folder = "ko", .code = "Korean", .otherCode = "kor"}};
+    {.number = 0, .name = "English", .code = "en", .otherCode = "eng"},
+    {.number = 1, .name = "Japanese", .code = "ja", .otherCode = "jpn"},
+    {.number = 2, .name = "French", .code = "fr", .otherCode = "fra"},
+    {.number = 3, .name = "German", .code = "de", .otherCode = "deu"},
+    {.number = 4, .name = "Italian", .code = "it", .otherCode = "ita"},
+    {.number = 5, .name = "Dutch", .code = "nl", .otherCode = "nld"},
+    {.number = 6, .name = "Spanish", .code = "es", .otherCode = "spa"},
+    {.number = 7, .name = "Russian", .code = "ru", .otherCode = "rus"},
+    {.number = 8, .name = "Portuguese", .code = "pt", .otherCode = "por"},
+    {.number = 9,
+     .name = "Simplified Chinese",
+     .code = "zh-CN",
+     .otherCode = "zh-Hans"},
+    {.number = 10,
+     .name = "Traditional Chinese",
+     .code = "zh-TW",
+     .otherCode = "zh-Hant"},
+    {.number = 11, .name = "Korean", .code = "ko", .otherCode = "kor"}};
+
+// "zh-CN" is also written as "zh_CN".
+std::string Folded(const std::string &word) {
+  std::string folded = LowerCase(word);
+  std::replace(folded.begin(), folded.end(), '_', '-');
+  return folded;
+}
 
 std::uint32_t ParseLanguage(const std::string &word) {
-  const std::string wanted = LowerCase(word);
+  const std::string wanted = Folded(word);
   const auto number = ParseNumber(word);
   std::vector<std::string> accepted;
+  std::vector<std::string> names;
   for (const Language &language : kLanguages) {
-    if (number == language.number ||
-        wanted == LowerCase(std::string(language.folder)) ||
-        wanted == LowerCase(std::string(language.code)) ||
-        wanted == LowerCase(std::string(language.otherCode))) {
+    if (number == language.number || wanted == Folded(language.name) ||
+        wanted == Folded(language.code) ||
+        wanted == Folded(language.otherCode)) {
       return language.number;
     }
-    accepted.push_back(std::to_string(language.number) + " " + language.folder);
+    names.emplace_back(language.name);
+    accepted.push_back(std::to_string(language.number) + " " + language.name +
+                       " " + language.code);
   }
   if (number == kUsersLanguage) return kUsersLanguage;
-  const std::string nearest = Nearest(word, LanguageNames());
+  const std::string nearest = Nearest(word, names);
   throw Failure(ExitCode::Usage,
                 "no language " + Quoted(word) +
                     (nearest.empty() ? "" : "; nearest: " + nearest) +
-                    "; accepted, by number, name or ISO code: " +
-                    Listed(accepted) + ", 99 your own");
+                    "; accepted, by number, name or code: " + Listed(accepted) +
+                    ", 99 your own");
 }
 
 // Null when the library has no sentence.
@@ -101,7 +117,8 @@ void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
 std::vector<std::string> LanguageNames() {
   std::vector<std::string> names;
   for (const Language &language : kLanguages) {
-    names.emplace_back(language.folder);
+    const std::string name = language.name;
+    names.push_back(name.find(' ') == std::string::npos ? name : language.code);
   }
   return names;
 }

@@ -17,7 +17,7 @@ void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
 // The channels that have a selector, and so a warning: the first ones.
 inline constexpr std::uint32_t kWarningChannels = 4;
 
-// What can follow --language, by name.
+// What can follow --language: one word for each, its name if it is one.
 std::vector<std::string> LanguageNames();
 
 }  // namespace ztk::cli
