@@ -70,6 +70,24 @@ TEST_F(Help, SaysToWhichModelEachSettingBelongs) {
   }
 }
 
+TEST_F(Help, IsGivenForTheWordToo) {
+  for (const char *command :
+       {"", "status", "input", "input set", "--json", "input set --json"}) {
+    SCOPED_TRACE(command);
+    const std::string words = command;
+    const Result result = NoMixer("ztk help " + words);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, NoMixer("ztk " + words + " --help").out);
+    EXPECT_THAT(result.err, IsEmpty());
+  }
+  EXPECT_EQ(NoMixer("ztk --json help").out, NoMixer("ztk --help --json").out);
+  const Result wrong = NoMixer("ztk help statsu");
+  EXPECT_EQ(wrong.status, 2);
+  EXPECT_THAT(wrong.err,
+              StartsWith("ztk: no command \"statsu\"; nearest: status; "));
+  EXPECT_EQ(NoMixer("ztk help input lst").status, 2);
+}
+
 TEST_F(Help, TellsTheVersion) {
   const Result result = NoMixer("ztk --version; ztk --version --json");
   const std::vector<std::string> lines = SplitLines(result.out);

@@ -100,6 +100,9 @@ class Parser {
     }
   }
 
+  // Whether words were left over.
+  bool HasMore() const { return app_.remaining_size(true) > 0; }
+
   // "input set", as far as it was recognised.
   std::string Path() const {
     std::string path;
@@ -261,6 +264,9 @@ class Parser {
   std::map<const CLI::App *, std::deque<Slot>> slots_;
 };
 
+// The same question, in the form that people try first.
+constexpr char kHelpWord[] = "help";
+
 // Known before the words are understood, because errors are told in it too.
 bool AsksForJson(const std::vector<std::string> &words) {
   const auto end = std::find(words.begin(), words.end(), "--");
@@ -294,16 +300,36 @@ Report Interrupted() {
   return report;
 }
 
+// Takes the word out that asks for help; false where it is not there.
+bool TakeHelpWord(std::vector<std::string> *words) {
+  const auto first = std::find_if(
+      words->begin(), words->end(),
+      [](const std::string &word) { return !word.starts_with('-'); });
+  if (first == words->end() || *first != kHelpWord) return false;
+  words->erase(first);
+  return true;
+}
+
+// Of the command that the words led to; throws what is wrong with words that
+// are left over.
+Report HelpOnPath(Parser *parser) {
+  if (parser->HasMore()) parser->Selected();
+  return Help(parser->Help());
+}
+
 }  // namespace
 
-Report Run(const std::vector<std::string> &words, Call *call) {
+Report Run(std::vector<std::string> words, Call *call) {
   if (!words.empty() && words.front() == manual::kCompletionCall) {
     return Completed({words.begin() + 1, words.end()});
   }
   call->json = AsksForJson(words);
+  const bool asksForHelp = TakeHelpWord(&words);
   Parser parser(words);
   try {
     parser.Parse(words);
+    call->command = parser.Path();
+    if (asksForHelp) return HelpOnPath(&parser);
   } catch (const CLI::CallForHelp &) {
     call->command = parser.Path();
     return Help(parser.Help());
@@ -314,7 +340,6 @@ Report Run(const std::vector<std::string> &words, Call *call) {
     throw Failure(ExitCode::Usage,
                   OneLine(error.what()) + SeeHelp(call->command));
   }
-  call->command = parser.Path();
   const CLI::App *selected = parser.Selected();
   Arguments arguments = parser.ArgumentsOf(selected);
   call->json = arguments.json;

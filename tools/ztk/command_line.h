@@ -17,7 +17,7 @@ struct Call {
 
 // Parses the words that follow the program's name, and runs their command.
 // *call is filled in as soon as something is known.
-Report Run(const std::vector<std::string> &words, Call *call);
+Report Run(std::vector<std::string> words, Call *call);
 
 }  // namespace ztk::cli
 

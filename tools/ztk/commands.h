@@ -81,7 +81,9 @@ inline constexpr char kAbout[] =
     "Channels and choices count from 1, as they are listed.";
 
 inline constexpr OptionForAll kHelpOption{.names = "-h,--help",
-                                          .description = "Show this help"};
+                                          .description =
+                                              "Show this help, as ztk help "
+                                              "[COMMAND] does"};
 inline constexpr OptionForAll kJsonOption{.names = "--json",
                                           .description = "Answer in JSON"};
 // Of the program alone.
