@@ -29,6 +29,7 @@ TEST_F(Help, TellsTheExitCodes) {
         "2  the words, or a file to import, were wrong; nothing was sent",
         "3  no mixer answered", "4  rejected", "5  something else failed",
         "6  some mixers answered", "7  sent, but not remembered",
+        "\n  130  interrupted by Ctrl-C; not ztk watch, which is ended so: 0\n",
         "Example: ztk input set 2 \"post ch2 fader\"",
         "USB output audio of the VRM-B5"}) {
     EXPECT_THAT(result.out, HasSubstr(line));

@@ -239,6 +239,15 @@ TEST_F(Terminal, IsNotInterruptedWhereTheSignalIsIgnored) {
   EXPECT_EQ(File("o"), "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n");
 }
 
+// Whatever comes next, as the prompt of a shell, stands on a line of its own.
+TEST_F(Terminal, EndsWatchingOnCtrlCWithStatus0) {
+  PseudoTerminal terminal(
+      Sandbox({"-n", "1"}, "trap : INT; ztk watch; echo =$?"), 80);
+  ASSERT_TRUE(terminal.WaitFor("watching for changes; Ctrl-C ends\n"));
+  terminal.Type("\x03");
+  EXPECT_TRUE(terminal.WaitFor("^C\n=0\n"));
+}
+
 class Picking : public Terminal {};
 
 TEST_F(Picking, TakesANumberOrTextFromTheList) {
@@ -289,7 +298,8 @@ TEST_F(Picking, EndsOnCtrlC) {
       Sandbox({"-n", "1"}, "trap : INT; ztk midi set; echo =$?"), 80);
   ASSERT_TRUE(terminal.WaitFor("MIDI channel, number or text: "));
   terminal.Type("\x03");
-  EXPECT_TRUE(terminal.WaitFor("\n=130\n"));
+  EXPECT_TRUE(
+      terminal.WaitFor("^C\nztk: interrupted; nothing was changed\n=130\n"));
   EXPECT_THAT(Requests(), IsEmpty());
 }
 

@@ -173,7 +173,8 @@ void AddOthers(std::vector<Command> *commands) {
       {.path = "watch",
        .summary = "Show changes made by any program, until interrupted",
        .parameters = {},
-       .note = "All programs of your session are heard.",
+       .note = "All programs of your session are heard. Ctrl-C ends it, with\n"
+               "exit status 0.",
        .example = "ztk watch --json",
        .run = Watch});
   commands->push_back(

@@ -59,6 +59,8 @@ void WriteError(const std::string &line) {
                    {.columns = Columns(STDERR_FILENO), .standsOut = false}));
 }
 
+void WriteLineEnd() { WriteAll(STDERR_FILENO, "\n"); }
+
 int Print(const std::string &command, const Report &report, bool json) {
   bool written = true;
   int error = 0;

@@ -24,6 +24,9 @@ bool WriteOutput(const std::string &text);
 // nobody is left to tell when that fails.
 void WriteError(const std::string &line);
 
+// Ends a line that the terminal has begun, on the error stream.
+void WriteLineEnd();
+
 // Writes the report, in the form asked for, and answers the exit status.
 int Print(const std::string &command, const Report &report, bool json);
 

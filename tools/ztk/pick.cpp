@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "output.h"
+#include "progress.h"
 #include "report.h"
 #include "terminal.h"
 
@@ -48,6 +49,7 @@ Choice Pick(const std::string &place, const std::string &list,
   const Layout layout{.columns = Columns(STDOUT_FILENO),
                       .standsOut = MayStandOut(STDOUT_FILENO)};
   WriteOutput(LaidOut(list, layout));
+  const Asking asking;
   while (true) {
     WriteOutput(place + ", number or text: ");
     const std::optional<std::string> answer = ReadLine();

@@ -28,6 +28,7 @@ constexpr char kEnding[] = "; ending";
 
 // True while a line without an end stands on the terminal.
 std::atomic<bool> theLineStands = false;
+std::atomic<bool> theUserIsAsked = false;
 static_assert(std::atomic<bool>::is_always_lock_free);
 
 // Made before the signal can come, as nothing can be made when it does.
@@ -49,7 +50,8 @@ void OnInterrupt(int /*signal*/) {
   }
   WriteNow(STDOUT_FILENO, theJsonLine);
   WriteNow(STDERR_FILENO, "ztk: ");
-  WriteNow(STDERR_FILENO, kInterrupted);
+  WriteNow(STDERR_FILENO,
+           theUserIsAsked.load() ? kInterruptedAsking : kInterrupted);
   WriteNow(STDERR_FILENO, "\n");
   _exit(static_cast<int>(ExitCode::Interrupted));
 }
@@ -115,6 +117,10 @@ void Progress::Tell() {
   WriteNow(STDERR_FILENO, kClearLine);
   theLineStands = false;
 }
+
+Asking::Asking() { theUserIsAsked = true; }
+
+Asking::~Asking() { theUserIsAsked = false; }
 
 void EndOnInterrupt(const std::string &jsonLine) {
   theErrorsAreShown = IsTerminal(STDERR_FILENO);

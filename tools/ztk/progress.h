@@ -17,6 +17,9 @@ inline constexpr char kInterrupted[] =
     "interrupted; what was under way may have been done in part, ztk status "
     "shows what is remembered";
 
+// The same where the user was asked, and nothing was done before.
+inline constexpr char kInterruptedAsking[] = "interrupted; nothing was changed";
+
 inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
 
 // While it lives, tells on the error stream what is waited for and for how
@@ -42,6 +45,15 @@ class Progress {
   std::condition_variable end_;
   bool ended_ = false;
   std::thread thread_;
+};
+
+// While it lives the user is asked what to do, and nothing is under way.
+class Asking {
+ public:
+  Asking();
+  ~Asking();
+  Asking(const Asking &) = delete;
+  Asking &operator=(const Asking &) = delete;
 };
 
 // From now on Ctrl-C ends the program with status 130 and one line that says

@@ -40,7 +40,7 @@ constexpr ExitMeaning kExitMeanings[] = {
      .text = "sent, but not remembered: the settings file does not hold it"},
     {.exit = ExitCode::Interrupted,
      .word = "interrupted",
-     .text = "interrupted by Ctrl-C"}};
+     .text = "interrupted by Ctrl-C; not ztk watch, which is ended so: 0"}};
 
 // Never throws for text that is not UTF-8: a user may type anything.
 std::string Dump(const Json &json) {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstring>
 
@@ -7,6 +9,7 @@
 #include "other_commands.h"
 #include "output.h"
 #include "products.h"
+#include "terminal.h"
 
 namespace ztk::cli {
 
@@ -85,6 +88,10 @@ Report Watch(const Arguments &arguments) {
   const LoopEnd end = RunLoop(SayReady);
   Report report;
   report.written = true;
+  if (end == LoopEnd::Interrupted && IsTerminal(STDERR_FILENO)) {
+    // Behind the "^C" that the terminal shows.
+    WriteLineEnd();
+  }
   if (end == LoopEnd::NoBus) {
     report.problem = {
         .exit = ExitCode::Failed,
