@@ -12,7 +12,8 @@ constexpr ExitMeaning kExitMeanings[] = {
      .word = "",
      .text =
          "done: every mixer that was sent something answered, and what was\n"
-         "set is remembered; there may be a warning all the same"},
+         "set is remembered; a command that only shows something has shown\n"
+         "it, also that no mixer answers; there may be a warning all the same"},
     {.exit = ExitCode::Found,
      .word = "found",
      .text = "ztk doctor has found a problem"},
