@@ -205,8 +205,9 @@ TEST_F(Reach, WarnsWhenThereIsNoBusToAnnounceOn) {
   const std::vector<std::string> lines = SplitLines(result.err);
   ASSERT_EQ(lines.size(), 3U);
   for (const std::string &line : lines) {
-    EXPECT_THAT(line, HasSubstr("warning: not announced: there is no session "
-                                "message bus"));
+    EXPECT_THAT(line,
+                HasSubstr("warning: not announced, as there is no session "
+                          "bus; see ztk doctor"));
   }
 }
 

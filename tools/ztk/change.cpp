@@ -118,8 +118,7 @@ std::string Described(const MadeChange &change, const Reach &reach) {
 
 void WarnOfSilentBus(Report *report) {
   report->warnings.emplace_back(
-      "not announced: there is no session message bus here, so other programs "
-      "do not hear of it");
+      "not announced, as there is no session bus; see ztk doctor");
 }
 
 }  // namespace ztk::cli
