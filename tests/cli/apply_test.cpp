@@ -14,7 +14,11 @@ TEST_F(Apply, SendsWhatIsRememberedAndNothingElse) {
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(result.out,
             "USB input 2: 3 Post CH2 Fader, sent\n"
-            "USB input 5: 8 MIC, sent\n");
+            "USB input 5: 8 MIC, sent\n"
+            "Not sent: what is remembered for the VRM-B5; ztk apply --product "
+            "VRM-B5 sends it\n"
+            "Not sent: what is remembered for the VRM-K2; ztk apply --product "
+            "VRM-K2 sends it\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0206 8002 0000",
                                     "mixer 1: 40 03 0509 8002 0000"));
 }
@@ -54,6 +58,26 @@ TEST_F(Apply, TakesAnotherModelsFamily) {
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8004 0000"));
 }
 
+TEST_F(Apply, NamesTheModelsThatItLeavesOut) {
+  Remember("VRM-D6", {{"Output1", 2}});
+  EXPECT_FALSE(OneObject(OneMixer("ztk apply --json").out).contains("leftOut"));
+  Remember("VRM-K2", {{"MidiChannel", 3}});
+  for (const char *options : {"", "--dry-run"}) {
+    SCOPED_TRACE(options);
+    const Json json =
+        OneObject(OneMixer(std::string("ztk apply --json ") + options).out);
+    EXPECT_EQ(json["leftOut"], Json({"VRM-K2"}));
+  }
+  Remember("VRM-D6", {});
+  EXPECT_EQ(OneMixer("ztk apply").out,
+            "Nothing is remembered for the VRM-D6: nothing to send.\n"
+            "Not sent: what is remembered for the VRM-K2; ztk apply --product "
+            "VRM-K2 sends it\n");
+  // Who names a model knows what is left out.
+  EXPECT_EQ(OneMixer("ztk apply --product VRM-D6").out,
+            "Nothing is remembered for the VRM-D6: nothing to send.\n");
+}
+
 TEST_F(Apply, SendsOneChannelWhenToldSo) {
   Remember("VRM-D6", {{"Output0", 5}, {"Output1", 5}});
   const Result result = OneMixer("ztk input apply 2; ztk input apply 3");
@@ -89,9 +113,9 @@ TEST_F(Apply, NeverSendsAValueOfAnotherChannel) {
   Remember("VRM-D6", {{"Output0", 9}});
   Remember("VRM-B5", {{"Input0", 4}});
   const Result result =
-      OneMixer("ztk apply; echo $?; ztk output apply; echo $?");
-  EXPECT_THAT(Line(result.out, 1), "4");
-  EXPECT_THAT(Line(result.out, 3), "4");
+      OneMixer("ztk apply; echo =$?; ztk output apply; echo =$?");
+  EXPECT_THAT(Line(result.out, 2), "=4");
+  EXPECT_THAT(Line(result.out, 4), "=4");
   EXPECT_THAT(result.err, HasSubstr("USB input 1: 9, which is not a choice"));
   EXPECT_THAT(result.err, HasSubstr("USB output 1: 4, which is not a choice"));
   EXPECT_THAT(Writes(), IsEmpty());

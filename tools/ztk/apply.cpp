@@ -32,6 +32,12 @@ void AddRemembered(const Family &family,
   }
 }
 
+bool IsRemembered(const Family &family) {
+  std::vector<Setting> settings;
+  AddRemembered(family, ChannelsFor(family, {}), &settings);
+  return !settings.empty();
+}
+
 // The library addresses its values across the channels: a remembered number
 // behind a channel's choices would send a value of another channel, which is
 // not what was remembered.
@@ -118,6 +124,15 @@ Report PlanOfApply(std::vector<Setting> settings) {
   return report;
 }
 
+// Settings of other models that a user of several may expect to be sent.
+void AddLeftOut(const std::vector<std::string> &models, Report *report) {
+  for (const std::string &model : models) {
+    report->text += "Not sent: what is remembered for the " + model +
+                    "; ztk apply --product " + model + " sends it\n";
+    report->fields["leftOut"].push_back(model);
+  }
+}
+
 Report Apply(std::vector<Setting> settings, const std::string &what,
              const Arguments &arguments) {
   Report report;
@@ -177,13 +192,17 @@ Report ApplyAll(const Arguments &arguments) {
       word == nullptr ? kOwnProduct : ParseProduct(*word);
   std::vector<Setting> settings;
   std::vector<std::string> models;
+  std::vector<std::string> leftOut;
   bool known = false;
   for (const Family *family : Families()) {
     const std::string model = ModelName(*family);
     if (std::find(models.begin(), models.end(), model) == models.end()) {
       models.push_back(model);
     }
-    if (family->product != product) continue;
+    if (family->product != product) {
+      if (word == nullptr && IsRemembered(*family)) leftOut.push_back(model);
+      continue;
+    }
     known = true;
     AddRemembered(*family, ChannelsFor(*family, {}), &settings);
   }
@@ -193,7 +212,10 @@ Report ApplyAll(const Arguments &arguments) {
         "no setting belongs to the " + ProductName(product) +
             "; those of these models are remembered: " + Listed(models));
   }
-  return Apply(std::move(settings), "the " + ProductName(product), arguments);
+  Report report =
+      Apply(std::move(settings), "the " + ProductName(product), arguments);
+  AddLeftOut(leftOut, &report);
+  return report;
 }
 
 }  // namespace ztk::cli

@@ -160,9 +160,11 @@ void AddOthers(std::vector<Command> *commands) {
       {.path = "apply",
        .summary = "Send all that is remembered for a model again",
        .parameters = {ProductOption("VRM-D6"), DryRunOption()},
-       .note = "Only settings with a remembered value are sent. With another\n"
-               "model, what is remembered for that one: --product VRM-B5 for\n"
-               "USB output audio, --product VRM-K2 for the MIDI channel.",
+       .note =
+           "Only settings with a remembered value are sent. With another\n"
+           "model, what is remembered for that one: --product VRM-B5 for\n"
+           "USB output audio, --product VRM-K2 for the MIDI channel. Without\n"
+           "it, the models whose settings are left out are named.",
        .example = "ztk apply",
        .run = ApplyAll});
   for (Command &command : AutoapplyCommands()) {
