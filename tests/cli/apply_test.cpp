@@ -94,8 +94,26 @@ TEST_F(Apply, ReportsAValueThatTheLibraryRefuses) {
   EXPECT_EQ(json["settings"][0]["accepted"], false);
   EXPECT_EQ(json["error"]["code"], "rejected");
   EXPECT_THAT(result.err, HasSubstr("MIDI channel: 10 CH 10"));
-  EXPECT_THAT(result.err, HasSubstr("ztk midi set"));
+  EXPECT_THAT(result.err,
+              HasSubstr("; only choices 1 to 4 can be sent again; to send this "
+                        "one, set it once more: ztk midi set 10\n"));
   EXPECT_THAT(Writes(), IsEmpty());
+}
+
+TEST_F(Apply, IsNotPromisedForAHighMidiChannel) {
+  const std::string note =
+      "  ztk apply cannot send this one again; set it once more instead\n";
+  WriteAll(home_.path() / "file",
+           R"({"version":1,"settings":{"VRM-K2":{"midi":"CH 5"}}})");
+  EXPECT_EQ(
+      OneMixer("ztk midi set 4; ztk midi set 5; ztk import $DIR/file").out,
+      "MIDI channel: 4 CH 4, sent to 1 mixer, remembered\n"
+      "MIDI channel: 5 CH 5, sent to 1 mixer, remembered\n" +
+          note + "MIDI channel: 5 CH 5, sent to 1 mixer, remembered\n" + note);
+  EXPECT_THAT(NoMixer("ztk midi set 4").err,
+              testing::EndsWith("once a mixer answers, run: ztk midi apply\n"));
+  EXPECT_THAT(NoMixer("ztk midi set 5").err,
+              testing::EndsWith("once a mixer answers, run: ztk midi set 5\n"));
 }
 
 TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {

@@ -89,6 +89,16 @@ TEST_F(Help, IsGivenForTheWordToo) {
   EXPECT_EQ(NoMixer("ztk help input lst").status, 2);
 }
 
+TEST_F(Help, SaysWhichChoicesAreNotSentAgain) {
+  for (const char *command : {"midi", "midi list", "midi set", "midi apply"}) {
+    SCOPED_TRACE(command);
+    EXPECT_THAT(
+        OnOneLine(NoMixer(std::string("ztk ") + command + " --help").out),
+        HasSubstr("Of its choices, apply sends 1 to 4 again, and no other: "));
+  }
+  EXPECT_THAT(NoMixer("ztk boost set --help").out, Not(HasSubstr("again")));
+}
+
 TEST_F(Help, TellsTheVersion) {
   const Result result = NoMixer("ztk --version; ztk --version --json");
   const std::vector<std::string> lines = SplitLines(result.out);

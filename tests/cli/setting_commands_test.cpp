@@ -178,8 +178,10 @@ TEST_F(BoostSet, IsRejectedForAModelThatCanOnlyBeListed) {
 TEST_F(MidiSet, BelongsToTheK2) {
   const Result result = OneMixer("ztk midi set 'ch 10' --product VRM-K2");
   EXPECT_EQ(result.status, 0) << result.err;
-  EXPECT_EQ(result.out,
-            "MIDI channel: 10 CH 10, sent to 1 mixer, remembered\n");
+  EXPECT_EQ(
+      result.out,
+      "MIDI channel: 10 CH 10, sent to 1 mixer, remembered\n"
+      "  ztk apply cannot send this one again; set it once more instead\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0900 8004 0000"));
   EXPECT_TRUE(HasSettings("VRM-K2"));
 }

@@ -80,6 +80,18 @@ void AddSetting(const Setting &setting, const Reach &reach, Report *report) {
                   (setting.refused ? "refused" : SentOrNot(reach)) + "\n";
 }
 
+// What to do about one that was refused.
+std::string Remedy(const Setting &setting) {
+  const Family &family = *setting.family;
+  if (!ChoiceAt(family, setting.channel, setting.index) ||
+      IsSentAgain(family, setting.index)) {
+    return std::string("choose another one with: ztk ") + family.name + " set";
+  }
+  return "only choices 1 to " + std::to_string(family.sentAgainBelow) +
+         " can be sent again; to send this one, set it once more: " +
+         SetCommand(family, setting.channel, setting.index);
+}
+
 // A refused value is the more urgent problem: it does not go away by itself.
 void AddRefused(const std::vector<Setting> &settings, Report *report) {
   std::vector<std::string> refused;
@@ -87,21 +99,19 @@ void AddRefused(const std::vector<Setting> &settings, Report *report) {
   for (const Setting &setting : settings) {
     if (!setting.refused) continue;
     refused.push_back(NamedValue(setting));
-    remedy = std::string("ztk ") + setting.family->name + " set";
+    remedy = Remedy(setting);
   }
   if (refused.empty()) return;
   if (report->problem) report->warnings.push_back(report->problem->message);
-  report->problem = {
-      .exit = ExitCode::Rejected,
-      .message = "remembered, but refused when sent again: " + Listed(refused) +
-                 "; choose another one with: " + remedy};
+  report->problem = {.exit = ExitCode::Rejected,
+                     .message = "remembered, but refused when sent again: " +
+                                Listed(refused) + "; " + remedy};
 }
 
 // Without asking the library, which would send.
 bool WouldBeRefused(const Setting &setting) {
-  const std::uint32_t limit = setting.family->sentAgainBelow;
   return !BelongsToItsChannel(setting) ||
-         (limit != 0 && setting.index >= limit);
+         !IsSentAgain(*setting.family, setting.index);
 }
 
 Report PlanOfApply(std::vector<Setting> settings) {

@@ -111,6 +111,11 @@ void AddTruth(const MadeChanges &made, const std::string &what,
   if (!announced) WarnOfSilentBus(report);
 }
 
+std::string NoteOnSendingAgain(const Change &change) {
+  if (IsSentAgain(*change.family, change.index)) return "";
+  return "  ztk apply cannot send this one again; set it once more instead\n";
+}
+
 std::string Described(const MadeChange &change, const Reach &reach) {
   return Described(reach) +
          (change.remembered ? ", remembered" : ", not remembered");

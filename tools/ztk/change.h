@@ -45,6 +45,9 @@ MadeChanges MakeChanges(const std::vector<Change> &changes);
 void AddTruth(const MadeChanges &made, const std::string &what,
               const std::string &again, Report *report);
 
+// A line for one that the library will not send again, empty for others.
+std::string NoteOnSendingAgain(const Change &change);
+
 // "sent to 1 mixer, remembered"
 std::string Described(const MadeChange &change, const Reach &reach);
 

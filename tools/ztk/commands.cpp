@@ -45,7 +45,7 @@ Command MakeCommand(const Family &family, const char *verb,
   return {.path = path,
           .summary = summary,
           .parameters = {},
-          .note = Belonging(family),
+          .note = Note(family),
           .example = example,
           .run = [&family, run](const Arguments &arguments) {
             return run(family, arguments);
@@ -230,7 +230,7 @@ std::vector<Group> MakeGroups() {
   for (const Family *family : Families()) {
     groups.push_back({.name = family->name,
                       .summary = Summary(*family),
-                      .note = Belonging(*family),
+                      .note = Note(*family),
                       .example = std::string("ztk ") + family->name + " set " +
                                  family->example});
   }

@@ -241,7 +241,7 @@ void AddImported(const MadeChange &one, const Reach &reach, Report *report) {
   report->fields["settings"].push_back(std::move(fields));
   report->text += PlaceName(family, change.channel) + ": " +
                   DescribedValue(family, change.channel, change.index) + ", " +
-                  Described(one, reach) + "\n";
+                  Described(one, reach) + "\n" + NoteOnSendingAgain(change);
 }
 
 }  // namespace

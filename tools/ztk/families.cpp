@@ -181,6 +181,27 @@ std::string Belonging(const Family &family) {
          ".";
 }
 
+std::string Note(const Family &family) {
+  std::string note = Belonging(family);
+  if (family.sentAgainBelow != 0) {
+    note += " Of its choices, apply sends 1 to " +
+            std::to_string(family.sentAgainBelow) +
+            "\nagain, and no other: set another one once more instead.";
+  }
+  return note;
+}
+
+bool IsSentAgain(const Family &family, std::uint32_t index) {
+  return family.sentAgainBelow == 0 || index < family.sentAgainBelow;
+}
+
+std::string SetCommand(const Family &family, std::uint32_t channel,
+                       std::uint32_t index) {
+  std::string command = std::string("ztk ") + family.name + " set ";
+  if (family.channels != 0) command += std::to_string(channel + 1) + " ";
+  return command + std::to_string(index + 1);
+}
+
 std::string Summary(const Family &family) {
   return std::string(family.title) + " of the " + ModelName(family) + ": " +
          family.idea;

@@ -73,6 +73,16 @@ std::string ModelName(const Family &family);
 // "USB output audio belongs to the VRM-B5."
 std::string Belonging(const Family &family);
 
+// The same, and which choices are not sent again, where some are not.
+std::string Note(const Family &family);
+
+// Whether the library would send this index again.
+bool IsSentAgain(const Family &family, std::uint32_t index);
+
+// What sets it: "ztk input set 2 3".
+std::string SetCommand(const Family &family, std::uint32_t channel,
+                       std::uint32_t index);
+
 // "USB output audio of the VRM-B5: where playback goes"
 std::string Summary(const Family &family);
 

@@ -306,9 +306,14 @@ Report SetChoice(const Family &family, const Arguments &arguments) {
   report.fields["result"] = change.result;
   report.fields["remembered"] = change.remembered;
   report.fields["announced"] = change.announced;
-  AddTruth(made, place, std::string("ztk ") + family.name + " apply", &report);
+  AddTruth(made, place,
+           IsSentAgain(family, wanted.index)
+               ? std::string("ztk ") + family.name + " apply"
+               : SetCommand(family, channel, wanted.index),
+           &report);
   report.text = place + ": " + Described(choice) + ", " +
-                Described(change, made.reach) + "\n";
+                Described(change, made.reach) + "\n" +
+                NoteOnSendingAgain(wanted);
   // The sentence for no mixer says that the setting has been saved.
   if (change.result == ZTK_WARNING &&
       (change.remembered || made.reach.found() > 0)) {
