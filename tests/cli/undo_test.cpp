@@ -136,6 +136,19 @@ TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
            R"({"1":"MIC"}},"VRM-K2":{"midi":"CH 3"}}})");
   EXPECT_THAT(NoMixer("ztk import $DIR/both.json; ztk undo").err,
               HasSubstr("run: ztk apply; ztk apply --product VRM-K2\n"));
+  // "ztk apply" stands in the longer command, and is another one.
+  WriteAll(home_.path() / "both.json",
+           R"({"version":1,"settings":{"VRM-D6":{"boost":"-10 dB"},)"
+           R"("VRM-B5":{"output":{"2":"AUX"}}}})");
+  EXPECT_THAT(NoMixer("ztk import $DIR/both.json; ztk undo").err,
+              HasSubstr("run: ztk apply --product VRM-B5; ztk apply\n"));
+}
+
+// What apply does not send again.
+TEST_F(Undo, TellsToSetAHighMidiChannelOnceMore) {
+  Remember("VRM-K2", {{"MidiChannel", 9}});
+  EXPECT_THAT(LastLine(NoMixer("ztk midi set 1; ztk undo").err),
+              testing::EndsWith("once a mixer answers, run: ztk midi set 10"));
 }
 
 TEST_F(Undo, ShowsInADryRunWhatItWouldDo) {

@@ -73,14 +73,6 @@ std::vector<Change> ToMake(const std::vector<Undoing> &undoings) {
   return changes;
 }
 
-std::string Command(const PastChange &past) {
-  std::string command = std::string("ztk ") + past.family->name + " set ";
-  if (past.family->channels != 0) {
-    command += std::to_string(past.channel + 1) + " ";
-  }
-  return command + std::to_string(Former(past) + 1);
-}
-
 // Values that somebody else has set since are his.
 std::vector<std::string> ForeignOnes(const std::vector<Undoing> &undoings) {
   std::vector<std::string> foreign;
@@ -91,7 +83,9 @@ std::vector<std::string> ForeignOnes(const std::vector<Undoing> &undoings) {
     foreign.push_back(PlaceName(*past.family, past.channel) + " is " +
                       (now ? DescribedValue(*past.family, past.channel, *now)
                            : "not remembered any more") +
-                      " (for what it was, type: " + Command(past) + ")");
+                      " (for what it was, type: " +
+                      SetCommand(*past.family, past.channel, Former(past)) +
+                      ")");
   }
   return foreign;
 }
@@ -193,24 +187,34 @@ void TellPlan(const std::vector<Change> &changes, Report *report) {
   AddRefused(refused, report);
 }
 
+std::string SendingAgain(const Change &change) {
+  const Family &family = *change.family;
+  if (!IsSentAgain(family, change.index)) {
+    return SetCommand(family, change.channel, change.index);
+  }
+  return family.product == kOwnProduct
+             ? "ztk apply"
+             : "ztk apply --product " + ProductName(family.product);
+}
+
 // How to send again what was put back; each model is sent by itself.
 std::string SendingAgain(const MadeChanges &made) {
-  std::string commands;
+  std::vector<std::string> commands;
   for (const Family *family : Families()) {
-    const bool concerned =
-        std::any_of(made.changes.begin(), made.changes.end(),
-                    [family](const MadeChange &one) {
-                      return one.change.family->product == family->product;
-                    });
-    if (!concerned) continue;
-    std::string command = "ztk apply";
-    if (family->product != kOwnProduct) {
-      command += " --product " + ProductName(family->product);
+    for (const MadeChange &one : made.changes) {
+      if (one.change.family != family) continue;
+      const std::string command = SendingAgain(one.change);
+      if (std::find(commands.begin(), commands.end(), command) ==
+          commands.end()) {
+        commands.push_back(command);
+      }
     }
-    if (commands.find(command) != std::string::npos) continue;
-    commands += (commands.empty() ? "" : "; ") + command;
   }
-  return commands;
+  std::string joined;
+  for (const std::string &command : commands) {
+    joined += (joined.empty() ? "" : "; ") + command;
+  }
+  return joined;
 }
 
 // True where the step is done with, for better or worse.
