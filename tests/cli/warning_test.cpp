@@ -104,6 +104,21 @@ TEST_F(Warning, IsExplainedPlainlyWithoutTheBundle) {
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
 }
 
+TEST_F(Warning, IsExplainedForEachChannelOfAnImportAndOfItsUndo) {
+  WriteAll(home_.path() / "file",
+           R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB",)"
+           R"("input":{"1":"MIC","2":"CH2 Control Tone PHONO",)"
+           R"("3":"CH3 Control Tone PHONO"}}}})");
+  WithBundle({"-n", "1", "--selector", "2=1"},
+             "ztk import $DIR/file; echo $? >&2; ztk undo; echo $? >&2");
+  EXPECT_THAT(
+      SplitLines(result_.err),
+      ElementsAre("ztk: warning: USB input 2: English WARNING2\xC3\xA9", "0",
+                  "ztk: warning: USB input 2: English WARNING2\xC3\xA9", "0"));
+  WithBundle({"-n", "0"}, "ztk import $DIR/file");
+  EXPECT_EQ(SplitLines(result_.err).size(), 1U) << result_.err;
+}
+
 TEST_F(Warning, SaysThatTheFifthChannelHasNoSelector) {
   const Result result =
       OneMixer("ztk input set 5 1; echo $?; ztk warning --channel 5; echo $?");

@@ -14,6 +14,7 @@
 #include "other_commands.h"
 #include "plan.h"
 #include "settings_snapshot.h"
+#include "warning.h"
 
 namespace ztk::cli {
 
@@ -304,6 +305,7 @@ Report Import(const Arguments &arguments) {
     AddImported(one, made.reach, &report);
   }
   AddTruth(made, "what stands in it", "ztk import " + *file, &report);
+  ExplainWarnings(made, &report);
   return report;
 }
 

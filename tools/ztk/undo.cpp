@@ -6,6 +6,7 @@
 #include "plan.h"
 #include "products.h"
 #include "settings_snapshot.h"
+#include "warning.h"
 
 namespace ztk::cli {
 
@@ -228,6 +229,7 @@ bool UndoStep(const std::vector<Undoing> &undoings, Report *report) {
   const MadeChanges accepted = Accepted(made);
   if (!accepted.changes.empty()) {
     AddTruth(accepted, "what was put back", SendingAgain(accepted), report);
+    ExplainWarnings(accepted, report);
   }
   AddRefused(made, report);
   return done;

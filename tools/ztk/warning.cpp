@@ -92,26 +92,39 @@ std::string PlainSentence(const Reach &reach, const std::string &place) {
          "stands";
 }
 
-}  // namespace
-
-void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
+// The library's sentence names no channel; `before` goes in front of it.
+std::string Explanation(std::uint32_t channel, const Reach &reach,
+                        const std::string &before) {
   ZTKTextRef text = nullptr;
   const std::string place = PlaceName(kInput, channel);
   if (Sentence(channel, kUsersLanguage, &text) != ZTK_SUCCESS) {
     // The fifth channel: no selector belongs to it.
-    report->warnings.push_back(
-        reach.found() == 0
-            ? PlainSentence(reach, place)
-            : place +
-                  " has no input selector, so the mixer cannot tell "
-                  "whether this routing can be heard");
-    return;
+    return reach.found() == 0
+               ? PlainSentence(reach, place)
+               : place +
+                     " has no input selector, so the mixer cannot tell "
+                     "whether this routing can be heard";
   }
-  report->warnings.push_back(text != nullptr
-                                 ? Utf8(text)
-                                 : PlainSentence(reach, place) +
-                                       " (the translated text is missing: "
-                                       "install VRM-D6Setup.framework)");
+  if (text != nullptr) return before + Utf8(text);
+  return PlainSentence(reach, place) +
+         " (the translated text is missing: install VRM-D6Setup.framework)";
+}
+
+}  // namespace
+
+void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
+  report->warnings.push_back(Explanation(channel, reach, ""));
+}
+
+void ExplainWarnings(const MadeChanges &made, Report *report) {
+  // Without a mixer the error says it for all of them.
+  if (made.reach.found() == 0) return;
+  for (const MadeChange &one : made.changes) {
+    if (one.result != ZTK_WARNING) continue;
+    const std::uint32_t channel = one.change.channel;
+    report->warnings.push_back(
+        Explanation(channel, made.reach, PlaceName(kInput, channel) + ": "));
+  }
 }
 
 std::vector<std::string> LanguageNames() {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "change.h"
 #include "mixers.h"
 #include "report.h"
 
@@ -13,6 +14,10 @@ namespace ztk::cli {
 // library's sentence in the user's language, or one of this program where the
 // library has none. May ask the first mixer for the state of its port.
 void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
+
+// The same for each of the changes that was answered so; nothing without a
+// mixer.
+void ExplainWarnings(const MadeChanges &made, Report *report);
 
 // The channels that have a selector, and so a warning: the first ones.
 inline constexpr std::uint32_t kWarningChannels = 4;
