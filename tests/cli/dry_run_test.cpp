@@ -150,6 +150,16 @@ TEST_F(DryRun, ShowsRequestsFileAndAnnouncement) {
   EXPECT_FALSE(HasSettings("VRM-K2"));
 }
 
+TEST_F(DryRun, TellsAValueThatStaysFromOneThatChanges) {
+  Remember("VRM-D6", {{"Output0", 6}, {"Output1", 4}});
+  const Result result = OneMixer(
+      "ztk export > $DIR/club.json; ztk input set 1 1 > /dev/null;"
+      "ztk import $DIR/club.json --dry-run");
+  EXPECT_THAT(result.out, HasSubstr("  Output0: 0 -> 6 (7 REC OUT)\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("  Output1: 4, unchanged (5 Cross Fader B)\n"));
+}
+
 TEST_F(DryRun, LeavesOutMixersThatCannotBeOpened) {
   const Result result =
       Inside({"-n", "2", "--forbid", "1"}, "ztk boost set 1 --dry-run --json");

@@ -180,9 +180,11 @@ void Plan::TellWrites(Report *report) const {
     const std::string before =
         write.before ? std::to_string(static_cast<std::int32_t>(*write.before))
                      : "nothing";
+    const std::string after =
+        std::to_string(static_cast<std::int32_t>(change.index));
     report->text +=
-        "  file  " + write.file + "\n        " + write.key + ": " + before +
-        " -> " + std::to_string(static_cast<std::int32_t>(change.index)) +
+        "  file  " + write.file + "\n        " + write.key + ": " +
+        (before == after ? after + ", unchanged" : before + " -> " + after) +
         " (" + DescribedValue(*change.family, change.channel, change.index) +
         ")\n";
     list.push_back({{"file", write.file},
