@@ -82,6 +82,7 @@ std::string ManPage(const Program &program, const std::string &date,
   if (!program.groups.empty()) {
     page.Section("SETTINGS");
     for (const Group &group : program.groups) {
+      if (!group.isSetting) continue;
       page.Term(Bold(group.name), group.summary + ".\n" + group.note);
     }
   }

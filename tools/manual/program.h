@@ -61,6 +61,7 @@ struct Group {
   std::string name;
   std::string summary;
   std::string note;
+  bool isSetting;  // else its commands alone tell of it
 };
 
 // What one exit status, variable or file means.

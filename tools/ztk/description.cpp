@@ -189,6 +189,8 @@ manual::Section Environment() {
       .terms = {
           {.name = "XDG_CONFIG_HOME, HOME",
            .meaning = "Where settings are remembered, see FILES."},
+          {.name = "XDG_STATE_HOME",
+           .meaning = "Where ztk undo finds what was changed, see FILES."},
           {.name = "DBUS_SESSION_BUS_ADDRESS",
            .meaning = "The message bus on which changes are announced."},
           {.name = "LANGUAGE, LC_ALL, LC_MESSAGES, LANG",
@@ -203,7 +205,10 @@ manual::Section Environment() {
 manual::Section Files() {
   manual::Section section{
       .title = "FILES",
-      .text = "Below XDG_CONFIG_HOME, or ~/.config without it:",
+      .text =
+          "Settings are below XDG_CONFIG_HOME, or ~/.config without it; "
+          "what ztk undo needs is\n"
+          "below XDG_STATE_HOME, or ~/.local/state without it:",
       .terms = {}};
   for (const Family *family : Families()) {
     const std::string model = ModelName(*family);
@@ -220,6 +225,12 @@ manual::Section Files() {
       known->meaning += std::string(", ") + family->name;
     }
   }
+  section.terms.push_back(
+      {.name = "tarvix/ztk-history.jsonl",
+       .meaning = "What ztk has changed, step by step, for ztk undo"});
+  section.terms.push_back({.name = "tarvix/ztk.lock",
+                           .meaning = "Held by the ztk that changes something; "
+                                      "others wait for it"});
   return section;
 }
 
@@ -246,7 +257,13 @@ ztk::manual::Program ztk::manual::Described() {
   }
   for (const cli::Group &group : Groups()) {
     program.groups.push_back(
-        {.name = group.name, .summary = group.summary, .note = group.note});
+        {.name = group.name,
+         .summary = group.summary,
+         .note = group.note,
+         .isSetting = std::any_of(Families().begin(), Families().end(),
+                                  [&group](const Family *family) {
+                                    return group.name == family->name;
+                                  })});
   }
   for (const cli::Command &command : Commands()) {
     program.commands.push_back(DescribedCommand(command));
