@@ -88,7 +88,7 @@ TEST_F(KernelPrograms, TheRunningMixersObeyTheControlCommands) {
       "$V reply 8004 0100; $Z status | grep Serato; "
       "$V unplug; until $Z status | grep \"No mixer\"; do sleep 0.05; done; "
       "$V plug; $Z status | grep reachable; "
-      "$V fault delay:20; $Z status | grep certification; "
+      "$V fault delay:20; $Z status | grep certified; "
       "$V fault short:1@8001; $Z status | grep firmware; "
       "$V show | head -1");
   EXPECT_THAT(output, HasSubstr("CH2 16"));
