@@ -298,14 +298,36 @@ class OfAnotherUser : public WriteAtomically {
   const bool asRoot_ = getuid() == 0;
 };
 
-TEST_F(OfAnotherUser, AFileWithoutPermissionIsNotReplaced) {
+// As after sudo with the user's own home.
+TEST_F(OfAnotherUser, AFileWithoutPermissionIsMovedAside) {
   if (!asRoot_) GTEST_SKIP() << kNeedsRoot;
   Put(path_, old_);
   ASSERT_EQ(chmod(path_.c_str(), 0600), 0);
   const std::string protection = ContentOf("/proc/sys/fs/protected_hardlinks");
   if (protection != "1\n") GTEST_SKIP() << "anyone may link any file here";
+  EXPECT_EQ(ReadAndWritten(), 2);
+  EXPECT_EQ(ContentOf(path_), fresh_);
+  EXPECT_EQ(ContentOf(path_ + ".unreadable-1"), old_);
+  EXPECT_EQ(ReadAndWritten(), 3);
+  EXPECT_EQ(NamesIn(folder_.path()).size(), 2U);
+}
+
+TEST_F(OfAnotherUser, AFileThatMayNotEvenBeMovedStays) {
+  if (!asRoot_) GTEST_SKIP() << kNeedsRoot;
+  Put(path_, old_);
+  ASSERT_EQ(chmod(path_.c_str(), 0600), 0);
+  // In a folder for everyone each file is its owner's alone.
+  ASSERT_EQ(chown(folder_.path().c_str(), 0, 0), 0);
+  ASSERT_EQ(chmod(folder_.path().c_str(), 01777), 0);
   EXPECT_EQ(ReadAndWritten(), 0);
   EXPECT_EQ(ContentOf(path_), old_);
+  EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
+}
+
+TEST_F(OfAnotherUser, AFolderInTheFilesPlaceStays) {
+  std::filesystem::create_directory(path_);
+  EXPECT_EQ(ReadAndWritten(), 0);
+  EXPECT_TRUE(std::filesystem::is_directory(path_));
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 

@@ -147,24 +147,41 @@ bool CopyFile(const std::string &from, const std::string &to) {
   return false;
 }
 
-// Keeps the file under a second, numbered name. False when it cannot; *kept
-// stays empty when there is no file to keep.
-bool KeepBeside(const std::string &file, std::string *kept) {
+// A new name for a file that may neither be linked nor read: others' files may
+// lie in one's own folder. Not for a folder, which is no settings file at all.
+bool MoveFile(const std::string &from, const std::string &to) {
+  struct stat status = {};
+  if (lstat(from.c_str(), &status) != 0 || S_ISDIR(status.st_mode)) {
+    return false;
+  }
+  return rename(from.c_str(), to.c_str()) == 0;
+}
+
+// The old file under its second name.
+struct Kept {
+  std::string name;    // empty when there was none to keep
+  bool moved = false;  // and has lost its first name
+};
+
+// Keeps the file under a second, numbered name. False when it cannot.
+bool KeepBeside(const std::string &file, Kept *kept) {
   constexpr int kMaxKept = 1000;
   for (int number = 1; number <= kMaxKept; ++number) {
     const std::string name = file + ".unreadable-" + std::to_string(number);
     if (link(file.c_str(), name.c_str()) == 0) {
-      *kept = name;
+      *kept = {.name = name, .moved = false};
       return true;
     }
     if (errno == ENOENT) return true;
     if (errno == EEXIST) continue;
     // Not every file system has hard links.
     if (CopyFile(file, name)) {
-      *kept = name;
+      *kept = {.name = name, .moved = false};
       return true;
     }
-    if (errno != EEXIST) return false;
+    if (errno == EEXIST) continue;
+    *kept = {.name = name, .moved = true};
+    return MoveFile(file, name);
   }
   return false;
 }
@@ -172,10 +189,14 @@ bool KeepBeside(const std::string &file, std::string *kept) {
 // Moves the complete new file to the place of the old one.
 bool PutInPlace(const std::string &fresh, const std::string &file,
                 bool keepOld) {
-  std::string kept;
+  Kept kept;
   if (keepOld && !KeepBeside(file, &kept)) return false;
   if (rename(fresh.c_str(), file.c_str()) == 0) return true;
-  if (!kept.empty()) unlink(kept.c_str());
+  if (kept.moved) {
+    MoveFile(kept.name, file);
+  } else if (!kept.name.empty()) {
+    unlink(kept.name.c_str());
+  }
   return false;
 }
 

@@ -18,8 +18,10 @@ namespace ztk::platform {
 // its owner only.
 //
 // With `keepOld` the old file is kept beside the new one under the first free
-// name of "<file>.unreadable-1", "-2" and so on; where that cannot be done it
-// is not replaced. The new file can then be read by its owner in any case.
+// name of "<file>.unreadable-1", "-2" and so on to 1000; where that cannot be
+// done it is not replaced. One that may neither be linked nor read is moved
+// there first, and for a moment there is none. The new file can then be read by
+// its owner in any case.
 //
 // A process that may not write so large a file is not killed for it (SIGXFSZ).
 bool ReplaceFile(const std::string &path, std::string_view content,
