@@ -219,6 +219,18 @@ TEST_F(Doctor, FindsThatTheBusIsGone) {
   EXPECT_EQ(LastLine(after.out), "helped");
 }
 
+TEST_F(Doctor, FindsThatTheLibraryOfTheBusIsBroken) {
+  const Json finding = OnlyOneIn(
+      "bus", NoMixer("mkdir $DIR/lib; echo broken > $DIR/lib/libsystemd.so.0;"
+                     "LD_LIBRARY_PATH=$DIR/lib ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "no-bus");
+  EXPECT_EQ(Word(finding, "cause"),
+            "the library that reaches the message bus, libsystemd.so.0, cannot "
+            "be loaded");
+  EXPECT_EQ(Word(finding, "command"),
+            "sudo apt install --reinstall libsystemd0");
+}
+
 TEST_F(Doctor, FindsTheBusThatTheShellWasNotTold) {
   std::filesystem::create_symlink(
       bus_.address().substr(std::string("unix:path=").size()),

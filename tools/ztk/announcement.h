@@ -23,6 +23,10 @@ struct Announcement {
 // True when there is a session bus that other programs could listen on.
 bool SessionBusAnswers();
 
+// The library by which a session bus is reached, where it cannot be loaded;
+// else null.
+const char *MissingBusLibrary();
+
 // Another listener of this session: what it has heard was announced.
 class BusWitness {
  public:

@@ -8,6 +8,7 @@
 
 #include "platform/linux/bus_connection.h"
 #include "platform/linux/bus_source.h"
+#include "platform/linux/sd_bus_library.h"
 #include "platform/text.h"
 
 namespace ztk::cli {
@@ -66,6 +67,10 @@ struct BusWitness::Ear {
 
 bool SessionBusAnswers() {
   return center::ConnectToSessionBus(center::PatienceEnds()) != nullptr;
+}
+
+const char *MissingBusLibrary() {
+  return center::SdBus() == nullptr ? center::kSdBusLibrary : nullptr;
 }
 
 BusWitness::BusWitness(const std::vector<const notify::Family *> &families)

@@ -36,6 +36,12 @@ std::string UsualAddress() {
   return "unix:path=" + folder + "/bus";
 }
 
+// Debian names a library's package after its soname: libsystemd.so.0.
+std::string PackageOf(const std::string &library) {
+  const std::size_t dot = library.find(".so.");
+  return library.substr(0, dot) + library.substr(dot + 4);
+}
+
 }  // namespace
 
 Findings FindBusTrouble(std::string *good) {
@@ -48,8 +54,13 @@ Findings FindBusTrouble(std::string *good) {
                       "a shell with one of its own",
                   .command = "dbus-run-session -- \"$SHELL\""};
   const std::string usual = UsualAddress();
+  const char *const library = MissingBusLibrary();
   const std::optional<std::string> address = Variable(kAddress);
-  if (geteuid() == 0 && Variable("SUDO_USER")) {
+  if (library != nullptr) {
+    finding.cause = std::string("the library that reaches the message bus, ") +
+                    library + ", cannot be loaded";
+    finding.command = "sudo apt install --reinstall " + PackageOf(library);
+  } else if (geteuid() == 0 && Variable("SUDO_USER")) {
     finding.cause =
         "this runs as root, whose programs are not yours; do "
         "without sudo";

@@ -30,7 +30,7 @@ bool FindAll(void *library, SdBusFunctions *functions) {
 
 // The library is never closed: connections may live as long as the process.
 const SdBusFunctions *Load() {
-  void *library = dlopen(ZTK_SD_BUS_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+  void *library = dlopen(kSdBusLibrary, RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) return nullptr;
   auto functions = std::make_unique<SdBusFunctions>();
   if (!FindAll(library, functions.get())) return nullptr;
@@ -42,6 +42,8 @@ const SdBusFunctions *Load() {
 }
 
 }  // namespace
+
+const char *const kSdBusLibrary = ZTK_SD_BUS_LIBRARY;
 
 const SdBusFunctions *SdBus() {
   const SdBusFunctions *known = theFunctions.load();

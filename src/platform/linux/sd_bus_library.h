@@ -53,6 +53,9 @@ struct SdBusFunctions {
 #undef ZTK_DECLARE
 };
 
+// The soname that is loaded.
+extern const char *const kSdBusLibrary;
+
 // All of them, for as long as the process lives. Null where the library is
 // missing, lacks one, or cannot be loaded now; then it is tried again at the
 // next call. Any thread may call, and a child after fork().
