@@ -88,8 +88,11 @@ struct Simple {
   const char *name;
   const char *summary;
   const char *done;
+  const char *where = "inside run or serve";
   const char *note = "";
 };
+// What a kernel lets users open is not for a served mixer to say.
+constexpr char kInsideRun[] = "inside run";
 constexpr Simple kPlug{
     .name = "plug", .summary = "Attach mixers", .done = "plugged in"};
 constexpr Simple kUnplug{
@@ -99,13 +102,15 @@ constexpr Simple kForbid{.name = "forbid",
                          .done =
                              "may not be opened, until: "
                              "ztk-virtual-mixer allow",
+                         .where = kInsideRun,
                          .note =
                              "For programs it is as with a real mixer: ztk "
                              "doctor tells what would help\nthere. Here, "
                              "ztk-virtual-mixer allow does."};
 constexpr Simple kAllow{.name = "allow",
                         .summary = "Allow opening them again",
-                        .done = "may be opened"};
+                        .done = "may be opened",
+                        .where = kInsideRun};
 
 template <const Simple &kSimple>
 int RunSimple(const Words &words) {
@@ -200,8 +205,8 @@ template <const Simple &kSimple>
 Command MakeSimple() {
   const std::string name = kSimple.name;
   return {.text = {.path = name,
-                   .summary =
-                       std::string(kSimple.summary) + " (inside run or serve)",
+                   .summary = std::string(kSimple.summary) + " (" +
+                              kSimple.where + ")",
                    .options = {MixerText()},
                    .note = kSimple.note,
                    .examples = {"ztk-virtual-mixer " + name + " --mixer 1"}},
