@@ -11,8 +11,6 @@
 namespace ztk::test {
 namespace {
 
-constexpr int kLines = 500;
-
 class WrongWords : public CliWorld {
  protected:
   // The fixed seed makes every run the same.
@@ -131,7 +129,7 @@ TEST_F(WrongWords, AreOneLineOfErrorAndNothingIsSent) {
   std::string script;
   std::vector<std::string> lines;
   std::vector<bool> nearlyRight;
-  for (int i = 0; i < kLines; ++i) {
+  for (int i = 0; i < ZTK_WRONG_LINES; ++i) {
     nearlyRight.push_back(Below(4) == 0);
     lines.push_back((nearlyRight.back() ? NearlyRight() : Line()) +
                     (Below(3) == 0 ? " --json" : ""));
