@@ -101,6 +101,13 @@ SCENES = (
         XDG_STATE_HOME=$HOME/none ztk boost set 3; ztk undo --dry-run --json
         ztk undo --json
         """),
+    # A value that no setter takes, and so cannot be put back.
+    (ONE, """
+        folder=$HOME/.config/tarvix/Preferences; mkdir -p $folder
+        printf '<plist version="1.0"><dict><key>MaxLevel</key>%s</dict></plist>' \
+          '<integer>77</integer>' >$folder/com.tarvix.VRM-D6autosetup.plist
+        ztk boost set 2; ztk undo --dry-run --json; ztk undo --json
+        """),
     # What is good, and what is found.
     (ONE, "ztk doctor --json"),
     (NONE, "HOME=/nonexistent ztk doctor --json"),

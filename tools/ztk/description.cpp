@@ -208,7 +208,9 @@ manual::Section Files() {
       .text =
           "Settings are below XDG_CONFIG_HOME, or ~/.config without it; "
           "what ztk undo needs is\n"
-          "below XDG_STATE_HOME, or ~/.local/state without it:",
+          "below XDG_STATE_HOME, or ~/.local/state without it. On macOS, and "
+          "in a home shared\nwith it that has no such folder, settings are in "
+          "~/Library/Preferences, under the\nsame names.",
       .terms = {}};
   for (const Family *family : Families()) {
     const std::string model = ModelName(*family);

@@ -98,7 +98,7 @@ std::vector<Choice> ChoicesOf(const Family &family, std::uint32_t product,
 std::optional<Choice> ChoiceAt(const Family &family, std::uint32_t channel,
                                std::uint32_t index);
 
-// "3 Post CH2 Fader", or "77, which is no choice".
+// "3 Post CH2 Fader", or "77, which is not a choice".
 std::string DescribedValue(const Family &family, std::uint32_t channel,
                            std::uint32_t index);
 

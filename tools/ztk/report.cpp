@@ -28,8 +28,9 @@ constexpr ExitMeaning kExitMeanings[] = {
     {.exit = ExitCode::Rejected,
      .word = "rejected",
      .text =
-         "rejected by the library: a model, value or remembered value that\n"
-         "it does not take"},
+         "rejected: a model or value that the library does not take, a\n"
+         "remembered value that does not belong there, or one that another\n"
+         "program has changed since and ztk undo leaves alone"},
     {.exit = ExitCode::Failed,
      .word = "failed",
      .text = "something else failed"},
