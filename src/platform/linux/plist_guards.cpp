@@ -26,14 +26,23 @@ bool QuotesPairUp(string_view text) {
   return std::count(text.begin(), text.end(), '"') % 2 == 0;
 }
 
+// Takes the first `size` bytes and an end of `endSize` behind them off the
+// front of `rest`. False when there is no such end.
+bool Take(std::size_t size, std::size_t endSize, string_view *rest,
+          string_view *taken) {
+  if (size == string_view::npos) return false;
+  *taken = rest->substr(0, size);
+  rest->remove_prefix(size + endSize);
+  return true;
+}
+
 // Takes everything up to and including `end` off the front of `rest`, and
 // gives what stood before it. False when there is no `end`.
 bool TakeUntil(string_view end, string_view *rest, string_view *taken) {
-  const std::size_t at = rest->find(end);
-  if (at == string_view::npos) return false;
-  *taken = rest->substr(0, at);
-  rest->remove_prefix(at + end.size());
-  return true;
+  return Take(rest->find(end), end.size(), rest, taken);
+}
+bool TakeUntil(char end, string_view *rest, string_view *taken) {
+  return Take(rest->find(end), 1, rest, taken);
 }
 
 bool TakePrefix(string_view prefix, string_view *rest) {
@@ -46,9 +55,12 @@ enum class Tag { Opening, Closing, Empty, Odd };
 
 // Tells the kind of a tag from what stands between "<" and ">".
 Tag KindOf(string_view tag) {
-  if (!QuotesPairUp(tag) || tag.find('<') != string_view::npos) {
-    return Tag::Odd;
+  bool quoted = false;
+  for (const char character : tag) {
+    if (character == '<') return Tag::Odd;
+    if (character == '"') quoted = !quoted;
   }
+  if (quoted) return Tag::Odd;
   const bool closing = TakePrefix("/", &tag);
   const bool empty = !tag.empty() && tag.back() == '/';
   if (empty) tag.remove_suffix(1);
@@ -65,23 +77,21 @@ Tag KindOf(string_view tag) {
 }
 
 // Takes what is neither text nor an element off the front of `rest`, which
-// stands behind a "<". False when it is malformed; *taken tells whether there
-// was any.
+// stands behind a "<". *taken tells whether there is any; false when it is
+// malformed.
 bool TakeMarkup(string_view *rest, bool *taken) {
+  *taken = rest->starts_with('!') || rest->starts_with('?');
+  if (!*taken) return true;
   string_view content;
-  *taken = true;
   if (TakePrefix("!--", rest)) return TakeUntil("-->", rest, &content);
   if (TakePrefix("![CDATA[", rest)) return TakeUntil("]]>", rest, &content);
   // The search begins at the first "?": libplist takes "<?>" for a whole one.
-  if (rest->starts_with("?")) {
+  if (rest->starts_with('?')) {
     return TakeUntil("?>", rest, &content) && QuotesPairUp(content);
   }
-  if (TakePrefix("!DOCTYPE", rest)) {
-    return TakeUntil(">", rest, &content) && QuotesPairUp(content) &&
-           content.find_first_of("[<") == string_view::npos;
-  }
-  *taken = false;
-  return !rest->starts_with("!");
+  return TakePrefix("!DOCTYPE", rest) && TakeUntil('>', rest, &content) &&
+         QuotesPairUp(content) &&
+         content.find_first_of("[<") == string_view::npos;
 }
 
 // libplist keeps only what stands before the first comment in these elements.
@@ -107,13 +117,13 @@ bool IsSafeXml(string_view bytes) {
   string_view rest = bytes;
   string_view text;
   string_view tag;
-  while (TakeUntil("<", &rest, &text)) {
+  while (TakeUntil('<', &rest, &text)) {
     bool isMarkup = false;
     if (!TakeMarkup(&rest, &isMarkup)) return false;
     if (isMarkup && LosesWhatFollowsMarkup(tag)) return false;
     if (isMarkup) continue;
 
-    if (!TakeUntil(">", &rest, &tag)) return false;
+    if (!TakeUntil('>', &rest, &tag)) return false;
     switch (KindOf(tag)) {
       case Tag::Opening:
         if (++open > kMaxOpen) return false;
