@@ -764,7 +764,7 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
  * - context: handed back as it is; must stay valid until unregistered.
  *
  * It answers 102 when productId is not served, and else 100, also when there is
- * no message bus to listen on.
+ * no message bus to listen on, or no GLib to listen with.
  *
  * Unregister ignores its second argument. It answers 102 when productId is not
  * served, and else 100; in three families it serves more products than Register

@@ -180,7 +180,7 @@ class Linking(unittest.TestCase):
         self.assertEqual(
             sorted(name for name in set(needed)
                    if not re.match(r"ld-|libgcc_s$|libm$", name)),
-            ["libc", "libglib-2.0", "libplist-2.0"] + runtime)
+            ["libc", "libplist-2.0"] + runtime)
 
     def test_code_stays_after_it_is_closed(self):
         self.assertIn("NODELETE", " ".join(self.flags("FLAGS_1")).split())

@@ -231,6 +231,19 @@ TEST_F(Doctor, FindsThatTheLibraryOfTheBusIsBroken) {
             "sudo apt install --reinstall libsystemd0");
 }
 
+TEST_F(Doctor, FindsThatTheLibraryOfTheLoopIsBroken) {
+  const Json finding = OnlyOneIn(
+      "bus", NoMixer("mkdir $DIR/lib; echo broken > $DIR/lib/libglib-2.0.so.0;"
+                     "LD_LIBRARY_PATH=$DIR/lib ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "no-loop");
+  EXPECT_EQ(Word(finding, "finding"), "ztk watch does not hear of changes");
+  EXPECT_EQ(Word(finding, "cause"),
+            "the library that delivers what is heard, libglib-2.0.so.0, cannot "
+            "be loaded");
+  EXPECT_EQ(Word(finding, "command"),
+            "sudo apt install --reinstall libglib2.0-0");
+}
+
 TEST_F(Doctor, FindsTheBusThatTheShellWasNotTold) {
   std::filesystem::create_symlink(
       bus_.address().substr(std::string("unix:path=").size()),

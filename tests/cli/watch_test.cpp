@@ -96,6 +96,20 @@ TEST_F(Watch, IsFiveWithoutABus) {
   EXPECT_EQ(OneObject(result.out)["error"]["code"], "failed");
 }
 
+TEST_F(Watch, IsFiveWithoutALibraryThatItHearsWith) {
+  for (const char *library : {"libglib-2.0.so.0", "libsystemd.so.0"}) {
+    SCOPED_TRACE(library);
+    const Result result = OneMixer(
+        "mkdir $DIR/lib; echo broken > $DIR/lib/" + std::string(library) +
+        "; LD_LIBRARY_PATH=$DIR/lib ztk watch; result=$?;"
+        "rm -r $DIR/lib; exit $result");
+    EXPECT_EQ(result.status, 5);
+    EXPECT_EQ(result.err,
+              "ztk: a library that hears changes cannot be loaded; ztk doctor "
+              "tells which\n");
+  }
+}
+
 TEST_F(Watch, IsFiveOnceTheBusHasGone) {
   WriteAll(home_.path() / "ready", "");
   std::thread killer([this] {

@@ -9,6 +9,11 @@ add_executable(library_child library_child.cpp)
 target_link_libraries(library_child PRIVATE ZTKFunc PkgConfig::GLIB ${CMAKE_DL_LIBS})
 target_compile_options(library_child PRIVATE -Wno-old-style-cast)
 
+add_executable(plain_child plain_child.cpp)
+target_link_libraries(plain_child PRIVATE ZTKFunc)
+target_compile_definitions(plain_child PRIVATE
+  $<TARGET_PROPERTY:ztk_platform_linux,COMPILE_DEFINITIONS>)
+
 add_executable(library_tests
   ../support/library_world.cpp
   ../support/library_world_sandbox.cpp
@@ -18,11 +23,12 @@ add_executable(library_tests
   library_requests_test.cpp
   library_settings_test.cpp
   library_status_test.cpp)
-add_dependencies(library_tests library_child)
+add_dependencies(library_tests library_child plain_child)
 target_include_directories(library_tests PRIVATE ${PROJECT_SOURCE_DIR}/tools)
 target_compile_definitions(library_tests PRIVATE
   ZTK_LIBRARY_CHILD="$<TARGET_FILE:library_child>"
   ZTK_LIBRARY_FILE="$<TARGET_FILE:ZTKFunc>"
+  ZTK_PLAIN_CHILD="$<TARGET_FILE:plain_child>"
   $<TARGET_PROPERTY:ztk_platform_linux,COMPILE_DEFINITIONS>)
 target_link_libraries(library_tests PRIVATE
   ZTKFunc ztk_headers ztk_virtual_mixer ztk_test_support

@@ -116,33 +116,99 @@ TEST_F(LibraryProcess, WithoutABusEverythingElseWorks) {
             SettingsText({{"Output0", 2}}));
 }
 
-// The library behind the bus is loaded when it is needed. It may be missing, or
-// not be what it is taken for: here something stands in its place.
+// Has the library under this name found as something else.
+class StandIn {
+ public:
+  StandIn(const TempHome &home, const std::string &soname,
+          const std::string &file)
+      : folder_(home.path() / "libraries") {
+    std::filesystem::create_directory(folder_);
+    std::filesystem::create_symlink(file, folder_ / soname);
+  }
+  ~StandIn() { std::filesystem::remove_all(folder_); }
+  StandIn(const StandIn &) = delete;
+  StandIn &operator=(const StandIn &) = delete;
+
+  // What has a child find it.
+  std::function<std::string()> Preparation() const {
+    return [this] {
+      setenv("LD_LIBRARY_PATH", folder_.c_str(), 1);
+      return std::string();
+    };
+  }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+// What stands in place of a library that may be missing, or not be what it is
+// taken for.
+const struct {
+  const char *name;
+  const char *file;
+} kStandIns[] = {{"no library at all", "/dev/null"},
+                 {"a library without its functions", ZTK_LIBRARY_FILE}};
+
+// What a client says that links nothing but the library.
+std::vector<std::string> SayOfPlainChild(
+    const std::vector<std::string> &words,
+    const std::function<std::string()> &prepare = nullptr) {
+  std::vector<std::string> command{ZTK_PLAIN_CHILD};
+  command.insert(command.end(), words.begin(), words.end());
+  ChildProcess child(command, prepare);
+  std::vector<std::string> lines;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    lines.push_back(child.ReadLine());
+  }
+  EXPECT_EQ(child.Finish(), 0);
+  return lines;
+}
+
+TEST_F(LibraryProcess, LoadsOtherLibrariesOnlyWhenTheyAreNeeded) {
+  PlugMixers(1);
+  EXPECT_THAT(
+      SayOfPlainChild({"get", "set", "get", "set"}),
+      ElementsAre("get 100", "set 100 bus", "get 100 bus", "set 100 bus"));
+  EXPECT_THAT(
+      SayOfPlainChild({"get", "register", "set"}),
+      ElementsAre("get 100", "register 100 bus loop", "set 100 bus loop"));
+}
+
+TEST_F(LibraryProcess, WithoutGLibNothingIsHeardAndAllElseWorks) {
+  Child listener({"listen", "boost"});
+  ASSERT_EQ(listener.ReadLine(), "ready");
+  for (const auto &row : kStandIns) {
+    SCOPED_TRACE(row.name);
+    const StandIn standIn(home_, ZTK_GLIB_LIBRARY, row.file);
+    ASSERT_THAT(SayOfPlainChild({"register", "set"}, standIn.Preparation()),
+                ElementsAre("register 100", "set 100 bus"));
+    EXPECT_EQ(listener.ReadLine(), "boost 2");
+  }
+}
+
+TEST_F(LibraryProcess, ALibraryThatWasMissingIsTriedAgain) {
+  const StandIn glib(home_, ZTK_GLIB_LIBRARY, "/dev/null");
+  EXPECT_THAT(
+      SayOfPlainChild({"register", "mend", "register"}, glib.Preparation()),
+      ElementsAre("register 100", "mend 0", "register 100 bus loop"));
+  const StandIn bus(home_, ZTK_SD_BUS_LIBRARY, "/dev/null");
+  EXPECT_THAT(SayOfPlainChild({"set", "mend", "set"}, bus.Preparation()),
+              ElementsAre("set 100", "mend 0", "set 100 bus"));
+}
+
 TEST_F(LibraryProcess, WithoutSdBusEverythingElseWorks) {
-  struct Row {
-    const char *name;
-    const char *standIn;
-  };
-  const Row rows[] = {{"no library at all", "/dev/null"},
-                      {"a library without its functions", ZTK_LIBRARY_FILE}};
   PlugMixers(1);
   Child listener({"listen", "input", "boost"});
   ASSERT_EQ(listener.ReadLine(), "ready");
-  for (const Row &row : rows) {
+  for (const auto &row : kStandIns) {
     SCOPED_TRACE(row.name);
-    const std::filesystem::path folder = home_.path() / "libraries";
-    std::filesystem::create_directory(folder);
-    std::filesystem::create_symlink(row.standIn, folder / ZTK_SD_BUS_LIBRARY);
-    Child child({"set-input", "2", "5"}, [&folder] {
-      setenv("LD_LIBRARY_PATH", folder.c_str(), 1);
-      return std::string();
-    });
+    const StandIn standIn(home_, ZTK_SD_BUS_LIBRARY, row.file);
+    Child child({"set-input", "2", "5"}, standIn.Preparation());
     EXPECT_EQ(child.ReadLine(), "100");
     EXPECT_EQ(child.Finish(), 0);
     EXPECT_THAT(TakeLog(),
                 ElementsAre("mixer 1: 40 03 0309 8002 0000",
                             "mixer 1: c0 00 0000 8002 0005 -> 00 04 04 04 04"));
-    std::filesystem::remove_all(folder);
   }
   EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6")),
             SettingsText({{"Output2", 5}}));

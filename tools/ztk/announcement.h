@@ -26,6 +26,8 @@ bool SessionBusAnswers();
 // The library by which a session bus is reached, where it cannot be loaded;
 // else null.
 const char *MissingBusLibrary();
+// The same of the library whose loop delivers what comes over the bus.
+const char *MissingLoopLibrary();
 
 // Another listener of this session: what it has heard was announced.
 class BusWitness {

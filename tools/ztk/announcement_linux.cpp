@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "announcement.h"
 
-#include <glib.h>
-
 #include <algorithm>
 #include <deque>
 
 #include "platform/linux/bus_connection.h"
 #include "platform/linux/bus_source.h"
+#include "platform/linux/glib_library.h"
 #include "platform/linux/sd_bus_library.h"
 #include "platform/text.h"
 
@@ -73,6 +72,10 @@ const char *MissingBusLibrary() {
   return center::SdBus() == nullptr ? center::kSdBusLibrary : nullptr;
 }
 
+const char *MissingLoopLibrary() {
+  return center::GLib() == nullptr ? center::kGLibLibrary : nullptr;
+}
+
 BusWitness::BusWitness(const std::vector<const notify::Family *> &families)
     : ear_(std::make_unique<Ear>()) {
   ear_->bus = center::ConnectToSessionBus(center::PatienceEnds());
@@ -93,7 +96,7 @@ bool BusWitness::Heard(const Announcement &announcement) {
     const int progress = center::sd_bus_process(bus, nullptr);
     if (progress < 0) return false;
     if (progress > 0) continue;
-    const auto now = static_cast<std::uint64_t>(g_get_monotonic_time());
+    const std::uint64_t now = center::Now();
     if (now >= deadline) return false;
     if (center::sd_bus_wait(bus, deadline - now) < 0) return false;
   }

@@ -42,11 +42,17 @@ std::string PackageOf(const std::string &library) {
   return library.substr(0, dot) + library.substr(dot + 4);
 }
 
-}  // namespace
+// All but this one.
+constexpr char kLoopPackage[] = "libglib2.0-0";
 
-Findings FindBusTrouble(std::string *good) {
-  *good = "other programs hear of changes";
-  if (SessionBusAnswers()) return {};
+void BlameLibrary(const std::string &purpose, const std::string &library,
+                  const std::string &package, Finding *finding) {
+  finding->cause =
+      "the library that " + purpose + ", " + library + ", cannot be loaded";
+  finding->command = "sudo apt install --reinstall " + package;
+}
+
+Finding ExplainNoBus() {
   Finding finding{.id = "no-bus",
                   .what = "other programs do not hear of changes",
                   .cause =
@@ -57,9 +63,8 @@ Findings FindBusTrouble(std::string *good) {
   const char *const library = MissingBusLibrary();
   const std::optional<std::string> address = Variable(kAddress);
   if (library != nullptr) {
-    finding.cause = std::string("the library that reaches the message bus, ") +
-                    library + ", cannot be loaded";
-    finding.command = "sudo apt install --reinstall " + PackageOf(library);
+    BlameLibrary("reaches the message bus", library, PackageOf(library),
+                 &finding);
   } else if (geteuid() == 0 && Variable("SUDO_USER")) {
     finding.cause =
         "this runs as root, whose programs are not yours; do "
@@ -73,7 +78,26 @@ Findings FindBusTrouble(std::string *good) {
         "nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this "
         "starts a shell with a message bus of its own";
   }
-  return {finding};
+  return finding;
+}
+
+}  // namespace
+
+Findings FindBusTrouble(std::string *good) {
+  *good = "other programs hear of changes";
+  Findings findings;
+  if (!SessionBusAnswers()) findings.push_back(ExplainNoBus());
+  // Only who hears needs it.
+  const char *const library = MissingLoopLibrary();
+  if (library != nullptr) {
+    Finding finding{.id = "no-loop",
+                    .what = "ztk watch does not hear of changes",
+                    .cause = {},
+                    .command = {}};
+    BlameLibrary("delivers what is heard", library, kLoopPackage, &finding);
+    findings.push_back(finding);
+  }
+  return findings;
 }
 
 }  // namespace ztk::cli

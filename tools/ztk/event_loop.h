@@ -17,7 +17,8 @@ void ListenToOutputAudio(OutputListener listener, void *context);
 enum class LoopEnd : std::uint8_t {
   Interrupted,  // SIGINT or SIGTERM
   Stopped,      // StopLoop()
-  NoBus         // nothing can be heard, or no longer
+  NoBus,        // nothing can be heard, or no longer
+  NoLibrary     // a library that hearing takes cannot be loaded
 };
 
 // Runs the loop that delivers changes. Calls `ready` once whatever was

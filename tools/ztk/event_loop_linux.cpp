@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "event_loop.h"
 
-#include <glib-unix.h>
-#include <glib.h>
-
 #include <csignal>
 
 #include "notify/families.h"
 #include "platform/linux/bus_connection.h"
+#include "platform/linux/glib_library.h"
+#include "platform/linux/sd_bus_library.h"
 #include "platform/notification_center.h"
 #include "platform/text.h"
 
@@ -63,32 +62,37 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
 }
 
 LoopEnd RunLoop(void (*ready)()) {
+  if (center::GLib() == nullptr || center::SdBus() == nullptr) {
+    return LoopEnd::NoLibrary;
+  }
   // The registrations are silent about a bus that is missing or dies; this
   // connection is there to notice.
   const center::OwnedBus bus =
       center::ConnectToSessionBus(center::PatienceEnds());
   if (bus == nullptr) return LoopEnd::NoBus;
 
-  theLoop = {.loop = g_main_loop_new(nullptr, FALSE), .end = LoopEnd::Stopped};
-  const guint sources[] = {g_unix_signal_add(SIGINT, OnSignal, nullptr),
-                           g_unix_signal_add(SIGTERM, OnSignal, nullptr),
-                           g_unix_fd_add(center::sd_bus_get_fd(bus.get()),
-                                         G_IO_HUP, OnBusGone, nullptr)};
+  theLoop = {.loop = center::g_main_loop_new(nullptr, FALSE),
+             .end = LoopEnd::Stopped};
+  const guint sources[] = {
+      center::g_unix_signal_add(SIGINT, OnSignal, nullptr),
+      center::g_unix_signal_add(SIGTERM, OnSignal, nullptr),
+      center::g_unix_fd_add(center::sd_bus_get_fd(bus.get()), G_IO_HUP,
+                            OnBusGone, nullptr)};
   ready();
-  g_main_loop_run(theLoop.loop);
+  center::g_main_loop_run(theLoop.loop);
   for (const guint source : sources) {
     // One that ended the loop may have gone by itself.
-    if (g_main_context_find_source_by_id(nullptr, source) != nullptr) {
-      g_source_remove(source);
+    if (center::g_main_context_find_source_by_id(nullptr, source) != nullptr) {
+      center::g_source_remove(source);
     }
   }
-  g_main_loop_unref(theLoop.loop);
+  center::g_main_loop_unref(theLoop.loop);
   theLoop.loop = nullptr;
   return theLoop.end;
 }
 
 void StopLoop() {
-  if (theLoop.loop != nullptr) g_main_loop_quit(theLoop.loop);
+  if (theLoop.loop != nullptr) center::g_main_loop_quit(theLoop.loop);
 }
 
 }  // namespace ztk::cli

@@ -74,7 +74,7 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
 }
 
 // There is a center whenever the user is logged in, and no telling when there
-// is none: LoopEnd::NoBus does not happen here.
+// is none: LoopEnd::NoBus does not happen here, nor does NoLibrary.
 LoopEnd RunLoop(void (*ready)()) {
   theEnd = LoopEnd::Stopped;
   for (const int number : kEndingSignals) WatchForSignal(number);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "user_manager.h"
 
-#include <glib.h>
-
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -62,8 +60,7 @@ class Answer {
 }  // namespace
 
 struct UserManager::Connection {
-  center::OwnedBus bus = center::ConnectToSessionBus(
-      static_cast<std::uint64_t>(g_get_monotonic_time()) + kPatience);
+  center::OwnedBus bus = center::ConnectToSessionBus(center::Now() + kPatience);
 
   template <typename... Arguments>
   int Call(const char *method, Answer *answer, const char *types,

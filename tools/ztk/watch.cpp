@@ -98,6 +98,11 @@ Report Watch(const Arguments &arguments) {
         .message =
             "there is no session message bus to hear changes on, or it "
             "is gone; run this inside your login session"};
+  } else if (end == LoopEnd::NoLibrary) {
+    report.problem = {.exit = ExitCode::Failed,
+                      .message =
+                          "a library that hears changes cannot be "
+                          "loaded; ztk doctor tells which"};
   } else if (end == LoopEnd::Stopped) {
     report.problem = {.exit = ExitCode::Failed,
                       .message = std::string("cannot write the output: ") +

@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/bus_connection.h"
 
-#include <glib.h>
-
 #include <cerrno>
+#include <ctime>
 
 namespace ztk::platform::notification_center {
 
 namespace {
-
-std::uint64_t Now() {
-  return static_cast<std::uint64_t>(g_get_monotonic_time());
-}
 
 bool IsReady(sd_bus *bus) { return sd_bus_is_ready(bus) > 0; }
 
@@ -36,6 +31,13 @@ bool WorkUntil(bool (*reached)(sd_bus *), sd_bus *bus, std::uint64_t deadline) {
 }
 
 }  // namespace
+
+std::uint64_t Now() {
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC, &now);
+  return static_cast<std::uint64_t>(now.tv_sec) * 1'000'000 +
+         static_cast<std::uint64_t>(now.tv_nsec) / 1'000;
+}
 
 std::uint64_t PatienceEnds() { return Now() + kPatience; }
 

@@ -24,7 +24,10 @@ using OwnedBus = std::unique_ptr<sd_bus, BusCloser>;
 // How long a caller is kept by a bus that does not answer, in microseconds.
 inline constexpr std::uint64_t kPatience = 1'000'000;
 
-// The end of a caller's patience that starts now, on the monotonic clock.
+// Microseconds on the monotonic clock, by which sd-bus counts.
+std::uint64_t Now();
+
+// The end of a caller's patience that starts now, on that clock.
 std::uint64_t PatienceEnds();
 
 // Connects to the session bus and waits until messages can be sent. Null when

@@ -37,7 +37,7 @@ gint IdleMilliseconds(sd_bus *bus) {
   std::uint64_t due = 0;
   if (sd_bus_get_timeout(bus, &due) < 0) return 0;
   if (due == UINT64_MAX) return -1;
-  const auto now = static_cast<std::uint64_t>(g_get_monotonic_time());
+  const std::uint64_t now = Now();
   if (due <= now) return 0;
   // Rounded up, or the last part of a millisecond would be spent spinning.
   const std::uint64_t milliseconds = (due - now + 999) / 1000;
@@ -92,7 +92,7 @@ GSource *Attach(GMainContext *context) {
   if (descriptor < 0 || WantedEvents(bus.get(), &events) < 0) return nullptr;
   sd_bus_set_method_call_timeout(bus.get(), kPatience);
 
-  GSource *base = g_source_new(&sourceFuncs, sizeof(BusSource));
+  GSource *base = g_source_new(&sourceFuncs, guint{sizeof(BusSource)});
   g_source_set_name(base, "ztk notifications");
   // Only sources that have callback data can be found again.
   g_source_set_callback(base, nullptr, &sourceFuncs, nullptr);

@@ -5,11 +5,10 @@
 #ifndef ZTK_PLATFORM_LINUX_BUS_SOURCE_H_
 #define ZTK_PLATFORM_LINUX_BUS_SOURCE_H_
 
-#include <glib.h>
-
 #include <memory>
 #include <string>
 
+#include "platform/linux/glib_library.h"
 #include "platform/linux/sd_bus_library.h"
 #include "platform/notification_center.h"
 

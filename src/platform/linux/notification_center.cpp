@@ -4,14 +4,13 @@
 // start threads inside a library that promises none; sd-bus does not.
 #include "platform/notification_center.h"
 
-#include <glib.h>
-
 #include <memory>
 #include <utility>
 
 #include "platform/linux/bus_connection.h"
 #include "platform/linux/bus_message.h"
 #include "platform/linux/bus_source.h"
+#include "platform/linux/glib_library.h"
 
 namespace ztk::platform::notification_center {
 
@@ -70,6 +69,7 @@ void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
 }
 
 void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
+  if (GLib() == nullptr) return;
   GMainContext *context = g_main_context_get_thread_default();
   if (context == nullptr) context = g_main_context_default();
   auto *request = new Request{

@@ -6,6 +6,7 @@
 #ifndef ZTK_PLATFORM_LINUX_SD_BUS_LIBRARY_H_
 #define ZTK_PLATFORM_LINUX_SD_BUS_LIBRARY_H_
 
+#include "platform/linux/loaded_library.h"
 #include "platform/linux/sd_bus_header.h"
 
 // All that are used.
@@ -48,26 +49,18 @@
 namespace ztk::platform::notification_center {
 
 struct SdBusFunctions {
-#define ZTK_DECLARE(name) decltype(&::name) name;
-  ZTK_FOR_EVERY_SD_BUS_FUNCTION(ZTK_DECLARE)
-#undef ZTK_DECLARE
+  ZTK_FOR_EVERY_SD_BUS_FUNCTION(ZTK_LOADED_POINTER)
 };
 
 // The soname that is loaded.
 extern const char *const kSdBusLibrary;
 
-// All of them, for as long as the process lives. Null where the library is
-// missing, lacks one, or cannot be loaded now; then it is tried again at the
-// next call. Any thread may call, and a child after fork().
+// All of them, or null; see LoadedLibrary.
 const SdBusFunctions *SdBus();
 
-// Each under its own name, which within this namespace means the loaded one;
-// the one that the header declares is not linked with. Not to be called before
-// SdBus() has found them: whoever holds a connection or a message can be sure.
-#define ZTK_DEFINE(name)                               \
-  inline constexpr auto name = [](auto... arguments) { \
-    return SdBus()->name(arguments...);                \
-  };
+// Not to be called before SdBus() has found them: whoever holds a connection or
+// a message can be sure.
+#define ZTK_DEFINE(name) ZTK_LOADED_FUNCTION(SdBus(), name)
 ZTK_FOR_EVERY_SD_BUS_FUNCTION(ZTK_DEFINE)
 #undef ZTK_DEFINE
 

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+//
+// Libraries that are loaded by whoever first needs one of their functions, so
+// that nobody else pays for them at the start. A header lists the functions as
+//
+//   #define ZTK_FOR_EVERY_THING_FUNCTION(Do) Do(thing_new) Do(thing_free)
+//
+// and makes a struct of pointers and the functions' own names of it; a source
+// says which library they are in.
+#ifndef ZTK_PLATFORM_LINUX_LOADED_LIBRARY_H_
+#define ZTK_PLATFORM_LINUX_LOADED_LIBRARY_H_
+
+#include <dlfcn.h>
+
+#include <atomic>
+#include <memory>
+
+namespace ztk::platform {
+
+// `Functions` is a struct of pointers, which `findAll` fills in, or is false.
+template <typename Functions>
+class LoadedLibrary {
+ public:
+  using FindAll = bool (*)(void *library, Functions *functions);
+
+  // `soname` stays the caller's.
+  constexpr LoadedLibrary(const char *soname, FindAll findAll)
+      : soname_(soname), findAll_(findAll) {}
+
+  // All of them, for as long as the process lives. Null where the library is
+  // missing, lacks one, or cannot be loaded now; then it is tried again at the
+  // next call. Any thread may call, and a child after fork().
+  const Functions *Get() {
+    const Functions *known = functions_.load();
+    return known != nullptr ? known : Load();
+  }
+
+ private:
+  // The library is never closed: what it made may live as long as the process.
+  const Functions *Load() {
+    void *library = dlopen(soname_, RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr) return nullptr;
+    auto functions = std::make_unique<Functions>();
+    if (!findAll_(library, functions.get())) return nullptr;
+    const Functions *known = nullptr;
+    // Another thread may have been faster.
+    return functions_.compare_exchange_strong(known, functions.get())
+               ? functions.release()
+               : known;
+  }
+
+  const char *soname_;
+  FindAll findAll_;
+  // Set once, kept until the process ends. No lock: one that another thread
+  // holds would stay held for ever in a child.
+  std::atomic<const Functions *> functions_ = nullptr;
+};
+
+template <typename Function>
+bool FindFunction(void *library, const char *name, Function *function) {
+  *function = reinterpret_cast<Function>(dlsym(library, name));
+  return *function != nullptr;
+}
+
+}  // namespace ztk::platform
+
+// For the struct: the pointer to a function.
+#define ZTK_LOADED_POINTER(name) decltype(&::name) name;
+
+// For the body of a FindAll: finds one.
+#define ZTK_FIND_LOADED(name)                                           \
+  if (!::ztk::platform::FindFunction(library, #name, &functions->name)) \
+    return false;
+
+// A function under its own name, which within the namespace means the loaded
+// one; the one that its header declares is not linked with. `functions` gives
+// the struct, and must not be null any more when the function is called.
+#define ZTK_LOADED_FUNCTION(functions, name)           \
+  inline constexpr auto name = [](auto... arguments) { \
+    return functions->name(arguments...);              \
+  };
+
+#endif  // ZTK_PLATFORM_LINUX_LOADED_LIBRARY_H_
