@@ -23,9 +23,10 @@
 #include "platform/linux/sd_bus_header.h"
 #include "platform/notification_center.h"
 
-namespace {
+// Where the functions that are used on both sides are the loaded ones.
+namespace ztk::platform::notification_center {
 
-using namespace ztk::platform::notification_center;
+namespace {
 
 constexpr char kName[] = "VRM-D6 InputAudio Change";
 // One that the match rule cannot hold, so that every signal is read.
@@ -122,6 +123,7 @@ class Wire {
 
  private:
   static OwnedBus NewBus() {
+    Require(SdBus() != nullptr);
     sd_bus *bus = nullptr;
     Require(sd_bus_new(&bus) >= 0);
     return OwnedBus(bus);
@@ -170,3 +172,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data,
   if (!wire->Deliver(Signal(signature, body))) wire.reset();
   return 0;
 }
+
+}  // namespace ztk::platform::notification_center
