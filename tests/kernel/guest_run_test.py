@@ -22,6 +22,12 @@ def guest_run(*arguments, **options):
                           text=True, check=False, timeout=240, **options)
 
 
+def is_emulated():
+    flags = pathlib.Path("/proc/cpuinfo").read_text().split()
+    return (not {"vmx", "svm"} & set(flags) or
+            not os.access("/dev/kvm", os.R_OK | os.W_OK))
+
+
 class Whole(unittest.TestCase):
     """One guest that does many things."""
 
@@ -87,6 +93,12 @@ class Ends(unittest.TestCase):
         self.assertEqual(done.returncode, 124)
         self.assertEqual(done.stderr.splitlines()[-1],
                          "guest-run: ended after 5 seconds: sleep 100")
+
+    @unittest.skipUnless(is_emulated(), "a real processor has its own clock")
+    def test_long_before_its_clock_says_so_if_that_counts_instructions(self):
+        done = guest_run("--instruction-clock", "--timeout", "120", "bash",
+                         "-c", "sleep 1000; ((SECONDS >= 1000))")
+        self.assertEqual(done.returncode, 0)
 
     def test_without_a_status_if_the_kernel_does(self):
         done = guest_run("bash", "-c", "echo c >/proc/sysrq-trigger")
