@@ -1,8 +1,11 @@
 /* SPDX-License-Identifier: MIT
  *
- * The least that reads what "ztk status" reads: every device's identity, four
- * registers of each mixer, the settings files. It links the C library alone,
- * reads everything once, and prints the bytes as they are.
+ *   read_status [once]
+ *
+ * The least that reads what "ztk status" reads: every device's identity, to
+ * count the mixers and again to find each of them, four registers of each, the
+ * settings files. It links the C library alone and prints the bytes as they
+ * are. With "once" it asks the mixers that it meets while it counts.
  */
 #include <dirent.h>
 #include <fcntl.h>
@@ -74,9 +77,13 @@ static void ShowSettings(const char *model) {
   if (length > 0) printf("%s: %zd bytes\n", model, length);
 }
 
-int main(void) {
+enum { kCountOnly = -1, kShowAll = -2 };
+
+/* Counts the mixers; shows the one at that position, all, or none. */
+static int Walk(int shown) {
   DIR *directory = opendir(kDevices);
-  if (directory == NULL) return 1;
+  if (directory == NULL) exit(1);
+  int mixers = 0;
   const struct dirent *entry;
   while ((entry = readdir(directory)) != NULL) {
     char path[kPath];
@@ -84,11 +91,23 @@ int main(void) {
     if (entry->d_name[0] == '.' || strchr(entry->d_name, ':') != NULL) continue;
     snprintf(path, sizeof path, "%s/%s/descriptors", kDevices, entry->d_name);
     if (ReadFile(path, bytes, sizeof bytes) != kDescriptor) continue;
-    if ((bytes[8] | bytes[9] << 8) == VENDOR_ID && bytes[10] == kProduct) {
-      ShowMixer(entry->d_name);
+    if ((bytes[8] | bytes[9] << 8) != VENDOR_ID || bytes[10] != kProduct) {
+      continue;
     }
+    if (shown == kShowAll || shown == mixers) ShowMixer(entry->d_name);
+    ++mixers;
   }
   closedir(directory);
+  return mixers;
+}
+
+int main(int argc, char **argv) {
+  if (argc > 1 && strcmp(argv[1], "once") == 0) {
+    Walk(kShowAll);
+  } else {
+    const int mixers = Walk(kCountOnly);
+    for (int i = 0; i < mixers; ++i) Walk(i);
+  }
   ShowSettings("VRM-D6");
   ShowSettings("VRM-B5");
   ShowSettings("VRM-K2");

@@ -19,6 +19,7 @@ FLOOR_GOAL = {("guest", "set"): 1.10, ("guest", "query"): 1.10,
               ("sandbox", "count"): 1.15, ("sandbox", "set"): 1.2}
 LIBUSB_GOAL = {("guest", "set"): 5, ("sandbox", "count"): 20}
 START_UP_GOAL = 1.5
+MINIMAL = "minimal C program"
 PURE_GOAL = 20  # nanoseconds
 PURE = {"text": "text of a choice", "choices": "number of choices",
         "rejected": "refused setter"}
@@ -48,7 +49,7 @@ def table(head, rows, out):
 
 
 def one_mixer(found, out):
-    for place, where in results.PLACES.items():
+    for place in results.PLACES:
         times = found.worlds.get((place, 1, 30))
         if times is None:
             continue
@@ -68,9 +69,22 @@ def one_mixer(found, out):
                          duration(libusb) if libusb else "",
                          f"{libusb / library:.1f}" if libusb else "",
                          ", ".join(goals)))
-        out.append(f"One mixer among 30 devices, {where}:\n")
+        out.append(f"One mixer among 30 devices, {found.place(place)}:\n")
         table(("call", "library", "floor", "library / floor", "libusb",
                "libusb / library", "goals"), rows, out)
+    if times := found.worlds.get(("emulator", 1, 30)):
+        rows = [(name, duration(times[f"{name}/library"]),
+                 duration(times[f"{name}/floor"]),
+                 f"{times[f'{name}/library'] / times[f'{name}/floor']:.2f}")
+                for name in results.OPERATIONS]
+        programs = found.json("emulator-start_up")
+        started, least = programs["ztk status"], programs[MINIMAL]
+        rows.append(("ztk status", f"{started:.1f} ms", f"{least:.1f} ms",
+                     f"{started / least:.2f}"))
+        out.append("The same by the time that the emulator took, which is "
+                   "mostly its own; for `ztk status` the floor is the minimal "
+                   "program below:\n")
+        table(("call", "library", "floor", "library / floor"), rows, out)
 
 
 def compared(times, name):
@@ -83,7 +97,7 @@ def compared(times, name):
 
 
 def growth(found, out):
-    for place, where in results.PLACES.items():
+    for place in results.PLACES:
         for what, series in (("devices, with one mixer",
                               found.by_devices(place)),
                              ("mixers, among 30 devices",
@@ -93,13 +107,13 @@ def growth(found, out):
             rows = [[str(number)] + [compared(times, name)
                                      for name in results.OPERATIONS]
                     for number, times in series]
-            out.append(f"By {what}, {where}; in brackets library / floor and "
-                       "libusb / library:\n")
+            out.append(f"By {what}, {found.place(place)}; in brackets "
+                       "library / floor and libusb / library:\n")
             table((what.split(",")[0],) + results.OPERATIONS, rows, out)
 
 
 def walks(found, out):
-    for place, where in results.PLACES.items():
+    for place in results.PLACES:
         series = found.by_mixers(place)
         if len(series) < 2:
             continue
@@ -109,7 +123,8 @@ def walks(found, out):
                      duration(times[f"{name}/library"] / WALKS[name](mixers))
                      for name in ("query", "apply", "set")]
             rows.append([str(mixers)] + cells)
-        out.append(f"Time for each walk over 30 devices, {where}:\n")
+        out.append("Time for each walk over 30 devices, "
+                   f"{found.place(place)}:\n")
         table(("mixers", "query", "apply", "set"), rows, out)
 
 
@@ -137,18 +152,19 @@ def counts(found, out):
 
 
 def start_up(found, out):
-    for place, where in results.PLACES.items():
+    for place in results.PLACES:
         times = found.json(f"{place}-start_up")
         if times is None:
             continue
-        least = times["minimal C program"]
+        least = times[MINIMAL]
         rows = []
         for name, time in times.items():
             goal = ("" if name != "ztk status" else
                     verdict(time <= START_UP_GOAL * least,
                             f"at most {START_UP_GOAL} × the minimal program"))
             rows.append((name, f"{time:.1f} ms", f"{time / least:.2f}", goal))
-        out.append(f"From start to end of a program, {where}:\n")
+        out.append("From start to end of a program, "
+                   f"{found.place(place)}:\n")
         table(("program", "time", "× the minimal program", "goal"), rows, out)
 
 

@@ -8,6 +8,7 @@ import sys
 CONTENDERS = ("library", "floor", "libusb")
 OPERATIONS = ("count", "set", "query", "apply")
 PLACES = {"guest": "on a real kernel (guest)", "sandbox": "in the sandbox"}
+COUNTED = "a nanosecond an instruction"
 SCALE = {"ns": 1, "us": 1e3, "ms": 1e6}
 
 
@@ -16,7 +17,7 @@ def medians(file):
     never waits for anybody, so for it the time of the processor is taken:
     other work on the machine does not count."""
     found = {}
-    processor = not file.name.startswith("guest")
+    processor = not file.name.startswith(("guest", "emulator"))
     for result in json.loads(file.read_text())["benchmarks"]:
         if result.get("error_occurred"):
             sys.exit(f"{file.name}: {result['name']}: "
@@ -46,6 +47,14 @@ class Results:
     def text(self, name):
         file = self.folder / name
         return file.read_text().strip() if file.exists() else ""
+
+    def counts_instructions(self, place):
+        return self.text(f"{place}-clock.txt") == "instructions"
+
+    def place(self, name):
+        """Where it was measured, in words."""
+        counted = f", {COUNTED}" if self.counts_instructions(name) else ""
+        return PLACES[name] + counted
 
     def by_devices(self, place):
         """(devices, times) with one mixer."""

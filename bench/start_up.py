@@ -2,10 +2,11 @@
 # SPDX-License-Identifier: MIT
 """Prints, as JSON, how many milliseconds programs take from start to end.
 
-    start_up.py BIN_FOLDER RUNS
+    start_up.py BIN_FOLDER RUNS [ROOT]
 
 The median of RUNS turns; in each turn every program runs once. BIN_FOLDER has
-ztk and the two programs of this folder that it is compared with.
+ztk and the two programs of this folder that it is compared with, in the file
+system whose root is ROOT.
 """
 
 import json
@@ -32,9 +33,13 @@ def seconds(command):
     return duration
 
 
-def main(folder, runs):
+def main(folder, runs, root="/"):
+    if root != "/":
+        os.chroot(root)
+        os.chdir("/")
     commands = {"ztk status": [f"{folder}/ztk", "status"],
                 "minimal C program": [f"{folder}/read_status"],
+                "the same, reading once": [f"{folder}/read_status", "once"],
                 "libusb lister": [f"{folder}/list_devices"]}
     lsusb = shutil.which("lsusb")
     if lsusb:
@@ -50,6 +55,6 @@ def main(folder, runs):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 3:
+    if len(sys.argv) not in (3, 4):
         sys.exit(__doc__)
-    main(sys.argv[1], int(sys.argv[2]))
+    main(sys.argv[1], int(sys.argv[2]), *sys.argv[3:])
