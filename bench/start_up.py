@@ -4,13 +4,15 @@
 
     start_up.py BIN_FOLDER RUNS [ROOT]
 
-The median of RUNS turns; in each turn every program runs once. BIN_FOLDER has
+The median of RUNS turns; in each turn every program runs once, in an order of
+its own, as each finds in the caches what the one before has left. BIN_FOLDER has
 ztk and the two programs of this folder that it is compared with, in the file
 system whose root is ROOT.
 """
 
 import json
 import os
+import random
 import shutil
 import statistics
 import sys
@@ -46,8 +48,8 @@ def main(folder, runs, root="/"):
         commands["lsusb"] = [lsusb]
     times = {name: [] for name in commands}
     for turn in range(runs + 1):
-        for name, command in commands.items():
-            duration = seconds(command)
+        for name in random.sample(sorted(commands), len(commands)):
+            duration = seconds(commands[name])
             if turn > 0:  # the first one fetches the programs from the disk
                 times[name].append(duration * 1e3)
     print(json.dumps({name: statistics.median(all_times)
