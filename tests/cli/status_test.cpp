@@ -93,6 +93,23 @@ TEST_F(Status, SaysWhatAMixerDoesNotAnswer) {
   EXPECT_EQ(json["mixers"][0]["certificationLevel"], 1);
 }
 
+TEST_F(Status, LooksAgainWhenAMixerGoesWhileItIsAsked) {
+  const Result result = Inside({"-n", "3", "--fault", "1:unplug", "--reply",
+                                "2:8001=0100", "--fault", "3:stall@8007"},
+                               "ztk status --json");
+  const Json json = OneObject(result.out);
+  EXPECT_EQ(json["found"], 2);
+  EXPECT_EQ(json["reached"], 2);
+  EXPECT_EQ(json["mixers"][0]["firmware"]["number"], 1);
+  EXPECT_EQ(json["mixers"][1]["firmware"]["number"], 1078);
+  EXPECT_EQ(result.err, "");
+}
+
+TEST_F(Status, ShowsNothingOfAMixerThatGoesWhileItIsAsked) {
+  const Result result = Inside({"-n", "1", "--fault", "unplug"}, "ztk status");
+  EXPECT_EQ(Line(result.out, 0), "No mixer is attached");
+}
+
 TEST_F(Status, AsksASilentMixerOnlyOnce) {
   const Result result = Inside({"-n", "1", "--fault", "silence"}, "ztk status");
   EXPECT_THAT(result.out, HasSubstr("  firmware      no answer\n"

@@ -146,13 +146,20 @@ void AddFact(Fact fact, Json *fields, std::string *text) {
   *text += Row(fact.title, fact.words);
 }
 
-// True when it was reached.
-bool AddMixer(int position, const std::string &place, Report *report,
-              Json *mixers) {
+// What the mixers of one listing told.
+struct Listing {
+  Json mixers = Json::array();
+  std::string text;
+  std::vector<std::string> warnings;
+  int reached = 0;
+  bool everythingAnswered = true;
+};
+
+void AddMixer(int position, const std::string &place, Listing *listing) {
   const usb::OpenMixer mixer(position);
   Json fields{{"position", position + 1},
               {"reachable", static_cast<bool>(mixer)}};
-  std::string *text = &report->text;
+  std::string *text = &listing->text;
   const std::string number = std::to_string(position + 1);
   if (mixer) {
     *text += "Mixer " + number + " is reachable\n";
@@ -161,32 +168,52 @@ bool AddMixer(int position, const std::string &place, Report *report,
     AddFact(CertificationLevel(&interview), &fields, text);
     AddFact(Selectors(&interview), &fields, text);
     AddFact(Serato(&interview), &fields, text);
+    ++listing->reached;
   } else {
     const std::string reason =
         "mixer " + number + " " + Explained(TryToOpen(place));
     *text += "Mixer " + number + " is attached but cannot be opened\n";
     fields["reason"] = reason;
-    report->warnings.push_back(reason);
+    listing->warnings.push_back(reason);
   }
-  mixers->push_back(std::move(fields));
-  return static_cast<bool>(mixer);
+  if (!mixer || fields.contains("unanswered")) {
+    listing->everythingAnswered = false;
+  }
+  listing->mixers.push_back(std::move(fields));
+}
+
+Listing AskEach(const std::vector<std::string> &places) {
+  Listing listing;
+  int position = 0;
+  for (const std::string &place : places) AddMixer(position++, place, &listing);
+  return listing;
+}
+
+// Mixers are opened by their position, which is another one's as soon as a
+// mixer before it has gone. So when something was not told, and by now other
+// mixers are attached, all are asked again.
+Listing AskAll() {
+  constexpr int kTries = 3;
+  std::vector<std::string> places = MixerPlaces();
+  for (int tries = 1;; ++tries) {
+    Listing listing = AskEach(places);
+    if (listing.everythingAnswered || tries == kTries) return listing;
+    std::vector<std::string> now = MixerPlaces();
+    if (now == places) return listing;
+    places = std::move(now);
+  }
 }
 
 void AddMixers(Report *report) {
   const Progress progress(kWaitingForMixer);
-  const std::vector<std::string> places = MixerPlaces();
-  const int found = static_cast<int>(places.size());
-  Json mixers = Json::array();
-  int reached = 0;
-  for (int position = 0; position < found; ++position) {
-    const std::string &place = places[static_cast<std::size_t>(position)];
-    if (AddMixer(position, place, report, &mixers)) ++reached;
-  }
+  Listing listing = AskAll();
+  const std::size_t found = listing.mixers.size();
   report->fields["connected"] = found > 0;
   report->fields["found"] = found;
-  report->fields["reached"] = reached;
-  report->fields["mixers"] = std::move(mixers);
-  if (found == 0) report->text = "No mixer is attached\n";
+  report->fields["reached"] = listing.reached;
+  report->fields["mixers"] = std::move(listing.mixers);
+  report->text = found == 0 ? "No mixer is attached\n" : listing.text;
+  report->warnings = std::move(listing.warnings);
 }
 
 void AddRemembered(Report *report) {
