@@ -11,21 +11,25 @@ if(ZTK_STATIC_CXX_RUNTIME)
   include(CheckCXXSourceCompiles)
   include(CMakePushCheckState)
   cmake_push_check_state(RESET)
-  set(CMAKE_REQUIRED_LINK_OPTIONS ${ztk_static_cxx_runtime})
+  # Into a shared library: that takes one whose code may lie anywhere.
+  set(CMAKE_REQUIRED_FLAGS -fPIC)
+  set(CMAKE_REQUIRED_LINK_OPTIONS ${ztk_static_cxx_runtime} -shared LINKER:-z,text)
   check_cxx_source_compiles("
     #include <string>
-    int main(int count, char **words) {
-      return static_cast<int>(std::string(words[count - 1]).size());
-    }" ZTK_HAS_STATIC_CXX_RUNTIME)
+    std::string Twice(const std::string &text) { return text + text; }
+    int main() { return static_cast<int>(Twice({}).size()); }"
+    ZTK_HAS_STATIC_CXX_RUNTIME)
   cmake_pop_check_state()
   if(NOT ZTK_HAS_STATIC_CXX_RUNTIME)
+    # Asked again when it has been installed.
+    unset(ZTK_HAS_STATIC_CXX_RUNTIME CACHE)
     message(FATAL_ERROR
       "The C++ runtime is not here as a static library. Install it (libstdc++-static "
       "where it is a package of its own), or build with -DZTK_STATIC_CXX_RUNTIME=OFF.")
   endif()
 endif()
 
-# For what is installed; tests and tools of the build keep the shared one.
+# For the library and ztk, whose start counts; all else keeps the shared one.
 function(ztk_link_cxx_runtime target)
   if(ZTK_STATIC_CXX_RUNTIME)
     target_link_options(${target} PRIVATE
