@@ -16,7 +16,7 @@ import results
 COLOURS = {"count": "#4477aa", "query": "#228833", "apply": "#ccbb44",
            "set": "#ee6677"}
 WIDTH, HEIGHT = 330, 220  # of the drawing in a panel
-LEFT, TOP, GAP = 62, 40, 88
+LEFT, TOP, GAP = 62, 48, 88
 FONT = 'font-family="sans-serif" font-size="12"'
 
 
@@ -54,7 +54,8 @@ class Panel:
                 self.y + HEIGHT * (1 - share))
 
     def axes(self):
-        yield text(self.x + WIDTH / 2, self.y - 12, self.title)
+        for above, words in zip((28, 12), self.title):
+            yield text(self.x + WIDTH / 2, self.y - above, words)
         for step in range(6):
             y = self.y + HEIGHT * (1 - step / 5)
             yield (f'<line x1="{self.x}" y1="{y}" x2="{self.x + WIDTH}" '
@@ -103,7 +104,7 @@ def legend(x, y):
 def main(folder, target):
     found = results.Results(folder)
     lines, row = [], 0
-    for place, where in results.PLACES.items():
+    for place in results.PLACES:
         columns = ((found.by_devices(place), "devices on the bus, one mixer"),
                    (found.by_mixers(place), "mixers among 30 devices"))
         if any(len(series) < 2 for series, _ in columns):
@@ -111,7 +112,7 @@ def main(folder, target):
         for column, (series, what) in enumerate(columns):
             lines += Panel(LEFT + column * (WIDTH + GAP + LEFT - 20),
                            TOP + row * (HEIGHT + GAP), series,
-                           f"ms a call by {what}, {where}").draw()
+                           (f"ms a call by {what},", found.place(place))).draw()
         row += 1
     if not lines:
         sys.exit("plot.py: there is nothing to draw")

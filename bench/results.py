@@ -8,7 +8,7 @@ import sys
 CONTENDERS = ("library", "floor", "libusb")
 OPERATIONS = ("count", "set", "query", "apply")
 PLACES = {"guest": "on a real kernel (guest)", "sandbox": "in the sandbox"}
-COUNTED = "a nanosecond an instruction"
+COUNTED = "each instruction counted as a nanosecond"
 SCALE = {"ns": 1, "us": 1e3, "ms": 1e6}
 
 

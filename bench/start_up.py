@@ -1,12 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Prints, as JSON, how many milliseconds programs take from start to end.
+"""Prints, as JSON, the milliseconds that programs take from start to end.
 
     start_up.py BIN_FOLDER RUNS [ROOT]
 
-The median of RUNS turns; in each turn every program runs once, in an order of
-its own, as each finds in the caches what the one before has left. BIN_FOLDER has
-ztk and the two programs of this folder that it is compared with, in the file
+Of RUNS turns; in each turn every program runs once, in an order of its own, as
+each finds in the caches what the one before has left. BIN_FOLDER has ztk and the two programs of this folder that it is compared with, in the file
 system whose root is ROOT.
 """
 
@@ -14,7 +13,6 @@ import json
 import os
 import random
 import shutil
-import statistics
 import sys
 import time
 
@@ -52,8 +50,7 @@ def main(folder, runs, root="/"):
             duration = seconds(commands[name])
             if turn > 0:  # the first one fetches the programs from the disk
                 times[name].append(duration * 1e3)
-    print(json.dumps({name: statistics.median(all_times)
-                      for name, all_times in times.items()}, indent=1))
+    print(json.dumps(times, indent=1))
 
 
 if __name__ == "__main__":
