@@ -42,7 +42,7 @@ std::string PackageOf(const std::string &library) {
   return library.substr(0, dot) + library.substr(dot + 4);
 }
 
-// All but this one.
+// Not named after the library's soname.
 constexpr char kLoopPackage[] = "libglib2.0-0";
 
 void BlameLibrary(const std::string &purpose, const std::string &library,
