@@ -30,9 +30,10 @@ if(ZTK_STATIC_CXX_RUNTIME)
 endif()
 
 # For the library and ztk, whose start counts; all else keeps the shared one.
+# clang names the mathematics beside it, whether anything of that is used or not.
 function(ztk_link_cxx_runtime target)
   if(ZTK_STATIC_CXX_RUNTIME)
     target_link_options(${target} PRIVATE
-      ${ztk_static_cxx_runtime} LINKER:--gc-sections)
+      ${ztk_static_cxx_runtime} LINKER:--gc-sections LINKER:--as-needed)
   endif()
 endfunction()
