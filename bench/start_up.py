@@ -5,8 +5,9 @@
     start_up.py BIN_FOLDER RUNS [ROOT]
 
 Of RUNS turns; in each turn every program runs once, in an order of its own, as
-each finds in the caches what the one before has left. BIN_FOLDER has ztk and the two programs of this folder that it is compared with, in the file
-system whose root is ROOT.
+each finds in the caches what the one before has left. BIN_FOLDER has ztk and the
+two programs of this folder that it is compared with, in the file system whose
+root is ROOT.
 """
 
 import json
