@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
 // What a user at a terminal sees, and what Ctrl-C leaves behind.
-#include "terminal.h"
+#include "cli/terminal.h"
 
-#include "cli_world.h"
-#include "pseudo_terminal.h"
+#include "support/pseudo_terminal.h"
+#include "ztk/cli_world.h"
 
 namespace ztk::test {
 namespace {

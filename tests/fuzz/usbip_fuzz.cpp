@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "usbip_session.h"
+#include "virtual-mixer/usbip/usbip_session.h"
 
 namespace {
 

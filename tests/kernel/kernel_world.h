@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "virtual-mixer/usbip_world.h"
+#include "virtual-mixer/usbip/usbip_world.h"
 
 namespace ztk::test {
 

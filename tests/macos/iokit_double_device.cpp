@@ -10,7 +10,7 @@
 #include <cstring>
 
 #include "iokit_double_objects.h"
-#include "virtual-mixer/request_line.h"
+#include "virtual-mixer/mixer/request_line.h"
 
 namespace ztk::iokit {
 namespace {

@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "ZTKFunc.h"
+#include "fake/world.h"
 #include "notify/callback_registry.h"
-#include "platform/fake/world.h"
 
 namespace ztk::fake {
 

@@ -20,7 +20,7 @@
 #include "support/planted_root.h"
 #include "support/private_bus.h"
 #include "support/temp_home.h"
-#include "virtual-mixer/mixer_world.h"
+#include "virtual-mixer/mixer/mixer_world.h"
 
 namespace ztk::test {
 

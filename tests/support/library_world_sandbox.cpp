@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/library_world.h"
-#include "virtual-mixer/sandbox.h"
+#include "virtual-mixer/sandbox/sandbox.h"
 
 namespace ztk::test {
 

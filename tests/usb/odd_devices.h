@@ -5,7 +5,7 @@
 #ifndef ZTK_TESTS_USB_ODD_DEVICES_H_
 #define ZTK_TESTS_USB_ODD_DEVICES_H_
 
-#include "platform/fake/world.h"
+#include "fake/world.h"
 
 namespace ztk::test {
 

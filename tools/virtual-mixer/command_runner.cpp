@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "command_runner.h"
+#include "virtual-mixer/command_runner.h"
 
 #include <spawn.h>
 #include <sys/prctl.h>
@@ -12,7 +12,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "fault.h"
+#include "virtual-mixer/mixer/fault.h"
 
 namespace ztk::virtual_mixer {
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Runs a command and waits for it and for everything that it leaves behind.
-#ifndef ZTK_VIRTUAL_MIXER_COMMAND_RUNNER_H_
-#define ZTK_VIRTUAL_MIXER_COMMAND_RUNNER_H_
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_COMMAND_RUNNER_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_COMMAND_RUNNER_H_
 
 #include <sys/types.h>
 
@@ -48,4 +48,4 @@ int RunCommand(const std::vector<std::string> &command,
 
 }  // namespace ztk::virtual_mixer
 
-#endif  // ZTK_VIRTUAL_MIXER_COMMAND_RUNNER_H_
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_COMMAND_RUNNER_H_

@@ -14,14 +14,14 @@
 #include <vector>
 
 #include "build_config.h"
-#include "commands.h"
-#include "manual/completion.h"
-#include "manual/described.h"
-#include "manual/help_format.h"
-#include "world_options.h"
-#include "ztk/nearest.h"
-#include "ztk/report.h"
-#include "ztk/terminal.h"
+#include "cli/completion.h"
+#include "cli/described.h"
+#include "cli/help_format.h"
+#include "cli/strings.h"
+#include "cli/suggest.h"
+#include "cli/terminal.h"
+#include "virtual-mixer/commands/command_table.h"
+#include "virtual-mixer/world_options.h"
 
 namespace {
 

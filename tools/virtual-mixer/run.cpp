@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "run.h"
+#include "virtual-mixer/run.h"
 
 #include <unistd.h>
 
@@ -12,11 +12,11 @@
 #include <memory>
 #include <optional>
 
-#include "command_runner.h"
-#include "control_commands.h"
-#include "control_socket.h"
-#include "private_settings.h"
-#include "sandbox.h"
+#include "virtual-mixer/command_runner.h"
+#include "virtual-mixer/control/control_commands.h"
+#include "virtual-mixer/control/control_socket.h"
+#include "virtual-mixer/sandbox/private_settings.h"
+#include "virtual-mixer/sandbox/sandbox.h"
 
 namespace ztk::virtual_mixer {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#ifndef ZTK_VIRTUAL_MIXER_RUN_H_
-#define ZTK_VIRTUAL_MIXER_RUN_H_
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_RUN_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_RUN_H_
 
 #include <string>
 #include <vector>
 
-#include "world_options.h"
+#include "virtual-mixer/world_options.h"
 
 namespace ztk::virtual_mixer {
 
@@ -23,4 +23,4 @@ int Run(const RunOptions &options);
 
 }  // namespace ztk::virtual_mixer
 
-#endif  // ZTK_VIRTUAL_MIXER_RUN_H_
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_RUN_H_

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "serve.h"
+#include "virtual-mixer/serve.h"
 
 #include <unistd.h>
 
 #include <cstdio>
 #include <filesystem>
 
-#include "command_runner.h"
-#include "control_commands.h"
-#include "control_socket.h"
-#include "usbip_world.h"
+#include "virtual-mixer/command_runner.h"
+#include "virtual-mixer/control/control_commands.h"
+#include "virtual-mixer/control/control_socket.h"
+#include "virtual-mixer/usbip/usbip_world.h"
 
 namespace ztk::virtual_mixer {
 namespace {

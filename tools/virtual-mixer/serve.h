@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#ifndef ZTK_VIRTUAL_MIXER_SERVE_H_
-#define ZTK_VIRTUAL_MIXER_SERVE_H_
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_SERVE_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_SERVE_H_
 
 #include <string>
 #include <vector>
 
-#include "world_options.h"
+#include "virtual-mixer/world_options.h"
 
 namespace ztk::virtual_mixer {
 
@@ -25,4 +25,4 @@ int Serve(const ServeOptions &options);
 
 }  // namespace ztk::virtual_mixer
 
-#endif  // ZTK_VIRTUAL_MIXER_SERVE_H_
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_SERVE_H_

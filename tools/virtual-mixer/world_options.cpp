@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "world_options.h"
+#include "virtual-mixer/world_options.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -11,7 +11,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "control_commands.h"
+#include "virtual-mixer/control/control_commands.h"
 
 namespace ztk::virtual_mixer {
 namespace {

@@ -2,15 +2,15 @@
 //
 // What every command that makes a world of mixers is told, and how it is
 // carried out.
-#ifndef ZTK_VIRTUAL_MIXER_WORLD_OPTIONS_H_
-#define ZTK_VIRTUAL_MIXER_WORLD_OPTIONS_H_
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_WORLD_OPTIONS_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_WORLD_OPTIONS_H_
 
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "control_socket.h"
-#include "mixer_world.h"
+#include "virtual-mixer/control/control_socket.h"
+#include "virtual-mixer/mixer/mixer_world.h"
 
 namespace ztk::virtual_mixer {
 
@@ -65,4 +65,4 @@ std::string Variable(const char *name);
 
 }  // namespace ztk::virtual_mixer
 
-#endif  // ZTK_VIRTUAL_MIXER_WORLD_OPTIONS_H_
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_WORLD_OPTIONS_H_

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "command_line.h"
+#include "ztk/command_line.h"
 
 #include <unistd.h>
 
@@ -10,13 +10,14 @@
 #include <memory>
 
 #include "build_config.h"
-#include "commands.h"
-#include "manual/completion.h"
-#include "manual/described.h"
-#include "manual/help_format.h"
-#include "nearest.h"
-#include "progress.h"
-#include "terminal.h"
+#include "cli/completion.h"
+#include "cli/described.h"
+#include "cli/help_format.h"
+#include "cli/strings.h"
+#include "cli/suggest.h"
+#include "cli/terminal.h"
+#include "ztk/commands/command_table.h"
+#include "ztk/progress.h"
 
 namespace ztk::cli {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "report.h"
+#include "ztk/report.h"
 
 namespace ztk::cli {
 

@@ -3,8 +3,8 @@
 // ztk: the mixer's settings from a terminal or a script.
 #include <exception>
 
-#include "command_line.h"
-#include "output.h"
+#include "ztk/command_line.h"
+#include "ztk/output.h"
 
 int main(int argc, char **argv) {
   using namespace ztk::cli;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output.h"
+#include "ztk/output.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -9,7 +9,8 @@
 #include <csignal>
 #include <cstring>
 
-#include "terminal.h"
+#include "cli/strings.h"
+#include "cli/terminal.h"
 
 namespace ztk::cli {
 

@@ -7,7 +7,7 @@
 
 #include <string>
 
-#include "report.h"
+#include "ztk/report.h"
 
 namespace ztk::cli {
 

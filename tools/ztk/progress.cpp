@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "progress.h"
+#include "ztk/progress.h"
 
 #include <unistd.h>
 
@@ -9,8 +9,8 @@
 #include <string_view>
 #include <utility>
 
-#include "report.h"
-#include "terminal.h"
+#include "cli/terminal.h"
+#include "ztk/report.h"
 
 namespace ztk::cli {
 

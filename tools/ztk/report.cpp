@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "report.h"
+#include "ztk/report.h"
 
 namespace ztk::cli {
 
 namespace {
-
-constexpr std::size_t kLongestQuotation = 60;  // bytes
 
 constexpr ExitMeaning kExitMeanings[] = {
     {.exit = ExitCode::Done,
@@ -72,34 +70,6 @@ std::string JsonLine(const std::string &command, const Report &report) {
                      {"message", report.problem->message}};
   }
   return Dump(json);
-}
-
-std::string OneLine(const std::string &text) {
-  std::string line;
-  for (const char character : text) {
-    const auto byte = static_cast<unsigned char>(character);
-    line += byte < 0x20 || byte == 0x7F ? ' ' : character;
-  }
-  return line;
-}
-
-std::string Quoted(const std::string &word) {
-  if (word.size() <= kLongestQuotation) return '"' + OneLine(word) + '"';
-  return '"' + OneLine(word.substr(0, kLongestQuotation)) + "...\"";
-}
-
-std::string Listed(const std::vector<std::string> &words) {
-  std::string list;
-  for (const std::string &word : words) {
-    if (!list.empty()) list += ", ";
-    list += word;
-  }
-  return list;
-}
-
-std::string Padded(const std::string &text, std::size_t width) {
-  return text.size() < width ? text + std::string(width - text.size(), ' ')
-                             : text;
 }
 
 }  // namespace ztk::cli

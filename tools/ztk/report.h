@@ -74,19 +74,6 @@ std::string JsonLine(const std::string &command, const Report &report);
 // The word that stands for the exit code in a JSON error.
 const char *ErrorWord(ExitCode exit);
 
-// One line of text from anything: control characters become spaces. Texts of
-// the library and words of the user go through it on their way to a terminal.
-std::string OneLine(const std::string &text);
-
-// A word of the user's in quotation marks, on one line and not too long.
-std::string Quoted(const std::string &word);
-
-// "a, b, c"
-std::string Listed(const std::vector<std::string> &words);
-
-// Fills up with spaces to the width, so that columns align.
-std::string Padded(const std::string &text, std::size_t width);
-
 }  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_ZTK_REPORT_H_

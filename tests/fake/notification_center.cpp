@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "platform/notification_center.h"
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "fake/world.h"
+
+namespace ztk::platform::notification_center {
+
+// Never freed before the process ends, so that a record which the core drops
+// without giving it back is counted and not leaked.
+struct UserInfo {
+  int references;
+  std::vector<std::pair<std::string, std::int32_t>> entries;
+};
+
+namespace {
+
+using fake::LogCall;
+using fake::LogStep;
+using fake::TheWorld;
+
+UserInfo *Keep(UserInfo userInfo) {
+  static std::deque<UserInfo> kept;
+  return &kept.emplace_back(std::move(userInfo));
+}
+
+std::string Describe(const UserInfo *userInfo) {
+  std::string text = "{";
+  const char *separator = "";
+  for (const auto &[key, value] : userInfo->entries) {
+    text += separator + key + "=" + std::to_string(value);
+    separator = ", ";
+  }
+  return text + "}";
+}
+
+}  // namespace
+
+UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
+  UserInfo userInfo{.references = 1, .entries = {}};
+  for (std::size_t i = 0; i < count; ++i) {
+    userInfo.entries.emplace_back(entries[i].key, entries[i].value);
+  }
+  LogCall("make info " + Describe(&userInfo));
+  ++TheWorld().held.userInfos;
+  return Keep(std::move(userInfo));
+}
+
+void Release(UserInfo *userInfo) {
+  if (userInfo == nullptr) {
+    LogCall("release no info");
+    return;
+  }
+  LogCall("release info " + Describe(userInfo));
+  if (userInfo->references <= 0) {
+    TheWorld().misuse.push_back("released too often: info");
+    return;
+  }
+  --userInfo->references;
+  --TheWorld().held.userInfos;
+}
+
+std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
+  if (userInfo == nullptr) return 0;
+  for (const auto &[name, value] : userInfo->entries) {
+    if (name == key) return value;
+  }
+  return 0;
+}
+
+void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
+  if (userInfo->references <= 0) {
+    TheWorld().misuse.push_back("posted after release: info");
+  }
+  const char *when =
+      delivery == Delivery::Immediately ? " immediately" : " by default";
+  LogCall(std::string("post ") + name);
+  LogStep(std::string("post ") + name + " " + Describe(userInfo) + when);
+}
+
+void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
+  LogCall(std::string("observe ") + name + " with " + method.selector);
+  LogStep(std::string("observe ") + name + " with " + method.selector);
+  TheWorld().observations.push_back(
+      {.name = name, .observer = observer, .method = method});
+}
+
+}  // namespace ztk::platform::notification_center
+
+namespace ztk::fake {
+
+void Deliver(const std::string &name,
+             const std::vector<std::pair<std::string, std::int32_t>> &entries) {
+  const platform::notification_center::UserInfo userInfo{.references = 1,
+                                                         .entries = entries};
+  // A method may register more; those wait for the next notification.
+  const std::vector<Observation> observations = TheWorld().observations;
+  for (const Observation &observation : observations) {
+    if (observation.name != name) continue;
+    observation.method.code(observation.observer, &userInfo);
+  }
+}
+
+}  // namespace ztk::fake

@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: MIT
+#include "platform/usb.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <deque>
+#include <string>
+
+#include "build_config.h"
+#include "fake/world.h"
+#include "virtual-mixer/mixer/request_line.h"
+
+namespace ztk::platform::usb {
+
+// Handles are never freed before the process ends, so that a use after the
+// last release is seen and not undefined.
+struct PortObject {
+  int references;
+};
+struct Matching {
+  int references;
+  bool narrowed;
+};
+struct Number {
+  std::int32_t value;
+};
+struct IteratorObject {
+  int references;
+  bool counting;
+  std::size_t next;
+};
+struct ServiceObject {
+  int references;
+  std::size_t position;
+};
+struct PlugIn {
+  int references;
+  std::size_t position;
+};
+struct Device {
+  int references;
+  std::size_t position;
+};
+
+namespace {
+
+using fake::LogCall;
+using fake::LogStep;
+using fake::TheWorld;
+
+template <typename Object>
+Object *Keep(Object object) {
+  static std::deque<Object> kept;
+  return &kept.emplace_back(object);
+}
+
+template <typename Object>
+void Release(Object *object, int *held, const char *what) {
+  LogCall(std::string("release ") + what);
+  if (object == nullptr || object->references <= 0) {
+    TheWorld().misuse.push_back(std::string("released too often: ") + what);
+    return;
+  }
+  --object->references;
+  --*held;
+}
+
+template <typename Object>
+void Use(const Object *object, const char *what) {
+  if (object != nullptr && object->references > 0) return;
+  TheWorld().misuse.push_back(std::string("used after release: ") + what);
+}
+
+bool IsMixer(const fake::Device &device) {
+  return device.vendor == build::kUsbVendorId && device.product == 27;
+}
+
+fake::Device &DeviceAt(std::size_t position) {
+  return TheWorld().bus.at(position);
+}
+
+// As a person counts: from 1, mixers only.
+int MixerNumber(std::size_t position) {
+  const auto &bus = TheWorld().bus;
+  const auto end = bus.begin() + static_cast<std::ptrdiff_t>(position) + 1;
+  return static_cast<int>(std::count_if(bus.begin(), end, IsMixer));
+}
+
+virtual_mixer::Outcome OutcomeOf(Code result) {
+  switch (result) {
+    case kSuccess:
+      return virtual_mixer::Outcome::Ok;
+    case kPipeStalled:
+      return virtual_mixer::Outcome::Stall;
+    case kTimeout:
+      return virtual_mixer::Outcome::Silence;
+    default:
+      return virtual_mixer::Outcome::Gone;
+  }
+}
+
+}  // namespace
+
+Code GetMasterPort(Port *port) {
+  LogCall("get master port");
+  *port = nullptr;
+  const Code result = TheWorld().masterPortResult;
+  if (result != kSuccess) return result;
+  ++TheWorld().held.ports;
+  *port = Keep(PortObject{.references = 1});
+  return kSuccess;
+}
+
+void ReleaseMasterPort(Port port) {
+  Release(port, &TheWorld().held.ports, "master port");
+}
+
+Matching *CreateMatching(const char *className) {
+  LogCall(std::string("create matching ") + className);
+  if (!TheWorld().hasMatching) return nullptr;
+  ++TheWorld().held.matchings;
+  return Keep(Matching{.references = 1, .narrowed = false});
+}
+
+Number *MakeNumber(std::int32_t value) {
+  LogCall("make number " + std::to_string(value));
+  ++TheWorld().held.numbers;
+  return Keep(Number{.value = value});
+}
+
+void SetMatchingValue(Matching *matching, const char *key, Number *number) {
+  Use(matching, "matching");
+  LogCall(std::string("match ") + key + " " + std::to_string(number->value));
+  matching->narrowed = true;
+}
+
+Code FindServices(Port /*port*/, Matching *matching, Iterator *iterator) {
+  const bool counting = matching->narrowed;
+  LogCall(counting ? "find services that match" : "find every service");
+  Use(matching, "matching");
+  matching->references = 0;
+  --TheWorld().held.matchings;
+  if (counting) LogStep("count");
+
+  *iterator = nullptr;
+  if (TheWorld().findResult != kSuccess) return TheWorld().findResult;
+  if (!TheWorld().hasIterator) return kSuccess;
+  ++TheWorld().held.iterators;
+  *iterator =
+      Keep(IteratorObject{.references = 1, .counting = counting, .next = 0});
+  return kSuccess;
+}
+
+Service NextService(Iterator iterator) {
+  Use(iterator, "iterator");
+  const auto &bus = TheWorld().bus;
+  std::size_t &next = iterator->next;
+  while (iterator->counting && next < bus.size() && !IsMixer(bus[next])) ++next;
+  LogCall(next < bus.size() ? "next service" : "no further service");
+  if (next >= bus.size()) return nullptr;
+  ++TheWorld().held.services;
+  return Keep(ServiceObject{.references = 1, .position = next++});
+}
+
+void ReleaseService(Service service) {
+  Release(service, &TheWorld().held.services, "service");
+}
+
+void ReleaseIterator(Iterator iterator) {
+  Release(iterator, &TheWorld().held.iterators, "iterator");
+}
+
+Code CreatePlugIn(Service service, PlugIn **plugIn) {
+  Use(service, "service");
+  LogCall("create plug-in");
+  *plugIn = nullptr;
+  const Code result = DeviceAt(service->position).plugInResult;
+  if (result != kSuccess) return result;
+  if (!DeviceAt(service->position).hasPlugIn) return kSuccess;
+  ++TheWorld().held.plugIns;
+  *plugIn = Keep(PlugIn{.references = 1, .position = service->position});
+  return kSuccess;
+}
+
+Device *QueryDevice(PlugIn *plugIn) {
+  Use(plugIn, "plug-in");
+  LogCall("query device interface");
+  if (!DeviceAt(plugIn->position).hasInterface) return nullptr;
+  ++TheWorld().held.interfaces;
+  return Keep(Device{.references = 1, .position = plugIn->position});
+}
+
+void ReleasePlugIn(PlugIn *plugIn) {
+  Release(plugIn, &TheWorld().held.plugIns, "plug-in");
+}
+
+Code GetDeviceClass(Device *device, std::uint8_t *deviceClass) {
+  Use(device, "device interface");
+  LogCall("get class");
+  const Code result = DeviceAt(device->position).classResult;
+  if (result == kSuccess) *deviceClass = 0;
+  return result;
+}
+
+Code GetDeviceSubClass(Device *device, std::uint8_t *deviceSubClass) {
+  Use(device, "device interface");
+  LogCall("get subclass");
+  const Code result = DeviceAt(device->position).subClassResult;
+  if (result == kSuccess) *deviceSubClass = 0;
+  return result;
+}
+
+Code GetDeviceVendor(Device *device, std::uint16_t *vendor) {
+  Use(device, "device interface");
+  LogCall("get vendor");
+  const Code result = DeviceAt(device->position).vendorResult;
+  if (result == kSuccess) *vendor = DeviceAt(device->position).vendor;
+  return result;
+}
+
+Code GetDeviceProduct(Device *device, std::uint16_t *product) {
+  Use(device, "device interface");
+  LogCall("get product");
+  const Code result = DeviceAt(device->position).productResult;
+  if (result == kSuccess) *product = DeviceAt(device->position).product;
+  return result;
+}
+
+Device *MakeReady(Device *device) {
+  Use(device, "device interface");
+  const std::string mixer = std::to_string(MixerNumber(device->position));
+  if (!DeviceAt(device->position).canBeReached) {
+    LogStep("cannot open " + mixer);
+    device->references = 0;
+    --TheWorld().held.interfaces;
+    return nullptr;
+  }
+  LogCall("make ready");
+  LogStep("open " + mixer);
+  return device;
+}
+
+Code Request(Device *device, ControlRequest *request) {
+  Use(device, "device interface");
+  LogCall("request");
+  const fake::Device &target = DeviceAt(device->position);
+  fake::Answer answer{.result = target.writeResult, .bytes = {}};
+  const bool isRead = (request->requestType & 0x80) != 0;
+  if (isRead) {
+    const auto found = target.answers.find(request->index);
+    answer = found != target.answers.end()
+                 ? found->second
+                 : fake::Answer{.result = kPipeStalled, .bytes = {}};
+  }
+  if (answer.bytes.size() > request->length) {
+    answer.bytes.resize(request->length);
+  }
+  if (!answer.bytes.empty()) {
+    std::memcpy(request->data, answer.bytes.data(), answer.bytes.size());
+  }
+  request->lengthDone = static_cast<std::uint32_t>(answer.bytes.size());
+  LogStep(RequestLine(MixerNumber(device->position),
+                      {.requestType = request->requestType,
+                       .request = request->request,
+                       .value = request->value,
+                       .index = request->index,
+                       .length = request->length},
+                      OutcomeOf(answer.result), answer.bytes.data(),
+                      answer.bytes.size()));
+  return answer.result;
+}
+
+Code CloseDevice(Device *device) {
+  Use(device, "device interface");
+  LogCall("close device");
+  LogStep("close " + std::to_string(MixerNumber(device->position)));
+  return kSuccess;
+}
+
+std::uint32_t ReleaseDevice(Device *device) {
+  Release(device, &TheWorld().held.interfaces, "device interface");
+  return device == nullptr ? 0 : DeviceAt(device->position).referencesOfOthers;
+}
+
+}  // namespace ztk::platform::usb

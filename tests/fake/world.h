@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+//
+// The recording port: a world that a test sets up as a value, changes in one
+// place, and reads back as one ordered log of what the core asked for.
+#ifndef ZTK_TESTS_FAKE_WORLD_H_
+#define ZTK_TESTS_FAKE_WORLD_H_
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "build_config.h"
+#include "platform/notification_center.h"
+#include "platform/usb.h"
+
+namespace ztk::fake {
+
+using Code = platform::usb::Code;
+
+// What a device answers to a read: the result, and the bytes that it delivers
+// before that (no more than are asked for reach the buffer).
+struct Answer {
+  Code result = 0;
+  std::vector<std::uint8_t> bytes;
+};
+
+// One device on the bus. It answers as a mixer does unless a test says so.
+struct Device {
+  std::uint16_t vendor = build::kUsbVendorId;
+  std::uint16_t product = 27;
+  Code plugInResult = 0;
+  bool hasPlugIn = true;
+  bool hasInterface = true;
+  Code classResult = 0;
+  Code subClassResult = 0;
+  Code vendorResult = 0;
+  Code productResult = 0;
+  bool canBeReached = true;                 // else MakeReady() yields nothing
+  std::uint32_t referencesOfOthers = 0;     // what a release says remains
+  std::map<std::uint16_t, Answer> answers;  // to reads, by register
+  Code writeResult = 0;
+};
+
+// A mixer whose selectors all stand at position 4.
+Device Mixer();
+// The same with another answer to one read.
+Device MixerAnswering(std::uint16_t reg, Answer answer);
+// A device of somebody else.
+Device Stranger();
+
+// What a settings file may hold; monostate stands for a kind that has neither
+// an integer nor a text in it.
+using Value = std::variant<std::monostate, std::int32_t, std::string>;
+using Entries = std::map<std::string, Value>;
+
+struct Bundle {
+  std::string resourcePath;
+  // By table and key.
+  std::map<std::string, std::map<std::string, std::string>> preferredTexts;
+};
+
+// Objects that the core holds, by kind. A test asks what is left.
+struct Held {
+  int ports = 0;
+  int matchings = 0;
+  int numbers = 0;
+  int iterators = 0;
+  int services = 0;
+  int plugIns = 0;
+  int interfaces = 0;  // references on device interfaces
+  int dictionaries = 0;
+  int bundles = 0;
+  int userInfos = 0;
+
+  bool operator==(const Held &) const = default;
+};
+
+struct Observation {
+  std::string name;
+  void *observer;
+  platform::notification_center::Method method;
+};
+
+struct World {
+  // USB.
+  Code masterPortResult = 0;
+  bool hasMatching = true;
+  Code findResult = 0;
+  bool hasIterator = true;
+  std::vector<Device> bus;
+
+  // Files, by path: those that can be read as a dictionary.
+  bool hasLibrary = true;
+  std::string library = "/Users/dj/Library";
+  std::map<std::string, Entries> files;
+  bool canWrite = true;
+  std::map<std::string, Bundle> bundles;
+
+  // What came of it. `steps` is the log in the terms of a setter's rules:
+  // count, open, request, close, file, post. `calls` has every call.
+  std::vector<std::string> steps;
+  std::vector<std::string> calls;
+  Held held;
+  std::vector<Observation> observations;
+  // Uses of an object after its last release, and releases of nothing.
+  std::vector<std::string> misuse;
+};
+
+// The one world. Assigning to it starts afresh.
+World &TheWorld();
+
+// Has a notification delivered to everybody who observes its name, as if some
+// process had posted it.
+void Deliver(const std::string &name,
+             const std::vector<std::pair<std::string, std::int32_t>> &entries);
+
+// Shared by the services of this port.
+void LogCall(std::string call);
+void LogStep(std::string step);
+
+}  // namespace ztk::fake
+
+#endif  // ZTK_TESTS_FAKE_WORLD_H_

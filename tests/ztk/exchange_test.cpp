@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+#include <set>
+
+#include "cli_world.h"
+#include "ztk/model/settings.h"
+
+namespace ztk::test {
+namespace {
+
+class Export : public CliWorld {};
+class Import : public CliWorld {
+ protected:
+  // The lines on the error stream for a file that holds this.
+  std::vector<std::string> Errors(const std::string &text) {
+    WriteAll(home_.path() / "file", text);
+    const Result result = OneMixer("ztk import $DIR/file");
+    EXPECT_EQ(result.status, 2) << text;
+    EXPECT_THAT(result.out, IsEmpty());
+    EXPECT_THAT(Requests(), IsEmpty()) << text;
+    EXPECT_FALSE(HasSettings("VRM-D6")) << text;
+    EXPECT_THAT(LastLine(result.err), HasSubstr("nothing was changed: "));
+    std::vector<std::string> lines = SplitLines(result.err);
+    if (!lines.empty()) lines.pop_back();
+    const std::string start = "ztk: " + (home_.path() / "file").string() + ": ";
+    for (std::string &line : lines) {
+      EXPECT_THAT(line, StartsWith(start));
+      line.erase(0, start.size());
+    }
+    return lines;
+  }
+};
+
+TEST_F(Export, WritesWordsByModelSettingAndChannel) {
+  Remember("VRM-D6", {{"Output1", 2}, {"Output4", 7}, {"MaxLevel", 1}});
+  Remember("VRM-B5", {{"Input0", 2}});
+  Remember("VRM-K2", {{"MidiChannel", 15}});
+  const Result result = OneMixer("ztk export");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out, R"({
+  "version": 1,
+  "settings": {
+    "VRM-D6": {
+      "input": {
+        "2": "Post CH2 Fader",
+        "5": "MIC"
+      },
+      "boost": "-10 dB"
+    },
+    "VRM-B5": {
+      "output": {
+        "1": "AUX"
+      }
+    },
+    "VRM-K2": {
+      "midi": "CH 16"
+    }
+  }
+}
+)");
+  EXPECT_THAT(Requests(), IsEmpty());
+}
+
+TEST_F(Export, LeavesOutWhatHasNoWordsAndSaysSo) {
+  Remember("VRM-D6", {{"Output0", 7}, {"MaxLevel", 9}});
+  const Result result = OneMixer("ztk export --json");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(OneObject(result.out).value("settings", Json()), Json::object());
+  EXPECT_THAT(Line(result.err, 0), HasSubstr("left out"));
+  EXPECT_THAT(Line(result.err, 1),
+              HasSubstr("Boost level: 9, which is not a choice"));
+}
+
+// Every choice of every family, out and in again.
+TEST_F(Import, BringsBackWhatWasExported) {
+  std::set<std::string> models;
+  for (const cli::Family *family : cli::Families()) {
+    models.insert(cli::ModelName(*family));
+  }
+  for (int round = 0; round < 16; ++round) {
+    SCOPED_TRACE(round);
+    Remember("VRM-D6", {{"Output0", round % 7},
+                        {"Output1", (round + 1) % 7},
+                        {"Output2", (round + 2) % 7},
+                        {"Output3", (round + 3) % 7},
+                        {"Output4", round % 8},
+                        {"MaxLevel", round % 4}});
+    Remember("VRM-B5", {{"Input0", round % 3},
+                        {"Input1", (round + 1) % 3},
+                        {"Input2", (round + 2) % 3}});
+    Remember("VRM-K2", {{"MidiChannel", round}});
+    const std::string way = round % 2 == 0 ? "--json" : "";
+    const Result result =
+        OneMixer("cd $HOME/.config/tarvix; ztk export " + way +
+                 " > $DIR/first || exit; mv Preferences before;"
+                 "ztk import $DIR/first > /dev/null 2> $DIR/noise || exit;"
+                 "ztk export " +
+                 way +
+                 " > $DIR/second; cmp $DIR/first $DIR/second ||"
+                 " exit; ztk status > $DIR/now; rm -r Preferences;"
+                 "mv before Preferences; ztk status > $DIR/then;"
+                 "cmp $DIR/now $DIR/then");
+    EXPECT_EQ(result.status, 0) << result.out << result.err << File("noise");
+    EXPECT_EQ(Writes().size(), 10U);
+  }
+  EXPECT_EQ(models, std::set<std::string>({"VRM-B5", "VRM-D6", "VRM-K2"}));
+}
+
+TEST_F(Import, SendsRemembersAndAnnouncesLikeASetter) {
+  WriteAll(home_.path() / "file",
+           R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"},
+               "VRM-K2":{"midi":"ch 3"}}})");
+  const Result result = OneMixer("ztk import - < $DIR/file; ztk undo");
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_EQ(Line(result.out, 0),
+            "Boost level: 1 -5 dB, sent to 1 mixer, remembered");
+  EXPECT_EQ(Line(result.out, 1),
+            "MIDI channel: 3 CH 3, sent to 1 mixer, remembered");
+  // Undone as the one command that it was.
+  EXPECT_THAT(Line(result.out, 2), StartsWith("MIDI channel: 3 CH 3 undone"));
+  EXPECT_THAT(Line(result.out, 4), StartsWith("Boost level: 1 -5 dB undone"));
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000",
+                                    "mixer 1: 40 03 0200 8004 0000",
+                                    "mixer 1: 40 03 0000 8004 0000",
+                                    "mixer 1: 40 03 0000 8003 0000"));
+}
+
+TEST_F(Import, ChecksAllOfItBeforeItChangesAnything) {
+  EXPECT_THAT(
+      Errors(R"({"version":2,"more":1,"settings":{
+          "VRM-D6":{"input":{"6":"MIC","1":"nothing","2":3,"3":"Cross"},
+                    "boost":{"1":"-5 dB"},"output":{"1":"AUX"}},
+          "VRM-Z9":{},"VRM-B5":[],"VRM-K2":{"midi":"CH 16"}}})"),
+      ElementsAre(
+          "version: accepted: 1",
+          "no entry \"more\"; accepted: version, settings",
+          "settings.VRM-D6.input: no channel \"6\"; accepted: 1 to 5",
+          StartsWith("settings.VRM-D6.input.1: no choice \"nothing\"; "
+                     "accepted: 1 CH1 Control Tone PHONO, "),
+          StartsWith("settings.VRM-D6.input.2: the text of a choice is needed"),
+          StartsWith("settings.VRM-D6.input.3: no choice \"Cross\""),
+          StartsWith("settings.VRM-D6.boost: the text of a choice is needed"),
+          "settings.VRM-D6: no setting \"output\"; accepted: input, boost",
+          "settings: no model \"VRM-Z9\"; accepted: VRM-D6, VRM-B5, VRM-K2",
+          "settings.VRM-B5: accepted: an object"));
+}
+
+TEST_F(Import, RefusesWhatIsNoExport) {
+  EXPECT_THAT(Errors(""), ElementsAre(StartsWith("this is not JSON")));
+  EXPECT_THAT(Errors("{\"version\":1,"),
+              ElementsAre("this is not JSON, at byte 14"));
+  EXPECT_THAT(Errors("[]"), ElementsAre(StartsWith("there are no settings")));
+  EXPECT_THAT(Errors("{\"settings\":{}}"),
+              ElementsAre("version: it is missing"));
+  EXPECT_THAT(Errors("{\"version\":1,\"settings\":{}}"),
+              ElementsAre("settings: there is none"));
+  EXPECT_THAT(Errors(R"({"version":1,"settings":{"VRM-D6":{
+                         "boost":"-5 dB","boost":"-10 dB"}}})"),
+              ElementsAre("\"boost\" stands twice"));
+}
+
+TEST_F(Import, TellsErrorsInJsonToo) {
+  WriteAll(home_.path() / "file", "{\"version\":1,\"settings\":3}");
+  const Result result = OneMixer("ztk import $DIR/file --json");
+  EXPECT_EQ(result.status, 2);
+  const Json json = OneObject(result.out);
+  EXPECT_EQ(json.value("errors", Json()),
+            Json({"settings: accepted: an object"}));
+  EXPECT_EQ(json.value("error", Json::object()).value("code", ""), "usage");
+}
+
+TEST_F(Import, NeedsAFileThatCanBeRead) {
+  const Result result = OneMixer(
+      "ztk import; echo $?; ztk import $DIR/none; echo $?;"
+      "ztk import $DIR; echo $?;"
+      "head -c 2000000 /dev/zero | ztk import -; echo $?");
+  EXPECT_EQ(result.out, "2\n2\n2\n2\n");
+  EXPECT_EQ(SplitLines(result.err).size(), 4U) << result.err;
+  EXPECT_THAT(Line(result.err, 1), HasSubstr("No such file or directory"));
+  EXPECT_THAT(Line(result.err, 3), HasSubstr("too large"));
+}
+
+TEST_F(Import, ShowsInADryRunWhatItWouldDo) {
+  WriteAll(home_.path() / "file",
+           R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
+  const Result result = OneMixer("ztk import $DIR/file --dry-run");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.out, HasSubstr("MaxLevel: nothing -> 0 (1 -5 dB)"));
+  EXPECT_THAT(Requests(), IsEmpty());
+  EXPECT_FALSE(HasSettings("VRM-D6"));
+}
+
+}  // namespace
+}  // namespace ztk::test

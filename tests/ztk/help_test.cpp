@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include <regex>
+#include <set>
+
+#include "cli_world.h"
+#include "ztk/commands/command_table.h"
+#include "ztk/model/settings.h"
+
+namespace ztk::test {
+namespace {
+
+class Help : public CliWorld {
+ protected:
+  static void CheckWidth(const std::string &text) {
+    for (const std::string &line : SplitLines(text)) {
+      EXPECT_LE(line.size(), 80U) << line;
+    }
+  }
+  static std::string OnOneLine(const std::string &text) {
+    return std::regex_replace(text, std::regex("\\s+"), " ");
+  }
+};
+
+TEST_F(Help, TellsTheExitCodes) {
+  const Result result = NoMixer("ztk --help");
+  EXPECT_EQ(result.status, 0);
+  for (const char *line :
+       {"0  done", "1  ztk doctor has found a problem",
+        "2  the words, or a file to import, were wrong; nothing was sent",
+        "3  no mixer answered", "4  rejected", "5  something else failed",
+        "6  some mixers answered", "7  sent, but not remembered",
+        "\n  130  interrupted by Ctrl-C; not ztk watch, which is ended so: 0\n",
+        "Example: ztk input set 2 \"post ch2 fader\"",
+        "USB output audio of the VRM-B5"}) {
+    EXPECT_THAT(result.out, HasSubstr(line));
+  }
+  EXPECT_THAT(result.err, IsEmpty());
+  CheckWidth(result.out);
+}
+
+TEST_F(Help, ShowsAnExampleAndTheModelWithEveryCommand) {
+  std::string script;
+  for (const cli::Command &command : cli::Commands()) {
+    script += "ztk " + command.path + " --help > '" + home_.path().string() +
+              "/" + command.path + "'; echo $?;";
+  }
+  const Result result = NoMixer(script);
+  for (const std::string &status : SplitLines(result.out)) {
+    EXPECT_EQ(status, "0");
+  }
+  for (const cli::Command &command : cli::Commands()) {
+    SCOPED_TRACE(command.path);
+    const std::string help = File(command.path);
+    EXPECT_THAT(help, HasSubstr("Example: " + command.example + "\n"));
+    EXPECT_THAT(help, HasSubstr("ztk " + command.path));
+    EXPECT_THAT(help, HasSubstr("--json"));
+    EXPECT_THAT(OnOneLine(help), HasSubstr(OnOneLine(command.note)));
+    CheckWidth(help);
+  }
+}
+
+TEST_F(Help, SaysToWhichModelEachSettingBelongs) {
+  const Result result = NoMixer(
+      "ztk input --help; ztk output set --help; ztk boost --help;"
+      "ztk midi list --help");
+  for (const char *line : {"USB input audio belongs to the VRM-D6.",
+                           "USB output audio belongs to the VRM-B5.",
+                           "Boost level belongs to the VRM-D6.",
+                           "MIDI channel belongs to the VRM-K2."}) {
+    EXPECT_THAT(result.out, HasSubstr(line));
+  }
+}
+
+TEST_F(Help, IsGivenForTheWordToo) {
+  for (const char *command :
+       {"", "status", "input", "input set", "--json", "input set --json"}) {
+    SCOPED_TRACE(command);
+    const std::string words = command;
+    const Result result = NoMixer("ztk help " + words);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, NoMixer("ztk " + words + " --help").out);
+    EXPECT_THAT(result.err, IsEmpty());
+  }
+  EXPECT_EQ(NoMixer("ztk --json help").out, NoMixer("ztk --help --json").out);
+  const Result wrong = NoMixer("ztk help statsu");
+  EXPECT_EQ(wrong.status, 2);
+  EXPECT_THAT(wrong.err,
+              StartsWith("ztk: no command \"statsu\"; nearest: status; "));
+  EXPECT_EQ(NoMixer("ztk help input lst").status, 2);
+}
+
+TEST_F(Help, SaysWhichChoicesAreNotSentAgain) {
+  for (const char *command : {"midi", "midi list", "midi set", "midi apply"}) {
+    SCOPED_TRACE(command);
+    EXPECT_THAT(
+        OnOneLine(NoMixer(std::string("ztk ") + command + " --help").out),
+        HasSubstr("Of its choices, apply sends 1 to 4 again, and no other: "));
+  }
+  EXPECT_THAT(NoMixer("ztk boost set --help").out, Not(HasSubstr("again")));
+}
+
+TEST_F(Help, TellsTheVersion) {
+  const Result result = NoMixer("ztk --version; ztk --version --json");
+  const std::vector<std::string> lines = SplitLines(result.out);
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_EQ(lines[0], "ztk " ZTK_VERSION);
+  EXPECT_EQ(OneObject(lines[1])["version"], ZTK_VERSION);
+}
+
+// Every example is run, so that none of them is a lie. Tested by themselves:
+// watching, as it does not end, and what needs a systemd.
+TEST_F(Help, GivesExamplesThatWork) {
+  // What an import reads.
+  std::string script =
+      "cd $DIR; ztk boost set 1 > /dev/null; ztk export > club.json\n"
+      "set -x\n";
+  for (const cli::Command &command : cli::Commands()) {
+    if (command.path == "watch" || command.path == "warning" ||
+        command.path == "doctor" || command.path.starts_with("autoapply "))
+      continue;
+    script += "{ " + command.example + "; } > /dev/null || exit\n";
+  }
+  const Result result = OneMixer(script);
+  EXPECT_EQ(result.status, 0) << result.err;
+}
+
+TEST_F(Help, GivesAnExampleOfWatchingThatWorks) {
+  const Result result = OneMixer(
+      "ztk watch --json > $DIR/seen 2> $DIR/ready & watcher=$!\n"
+      "until grep -q watching $DIR/ready; do sleep 0.01; done\n"
+      "kill -INT $watcher; wait $watcher");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(NoMixer("ztk watch --help").out,
+              HasSubstr("Example: ztk watch --json\n"));
+}
+
+TEST_F(Help, GivesAnExampleOfAWarningThatWorks) {
+  const Result result = InPlantedRoot(
+      {{"/System/Library/Frameworks/VRM-D6Setup.framework/Resources/"
+        "German.lproj/Localizable.strings",
+        "<plist version=\"1.0\"><dict><key>WARNING3</key>"
+        "<string>Selbst</string><key>WARNING2</key><string>Selbst</string>"
+        "</dict></plist>"}},
+      {}, "ztk warning --language de");
+  if (result.status == kCannotPlant) {
+    GTEST_SKIP() << "no mount namespace here";
+  }
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_EQ(result.out, "Selbst\n");
+  EXPECT_THAT(NoMixer("ztk warning --help").out,
+              HasSubstr("Example: ztk warning --language de\n"));
+}
+
+TEST_F(Help, GivesExamplesForEverySetting) {
+  for (const cli::Group &group : cli::Groups()) {
+    if (group.name == "autoapply") continue;  // needs a systemd
+    EXPECT_EQ(OneMixer(group.example).status, 0) << group.example;
+  }
+  EXPECT_EQ(OneMixer("ztk input set 2 \"post ch2 fader\"").status, 0);
+}
+
+TEST(Commands, HaveNamesOfTheirOwn) {
+  std::set<std::string> paths;
+  for (const cli::Command &command : cli::Commands()) {
+    EXPECT_TRUE(paths.insert(command.path).second) << command.path;
+    EXPECT_EQ(command.example.rfind("ztk " + command.path, 0), 0U);
+  }
+  EXPECT_EQ(paths.size(), 30U);
+}
+
+}  // namespace
+}  // namespace ztk::test

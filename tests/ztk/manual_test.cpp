@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+//
+// Parser, help, manual page and completions are made from one table, and all
+// of it is in each of them.
+#include <filesystem>
+
+#include "cli_world.h"
+#include "ztk/commands/command_table.h"
+#include "ztk/report.h"
+
+namespace ztk::test {
+namespace {
+
+// A manual page without its markup.
+std::string PlainPage(const std::string &name) {
+  std::string text = ReadAll(std::string(ZTK_MANUAL_FOLDER) + "/" + name);
+  const struct {
+    const char *markup;
+    const char *character;
+  } rows[] = {{"\\fB", ""},   {"\\fI", ""},    {"\\fR", ""}, {"\\-", "-"},
+              {"\\(aq", "'"}, {"\\(dq", "\""}, {"\\&", ""},  {"\\(ha", "^"},
+              {"\\(ti", "~"}, {"\\(ga", "`"}};
+  for (const auto &row : rows) {
+    const std::string markup = row.markup;
+    for (std::size_t at = text.find(markup); at != std::string::npos;
+         at = text.find(markup, at)) {
+      text.replace(at, markup.size(), row.character);
+    }
+  }
+  return text;
+}
+
+// The part of a page that is about one command.
+std::string SectionOf(const std::string &page, const std::string &path) {
+  const std::size_t begin = page.find(".SS \"" + path + "\"\n");
+  if (begin == std::string::npos) return "";
+  return page.substr(begin, page.find("\n.S", begin + 1) - begin);
+}
+
+class Manual : public CliWorld {
+ protected:
+  // What completing these words offers, without what it means.
+  std::vector<std::string> Offered(const std::string &words) {
+    std::vector<std::string> offered;
+    const Result result = NoMixer("ztk __complete " + words);
+    for (const std::string &line : SplitLines(result.out)) {
+      offered.push_back(line.substr(0, line.find('\t')));
+    }
+    return offered;
+  }
+};
+
+TEST_F(Manual, TellsEveryCommandAndOptionWithItsExample) {
+  const std::string page = PlainPage("ztk.1");
+  for (const cli::Command &command : cli::Commands()) {
+    SCOPED_TRACE(command.path);
+    const std::string section = SectionOf(page, command.path);
+    EXPECT_THAT(section, HasSubstr("ztk " + command.path));
+    EXPECT_THAT(section, HasSubstr(command.summary));
+    for (const std::string &line : SplitLines(command.note)) {
+      EXPECT_THAT(section, HasSubstr(line));
+    }
+    EXPECT_THAT(section, HasSubstr(command.example));
+    for (const cli::ParameterUse &use : command.parameters) {
+      EXPECT_THAT(section, HasSubstr(cli::ParameterName(use.parameter)));
+      EXPECT_THAT(section, HasSubstr(use.description));
+    }
+  }
+  const std::size_t begin = page.find("\n.SH \"SETTINGS\"\n");
+  const std::string settings =
+      page.substr(begin, page.find("\n.SH ", begin + 1) - begin);
+  for (const cli::Group &group : cli::Groups()) {
+    EXPECT_EQ(settings.find("\n.TP\n" + group.name + "\n") != std::string::npos,
+              group.name != "autoapply")
+        << group.name;
+  }
+}
+
+TEST_F(Manual, NamesEveryFileAndWhereItIs) {
+  OneMixer("ztk input set 1 1; ztk output set 1 1; ztk midi set 1");
+  const std::string page = PlainPage("ztk.1");
+  const std::string home = home_.path().string();
+  for (const std::string folder : {"/.config/", "/.local/state/"}) {
+    EXPECT_THAT(page, HasSubstr("~" + folder.substr(0, folder.size() - 1)));
+    std::size_t files = 0;
+    for (const auto &entry :
+         std::filesystem::recursive_directory_iterator(home + folder)) {
+      if (!entry.is_regular_file()) continue;
+      ++files;
+      const std::string name =
+          entry.path().string().substr(home.size() + folder.size());
+      EXPECT_THAT(page, HasSubstr("\n.TP\n" + name + "\n"));
+    }
+    EXPECT_EQ(files, folder == "/.config/" ? 3U : 2U);
+  }
+  EXPECT_THAT(page, HasSubstr("\n.TP\nXDG_STATE_HOME\n"));
+}
+
+TEST_F(Manual, ShowsThatAChoiceMayBeLeftOut) {
+  EXPECT_THAT(PlainPage("ztk.1"), HasSubstr("] N [CHOICE...]\n"));
+  EXPECT_THAT(NoMixer("ztk input set --help").out,
+              HasSubstr("Usage: ztk input set [OPTIONS] N [CHOICE"));
+}
+
+TEST_F(Manual, TellsEveryExitStatusAsTheHelpDoes) {
+  const std::string page = PlainPage("ztk.1");
+  const std::string help = NoMixer("ztk --help").out;
+  for (const cli::ExitMeaning &meaning : cli::ExitMeanings()) {
+    const std::string number = std::to_string(static_cast<int>(meaning.exit));
+    const std::string text = meaning.text;
+    EXPECT_THAT(page, HasSubstr("\n.TP\n" + number + "\n" + text));
+    EXPECT_THAT(help, HasSubstr("  " + number));
+    EXPECT_THAT(help, HasSubstr(text.substr(0, text.find('\n'))));
+  }
+}
+
+TEST_F(Manual, IsNoLongerThanTheTable) {
+  // Nothing stands in the page that the program does not take.
+  const std::string page = PlainPage("ztk.1");
+  std::size_t sections = 0;
+  for (std::size_t at = page.find("\n.SS "); at != std::string::npos;
+       at = page.find("\n.SS ", at + 1)) {
+    ++sections;
+  }
+  EXPECT_EQ(sections, cli::Commands().size());
+}
+
+TEST_F(Manual, CompletesEveryCommandAndOption) {
+  for (const cli::Command &command : cli::Commands()) {
+    SCOPED_TRACE(command.path);
+    const std::size_t space = command.path.find(' ');
+    const std::string before =
+        space == std::string::npos ? "" : command.path.substr(0, space + 1);
+    EXPECT_THAT(Offered(before + "''"),
+                testing::Contains(command.path.substr(before.size())));
+    std::vector<std::string> options;
+    for (const cli::ParameterUse &use : command.parameters) {
+      const std::string name = cli::ParameterName(use.parameter);
+      if (name.front() == '-') options.push_back(name);
+    }
+    for (const char *name : {"--help", "--json", "--version"}) {
+      options.emplace_back(name);
+    }
+    EXPECT_EQ(Offered(command.path + " --"), options);
+  }
+}
+
+TEST_F(Manual, OffersNothingThatIsRefused) {
+  // Each channel, choice, model and language that is offered is taken.
+  const struct {
+    const char *words;
+    std::size_t count;
+    const char *then;
+  } rows[] = {{"input set", 5, "1"},          {"output get", 3, ""},
+              {"input set 1", 7, ""},         {"input set 5", 8, ""},
+              {"boost set", 8, ""},           {"midi set", 16, ""},
+              {"output set 3", 3, ""},        {"boost list --product", 9, ""},
+              {"warning --language", 12, ""}, {"warning --channel", 4, ""}};
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.words);
+    const std::vector<std::string> offered =
+        Offered(std::string(row.words) + " ''");
+    EXPECT_EQ(offered.size(), row.count);
+    std::string script;
+    for (const std::string &word : offered) {
+      script += std::string("ztk ") + row.words + " '" + word + "' " +
+                row.then + " >/dev/null 2>&1; echo $?;";
+    }
+    // Some models are not served, and a warning text needs its bundle.
+    for (const std::string &status : SplitLines(OneMixer(script).out)) {
+      EXPECT_NE(status, "2");
+    }
+  }
+}
+
+TEST_F(Manual, CompletesWithoutAskingAMixer) {
+  OneMixer(
+      "for words in \"''\" \"input set 2 ''\" \"status --\"; do "
+      "eval ztk __complete $words; done");
+  EXPECT_THAT(Requests(), IsEmpty());
+  EXPECT_FALSE(HasSettings("VRM-D6"));
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+//
+// Wrong command lines, made by the hundred: each is one line of error, status
+// 2, and nothing is sent or remembered.
+#include <random>
+#include <utility>
+
+#include "cli_world.h"
+#include "ztk/commands/command_table.h"
+
+namespace ztk::test {
+namespace {
+
+class WrongWords : public CliWorld {
+ protected:
+  // The fixed seed makes every run the same.
+  std::mt19937 random_{20240607};
+
+  std::size_t Below(std::size_t limit) { return random_() % limit; }
+  template <typename T>
+  const T &OneOf(const std::vector<T> &values) {
+    return values[Below(values.size())];
+  }
+
+  // Never a word that stands for something.
+  std::string Garbage() {
+    static const std::vector<std::string> odd{
+        "''",
+        "' '",
+        "'*'",
+        "'%s%n'",
+        "'{}'",
+        "'[1,2]'",
+        "'a\tb'",
+        "'\\'",
+        "\"$(printf '\\377\\376')\"",
+        "'x\ny'",
+        "'@file'",
+        "'=;'",
+        "'-'",
+        "'-x'",
+        "'--nope'",
+        "'--nope=1'",
+        "'---'",
+        "'--='",
+        "\"$(head -c 4000 /dev/zero | tr '\\0' q)\""};
+    if (Below(2) == 0) return OneOf(odd);
+    std::string word = "q";
+    for (std::size_t i = Below(12); i > 0; --i) {
+      word += static_cast<char>('a' + Below(26));
+    }
+    return word;
+  }
+
+  std::string BadNumber() {
+    static const std::vector<std::string> bad{
+        "0",  "-1",   "6",  "99999999999999999999", "1.5", "0x1", "one",
+        "+1", "' 1'", "1e0"};
+    return OneOf(bad);
+  }
+
+  // A word with one letter too few, too many, wrong or swapped.
+  std::string Mistyped(std::string word) {
+    const std::size_t place = 1 + Below(word.size() - 2);
+    switch (Below(4)) {
+      case 0:
+        return word.erase(place, 1);
+      case 1:
+        return word.insert(place, 1, 'x');
+      case 2:
+        word[place] = 'x';
+        return word;
+      default:
+        std::swap(word[place], word[place + 1]);
+        // Two that are the same.
+        return word[place] == word[place + 1] ? word.insert(place, 1, 'x')
+                                              : word;
+    }
+  }
+
+  // A line in which one word is nearly right.
+  std::string NearlyRight() {
+    const std::size_t kind = Below(3);
+    if (kind == 0) {
+      return Mistyped(OneOf<std::string>({"status", "input", "output", "boost",
+                                          "apply", "watch", "versions"})) +
+             " --json";
+    }
+    if (kind == 1) {
+      return OneOf<std::string>({"input ", "output ", "boost "}) +
+             Mistyped(OneOf<std::string>({"list", "apply"})) + " 1";
+    }
+    return OneOf<std::string>({"apply", "input list", "boost get"}) + " --" +
+           Mistyped("product") + " 10";
+  }
+
+  std::string Line() {
+    const cli::Command &command = OneOf(cli::Commands());
+    switch (Below(6)) {
+      case 0:  // a command that there is not
+        return Garbage() + " " + command.path;
+      case 1:  // an option that there is not
+        return command.path + " --zzz" + (Below(2) == 0 ? "" : "=1");
+      case 2:  // a channel that there is not
+        return OneOf<std::string>({"input list ", "input get ", "input apply ",
+                                   "output list ", "output default ",
+                                   "warning --channel "}) +
+               BadNumber();
+      case 3:  // a choice that there is not
+        return OneOf<std::string>({"input set 1 ", "input set 5 ",
+                                   "output set 3 ", "boost set ",
+                                   "midi set "}) +
+               Garbage();
+      case 4:  // a model that there is not
+        return OneOf<std::string>({"apply", "boost list", "input get 1",
+                                   "midi set 1", "output default"}) +
+               " --product " +
+               OneOf<std::string>({"7", "9", "11", "VRM", "''", "-5", "K2"});
+      default:  // too much
+        return OneOf<std::string>({"status", "versions", "watch", "apply",
+                                   "input raw 1 0 5", "boost list",
+                                   "midi apply", "input get 1"}) +
+               " " + Garbage();
+    }
+  }
+};
+
+TEST_F(WrongWords, AreOneLineOfErrorAndNothingIsSent) {
+  std::string script;
+  std::vector<std::string> lines;
+  std::vector<bool> nearlyRight;
+  for (int i = 0; i < ZTK_WRONG_LINES; ++i) {
+    nearlyRight.push_back(Below(4) == 0);
+    lines.push_back((nearlyRight.back() ? NearlyRight() : Line()) +
+                    (Below(3) == 0 ? " --json" : ""));
+    script += "ztk " + lines.back() +
+              " > $DIR/o 2> $DIR/e; echo $? $(wc -l < $DIR/e) "
+              "$(head -c 5 $DIR/e) $(grep -c '; nearest: ' $DIR/e)\n";
+  }
+  const Result result = OneMixer(script);
+  const std::vector<std::string> answers = SplitLines(result.out);
+  ASSERT_EQ(answers.size(), lines.size()) << result.err;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    SCOPED_TRACE(lines[i]);
+    EXPECT_THAT(answers[i], StartsWith("2 1 ztk: "));
+    if (nearlyRight[i]) {
+      EXPECT_EQ(answers[i], "2 1 ztk: 1");
+    }
+  }
+  EXPECT_THAT(Requests(), IsEmpty());
+  EXPECT_FALSE(HasSettings("VRM-D6"));
+  EXPECT_FALSE(HasSettings("VRM-B5"));
+  EXPECT_FALSE(HasSettings("VRM-K2"));
+}
+
+TEST_F(WrongWords, SayWhatIsAccepted) {
+  const struct {
+    const char *words;
+    const char *expected;
+  } rows[] = {
+      {"inptu",
+       "ztk: no command \"inptu\"; nearest: input; accepted: status, input, "
+       "output, boost, midi, apply, autoapply, undo, export, import, watch, "
+       "warning, doctor, versions; see ztk --help\n"},
+      {"",
+       "ztk: a command is missing; accepted: status, input, output, boost, "
+       "midi, apply, autoapply, undo, export, import, watch, warning, doctor, "
+       "versions; see ztk --help\n"},
+      {"input",
+       "ztk: a command is missing after \"input\"; accepted: list, get, set, "
+       "apply, raw; see ztk input --help\n"},
+      {"output lst",
+       "ztk: no command \"lst\" after \"output\"; nearest: list; accepted: "
+       "list, get, set, "
+       "default, apply; see ztk output --help\n"},
+      {"input set 6 1",
+       "ztk: USB input audio has no channel \"6\"; nearest: 5; accepted: 1 to "
+       "5\n"},
+      {"input set",
+       "ztk: N is missing: a channel from 1 to 5; see ztk input set --help\n"},
+      {"status now",
+       "ztk: one word too many after \"status\": \"now\"; see ztk status "
+       "--help\n"},
+      {"status --all",
+       "ztk: no option \"--all\" after \"status\"; accepted: "
+       "--help, --json; see ztk status --help\n"},
+      {"apply --product VRM-Z1",
+       "ztk: no model \"VRM-Z1\"; accepted, by number or "
+       "name: 0 VRM-Q8X, 1 "
+       "VRM-K2, 2 VRM-Q8S, 3 VRC-H7, 4 VRM-Q9, 5 VRM-L4, 6 VRM-E3, 8 VRM-B5, "
+       "10 VRM-D6\n"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.words);
+    const Result result = OneMixer(std::string("ztk ") + row.words);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.err, row.expected);
+    EXPECT_THAT(result.out, IsEmpty());
+  }
+}
+
+TEST_F(WrongWords, TellTheNearestRightOne) {
+  const struct {
+    const char *words;
+    const char *nearest;
+  } rows[] = {
+      {"inptu list", "input"},
+      {"statsu", "status"},
+      {"verison --json", "versions"},
+      {"input lits 2", "list"},
+      {"boost sett 1", "set"},
+      {"set 2 mic", "input set, output set, boost set, midi set"},
+      {"raw 1 2 3", "input raw"},
+      {"status --jsn", "--json"},
+      {"status json", "--json"},
+      {"apply --prodct VRM-K2", "--product"},
+      {"warning --langauge de", "--language"},
+      {"input set 2 mci", "6 MIC"},
+      {"input set 2 rec uot", "7 REC OUT"},
+      {"input set 2 fadr", "4 Cross Fader A"},
+      {"input set 2 8", "7 REC OUT"},
+      {"boost set 0", "1 -5 dB"},
+      {"boost set -11dB", "2 -10 dB"},
+      {"midi set 17", "16 CH 16"},
+      {"output set 1 auxx", "3 AUX"},
+      {"output set 4 aux", "3"},
+      {"apply --product VRM-D7", "VRM-D6"},
+      {"boost get --product vrm_b5", "VRM-B5"},
+      {"warning --language germna", "German"},
+      {"warning --language portugese", "Portuguese"},
+      {"warning --channel 7", "4"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.words);
+    const Result result = OneMixer(std::string("ztk ") + row.words);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.err,
+                HasSubstr(std::string("; nearest: ") + row.nearest + ";"));
+    EXPECT_EQ(SplitLines(result.err).size(), 1U);
+    EXPECT_THAT(Requests(), IsEmpty());
+  }
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_TOOLS_CLI_DESCRIBED_H_
+#define ZTK_TOOLS_CLI_DESCRIBED_H_
+
+#include "cli/program.h"
+
+namespace ztk::manual {
+
+// The program that is built with this: each defines its own.
+Program Described();
+
+}  // namespace ztk::manual
+
+#endif  // ZTK_TOOLS_CLI_DESCRIBED_H_

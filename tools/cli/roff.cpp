@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "cli/roff.h"
+
+#include <sstream>
+#include <vector>
+
+namespace ztk::manual {
+
+namespace {
+
+std::vector<std::string> LinesOf(const std::string &text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+// As the argument of a request.
+std::string Argument(const std::string &text) {
+  std::string argument;
+  for (const char character : Escaped(text)) {
+    argument += character == '"' ? "\\(dq" : std::string(1, character);
+  }
+  return '"' + argument + '"';
+}
+
+}  // namespace
+
+std::string Escaped(const std::string &text) {
+  std::string escaped;
+  for (const char character : text) {
+    const bool startsLine = escaped.empty() || escaped.ends_with('\n');
+    switch (character) {
+      case '\\':
+        escaped += "\\e";
+        break;
+      case '-':
+        // Else it is shown as a hyphen that no shell understands.
+        escaped += "\\-";
+        break;
+      case '\'':
+        escaped += "\\(aq";
+        break;
+      case '`':
+        escaped += "\\(ga";
+        break;
+      case '^':
+        escaped += "\\(ha";
+        break;
+      case '~':
+        escaped += "\\(ti";
+        break;
+      case '.':
+        escaped += startsLine ? "\\&." : ".";
+        break;
+      default:
+        escaped += character;
+    }
+  }
+  return escaped;
+}
+
+std::string Bold(const std::string &text) {
+  return "\\fB" + Escaped(text) + "\\fR";
+}
+
+std::string Italic(const std::string &text) {
+  return "\\fI" + Escaped(text) + "\\fR";
+}
+
+Page::Page(const std::string &title, int section, const std::string &date,
+           const std::string &source) {
+  // The date is read by programs: its dashes stay as they are.
+  Request(".TH " + Argument(title) + " " + std::to_string(section) + " " +
+          date + " " + Argument(source));
+  // Names are looked for, and copied: they are never parted.
+  Request(".nh");
+  Request(".ad l");
+}
+
+void Page::Request(const std::string &request) { text_ += request + "\n"; }
+
+void Page::Section(const std::string &title) {
+  Request(".SH " + Argument(title));
+  afterHeading_ = true;
+}
+
+void Page::Subsection(const std::string &title) {
+  Request(".SS " + Argument(title));
+  afterHeading_ = true;
+}
+
+void Page::Text(const std::string &text) {
+  std::string verbatim;
+  bool begins = !afterHeading_;
+  const auto endVerbatim = [&] {
+    if (!verbatim.empty()) Verbatim(verbatim);
+    verbatim.clear();
+  };
+  for (const std::string &line : LinesOf(text)) {
+    if (line.starts_with(' ')) {
+      verbatim += line + "\n";
+      continue;
+    }
+    begins = begins || !verbatim.empty();
+    endVerbatim();
+    if (line.empty()) {
+      begins = true;
+      continue;
+    }
+    if (begins && !afterHeading_) Request(".PP");
+    begins = false;
+    afterHeading_ = false;
+    Request(Escaped(line));
+  }
+  endVerbatim();
+}
+
+void Page::Line(const std::string &markup) {
+  if (!afterHeading_) Request(".PP");
+  afterHeading_ = false;
+  Request(markup);
+}
+
+void Page::Verbatim(const std::string &lines) {
+  if (!afterHeading_) Request(".PP");
+  afterHeading_ = false;
+  Request(".RS 4");
+  Request(".nf");
+  for (const std::string &line : LinesOf(lines)) {
+    const std::size_t first = line.find_first_not_of(' ');
+    // An empty line would be an error; a space in front a break.
+    Request(first == std::string::npos ? "\\&" : "\\&" + Escaped(line));
+  }
+  Request(".fi");
+  Request(".RE");
+}
+
+void Page::Term(const std::string &markup, const std::string &meaning) {
+  afterHeading_ = false;
+  Request(".TP");
+  Request(markup);
+  for (const std::string &line : LinesOf(meaning)) Request(Escaped(line));
+}
+
+}  // namespace ztk::manual

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "cli/suggest.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "cli/strings.h"
+
+namespace ztk::cli {
+
+namespace {
+
+// A longer word is garbage, and comparing takes time.
+constexpr std::size_t kLongestWord = 100;  // bytes
+
+// Letters and digits: "post ch2", "PostCH2" and "--post-ch2" are as good.
+std::string Folded(const std::string &text) {
+  std::string folded;
+  for (const char character : text) {
+    const auto byte = static_cast<unsigned char>(character);
+    if (byte > ' ' && character != '-' && byte != 0x7F) {
+      folded += LowerCase(character);
+    }
+  }
+  return folded;
+}
+
+// How many letters have to be put in, taken out, replaced, or swapped with
+// their neighbour to make `word` of `text`, or of the part of it that is best.
+std::size_t Differences(const std::string &word, const std::string &text,
+                        bool ofPart) {
+  using Row = std::vector<std::size_t>;
+  Row before;
+  Row last(text.size() + 1);
+  Row row(text.size() + 1);
+  for (std::size_t j = 0; j <= text.size(); ++j) last[j] = ofPart ? 0 : j;
+  for (std::size_t i = 1; i <= word.size(); ++i) {
+    row[0] = i;
+    for (std::size_t j = 1; j <= text.size(); ++j) {
+      const std::size_t replaced =
+          last[j - 1] + (word[i - 1] == text[j - 1] ? 0 : 1);
+      row[j] = std::min({replaced, last[j] + 1, row[j - 1] + 1});
+      if (i > 1 && j > 1 && word[i - 1] == text[j - 2] &&
+          word[i - 2] == text[j - 1]) {
+        row[j] = std::min(row[j], before[j - 2] + 1);
+      }
+    }
+    before = std::exchange(last, row);
+  }
+  return ofPart ? *std::min_element(last.begin(), last.end()) : last.back();
+}
+
+// How many letters may differ in a word that is only a slip of the text: a
+// third of the shorter one; fewer where the word is only a part of the text, as
+// a few letters are soon found in any.
+std::size_t MostDifferences(const std::string &word, const std::string &text,
+                            bool ofPart) {
+  if (ofPart) return text.size() > word.size() ? (word.size() - 1) / 3 : 0;
+  if (word.size() < 3) return 0;
+  return std::max<std::size_t>(std::min(word.size(), text.size()) / 3, 1);
+}
+
+std::string NearestPart(const std::string &nearest) {
+  return nearest.empty() ? "" : "; nearest: " + nearest;
+}
+
+}  // namespace
+
+std::string Nearest(const std::string &word,
+                    const std::vector<std::string> &accepted) {
+  const std::string wanted = Folded(word.substr(0, kLongestWord));
+  if (wanted.size() < 2) return "";
+  std::string closest;
+  std::pair<std::size_t, std::size_t> least;
+  for (const std::string &text : accepted) {
+    const std::string folded = Folded(text);
+    const std::size_t ofPart = Differences(wanted, folded, true);
+    const std::size_t ofAll = Differences(wanted, folded, false);
+    if (ofPart > MostDifferences(wanted, folded, true) &&
+        ofAll > MostDifferences(wanted, folded, false)) {
+      continue;
+    }
+    const std::pair<std::size_t, std::size_t> differences{ofPart, ofAll};
+    if (!closest.empty() && differences >= least) continue;
+    closest = text;
+    least = differences;
+  }
+  return closest;
+}
+
+std::string NearestAndAccepted(const std::string &word,
+                               const std::vector<std::string> &accepted) {
+  if (accepted.empty()) return "";
+  return NearestPart(Nearest(word, accepted)) +
+         "; accepted: " + Listed(accepted);
+}
+
+std::string NearestAndAccepted(const std::string &word, std::uint32_t least,
+                               std::uint32_t most) {
+  std::string nearest;
+  // However large: what does not fit is above the range.
+  const bool number = !word.empty() &&
+                      word.find_first_not_of("0123456789") == std::string::npos;
+  if (number) {
+    nearest = std::to_string(
+        std::clamp(ParseNumber(word).value_or(most), least, most));
+  }
+  return NearestPart(nearest) + "; accepted: " + std::to_string(least) +
+         " to " + std::to_string(most);
+}
+
+}  // namespace ztk::cli

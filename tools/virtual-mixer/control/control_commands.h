@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// What can be done to the mixers of a running world, one line a command:
+//
+//   turn M CHANNEL POSITION   turn a selector: channel 1 to 4, position up to
+//                             255
+//   fault M FAULT | none      add a fault (fault.h), or clear them all
+//   reply M REGISTER HEX      what a register replies: 8004 0100
+//   plug M   unplug M         attach the mixer, detach it
+//   forbid M   allow M        refuse to open its node, or allow it again
+//   show                      the state of everything
+//
+// M is a mixer's number, from 1, or "all". The answer is one line too: "ok" and
+// the mixers that it was done to or, of "show", the state as JSON; or "error"
+// and what was wrong.
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_CONTROL_CONTROL_COMMANDS_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_CONTROL_CONTROL_COMMANDS_H_
+
+#include <string>
+#include <string_view>
+
+#include "virtual-mixer/mixer/mixer_world.h"
+
+namespace ztk::virtual_mixer {
+
+// Carries out one command. Safe from any thread.
+std::string RunControlCommand(MixerWorld *world, std::string_view line);
+
+// The state that "show" answers, laid out for people.
+std::string DescribeState(const std::string &json);
+
+}  // namespace ztk::virtual_mixer
+
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_CONTROL_CONTROL_COMMANDS_H_

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+//
+// The virtual mixer itself: what it answers to a control request. It knows
+// nothing of how requests reach it, so every front can use it.
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_MIXER_DEVICE_MODEL_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_DEVICE_MODEL_H_
+
+#include <chrono>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "virtual-mixer/mixer/descriptors.h"
+#include "virtual-mixer/mixer/fault.h"
+#include "virtual-mixer/mixer/request_line.h"
+
+namespace ztk::virtual_mixer {
+
+struct ControlRequest {
+  SetupPacket setup;
+  // Data stage of a write. The mixer's own writes have none.
+  Bytes data;
+};
+
+struct Answer {
+  Outcome outcome = Outcome::Ok;
+  // Reply of a read, never longer than was asked for.
+  Bytes data;
+  // How late the answer comes. What a write changes is changed at once.
+  std::chrono::milliseconds delay{0};
+};
+
+// Registers. Two numbers are read and written with different meanings.
+inline constexpr std::uint16_t kReadFirmware = 0x8001;
+inline constexpr std::uint16_t kReadSelectors = 0x8002;
+inline constexpr std::uint16_t kReadSerato = 0x8004;
+inline constexpr std::uint16_t kReadPort = 0x8006;
+inline constexpr std::uint16_t kReadCertifyLevel = 0x8007;
+inline constexpr std::uint16_t kWriteInputRouting = 0x8002;
+inline constexpr std::uint16_t kWriteBoostLevel = 0x8003;
+inline constexpr std::uint16_t kWriteMidiChannel = 0x8004;
+inline constexpr std::uint16_t kWriteMidiKeyMode = 0x8005;
+inline constexpr std::uint16_t kWriteOutputRouting = 0x8016;
+
+// Channels that have an input selector; counted from 0 here.
+inline constexpr int kSelectors = 4;
+
+// Not thread-safe: the front calls it from one thread at a time.
+class MixerModel {
+ public:
+  // The n-th mixer of its world, counted from 1. It starts attached, with
+  // every selector at position 4, firmware reply 36 04, Serato inactive, port
+  // information 00 00 and certification level 00 00 00 01.
+  explicit MixerModel(int number);
+
+  const Descriptors &GetDescriptors() const { return descriptors_; }
+
+  // Answers a request as the mixer would, faults included. A request that no
+  // mixer knows is stalled. Faults touch vendor requests only, so that the
+  // mixer can always be recognised. Gone once it is detached; an Unplug fault
+  // detaches it.
+  Answer Handle(const ControlRequest &request);
+
+  // What is set outlives being detached: the mixer has its own power supply.
+  bool Attached() const { return attached_; }
+  void SetAttached(bool attached);
+  // The configuration that a system has chosen, 0 for none.
+  std::uint8_t Configuration() const { return configuration_; }
+
+  // A knob: channel 0 to 3. False when there is no such channel.
+  bool TurnSelector(int channel, std::uint8_t position);
+  std::uint8_t SelectorPosition(int channel) const;
+
+  // Replaces what a register that can be read replies; false for others.
+  bool SetReply(std::uint16_t registerNumber, Bytes reply);
+  const std::map<std::uint16_t, Bytes> &Replies() const { return replies_; }
+
+  // Registers that can be written, and the value that came last.
+  const std::map<std::uint16_t, std::optional<std::uint16_t>> &LastWritten()
+      const {
+    return written_;
+  }
+
+  // A new fault takes the place of one with the same register and direction.
+  // Where several fit a request the newest counts.
+  void AddFault(const Fault &fault);
+  void ClearFaults() { faults_.clear(); }
+  // Oldest first, with the number of times that are left.
+  const std::vector<Fault> &Faults() const { return faults_; }
+
+ private:
+  std::optional<Fault> TakeFault(const SetupPacket &setup);
+  Answer HandleVendor(const SetupPacket &setup);
+  Answer HandleSound(const SetupPacket &setup);
+
+  Descriptors descriptors_;
+  bool attached_ = true;
+  std::uint8_t configuration_ = 0;
+  std::map<std::uint16_t, Bytes> replies_;
+  std::map<std::uint16_t, std::optional<std::uint16_t>> written_;
+  std::vector<Fault> faults_;
+};
+
+}  // namespace ztk::virtual_mixer
+
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_MIXER_DEVICE_MODEL_H_

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+//
+// What a virtual mixer can be told to do wrong, and how that is written:
+//
+//   KIND[@REGISTER][*TIMES]
+//
+//   stall        refuse the request
+//   silence      never answer it
+//   delay:MS     answer it MS milliseconds late, 1 to 60000
+//   short:N      cut the reply to its first N bytes, 0 to 63
+//   bytes:HEX    deliver these bytes instead of the reply, 1 to 64 of them
+//   unplug       vanish while the request is under way
+//
+//   @8002        only requests to this register: four hexadecimal digits;
+//                @r8002 only reads of it, @w8002 only writes to it
+//   *3           only the next three requests that it fits, 1 to 1000000
+//
+// `short` and `bytes` fit reads only: a write has no reply.
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_MIXER_FAULT_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_FAULT_H_
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "virtual-mixer/mixer/request_line.h"
+
+namespace ztk::virtual_mixer {
+
+struct Fault {
+  enum class Kind { Stall, Silence, Delay, Short, WrongBytes, Unplug };
+  enum class Direction { Both, Read, Write };
+
+  Kind kind = Kind::Stall;
+  // Milliseconds of a Delay, bytes left by a Short.
+  std::uint32_t amount = 0;
+  std::vector<std::uint8_t> bytes;
+  std::optional<std::uint16_t> registerNumber;
+  Direction direction = Direction::Both;
+  // How many requests it is still good for; without a number, for ever.
+  std::optional<std::uint32_t> timesLeft;
+
+  bool Fits(const SetupPacket &setup) const;
+  bool HasSameScope(const Fault &other) const;
+};
+
+// Reads the text form. When it cannot, the answer is empty and *error one line
+// that says what is wrong and what is accepted.
+std::optional<Fault> ParseFault(std::string_view text, std::string *error);
+
+// The text form, with the number of times that are left.
+std::string FormatFault(const Fault &fault);
+
+// Small readers that the command line shares. Each takes the whole text or
+// answers nothing.
+std::optional<std::uint32_t> ParseNumber(std::string_view text,
+                                         std::uint32_t least,
+                                         std::uint32_t most);
+std::optional<std::uint16_t> ParseRegister(std::string_view text);
+// Pairs of hexadecimal digits, 1 to 64 of them.
+std::optional<std::vector<std::uint8_t>> ParseBytes(std::string_view text);
+
+}  // namespace ztk::virtual_mixer
+
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_MIXER_FAULT_H_

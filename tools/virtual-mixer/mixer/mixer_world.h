@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+//
+// A running world of virtual mixers, whichever front brings requests to them:
+// what can be done to it from outside.
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_MIXER_MIXER_WORLD_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_MIXER_WORLD_H_
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "virtual-mixer/mixer/device_model.h"
+#include "virtual-mixer/mixer/usb_tree.h"
+
+namespace ztk::virtual_mixer {
+
+enum class DeviceKind { Mixer, Hub, Keyboard, Storage, Sibling };
+
+// One device of a world. Devices are numbered along each bus in the order in
+// which they are listed.
+struct Placement {
+  DeviceKind kind = DeviceKind::Mixer;
+  int bus = 1;
+};
+
+// Mixers with half of the strangers before them and half behind, filling
+// `buses` buses in this order; more buses when the ports do not suffice.
+std::vector<Placement> SpreadDevices(int mixers, int others, int buses);
+
+// What a device of this kind says of itself; `mixer` is the number of a mixer.
+Descriptors DescriptorsOf(DeviceKind kind, int mixer);
+
+struct MixerStatus {
+  Address address;
+  bool pluggedIn = false;
+  bool forbidden = false;
+  // Of a world that is served: whether a kernel has the mixer at present.
+  std::optional<bool> attached;
+};
+
+// Gets each request line; called from several threads, one at a time.
+using LogSink = std::function<void(const std::string &line)>;
+
+// Safe from any thread.
+class MixerWorld {
+ public:
+  virtual ~MixerWorld() = default;
+
+  // Mixers count from 1, plugged in or not.
+  virtual int MixerCount() const = 0;
+  virtual int OtherCount() const = 0;
+  virtual MixerStatus Status(int mixer) const = 0;
+
+  // Calls `visit` with the mixer while no request can reach it.
+  virtual void WithMixer(int mixer,
+                         const std::function<void(MixerModel &)> &visit) = 0;
+
+  // Both do nothing when it is so already.
+  virtual void PlugIn(int mixer) = 0;
+  virtual void Unplug(int mixer) = 0;
+
+  // Forbids opening the mixer's node for writing (EACCES), or allows it again.
+  // Throws std::runtime_error where this world cannot do that.
+  virtual void SetForbidden(int mixer, bool forbidden) = 0;
+};
+
+}  // namespace ztk::virtual_mixer
+
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_MIXER_MIXER_WORLD_H_

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+//
+// Where a device stands in /sys and /dev, and its description in the text
+// form that umockdev builds devices from.
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_MIXER_USB_TREE_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_USB_TREE_H_
+
+#include <string>
+
+#include "virtual-mixer/mixer/descriptors.h"
+
+namespace ztk::virtual_mixer {
+
+// Root hubs have 31 ports and a number of their own on the bus.
+inline constexpr int kPortsOfABus = 31;
+
+struct Address {
+  int bus = 1;
+  // 0 is the root hub. Devices are plugged straight into it.
+  int port = 0;
+
+  // Given in the order of the ports, so bus order is the order of creation.
+  int DeviceNumber() const { return port + 1; }
+  // Of the node; the major number is 189.
+  int Minor() const { return (bus - 1) * 128 + DeviceNumber() - 1; }
+  std::string Name() const;           // 1-2, usb1
+  std::string InterfaceName() const;  // 1-2:1.0, 1-0:1.0
+  std::string SysPath() const;        // /sys/devices/...
+  std::string Node() const;           // /dev/bus/usb/001/003
+};
+
+std::string DeviceRecord(const Address &address, const Descriptors &device);
+std::string InterfaceRecord(const Address &address, const Descriptors &device);
+
+}  // namespace ztk::virtual_mixer
+
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_MIXER_USB_TREE_H_

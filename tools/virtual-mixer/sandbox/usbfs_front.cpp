@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "virtual-mixer/sandbox/usbfs_front.h"
+
+#include <linux/usbdevice_fs.h>
+#include <sys/ioctl.h>
+#include <umockdev.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <utility>
+
+namespace ztk::virtual_mixer {
+namespace {
+
+// The kernel takes at most one page in a control transfer.
+constexpr std::uint16_t kLongestTransfer = 4096;
+constexpr char kDepartures[] = "ztk-departures";
+constexpr auto kComplaints =
+    static_cast<GLogLevelFlags>(static_cast<unsigned>(G_LOG_LEVEL_CRITICAL) |
+                                static_cast<unsigned>(G_LOG_LEVEL_WARNING));
+
+// An ioctl number travels as a long and may arrive with its sign extended.
+bool IsControl(gulong request) {
+  return static_cast<std::uint32_t>(request) ==
+         static_cast<std::uint32_t>(USBDEVFS_CONTROL);
+}
+
+// What the kernel answers.
+int ErrorNumber(Outcome outcome) {
+  switch (outcome) {
+    case Outcome::Ok:
+      return 0;
+    case Outcome::Stall:
+      return EPIPE;
+    case Outcome::Silence:
+      return ETIMEDOUT;
+    case Outcome::Gone:
+      return ENODEV;
+  }
+  return EIO;
+}
+
+SetupPacket ReadSetup(const UMockdevIoctlData *transfer,
+                      std::uint32_t *timeout) {
+  usbdevfs_ctrltransfer raw{};
+  std::memcpy(&raw, transfer->data, sizeof raw);
+  *timeout = raw.timeout;
+  return {.requestType = raw.bRequestType,
+          .request = raw.bRequest,
+          .value = raw.wValue,
+          .index = raw.wIndex,
+          .length = raw.wLength};
+}
+
+Bytes BytesOf(const UMockdevIoctlData *data) {
+  if (data == nullptr) return {};
+  return {data->data, data->data + data->data_len};
+}
+
+// umockdev complains of a program that was killed while it talked or waited,
+// which is no fault of anybody's.
+void DropVanishedClient(const gchar *domain, GLogLevelFlags level,
+                        const gchar *message, gpointer /*unused*/) {
+  if (std::strstr(message, "IoctlClient with open stream") != nullptr) return;
+  if (std::strstr(message, "Error resolving IOCtl data") != nullptr) return;
+  g_log_default_handler(domain, level, message, nullptr);
+}
+
+}  // namespace
+
+UsbfsFront::UsbfsFront(Handler handler, Observer observer)
+    : handler_(std::move(handler)),
+      observer_(std::move(observer)),
+      base_(umockdev_ioctl_base_new()) {
+  g_signal_connect(base_, "client-connected",
+                   reinterpret_cast<GCallback>(OnConnected), this);
+  g_signal_connect(base_, "handle-ioctl", reinterpret_cast<GCallback>(OnIoctl),
+                   this);
+  logHandler_ =
+      g_log_set_handler(nullptr, kComplaints, DropVanishedClient, nullptr);
+  timer_ = std::thread([this] { RunTimer(); });
+}
+
+UsbfsFront::~UsbfsFront() {
+  Stop();
+  g_object_unref(base_);
+  g_log_remove_handler(nullptr, logHandler_);
+}
+
+void UsbfsFront::Stop() {
+  if (!timer_.joinable()) return;
+  g_signal_handlers_disconnect_by_data(base_, this);
+  {
+    const std::lock_guard lock(mutex_);
+    stopping_ = true;
+  }
+  changed_.notify_all();
+  timer_.join();
+  for (Waiting &one : waiting_) {
+    one.answer = {.outcome = Outcome::Gone, .data = {}, .delay = {}};
+    Finish(&one);
+  }
+  waiting_.clear();
+}
+
+void UsbfsFront::Abandon(const std::string &node) {
+  std::list<Waiting> ended;
+  {
+    const std::lock_guard lock(mutex_);
+    ++departures_[node];
+    for (auto it = waiting_.begin(); it != waiting_.end();) {
+      const auto next = std::next(it);
+      if (it->node == node) ended.splice(ended.end(), waiting_, it);
+      it = next;
+    }
+  }
+  for (Waiting &one : ended) {
+    one.answer = {.outcome = Outcome::Gone, .data = {}, .delay = {}};
+    Finish(&one);
+  }
+}
+
+// Whoever opens a node holds the device that is behind it now.
+void UsbfsFront::OnConnected(_UMockdevIoctlBase * /*base*/,
+                             _UMockdevIoctlClient *client, void *self) {
+  auto *const front = static_cast<UsbfsFront *>(self);
+  const std::lock_guard lock(front->mutex_);
+  const std::size_t departures =
+      front->departures_[umockdev_ioctl_client_get_devnode(client)];
+  g_object_set_data(G_OBJECT(client), kDepartures,
+                    GSIZE_TO_POINTER(departures));
+}
+
+bool UsbfsFront::IsStale(_UMockdevIoctlClient *client,
+                         const std::string &node) {
+  const std::lock_guard lock(mutex_);
+  return GPOINTER_TO_SIZE(g_object_get_data(G_OBJECT(client), kDepartures)) !=
+         departures_[node];
+}
+
+int UsbfsFront::OnIoctl(_UMockdevIoctlBase * /*base*/,
+                        _UMockdevIoctlClient *client, void *self) {
+  auto *const front = static_cast<UsbfsFront *>(self);
+  const std::string node = umockdev_ioctl_client_get_devnode(client);
+  if (IsControl(umockdev_ioctl_client_get_request(client))) {
+    return front->Control(client, node) ? TRUE : FALSE;
+  }
+  if (!front->IsStale(client, node)) return FALSE;  // umockdev knows the rest
+  umockdev_ioctl_client_complete(client, -1, ENODEV);
+  return TRUE;
+}
+
+bool UsbfsFront::Control(_UMockdevIoctlClient *client,
+                         const std::string &node) {
+  UMockdevIoctlData *const transfer =
+      umockdev_ioctl_data_resolve(umockdev_ioctl_client_get_arg(client), 0,
+                                  sizeof(usbdevfs_ctrltransfer), nullptr);
+  if (transfer == nullptr) return false;
+  std::uint32_t timeout = 0;
+  const SetupPacket setup = ReadSetup(transfer, &timeout);
+  if (setup.length > kLongestTransfer) {
+    umockdev_ioctl_client_complete(client, -1, EINVAL);
+    g_object_unref(transfer);
+    return true;
+  }
+  UMockdevIoctlData *const buffer =
+      setup.length == 0 ? nullptr
+                        : umockdev_ioctl_data_resolve(
+                              transfer, offsetof(usbdevfs_ctrltransfer, data),
+                              setup.length, nullptr);
+  Waiting waiting;
+  waiting.client = static_cast<UMockdevIoctlClient *>(g_object_ref(client));
+  waiting.transfer = transfer;
+  waiting.buffer = buffer;
+  waiting.node = node;
+  waiting.setup = setup;
+  waiting.answer.outcome = Outcome::Gone;
+  if (!IsStale(client, node)) {
+    const Bytes sent = IsRead(setup) ? Bytes{} : BytesOf(buffer);
+    waiting.answer = handler_(node, {.setup = setup, .data = sent});
+  }
+
+  using std::chrono::milliseconds;
+  const bool silent = waiting.answer.outcome == Outcome::Silence;
+  if (!silent && waiting.answer.delay.count() == 0) {
+    Finish(&waiting);
+    return true;
+  }
+  // As in the kernel, a time-out of 0 waits for ever.
+  milliseconds wait = silent ? milliseconds(timeout) : waiting.answer.delay;
+  if (!silent && timeout != 0 && wait >= milliseconds(timeout)) {
+    waiting.answer = {.outcome = Outcome::Silence, .data = {}, .delay = {}};
+    wait = milliseconds(timeout);
+  }
+  if (!silent || timeout != 0) waiting.due = Clock::now() + wait;
+  {
+    const std::lock_guard lock(mutex_);
+    waiting_.push_back(std::move(waiting));
+  }
+  changed_.notify_all();
+  return true;
+}
+
+// Gives the answer. Everything that `waiting` holds is released.
+void UsbfsFront::Finish(Waiting *waiting) {
+  const Answer &answer = waiting->answer;
+  std::size_t count = 0;
+  if (answer.outcome == Outcome::Ok && IsRead(waiting->setup) &&
+      waiting->buffer != nullptr) {
+    count = std::min(answer.data.size(),
+                     static_cast<std::size_t>(waiting->buffer->data_len));
+    if (count > 0) {
+      std::memcpy(waiting->buffer->data, answer.data.data(), count);
+    }
+  }
+  const Bytes delivered(
+      answer.data.begin(),
+      answer.data.begin() +
+          static_cast<std::ptrdiff_t>(std::min(count, answer.data.size())));
+  observer_(waiting->node, waiting->setup, answer.outcome, delivered);
+  const int failure = ErrorNumber(answer.outcome);
+  const glong result = failure != 0             ? -1
+                       : IsRead(waiting->setup) ? static_cast<glong>(count)
+                                                : waiting->setup.length;
+  umockdev_ioctl_client_complete(waiting->client, result, failure);
+  if (waiting->buffer != nullptr) g_object_unref(waiting->buffer);
+  g_object_unref(waiting->transfer);
+  g_object_unref(waiting->client);
+}
+
+void UsbfsFront::RunTimer() {
+  std::unique_lock lock(mutex_);
+  while (!stopping_) {
+    std::optional<Clock::time_point> next;
+    for (const Waiting &one : waiting_) {
+      if (one.due && (!next || *one.due < *next)) next = one.due;
+    }
+    if (!next) {
+      changed_.wait(lock);
+      continue;
+    }
+    changed_.wait_until(lock, *next);
+    std::list<Waiting> due = TakeDue(Clock::now());
+    lock.unlock();
+    for (Waiting &one : due) Finish(&one);
+    lock.lock();
+  }
+}
+
+std::list<UsbfsFront::Waiting> UsbfsFront::TakeDue(Clock::time_point now) {
+  std::list<Waiting> due;
+  for (auto it = waiting_.begin(); it != waiting_.end();) {
+    const auto next = std::next(it);
+    if (it->due && *it->due <= now) due.splice(due.end(), waiting_, it);
+    it = next;
+  }
+  return due;
+}
+
+}  // namespace ztk::virtual_mixer

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+//
+// The sockets of the USB/IP front: one thread that listens and serves every
+// client in turn.
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SERVER_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SERVER_H_
+
+#include <list>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "virtual-mixer/control/control_socket.h"
+#include "virtual-mixer/usbip/usbip_session.h"
+
+namespace ztk::virtual_mixer::usbip {
+
+// Where to listen: "127.0.0.1:3240", "[::1]:3240", "localhost:0".
+struct ListenAddress {
+  std::string host;
+  std::string port;
+};
+// Throws std::runtime_error with what is accepted.
+ListenAddress ParseListenAddress(const std::string &text);
+
+class Server {
+ public:
+  explicit Server(Devices *devices);
+  // Whoever still waits for an answer loses the device.
+  ~Server();
+  Server(const Server &) = delete;
+  Server &operator=(const Server &) = delete;
+
+  // Takes clients at this address from now on. Returns it with the port that
+  // stands for 0. Throws std::runtime_error when it cannot. To be called once.
+  std::string Listen(const ListenAddress &address);
+  // Serves a client that has its device already.
+  void Adopt(Descriptor socket, const Lease &lease);
+  // Makes the thread look whether devices have gone.
+  void Wake();
+
+ private:
+  struct Client {
+    Descriptor socket;
+    std::unique_ptr<Session> session;
+    bool closed = false;
+  };
+  static constexpr std::size_t kMostClients = 64;
+
+  void Serve();
+  int PollTimeout() const;
+  // False when the server is to end.
+  bool TakeNewcomers();
+  void Accept();
+  void Read(Client *client);
+  static void Write(Client *client);
+
+  Devices *const devices_;
+  std::mutex mutex_;
+  // Guarded; the thread takes them over.
+  std::vector<Client> newcomers_;
+  Descriptor newListener_;
+  bool stopping_ = false;
+  // The thread's own.
+  Descriptor listener_;
+  std::list<Client> clients_;
+  // Readable when one of the guarded has changed.
+  Descriptor woken_;
+  std::thread thread_;
+};
+
+}  // namespace ztk::virtual_mixer::usbip
+
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SERVER_H_

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "virtual-mixer/usbip/usbip_session.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ztk::virtual_mixer::usbip {
+namespace {
+
+// A control transfer's length has 16 bits.
+constexpr std::uint32_t kLongestTransfer = 0xFFFF;
+// A kernel sends one request at a time to a pipe; who lets this many pile up
+// means no good.
+constexpr std::size_t kMostWaiting = 256;
+// How a transfer says that it has no isochronous packets; old and new kernels
+// differ.
+constexpr std::uint32_t kNoPackets = 0;
+constexpr std::uint32_t kNoPacketsEither = 0xFFFFFFFF;
+
+std::int32_t StatusOf(Outcome outcome) {
+  return outcome == Outcome::Ok ? 0 : kBrokenPipe;
+}
+
+}  // namespace
+
+Session::~Session() {
+  Break();
+  if (lease_) devices_->GiveBack(*lease_);
+}
+
+void Session::Receive(const std::uint8_t *bytes, std::size_t count,
+                      Clock::time_point now) {
+  if (ended_) return;
+  input_.insert(input_.end(), bytes, bytes + count);
+  while (const std::size_t taken = TakeMessage(now)) {
+    input_.erase(input_.begin(),
+                 input_.begin() + static_cast<std::ptrdiff_t>(taken));
+  }
+}
+
+std::size_t Session::TakeMessage(Clock::time_point now) {
+  if (ended_) return 0;
+  return lease_ ? TakeCommand(now) : TakeOperation();
+}
+
+std::size_t Session::TakeOperation() {
+  if (input_.size() < kOperationSize) return 0;
+  const Operation operation = ReadOperation(input_.data());
+  if (operation.version != kVersion) {
+    Break();
+    return 0;
+  }
+  if (operation.code == kListRequest) {
+    Send(ListReply(devices_->Free()));
+    ended_ = true;
+    return kOperationSize;
+  }
+  if (operation.code != kImportRequest) {
+    Break();
+    return 0;
+  }
+  if (input_.size() < kOperationSize + kBusIdSize) return 0;
+  Lease lease;
+  const ImportStatus status =
+      devices_->Import(ReadBusId(input_.data() + kOperationSize), &lease);
+  if (status == ImportStatus::Ok) {
+    lease_ = lease;
+    Send(ImportReply(status, devices_->Describe(lease.device)));
+  } else {
+    ended_ = true;
+    Send(ImportReply(status, {}));
+  }
+  return kOperationSize + kBusIdSize;
+}
+
+std::size_t Session::TakeCommand(Clock::time_point now) {
+  if (input_.size() < kCommandSize) return 0;
+  const Command command = ReadCommand(input_.data());
+  if (!IsLawful(command)) {
+    Break();
+    return 0;
+  }
+  if (command.code == kUnlink) {
+    Unlink(command);
+    return kCommandSize;
+  }
+  const std::size_t whole =
+      kCommandSize + (command.direction == kIn ? 0 : command.length);
+  if (input_.size() < whole) return 0;
+  const Bytes data(input_.begin() + kCommandSize,
+                   input_.begin() + static_cast<std::ptrdiff_t>(whole));
+  Submit(command, data, now);
+  return whole;
+}
+
+// What follows a message that breaks these cannot be told apart.
+bool Session::IsLawful(const Command &command) const {
+  const Export device = devices_->Describe(lease_->device);
+  if (command.deviceId != DeviceId(device.address)) return false;
+  if (command.code == kUnlink) return true;
+  return command.code == kSubmit && command.direction <= kIn &&
+         command.length <= kLongestTransfer &&
+         (command.packets == kNoPackets || command.packets == kNoPacketsEither);
+}
+
+void Session::Submit(const Command &command, const Bytes &data,
+                     Clock::time_point now) {
+  // The devices have the default pipe and no other.
+  if (command.endpoint != 0) {
+    Send(SubmitReply(command.sequence, kNoEntry, 0, {}));
+    return;
+  }
+  // Of a request without data the direction means nothing.
+  const bool reads = command.direction == kIn;
+  if (command.setup.length != 0 && IsRead(command.setup) != reads) {
+    Send(SubmitReply(command.sequence, kBrokenPipe, 0, {}));
+    return;
+  }
+  Waiting one{.command = command,
+              .answer = devices_->Handle(
+                  *lease_, {.setup = command.setup, .data = data}),
+              .due = std::nullopt};
+  const bool silent = one.answer.outcome == Outcome::Silence;
+  if (!silent && one.answer.delay.count() == 0) {
+    Finish(command, one.answer);
+    return;
+  }
+  if (!silent) one.due = now + one.answer.delay;
+  waiting_.push_back(std::move(one));
+  if (waiting_.size() > kMostWaiting) Break();
+}
+
+// The sender gave the request up: to it, the mixer was silent. An answer that
+// has been sent already stands.
+void Session::Unlink(const Command &command) {
+  const auto found =
+      std::find_if(waiting_.begin(), waiting_.end(), [&](const Waiting &one) {
+        return one.command.sequence == command.unlinked;
+      });
+  if (found == waiting_.end()) {
+    Send(UnlinkReply(command.sequence, 0));
+    return;
+  }
+  devices_->Observe(lease_->device, found->command.setup, Outcome::Silence, {});
+  waiting_.erase(found);
+  Send(UnlinkReply(command.sequence, kConnectionReset));
+}
+
+void Session::Continue(Clock::time_point now) {
+  if (lease_ && !devices_->Holds(*lease_)) Break();
+  for (auto it = waiting_.begin(); it != waiting_.end();) {
+    const auto next = std::next(it);
+    if (it->due && *it->due <= now) {
+      Finish(it->command, it->answer);
+      if (broken_) return;
+      waiting_.erase(it);
+    }
+    it = next;
+  }
+}
+
+std::optional<Session::Clock::time_point> Session::NextDue() const {
+  std::optional<Clock::time_point> next;
+  for (const Waiting &one : waiting_) {
+    if (one.due && (!next || *one.due < *next)) next = one.due;
+  }
+  return next;
+}
+
+void Session::Sent(std::size_t count) {
+  output_.erase(output_.begin(),
+                output_.begin() + static_cast<std::ptrdiff_t>(count));
+}
+
+// Logs how the request ended, and tells the client.
+void Session::Finish(const Command &command, const Answer &answer) {
+  if (answer.outcome == Outcome::Gone) {
+    devices_->Observe(lease_->device, command.setup, Outcome::Gone, {});
+    Break();
+    return;
+  }
+  Bytes delivered;
+  if (answer.outcome == Outcome::Ok && command.direction == kIn) {
+    delivered = answer.data;
+    if (delivered.size() > command.length) delivered.resize(command.length);
+  }
+  devices_->Observe(lease_->device, command.setup, answer.outcome, delivered);
+  std::uint32_t done = static_cast<std::uint32_t>(delivered.size());
+  if (answer.outcome == Outcome::Ok && command.direction != kIn) {
+    done = command.length;
+  }
+  Send(
+      SubmitReply(command.sequence, StatusOf(answer.outcome), done, delivered));
+}
+
+void Session::Send(const Bytes &bytes) {
+  output_.insert(output_.end(), bytes.begin(), bytes.end());
+}
+
+// A real device says nothing more either, once it has been pulled out.
+void Session::Break() {
+  ended_ = broken_ = true;
+  output_.clear();
+  for (const Waiting &one : waiting_) {
+    devices_->Observe(lease_->device, one.command.setup, Outcome::Gone, {});
+  }
+  waiting_.clear();
+}
+
+}  // namespace ztk::virtual_mixer::usbip

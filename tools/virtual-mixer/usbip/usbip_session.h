@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+//
+// One conversation with a USB/IP client, as bytes that come and go: what is
+// asked, what is answered, what still waits. It has no socket and no clock of
+// its own.
+#ifndef ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SESSION_H_
+#define ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SESSION_H_
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <list>
+#include <optional>
+
+#include "virtual-mixer/usbip/usbip_devices.h"
+#include "virtual-mixer/usbip/usbip_messages.h"
+
+namespace ztk::virtual_mixer::usbip {
+
+class Session {
+ public:
+  using Clock = std::chrono::steady_clock;
+
+  // A client that is yet to choose its device.
+  explicit Session(Devices *devices) : devices_(devices) {}
+  // One that has it already.
+  Session(Devices *devices, const Lease &lease)
+      : devices_(devices), lease_(lease) {}
+  // What still waits has gone.
+  ~Session();
+  Session(const Session &) = delete;
+  Session &operator=(const Session &) = delete;
+
+  // Takes what has arrived, in pieces of any size.
+  void Receive(const std::uint8_t *bytes, std::size_t count,
+               Clock::time_point now);
+  // Gives the answers that are due; ends when the device has gone.
+  void Continue(Clock::time_point now);
+  // When Continue is to be called next, if at any time.
+  std::optional<Clock::time_point> NextDue() const;
+
+  // What is to be sent, and how much of it has been.
+  const Bytes &Output() const { return output_; }
+  void Sent(std::size_t count);
+
+  // No more is taken; the connection closes once the output has been sent.
+  bool Ended() const { return ended_; }
+  // Ended, with nothing more to be sent: the client broke the rules, or its
+  // device has gone.
+  bool Broken() const { return broken_; }
+  // Nothing should be read from a client that does not read, either.
+  bool WantsInput() const { return !ended_ && output_.size() < kMostOutput; }
+
+ private:
+  static constexpr std::size_t kMostOutput = 1 << 20;
+
+  struct Waiting {
+    Command command;
+    Answer answer;
+    // At no time when the mixer is silent.
+    std::optional<Clock::time_point> due;
+  };
+
+  // Each handles one whole message at the head of the input and returns its
+  // size; 0 when there is none.
+  std::size_t TakeMessage(Clock::time_point now);
+  std::size_t TakeOperation();
+  std::size_t TakeCommand(Clock::time_point now);
+  bool IsLawful(const Command &command) const;
+  void Submit(const Command &command, const Bytes &data, Clock::time_point now);
+  void Unlink(const Command &command);
+  void Finish(const Command &command, const Answer &answer);
+  void Send(const Bytes &bytes);
+  void Break();
+
+  Devices *const devices_;
+  std::optional<Lease> lease_;
+  Bytes input_;
+  Bytes output_;
+  std::list<Waiting> waiting_;
+  bool ended_ = false;
+  bool broken_ = false;
+};
+
+}  // namespace ztk::virtual_mixer::usbip
+
+#endif  // ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SESSION_H_

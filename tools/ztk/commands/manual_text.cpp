@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: MIT
+//
+// The program as its manual and the completions tell it, from the table of
+// commands.
+#include <algorithm>
+
+#include "cli/described.h"
+#include "cli/strings.h"
+#include "ztk/commands/command_table.h"
+#include "ztk/commands/warning.h"
+#include "ztk/model/products.h"
+#include "ztk/model/settings.h"
+
+namespace ztk::cli {
+
+namespace {
+
+using manual::Fill;
+using manual::Typed;
+using manual::Value;
+using Values = std::vector<Value>;
+
+// The family that a command is about; null for the other commands.
+const Family *FamilyOf(const std::string &path) {
+  for (const Family *family : Families()) {
+    if (path.starts_with(std::string(family->name) + " ")) return family;
+  }
+  return nullptr;
+}
+
+Values Channels(const Family &family, std::uint32_t count) {
+  Values values;
+  for (std::uint32_t channel = 0; channel < count; ++channel) {
+    values.push_back({.word = std::to_string(channel + 1),
+                      .meaning = PlaceName(family, channel)});
+  }
+  return values;
+}
+
+// What is left of a text behind words that were typed of it before; the text
+// itself when there are none, nothing when they are others.
+std::string Rest(const std::string &text, const std::string &words) {
+  if (words.empty()) return text;
+  if (LowerCase(text).rfind(LowerCase(words) + " ", 0) != 0) return "";
+  return text.substr(words.size() + 1);
+}
+
+std::uint32_t ChannelTyped(const Typed &before) {
+  const auto word = before.find(ParameterName(Parameter::Channel));
+  if (word == before.end()) return 0;
+  return ParseNumber(word->second).value_or(1) - 1;
+}
+
+// Texts say more than numbers; but a number is what can stand for a text that
+// looks like an option.
+Values Choices(const Family &family, const Typed &before,
+               const std::string &begun) {
+  const std::uint32_t channel = ChannelTyped(before);
+  if (channel >= ChannelsToWalk(family)) return {};
+  const auto words = before.find(ParameterName(Parameter::Choice));
+  const std::string known = words == before.end() ? "" : words->second;
+  const bool number =
+      !begun.empty() && begun.front() >= '0' && begun.front() <= '9';
+  Values values;
+  for (const Choice &choice : ChoicesOf(family, family.product, channel)) {
+    const std::string position = std::to_string(choice.number);
+    if (known.empty() && (number || choice.text.starts_with('-'))) {
+      values.push_back({.word = position, .meaning = choice.text});
+    }
+    const std::string rest = Rest(choice.text, known);
+    if (!rest.empty() && !number) {
+      values.push_back({.word = rest, .meaning = "choice " + position});
+    }
+  }
+  return values;
+}
+
+void AddValues(const Family *family, const ParameterUse &use,
+               manual::Option *option) {
+  switch (use.parameter) {
+    case Parameter::Channel:
+      option->values = [family](const Typed & /*before*/,
+                                const std::string & /*begun*/) {
+        return Channels(*family, family->channels);
+      };
+      break;
+    case Parameter::Choice:
+      option->values = [family](const Typed &before, const std::string &begun) {
+        return Choices(*family, before, begun);
+      };
+      break;
+    case Parameter::OfChannel:
+      option->values = [](const Typed & /*before*/,
+                          const std::string & /*begun*/) {
+        return Channels(kInput, kWarningChannels);
+      };
+      break;
+    case Parameter::Product:
+      option->values = [](const Typed & /*before*/,
+                          const std::string & /*begun*/) {
+        Values values;
+        for (const std::string &name : ProductNames()) {
+          values.push_back({.word = name, .meaning = "model"});
+        }
+        return values;
+      };
+      break;
+    case Parameter::Language:
+      option->values = [](const Typed & /*before*/,
+                          const std::string & /*begun*/) {
+        Values values;
+        for (const std::string &name : LanguageNames()) {
+          values.push_back({.word = name, .meaning = "language"});
+        }
+        return values;
+      };
+      break;
+    case Parameter::File:
+      option->fill = Fill::File;
+      return;
+    case Parameter::DryRun:  // no word follows
+    case Parameter::High:    // any number
+    case Parameter::Source:
+      return;
+  }
+  option->fill = Fill::Values;
+}
+
+manual::Command DescribedCommand(const Command &command) {
+  manual::Command described{.path = command.path,
+                            .summary = command.summary,
+                            .options = {},
+                            .note = command.note,
+                            .examples = {command.example}};
+  const Family *family = FamilyOf(command.path);
+  for (const ParameterUse &use : command.parameters) {
+    manual::Option option{.names = ParameterName(use.parameter),
+                          .value = ParameterValueName(use.parameter),
+                          .description = use.description,
+                          .required = use.required,
+                          .repeats = use.parameter == Parameter::Choice};
+    AddValues(family, use, &option);
+    described.options.push_back(std::move(option));
+  }
+  return described;
+}
+
+manual::Section ExitStatus() {
+  manual::Section section{.title = "EXIT STATUS", .text = "", .terms = {}};
+  for (const ExitMeaning &meaning : ExitMeanings()) {
+    section.terms.push_back(
+        {.name = std::to_string(static_cast<int>(meaning.exit)),
+         .meaning = meaning.text});
+  }
+  return section;
+}
+
+manual::Section JsonOutput() {
+  manual::Section section{
+      .title = "JSON",
+      .text =
+          "With --json every command writes one object on one line, also "
+          "when it fails;\n"
+          "watch writes one for each change, as it comes.\n"
+          "Each has \"schema\", \"command\" and \"ok\".\n"
+          "The first is a number that is raised whenever a field is\n"
+          "removed or changes its meaning.\n"
+          "When \"ok\" is false, \"error\" holds a \"code\" and a "
+          "\"message\".\n"
+          "All fields are in ztk.schema.json, which is installed with the\n"
+          "documentation.\n"
+          "\n"
+          "The codes are:",
+      .terms = {}};
+  for (const ExitMeaning &meaning : ExitMeanings()) {
+    if (meaning.exit == ExitCode::Done) continue;
+    section.terms.push_back(
+        {.name = meaning.word,
+         .meaning =
+             "exit status " + std::to_string(static_cast<int>(meaning.exit))});
+  }
+  return section;
+}
+
+manual::Section Environment() {
+  return {
+      .title = "ENVIRONMENT",
+      .text = "",
+      .terms = {
+          {.name = "XDG_CONFIG_HOME, HOME",
+           .meaning = "Where settings are remembered, see FILES."},
+          {.name = "XDG_STATE_HOME",
+           .meaning = "Where ztk undo finds what was changed, see FILES."},
+          {.name = "DBUS_SESSION_BUS_ADDRESS",
+           .meaning = "The message bus on which changes are announced."},
+          {.name = "LANGUAGE, LC_ALL, LC_MESSAGES, LANG",
+           .meaning = "The language of the warning texts."},
+          {.name = "NO_COLOR, CLICOLOR, TERM",
+           .meaning = "Nothing stands out in the terminal if NO_COLOR is set "
+                      "and not empty,\nif CLICOLOR is 0, or if TERM is "
+                      "dumb.\nWhat goes to a file or a pipe is always "
+                      "plain."}}};
+}
+
+manual::Section Files() {
+  manual::Section section{
+      .title = "FILES",
+      .text =
+          "Settings are below XDG_CONFIG_HOME, or ~/.config without it; "
+          "what ztk undo needs is\n"
+          "below XDG_STATE_HOME, or ~/.local/state without it. On macOS, and "
+          "in a home shared\nwith it that has no such folder, settings are in "
+          "~/Library/Preferences, under the\nsame names.",
+      .terms = {}};
+  for (const Family *family : Families()) {
+    const std::string model = ModelName(*family);
+    const std::string name =
+        "tarvix/Preferences/com.tarvix." + model + "autosetup.plist";
+    const auto known = std::find_if(
+        section.terms.begin(), section.terms.end(),
+        [&name](const manual::Term &term) { return term.name == name; });
+    if (known == section.terms.end()) {
+      section.terms.push_back({.name = name,
+                               .meaning = "What is remembered for the " +
+                                          model + ": " + family->name});
+    } else {
+      known->meaning += std::string(", ") + family->name;
+    }
+  }
+  section.terms.push_back(
+      {.name = "tarvix/ztk-history.jsonl",
+       .meaning = "What ztk has changed, step by step, for ztk undo"});
+  section.terms.push_back({.name = "tarvix/ztk.lock",
+                           .meaning = "Held by the ztk that changes something; "
+                                      "others wait for it"});
+  return section;
+}
+
+}  // namespace
+
+}  // namespace ztk::cli
+
+ztk::manual::Program ztk::manual::Described() {
+  using namespace ztk::cli;
+  Program program{
+      .name = "ztk",
+      .summary = "settings of the USB DJ mixer VRM-D6",
+      .about = kAbout,
+      .options = {},
+      .groups = {},
+      .commands = {},
+      .sections = {ExitStatus(), JsonOutput(), Environment(), Files()},
+      .seeAlso = {"ztk-virtual-mixer(1)", "ZTKFunc(3)"}};
+  for (const OptionForAll &option :
+       {kHelpOption, kJsonOption, kVersionOption}) {
+    program.options.push_back({.names = option.names,
+                               .value = "",
+                               .description = option.description});
+  }
+  for (const cli::Group &group : Groups()) {
+    program.groups.push_back(
+        {.name = group.name,
+         .summary = group.summary,
+         .note = group.note,
+         .isSetting = std::any_of(Families().begin(), Families().end(),
+                                  [&group](const Family *family) {
+                                    return group.name == family->name;
+                                  })});
+  }
+  for (const cli::Command &command : Commands()) {
+    program.commands.push_back(DescribedCommand(command));
+  }
+  return program;
+}

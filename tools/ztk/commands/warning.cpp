@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/commands/warning.h"
+
+#include <algorithm>
+
+#include "cli/strings.h"
+#include "cli/suggest.h"
+#include "ztk/commands/other_commands.h"
+#include "ztk/model/products.h"
+#include "ztk/model/settings.h"
+#include "ztk/progress.h"
+#include "ztk/system/text.h"
+
+namespace ztk::cli {
+
+namespace {
+
+constexpr std::uint32_t kUsersLanguage = 99;
+
+// The library's languages: its number, and what they are called.
+struct Language {
+  std::uint32_t number;
+  const char *name;
+  const char *code;
+  const char *otherCode;
+};
+constexpr Language kLanguages[] = {
+    {.number = 0, .name = "English", .code = "en", .otherCode = "eng"},
+    {.number = 1, .name = "Japanese", .code = "ja", .otherCode = "jpn"},
+    {.number = 2, .name = "French", .code = "fr", .otherCode = "fra"},
+    {.number = 3, .name = "German", .code = "de", .otherCode = "deu"},
+    {.number = 4, .name = "Italian", .code = "it", .otherCode = "ita"},
+    {.number = 5, .name = "Dutch", .code = "nl", .otherCode = "nld"},
+    {.number = 6, .name = "Spanish", .code = "es", .otherCode = "spa"},
+    {.number = 7, .name = "Russian", .code = "ru", .otherCode = "rus"},
+    {.number = 8, .name = "Portuguese", .code = "pt", .otherCode = "por"},
+    {.number = 9,
+     .name = "Simplified Chinese",
+     .code = "zh-CN",
+     .otherCode = "zh-Hans"},
+    {.number = 10,
+     .name = "Traditional Chinese",
+     .code = "zh-TW",
+     .otherCode = "zh-Hant"},
+    {.number = 11, .name = "Korean", .code = "ko", .otherCode = "kor"}};
+
+// "zh-CN" is also written as "zh_CN".
+std::string Folded(const std::string &word) {
+  std::string folded = LowerCase(word);
+  std::replace(folded.begin(), folded.end(), '_', '-');
+  return folded;
+}
+
+std::uint32_t ParseLanguage(const std::string &word) {
+  const std::string wanted = Folded(word);
+  const auto number = ParseNumber(word);
+  std::vector<std::string> accepted;
+  std::vector<std::string> names;
+  for (const Language &language : kLanguages) {
+    if (number == language.number || wanted == Folded(language.name) ||
+        wanted == Folded(language.code) ||
+        wanted == Folded(language.otherCode)) {
+      return language.number;
+    }
+    names.emplace_back(language.name);
+    accepted.push_back(std::to_string(language.number) + " " + language.name +
+                       " " + language.code);
+  }
+  if (number == kUsersLanguage) return kUsersLanguage;
+  const std::string nearest = Nearest(word, names);
+  throw Failure(ExitCode::Usage,
+                "no language " + Quoted(word) +
+                    (nearest.empty() ? "" : "; nearest: " + nearest) +
+                    "; accepted, by number, name or code: " + Listed(accepted) +
+                    ", 99 your own");
+}
+
+// Null when the library has no sentence.
+ZTKResult Sentence(std::uint32_t channel, std::uint32_t language,
+                   ZTKTextRef *text) {
+  *text = nullptr;
+  const Progress progress(kWaitingForMixer);
+  return ZTK_GetWarningTextForSetUSBAudioInput(kOwnProduct, channel,
+                                               ZTK_WARNING, language, text);
+}
+
+std::string PlainSentence(const Reach &reach, const std::string &place) {
+  if (reach.found() == 0)
+    return "no mixer is attached: " + place + " is silent";
+  return "the mixer's input selector does not stand where " + place +
+         " can be heard; position 4 is needed, ztk status shows where it "
+         "stands";
+}
+
+// The library's sentence names no channel; `before` goes in front of it.
+std::string Explanation(std::uint32_t channel, const Reach &reach,
+                        const std::string &before) {
+  ZTKTextRef text = nullptr;
+  const std::string place = PlaceName(kInput, channel);
+  if (Sentence(channel, kUsersLanguage, &text) != ZTK_SUCCESS) {
+    // The fifth channel: no selector belongs to it.
+    return reach.found() == 0
+               ? PlainSentence(reach, place)
+               : place +
+                     " has no input selector, so the mixer cannot tell "
+                     "whether this routing can be heard";
+  }
+  if (text != nullptr) return before + Utf8(text);
+  return PlainSentence(reach, place) +
+         " (the translated text is missing: install VRM-D6Setup.framework)";
+}
+
+}  // namespace
+
+void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
+  report->warnings.push_back(Explanation(channel, reach, ""));
+}
+
+void ExplainWarnings(const MadeChanges &made, Report *report) {
+  // Without a mixer the error says it for all of them.
+  if (made.reach.found() == 0) return;
+  for (const MadeChange &one : made.changes) {
+    if (one.result != ZTK_WARNING) continue;
+    const std::uint32_t channel = one.change.channel;
+    report->warnings.push_back(
+        Explanation(channel, made.reach, PlaceName(kInput, channel) + ": "));
+  }
+}
+
+std::vector<std::string> LanguageNames() {
+  std::vector<std::string> names;
+  for (const Language &language : kLanguages) {
+    const std::string name = language.name;
+    names.push_back(name.find(' ') == std::string::npos ? name : language.code);
+  }
+  return names;
+}
+
+Report ShowWarning(const Arguments &arguments) {
+  std::uint32_t channel = 0;
+  if (const std::string *word = arguments.Find(Parameter::OfChannel)) {
+    const auto number = ParseNumber(*word);
+    if (!number || *number < 1 || *number > kInput.channels) {
+      throw Failure(ExitCode::Usage,
+                    "USB input audio has no channel " + Quoted(*word) +
+                        NearestAndAccepted(*word, 1, kWarningChannels));
+    }
+    channel = *number - 1;
+  }
+  std::uint32_t language = kUsersLanguage;
+  if (const std::string *word = arguments.Find(Parameter::Language)) {
+    language = ParseLanguage(*word);
+  }
+  ZTKTextRef text = nullptr;
+  const ZTKResult result = Sentence(channel, language, &text);
+  if (result == ZTK_REJECTED) {
+    throw Failure(ExitCode::Rejected, PlaceName(kInput, channel) +
+                                          " has no input selector, so the "
+                                          "library has no text for it; "
+                                          "accepted: 1 to 4");
+  }
+  if (text == nullptr) {
+    throw Failure(ExitCode::Failed,
+                  "the library finds no such text: make sure that "
+                  "VRM-D6Setup.framework is installed");
+  }
+  Report report;
+  report.text = OneLine(Utf8(text)) + "\n";
+  report.fields = {{"result", result},
+                   {"channel", channel + 1},
+                   {"language", language},
+                   {"text", Utf8(text)}};
+  return report;
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_TOOLS_ZTK_COMMANDS_WARNING_H_
+#define ZTK_TOOLS_ZTK_COMMANDS_WARNING_H_
+
+#include <cstdint>
+
+#include "ztk/model/change.h"
+#include "ztk/model/mixers.h"
+#include "ztk/report.h"
+
+namespace ztk::cli {
+
+// Adds to the warnings what a 101 for a channel of USB input audio means: the
+// library's sentence in the user's language, or one of this program where the
+// library has none. May ask the first mixer for the state of its port.
+void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
+
+// The same for each of the changes that was answered so; nothing without a
+// mixer.
+void ExplainWarnings(const MadeChanges &made, Report *report);
+
+// The channels that have a selector, and so a warning: the first ones.
+inline constexpr std::uint32_t kWarningChannels = 4;
+
+// What can follow --language: one word for each, its name if it is one.
+std::vector<std::string> LanguageNames();
+
+}  // namespace ztk::cli
+
+#endif  // ZTK_TOOLS_ZTK_COMMANDS_WARNING_H_

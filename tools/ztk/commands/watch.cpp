@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "cli/terminal.h"
+#include "ztk/commands/other_commands.h"
+#include "ztk/model/products.h"
+#include "ztk/model/settings.h"
+#include "ztk/output.h"
+#include "ztk/system/event_loop.h"
+
+namespace ztk::cli {
+
+namespace {
+
+struct Watcher {
+  bool json = false;
+  int writeError = 0;
+};
+
+// One for each family: the context of its callback.
+struct Listener {
+  Watcher *watcher;
+  const Family *family;
+};
+
+// A change may come from any program and hold any number.
+std::string ChangeLine(const Listener &listener, std::int32_t channel,
+                       std::int32_t index) {
+  const Family &family = *listener.family;
+  const auto row = static_cast<std::uint32_t>(channel);
+  const auto value = static_cast<std::uint32_t>(index);
+  const bool known = row < ChannelsToWalk(family);
+  if (!listener.watcher->json) {
+    const std::string place = known ? PlaceName(family, row)
+                                    : std::string(family.place) +
+                                          " (unknown channel " +
+                                          std::to_string(channel) + ")";
+    return place + ": " +
+           (known ? DescribedValue(family, row, value)
+                  : std::to_string(index)) +
+           "\n";
+  }
+  Report report;
+  report.fields["setting"] = family.name;
+  report.fields["model"] = ModelName(family);
+  if (known) {
+    AddValueFields(family, row, value, &report.fields);
+  } else {
+    report.fields.update(Json{{"channel", std::int64_t{channel} + 1},
+                              {"number", nullptr},
+                              {"text", nullptr},
+                              {"value", index}});
+  }
+  return JsonLine("watch", report) + "\n";
+}
+
+// Called by the library, through which no exception may pass.
+void OnChange(std::int32_t channel, std::int32_t index,
+              void *context) noexcept {
+  const auto *listener = static_cast<const Listener *>(context);
+  if (WriteOutput(ChangeLine(*listener, channel, index))) return;
+  listener->watcher->writeError = errno;
+  StopLoop();
+}
+
+void OnIndexChange(std::int32_t index, void *context) noexcept {
+  OnChange(0, index, context);
+}
+
+void SayReady() { WriteError("watching for changes; Ctrl-C ends"); }
+
+}  // namespace
+
+Report Watch(const Arguments &arguments) {
+  Watcher watcher{.json = arguments.json, .writeError = 0};
+  Listener input{.watcher = &watcher, .family = &kInput};
+  Listener output{.watcher = &watcher, .family = &kOutput};
+  Listener boost{.watcher = &watcher, .family = &kBoost};
+  Listener midi{.watcher = &watcher, .family = &kMidi};
+  ZTK_RegisterInputAudioChangedCallback(kInput.product, OnChange, &input);
+  ListenToOutputAudio(OnChange, &output);
+  ZTK_RegisterBoostLevelChangedCallback(kBoost.product, OnIndexChange, &boost);
+  ZTK_RegisterMidiChannelChangedCallback(kMidi.product, OnIndexChange, &midi);
+
+  const LoopEnd end = RunLoop(SayReady);
+  Report report;
+  report.written = true;
+  if (end == LoopEnd::Interrupted && IsTerminal(STDERR_FILENO)) {
+    // Behind the "^C" that the terminal shows.
+    WriteLineEnd();
+  }
+  if (end == LoopEnd::NoBus) {
+    report.problem = {
+        .exit = ExitCode::Failed,
+        .message =
+            "there is no session message bus to hear changes on, or it "
+            "is gone; run this inside your login session"};
+  } else if (end == LoopEnd::NoLibrary) {
+    report.problem = {.exit = ExitCode::Failed,
+                      .message =
+                          "a library that hears changes cannot be "
+                          "loaded; ztk doctor tells which"};
+  } else if (end == LoopEnd::Stopped) {
+    report.problem = {.exit = ExitCode::Failed,
+                      .message = std::string("cannot write the output: ") +
+                                 std::strerror(watcher.writeError)};
+  }
+  return report;
+}
+
+}  // namespace ztk::cli

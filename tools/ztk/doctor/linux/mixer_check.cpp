@@ -1,0 +1,339 @@
+// SPDX-License-Identifier: MIT
+//
+// Why a mixer that is attached cannot be opened on Linux: udev, its rules and
+// the seat give the right, and a container can take the device away.
+#include <pwd.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <optional>
+#include <sstream>
+
+#include "build_config.h"
+#include "udev_rule.h"
+#include "usb/USB.h"
+#include "ztk/model/finding.h"
+#include "ztk/system/places.h"
+
+namespace ztk::cli {
+
+namespace {
+
+constexpr char kRuleName[] = "70-tarvix-mixer.rules";
+constexpr char kOwnRule[] = "/etc/udev/rules.d/70-tarvix-mixer.rules";
+constexpr char kOwnersRule[] = "/etc/udev/rules.d/71-tarvix-mixer-owner.rules";
+// Where udev looks; the first file of a name hides the others.
+constexpr const char *kRuleFolders[] = {
+    "/etc/udev/rules.d/", "/run/udev/rules.d/", "/usr/local/lib/udev/rules.d/",
+    "/usr/lib/udev/rules.d/", "/lib/udev/rules.d/"};
+// What the rule leaves on a device that it was applied to.
+constexpr char kSeatTag[] = "uaccess";
+
+std::string SysFolder(const std::string &place) {
+  return "/sys/bus/usb/devices/" + place;
+}
+
+// Empty where there is no such file.
+std::string Contents(const std::string &path) {
+  const std::ifstream file(path);
+  std::ostringstream text;
+  text << file.rdbuf();
+  return text.str();
+}
+
+bool Exists(const std::string &path) { return access(path.c_str(), F_OK) == 0; }
+
+std::string Variable(const char *name) {
+  const char *value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+// The value behind "key=" at the beginning of a line.
+std::string ValueIn(const std::string &text, const std::string &key) {
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with(key)) return line.substr(key.size());
+  }
+  return "";
+}
+
+// As containers are told which device they may have.
+std::string MixerInNumbers() {
+  std::array<char, 40> text{};
+  std::snprintf(text.data(), text.size(), "vendorid=%04x productid=%04x",
+                static_cast<unsigned>(build::kUsbVendorId),
+                static_cast<unsigned>(usb::kMixerProductId));
+  return text.data();
+}
+
+struct Container {
+  std::string name;
+  std::string command;  // which lets the devices in
+};
+
+std::optional<Container> AroundUs() {
+  if (const std::string info = Contents("/.flatpak-info"); !info.empty()) {
+    return Container{.name = "a Flatpak sandbox",
+                     .command = "flatpak override --user --device=all " +
+                                ShellQuoted(ValueIn(info, "name="))};
+  }
+  if (const std::string snap = Variable("SNAP_NAME"); !snap.empty()) {
+    return Container{
+        .name = "a snap",
+        .command = "sudo snap connect " + ShellQuoted(snap) + ":raw-usb"};
+  }
+  // What the manager of a container has told the system in it.
+  const std::string told = Contents("/run/systemd/container");
+  const std::string kind = told.substr(0, told.find('\n'));
+  if (kind == "lxc") {
+    return Container{.name = "an LXC container",
+                     .command = "lxc config device add CONTAINER mixer usb " +
+                                MixerInNumbers()};
+  }
+  if (kind == "systemd-nspawn") {
+    return Container{.name = "a systemd-nspawn container",
+                     .command = "sudo machinectl bind MACHINE /dev/bus/usb"};
+  }
+  const bool podman = kind == "podman" || Exists("/run/.containerenv");
+  if (podman || kind == "docker" || Exists("/.dockerenv")) {
+    const std::string program = podman ? "podman" : "docker";
+    return Container{.name = "a " + program + " container",
+                     .command = program +
+                                " run -v /dev/bus/usb:/dev/bus/usb "
+                                "--device-cgroup-rule='c 189:* rmw' IMAGE"};
+  }
+  return std::nullopt;
+}
+
+// The system service that this runs in, or empty.
+std::string Service() {
+  const std::string group = Contents("/proc/self/cgroup");
+  constexpr char kServices[] = "/system.slice/";
+  const std::size_t begin = group.find(kServices);
+  if (begin == std::string::npos) return "";
+  const std::string unit = group.substr(begin + sizeof kServices - 1);
+  const std::size_t end = unit.find(".service");
+  return end == std::string::npos ? "" : unit.substr(0, end) + ".service";
+}
+
+// Has udev read its rules, and apply them as if every mixer was plugged in now.
+std::string Replug() {
+  std::array<char, 60> matches{};
+  std::snprintf(matches.data(), matches.size(),
+                "--attr-match=idVendor=%04x --attr-match=idProduct=%04x",
+                static_cast<unsigned>(build::kUsbVendorId),
+                static_cast<unsigned>(usb::kMixerProductId));
+  return std::string(
+             "sudo udevadm control --reload && sudo udevadm trigger "
+             "--action=add --settle --subsystem-match=usb ") +
+         matches.data();
+}
+
+std::string InstallRule(const std::string &rule, const std::string &file) {
+  return "echo '" + rule + "' | sudo tee " + file + " && " + Replug();
+}
+
+// The rule as udev would find it.
+struct Rule {
+  std::string path;  // empty where there is none
+  bool fits = false;
+};
+
+Rule FindRule() {
+  for (const char *folder : kRuleFolders) {
+    const std::string path = std::string(folder) + kRuleName;
+    if (!Exists(path)) continue;
+    return {.path = path,
+            .fits = Contents(path).find(kMixerMatch) != std::string::npos};
+  }
+  return {};
+}
+
+// Whether udev has applied the rule to the device that is plugged in now.
+bool IsTagged(const std::string &place) {
+  std::string number = Contents(SysFolder(place) + "/dev");
+  number = number.substr(0, number.find('\n'));
+  std::istringstream lines(Contents("/run/udev/data/c" + number));
+  for (std::string line; std::getline(lines, line);) {
+    if (line == std::string("G:") + kSeatTag) return true;
+    if (line == std::string("Q:") + kSeatTag) return true;
+  }
+  return false;
+}
+
+// What the environment says is another's after "su", and nobody's in a service.
+std::string UserName() {
+  const passwd *user = getpwuid(geteuid());
+  return user == nullptr ? std::to_string(geteuid()) : user->pw_name;
+}
+
+Finding NoSeat(const std::string &what) {
+  std::string cause =
+      "the rule lets in who sits at this machine, and your session is not the "
+      "active one there";
+  if (!Variable("SSH_CONNECTION").empty() || !Variable("SSH_TTY").empty()) {
+    cause = "the rule lets in who sits at this machine, and you came over ssh";
+  } else if (const std::string service = Service(); !service.empty()) {
+    cause = "the rule lets in who sits at this machine, and " + service +
+            " sits nowhere";
+  }
+  const std::string user = UserName();
+  std::string rule = kMixerMatch;
+  rule += ", OWNER=\"" + user + "\"";
+  return {.id = "no-seat",
+          .what = what,
+          .cause = cause + "; this lets " + user + " in from everywhere",
+          .command = InstallRule(rule, kOwnersRule)};
+}
+
+Finding NotPermitted(const std::string &what, const std::string &place) {
+  const Rule rule = FindRule();
+  if (rule.path.empty()) {
+    return {.id = "rule-missing",
+            .what = what,
+            .cause = "only root may open it, as no rule lets you",
+            .command = InstallRule(kUdevRule, kOwnRule)};
+  }
+  if (!rule.fits) {
+    return {.id = "rule-disabled",
+            .what = what,
+            .cause = "only root may open it: " + rule.path +
+                     " hides the rule that lets you, or is for another mixer",
+            .command = InstallRule(kUdevRule, kOwnRule)};
+  }
+  if (!IsTagged(place)) {
+    return {.id = "rule-not-applied",
+            .what = what,
+            .cause =
+                "the rule that lets you in came after the mixer was "
+                "plugged in; this does what plugging it in again does",
+            .command = Replug()};
+  }
+  return NoSeat(what);
+}
+
+Finding NoNode(const std::string &what, const std::string &node) {
+  Finding finding{.id = "no-node",
+                  .what = what,
+                  .cause = "there is no " + node + "; this has udev make it",
+                  .command = Replug()};
+  if (const auto container = AroundUs()) {
+    finding.cause =
+        "this is " + container->name + ", into which " + node + " was not let";
+    finding.command = container->command;
+  }
+  return finding;
+}
+
+Finding Forbidden(const std::string &what, const std::string &node) {
+  Finding finding{.id = "forbidden", .what = what, .cause = {}, .command = {}};
+  std::string place = "a service";
+  if (const auto container = AroundUs()) {
+    place = container->name;
+    finding.command = container->command;
+  } else {
+    const std::string service = Service();
+    if (!service.empty()) place = service;
+    finding.command = "sudo systemctl set-property ";
+    finding.command += service.empty() ? "NAME.service" : service;
+    finding.command += " DeviceAllow='char-usb_device rw'";
+  }
+  finding.cause = "this is " + place + ", which may not use " + node;
+  return finding;
+}
+
+}  // namespace
+
+Finding ExplainNoMixer() {
+  if (Exists("/sys/bus/usb/devices")) {
+    return {.id = "no-mixer",
+            .what = "no mixer is attached",
+            .cause =
+                "the system sees none: its plug is out, or it is off; "
+                "plug it in and switch it on",
+            .command = "ztk doctor"};
+  }
+  Finding finding{.id = "no-usb",
+                  .what = "no mixer can be found",
+                  .cause =
+                      "this system has no USB: its kernel, or a part of "
+                      "it, is not loaded",
+                  .command = "sudo modprobe --all usbcore xhci_pci"};
+  if (const auto container = AroundUs()) {
+    finding.cause.assign("this is ").append(container->name);
+    finding.cause.append(", to which no USB is shown");
+    finding.command = container->command;
+  }
+  return finding;
+}
+
+Finding ExplainUnopened(int mixer, const std::string &place) {
+  const Access access = TryToOpen(place);
+  const std::string what =
+      "mixer " + std::to_string(mixer) + " is attached, but you cannot open it";
+  switch (access.obstacle) {
+    case Obstacle::NoRight:
+      return NotPermitted(what, place);
+    case Obstacle::NoNode:
+      return NoNode(what, access.node);
+    case Obstacle::Forbidden:
+      return Forbidden(what, access.node);
+    case Obstacle::None:
+    case Obstacle::Vanished:
+    case Obstacle::Other:
+      break;
+  }
+  Finding finding{.id = "not-opened",
+                  .what = what,
+                  .cause = "it was busy for a moment",
+                  .command = "ztk doctor"};
+  if (!access.reason.empty()) {
+    finding.cause = access.node + ": " + access.reason;
+  }
+  return finding;
+}
+
+std::string RestartCommand(const std::string &place) {
+  return "for on in 0 1; do echo $on | sudo tee " + SysFolder(place) +
+         "/authorized; done";
+}
+
+// Whatever has that name already.
+std::string MoveAwayCommand(const std::string &path) {
+  return "mv --backup=numbered " + ShellQuoted(path) + " " +
+         ShellQuoted(path + ".old");
+}
+
+std::string MakeWritableCommand(const std::string &folder) {
+  return "sudo mount -o remount,rw \"$(findmnt -no TARGET -T " +
+         ShellQuoted(folder) + ")\"";
+}
+
+Findings FindOddLibrary(const std::string &library) {
+  if (!library.ends_with("/Library")) return {};
+  return {
+      {.id = "settings-shared",
+       .what = "settings are kept in " + library + "/Preferences",
+       .cause = "this home is shared with macOS, so both systems use the same "
+                "ones; this gives this system its own",
+       .command = "mkdir -p ~/.config/tarvix && cp -a " +
+                  ShellQuoted(library + "/Preferences") + " ~/.config/tarvix/",
+       .isNote = true}};
+}
+
+Finding ExplainTexts(bool found) {
+  const std::string folder = build::kDataDir;
+  return {.id = found ? "texts-broken" : "texts-missing",
+          .what = "warnings are not told in your language",
+          .cause = std::string("VRM-D6Setup.framework ") +
+                   (found ? "has no texts in " : "is not in ") + folder +
+                   "/tarvix",
+          .command = folder == "/usr/share"
+                         ? "sudo apt install --reinstall libztkfunc-common"
+                         : "sudo cmake --install build"};
+}
+
+}  // namespace ztk::cli

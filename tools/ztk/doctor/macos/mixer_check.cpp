@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/model/finding.h"
+#include "ztk/system/places.h"
+
+namespace ztk::cli {
+
+Finding ExplainNoMixer() {
+  return {.id = "no-mixer",
+          .what = "no mixer is attached",
+          .cause =
+              "the system sees none: its plug is out, or it is off; plug "
+              "it in and switch it on",
+          .command = "ztk doctor"};
+}
+
+Finding ExplainUnopened(int mixer, const std::string &place) {
+  const Access access = TryToOpen(place);
+  Finding finding{
+      .id = Word(access.obstacle),
+      .what = "mixer " + std::to_string(mixer) + " " + Explained(access),
+      .cause = access.reason,
+      .command = RestartCommand(place)};
+  if (access.obstacle == Obstacle::None) {
+    finding.cause = "it was busy for a moment";
+    finding.command = "ztk doctor";
+  } else if (access.obstacle == Obstacle::NoRight) {
+    finding.command = "sudo ztk doctor";
+  } else if (access.obstacle == Obstacle::Vanished) {
+    finding.cause = "its plug or its power may be loose";
+    finding.command = "ztk doctor";
+  }
+  return finding;
+}
+
+// No command here takes a device off its bus: that is left to the user's hand.
+std::string RestartCommand(const std::string & /*place*/) {
+  return "printf 'Switch the mixer off and on, then press Return. '; read -r "
+         "done; ztk doctor";
+}
+
+std::string MoveAwayCommand(const std::string &path) {
+  return "mv " + ShellQuoted(path) + " " + ShellQuoted(path + ".") +
+         "$(date +%s)";
+}
+
+std::string MakeWritableCommand(const std::string &folder) {
+  return "sudo mount -uw \"$(df -P " + ShellQuoted(folder) +
+         " | awk 'END {print $NF}')\"";
+}
+
+Findings FindOddLibrary(const std::string & /*library*/) { return {}; }
+
+Finding ExplainTexts(bool found) {
+  return {.id = found ? "texts-broken" : "texts-missing",
+          .what = "warnings are not told in your language",
+          .cause = found ? "VRM-D6Setup.framework has no texts in "
+                           "/Library/Frameworks"
+                         : "VRM-D6Setup.framework is not in "
+                           "/Library/Frameworks",
+          .command = "sudo cmake --install build"};
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <set>
+
+#include "platform/paths.h"
+#include "platform/property_list.h"
+#include "platform/text.h"
+#include "store/settings_file.h"
+#include "ztk/model/finding.h"
+#include "ztk/model/settings.h"
+#include "ztk/system/text.h"
+
+namespace ztk::cli {
+
+namespace {
+
+std::string FolderOf(const std::string &path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+bool Exists(const std::string &path, struct stat *status) {
+  return stat(path.c_str(), status) == 0;
+}
+
+// Where a link leads; the path itself where there is none.
+std::string Target(const std::string &path) {
+  std::array<char, PATH_MAX> target{};
+  return realpath(path.c_str(), target.data()) == nullptr ? path
+                                                          : target.data();
+}
+
+// Gives the right to use what belongs to the user, or the thing itself.
+std::string TakeOver(const std::string &path, const char *mode) {
+  struct stat status {};
+  const bool own = Exists(path, &status) && status.st_uid == geteuid();
+  return (own ? std::string("chmod ") + mode : "sudo chown \"$(id -un)\"") +
+         " " + ShellQuoted(path);
+}
+
+void FindUnreadable(const std::string &path, Findings *findings) {
+  struct stat status {};
+  // Where a file stands on the way, that is the trouble.
+  if (!Exists(path, &status) && (errno == ENOENT || errno == ENOTDIR)) return;
+  platform::property_list::Dictionary *settings =
+      WithText(path, platform::property_list::ReadFile);
+  platform::property_list::Release(settings);
+  if (settings != nullptr) return;
+  Finding finding{.id = "settings-unreadable",
+                  .what = path + " cannot be read, so defaults stand in",
+                  .cause = "it is not a settings file, or it is damaged",
+                  .command = MoveAwayCommand(path)};
+  const int opened = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (opened >= 0) {
+    close(opened);
+  } else if (errno == EACCES) {
+    finding.cause = "you have no permission to read it";
+    finding.command = TakeOver(path, "u+rw");
+  }
+  findings->push_back(finding);
+}
+
+// What hinders a file from being made in the folder: an errno, 0 for nothing.
+int TryToWrite(const std::string &folder) {
+  std::string name = folder + "/.ztk-doctor-XXXXXX";
+  const int file = mkostemp(name.data(), O_CLOEXEC);
+  if (file < 0) return errno;
+  constexpr char kContent[] = "made by ztk doctor, and removed at once\n";
+  const ssize_t written = write(file, kContent, sizeof kContent - 1);
+  int error = written < 0 ? errno : 0;
+  if (fsync(file) != 0 && error == 0) error = errno;
+  close(file);
+  unlink(name.c_str());
+  return error;
+}
+
+Finding Unwritable(const std::string &folder, int error) {
+  Finding finding{.id = "settings-not-writable",
+                  .what =
+                      "settings are not remembered: nothing can be written "
+                      "to " +
+                      folder,
+                  .cause = std::strerror(error),
+                  .command = "ls -ld " + ShellQuoted(folder)};
+  switch (error) {
+    case EACCES:
+    case EPERM:
+      finding.cause = "you have no permission to write there";
+      finding.command = TakeOver(folder, "u+rwx");
+      break;
+    case EROFS:
+      finding.cause = "it lies on a file system that is read-only";
+      finding.command = MakeWritableCommand(folder);
+      break;
+    case ENOSPC:
+    case EDQUOT:
+      finding.cause = "the disk, or your share of it, is full";
+      finding.command = "df -h " + ShellQuoted(folder);
+      break;
+    default:
+      break;
+  }
+  return finding;
+}
+
+// The folders on the way are made by the first setting that is remembered: the
+// last one that is there decides whether that can be done.
+void FindUnwritable(std::string folder, Findings *findings) {
+  struct stat status {};
+  while (folder != "/" && !Exists(folder, &status)) {
+    // A file on the way is found one step later.
+    folder = FolderOf(folder);
+  }
+  if (!S_ISDIR(status.st_mode)) {
+    findings->push_back({.id = "settings-not-writable",
+                         .what = "settings are not remembered: nothing can be "
+                                 "written below " +
+                                 folder,
+                         .cause = "it is a file where a folder has to be",
+                         .command = MoveAwayCommand(folder)});
+    return;
+  }
+  const int error = TryToWrite(folder);
+  if (error == 0) return;
+  const Finding finding = Unwritable(folder, error);
+  for (const Finding &known : *findings) {
+    if (known.command == finding.command) return;
+  }
+  findings->push_back(finding);
+}
+
+}  // namespace
+
+Findings FindSettingsTrouble(std::string *good) {
+  const platform::text::Made library(platform::paths::UserLibrary());
+  if (library.get() == nullptr) {
+    return {{.id = "settings-no-home",
+             .what = "settings are not remembered: you have no home folder",
+             .cause = "HOME is not set, and no user of this system is you",
+             .command = "export HOME=/path/to/your/home"}};
+  }
+  Findings findings;
+  const std::string folder = Utf8(library.get()) + "/Preferences";
+  std::set<std::string> models;
+  for (const Family *family : Families()) {
+    if (!models.insert(ModelName(*family)).second) continue;
+    const platform::text::Made file(store::MakePath(family->model));
+    const std::string path = Utf8(file.get());
+    FindUnreadable(path, &findings);
+    struct stat status {};
+    // A link is followed when it is written.
+    if (Exists(path, &status) && FolderOf(Target(path)) != Target(folder)) {
+      FindUnwritable(FolderOf(Target(path)), &findings);
+    }
+  }
+  FindUnwritable(folder, &findings);
+  for (const Finding &finding : FindOddLibrary(Utf8(library.get()))) {
+    findings.push_back(finding);
+  }
+  *good = "they can be read and written in " + folder;
+  return findings;
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/model/choice.h"
+
+#include "cli/strings.h"
+#include "cli/suggest.h"
+#include "ztk/report.h"
+
+namespace ztk::cli {
+
+namespace {
+
+bool IsSpace(char character) {
+  return character == ' ' || (character >= '\t' && character <= '\r');
+}
+
+// What is compared: lower case, no spaces. ASCII letters only, whatever the
+// locale; that is all that the choices have.
+std::string Folded(const std::string &text) {
+  std::string folded;
+  for (const char character : text) {
+    if (!IsSpace(character)) folded += LowerCase(character);
+  }
+  return folded;
+}
+
+// The choices whose folded text, without its first `skipped` characters,
+// begins with the words; only the one that equals them when there is one.
+std::vector<Choice> BeginningWith(const std::vector<Choice> &choices,
+                                  const std::string &words,
+                                  bool skipMinusSign) {
+  std::vector<Choice> found;
+  for (const Choice &choice : choices) {
+    std::string text = Folded(choice.text);
+    if (skipMinusSign && text.starts_with('-')) text.erase(0, 1);
+    if (text == words) return {choice};
+    if (text.starts_with(words)) found.push_back(choice);
+  }
+  return found;
+}
+
+bool IsDigits(const std::string &words) {
+  return !words.empty() &&
+         words.find_first_not_of("0123456789") == std::string::npos;
+}
+
+}  // namespace
+
+Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
+  const std::string wanted = Folded(words);
+  if (wanted.empty()) return {};
+
+  const std::optional<std::uint32_t> number = ParseNumber(words);
+  for (const Choice &choice : choices) {
+    if (number == choice.number) return {.choice = choice, .candidates = {}};
+  }
+  std::vector<Choice> found = BeginningWith(choices, wanted, false);
+  // A bare number is the number of a choice, and of no other thing.
+  if (found.empty() && !IsDigits(wanted)) {
+    found = BeginningWith(choices, wanted, true);
+  }
+  if (found.size() == 1) return {.choice = found.front(), .candidates = {}};
+  return {.choice = std::nullopt, .candidates = std::move(found)};
+}
+
+std::string NearestChoice(const std::string &words,
+                          const std::vector<Choice> &choices) {
+  if (choices.empty()) return "";
+  if (IsDigits(words)) {
+    const std::vector<Choice> meant = BeginningWith(choices, words, true);
+    if (meant.size() == 1) return "; nearest: " + Described(meant.front());
+    // Choices count from 1, without gaps.
+    const std::uint32_t wanted =
+        ParseNumber(words).value_or(choices.back().number);
+    return "; nearest: " + Described(wanted < choices.front().number
+                                         ? choices.front()
+                                         : choices.back());
+  }
+  std::vector<std::string> texts;
+  texts.reserve(choices.size());
+  for (const Choice &choice : choices) texts.push_back(choice.text);
+  const std::string nearest = Nearest(words, texts);
+  for (const Choice &choice : choices) {
+    if (choice.text == nearest) return "; nearest: " + Described(choice);
+  }
+  return "";
+}
+
+std::string Described(const Choice &choice) {
+  return std::to_string(choice.number) + " " + choice.text;
+}
+
+std::string Described(const std::vector<Choice> &choices) {
+  std::vector<std::string> words;
+  words.reserve(choices.size());
+  for (const Choice &choice : choices) words.push_back(Described(choice));
+  return Listed(words);
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/model/mixers.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+#include "usb/mixers.h"
+
+namespace ztk::cli {
+
+namespace {
+
+// What every mixer can be asked at any time without changing anything.
+constexpr std::uint16_t kQuestionLength = 2;  // bytes
+
+MixerState StateOf(usb::Code code) {
+  switch (code) {
+    case platform::usb::kSuccess:
+      return MixerState::Answered;
+    case platform::usb::kPipeStalled:
+      return MixerState::Refused;
+    case platform::usb::kTimeout:
+      return MixerState::Silent;
+    case platform::usb::kNoDevice:
+      return MixerState::Gone;
+    default:
+      return MixerState::Failed;
+  }
+}
+
+std::string Named(int number) { return "mixer " + std::to_string(number); }
+
+const char *Word(MixerState state) {
+  switch (state) {
+    case MixerState::Answered:
+      return "answered";
+    case MixerState::Refused:
+      return "refused";
+    case MixerState::Silent:
+      return "silent";
+    case MixerState::Gone:
+      return "gone";
+    case MixerState::NotOpened:
+    case MixerState::Failed:
+      break;
+  }
+  return "failed";
+}
+
+// The sentence about a mixer that was opened.
+std::string Sentence(int number, usb::Code code) {
+  switch (StateOf(code)) {
+    case MixerState::Answered:
+      return "";
+    case MixerState::Refused:
+      return Named(number) + " refuses what it is asked";
+    case MixerState::Silent:
+      return Named(number) + " does not answer";
+    case MixerState::Gone:
+      return Named(number) + " is gone: it was unplugged or switched off";
+    case MixerState::NotOpened:
+    case MixerState::Failed:
+      break;
+  }
+  return "the request to " + Named(number) + " " + Described(code);
+}
+
+Mixer Unopened(int number, const std::string &place) {
+  const Access access = TryToOpen(place);
+  return {.number = number,
+          .state = access.obstacle == Obstacle::Vanished
+                       ? MixerState::Gone
+                       : MixerState::NotOpened,
+          .reason = Word(access.obstacle),
+          .message = Named(number) + " " + Explained(access)};
+}
+
+// Its number is what it was called before; its position may have changed.
+Mixer AskMixer(int number, const std::string &place) {
+  const std::vector<std::string> now = MixerPlaces();
+  const auto found = std::find(now.begin(), now.end(), place);
+  if (found == now.end()) return Unopened(number, place);
+  const usb::OpenMixer mixer(static_cast<std::int32_t>(found - now.begin()));
+  if (!mixer) return Unopened(number, place);
+  usb::Reply reply;
+  const usb::Code code = GetFirmwareVersionNumber(mixer.connection(),
+                                                  reply.bytes, kQuestionLength);
+  return {.number = number,
+          .state = StateOf(code),
+          .reason = Word(StateOf(code)),
+          .message = Sentence(number, code)};
+}
+
+std::string InNumbers(std::size_t part, std::size_t all) {
+  if (part == all)
+    return std::to_string(all) + (all == 1 ? " mixer" : " mixers");
+  return std::to_string(part) + " of " + std::to_string(all) + " mixers";
+}
+
+}  // namespace
+
+std::size_t Reach::answered() const {
+  return static_cast<std::size_t>(std::count_if(
+      mixers.begin(), mixers.end(),
+      [](const Mixer &mixer) { return mixer.state == MixerState::Answered; }));
+}
+
+std::size_t Reach::opened() const {
+  return static_cast<std::size_t>(std::count_if(
+      mixers.begin(), mixers.end(),
+      [](const Mixer &mixer) { return mixer.state != MixerState::NotOpened; }));
+}
+
+Reach AskMixers(const std::vector<std::string> &places) {
+  Reach reach;
+  int number = 0;
+  for (const std::string &place : places) {
+    reach.mixers.push_back(AskMixer(++number, place));
+  }
+  return reach;
+}
+
+void AddReach(const Reach &reach, const Outcome &outcome, Report *report) {
+  Json unanswered = Json::array();
+  const std::size_t answered = reach.answered();
+  for (const Mixer &mixer : reach.mixers) {
+    if (mixer.state == MixerState::Answered) continue;
+    unanswered.push_back({{"mixer", mixer.number},
+                          {"reason", mixer.reason},
+                          {"message", mixer.message}});
+    // With one mixer it is the problem itself.
+    if (reach.found() > 1) report->warnings.push_back(mixer.message);
+  }
+  report->fields["mixers"] = {{"found", reach.found()},
+                              {"answered", answered},
+                              {"unanswered", std::move(unanswered)}};
+  if (answered == reach.found() && answered > 0) return;
+  if (answered > 0) {
+    report->problem = {.exit = ExitCode::SomeMixers,
+                       .message = "only " + InNumbers(answered, reach.found()) +
+                                  " answered; " + outcome.someMissing};
+    return;
+  }
+  std::string why = "no mixer is attached";
+  if (reach.found() == 1) why = reach.mixers.front().message;
+  if (reach.found() > 1) {
+    why = "none of " + std::to_string(reach.found()) + " mixers answered";
+  }
+  const bool sent = reach.opened() > 0;
+  report->problem = {.exit = ExitCode::NoMixer,
+                     .message = (sent ? outcome.notAnswered : outcome.notSent) +
+                                ": " + why + "; " + outcome.remedy};
+}
+
+std::string Described(const Reach &reach) {
+  const std::size_t answered = reach.answered();
+  if (answered > 0) return "sent to " + InNumbers(answered, reach.found());
+  return reach.opened() > 0 ? "sent, but not answered" : "not sent";
+}
+
+std::string Described(usb::Code code) {
+  switch (code) {
+    case platform::usb::kPipeStalled:
+      return "refused by the mixer";
+    case platform::usb::kTimeout:
+      return "no answer";
+    case platform::usb::kNoDevice:
+      return "the mixer is gone";
+    default:
+      break;
+  }
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "failed, code 0x%08X",
+                static_cast<unsigned>(code));
+  return text.data();
+}
+
+}  // namespace ztk::cli

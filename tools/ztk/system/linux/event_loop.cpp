@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/system/event_loop.h"
+
+#include <csignal>
+
+#include "notify/families.h"
+#include "platform/linux/bus_connection.h"
+#include "platform/linux/glib_library.h"
+#include "platform/linux/sd_bus_library.h"
+#include "platform/notification_center.h"
+#include "platform/text.h"
+
+namespace ztk::cli {
+
+namespace {
+
+namespace center = platform::notification_center;
+
+struct Loop {
+  GMainLoop *loop = nullptr;
+  LoopEnd end = LoopEnd::Stopped;
+};
+Loop theLoop;
+
+gboolean OnSignal(gpointer /*data*/) {
+  theLoop.end = LoopEnd::Interrupted;
+  StopLoop();
+  return G_SOURCE_CONTINUE;
+}
+
+gboolean OnBusGone(gint /*descriptor*/, GIOCondition /*condition*/,
+                   gpointer /*data*/) {
+  theLoop.end = LoopEnd::NoBus;
+  StopLoop();
+  return G_SOURCE_REMOVE;
+}
+
+struct OutputObserver {
+  OutputListener listener;
+  void *context;
+};
+
+void OnOutputAudio(void *observer, const center::UserInfo *userInfo) {
+  const auto *self = static_cast<const OutputObserver *>(observer);
+  self->listener(center::ReadNumber(userInfo, notify::kChannelKey),
+                 center::ReadNumber(userInfo, notify::kIndexKey),
+                 self->context);
+}
+
+}  // namespace
+
+void ListenToOutputAudio(OutputListener listener, void *context) {
+  // Observers live as long as the process.
+  static OutputObserver observer;
+  observer = {.listener = listener, .context = context};
+  const notify::Family &family = notify::kOutputAudio;
+  const platform::text::Made name(
+      platform::text::Format(family.nameFormat, family.postedModel));
+  center::AddObserver(
+      &observer, {.selector = "outputAudioChanged:", .code = OnOutputAudio},
+      name.get());
+}
+
+LoopEnd RunLoop(void (*ready)()) {
+  if (center::GLib() == nullptr || center::SdBus() == nullptr) {
+    return LoopEnd::NoLibrary;
+  }
+  // The registrations are silent about a bus that is missing or dies; this
+  // connection is there to notice.
+  const center::OwnedBus bus =
+      center::ConnectToSessionBus(center::PatienceEnds());
+  if (bus == nullptr) return LoopEnd::NoBus;
+
+  theLoop = {.loop = center::g_main_loop_new(nullptr, FALSE),
+             .end = LoopEnd::Stopped};
+  const guint sources[] = {
+      center::g_unix_signal_add(SIGINT, OnSignal, nullptr),
+      center::g_unix_signal_add(SIGTERM, OnSignal, nullptr),
+      center::g_unix_fd_add(center::sd_bus_get_fd(bus.get()), G_IO_HUP,
+                            OnBusGone, nullptr)};
+  ready();
+  center::g_main_loop_run(theLoop.loop);
+  for (const guint source : sources) {
+    // One that ended the loop may have gone by itself.
+    if (center::g_main_context_find_source_by_id(nullptr, source) != nullptr) {
+      center::g_source_remove(source);
+    }
+  }
+  center::g_main_loop_unref(theLoop.loop);
+  theLoop.loop = nullptr;
+  return theLoop.end;
+}
+
+void StopLoop() {
+  if (theLoop.loop != nullptr) center::g_main_loop_quit(theLoop.loop);
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/system/text.h"
+
+namespace ztk::cli {
+
+std::string Utf8(ZTKTextRef text) { return text == nullptr ? "" : text; }
+
+LibraryText::LibraryText(const std::string &text) : text_(text.c_str()) {}
+
+LibraryText::~LibraryText() = default;
+
+}  // namespace ztk::cli

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/system/user_manager.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+
+#include "cli/strings.h"
+#include "platform/linux/bus_connection.h"
+#include "ztk/report.h"
+
+namespace ztk::cli {
+
+namespace {
+
+namespace center = platform::notification_center;
+
+// The bus is started by the first who asks, and systemd reads all its units
+// anew: more than the library waits for a bus, in microseconds.
+constexpr std::uint64_t kPatience = 10'000'000;
+
+constexpr char kService[] = "org.freedesktop.systemd1";
+constexpr char kObject[] = "/org/freedesktop/systemd1";
+constexpr char kInterface[] = "org.freedesktop.systemd1.Manager";
+
+// Where udev looks, the first first.
+constexpr const char *kRuleFolders[] = {
+    "/etc/udev/rules.d", "/run/udev/rules.d", "/usr/local/lib/udev/rules.d",
+    "/usr/lib/udev/rules.d", "/lib/udev/rules.d"};
+constexpr char kRule[] = "71-ztk-apply.rules";
+
+// The answer to a call, or why there is none.
+class Answer {
+ public:
+  Answer() = default;
+  ~Answer() {
+    center::sd_bus_error_free(&error_);
+    center::sd_bus_message_unref(message_);
+  }
+  Answer(const Answer &) = delete;
+  Answer &operator=(const Answer &) = delete;
+
+  sd_bus_error *error() { return &error_; }
+  sd_bus_message **message() { return &message_; }
+  std::string Reason(int result) const {
+    return error_.message != nullptr ? error_.message : std::strerror(-result);
+  }
+
+ private:
+  sd_bus_error error_{};
+  sd_bus_message *message_ = nullptr;
+};
+
+[[noreturn]] void Refuse(const std::string &reason) {
+  throw Failure(ExitCode::Failed,
+                "autoapply needs the systemd of your session, which fails (" +
+                    OneLine(reason) +
+                    "); instead, run 'ztk apply' after plugging in");
+}
+
+}  // namespace
+
+struct UserManager::Connection {
+  center::OwnedBus bus = center::ConnectToSessionBus(center::Now() + kPatience);
+
+  template <typename... Arguments>
+  int Call(const char *method, Answer *answer, const char *types,
+           Arguments... arguments) const {
+    return center::sd_bus_call_method(bus.get(), kService, kObject, kInterface,
+                                      method, answer->error(),
+                                      answer->message(), types, arguments...);
+  }
+
+  template <typename... Arguments>
+  void Do(const char *method, const char *types, Arguments... arguments) const {
+    Answer answer;
+    const int result = Call(method, &answer, types, arguments...);
+    if (result < 0) Refuse(answer.Reason(result));
+  }
+};
+
+UserManager::UserManager() : connection_(std::make_unique<Connection>()) {
+  if (connection_->bus == nullptr) Refuse("there is no session message bus");
+  center::sd_bus_set_method_call_timeout(connection_->bus.get(), kPatience);
+}
+
+UserManager::~UserManager() = default;
+
+bool UserManager::Knows(const std::string &unit) {
+  Answer answer;
+  const int result =
+      connection_->Call("GetUnitFileState", &answer, "s", unit.c_str());
+  if (result == -ENOENT) return false;
+  if (result < 0) Refuse(answer.Reason(result));
+  const char *state = nullptr;
+  center::sd_bus_message_read(*answer.message(), "s", &state);
+  return state != nullptr && std::strncmp(state, "linked", 6) == 0;
+}
+
+void UserManager::Link(const std::string &file) {
+  // For good, and in place of a link to somewhere else.
+  connection_->Do("LinkUnitFiles", "asbb", 1, file.c_str(), 0, 1);
+  connection_->Do("Reload", "");
+}
+
+void UserManager::Unlink(const std::string &unit) {
+  connection_->Do("DisableUnitFiles", "asb", 1, unit.c_str(), 0);
+  connection_->Do("Reload", "");
+}
+
+std::string PlugInRule() {
+  for (const char *folder : kRuleFolders) {
+    const std::filesystem::path file = std::filesystem::path(folder) / kRule;
+    std::error_code ignored;
+    if (std::filesystem::exists(file, ignored)) return file;
+  }
+  return "";
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/system/event_loop.h"
+
+#import <Foundation/Foundation.h>
+
+#include <dispatch/dispatch.h>
+
+#include <csignal>
+
+#include "notify/families.h"
+#include "platform/notification_center.h"
+#include "platform/text.h"
+
+namespace {
+
+struct {
+  ztk::cli::OutputListener listener;
+  void *context;
+} theOutputListener;
+
+}  // namespace
+
+@interface ZTKOutputObserver : NSObject
+- (void)outputAudioChanged:(NSNotification *)notification;
+@end
+
+@implementation ZTKOutputObserver
+
+- (void)outputAudioChanged:(NSNotification *)notification {
+  namespace center = ztk::platform::notification_center;
+  const auto *info = (const center::UserInfo *)[notification userInfo];
+  theOutputListener.listener(center::ReadNumber(info, ztk::notify::kChannelKey),
+                             center::ReadNumber(info, ztk::notify::kIndexKey),
+                             theOutputListener.context);
+}
+
+@end
+
+namespace ztk::cli {
+
+namespace {
+
+constexpr int kEndingSignals[] = {SIGINT, SIGTERM};
+
+LoopEnd theEnd = LoopEnd::Stopped;
+
+void OnSignal(void * /*context*/) {
+  theEnd = LoopEnd::Interrupted;
+  StopLoop();
+}
+
+// Has a signal handled on the loop, where it may do more than a handler may.
+dispatch_source_t WatchForSignal(int number) {
+  std::signal(number, SIG_IGN);
+  dispatch_source_t source = dispatch_source_create(
+      DISPATCH_SOURCE_TYPE_SIGNAL, static_cast<std::uintptr_t>(number), 0,
+      dispatch_get_main_queue());
+  dispatch_source_set_event_handler_f(source, OnSignal);
+  dispatch_resume(source);
+  return source;
+}
+
+}  // namespace
+
+void ListenToOutputAudio(OutputListener listener, void *context) {
+  theOutputListener = {.listener = listener, .context = context};
+  const notify::Family &family = notify::kOutputAudio;
+  const platform::text::Made name(
+      platform::text::Format(family.nameFormat, family.postedModel));
+  // Observers live as long as the process.
+  platform::notification_center::AddObserver(
+      [[ZTKOutputObserver alloc] init],
+      {.selector = "outputAudioChanged:", .code = nullptr}, name.get());
+}
+
+// There is a center whenever the user is logged in, and no telling when there
+// is none: LoopEnd::NoBus does not happen here, nor does NoLibrary.
+LoopEnd RunLoop(void (*ready)()) {
+  theEnd = LoopEnd::Stopped;
+  for (const int number : kEndingSignals) WatchForSignal(number);
+  ready();
+  CFRunLoopRun();
+  for (const int number : kEndingSignals) std::signal(number, SIG_DFL);
+  return theEnd;
+}
+
+void StopLoop() { CFRunLoopStop(CFRunLoopGetMain()); }
+
+}  // namespace ztk::cli

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/system/places.h"
+
+namespace ztk::cli {
+
+const char *Word(Obstacle obstacle) {
+  switch (obstacle) {
+    case Obstacle::None:
+      return "busy";
+    case Obstacle::Vanished:
+      return "gone";
+    case Obstacle::NoNode:
+      return "no-node";
+    case Obstacle::NoRight:
+      return "not-permitted";
+    case Obstacle::Forbidden:
+      return "forbidden";
+    case Obstacle::Other:
+      break;
+  }
+  return "not-opened";
+}
+
+}  // namespace ztk::cli

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+//
+// The service manager of the user's session, which starts what a device asks
+// for when it is plugged in.
+#ifndef ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_
+#define ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_
+
+#include <memory>
+#include <string>
+
+namespace ztk::cli {
+
+// Each of these throws a Failure when the manager does not do it.
+class UserManager {
+ public:
+  UserManager();
+  ~UserManager();
+  UserManager(const UserManager &) = delete;
+  UserManager &operator=(const UserManager &) = delete;
+
+  // Whether it knows a unit of this name.
+  bool Knows(const std::string &unit);
+  // Makes the unit in the file known, or no longer, from now on and for good.
+  void Link(const std::string &file);
+  void Unlink(const std::string &unit);
+
+ private:
+  struct Connection;
+  std::unique_ptr<Connection> connection_;
+};
+
+// The rule of the device manager that asks for the unit; empty when none is
+// installed.
+std::string PlugInRule();
+
+}  // namespace ztk::cli
+
+#endif  // ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_
