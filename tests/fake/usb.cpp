@@ -87,16 +87,16 @@ int MixerNumber(std::size_t position) {
   return static_cast<int>(std::count_if(bus.begin(), end, IsMixer));
 }
 
-virtual_mixer::Outcome OutcomeOf(Code result) {
+virtual_mixer::TransferStatus TransferStatusOf(Code result) {
   switch (result) {
     case kSuccess:
-      return virtual_mixer::Outcome::Ok;
+      return virtual_mixer::TransferStatus::Ok;
     case kPipeStalled:
-      return virtual_mixer::Outcome::Stall;
+      return virtual_mixer::TransferStatus::Stall;
     case kTimeout:
-      return virtual_mixer::Outcome::Silence;
+      return virtual_mixer::TransferStatus::Silence;
     default:
-      return virtual_mixer::Outcome::Gone;
+      return virtual_mixer::TransferStatus::Gone;
   }
 }
 
@@ -266,7 +266,7 @@ Code Request(Device *device, ControlRequest *request) {
                        .value = request->value,
                        .index = request->index,
                        .length = request->length},
-                      OutcomeOf(answer.result), answer.bytes.data(),
+                      TransferStatusOf(answer.result), answer.bytes.data(),
                       answer.bytes.size()));
   return answer.result;
 }

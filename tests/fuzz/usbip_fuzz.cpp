@@ -28,7 +28,8 @@ void AddFaults(Devices *devices) {
     std::string error;
     const auto fault = ParseFault(text, &error);
     Require(fault.has_value());
-    devices->WithMixer(1, [&](MixerModel &mixer) { mixer.AddFault(*fault); });
+    devices->Bus().WithMixer(
+        1, [&](MixerModel &mixer) { mixer.AddFault(*fault); });
   }
 }
 

@@ -87,9 +87,9 @@ IOReturn Close(void *self) {
   return Enter(self, "USBDeviceClose") ? kIOReturnNotOpen : kIOReturnNoDevice;
 }
 
-virtual_mixer::Outcome OutcomeOf(IOReturn result) {
-  return result == kIOReturnSuccess ? virtual_mixer::Outcome::Ok
-                                    : virtual_mixer::Outcome::Stall;
+virtual_mixer::TransferStatus TransferStatusOf(IOReturn result) {
+  return result == kIOReturnSuccess ? virtual_mixer::TransferStatus::Ok
+                                    : virtual_mixer::TransferStatus::Stall;
 }
 
 IOReturn Request(void *self, IOUSBDevRequest *request) {
@@ -116,7 +116,7 @@ IOReturn Request(void *self, IOUSBDevRequest *request) {
        .value = request->wValue,
        .index = request->wIndex,
        .length = request->wLength},
-      OutcomeOf(reply.result), reply.bytes.data(), reply.bytes.size()));
+      TransferStatusOf(reply.result), reply.bytes.data(), reply.bytes.size()));
   return reply.result;
 }
 

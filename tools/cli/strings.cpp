@@ -37,6 +37,14 @@ std::optional<std::uint32_t> ParseNumber(const std::string &word) {
   return Parse(word.data(), word.data() + word.size(), 10);
 }
 
+std::optional<std::uint32_t> ParseNumber(const std::string &word,
+                                         std::uint32_t least,
+                                         std::uint32_t most) {
+  const std::optional<std::uint32_t> number = ParseNumber(word);
+  if (!number || *number < least || *number > most) return std::nullopt;
+  return number;
+}
+
 std::optional<std::uint32_t> ParseDecimalOrHex(const std::string &word) {
   if (!word.starts_with("0x") && !word.starts_with("0X")) {
     return ParseNumber(word);

@@ -17,6 +17,10 @@ std::string LowerCase(std::string text);
 // A number of decimal digits and nothing else; none when it is not, or when it
 // does not fit.
 std::optional<std::uint32_t> ParseNumber(const std::string &word);
+// The same, between two bounds that are both accepted.
+std::optional<std::uint32_t> ParseNumber(const std::string &word,
+                                         std::uint32_t least,
+                                         std::uint32_t most);
 
 // The same, or "0x" and hexadecimal digits.
 std::optional<std::uint32_t> ParseDecimalOrHex(const std::string &word);

@@ -12,7 +12,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "virtual-mixer/mixer/fault.h"
+#include "cli/strings.h"
 
 namespace ztk::virtual_mixer {
 namespace {
@@ -73,7 +73,7 @@ std::vector<pid_t> Children() {
   for (const auto &entry :
        std::filesystem::directory_iterator("/proc", ignored)) {
     const auto pid =
-        ParseNumber(entry.path().filename().string(), 1, 0x7FFFFFFF);
+        cli::ParseNumber(entry.path().filename().string(), 1, 0x7FFFFFFF);
     if (!pid) continue;
     const auto child = static_cast<pid_t>(*pid);
     if (ParentOf(child) == getpid()) children.push_back(child);

@@ -48,16 +48,12 @@ void PrepareAssignment(MixerWorld *world, const char *option,
   PrepareOne(world, option, text, std::string(command) + " " + words);
 }
 
-// Whole lines, at once: who reads the file after a request finds it there.
-void WriteLine(int descriptor, std::string line) {
-  line += '\n';
-  std::string_view rest = line;
-  while (!rest.empty()) {
-    const ssize_t written = write(descriptor, rest.data(), rest.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return;
-    rest.remove_prefix(static_cast<std::size_t>(written));
-  }
+// Writes a whole line with one call: a program that reads the file after its
+// request finds the line there.
+void WriteLine(int file, const std::string &line) {
+  WriteAll(line + '\n', [file](const char *data, std::size_t size) {
+    return write(file, data, size);
+  });
 }
 
 // "NAME=" of "NAME=value".
@@ -86,7 +82,7 @@ void Prepare(MixerWorld *world, const WorldOptions &options) {
 
 LogFile::LogFile(const std::string &name) {
   if (name.empty()) return;
-  file_ = Descriptor(open(
+  file_ = FileDescriptor(open(
       name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0666));
   if (file_.Get() < 0) {
     throw std::runtime_error("cannot write the log " + name + ": " +

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "virtual-mixer/control/control_socket.h"
+#include "common/file_descriptor.h"
 #include "virtual-mixer/mixer/mixer_world.h"
 
 namespace ztk::virtual_mixer {
@@ -46,7 +46,7 @@ class LogFile {
   LogSink Sink() const;
 
  private:
-  Descriptor file_;
+  FileDescriptor file_;
 };
 
 // A program that has closed its standard streams gives their numbers to the

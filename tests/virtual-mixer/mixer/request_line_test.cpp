@@ -9,9 +9,9 @@
 
 namespace {
 
-using ztk::virtual_mixer::Outcome;
 using ztk::virtual_mixer::RequestLine;
 using ztk::virtual_mixer::SetupPacket;
+using ztk::virtual_mixer::TransferStatus;
 
 constexpr SetupPacket kRead{.requestType = 0xC0,
                             .request = 0,
@@ -29,58 +29,63 @@ TEST(RequestLine, HasOneFormForEachEnding) {
     const char *name;
     int mixer;
     SetupPacket setup;
-    Outcome outcome;
+    TransferStatus status;
     std::vector<std::uint8_t> bytes;
     const char *expected;
   };
   const std::vector<Row> rows{
-      {"write", 1, kWrite, Outcome::Ok, {}, "mixer 1: 40 03 0206 8002 0000"},
+      {"write",
+       1,
+       kWrite,
+       TransferStatus::Ok,
+       {},
+       "mixer 1: 40 03 0206 8002 0000"},
       {"read",
        1,
        kRead,
-       Outcome::Ok,
+       TransferStatus::Ok,
        {0, 4, 4, 4, 4},
        "mixer 1: c0 00 0000 8002 0005 -> 00 04 04 04 04"},
       {"second mixer, digits above 9",
        12,
        kRead,
-       Outcome::Ok,
+       TransferStatus::Ok,
        {0xAB, 0xFF},
        "mixer 12: c0 00 0000 8002 0005 -> ab ff"},
       {"read of nothing",
        1,
        kRead,
-       Outcome::Ok,
+       TransferStatus::Ok,
        {},
        "mixer 1: c0 00 0000 8002 0005 ->"},
       {"stalled read",
        1,
        kRead,
-       Outcome::Stall,
+       TransferStatus::Stall,
        {1},
        "mixer 1: c0 00 0000 8002 0005 -> stall"},
       {"stalled write",
        1,
        kWrite,
-       Outcome::Stall,
+       TransferStatus::Stall,
        {},
        "mixer 1: 40 03 0206 8002 0000 -> stall"},
       {"silence",
        1,
        kRead,
-       Outcome::Silence,
+       TransferStatus::Silence,
        {},
        "mixer 1: c0 00 0000 8002 0005 -> silence"},
       {"gone",
        1,
        kRead,
-       Outcome::Gone,
+       TransferStatus::Gone,
        {},
        "mixer 1: c0 00 0000 8002 0005 -> gone"},
   };
   for (const Row &row : rows) {
     SCOPED_TRACE(row.name);
-    EXPECT_EQ(RequestLine(row.mixer, row.setup, row.outcome, row.bytes.data(),
+    EXPECT_EQ(RequestLine(row.mixer, row.setup, row.status, row.bytes.data(),
                           row.bytes.size()),
               row.expected);
   }
@@ -93,7 +98,7 @@ TEST(RequestLine, WritesEveryFieldAtItsFullWidth) {
                          .value = 0x000C,
                          .index = 0x000D,
                          .length = 0xFFFF},
-                        Outcome::Ok),
+                        TransferStatus::Ok),
             "mixer 1: 0a 0b 000c 000d ffff");
 }
 

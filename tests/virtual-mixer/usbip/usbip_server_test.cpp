@@ -81,7 +81,7 @@ class Client {
   }
 
  private:
-  Descriptor socket_;
+  FileDescriptor socket_;
 };
 
 TEST(UsbipServer, ListsAndServesOverTheNetwork) {

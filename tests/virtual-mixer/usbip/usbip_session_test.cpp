@@ -47,7 +47,7 @@ class UsbipSession : public testing::Test {
     std::string error;
     const auto fault = ParseFault(text, &error);
     ASSERT_TRUE(fault) << error;
-    devices_->WithMixer(1, [&](MixerModel &m) { m.AddFault(*fault); });
+    devices_->Bus().WithMixer(1, [&](MixerModel &m) { m.AddFault(*fault); });
   }
   static void Say(Session *session, const Bytes &bytes) {
     session->Receive(bytes.data(), bytes.size(), Session::Clock::time_point());
@@ -93,7 +93,7 @@ TEST_F(UsbipSession, ListsNothingWhereNothingIsServed) {
 
 TEST_F(UsbipSession, ListsNeitherMixersInUseNorUnpluggedOnes) {
   Plug(3);
-  devices_->Unplug(3);
+  devices_->Bus().Unplug(3);
   Session other(devices_.get());
   Ask(&other, ImportRequest("1-1"));
   EXPECT_EQ(Ask(ListRequest()), Join({FromHex("0111 0005 00000000 00000001"),
@@ -120,7 +120,7 @@ TEST_F(UsbipSession, TellsAStrangerApart) {
 
 TEST_F(UsbipSession, RefusesAMixerThatIsNotThereOrInUse) {
   Plug(2);
-  devices_->Unplug(2);
+  devices_->Bus().Unplug(2);
   Session holder(devices_.get());
   Ask(&holder, ImportRequest("1-1"));
   const struct {
@@ -216,10 +216,10 @@ TEST_F(UsbipSession, StandardRequestsAnswerAsTheDevice) {
 TEST_F(UsbipSession, ANewClientFindsTheMixerUnconfiguredButAsItWasSet) {
   Import();
   Ask(Write(1, "00 09 0100 0000 0000"));
-  EXPECT_TRUE(devices_->WaitUntilConfigured(0, milliseconds(0)));
-  devices_->WithMixer(1, [](MixerModel &m) { m.TurnSelector(0, 9); });
+  EXPECT_TRUE(devices_->Bus().WaitUntilConfigured(0, milliseconds(0)));
+  devices_->Bus().WithMixer(1, [](MixerModel &m) { m.TurnSelector(0, 9); });
   session_ = std::make_unique<Session>(devices_.get());
-  EXPECT_FALSE(devices_->WaitUntilConfigured(0, milliseconds(0)));
+  EXPECT_FALSE(devices_->Bus().WaitUntilConfigured(0, milliseconds(0)));
   Ask(ImportRequest("1-1"));
   EXPECT_EQ(Ask(Read(1, "80 08 0000 0000 0100", 1)), Submitted(1, 0, 1, "00"));
   EXPECT_EQ(Ask(Read(2, kAskSelectors, 5)), Submitted(2, 0, 5, "0009040404"));
@@ -302,7 +302,7 @@ TEST_F(UsbipSession, UnpluggedFromOutsideWhatWaitsHasGone) {
   Import();
   Fault("silence");
   Ask(Read(1, kAskSelectors, 5));
-  devices_->Unplug(1);
+  devices_->Bus().Unplug(1);
   session_->Continue(After(milliseconds(0)));
   EXPECT_TRUE(session_->Broken());
   EXPECT_THAT(log_, ElementsAre("mixer 1: c0 00 0000 8002 0005 -> gone"));
@@ -310,8 +310,8 @@ TEST_F(UsbipSession, UnpluggedFromOutsideWhatWaitsHasGone) {
 
 TEST_F(UsbipSession, AMixerThatComesBackHasToBeImportedAnew) {
   Import();
-  devices_->Unplug(1);
-  devices_->PlugIn(1);
+  devices_->Bus().Unplug(1);
+  devices_->Bus().PlugIn(1);
   EXPECT_THAT(Ask(Read(1, kAskSelectors, 5)), IsEmpty());
   EXPECT_TRUE(session_->Broken());
   session_ = std::make_unique<Session>(devices_.get());

@@ -3,8 +3,8 @@
 
 #include <utility>
 
+#include "cli/strings.h"
 #include "virtual-mixer/commands/command_parts.h"
-#include "virtual-mixer/mixer/fault.h"
 #include "virtual-mixer/world_options.h"
 
 namespace ztk::virtual_mixer {
@@ -23,7 +23,7 @@ const char kFaultHelp[] =
 
 unsigned Number(const char *what, const std::string &text, unsigned least,
                 unsigned most) {
-  if (const auto number = ParseNumber(text, least, most)) return *number;
+  if (const auto number = cli::ParseNumber(text, least, most)) return *number;
   throw UsageError("bad " + std::string(what) + " \"" + text +
                    "\"; accepted: " + std::to_string(least) + " to " +
                    std::to_string(most));

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "cli/strings.h"
 #include "virtual-mixer/mixer/fault.h"
 
 namespace ztk::virtual_mixer {
@@ -46,7 +47,7 @@ std::vector<int> ChosenMixers(const MixerWorld &world,
   }
   const auto number =
       count == 0 ? std::nullopt
-                 : ParseNumber(text, 1, static_cast<std::uint32_t>(count));
+                 : cli::ParseNumber(text, 1, static_cast<std::uint32_t>(count));
   if (!number) {
     throw Refusal("no mixer \"" + text + "\"; there are " +
                   std::to_string(count) + ", counted from 1");
@@ -62,8 +63,8 @@ std::string Named(const std::string &word, std::size_t count) {
 }
 
 void Turn(MixerWorld *world, int mixer, const Words &words) {
-  const auto channel = ParseNumber(words[2], 1, kSelectors);
-  const auto position = ParseNumber(words[3], 0, 255);
+  const auto channel = cli::ParseNumber(words[2], 1, kSelectors);
+  const auto position = cli::ParseNumber(words[3], 0, 255);
   if (!channel) {
     throw Refusal("no channel \"" + words[2] + "\"; selectors have 1 to 4");
   }
@@ -105,14 +106,14 @@ void SetReply(MixerWorld *world, int mixer, const Words &words) {
 }
 
 // Every command that is done to mixers.
-struct Command {
+struct ControlCommand {
   std::string_view name;
   std::size_t words;
   std::string_view usage;
   void (*run)(MixerWorld *, int mixer, const Words &);
 };
 
-constexpr std::array<Command, 7> kCommands{{
+constexpr std::array<ControlCommand, 7> kCommands{{
     {"turn", 4, "turn M CHANNEL POSITION", Turn},
     {"fault", 3, "fault M FAULT", SetFault},
     {"reply", 4, "reply M REGISTER HEX", SetReply},
@@ -174,7 +175,7 @@ std::string Show(MixerWorld *world) {
 
 std::string Run(MixerWorld *world, const Words &words) {
   if (words.size() == 1 && words[0] == "show") return Show(world);
-  for (const Command &command : kCommands) {
+  for (const ControlCommand &command : kCommands) {
     if (words.empty() || command.name != words[0]) continue;
     if (command.words != words.size()) {
       throw Refusal("the form is: " + std::string(command.usage));

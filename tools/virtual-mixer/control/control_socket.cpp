@@ -33,8 +33,8 @@ sockaddr_un AddressOf(const std::string &path) {
   return address;
 }
 
-Descriptor MakeSocket() {
-  Descriptor made(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+FileDescriptor MakeSocket() {
+  FileDescriptor made(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
   if (made.Get() < 0) throw std::runtime_error("cannot make a socket");
   return made;
 }
@@ -43,17 +43,11 @@ const sockaddr *Generic(const sockaddr_un *address) {
   return reinterpret_cast<const sockaddr *>(address);
 }
 
-bool SendLine(int connection, std::string line) {
-  line += '\n';
-  std::string_view rest = line;
-  while (!rest.empty()) {
-    const ssize_t sent =
-        send(connection, rest.data(), rest.size(), MSG_NOSIGNAL);
-    if (sent < 0 && errno == EINTR) continue;
-    if (sent <= 0) return false;
-    rest.remove_prefix(static_cast<std::size_t>(sent));
-  }
-  return true;
+bool SendLine(int connection, const std::string &line) {
+  return WriteAll(line + '\n',
+                  [connection](const char *data, std::size_t size) {
+                    return send(connection, data, size, MSG_NOSIGNAL);
+                  });
 }
 
 // One line without its end; false when the other side stops before it.
@@ -73,16 +67,6 @@ bool ReceiveLine(int connection, std::string *line) {
 }
 
 }  // namespace
-
-Descriptor::~Descriptor() {
-  if (number_ >= 0) close(number_);
-}
-Descriptor::Descriptor(Descriptor &&other) noexcept
-    : number_(std::exchange(other.number_, -1)) {}
-Descriptor &Descriptor::operator=(Descriptor &&other) noexcept {
-  std::swap(number_, other.number_);
-  return *this;
-}
 
 ControlServer::ControlServer(const std::string &path, Handler handler)
     : handler_(std::move(handler)),
@@ -110,7 +94,7 @@ void ControlServer::Serve() {
     if (poll(watched.data(), watched.size(), -1) < 0) continue;
     if (watched[1].revents != 0) return;
     if (watched[0].revents == 0) continue;
-    const Descriptor connection(
+    const FileDescriptor connection(
         accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC));
     if (connection.Get() >= 0) Answer(connection.Get());
   }
@@ -125,7 +109,7 @@ void ControlServer::Answer(int connection) {
 
 std::string AskControl(const std::string &path, const std::string &line) {
   const sockaddr_un address = AddressOf(path);
-  const Descriptor connection = MakeSocket();
+  const FileDescriptor connection = MakeSocket();
   if (connect(connection.Get(), Generic(&address), sizeof address) != 0) {
     if (errno == EACCES) {
       throw std::runtime_error("the mixers at " + path +

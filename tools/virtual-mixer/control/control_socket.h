@@ -10,23 +10,12 @@
 #include <string_view>
 #include <thread>
 
+#include "common/file_descriptor.h"
+
 namespace ztk::virtual_mixer {
 
 // Names the socket's path to programs.
 inline constexpr char kControlVariable[] = "ZTK_VIRTUAL_MIXER_CONTROL";
-
-// Closes a descriptor when it goes.
-class Descriptor {
- public:
-  explicit Descriptor(int number = -1) : number_(number) {}
-  ~Descriptor();
-  Descriptor(Descriptor &&other) noexcept;
-  Descriptor &operator=(Descriptor &&other) noexcept;
-  int Get() const { return number_; }
-
- private:
-  int number_;
-};
 
 class ControlServer {
  public:
@@ -45,9 +34,9 @@ class ControlServer {
   void Answer(int connection);
 
   const Handler handler_;
-  Descriptor listener_;
+  FileDescriptor listener_;
   // Readable once the server is to end.
-  Descriptor ended_;
+  FileDescriptor ended_;
   std::thread thread_;
 };
 

@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "virtual-mixer/mixer/standard_requests.h"
-
 namespace ztk::virtual_mixer {
 namespace {
 
@@ -15,8 +13,8 @@ constexpr std::uint8_t kWriteType = 0x40;
 constexpr std::uint8_t kReadRequest = 0;
 constexpr std::uint8_t kWriteRequest = 3;
 
-Answer Failure(Outcome outcome) {
-  return {.outcome = outcome, .data = {}, .delay = {}};
+Answer Failure(TransferStatus status) {
+  return {.status = status, .data = {}, .delay = {}};
 }
 
 void CutTo(std::size_t most, Bytes *data) {
@@ -25,9 +23,8 @@ void CutTo(std::size_t most, Bytes *data) {
 
 }  // namespace
 
-MixerModel::MixerModel(int number)
-    : descriptors_(MixerDescriptors(number)),
-      replies_{{kReadFirmware, {0x36, 0x04}},
+MixerModel::MixerModel()
+    : replies_{{kReadFirmware, {0x36, 0x04}},
                // The first byte means nothing; one position a channel follows.
                {kReadSelectors, {0, 4, 4, 4, 4}},
                {kReadSerato, {0, 0}},
@@ -38,20 +35,6 @@ MixerModel::MixerModel(int number)
                {kWriteMidiChannel, std::nullopt},
                {kWriteMidiKeyMode, std::nullopt},
                {kWriteOutputRouting, std::nullopt}} {}
-
-Answer MixerModel::Handle(const ControlRequest &request) {
-  if (!attached_) return Failure(Outcome::Gone);
-  if (!IsStandardRequest(request.setup)) return HandleVendor(request.setup);
-  Answer answer;
-  answer.outcome = AnswerStandardRequest(descriptors_, request.setup,
-                                         &configuration_, &answer.data);
-  return answer;
-}
-
-void MixerModel::SetAttached(bool attached) {
-  attached_ = attached;
-  configuration_ = 0;
-}
 
 bool MixerModel::TurnSelector(int channel, std::uint8_t position) {
   if (channel < 0 || channel >= kSelectors) return false;
@@ -95,25 +78,24 @@ std::optional<Fault> MixerModel::TakeFault(const SetupPacket &setup) {
   return taken;
 }
 
-Answer MixerModel::HandleVendor(const SetupPacket &setup) {
+Answer MixerModel::Handle(const SetupPacket &setup) {
   const std::optional<Fault> fault = TakeFault(setup);
-  if (!fault) return HandleSound(setup);
+  if (!fault) return HandleWithoutFault(setup);
   switch (fault->kind) {
     case Fault::Kind::Stall:
-      return Failure(Outcome::Stall);
+      return Failure(TransferStatus::Stall);
     case Fault::Kind::Silence:
-      return Failure(Outcome::Silence);
+      return Failure(TransferStatus::Silence);
     case Fault::Kind::Unplug:
       ClearFaults();
-      SetAttached(false);
-      return Failure(Outcome::Gone);
+      return Failure(TransferStatus::Gone);
     case Fault::Kind::Delay:
     case Fault::Kind::Short:
     case Fault::Kind::WrongBytes:
       break;
   }
-  Answer answer = HandleSound(setup);
-  if (answer.outcome != Outcome::Ok) return answer;
+  Answer answer = HandleWithoutFault(setup);
+  if (answer.status != TransferStatus::Ok) return answer;
   if (fault->kind == Fault::Kind::Delay) {
     answer.delay = std::chrono::milliseconds(fault->amount);
   }
@@ -125,12 +107,11 @@ Answer MixerModel::HandleVendor(const SetupPacket &setup) {
   return answer;
 }
 
-// The answer of a mixer that is well.
-Answer MixerModel::HandleSound(const SetupPacket &setup) {
+Answer MixerModel::HandleWithoutFault(const SetupPacket &setup) {
   if (setup.requestType == kReadType && setup.request == kReadRequest &&
       setup.value == 0) {
     const auto reply = replies_.find(setup.index);
-    if (reply == replies_.end()) return Failure(Outcome::Stall);
+    if (reply == replies_.end()) return Failure(TransferStatus::Stall);
     Answer answer;
     answer.data = reply->second;
     CutTo(setup.length, &answer.data);
@@ -139,11 +120,11 @@ Answer MixerModel::HandleSound(const SetupPacket &setup) {
   if (setup.requestType == kWriteType && setup.request == kWriteRequest &&
       setup.length == 0) {
     const auto last = written_.find(setup.index);
-    if (last == written_.end()) return Failure(Outcome::Stall);
+    if (last == written_.end()) return Failure(TransferStatus::Stall);
     last->second = setup.value;
     return {};
   }
-  return Failure(Outcome::Stall);
+  return Failure(TransferStatus::Stall);
 }
 
 }  // namespace ztk::virtual_mixer

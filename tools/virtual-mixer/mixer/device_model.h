@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The virtual mixer itself: what it answers to a control request. It knows
-// nothing of how requests reach it, so every front can use it.
+// The virtual mixer itself: its registers, what it answers to vendor requests,
+// and the faults that it can be given.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_MIXER_DEVICE_MODEL_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_DEVICE_MODEL_H_
 
@@ -17,14 +17,8 @@
 
 namespace ztk::virtual_mixer {
 
-struct ControlRequest {
-  SetupPacket setup;
-  // Data stage of a write. The mixer's own writes have none.
-  Bytes data;
-};
-
 struct Answer {
-  Outcome outcome = Outcome::Ok;
+  TransferStatus status = TransferStatus::Ok;
   // Reply of a read, never longer than was asked for.
   Bytes data;
   // How late the answer comes. What a write changes is changed at once.
@@ -46,27 +40,17 @@ inline constexpr std::uint16_t kWriteOutputRouting = 0x8016;
 // Channels that have an input selector; counted from 0 here.
 inline constexpr int kSelectors = 4;
 
-// Not thread-safe: the front calls it from one thread at a time.
+// Not thread-safe: the bus calls it from one thread at a time.
 class MixerModel {
  public:
-  // The n-th mixer of its world, counted from 1. It starts attached, with
-  // every selector at position 4, firmware reply 36 04, Serato inactive, port
-  // information 00 00 and certification level 00 00 00 01.
-  explicit MixerModel(int number);
+  // It starts with every selector at position 4, firmware reply 36 04, Serato
+  // inactive, port information 00 00 and certification level 00 00 00 01.
+  MixerModel();
 
-  const Descriptors &GetDescriptors() const { return descriptors_; }
-
-  // Answers a request as the mixer would, faults included. A request that no
-  // mixer knows is stalled. Faults touch vendor requests only, so that the
-  // mixer can always be recognised. Gone once it is detached; an Unplug fault
-  // detaches it.
-  Answer Handle(const ControlRequest &request);
-
-  // What is set outlives being detached: the mixer has its own power supply.
-  bool Attached() const { return attached_; }
-  void SetAttached(bool attached);
-  // The configuration that a system has chosen, 0 for none.
-  std::uint8_t Configuration() const { return configuration_; }
+  // Answers a vendor request as the mixer would, faults included. A request
+  // that no mixer knows is stalled. Gone when an Unplug fault takes the mixer
+  // off the bus, which ends all its faults.
+  Answer Handle(const SetupPacket &setup);
 
   // A knob: channel 0 to 3. False when there is no such channel.
   bool TurnSelector(int channel, std::uint8_t position);
@@ -91,12 +75,8 @@ class MixerModel {
 
  private:
   std::optional<Fault> TakeFault(const SetupPacket &setup);
-  Answer HandleVendor(const SetupPacket &setup);
-  Answer HandleSound(const SetupPacket &setup);
+  Answer HandleWithoutFault(const SetupPacket &setup);
 
-  Descriptors descriptors_;
-  bool attached_ = true;
-  std::uint8_t configuration_ = 0;
   std::map<std::uint16_t, Bytes> replies_;
   std::map<std::uint16_t, std::optional<std::uint16_t>> written_;
   std::vector<Fault> faults_;

@@ -6,6 +6,8 @@
 #include <charconv>
 #include <cstdio>
 
+#include "cli/strings.h"
+
 namespace ztk::virtual_mixer {
 namespace {
 
@@ -58,7 +60,8 @@ bool ReadArgument(std::optional<std::string_view> text, Fault *fault) {
     case Fault::Kind::Short: {
       const bool delay = fault->kind == Fault::Kind::Delay;
       const auto amount =
-          text ? ParseNumber(*text, delay ? 1 : 0, delay ? 60000 : 63)
+          text ? cli::ParseNumber(std::string(*text), delay ? 1 : 0,
+                                  delay ? 60000 : 63)
                : std::nullopt;
       fault->amount = amount.value_or(0);
       return amount.has_value();
@@ -104,7 +107,7 @@ std::optional<Fault> ParseFault(std::string_view text, std::string *error) {
   const std::string_view whole = text;
   Fault fault;
   if (const auto times = CutTail(&text, '*')) {
-    fault.timesLeft = ParseNumber(*times, 1, 1000000);
+    fault.timesLeft = cli::ParseNumber(std::string(*times), 1, 1000000);
     if (!fault.timesLeft) return Refuse("bad number of times", *times, error);
   }
   if (const auto scope = CutTail(&text, '@')) {
@@ -147,17 +150,6 @@ std::string FormatFault(const Fault &fault) {
   }
   if (fault.timesLeft) text += "*" + std::to_string(*fault.timesLeft);
   return text;
-}
-
-std::optional<std::uint32_t> ParseNumber(std::string_view text,
-                                         std::uint32_t least,
-                                         std::uint32_t most) {
-  std::uint32_t number = 0;
-  const char *const end = text.data() + text.size();
-  const auto [stop, failure] = std::from_chars(text.data(), end, number);
-  if (failure != std::errc() || stop != end) return std::nullopt;
-  if (number < least || number > most) return std::nullopt;
-  return number;
 }
 
 std::optional<std::uint16_t> ParseRegister(std::string_view text) {

@@ -53,11 +53,8 @@ std::optional<Fault> ParseFault(std::string_view text, std::string *error);
 // The text form, with the number of times that are left.
 std::string FormatFault(const Fault &fault);
 
-// Small readers that the command line shares. Each takes the whole text or
-// answers nothing.
-std::optional<std::uint32_t> ParseNumber(std::string_view text,
-                                         std::uint32_t least,
-                                         std::uint32_t most);
+// Both read the whole text, or return nothing. A register has four hexadecimal
+// digits.
 std::optional<std::uint16_t> ParseRegister(std::string_view text);
 // Pairs of hexadecimal digits, 1 to 64 of them.
 std::optional<std::vector<std::uint8_t>> ParseBytes(std::string_view text);

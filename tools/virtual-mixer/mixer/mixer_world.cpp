@@ -15,26 +15,28 @@ std::vector<Placement> SpreadDevices(int mixers, int others, int buses) {
   const int used = std::max({buses, fewest, 1});
   const int onEach = std::max((total + used - 1) / used, 1);
   std::vector<Placement> placements;
-  std::size_t stranger = 0;
+  std::size_t other = 0;
   for (int i = 0; i < total; ++i) {
     const bool isMixer = i >= before && i < before + mixers;
-    placements.push_back({.kind = isMixer ? DeviceKind::Mixer
-                                          : kKinds[stranger++ % kKinds.size()],
-                          .bus = i / onEach + 1});
+    placements.push_back(
+        {.kind = isMixer ? DeviceKind::Mixer : kKinds[other++ % kKinds.size()],
+         .bus = i / onEach + 1});
   }
   return placements;
 }
 
-Descriptors DescriptorsOf(DeviceKind kind, int mixer) {
+Descriptors DescriptorsOf(DeviceKind kind, int number) {
   switch (kind) {
     case DeviceKind::Mixer:
-      return MixerDescriptors(mixer);
+      return MixerDescriptors(number);
     case DeviceKind::Hub:
       return HubDescriptors();
     case DeviceKind::Keyboard:
       return KeyboardDescriptors();
     case DeviceKind::Storage:
       return StorageDescriptors();
+    case DeviceKind::RootHub:
+      return RootHubDescriptors(number);
     case DeviceKind::Sibling:
       break;
   }

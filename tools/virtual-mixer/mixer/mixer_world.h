@@ -15,21 +15,22 @@
 
 namespace ztk::virtual_mixer {
 
-enum class DeviceKind { Mixer, Hub, Keyboard, Storage, Sibling };
+enum class DeviceKind { Mixer, Hub, Keyboard, Storage, Sibling, RootHub };
 
-// One device of a world. Devices are numbered along each bus in the order in
+// One device. Devices are plugged into the ports of each bus in the order in
 // which they are listed.
 struct Placement {
   DeviceKind kind = DeviceKind::Mixer;
   int bus = 1;
 };
 
-// Mixers with half of the strangers before them and half behind, filling
-// `buses` buses in this order; more buses when the ports do not suffice.
+// Mixers, with half of the other devices before them and half after them, on
+// `buses` buses in this order; on more buses when the ports do not suffice.
 std::vector<Placement> SpreadDevices(int mixers, int others, int buses);
 
-// What a device of this kind says of itself; `mixer` is the number of a mixer.
-Descriptors DescriptorsOf(DeviceKind kind, int mixer);
+// The descriptors of a device of this kind; `number` is the number of a mixer
+// or, for a root hub, of its bus.
+Descriptors DescriptorsOf(DeviceKind kind, int number);
 
 struct MixerStatus {
   Address address;

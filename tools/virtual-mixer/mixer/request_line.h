@@ -30,7 +30,7 @@ struct SetupPacket {
 };
 
 // How a request ended, as the one who sent it sees it.
-enum class Outcome { Ok, Stall, Silence, Gone };
+enum class TransferStatus { Ok, Stall, Silence, Gone };
 
 inline bool IsRead(const SetupPacket &setup) {
   return (setup.requestType & 0x80) != 0;
@@ -51,7 +51,7 @@ inline std::string HexBytes(const std::uint8_t *bytes, std::size_t count) {
 // The line, without a line end. `bytes` is what a read delivered; it is not
 // looked at when the request failed or was a write.
 inline std::string RequestLine(int mixer, const SetupPacket &setup,
-                               Outcome outcome,
+                               TransferStatus status,
                                const std::uint8_t *bytes = nullptr,
                                std::size_t count = 0) {
   std::array<char, 64> head{};
@@ -61,14 +61,14 @@ inline std::string RequestLine(int mixer, const SetupPacket &setup,
       static_cast<unsigned>(setup.request), static_cast<unsigned>(setup.value),
       static_cast<unsigned>(setup.index), static_cast<unsigned>(setup.length));
   std::string line = head.data();
-  switch (outcome) {
-    case Outcome::Stall:
+  switch (status) {
+    case TransferStatus::Stall:
       return line + " -> stall";
-    case Outcome::Silence:
+    case TransferStatus::Silence:
       return line + " -> silence";
-    case Outcome::Gone:
+    case TransferStatus::Gone:
       return line + " -> gone";
-    case Outcome::Ok:
+    case TransferStatus::Ok:
       break;
   }
   if (!IsRead(setup)) return line;

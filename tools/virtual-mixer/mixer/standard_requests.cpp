@@ -63,21 +63,21 @@ std::optional<Bytes> Read(const Descriptors &descriptors,
   }
 }
 
-Outcome Write(const SetupPacket &setup, std::uint8_t *configuration) {
+TransferStatus Write(const SetupPacket &setup, std::uint8_t *configuration) {
   switch (setup.request) {
     case kSetConfiguration:
-      if (setup.value > 1) return Outcome::Stall;
+      if (setup.value > 1) return TransferStatus::Stall;
       *configuration = static_cast<std::uint8_t>(setup.value);
-      return Outcome::Ok;
+      return TransferStatus::Ok;
     case kSetInterface:
-      return setup.value == 0 && setup.index == 0 ? Outcome::Ok
-                                                  : Outcome::Stall;
+      return setup.value == 0 && setup.index == 0 ? TransferStatus::Ok
+                                                  : TransferStatus::Stall;
     case kSetAddress:
     case kClearFeature:
     case kSetFeature:
-      return Outcome::Ok;
+      return TransferStatus::Ok;
     default:
-      return Outcome::Stall;
+      return TransferStatus::Stall;
   }
 }
 
@@ -87,16 +87,16 @@ bool IsStandardRequest(const SetupPacket &setup) {
   return (setup.requestType & kTypeMask) == 0;
 }
 
-Outcome AnswerStandardRequest(const Descriptors &descriptors,
-                              const SetupPacket &setup,
-                              std::uint8_t *configuration, Bytes *data) {
+TransferStatus AnswerStandardRequest(const Descriptors &descriptors,
+                                     const SetupPacket &setup,
+                                     std::uint8_t *configuration, Bytes *data) {
   data->clear();
   if (!IsRead(setup)) return Write(setup, configuration);
   const std::optional<Bytes> reply = Read(descriptors, setup, *configuration);
-  if (!reply) return Outcome::Stall;
+  if (!reply) return TransferStatus::Stall;
   *data = *reply;
   if (data->size() > setup.length) data->resize(setup.length);
-  return Outcome::Ok;
+  return TransferStatus::Ok;
 }
 
 }  // namespace ztk::virtual_mixer

@@ -12,9 +12,9 @@ bool IsStandardRequest(const SetupPacket &setup);
 // Answers what every USB device answers: its descriptors, status and
 // configuration. *configuration is the chosen one, 0 when none is. Answers Ok
 // or Stall; *data is cut to what was asked for.
-Outcome AnswerStandardRequest(const Descriptors &descriptors,
-                              const SetupPacket &setup,
-                              std::uint8_t *configuration, Bytes *data);
+TransferStatus AnswerStandardRequest(const Descriptors &descriptors,
+                                     const SetupPacket &setup,
+                                     std::uint8_t *configuration, Bytes *data);
 
 }  // namespace ztk::virtual_mixer
 

@@ -12,16 +12,17 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <stdexcept>
 #include <utility>
-
-#include "virtual-mixer/mixer/standard_requests.h"
 
 namespace ztk::virtual_mixer {
 namespace {
 
 // A file that not even the superuser may open for writing.
 constexpr char kReadOnlyForAll[] = "/proc/sys/kernel/ostype";
+// As if a kernel had taken the devices already.
+constexpr std::uint8_t kConfigured = 1;
 
 // Where there can be no folder the testbed ends the whole program.
 void CheckTempDir() {
@@ -65,6 +66,22 @@ std::string NumbersLink(const Address &address) {
   return "/dev/.node/" + name;
 }
 
+// The first device of each bus is its root hub. Bus 1 is always there.
+std::vector<Placement> WithRootHubs(const std::vector<Placement> &placements) {
+  std::set<int> buses;
+  std::vector<Placement> all;
+  const auto addHub = [&](int bus) {
+    if (!buses.insert(bus).second) return;
+    all.push_back({.kind = DeviceKind::RootHub, .bus = bus});
+  };
+  for (const Placement &placement : placements) {
+    addHub(placement.bus);
+    all.push_back(placement);
+  }
+  addHub(1);
+  return all;
+}
+
 }  // namespace
 
 void Sandbox::TestbedDeleter::operator()(_UMockdevTestbed *testbed) const {
@@ -72,25 +89,41 @@ void Sandbox::TestbedDeleter::operator()(_UMockdevTestbed *testbed) const {
 }
 
 Sandbox::Sandbox(const std::vector<Placement> &placements, LogSink log)
-    : log_(std::move(log)),
-      front_([this](const auto &node,
-                    const auto &request) { return Handle(node, request); },
-             [this](const auto &node, const SetupPacket &setup, Outcome outcome,
-                    const Bytes &delivered) {
-               Observe(node, setup, outcome, delivered);
-             }) {
+    : bus_(WithRootHubs(placements), kConfigured, std::move(log),
+           [this](const Device &device) {
+             device.pluggedIn ? Appear(device) : Disappear(device);
+           }),
+      front_({.connect =
+                  [this](const auto &node) {
+                    return bus_.Connect(positions_.at(node));
+                  },
+              .isValid =
+                  [this](const auto &connection) {
+                    return bus_.IsValid(connection);
+                  },
+              .answer =
+                  [this](const auto &connection, const auto &request) {
+                    return bus_.Handle(connection, request);
+                  },
+              .log =
+                  [this](std::size_t device, const SetupPacket &setup,
+                         TransferStatus status, const Bytes &delivered) {
+                    bus_.Log(device, setup, status, delivered);
+                  }}) {
   CheckTempDir();
   testbed_.reset(umockdev_testbed_new());
   gchar *const root = umockdev_testbed_get_root_dir(testbed_.get());
   rootDir_ = root;
   g_free(root);
 
-  std::map<int, int> lastPort;
-  for (const Placement &placement : placements) {
-    if (lastPort.count(placement.bus) == 0) AddRootHub(placement.bus);
-    AddDevice(placement, ++lastPort[placement.bus]);
+  forbidden_.resize(bus_.Count());
+  for (std::size_t i = 0; i < bus_.Count(); ++i) {
+    positions_[bus_.At(i).address.Node()] = i;
   }
-  if (lastPort.count(1) == 0) AddRootHub(1);
+  for (std::size_t i = 0; i < bus_.Count(); ++i) {
+    AttachIoctl(bus_.At(i));
+    Appear(bus_.At(i));
+  }
 }
 
 Sandbox::~Sandbox() {
@@ -99,104 +132,54 @@ Sandbox::~Sandbox() {
   testbed_.reset();
 }
 
-void Sandbox::AddRootHub(int bus) {
-  auto hub = std::make_unique<Device>();
-  hub->address = {.bus = bus, .port = 0};
-  hub->descriptors = RootHubDescriptors(bus);
-  Appear(hub.get());
-  devices_.push_back(std::move(hub));
-}
-
-void Sandbox::AddDevice(const Placement &placement, int port) {
-  if (port > kPortsOfABus) {
-    throw std::runtime_error("bus " + std::to_string(placement.bus) +
-                             " has no port left");
-  }
-  auto device = std::make_unique<Device>();
-  device->address = {.bus = placement.bus, .port = port};
-  if (placement.kind == DeviceKind::Mixer) {
-    device->mixer = static_cast<int>(mixers_.size()) + 1;
-    device->model = std::make_unique<MixerModel>(device->mixer);
-    mixers_.push_back(device.get());
-  }
-  device->descriptors = DescriptorsOf(placement.kind, device->mixer);
-  Appear(device.get());
-  devices_.push_back(std::move(device));
-}
-
-int Sandbox::OtherCount() const {
-  return static_cast<int>(
-      std::count_if(devices_.begin(), devices_.end(), [](const auto &device) {
-        return !device->model && device->address.port != 0;
-      }));
-}
-
 MixerStatus Sandbox::Status(int mixer) const {
-  const std::lock_guard lock(mutex_);
-  const Device &device = Mixer(mixer);
-  return {.address = device.address,
-          .pluggedIn = device.present,
-          .forbidden = device.forbidden,
-          .attached = std::nullopt};
+  MixerStatus status;
+  bus_.WithDevice(bus_.PositionOf(mixer), [&](Device &device) {
+    status = {.address = device.address,
+              .pluggedIn = device.pluggedIn,
+              .forbidden = forbidden_[device.position],
+              .attached = std::nullopt};
+  });
+  return status;
 }
 
 void Sandbox::WithMixer(int mixer,
                         const std::function<void(MixerModel &)> &visit) {
-  const std::lock_guard lock(mutex_);
-  visit(*Mixer(mixer).model);
-}
-
-void Sandbox::PlugIn(int mixer) {
-  const std::lock_guard lock(mutex_);
-  Device &device = Mixer(mixer);
-  if (device.present) return;
-  device.model->SetAttached(true);
-  Appear(&device);
-}
-
-void Sandbox::Unplug(int mixer) {
-  const std::lock_guard lock(mutex_);
-  Device &device = Mixer(mixer);
-  if (!device.present) return;
-  device.model->SetAttached(false);
-  Disappear(&device);
+  bus_.WithMixer(mixer, visit);
 }
 
 void Sandbox::SetForbidden(int mixer, bool forbidden) {
-  const std::lock_guard lock(mutex_);
-  Device &device = Mixer(mixer);
-  if (device.forbidden == forbidden) return;
-  device.forbidden = forbidden;
-  if (!device.present) return;
-  forbidden ? HideNode(device) : ShowNode(device);
+  bus_.WithDevice(bus_.PositionOf(mixer), [&](Device &device) {
+    if (forbidden_[device.position] == forbidden) return;
+    forbidden_[device.position] = forbidden;
+    if (!device.pluggedIn) return;
+    forbidden ? HideNode(device) : ShowNode(device);
+  });
 }
 
-void Sandbox::Appear(Device *device) {
-  AttachIoctl(device);
-  AddRecord(testbed_.get(), DeviceRecord(device->address, device->descriptors));
-  if (device->forbidden) HideNode(*device);
+void Sandbox::Appear(const Device &device) {
+  AddRecord(testbed_.get(), DeviceRecord(device.address, device.descriptors));
+  if (forbidden_[device.position]) HideNode(device);
   AddRecord(testbed_.get(),
-            InterfaceRecord(device->address, device->descriptors));
-  device->present = true;
+            InterfaceRecord(device.address, device.descriptors));
 }
 
 // The socket stays attached while the device is away: umockdev ends a program
 // that finds it missing between two steps of opening the node.
-void Sandbox::AttachIoctl(Device *device) {
-  if (device->answersIoctls) return;
+void Sandbox::AttachIoctl(const Device &device) {
   GError *error = nullptr;
-  if (!umockdev_testbed_attach_ioctl(testbed_.get(),
-                                     device->address.Node().c_str(),
-                                     front_.IoctlBase(), &error)) {
-    const std::string why = error == nullptr ? "no reason" : error->message;
-    g_clear_error(&error);
-    throw std::runtime_error("cannot answer for a device: " + why);
+  if (umockdev_testbed_attach_ioctl(testbed_.get(),
+                                    device.address.Node().c_str(),
+                                    front_.IoctlBase(), &error)) {
+    return;
   }
-  device->answersIoctls = true;
+  const std::string why = error == nullptr ? "no reason" : error->message;
+  g_clear_error(&error);
+  throw std::runtime_error("cannot answer for a device: " + why);
 }
 
-void Sandbox::Disappear(Device *device) {
-  const Address &address = device->address;
+void Sandbox::Disappear(const Device &device) {
+  const Address &address = device.address;
   const std::string sysPath = address.SysPath();
   // The interface first, as in the kernel: it is part of the device.
   RemoveEntry(testbed_.get(), rootDir_, sysPath + "/" + address.InterfaceName(),
@@ -206,8 +189,7 @@ void Sandbox::Disappear(Device *device) {
       rootDir_ + "/sys/dev/char/189:" + std::to_string(address.Minor()));
   std::filesystem::remove(rootDir_ + address.Node());
   std::filesystem::remove(rootDir_ + NumbersLink(address));
-  device->present = false;
-  front_.Abandon(address.Node());
+  front_.Abandon(device.position);
 }
 
 void Sandbox::ShowNode(const Device &device) {
@@ -233,46 +215,6 @@ void Sandbox::HideNode(const Device &device) {
   throw std::runtime_error(std::string(kReadOnlyForAll) +
                            " is not read-only here, so no mixer can be "
                            "forbidden");
-}
-
-Sandbox::Device *Sandbox::Find(const std::string &node) {
-  for (const auto &device : devices_) {
-    if (device->address.Node() == node) return device.get();
-  }
-  return nullptr;
-}
-
-Answer Sandbox::Handle(const std::string &node, const ControlRequest &request) {
-  const std::lock_guard lock(mutex_);
-  Device *const device = Find(node);
-  Answer answer;
-  if (device == nullptr || !device->present) {
-    answer.outcome = Outcome::Gone;
-  } else if (device->model) {
-    answer = device->model->Handle(request);
-    // The fault took it off the bus while the request was under way.
-    if (!device->model->Attached()) Disappear(device);
-  } else if (IsStandardRequest(request.setup)) {
-    std::uint8_t configuration = 1;
-    answer.outcome = AnswerStandardRequest(device->descriptors, request.setup,
-                                           &configuration, &answer.data);
-  } else {
-    answer.outcome = Outcome::Stall;
-  }
-  return answer;
-}
-
-void Sandbox::Observe(const std::string &node, const SetupPacket &setup,
-                      Outcome outcome, const Bytes &delivered) {
-  if (!log_) return;
-  // Without the lock: numbers and addresses of devices never change, and a
-  // device that disappears ends its requests while the lock is held.
-  const Device *const device = Find(node);
-  if (device == nullptr || device->mixer == 0) return;
-  const std::string line = RequestLine(device->mixer, setup, outcome,
-                                       delivered.data(), delivered.size());
-  const std::lock_guard lock(logMutex_);
-  log_(line);
 }
 
 }  // namespace ztk::virtual_mixer

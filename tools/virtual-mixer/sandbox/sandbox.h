@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A world of USB devices for programs that run with umockdev's preloaded
-// library: virtual mixers and, before and behind them, strangers.
+// Emulated USB devices for programs that run with umockdev's preloaded library:
+// virtual mixers and other devices.
 //
 // The owner and the programs inside must run as the same user. A program may
 // fail 50 times to open a device node; the next failure ends it (umockdev keeps
@@ -12,12 +12,12 @@
 #define ZTK_TOOLS_VIRTUAL_MIXER_SANDBOX_SANDBOX_H_
 
 #include <functional>
+#include <map>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <vector>
 
-#include "virtual-mixer/mixer/device_model.h"
+#include "virtual-mixer/mixer/device_bus.h"
 #include "virtual-mixer/mixer/mixer_world.h"
 #include "virtual-mixer/mixer/usb_tree.h"
 #include "virtual-mixer/sandbox/usbfs_front.h"
@@ -43,53 +43,32 @@ class Sandbox : public MixerWorld {
   // The folder that holds everything; removed with the sandbox.
   const std::string &RootDir() const { return rootDir_; }
 
-  int MixerCount() const override { return static_cast<int>(mixers_.size()); }
-  int OtherCount() const override;
+  int MixerCount() const override { return bus_.MixerCount(); }
+  int OtherCount() const override { return bus_.OtherCount(); }
   MixerStatus Status(int mixer) const override;
   void WithMixer(int mixer,
                  const std::function<void(MixerModel &)> &visit) override;
 
   // A mixer that comes back has the place and number that it had.
-  void PlugIn(int mixer) override;
-  void Unplug(int mixer) override;
+  void PlugIn(int mixer) override { bus_.PlugIn(mixer); }
+  void Unplug(int mixer) override { bus_.Unplug(mixer); }
 
   // Holds for the superuser too.
   void SetForbidden(int mixer, bool forbidden) override;
 
  private:
-  struct Device {
-    Address address;
-    Descriptors descriptors;
-    // Of mixers; null for others.
-    std::unique_ptr<MixerModel> model;
-    int mixer = 0;
-    bool present = false;
-    bool forbidden = false;
-    bool answersIoctls = false;
-  };
-
-  void AddDevice(const Placement &placement, int port);
-  void AddRootHub(int bus);
-  void Appear(Device *device);
-  void Disappear(Device *device);
-  void AttachIoctl(Device *device);
+  // The functions below are called while the bus is locked.
+  void Appear(const Device &device);
+  void Disappear(const Device &device);
+  void AttachIoctl(const Device &device);
   void ShowNode(const Device &device);
   void HideNode(const Device &device);
-  Device *Find(const std::string &node);
-  Device &Mixer(int mixer) const { return *mixers_.at(Index(mixer)); }
-  static std::size_t Index(int mixer) {
-    return static_cast<std::size_t>(mixer - 1);
-  }
-  Answer Handle(const std::string &node, const ControlRequest &request);
-  void Observe(const std::string &node, const SetupPacket &setup,
-               Outcome outcome, const Bytes &delivered);
 
-  const LogSink log_;
-  std::mutex logMutex_;
-  // Guards the devices and the tree.
-  mutable std::mutex mutex_;
-  std::vector<std::unique_ptr<Device>> devices_;
-  std::vector<Device *> mixers_;
+  // Whether the node of a device may not be opened. Guarded by the bus.
+  std::vector<bool> forbidden_;
+  mutable DeviceBus bus_;
+  // Device behind each node. Constant once the sandbox is made.
+  std::map<std::string, std::size_t> positions_;
   UsbfsFront front_;
   // Made last and ended first: its thread calls into the front.
   struct TestbedDeleter {

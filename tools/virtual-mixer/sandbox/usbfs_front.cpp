@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 namespace ztk::virtual_mixer {
@@ -16,7 +17,7 @@ namespace {
 
 // The kernel takes at most one page in a control transfer.
 constexpr std::uint16_t kLongestTransfer = 4096;
-constexpr char kDepartures[] = "ztk-departures";
+constexpr char kConnection[] = "ztk-connection";
 constexpr auto kComplaints =
     static_cast<GLogLevelFlags>(static_cast<unsigned>(G_LOG_LEVEL_CRITICAL) |
                                 static_cast<unsigned>(G_LOG_LEVEL_WARNING));
@@ -28,15 +29,15 @@ bool IsControl(gulong request) {
 }
 
 // What the kernel answers.
-int ErrorNumber(Outcome outcome) {
-  switch (outcome) {
-    case Outcome::Ok:
+int ErrorNumber(TransferStatus status) {
+  switch (status) {
+    case TransferStatus::Ok:
       return 0;
-    case Outcome::Stall:
+    case TransferStatus::Stall:
       return EPIPE;
-    case Outcome::Silence:
+    case TransferStatus::Silence:
       return ETIMEDOUT;
-    case Outcome::Gone:
+    case TransferStatus::Gone:
       return ENODEV;
   }
   return EIO;
@@ -70,10 +71,8 @@ void DropVanishedClient(const gchar *domain, GLogLevelFlags level,
 
 }  // namespace
 
-UsbfsFront::UsbfsFront(Handler handler, Observer observer)
-    : handler_(std::move(handler)),
-      observer_(std::move(observer)),
-      base_(umockdev_ioctl_base_new()) {
+UsbfsFront::UsbfsFront(Bus bus)
+    : bus_(std::move(bus)), base_(umockdev_ioctl_base_new()) {
   g_signal_connect(base_, "client-connected",
                    reinterpret_cast<GCallback>(OnConnected), this);
   g_signal_connect(base_, "handle-ioctl", reinterpret_cast<GCallback>(OnIoctl),
@@ -99,61 +98,55 @@ void UsbfsFront::Stop() {
   changed_.notify_all();
   timer_.join();
   for (Waiting &one : waiting_) {
-    one.answer = {.outcome = Outcome::Gone, .data = {}, .delay = {}};
+    one.answer = {.status = TransferStatus::Gone, .data = {}, .delay = {}};
     Finish(&one);
   }
   waiting_.clear();
 }
 
-void UsbfsFront::Abandon(const std::string &node) {
+void UsbfsFront::Abandon(std::size_t device) {
   std::list<Waiting> ended;
   {
     const std::lock_guard lock(mutex_);
-    ++departures_[node];
     for (auto it = waiting_.begin(); it != waiting_.end();) {
       const auto next = std::next(it);
-      if (it->node == node) ended.splice(ended.end(), waiting_, it);
+      if (it->device == device) ended.splice(ended.end(), waiting_, it);
       it = next;
     }
   }
   for (Waiting &one : ended) {
-    one.answer = {.outcome = Outcome::Gone, .data = {}, .delay = {}};
+    one.answer = {.status = TransferStatus::Gone, .data = {}, .delay = {}};
     Finish(&one);
   }
 }
 
-// Whoever opens a node holds the device that is behind it now.
+// A program that opens a node is connected to the device that is there now.
 void UsbfsFront::OnConnected(_UMockdevIoctlBase * /*base*/,
                              _UMockdevIoctlClient *client, void *self) {
-  auto *const front = static_cast<UsbfsFront *>(self);
-  const std::lock_guard lock(front->mutex_);
-  const std::size_t departures =
-      front->departures_[umockdev_ioctl_client_get_devnode(client)];
-  g_object_set_data(G_OBJECT(client), kDepartures,
-                    GSIZE_TO_POINTER(departures));
-}
-
-bool UsbfsFront::IsStale(_UMockdevIoctlClient *client,
-                         const std::string &node) {
-  const std::lock_guard lock(mutex_);
-  return GPOINTER_TO_SIZE(g_object_get_data(G_OBJECT(client), kDepartures)) !=
-         departures_[node];
+  const auto *const front = static_cast<UsbfsFront *>(self);
+  auto connection = std::make_unique<Connection>(
+      front->bus_.connect(umockdev_ioctl_client_get_devnode(client)));
+  g_object_set_data_full(
+      G_OBJECT(client), kConnection, connection.release(),
+      [](gpointer data) { delete static_cast<Connection *>(data); });
 }
 
 int UsbfsFront::OnIoctl(_UMockdevIoctlBase * /*base*/,
                         _UMockdevIoctlClient *client, void *self) {
   auto *const front = static_cast<UsbfsFront *>(self);
-  const std::string node = umockdev_ioctl_client_get_devnode(client);
+  const auto &connection = *static_cast<const Connection *>(
+      g_object_get_data(G_OBJECT(client), kConnection));
   if (IsControl(umockdev_ioctl_client_get_request(client))) {
-    return front->Control(client, node) ? TRUE : FALSE;
+    return front->Control(client, connection) ? TRUE : FALSE;
   }
-  if (!front->IsStale(client, node)) return FALSE;  // umockdev knows the rest
+  // umockdev answers the other requests.
+  if (front->bus_.isValid(connection)) return FALSE;
   umockdev_ioctl_client_complete(client, -1, ENODEV);
   return TRUE;
 }
 
 bool UsbfsFront::Control(_UMockdevIoctlClient *client,
-                         const std::string &node) {
+                         const Connection &connection) {
   UMockdevIoctlData *const transfer =
       umockdev_ioctl_data_resolve(umockdev_ioctl_client_get_arg(client), 0,
                                   sizeof(usbdevfs_ctrltransfer), nullptr);
@@ -174,16 +167,13 @@ bool UsbfsFront::Control(_UMockdevIoctlClient *client,
   waiting.client = static_cast<UMockdevIoctlClient *>(g_object_ref(client));
   waiting.transfer = transfer;
   waiting.buffer = buffer;
-  waiting.node = node;
+  waiting.device = connection.device;
   waiting.setup = setup;
-  waiting.answer.outcome = Outcome::Gone;
-  if (!IsStale(client, node)) {
-    const Bytes sent = IsRead(setup) ? Bytes{} : BytesOf(buffer);
-    waiting.answer = handler_(node, {.setup = setup, .data = sent});
-  }
+  const Bytes sent = IsRead(setup) ? Bytes{} : BytesOf(buffer);
+  waiting.answer = bus_.answer(connection, {.setup = setup, .data = sent});
 
   using std::chrono::milliseconds;
-  const bool silent = waiting.answer.outcome == Outcome::Silence;
+  const bool silent = waiting.answer.status == TransferStatus::Silence;
   if (!silent && waiting.answer.delay.count() == 0) {
     Finish(&waiting);
     return true;
@@ -191,7 +181,8 @@ bool UsbfsFront::Control(_UMockdevIoctlClient *client,
   // As in the kernel, a time-out of 0 waits for ever.
   milliseconds wait = silent ? milliseconds(timeout) : waiting.answer.delay;
   if (!silent && timeout != 0 && wait >= milliseconds(timeout)) {
-    waiting.answer = {.outcome = Outcome::Silence, .data = {}, .delay = {}};
+    waiting.answer = {
+        .status = TransferStatus::Silence, .data = {}, .delay = {}};
     wait = milliseconds(timeout);
   }
   if (!silent || timeout != 0) waiting.due = Clock::now() + wait;
@@ -207,7 +198,7 @@ bool UsbfsFront::Control(_UMockdevIoctlClient *client,
 void UsbfsFront::Finish(Waiting *waiting) {
   const Answer &answer = waiting->answer;
   std::size_t count = 0;
-  if (answer.outcome == Outcome::Ok && IsRead(waiting->setup) &&
+  if (answer.status == TransferStatus::Ok && IsRead(waiting->setup) &&
       waiting->buffer != nullptr) {
     count = std::min(answer.data.size(),
                      static_cast<std::size_t>(waiting->buffer->data_len));
@@ -219,8 +210,8 @@ void UsbfsFront::Finish(Waiting *waiting) {
       answer.data.begin(),
       answer.data.begin() +
           static_cast<std::ptrdiff_t>(std::min(count, answer.data.size())));
-  observer_(waiting->node, waiting->setup, answer.outcome, delivered);
-  const int failure = ErrorNumber(answer.outcome);
+  bus_.log(waiting->device, waiting->setup, answer.status, delivered);
+  const int failure = ErrorNumber(answer.status);
   const glong result = failure != 0             ? -1
                        : IsRead(waiting->setup) ? static_cast<glong>(count)
                                                 : waiting->setup.length;

@@ -8,13 +8,12 @@
 #include <condition_variable>
 #include <functional>
 #include <list>
-#include <map>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
 
-#include "virtual-mixer/mixer/device_model.h"
-#include "virtual-mixer/mixer/request_line.h"
+#include "virtual-mixer/mixer/device_bus.h"
 
 // umockdev's types, kept out of those who include this.
 struct _UMockdevIoctlBase;  // NOLINT(bugprone-reserved-identifier): fixed name
@@ -25,17 +24,20 @@ namespace ztk::virtual_mixer {
 
 class UsbfsFront {
  public:
-  // Asked for the answer of the device behind a node, one request at a time,
-  // on umockdev's own thread.
-  using Handler =
-      std::function<Answer(const std::string &node, const ControlRequest &)>;
-  // Told how each request ended, before its sender learns it; on that thread
-  // or on the one that waits for late answers.
-  using Observer =
-      std::function<void(const std::string &node, const SetupPacket &, Outcome,
-                         const Bytes &delivered)>;
+  // How the devices are reached. A connection belongs to an open node. The
+  // functions are called on umockdev's own thread; `log`, which is called
+  // before the sender of a request learns how it ended, also on the thread that
+  // waits for late answers.
+  struct Bus {
+    std::function<Connection(const std::string &node)> connect;
+    std::function<bool(const Connection &)> isValid;
+    std::function<Answer(const Connection &, const ControlRequest &)> answer;
+    std::function<void(std::size_t device, const SetupPacket &, TransferStatus,
+                       const Bytes &delivered)>
+        log;
+  };
 
-  UsbfsFront(Handler handler, Observer observer);
+  explicit UsbfsFront(Bus bus);
   ~UsbfsFront();
   UsbfsFront(const UsbfsFront &) = delete;
   UsbfsFront &operator=(const UsbfsFront &) = delete;
@@ -43,9 +45,8 @@ class UsbfsFront {
   // To be attached to the nodes; belongs to this object.
   _UMockdevIoctlBase *IoctlBase() const { return base_; }
 
-  // The device behind the node has gone: requests under way end, and whoever
-  // has the node open reaches nothing any more, even if the device comes back.
-  void Abandon(const std::string &node);
+  // The device has been unplugged: ends the requests that still wait.
+  void Abandon(std::size_t device);
 
   // Ends every request that still waits, as if the devices had gone, and
   // answers no more.
@@ -57,7 +58,7 @@ class UsbfsFront {
     _UMockdevIoctlClient *client = nullptr;
     _UMockdevIoctlData *transfer = nullptr;
     _UMockdevIoctlData *buffer = nullptr;
-    std::string node;
+    std::size_t device = 0;
     SetupPacket setup;
     Answer answer;
     // When the answer is given; at no time when the sender waits for ever.
@@ -68,14 +69,12 @@ class UsbfsFront {
                           void *self);
   static int OnIoctl(_UMockdevIoctlBase *, _UMockdevIoctlClient *client,
                      void *self);
-  bool IsStale(_UMockdevIoctlClient *client, const std::string &node);
-  bool Control(_UMockdevIoctlClient *client, const std::string &node);
+  bool Control(_UMockdevIoctlClient *client, const Connection &connection);
   void Finish(Waiting *waiting);
   void RunTimer();
   std::list<Waiting> TakeDue(Clock::time_point now);
 
-  const Handler handler_;
-  const Observer observer_;
+  const Bus bus_;
   _UMockdevIoctlBase *base_;
   unsigned logHandler_ = 0;
 
@@ -83,8 +82,6 @@ class UsbfsFront {
   std::condition_variable changed_;
   bool stopping_ = false;
   std::list<Waiting> waiting_;
-  // How often the device behind a node has gone.
-  std::map<std::string, std::size_t> departures_;
   std::thread timer_;
 };
 

@@ -121,8 +121,8 @@ Bytes ImportReply(ImportStatus status, const Export &device) {
   return reply;
 }
 
-Command ReadCommand(const std::uint8_t *bytes) {
-  Command command;
+UrbCommand ReadUrbCommand(const std::uint8_t *bytes) {
+  UrbCommand command;
   command.code = Word(bytes);
   command.sequence = Word(bytes + 4);
   command.deviceId = Word(bytes + 8);

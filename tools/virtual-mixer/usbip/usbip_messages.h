@@ -55,10 +55,10 @@ Bytes ImportReply(ImportStatus status, const Export &device);
 // What a client that has a device sends.
 inline constexpr std::uint32_t kSubmit = 1;
 inline constexpr std::uint32_t kUnlink = 2;
-inline constexpr std::size_t kCommandSize = 48;
+inline constexpr std::size_t kUrbCommandSize = 48;
 inline constexpr std::uint32_t kIn = 1;
 
-struct Command {
+struct UrbCommand {
   std::uint32_t code = 0;
   std::uint32_t sequence = 0;
   std::uint32_t deviceId = 0;
@@ -71,7 +71,7 @@ struct Command {
   // Of an unlink: the request to be given up.
   std::uint32_t unlinked = 0;
 };
-Command ReadCommand(const std::uint8_t *bytes);
+UrbCommand ReadUrbCommand(const std::uint8_t *bytes);
 
 // Error numbers travel as Linux has them, negative.
 inline constexpr std::int32_t kNoEntry = -2;

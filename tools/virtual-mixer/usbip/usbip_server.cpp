@@ -17,7 +17,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "virtual-mixer/mixer/fault.h"
+#include "cli/strings.h"
 
 namespace ztk::virtual_mixer::usbip {
 namespace {
@@ -43,16 +43,16 @@ std::string BoundPort(int listener) {
 }
 
 // A listening socket; none, with errno set, when this address will not do.
-Descriptor ListenAt(const addrinfo &found) {
-  Descriptor made(socket(found.ai_family,
-                         found.ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK,
-                         found.ai_protocol));
+FileDescriptor ListenAt(const addrinfo &found) {
+  FileDescriptor made(socket(found.ai_family,
+                             found.ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK,
+                             found.ai_protocol));
   if (made.Get() < 0) return made;
   setsockopt(made.Get(), SOL_SOCKET, SO_REUSEADDR, &kOn, sizeof kOn);
   if (bind(made.Get(), found.ai_addr, found.ai_addrlen) != 0 ||
       listen(made.Get(), 16) != 0) {
     const int why = errno;
-    made = Descriptor();
+    made = FileDescriptor();
     errno = why;
   }
   return made;
@@ -79,7 +79,7 @@ ListenAddress ParseListenAddress(const std::string &text) {
                          address.host.back() == ']';
   const bool bare = address.host.find_first_of("[]:") == std::string::npos;
   if (address.host.empty() || (!bracketed && !bare) ||
-      !ParseNumber(address.port, 0, 65535)) {
+      !cli::ParseNumber(address.port, 0, 65535)) {
     throw std::runtime_error("bad address \"" + text +
                              "\"; accepted: ADDRESS:PORT, as 127.0.0.1:3240 "
                              "or [::1]:3240");
@@ -112,7 +112,7 @@ std::string Server::Listen(const ListenAddress &address) {
   const int failure =
       getaddrinfo(host.c_str(), address.port.c_str(), &wanted, &found);
   if (failure != 0) Refuse(address, gai_strerror(failure));
-  Descriptor made;
+  FileDescriptor made;
   for (const addrinfo *one = found; one != nullptr && made.Get() < 0;
        one = one->ai_next) {
     made = ListenAt(*one);
@@ -129,7 +129,7 @@ std::string Server::Listen(const ListenAddress &address) {
   return bound;
 }
 
-void Server::Adopt(Descriptor socket, const Lease &lease) {
+void Server::Adopt(FileDescriptor socket, const Lease &lease) {
   {
     const std::lock_guard lock(mutex_);
     newcomers_.push_back({.socket = std::move(socket),
@@ -194,7 +194,8 @@ bool Server::TakeNewcomers() {
 }
 
 void Server::Accept() {
-  Descriptor socket(accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC));
+  FileDescriptor socket(
+      accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC));
   // One too many is turned away, so that nobody can use all descriptors up.
   if (socket.Get() < 0 || clients_.size() >= kMostClients) return;
   PrepareClient(socket.Get());

@@ -12,7 +12,7 @@
 #include <thread>
 #include <vector>
 
-#include "virtual-mixer/control/control_socket.h"
+#include "common/file_descriptor.h"
 #include "virtual-mixer/usbip/usbip_session.h"
 
 namespace ztk::virtual_mixer::usbip {
@@ -37,13 +37,13 @@ class Server {
   // stands for 0. Throws std::runtime_error when it cannot. To be called once.
   std::string Listen(const ListenAddress &address);
   // Serves a client that has its device already.
-  void Adopt(Descriptor socket, const Lease &lease);
+  void Adopt(FileDescriptor socket, const Lease &lease);
   // Makes the thread look whether devices have gone.
   void Wake();
 
  private:
   struct Client {
-    Descriptor socket;
+    FileDescriptor socket;
     std::unique_ptr<Session> session;
     bool closed = false;
   };
@@ -61,13 +61,13 @@ class Server {
   std::mutex mutex_;
   // Guarded; the thread takes them over.
   std::vector<Client> newcomers_;
-  Descriptor newListener_;
+  FileDescriptor newListener_;
   bool stopping_ = false;
   // The thread's own.
-  Descriptor listener_;
+  FileDescriptor listener_;
   std::list<Client> clients_;
   // Readable when one of the guarded has changed.
-  Descriptor woken_;
+  FileDescriptor woken_;
   std::thread thread_;
 };
 

@@ -17,8 +17,8 @@ constexpr std::size_t kMostWaiting = 256;
 constexpr std::uint32_t kNoPackets = 0;
 constexpr std::uint32_t kNoPacketsEither = 0xFFFFFFFF;
 
-std::int32_t StatusOf(Outcome outcome) {
-  return outcome == Outcome::Ok ? 0 : kBrokenPipe;
+std::int32_t StatusOf(TransferStatus status) {
+  return status == TransferStatus::Ok ? 0 : kBrokenPipe;
 }
 
 }  // namespace
@@ -74,27 +74,27 @@ std::size_t Session::TakeOperation() {
 }
 
 std::size_t Session::TakeCommand(Clock::time_point now) {
-  if (input_.size() < kCommandSize) return 0;
-  const Command command = ReadCommand(input_.data());
+  if (input_.size() < kUrbCommandSize) return 0;
+  const UrbCommand command = ReadUrbCommand(input_.data());
   if (!IsLawful(command)) {
     Break();
     return 0;
   }
   if (command.code == kUnlink) {
     Unlink(command);
-    return kCommandSize;
+    return kUrbCommandSize;
   }
   const std::size_t whole =
-      kCommandSize + (command.direction == kIn ? 0 : command.length);
+      kUrbCommandSize + (command.direction == kIn ? 0 : command.length);
   if (input_.size() < whole) return 0;
-  const Bytes data(input_.begin() + kCommandSize,
+  const Bytes data(input_.begin() + kUrbCommandSize,
                    input_.begin() + static_cast<std::ptrdiff_t>(whole));
   Submit(command, data, now);
   return whole;
 }
 
 // What follows a message that breaks these cannot be told apart.
-bool Session::IsLawful(const Command &command) const {
+bool Session::IsLawful(const UrbCommand &command) const {
   const Export device = devices_->Describe(lease_->device);
   if (command.deviceId != DeviceId(device.address)) return false;
   if (command.code == kUnlink) return true;
@@ -103,7 +103,7 @@ bool Session::IsLawful(const Command &command) const {
          (command.packets == kNoPackets || command.packets == kNoPacketsEither);
 }
 
-void Session::Submit(const Command &command, const Bytes &data,
+void Session::Submit(const UrbCommand &command, const Bytes &data,
                      Clock::time_point now) {
   // The devices have the default pipe and no other.
   if (command.endpoint != 0) {
@@ -120,7 +120,7 @@ void Session::Submit(const Command &command, const Bytes &data,
               .answer = devices_->Handle(
                   *lease_, {.setup = command.setup, .data = data}),
               .due = std::nullopt};
-  const bool silent = one.answer.outcome == Outcome::Silence;
+  const bool silent = one.answer.status == TransferStatus::Silence;
   if (!silent && one.answer.delay.count() == 0) {
     Finish(command, one.answer);
     return;
@@ -132,7 +132,7 @@ void Session::Submit(const Command &command, const Bytes &data,
 
 // The sender gave the request up: to it, the mixer was silent. An answer that
 // has been sent already stands.
-void Session::Unlink(const Command &command) {
+void Session::Unlink(const UrbCommand &command) {
   const auto found =
       std::find_if(waiting_.begin(), waiting_.end(), [&](const Waiting &one) {
         return one.command.sequence == command.unlinked;
@@ -141,7 +141,8 @@ void Session::Unlink(const Command &command) {
     Send(UnlinkReply(command.sequence, 0));
     return;
   }
-  devices_->Observe(lease_->device, found->command.setup, Outcome::Silence, {});
+  devices_->Log(lease_->device, found->command.setup, TransferStatus::Silence,
+                {});
   waiting_.erase(found);
   Send(UnlinkReply(command.sequence, kConnectionReset));
 }
@@ -173,24 +174,23 @@ void Session::Sent(std::size_t count) {
 }
 
 // Logs how the request ended, and tells the client.
-void Session::Finish(const Command &command, const Answer &answer) {
-  if (answer.outcome == Outcome::Gone) {
-    devices_->Observe(lease_->device, command.setup, Outcome::Gone, {});
+void Session::Finish(const UrbCommand &command, const Answer &answer) {
+  if (answer.status == TransferStatus::Gone) {
+    devices_->Log(lease_->device, command.setup, TransferStatus::Gone, {});
     Break();
     return;
   }
   Bytes delivered;
-  if (answer.outcome == Outcome::Ok && command.direction == kIn) {
+  if (answer.status == TransferStatus::Ok && command.direction == kIn) {
     delivered = answer.data;
     if (delivered.size() > command.length) delivered.resize(command.length);
   }
-  devices_->Observe(lease_->device, command.setup, answer.outcome, delivered);
+  devices_->Log(lease_->device, command.setup, answer.status, delivered);
   std::uint32_t done = static_cast<std::uint32_t>(delivered.size());
-  if (answer.outcome == Outcome::Ok && command.direction != kIn) {
+  if (answer.status == TransferStatus::Ok && command.direction != kIn) {
     done = command.length;
   }
-  Send(
-      SubmitReply(command.sequence, StatusOf(answer.outcome), done, delivered));
+  Send(SubmitReply(command.sequence, StatusOf(answer.status), done, delivered));
 }
 
 void Session::Send(const Bytes &bytes) {
@@ -202,7 +202,7 @@ void Session::Break() {
   ended_ = broken_ = true;
   output_.clear();
   for (const Waiting &one : waiting_) {
-    devices_->Observe(lease_->device, one.command.setup, Outcome::Gone, {});
+    devices_->Log(lease_->device, one.command.setup, TransferStatus::Gone, {});
   }
   waiting_.clear();
 }

@@ -55,7 +55,7 @@ class Session {
   static constexpr std::size_t kMostOutput = 1 << 20;
 
   struct Waiting {
-    Command command;
+    UrbCommand command;
     Answer answer;
     // At no time when the mixer is silent.
     std::optional<Clock::time_point> due;
@@ -66,10 +66,11 @@ class Session {
   std::size_t TakeMessage(Clock::time_point now);
   std::size_t TakeOperation();
   std::size_t TakeCommand(Clock::time_point now);
-  bool IsLawful(const Command &command) const;
-  void Submit(const Command &command, const Bytes &data, Clock::time_point now);
-  void Unlink(const Command &command);
-  void Finish(const Command &command, const Answer &answer);
+  bool IsLawful(const UrbCommand &command) const;
+  void Submit(const UrbCommand &command, const Bytes &data,
+              Clock::time_point now);
+  void Unlink(const UrbCommand &command);
+  void Finish(const UrbCommand &command, const Answer &answer);
   void Send(const Bytes &bytes);
   void Break();
 

@@ -24,8 +24,8 @@ std::string UsbipWorld::Listen(const std::string &address) {
 
 void UsbipWorld::Attach(const std::string &vhciFolder) {
   vhciFolder_ = vhciFolder;
-  for (std::size_t i = 0; i < devices_.Count(); ++i) AttachDevice(i);
-  for (std::size_t i = 0; i < devices_.Count(); ++i) WaitUntilTaken(i);
+  for (std::size_t i = 0; i < devices_.Bus().Count(); ++i) AttachDevice(i);
+  for (std::size_t i = 0; i < devices_.Bus().Count(); ++i) WaitUntilTaken(i);
 }
 
 void UsbipWorld::AttachDevice(std::size_t device) {
@@ -35,20 +35,16 @@ void UsbipWorld::AttachDevice(std::size_t device) {
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
     throw std::runtime_error("cannot make a pair of sockets");
   }
-  const Descriptor kernels(ends[1]);
-  server_.Adopt(Descriptor(ends[0]), lease);
+  const FileDescriptor kernels(ends[1]);
+  server_.Adopt(FileDescriptor(ends[0]), lease);
   usbip::AttachToKernel(vhciFolder_, devices_.Describe(device), kernels.Get());
 }
 
 void UsbipWorld::WaitUntilTaken(std::size_t device) const {
-  if (devices_.WaitUntilConfigured(device, kPatience)) return;
+  if (devices_.Bus().WaitUntilConfigured(device, kPatience)) return;
   throw std::runtime_error("the kernel has not taken device " +
                            std::to_string(device + 1) +
                            " within 30 s; see what it says with: sudo dmesg");
-}
-
-int UsbipWorld::OtherCount() const {
-  return static_cast<int>(devices_.Count()) - MixerCount();
 }
 
 MixerStatus UsbipWorld::Status(int mixer) const {
@@ -57,18 +53,18 @@ MixerStatus UsbipWorld::Status(int mixer) const {
 
 void UsbipWorld::WithMixer(int mixer,
                            const std::function<void(MixerModel &)> &visit) {
-  devices_.WithMixer(mixer, visit);
+  devices_.Bus().WithMixer(mixer, visit);
 }
 
 void UsbipWorld::PlugIn(int mixer) {
-  if (!devices_.PlugIn(mixer) || vhciFolder_.empty()) return;
-  const std::size_t device = devices_.PositionOf(mixer);
+  if (!devices_.Bus().PlugIn(mixer) || vhciFolder_.empty()) return;
+  const std::size_t device = devices_.Bus().PositionOf(mixer);
   AttachDevice(device);
   WaitUntilTaken(device);
 }
 
 void UsbipWorld::Unplug(int mixer) {
-  if (devices_.Unplug(mixer)) server_.Wake();
+  if (devices_.Bus().Unplug(mixer)) server_.Wake();
 }
 
 void UsbipWorld::SetForbidden(int /*mixer*/, bool /*forbidden*/) {

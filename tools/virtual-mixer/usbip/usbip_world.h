@@ -30,8 +30,8 @@ class UsbipWorld : public MixerWorld {
   // std::runtime_error when it cannot.
   void Attach(const std::string &vhciFolder = usbip::kVhciFolder);
 
-  int MixerCount() const override { return devices_.MixerCount(); }
-  int OtherCount() const override;
+  int MixerCount() const override { return devices_.Bus().MixerCount(); }
+  int OtherCount() const override { return devices_.Bus().OtherCount(); }
   MixerStatus Status(int mixer) const override;
   void WithMixer(int mixer,
                  const std::function<void(MixerModel &)> &visit) override;
@@ -44,7 +44,7 @@ class UsbipWorld : public MixerWorld {
   void AttachDevice(std::size_t device);
   void WaitUntilTaken(std::size_t device) const;
 
-  usbip::Devices devices_;
+  mutable usbip::Devices devices_;
   usbip::Server server_;
   // Empty while nothing is attached.
   std::string vhciFolder_;

@@ -12,7 +12,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "virtual-mixer/control/control_socket.h"
+#include "common/file_descriptor.h"
 
 namespace ztk::virtual_mixer::usbip {
 namespace {
@@ -63,7 +63,7 @@ void AttachToKernel(const std::string &vhciFolder, const Export &device,
         "this kernel has no virtual host controller (" + vhciFolder +
         " is missing); load it with: sudo modprobe vhci-hcd" + kOtherWay);
   }
-  const Descriptor attach(
+  const FileDescriptor attach(
       open((folder / "attach").c_str(), O_WRONLY | O_CLOEXEC));
   if (attach.Get() < 0 && (errno == EACCES || errno == EPERM)) {
     throw std::runtime_error(

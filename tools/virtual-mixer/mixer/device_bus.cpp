@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "virtual-mixer/mixer/device_bus.h"
+
+#include <algorithm>
+#include <map>
+#include <stdexcept>
+#include <utility>
+
+#include "virtual-mixer/mixer/standard_requests.h"
+
+namespace ztk::virtual_mixer {
+
+DeviceBus::DeviceBus(const std::vector<Placement> &placements,
+                     std::uint8_t configuration, LogSink log, Listener listener)
+    : configuration_(configuration),
+      log_(std::move(log)),
+      listener_(std::move(listener)) {
+  std::map<int, int> lastPort;
+  for (const Placement &placement : placements) {
+    auto device = std::make_unique<Device>();
+    device->position = devices_.size();
+    const bool isRootHub = placement.kind == DeviceKind::RootHub;
+    device->address = {.bus = placement.bus,
+                       .port = isRootHub ? 0 : ++lastPort[placement.bus]};
+    if (device->address.port > kPortsOfABus) {
+      throw std::runtime_error("bus " + std::to_string(placement.bus) +
+                               " has no port left");
+    }
+    if (placement.kind == DeviceKind::Mixer) {
+      mixers_.push_back(device->position);
+      device->mixer = MixerCount();
+      device->model = std::make_unique<MixerModel>();
+    }
+    device->descriptors = DescriptorsOf(
+        placement.kind, isRootHub ? placement.bus : device->mixer);
+    device->configuration = configuration_;
+    devices_.push_back(std::move(device));
+  }
+}
+
+int DeviceBus::OtherCount() const {
+  return static_cast<int>(
+      std::count_if(devices_.begin(), devices_.end(), [](const auto &device) {
+        return device->mixer == 0 && device->address.port != 0;
+      }));
+}
+
+std::size_t DeviceBus::PositionOf(int mixer) const {
+  return mixers_.at(static_cast<std::size_t>(mixer - 1));
+}
+
+void DeviceBus::WithDevice(std::size_t device,
+                           const std::function<void(Device &)> &visit) {
+  const std::lock_guard lock(mutex_);
+  visit(*devices_[device]);
+}
+
+void DeviceBus::WithMixer(int mixer,
+                          const std::function<void(MixerModel &)> &visit) {
+  const std::lock_guard lock(mutex_);
+  visit(*Mixer(mixer).model);
+}
+
+bool DeviceBus::PlugIn(int mixer) {
+  const std::lock_guard lock(mutex_);
+  Device &device = Mixer(mixer);
+  if (device.pluggedIn) return false;
+  device.pluggedIn = true;
+  if (listener_) listener_(device);
+  return true;
+}
+
+bool DeviceBus::Unplug(int mixer) {
+  const std::lock_guard lock(mutex_);
+  Device &device = Mixer(mixer);
+  if (!device.pluggedIn) return false;
+  UnplugLocked(&device);
+  return true;
+}
+
+void DeviceBus::UnplugLocked(Device *device) {
+  device->pluggedIn = false;
+  Reset(device);
+  if (listener_) listener_(*device);
+}
+
+// As it is after being plugged in. What was set outlives being unplugged: the
+// mixer has its own power supply.
+void DeviceBus::Reset(Device *device) const {
+  device->configuration = configuration_;
+  ++device->connection;
+}
+
+Connection DeviceBus::Connect(std::size_t device) const {
+  const std::lock_guard lock(mutex_);
+  return {.device = device, .number = devices_[device]->connection};
+}
+
+bool DeviceBus::IsValid(const Connection &connection) const {
+  const std::lock_guard lock(mutex_);
+  return devices_[connection.device]->connection == connection.number;
+}
+
+void DeviceBus::Disconnect(const Connection &connection,
+                           const std::function<void(Device &)> &visit) {
+  const std::lock_guard lock(mutex_);
+  Device &device = *devices_[connection.device];
+  if (device.connection != connection.number) return;
+  Reset(&device);
+  visit(device);
+}
+
+Answer DeviceBus::Handle(const Connection &connection,
+                         const ControlRequest &request) {
+  const std::lock_guard lock(mutex_);
+  Device &device = *devices_[connection.device];
+  Answer answer;
+  if (!device.pluggedIn || device.connection != connection.number) {
+    answer.status = TransferStatus::Gone;
+  } else if (IsStandardRequest(request.setup)) {
+    answer.status = AnswerStandardRequest(device.descriptors, request.setup,
+                                          &device.configuration, &answer.data);
+    if (device.configuration != 0) configured_.notify_all();
+  } else if (device.model) {
+    answer = device.model->Handle(request.setup);
+    if (answer.status == TransferStatus::Gone) UnplugLocked(&device);
+  } else {
+    answer.status = TransferStatus::Stall;
+  }
+  return answer;
+}
+
+void DeviceBus::Log(std::size_t device, const SetupPacket &setup,
+                    TransferStatus status, const Bytes &delivered) {
+  // Without the other lock: numbers of mixers never change, and requests to a
+  // device that is unplugged end while the bus is locked.
+  const int mixer = devices_[device]->mixer;
+  if (!log_ || mixer == 0) return;
+  const std::string line =
+      RequestLine(mixer, setup, status, delivered.data(), delivered.size());
+  const std::lock_guard lock(logMutex_);
+  log_(line);
+}
+
+bool DeviceBus::WaitUntilConfigured(std::size_t device,
+                                    std::chrono::milliseconds longest) const {
+  std::unique_lock lock(mutex_);
+  return configured_.wait_for(
+      lock, longest, [&] { return devices_[device]->configuration != 0; });
+}
+
+}  // namespace ztk::virtual_mixer
