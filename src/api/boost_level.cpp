@@ -3,7 +3,7 @@
 #include <iterator>
 
 #include "ZTKFunc.h"
-#include "api/gate.h"
+#include "api/product_set.h"
 #include "api/tables.h"
 #include "notify/posting.h"
 #include "store/settings_file.h"

@@ -3,7 +3,7 @@
 #include <iterator>
 
 #include "ZTKFunc.h"
-#include "api/gate.h"
+#include "api/product_set.h"
 #include "api/tables.h"
 #include "notify/posting.h"
 #include "store/settings_file.h"
@@ -83,8 +83,8 @@ ZTKResult ZTK_SetCurrentMidiChannelIndex(uint32_t productId) {
   return ZTK_SUCCESS;
 }
 
-// Wanted: the key mode is there for programs that were built against it, and
-// serves no product.
+// Wanted: the key mode is there for programs that were built against it,
+// and serves no product.
 
 ZTKResult ZTK_GetNumOfMidiKeyModeIndex(uint32_t /*productId*/,
                                        uint32_t * /*outCount*/) {

@@ -2,7 +2,7 @@
 #include <cstdint>
 
 #include "ZTKFunc.h"
-#include "api/gate.h"
+#include "api/product_set.h"
 #include "usb/mixers.h"
 
 using namespace ztk;

@@ -2,8 +2,8 @@
 #include <cstdint>
 
 #include "ZTKFunc.h"
-#include "api/gate.h"
 #include "api/install_location.h"
+#include "api/product_set.h"
 #include "platform/property_list.h"
 
 using namespace ztk;

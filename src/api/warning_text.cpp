@@ -3,8 +3,8 @@
 #include <iterator>
 
 #include "ZTKFunc.h"
-#include "api/gate.h"
 #include "api/install_location.h"
+#include "api/product_set.h"
 #include "platform/bundle.h"
 #include "platform/property_list.h"
 #include "platform/text.h"

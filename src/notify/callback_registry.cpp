@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "notify/callback_registry.h"
 
-#include "api/gate.h"
-#include "notify/ZTKFunc.h"
-#include "notify/families.h"
+#include "api/product_set.h"
+#include "notify/announced_settings.h"
+#include "notify/observer.h"
 #include "platform/text.h"
 
 using namespace ztk;
@@ -42,7 +42,7 @@ constexpr ProductSet kMidiFor{1};
 // One family's tables and how it is heard of.
 template <typename Callback>
 struct Registration {
-  const Family &family;
+  const AnnouncedSetting &family;
   const Method &method;
   Callback *callbacks;
   void **contexts;
@@ -78,11 +78,11 @@ template <typename Callback>
 ZTKResult Register(const Registration<Callback> &registration,
                    std::uint32_t productId, Callback callback, void *context) {
   if (_ZTKFunc == nullptr) _ZTKFunc = AllocateObserver();
-  // Wanted: dropped without being given back, so the next post has nothing to
-  // give back either.
+  // Wanted: dropped without being given back, so the next post has nothing
+  // to give back either.
   *registration.lastInfo = nullptr;
 
-  const Family &family = registration.family;
+  const AnnouncedSetting &family = registration.family;
   const platform::text::Made name(
       platform::text::Format(family.nameFormat, family.observedModel));
   center::AddObserver(_ZTKFunc, registration.method, name.get());

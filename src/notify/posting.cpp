@@ -15,8 +15,8 @@ Entry Number(ZTKTextRef key, std::uint32_t value) {
   return {.key = key, .value = static_cast<std::int32_t>(value)};
 }
 
-void Post(const Family &family, UserInfo **lastInfo, const Entry *entries,
-          std::size_t count) {
+void Post(const AnnouncedSetting &family, UserInfo **lastInfo,
+          const Entry *entries, std::size_t count) {
   center::Release(*lastInfo);
   *lastInfo = center::MakeUserInfo(entries, count);
 
@@ -27,14 +27,14 @@ void Post(const Family &family, UserInfo **lastInfo, const Entry *entries,
 
 }  // namespace
 
-void PostIndex(const Family &family, UserInfo **lastInfo,
+void PostIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
                std::uint32_t productId, std::uint32_t index) {
   const Entry entries[] = {Number(kProductKey, productId),
                            Number(kIndexKey, index)};
   Post(family, lastInfo, entries, std::size(entries));
 }
 
-void PostChannelIndex(const Family &family, UserInfo **lastInfo,
+void PostChannelIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
                       std::uint32_t productId, std::uint32_t channel,
                       std::uint32_t index) {
   const Entry entries[] = {Number(kProductKey, productId),

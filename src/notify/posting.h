@@ -6,16 +6,16 @@
 
 #include <cstdint>
 
+#include "notify/announced_settings.h"
 #include "notify/callback_registry.h"
-#include "notify/families.h"
 
 namespace ztk::notify {
 
 // Replaces the family's last record by a new one (the old one is given back
 // first) and sends it to every process. `lastInfo` is the family's global.
-void PostIndex(const Family &family, UserInfo **lastInfo,
+void PostIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
                std::uint32_t productId, std::uint32_t index);
-void PostChannelIndex(const Family &family, UserInfo **lastInfo,
+void PostChannelIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
                       std::uint32_t productId, std::uint32_t channel,
                       std::uint32_t index);
 

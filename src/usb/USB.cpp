@@ -59,8 +59,8 @@ port::Device *InterfaceOf(port::Service service, Code *result) {
 }
 
 // Walks every device and puts the mixer at position `index` into the slot.
-// Wanted: the walk goes on after it, and the interfaces of the devices after
-// it are neither released nor without effect on the result.
+// Wanted: the walk goes on after it, and the interfaces of the devices
+// after it are neither released nor without effect on the result.
 Code ChooseMixer(port::Iterator iterator, Connection *slot,
                  std::uint32_t index) {
   Code result = port::kSuccess;

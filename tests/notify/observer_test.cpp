@@ -3,7 +3,7 @@
 // Receiving: from a notification of any process to the registered callback.
 #include <limits>
 
-#include "notify/ZTKFunc.h"
+#include "notify/observer.h"
 #include "support/core_test.h"
 
 namespace ztk::test {

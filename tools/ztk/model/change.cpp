@@ -13,11 +13,11 @@ namespace ztk::cli {
 
 namespace {
 
-std::vector<const notify::Family *> Notices(
+std::vector<const notify::AnnouncedSetting *> Notices(
     const std::vector<Change> &changes) {
-  std::vector<const notify::Family *> notices;
+  std::vector<const notify::AnnouncedSetting *> notices;
   for (const Change &change : changes) {
-    const notify::Family *notice = change.family->notice;
+    const notify::AnnouncedSetting *notice = change.family->notice;
     if (std::find(notices.begin(), notices.end(), notice) == notices.end()) {
       notices.push_back(notice);
     }

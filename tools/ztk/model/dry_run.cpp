@@ -98,7 +98,7 @@ void Plan::AddSelectors(const Family &family, bool stops) {
 }
 
 void Plan::AddNotice(const Change &change) {
-  const notify::Family &notice = *change.family->notice;
+  const notify::AnnouncedSetting &notice = *change.family->notice;
   const Made name(
       platform::text::Format(notice.nameFormat, notice.postedModel));
   Notice planned{.name = Utf8(name.get()), .numbers = {}};

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "ZTKFunc.h"
-#include "notify/families.h"
+#include "notify/announced_settings.h"
 #include "ztk/model/choice.h"
 #include "ztk/report.h"
 
@@ -30,7 +30,7 @@ struct Family {
   // In that file; with channels, a format that takes the channel from 0.
   ZTKTextRef key;
   // How its changes are announced.
-  const notify::Family *notice;
+  const notify::AnnouncedSetting *notice;
 
   // What a mixer is sent for a choice: where to, and the value.
   std::uint16_t writeRegister;

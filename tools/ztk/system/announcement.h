@@ -9,12 +9,12 @@
 #include <optional>
 #include <vector>
 
-#include "notify/families.h"
+#include "notify/announced_settings.h"
 
 namespace ztk::cli {
 
 struct Announcement {
-  const notify::Family *family;
+  const notify::AnnouncedSetting *family;
   std::uint32_t product;
   std::optional<std::uint32_t> channel;
   std::uint32_t index;
@@ -33,7 +33,8 @@ const char *MissingLoopLibrary();
 class BusWitness {
  public:
   // Listens from now on. Where there is no bus, it hears nothing.
-  explicit BusWitness(const std::vector<const notify::Family *> &families);
+  explicit BusWitness(
+      const std::vector<const notify::AnnouncedSetting *> &families);
   ~BusWitness();
   BusWitness(const BusWitness &) = delete;
   BusWitness &operator=(const BusWitness &) = delete;

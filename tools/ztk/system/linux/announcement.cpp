@@ -18,7 +18,7 @@ namespace center = platform::notification_center;
 
 // What came in, of one name.
 struct Inbox {
-  const notify::Family *family;
+  const notify::AnnouncedSetting *family;
   std::vector<Announcement> heard;
 };
 
@@ -39,7 +39,7 @@ struct BusWitness::Ear {
   center::OwnedBus bus;
   std::deque<Inbox> inboxes;  // which the registrations point to
 
-  void ListenTo(const notify::Family *family) {
+  void ListenTo(const notify::AnnouncedSetting *family) {
     Inbox &inbox = inboxes.emplace_back(Inbox{.family = family, .heard = {}});
     const platform::text::Made name(
         platform::text::Format(family->nameFormat, family->postedModel));
@@ -76,11 +76,13 @@ const char *MissingLoopLibrary() {
   return center::GLib() == nullptr ? center::kGLibLibrary : nullptr;
 }
 
-BusWitness::BusWitness(const std::vector<const notify::Family *> &families)
+BusWitness::BusWitness(
+    const std::vector<const notify::AnnouncedSetting *> &families)
     : ear_(std::make_unique<Ear>()) {
   ear_->bus = center::ConnectToSessionBus(center::PatienceEnds());
   if (ear_->bus == nullptr) return;
-  for (const notify::Family *family : families) ear_->ListenTo(family);
+  for (const notify::AnnouncedSetting *family : families)
+    ear_->ListenTo(family);
 }
 
 BusWitness::~BusWitness() {

@@ -3,7 +3,7 @@
 
 #include <csignal>
 
-#include "notify/families.h"
+#include "notify/announced_settings.h"
 #include "platform/linux/bus_connection.h"
 #include "platform/linux/glib_library.h"
 #include "platform/linux/sd_bus_library.h"
@@ -53,7 +53,7 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
   // Observers live as long as the process.
   static OutputObserver observer;
   observer = {.listener = listener, .context = context};
-  const notify::Family &family = notify::kOutputAudio;
+  const notify::AnnouncedSetting &family = notify::kOutputAudio;
   const platform::text::Made name(
       platform::text::Format(family.nameFormat, family.postedModel));
   center::AddObserver(

@@ -14,7 +14,7 @@ using ztk::cli::Announcement;
 // Keeps what came in of one name.
 @interface ZTKInbox : NSObject {
  @public
-  const ztk::notify::Family *family;
+  const ztk::notify::AnnouncedSetting *family;
   std::vector<Announcement> heard;
 }
 - (void)keep:(NSNotification *)notification;
@@ -70,9 +70,10 @@ struct BusWitness::Ear {
 // is none; a witness that hears nothing tells it.
 bool SessionBusAnswers() { return true; }
 
-BusWitness::BusWitness(const std::vector<const notify::Family *> &families)
+BusWitness::BusWitness(
+    const std::vector<const notify::AnnouncedSetting *> &families)
     : ear_(std::make_unique<Ear>()) {
-  for (const notify::Family *family : families) {
+  for (const notify::AnnouncedSetting *family : families) {
     ZTKInbox *inbox = [[ZTKInbox alloc] init];
     inbox->family = family;
     ear_->inboxes.push_back(inbox);

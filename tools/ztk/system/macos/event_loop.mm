@@ -7,7 +7,7 @@
 
 #include <csignal>
 
-#include "notify/families.h"
+#include "notify/announced_settings.h"
 #include "platform/notification_center.h"
 #include "platform/text.h"
 
@@ -64,7 +64,7 @@ dispatch_source_t WatchForSignal(int number) {
 
 void ListenToOutputAudio(OutputListener listener, void *context) {
   theOutputListener = {.listener = listener, .context = context};
-  const notify::Family &family = notify::kOutputAudio;
+  const notify::AnnouncedSetting &family = notify::kOutputAudio;
   const platform::text::Made name(
       platform::text::Format(family.nameFormat, family.postedModel));
   // Observers live as long as the process.

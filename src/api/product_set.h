@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Which models a function serves, as data.
-#ifndef ZTK_API_GATE_H_
-#define ZTK_API_GATE_H_
+#ifndef ZTK_API_PRODUCT_SET_H_
+#define ZTK_API_PRODUCT_SET_H_
 
 #include <cstdint>
 #include <initializer_list>
@@ -31,4 +31,4 @@ constexpr bool IsChannel(std::uint32_t channel, std::int32_t count) {
 
 }  // namespace ztk
 
-#endif  // ZTK_API_GATE_H_
+#endif  // ZTK_API_PRODUCT_SET_H_

@@ -2,8 +2,8 @@
 //
 // The settings whose changes are announced, and everything in which their
 // announcements differ.
-#ifndef ZTK_NOTIFY_FAMILIES_H_
-#define ZTK_NOTIFY_FAMILIES_H_
+#ifndef ZTK_NOTIFY_ANNOUNCED_SETTINGS_H_
+#define ZTK_NOTIFY_ANNOUNCED_SETTINGS_H_
 
 #include "ZTKFunc.h"
 #include "platform/notification_center.h"
@@ -16,7 +16,7 @@ inline const ZTKTextRef kProductKey = ZTK_TEXT("ProductID");
 inline const ZTKTextRef kChannelKey = ZTK_TEXT("Channel");
 inline const ZTKTextRef kIndexKey = ZTK_TEXT("Index");
 
-struct Family {
+struct AnnouncedSetting {
   ZTKTextRef nameFormat;
   ZTKTextRef postedModel;
   ZTKTextRef observedModel;
@@ -24,7 +24,7 @@ struct Family {
 };
 
 // clang-format off
-inline const Family kInputAudio{
+inline const AnnouncedSetting kInputAudio{
     .nameFormat = ZTK_TEXT("%@ InputAudio Change"),
     .postedModel = ZTK_TEXT("VRM-D6"),
     .observedModel = ZTK_TEXT("VRM-D6"),
@@ -32,20 +32,20 @@ inline const Family kInputAudio{
 
 // Wanted: posted under one model and observed under another, so that the
 // library's own changes never reach a callback of this family.
-inline const Family kOutputAudio{
+inline const AnnouncedSetting kOutputAudio{
     .nameFormat = ZTK_TEXT("%@ OutputAudio Change"),
     .postedModel = ZTK_TEXT("VRM-B5"),
     .observedModel = ZTK_TEXT("VRM-D6"),
     .delivery = Delivery::Immediately};
 
 // Wanted: these two leave the moment of delivery to the center.
-inline const Family kBoostLevel{
+inline const AnnouncedSetting kBoostLevel{
     .nameFormat = ZTK_TEXT("%@ BoostLevel Change"),
     .postedModel = ZTK_TEXT("VRM-D6"),
     .observedModel = ZTK_TEXT("VRM-D6"),
     .delivery = Delivery::Default};
 
-inline const Family kMidiChannel{
+inline const AnnouncedSetting kMidiChannel{
     .nameFormat = ZTK_TEXT("%@ MidiChannel Change"),
     .postedModel = ZTK_TEXT("VRM-K2"),
     .observedModel = ZTK_TEXT("VRM-K2"),
@@ -54,4 +54,4 @@ inline const Family kMidiChannel{
 
 }  // namespace ztk::notify
 
-#endif  // ZTK_NOTIFY_FAMILIES_H_
+#endif  // ZTK_NOTIFY_ANNOUNCED_SETTINGS_H_

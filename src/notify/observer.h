@@ -2,8 +2,8 @@
 //
 // The observer that receives the notifications of every process and calls the
 // registered callback. It has no state of its own.
-#ifndef ZTK_NOTIFY_ZTKFUNC_H_
-#define ZTK_NOTIFY_ZTKFUNC_H_
+#ifndef ZTK_NOTIFY_OBSERVER_H_
+#define ZTK_NOTIFY_OBSERVER_H_
 
 #include "platform/notification_center.h"
 
@@ -31,4 +31,4 @@ extern const Method kMidiKeyModeChanged;
 
 }  // namespace ztk::notify
 
-#endif  // ZTK_NOTIFY_ZTKFUNC_H_
+#endif  // ZTK_NOTIFY_OBSERVER_H_

@@ -2,7 +2,7 @@
 //
 // The observer where it is a plain object. (On macOS it is a class of the
 // object runtime.)
-#include "notify/ZTKFunc.h"
+#include "notify/observer.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 //
 // The observer where the center calls methods by name: a class of the object
 // runtime.
-#include "notify/ZTKFunc.h"
+#include "notify/observer.h"
 
 #import <Foundation/Foundation.h>
 
