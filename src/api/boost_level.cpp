@@ -22,7 +22,7 @@ constexpr std::uint32_t kChoices = 4;
 static_assert(std::size(BoostLevelText) == kChoices);
 static_assert(std::size(_convDbTable) == kChoices);
 
-// Wanted: listing answers for more products than can be set.
+// Deliberate: listing answers for more products than can be set.
 constexpr ProductSet kListedFor{0, 1, 5, 6, 8, 10};
 constexpr ProductSet kSettableFor{10};
 

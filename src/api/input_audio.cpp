@@ -94,7 +94,7 @@ namespace {
 
 constexpr ProductSet kServed{10};
 const ZTKTextRef kModel = ZTK_TEXT("VRM-D6");
-// Wanted: the key says Output although it keeps what the computer records.
+// Deliberate: the key says Output although it keeps what the computer records.
 const ZTKTextRef kKeyFormat = ZTK_TEXT("Output%d");
 constexpr std::int32_t kDefaultIndex = 0;
 
@@ -105,7 +105,7 @@ constexpr std::uint32_t kTableLength = 42;
 static_assert(std::size(PC_INPUT_PULLDOWN_TEXT) == kTableLength);
 static_assert(std::size(_convTable_PC_INPUT) == kTableLength);
 
-// Wanted: each function draws its line elsewhere.
+// Deliberate: each function draws its line elsewhere.
 struct Bounds {
   std::uint32_t count;      // choices that are offered
   std::uint32_t textBelow;  // indexes that have a text
@@ -116,14 +116,14 @@ constexpr Bounds kLastRowBounds{.count = 8, .textBelow = 10, .setBelow = 9};
 static_assert(kLastChannel * kRowWidth + kLastRowBounds.textBelow ==
               kTableLength);
 
-// Wanted: one wider than the channels there are. Channel 5 has no key.
+// Deliberate: one wider than the channels there are. Channel 5 has no key.
 constexpr std::int32_t kRememberedChannels = 6;
 
 // When a setter warns that the new routing cannot be heard. A routing below a
 // threshold needs the input selector at this position.
 constexpr std::uint8_t kAudiblePosition = 4;
 constexpr std::uint16_t kSelectorInfoLength = 5;  // bytes
-// Wanted: no pair of them is alike.
+// Deliberate: no pair of them is alike.
 struct Thresholds {
   std::uint32_t withoutMixer;
   std::uint32_t withMixer;

@@ -8,7 +8,7 @@ namespace ztk {
 
 // True when they lie under /Library, false for /System/Library.
 //
-// Wanted: only the second number of the system version counts, and a
+// Deliberate: only the second number of the system version counts, and a
 // version such as 11.2 is older than 10.11. A version that cannot be read, or
 // has one number only, is older too.
 bool IsInstalledInLibrary();

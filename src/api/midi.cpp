@@ -16,7 +16,7 @@ const ZTKTextRef MidiChannelText[16] = {
     ZTK_TEXT("CH 5"),  ZTK_TEXT("CH 6"),  ZTK_TEXT("CH 7"),  ZTK_TEXT("CH 8"),
     ZTK_TEXT("CH 9"),  ZTK_TEXT("CH 10"), ZTK_TEXT("CH 11"), ZTK_TEXT("CH 12"),
     ZTK_TEXT("CH 13"), ZTK_TEXT("CH 14"), ZTK_TEXT("CH 15"), ZTK_TEXT("CH 16")};
-// Wanted: visible, and read by nothing.
+// Deliberate: visible, and read by nothing.
 const ZTKTextRef MidiKeyModeText[2] = {ZTK_TEXT("Toggle"), ZTK_TEXT("Trigger")};
 
 namespace {
@@ -28,7 +28,7 @@ constexpr std::int32_t kDefaultIndex = 0;
 
 constexpr std::uint32_t kChoices = 16;
 static_assert(std::size(MidiChannelText) == kChoices);
-// Wanted: sixteen channels can be set, only the first four are re-sent.
+// Deliberate: sixteen channels can be set, only the first four are re-sent.
 constexpr std::uint32_t kResendBelow = 4;
 
 // The channel stands in the high byte.
@@ -83,7 +83,7 @@ ZTKResult ZTK_SetCurrentMidiChannelIndex(uint32_t productId) {
   return ZTK_SUCCESS;
 }
 
-// Wanted: the key mode is there for programs that were built against it,
+// Deliberate: the key mode is there for programs that were built against it,
 // and serves no product.
 
 ZTKResult ZTK_GetNumOfMidiKeyModeIndex(uint32_t /*productId*/,

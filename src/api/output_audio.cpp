@@ -36,15 +36,15 @@ namespace {
 
 constexpr ProductSet kServed{8};
 const ZTKTextRef kModel = ZTK_TEXT("VRM-B5");
-// Wanted: the key says Input although it keeps what the computer plays.
+// Deliberate: the key says Input although it keeps what the computer plays.
 const ZTKTextRef kKeyFormat = ZTK_TEXT("Input%d");
 
 constexpr std::int32_t kChannels = 3;
-// Wanted: the setters take two channels that have no device value.
+// Deliberate: the setters take two channels that have no device value.
 constexpr std::int32_t kSettableChannels = 5;
 
 constexpr std::uint32_t kChoices = 3;
-// Wanted: one more text than there are choices.
+// Deliberate: one more text than there are choices.
 constexpr std::uint32_t kTextBelow = 4;
 
 constexpr std::uint64_t kTableLength = 9;
@@ -66,7 +66,7 @@ std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
                                _convTableOut_B5[position]);
 }
 
-// Wanted: what the mixers answer is not looked at; this family never warns.
+// Deliberate: what the mixers answer is not looked at; this family never warns.
 void ReadSelectors(std::int32_t mixers) {
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply unused;
@@ -118,7 +118,7 @@ ZTKResult ZTK_SetUSBOutputAudioDefault(uint32_t productId, uint32_t channel) {
 
   const std::uint32_t index = DefaultIndex(channel);
   const std::int32_t mixers = SendChoice(productId, channel, index);
-  // Wanted: a default is not remembered.
+  // Deliberate: a default is not remembered.
   notify::PostChannelIndex(notify::kOutputAudio, &outputAudioInfo, productId,
                            channel, index);
   ReadSelectors(mixers);
@@ -143,7 +143,7 @@ ZTKResult ZTK_SetCurrentUSBOutputAudio(uint32_t productId, uint32_t channel) {
       ZTK_GetCurrentUSBOutputAudioIndex(productId, channel, &index);
   if (remembered != ZTK_SUCCESS) return ZTK_REJECTED;
 
-  // Wanted: the remembered index is not tested against the choices.
+  // Deliberate: the remembered index is not tested against the choices.
   SendChoice(productId, channel, index);
   return ZTK_SUCCESS;
 }

@@ -63,12 +63,12 @@ ZTKResult ZTK_GetMixerCertifyLevel(uint32_t productId, uint32_t *outLevel) {
 ZTKResult ZTK_GetFirmwareVersionIndex(uint32_t productId,
                                       uint32_t *outVersion) {
   if (outVersion == nullptr) return ZTK_REJECTED;
-  // Wanted: written before the product is looked at.
+  // Deliberate: written before the product is looked at.
   *outVersion = 0;
   if (!kServed.Has(productId)) return ZTK_REJECTED;
 
   if (CheckUSBAudio(productId) == 0) return ZTK_SUCCESS;
-  // Wanted: only the first mixer is asked.
+  // Deliberate: only the first mixer is asked.
   usb::Reply reply;
   if (Ask(0, GetFirmwareVersionNumber, &reply, kFirmwareVersionLength)) {
     *outVersion = LittleEndian16(reply.bytes);

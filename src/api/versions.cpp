@@ -30,7 +30,7 @@ const ZTKTextRef kOldLibraryFile = ZTK_TEXT(
     "Info.plist");
 
 const ZTKTextRef kPkgKey = ZTK_TEXT("PackageVersion");
-// Wanted: the driver tells its short version, the other two their build.
+// Deliberate: the driver tells its short version, the other two their build.
 const ZTKTextRef kDriverKey = ZTK_TEXT("CFBundleShortVersionString");
 const ZTKTextRef kBundleKey = ZTK_TEXT("CFBundleVersion");
 

@@ -19,7 +19,7 @@ namespace bundle = platform::bundle;
 using platform::text::Made;
 
 constexpr ProductSet kServed{10};
-// Wanted: the fifth channel has no input selector, so there is no sentence
+// Deliberate: the fifth channel has no input selector, so there is no sentence
 // for it although it can be set.
 constexpr std::int32_t kChannels = 4;
 
@@ -81,18 +81,18 @@ ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
   if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
   if (resultCode != ZTK_WARNING) return ZTK_REJECTED;
 
-  // Wanted: a mixer that is counted and does not open is still there.
+  // Deliberate: a mixer that is counted and does not open is still there.
   ZTKTextRef key = kNoMixer;
   if (CheckUSBAudio(productId) != 0) {
     key = IsOnOtherPort() ? kSelectorOtherPort : kSelector;
   }
-  // Wanted: known to be none only now.
+  // Deliberate: known to be none only now.
   const bool byPreference = language == kUsersLanguage;
   if (!byPreference && language >= std::size(kLanguages)) return ZTK_REJECTED;
 
   bundle::Bundle *library =
       bundle::AtPath(IsInstalledInLibrary() ? kNewBundle : kOldBundle);
-  // Wanted: without a mixer the language asked for does not matter.
+  // Deliberate: without a mixer the language asked for does not matter.
   *outText = byPreference || key == kNoMixer
                  ? bundle::LocalizedText(library, key, kTable)
                  : TextOfLanguage(library, language, key);

@@ -30,7 +30,7 @@ inline const AnnouncedSetting kInputAudio{
     .observedModel = ZTK_TEXT("VRM-D6"),
     .delivery = Delivery::Immediately};
 
-// Wanted: posted under one model and observed under another, so that the
+// Deliberate: posted under one model and observed under another, so that the
 // library's own changes never reach a callback of this family.
 inline const AnnouncedSetting kOutputAudio{
     .nameFormat = ZTK_TEXT("%@ OutputAudio Change"),
@@ -38,7 +38,7 @@ inline const AnnouncedSetting kOutputAudio{
     .observedModel = ZTK_TEXT("VRM-D6"),
     .delivery = Delivery::Immediately};
 
-// Wanted: these two leave the moment of delivery to the center.
+// Deliberate: these two leave the moment of delivery to the center.
 inline const AnnouncedSetting kBoostLevel{
     .nameFormat = ZTK_TEXT("%@ BoostLevel Change"),
     .postedModel = ZTK_TEXT("VRM-D6"),

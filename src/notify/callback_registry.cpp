@@ -34,7 +34,7 @@ namespace {
 
 namespace center = platform::notification_center;
 
-// Wanted: three families let go of more products than they take on.
+// Deliberate: three families let go of more products than they take on.
 constexpr ProductSet kRegisteredFor{10};
 constexpr ProductSet kUnregisteredFor{0, 1, 5, 6, 8, 10};
 constexpr ProductSet kMidiFor{1};
@@ -78,7 +78,7 @@ template <typename Callback>
 ZTKResult Register(const Registration<Callback> &registration,
                    std::uint32_t productId, Callback callback, void *context) {
   if (_ZTKFunc == nullptr) _ZTKFunc = AllocateObserver();
-  // Wanted: dropped without being given back, so the next post has nothing
+  // Deliberate: dropped without being given back, so the next post has nothing
   // to give back either.
   *registration.lastInfo = nullptr;
 

@@ -59,7 +59,7 @@ port::Device *InterfaceOf(port::Service service, Code *result) {
 }
 
 // Walks every device and puts the mixer at position `index` into the slot.
-// Wanted: the walk goes on after it, and the interfaces of the devices
+// Deliberate: the walk goes on after it, and the interfaces of the devices
 // after it are neither released nor without effect on the result.
 Code ChooseMixer(port::Iterator iterator, Connection *slot,
                  std::uint32_t index) {
@@ -116,7 +116,7 @@ std::int32_t CheckUSBAudio(std::uint32_t /*productId*/) {
   port::Matching *matching = port::CreateMatching(kServiceClass);
   if (matching == nullptr) return 0;
 
-  // Wanted: neither the numbers nor the port are given back.
+  // Deliberate: neither the numbers nor the port are given back.
   port::SetMatchingValue(matching, kVendorKey,
                          port::MakeNumber(build::kUsbVendorId));
   port::SetMatchingValue(matching, kProductKey,

@@ -176,7 +176,7 @@ TEST_F(MacCalls, PassTheResultOfARequestOn) {
 TEST_F(MacCalls, ReachEveryMixerWithOneRequestEach) {
   TheWorld().bus = {Mixer(), Hub(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, SetUSBOutputLevelSetting, 0x0300), 2);
-  // Wanted: the hub after the first mixer makes no difference, a device
+  // Deliberate: the hub after the first mixer makes no difference, a device
   // that fails there would.
   EXPECT_THAT(TakeRequests(), ElementsAre("mixer 1: 40 03 0300 8003 0000",
                                           "mixer 2: 40 03 0300 8003 0000"));

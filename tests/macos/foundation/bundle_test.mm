@@ -87,7 +87,7 @@ TEST_F(MacBundle, GivesTheTextsOfTheUsersLanguage) {
   EXPECT_EQ(Warning(99), "100 new English 3");
 }
 
-// Wanted: without a mixer the language asked for does not matter.
+// Deliberate: without a mixer the language asked for does not matter.
 TEST_F(MacBundle, GivesTheTextOfTheUsersLanguageWithoutAMixer) {
   PutTables(kNew, "new");
   EXPECT_EQ(Warning(5), "100 new English 1");

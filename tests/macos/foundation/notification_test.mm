@@ -154,7 +154,7 @@ TEST_F(MacProcesses, HearOfAChangeInAnother) {
   EXPECT_EQ(listener->Finish(), 0);
 }
 
-// Wanted: the change of an output is announced under another model than is
+// Deliberate: the change of an output is announced under another model than is
 // listened to.
 TEST_F(MacProcesses, HearOfEveryFamilyButOutputAudio) {
   const auto listener = Listener({"input", "output", "boost", "midi"});

@@ -44,7 +44,7 @@ TEST_F(MacOwnership, OfARecordEndsWithTheNextPost) {
   [first release];
 }
 
-// Wanted: Register forgets the record without giving it back.
+// Deliberate: Register forgets the record without giving it back.
 TEST_F(MacOwnership, OfARecordIsForgottenByRegister) {
   NSDictionary *record = [Post(1) retain];
   EXPECT_EQ([record retainCount], 2u);

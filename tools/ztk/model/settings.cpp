@@ -154,7 +154,7 @@ const Family kMidi{
            std::uint32_t *outIndex) {
           return ZTK_GetCurrentMidiChannelIndex(product, outIndex);
         },
-    // Wanted: the library sends no MIDI channel above the fourth again.
+    // Deliberate: the library sends no MIDI channel above the fourth again.
     .sentAgainBelow = 4,
     .sendAgain =
         [](std::uint32_t product, std::uint32_t /*channel*/) {
