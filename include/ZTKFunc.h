@@ -135,6 +135,25 @@ typedef void (*ZTKIndexCallback)(int32_t index, void *context);
  * @{
  */
 
+/** VRM-Q8X. */
+#define ZTK_PRODUCT_VRM_Q8X 0u
+/** VRM-K2: the model of the MIDI channel. */
+#define ZTK_PRODUCT_VRM_K2 1u
+/** VRM-Q8S. */
+#define ZTK_PRODUCT_VRM_Q8S 2u
+/** VRC-H7. */
+#define ZTK_PRODUCT_VRC_H7 3u
+/** VRM-Q9. */
+#define ZTK_PRODUCT_VRM_Q9 4u
+/** VRM-L4. */
+#define ZTK_PRODUCT_VRM_L4 5u
+/** VRM-E3. */
+#define ZTK_PRODUCT_VRM_E3 6u
+/** VRM-B5: the model of USB output audio. */
+#define ZTK_PRODUCT_VRM_B5 8u
+/** VRM-D6: the model of everything else. */
+#define ZTK_PRODUCT_VRM_D6 10u
+
 /**
  * Finds the number of a model from its name.
  *

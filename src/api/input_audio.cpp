@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include "api/input_audio.h"
+
 #include <cstdint>
 #include <iterator>
 
 #include "ZTKFunc.h"
-#include "api/product_set.h"
 #include "api/tables.h"
 #include "notify/posting.h"
 #include "store/settings_file.h"
 #include "usb/mixers.h"
 
 using namespace ztk;
+using namespace ztk::input_audio;
 
 // Shared by a family of mixers; this one uses the entries that the choices
 // below name.
@@ -90,63 +92,12 @@ const std::uint16_t _convTable_PC_INPUT[42] = {
     0x050F, 0x050F};                                                 // behind
 // clang-format on
 
-namespace {
-
-constexpr ProductSet kServed{10};
-const ZTKTextRef kModel = ZTK_TEXT("VRM-D6");
-// Deliberate: the key says Output although it keeps what the computer records.
-const ZTKTextRef kKeyFormat = ZTK_TEXT("Output%d");
-constexpr std::int32_t kDefaultIndex = 0;
-
-constexpr std::int32_t kChannels = 5;
-constexpr std::uint32_t kLastChannel = 4;  // the one with its own choices
-constexpr std::uint32_t kRowWidth = 8;
-constexpr std::uint32_t kTableLength = 42;
 static_assert(std::size(PC_INPUT_PULLDOWN_TEXT) == kTableLength);
 static_assert(std::size(_convTable_PC_INPUT) == kTableLength);
-
-// Deliberate: each function draws its line elsewhere.
-struct Bounds {
-  std::uint32_t count;      // choices that are offered
-  std::uint32_t textBelow;  // indexes that have a text
-  std::uint32_t setBelow;   // indexes that can be set
-};
-constexpr Bounds kRowBounds{.count = 7, .textBelow = 9, .setBelow = 8};
-constexpr Bounds kLastRowBounds{.count = 8, .textBelow = 10, .setBelow = 9};
-static_assert(kLastChannel * kRowWidth + kLastRowBounds.textBelow ==
+static_assert(PositionOf(kLastChannel, kLastRowBounds.textBelow) ==
               kTableLength);
 
-// Deliberate: one wider than the channels there are. Channel 5 has no key.
-constexpr std::int32_t kRememberedChannels = 6;
-
-// When a setter warns that the new routing cannot be heard. A routing below a
-// threshold needs the input selector at this position.
-constexpr std::uint8_t kAudiblePosition = 4;
-constexpr std::uint16_t kSelectorInfoLength = 5;  // bytes
-// Deliberate: no pair of them is alike.
-struct Thresholds {
-  std::uint32_t withoutMixer;
-  std::uint32_t withMixer;
-};
-constexpr Thresholds kIndexWarnsBelow{.withoutMixer = 3, .withMixer = 2};
-constexpr Thresholds kSourceWarnsBelow{.withoutMixer = 2, .withMixer = 4};
-
-constexpr std::uint32_t kSources = 16;
-
-const Bounds &BoundsOf(std::uint32_t channel) {
-  return channel == kLastChannel ? kLastRowBounds : kRowBounds;
-}
-
-std::uint32_t PositionOf(std::uint32_t channel, std::uint32_t index) {
-  return channel * kRowWidth + index;
-}
-
-std::uint16_t RawValue(std::uint32_t channel, std::uint32_t high,
-                       std::uint32_t source) {
-  return static_cast<std::uint16_t>(((high + 1) << 12 & 0xF000) |
-                                    ((channel + 1) << 8 & 0x0F00) |
-                                    (source & 0x00FF));
-}
+namespace {
 
 // Asks the mixers in turn where the channel's input selector stands; the first
 // that stands wrong decides. `choice` is what the thresholds speak of.
@@ -200,9 +151,8 @@ ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
   if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
   if (index >= BoundsOf(channel).setBelow) return ZTK_REJECTED;
 
-  const std::int32_t mixers =
-      usb::SendToEveryMixer(productId, SetMixerOutputSetting,
-                            _convTable_PC_INPUT[PositionOf(channel, index)]);
+  const std::int32_t mixers = usb::SendToEveryMixer(
+      productId, SetMixerOutputSetting, DeviceValue(channel, index));
   store::WriteChannel(kModel, kKeyFormat, channel, index);
   notify::PostChannelIndex(notify::kInputAudio, &inputAudioInfo, productId,
                            channel, index);
@@ -216,7 +166,7 @@ ZTKResult ZTK_SetUSBInputAudioDirect(uint32_t productId, uint32_t channel,
   if (source >= kSources) return ZTK_REJECTED;
 
   const std::int32_t mixers = usb::SendToEveryMixer(
-      productId, SetMixerOutputSetting, RawValue(channel, high, source));
+      productId, SetMixerOutputSetting, DirectValue(channel, high, source));
   return WarnIfInaudible(mixers, channel, source, kSourceWarnsBelow);
 }
 
@@ -239,11 +189,9 @@ ZTKResult ZTK_SetCurrentUSBInputAudio(uint32_t productId, uint32_t channel) {
   const ZTKResult remembered = ZTK_GetCurrentUSBInputAudioIndex(
       productId, static_cast<std::int32_t>(channel), &index);
   if (remembered != ZTK_SUCCESS) return ZTK_REJECTED;
-  // The remembered index may be any number; 64 bits hold every position.
-  const std::uint64_t position = std::uint64_t{channel} * kRowWidth + index;
-  if (position >= kTableLength) return ZTK_REJECTED;
+  if (!CanBeResent(channel, index)) return ZTK_REJECTED;
 
   usb::SendToEveryMixer(productId, SetMixerOutputSetting,
-                        _convTable_PC_INPUT[position]);
+                        DeviceValue(channel, index));
   return ZTK_SUCCESS;
 }

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include "api/midi.h"
+
 #include <cstdint>
 #include <iterator>
 
 #include "ZTKFunc.h"
-#include "api/product_set.h"
 #include "api/tables.h"
 #include "notify/posting.h"
 #include "store/settings_file.h"
 #include "usb/mixers.h"
 
 using namespace ztk;
+using namespace ztk::midi;
 
 const ZTKTextRef MidiChannelText[16] = {
     ZTK_TEXT("CH 1"),  ZTK_TEXT("CH 2"),  ZTK_TEXT("CH 3"),  ZTK_TEXT("CH 4"),
@@ -19,24 +21,7 @@ const ZTKTextRef MidiChannelText[16] = {
 // Deliberate: visible, and read by nothing.
 const ZTKTextRef MidiKeyModeText[2] = {ZTK_TEXT("Toggle"), ZTK_TEXT("Trigger")};
 
-namespace {
-
-constexpr ProductSet kServed{1};
-const ZTKTextRef kModel = ZTK_TEXT("VRM-K2");
-const ZTKTextRef kKey = ZTK_TEXT("MidiChannel");
-constexpr std::int32_t kDefaultIndex = 0;
-
-constexpr std::uint32_t kChoices = 16;
 static_assert(std::size(MidiChannelText) == kChoices);
-// Deliberate: sixteen channels can be set, only the first four are re-sent.
-constexpr std::uint32_t kResendBelow = 4;
-
-// The channel stands in the high byte.
-std::uint16_t DeviceValue(std::uint32_t index) {
-  return static_cast<std::uint16_t>(index << 8);
-}
-
-}  // namespace
 
 ZTKResult ZTK_GetNumOfMidiChannelIndex(uint32_t productId, uint32_t *outCount) {
   if (outCount == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
@@ -76,8 +61,7 @@ ZTKResult ZTK_SetCurrentMidiChannelIndex(uint32_t productId) {
   std::uint32_t index = 0;
   const ZTKResult remembered =
       ZTK_GetCurrentMidiChannelIndex(productId, &index);
-  if (remembered != ZTK_SUCCESS) return ZTK_REJECTED;
-  if (index >= kResendBelow) return ZTK_REJECTED;
+  if (remembered != ZTK_SUCCESS || !CanBeResent(index)) return ZTK_REJECTED;
 
   usb::SendToEveryMixer(productId, SetMidiChannelSetting, DeviceValue(index));
   return ZTK_SUCCESS;

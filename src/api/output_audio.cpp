@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include "api/output_audio.h"
+
 #include <cstdint>
 #include <iterator>
 
 #include "ZTKFunc.h"
-#include "api/product_set.h"
 #include "api/tables.h"
 #include "notify/posting.h"
 #include "store/settings_file.h"
 #include "usb/mixers.h"
 
 using namespace ztk;
+using namespace ztk::output_audio;
 
 const ZTKTextRef OutputAudioText[3] = {ZTK_TEXT("CH1"), ZTK_TEXT("CH2"),
                                        ZTK_TEXT("AUX")};
@@ -32,38 +34,17 @@ const std::uint16_t _convTableOut_B5[9] = {
     0x0300, 0x0301, 0x0304};  // channel 2
 // clang-format on
 
-namespace {
-
-constexpr ProductSet kServed{8};
-const ZTKTextRef kModel = ZTK_TEXT("VRM-B5");
-// Deliberate: the key says Input although it keeps what the computer plays.
-const ZTKTextRef kKeyFormat = ZTK_TEXT("Input%d");
-
-constexpr std::int32_t kChannels = 3;
-// Deliberate: the setters take two channels that have no device value.
-constexpr std::int32_t kSettableChannels = 5;
-
-constexpr std::uint32_t kChoices = 3;
-// Deliberate: one more text than there are choices.
-constexpr std::uint32_t kTextBelow = 4;
-
-constexpr std::uint64_t kTableLength = 9;
 static_assert(std::size(_convTableOut_B5) == kTableLength);
 
-constexpr std::uint16_t kSelectorInfoLength = 4;  // bytes
-
-// A channel's default choice has its own number.
-std::uint32_t DefaultIndex(std::uint32_t channel) { return channel; }
+namespace {
 
 // Sends the device value of a choice to every mixer, or nothing where there is
 // none. Answers the count of mixers, which is taken in either case.
 std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
                         std::uint32_t index) {
-  // The index may be any remembered number; 64 bits hold every position.
-  const std::uint64_t position = std::uint64_t{channel} * kChoices + index;
-  if (position >= kTableLength) return CheckUSBAudio(productId);
+  if (!HasDeviceValue(channel, index)) return CheckUSBAudio(productId);
   return usb::SendToEveryMixer(productId, SetMixerInputSetting,
-                               _convTableOut_B5[position]);
+                               DeviceValue(channel, index));
 }
 
 // Deliberate: what the mixers answer is not looked at; this family never warns.

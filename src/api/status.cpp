@@ -1,37 +1,18 @@
 // SPDX-License-Identifier: MIT
+#include "api/status.h"
+
 #include <cstdint>
 
 #include "ZTKFunc.h"
-#include "api/product_set.h"
 #include "usb/mixers.h"
 
 using namespace ztk;
+using namespace ztk::status;
 
 namespace {
 
-constexpr ProductSet kServed{10};
-
-// Lengths of the replies, in bytes.
-constexpr std::uint16_t kCertifyLevelLength = 4;
-constexpr std::uint16_t kFirmwareVersionLength = 2;
-constexpr std::uint16_t kSelectorInfoLength = 5;
-constexpr std::uint16_t kSeratoActiveLength = 2;
-
-constexpr std::int32_t kChannels = 5;
-constexpr std::uint8_t kSelectorPositions = 17;
-constexpr std::uint8_t kSeratoStates = 2;
-
 // A read that delivers nothing must not look like a state.
 constexpr std::uint8_t kNoSeratoAnswer = 0xFF;
-
-std::uint32_t BigEndian32(const std::uint8_t *bytes) {
-  return std::uint32_t{bytes[0]} << 24 | std::uint32_t{bytes[1]} << 16 |
-         std::uint32_t{bytes[2]} << 8 | std::uint32_t{bytes[3]};
-}
-
-std::uint32_t LittleEndian16(const std::uint8_t *bytes) {
-  return std::uint32_t{bytes[0]} | std::uint32_t{bytes[1]} << 8;
-}
 
 using ReadRequest = usb::Code (*)(usb::Connection device, std::uint8_t *buffer,
                                   std::uint16_t length);

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
+#include "api/warning_text.h"
+
 #include <cstdint>
 #include <iterator>
 
 #include "ZTKFunc.h"
 #include "api/install_location.h"
-#include "api/product_set.h"
 #include "platform/bundle.h"
 #include "platform/property_list.h"
 #include "platform/text.h"
 #include "usb/mixers.h"
 
 using namespace ztk;
+using namespace ztk::warning_text;
 
 namespace {
 
@@ -18,30 +20,7 @@ namespace plist = platform::property_list;
 namespace bundle = platform::bundle;
 using platform::text::Made;
 
-constexpr ProductSet kServed{10};
-// Deliberate: the fifth channel has no input selector, so there is no sentence
-// for it although it can be set.
-constexpr std::int32_t kChannels = 4;
-
-const ZTKTextRef kNewBundle =
-    ZTK_TEXT("/Library/Frameworks/VRM-D6Setup.framework");
-const ZTKTextRef kOldBundle =
-    ZTK_TEXT("/System/Library/Frameworks/VRM-D6Setup.framework");
-const ZTKTextRef kTable = ZTK_TEXT("Localizable");
 const ZTKTextRef kTablePath = ZTK_TEXT("%@/%@.lproj/Localizable.strings");
-
-// Keys of the sentences.
-const ZTKTextRef kNoMixer = ZTK_TEXT("WARNING1");
-const ZTKTextRef kSelector = ZTK_TEXT("WARNING2");
-const ZTKTextRef kSelectorOtherPort = ZTK_TEXT("WARNING3");
-
-// Folders of the languages, in the order of their codes.
-const ZTKTextRef kLanguages[] = {
-    ZTK_TEXT("English"), ZTK_TEXT("Japanese"), ZTK_TEXT("French"),
-    ZTK_TEXT("German"),  ZTK_TEXT("Italian"),  ZTK_TEXT("Dutch"),
-    ZTK_TEXT("Spanish"), ZTK_TEXT("ru"),       ZTK_TEXT("pt"),
-    ZTK_TEXT("zh_CN"),   ZTK_TEXT("zh_TW"),    ZTK_TEXT("ko")};
-constexpr std::uint32_t kUsersLanguage = 99;
 
 constexpr std::uint16_t kPortInfoLength = 2;  // bytes
 constexpr std::uint8_t kOtherPort = 1;

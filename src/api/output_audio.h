@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+//
+// The facts of USB output audio.
+#ifndef ZTK_API_OUTPUT_AUDIO_H_
+#define ZTK_API_OUTPUT_AUDIO_H_
+
+#include <cstdint>
+
+#include "ZTKFunc.h"
+#include "api/product.h"
+#include "api/product_set.h"
+#include "api/tables.h"
+#include "usb/USB.h"
+
+namespace ztk::output_audio {
+
+inline constexpr std::uint32_t kProduct = ZTK_PRODUCT_VRM_B5;
+inline constexpr ProductSet kServed{kProduct};
+
+inline const ZTKTextRef kModel = product::kNameOfB5;
+// Deliberate: the key says Input, although it holds the routing of what the
+// computer plays. It takes the channel, counted from 0.
+inline const ZTKTextRef kKeyFormat = ZTK_TEXT("Input%d");
+
+inline constexpr std::int32_t kChannels = 3;
+// Deliberate: the setters accept two channels that have no device value.
+inline constexpr std::int32_t kSettableChannels = 5;
+
+inline constexpr std::uint32_t kChoices = 3;
+// Deliberate: there is one more text than there are choices.
+inline constexpr std::uint32_t kTextBelow = 4;
+
+inline constexpr std::uint64_t kTableLength = 9;
+
+inline constexpr std::uint16_t kWriteRegister = usb::kMixerInputRegister;
+// The input selectors are read after each change: this many bytes.
+inline constexpr std::uint16_t kSelectorInfoLength = 4;
+
+// The number of a channel's default choice is the number of the channel.
+constexpr std::uint32_t DefaultIndex(std::uint32_t channel) { return channel; }
+
+// Where the device value of a choice is in its table. The index may be any
+// remembered number; 64 bits hold every position.
+constexpr std::uint64_t PositionOf(std::uint32_t channel, std::uint32_t index) {
+  return std::uint64_t{channel} * kChoices + index;
+}
+
+// Whether there is a device value. Where there is none, nothing is sent.
+constexpr bool HasDeviceValue(std::uint32_t channel, std::uint32_t index) {
+  return PositionOf(channel, index) < kTableLength;
+}
+
+// The value that a mixer is sent, if HasDeviceValue().
+inline std::uint16_t DeviceValue(std::uint32_t channel, std::uint32_t index) {
+  return _convTableOut_B5[PositionOf(channel, index)];
+}
+
+}  // namespace ztk::output_audio
+
+#endif  // ZTK_API_OUTPUT_AUDIO_H_
