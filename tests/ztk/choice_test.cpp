@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ztk::cli {
+namespace ztk::program {
 namespace {
 
 const std::vector<Choice> kRouting{{.number = 1, .text = "CH1 Tone PHONO"},
@@ -102,4 +102,4 @@ TEST(FindChoice, FindsNothingForNothing) {
 }
 
 }  // namespace
-}  // namespace ztk::cli
+}  // namespace ztk::program

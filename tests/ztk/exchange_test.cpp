@@ -74,8 +74,8 @@ TEST_F(Export, LeavesOutWhatHasNoWordsAndSaysSo) {
 // Every choice of every family, out and in again.
 TEST_F(Import, BringsBackWhatWasExported) {
   std::set<std::string> models;
-  for (const cli::Family *family : cli::Families()) {
-    models.insert(cli::ModelName(*family));
+  for (const program::Family *family : program::Families()) {
+    models.insert(program::ModelName(*family));
   }
   for (int round = 0; round < 16; ++round) {
     SCOPED_TRACE(round);

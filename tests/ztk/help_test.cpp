@@ -40,7 +40,7 @@ TEST_F(Help, TellsTheExitCodes) {
 
 TEST_F(Help, ShowsAnExampleAndTheModelWithEveryCommand) {
   std::string script;
-  for (const cli::Command &command : cli::Commands()) {
+  for (const program::Command &command : program::Commands()) {
     script += "ztk " + command.path + " --help > '" + home_.path().string() +
               "/" + command.path + "'; echo $?;";
   }
@@ -48,7 +48,7 @@ TEST_F(Help, ShowsAnExampleAndTheModelWithEveryCommand) {
   for (const std::string &status : SplitLines(result.out)) {
     EXPECT_EQ(status, "0");
   }
-  for (const cli::Command &command : cli::Commands()) {
+  for (const program::Command &command : program::Commands()) {
     SCOPED_TRACE(command.path);
     const std::string help = File(command.path);
     EXPECT_THAT(help, HasSubstr("Example: " + command.example + "\n"));
@@ -114,7 +114,7 @@ TEST_F(Help, GivesExamplesThatWork) {
   std::string script =
       "cd $DIR; ztk boost set 1 > /dev/null; ztk export > club.json\n"
       "set -x\n";
-  for (const cli::Command &command : cli::Commands()) {
+  for (const program::Command &command : program::Commands()) {
     if (command.path == "watch" || command.path == "warning" ||
         command.path == "doctor" || command.path.starts_with("autoapply "))
       continue;
@@ -152,7 +152,7 @@ TEST_F(Help, GivesAnExampleOfAWarningThatWorks) {
 }
 
 TEST_F(Help, GivesExamplesForEverySetting) {
-  for (const cli::Group &group : cli::Groups()) {
+  for (const program::Group &group : program::Groups()) {
     if (group.name == "autoapply") continue;  // needs a systemd
     EXPECT_EQ(OneMixer(group.example).status, 0) << group.example;
   }
@@ -161,7 +161,7 @@ TEST_F(Help, GivesExamplesForEverySetting) {
 
 TEST(Commands, HaveNamesOfTheirOwn) {
   std::set<std::string> paths;
-  for (const cli::Command &command : cli::Commands()) {
+  for (const program::Command &command : program::Commands()) {
     EXPECT_TRUE(paths.insert(command.path).second) << command.path;
     EXPECT_EQ(command.example.rfind("ztk " + command.path, 0), 0U);
   }

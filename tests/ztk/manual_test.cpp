@@ -52,7 +52,7 @@ class Manual : public CliWorld {
 
 TEST_F(Manual, TellsEveryCommandAndOptionWithItsExample) {
   const std::string page = PlainPage("ztk.1");
-  for (const cli::Command &command : cli::Commands()) {
+  for (const program::Command &command : program::Commands()) {
     SCOPED_TRACE(command.path);
     const std::string section = SectionOf(page, command.path);
     EXPECT_THAT(section, HasSubstr("ztk " + command.path));
@@ -61,15 +61,15 @@ TEST_F(Manual, TellsEveryCommandAndOptionWithItsExample) {
       EXPECT_THAT(section, HasSubstr(line));
     }
     EXPECT_THAT(section, HasSubstr(command.example));
-    for (const cli::ParameterUse &use : command.parameters) {
-      EXPECT_THAT(section, HasSubstr(cli::ParameterName(use.parameter)));
+    for (const program::ParameterUse &use : command.parameters) {
+      EXPECT_THAT(section, HasSubstr(program::ParameterName(use.parameter)));
       EXPECT_THAT(section, HasSubstr(use.description));
     }
   }
   const std::size_t begin = page.find("\n.SH \"SETTINGS\"\n");
   const std::string settings =
       page.substr(begin, page.find("\n.SH ", begin + 1) - begin);
-  for (const cli::Group &group : cli::Groups()) {
+  for (const program::Group &group : program::Groups()) {
     EXPECT_EQ(settings.find("\n.TP\n" + group.name + "\n") != std::string::npos,
               group.name != "autoapply")
         << group.name;
@@ -105,7 +105,7 @@ TEST_F(Manual, ShowsThatAChoiceMayBeLeftOut) {
 TEST_F(Manual, TellsEveryExitStatusAsTheHelpDoes) {
   const std::string page = PlainPage("ztk.1");
   const std::string help = NoMixer("ztk --help").out;
-  for (const cli::ExitMeaning &meaning : cli::ExitMeanings()) {
+  for (const program::ExitMeaning &meaning : program::ExitMeanings()) {
     const std::string number = std::to_string(static_cast<int>(meaning.exit));
     const std::string text = meaning.text;
     EXPECT_THAT(page, HasSubstr("\n.TP\n" + number + "\n" + text));
@@ -122,11 +122,11 @@ TEST_F(Manual, IsNoLongerThanTheTable) {
        at = page.find("\n.SS ", at + 1)) {
     ++sections;
   }
-  EXPECT_EQ(sections, cli::Commands().size());
+  EXPECT_EQ(sections, program::Commands().size());
 }
 
 TEST_F(Manual, CompletesEveryCommandAndOption) {
-  for (const cli::Command &command : cli::Commands()) {
+  for (const program::Command &command : program::Commands()) {
     SCOPED_TRACE(command.path);
     const std::size_t space = command.path.find(' ');
     const std::string before =
@@ -134,8 +134,8 @@ TEST_F(Manual, CompletesEveryCommandAndOption) {
     EXPECT_THAT(Offered(before + "''"),
                 testing::Contains(command.path.substr(before.size())));
     std::vector<std::string> options;
-    for (const cli::ParameterUse &use : command.parameters) {
-      const std::string name = cli::ParameterName(use.parameter);
+    for (const program::ParameterUse &use : command.parameters) {
+      const std::string name = program::ParameterName(use.parameter);
       if (name.front() == '-') options.push_back(name);
     }
     for (const char *name : {"--help", "--json", "--version"}) {

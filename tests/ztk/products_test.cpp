@@ -6,7 +6,7 @@
 #include "cli/strings.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 namespace {
 
 TEST(ParseProduct, TakesNumbersAndNames) {
@@ -36,14 +36,14 @@ TEST(ProductName, NamesEveryModel) {
 }
 
 TEST(ParseDecimalOrHex, TakesBothAndNothingElse) {
-  EXPECT_EQ(ParseDecimalOrHex("15"), 15U);
-  EXPECT_EQ(ParseDecimalOrHex("0x1F"), 31U);
-  EXPECT_EQ(ParseDecimalOrHex("4294967295"), 4294967295U);
+  EXPECT_EQ(cli::ParseDecimalOrHex("15"), 15U);
+  EXPECT_EQ(cli::ParseDecimalOrHex("0x1F"), 31U);
+  EXPECT_EQ(cli::ParseDecimalOrHex("4294967295"), 4294967295U);
   for (const char *word : {"", "0x", "x1", "-1", "1 ", "4294967296", "1.5"}) {
     SCOPED_TRACE(word);
-    EXPECT_EQ(ParseDecimalOrHex(word), std::nullopt);
+    EXPECT_EQ(cli::ParseDecimalOrHex(word), std::nullopt);
   }
 }
 
 }  // namespace
-}  // namespace ztk::cli
+}  // namespace ztk::program

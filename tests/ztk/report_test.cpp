@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ztk::cli {
+namespace ztk::program {
 namespace {
 
 TEST(JsonLine, PutsTheFixedFieldsFirst) {
@@ -41,16 +41,17 @@ TEST(ErrorWord, NamesEveryExitCode) {
 }
 
 TEST(Quoted, KeepsToOneShortLine) {
-  EXPECT_EQ(Quoted("a\nb\x1B[1m\x7F"), "\"a b [1m \"");
-  EXPECT_EQ(Quoted(std::string(61, 'x')),
+  EXPECT_EQ(cli::Quoted("a\nb\x1B[1m\x7F"), "\"a b [1m \"");
+  EXPECT_EQ(cli::Quoted(std::string(61, 'x')),
             "\"" + std::string(60, 'x') + "...\"");
-  EXPECT_EQ(Quoted(std::string(60, 'x')), "\"" + std::string(60, 'x') + "\"");
+  EXPECT_EQ(cli::Quoted(std::string(60, 'x')),
+            "\"" + std::string(60, 'x') + "\"");
 }
 
 TEST(Padded, FillsUpAndNeverCuts) {
-  EXPECT_EQ(Padded("ab", 4), "ab  ");
-  EXPECT_EQ(Padded("abcde", 4), "abcde");
+  EXPECT_EQ(cli::Padded("ab", 4), "ab  ");
+  EXPECT_EQ(cli::Padded("abcde", 4), "abcde");
 }
 
 }  // namespace
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -95,7 +95,7 @@ class WrongWords : public CliWorld {
   }
 
   std::string Line() {
-    const cli::Command &command = OneOf(cli::Commands());
+    const program::Command &command = OneOf(program::Commands());
     switch (Below(6)) {
       case 0:  // a command that there is not
         return Garbage() + " " + command.path;

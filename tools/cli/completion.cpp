@@ -3,17 +3,14 @@
 
 #include <algorithm>
 
-namespace ztk::manual {
+#include "cli/strings.h"
+
+namespace ztk::cli {
 
 namespace {
 
 constexpr char kFiles[] = ":files\n";
 constexpr char kCommand[] = ":command\n";
-
-char LowerCase(char character) {
-  const bool upper = character >= 'A' && character <= 'Z';
-  return upper ? static_cast<char>(character - 'A' + 'a') : character;
-}
 
 bool Begins(const std::string &word, const std::string &begun) {
   return word.size() >= begun.size() &&
@@ -189,4 +186,4 @@ std::string Completions(const Program &program,
   return reader.Offered(words.back());
 }
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli

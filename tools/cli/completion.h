@@ -11,7 +11,7 @@
 
 #include "cli/program.h"
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 // The first word of a call by such a script; the others follow, the last of
 // which is the one to complete.
@@ -28,6 +28,6 @@ enum class Shell : std::uint8_t { Bash, Fish, Zsh };
 // The script that completes the program.
 std::string CompletionScript(const std::string &program, Shell shell);
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_CLI_COMPLETION_H_

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/completion.h"
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 namespace {
 
@@ -142,4 +142,4 @@ std::string CompletionScript(const std::string &program, Shell shell) {
   return script;
 }
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli

@@ -4,11 +4,11 @@
 
 #include "cli/program.h"
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 // The program that is built with this: each defines its own.
 Program Described();
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_CLI_DESCRIBED_H_

@@ -4,7 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 namespace {
 
@@ -213,4 +213,4 @@ HeaderComments ReadHeader(const std::string &header) {
   return HeaderReader().Read(header);
 }
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 // A parameter, or a result, with what is said of it.
 struct Named {
@@ -42,6 +42,6 @@ struct HeaderComments {
 // header has throughout.
 HeaderComments ReadHeader(const std::string &header);
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_HEADER_MANUAL_HEADER_COMMENTS_H_

@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 // Commands are called commands, and what a command needs is told by the line of
 // its usage alone.
@@ -29,6 +29,6 @@ class HelpFormat : public CLI::Formatter {
 // What commands are listed under.
 inline constexpr char kCommandGroup[] = "Commands";
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_CLI_HELP_FORMAT_H_

@@ -3,7 +3,7 @@
 
 #include "cli/roff.h"
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 namespace {
 
@@ -108,4 +108,4 @@ std::string ManPage(const Program &program, const std::string &date,
   return page.text();
 }
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli

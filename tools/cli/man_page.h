@@ -6,12 +6,12 @@
 
 #include "cli/program.h"
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 // The manual page of a program, in section 1.
 std::string ManPage(const Program &program, const std::string &date,
                     const std::string &source);
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_CLI_MAN_PAGE_H_

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/program.h"
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 std::vector<std::string> NamesOf(const Option &option) {
   std::vector<std::string> names{""};
@@ -19,4 +19,4 @@ std::string KeyOf(const Option &option) { return NamesOf(option).back(); }
 
 bool IsPosition(const Option &option) { return option.names[0] != '-'; }
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli

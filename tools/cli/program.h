@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 // A word that can stand somewhere, and what it means.
 struct Value {
@@ -93,6 +93,6 @@ std::vector<std::string> NamesOf(const Option &option);
 std::string KeyOf(const Option &option);
 bool IsPosition(const Option &option);
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_CLI_PROGRAM_H_

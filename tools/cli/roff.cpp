@@ -4,7 +4,7 @@
 #include <sstream>
 #include <vector>
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 namespace {
 
@@ -143,4 +143,4 @@ void Page::Term(const std::string &markup, const std::string &meaning) {
   for (const std::string &line : LinesOf(meaning)) Request(Escaped(line));
 }
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli

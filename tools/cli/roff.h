@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace ztk::manual {
+namespace ztk::cli {
 
 class Page {
  public:
@@ -42,6 +42,6 @@ std::string Escaped(const std::string &text);
 std::string Bold(const std::string &text);
 std::string Italic(const std::string &text);
 
-}  // namespace ztk::manual
+}  // namespace ztk::cli
 
 #endif  // ZTK_TOOLS_CLI_ROFF_H_

@@ -13,14 +13,14 @@
 
 namespace {
 
-using ztk::manual::Bold;
-using ztk::manual::Entry;
-using ztk::manual::Escaped;
-using ztk::manual::HeaderComments;
-using ztk::manual::HeaderGroup;
-using ztk::manual::Italic;
-using ztk::manual::Named;
-using ztk::manual::Page;
+using ztk::cli::Bold;
+using ztk::cli::Entry;
+using ztk::cli::Escaped;
+using ztk::cli::HeaderComments;
+using ztk::cli::HeaderGroup;
+using ztk::cli::Italic;
+using ztk::cli::Named;
+using ztk::cli::Page;
 
 constexpr int kFunctionsSection = 3;
 
@@ -98,7 +98,7 @@ int main(int argc, char **argv) {
     std::ostringstream text;
     text << header.rdbuf();
     std::ofstream page(argv[2], std::ios::binary);
-    page << HeaderPage(ztk::manual::ReadHeader(text.str()), argv[3], argv[4]);
+    page << HeaderPage(ztk::cli::ReadHeader(text.str()), argv[3], argv[4]);
     page.close();
     if (header && page) return 0;
     std::cerr << "write-header-manual: cannot read " << argv[1] << " or write "

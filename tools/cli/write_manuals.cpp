@@ -24,7 +24,7 @@ bool Write(const std::string &file, const std::string &text) {
 }  // namespace
 
 int main(int argc, char **argv) {
-  using namespace ztk::manual;
+  using namespace ztk::cli;
   if (argc != 4) {
     std::cerr << "usage: write-manuals FOLDER DATE SOURCE\n";
     return 2;

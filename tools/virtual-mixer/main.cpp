@@ -34,8 +34,8 @@ constexpr int kFailed = 1;
 constexpr int kUsage = 2;
 
 bool TakesCommand(const Command &command) {
-  for (const ztk::manual::Option &option : command.text.options) {
-    if (option.fill == ztk::manual::Fill::Command) return true;
+  for (const ztk::cli::Option &option : command.text.options) {
+    if (option.fill == ztk::cli::Fill::Command) return true;
   }
   return false;
 }
@@ -53,7 +53,7 @@ std::string Footer(const Command &command) {
 }
 
 // What follows "--" is no word of the parser's.
-class Format : public ztk::manual::HelpFormat {
+class Format : public ztk::cli::HelpFormat {
  public:
   Format() : HelpFormat(IsNarrow() ? kNarrowColumn : kColumn) {}
 
@@ -181,17 +181,17 @@ class Parser {
   void Add(const Command &command) {
     CLI::App *const app =
         app_.add_subcommand(command.text.path, command.text.summary);
-    app->group(ztk::manual::kCommandGroup);
+    app->group(ztk::cli::kCommandGroup);
     app->footer(Footer(command));
     options_[command.text.path];
-    for (const ztk::manual::Option &option : command.text.options) {
-      if (option.fill != ztk::manual::Fill::Command) AddOption(option, app);
+    for (const ztk::cli::Option &option : command.text.options) {
+      if (option.fill != ztk::cli::Fill::Command) AddOption(option, app);
     }
   }
 
-  void AddOption(const ztk::manual::Option &option, CLI::App *app) {
-    const std::string key = ztk::manual::KeyOf(option);
-    if (option.value.empty() && !ztk::manual::IsPosition(option)) {
+  void AddOption(const ztk::cli::Option &option, CLI::App *app) {
+    const std::string key = ztk::cli::KeyOf(option);
+    if (option.value.empty() && !ztk::cli::IsPosition(option)) {
       options_[app->get_name()][key] =
           app->add_flag(option.names, option.description);
       return;
@@ -218,9 +218,9 @@ int Complain(const std::string &what, int status) {
 }
 
 int Main(const std::vector<std::string> &words) {
-  if (!words.empty() && words.front() == ztk::manual::kCompletionCall) {
-    std::cout << ztk::manual::Completions(ztk::manual::Described(),
-                                          {words.begin() + 1, words.end()});
+  if (!words.empty() && words.front() == ztk::cli::kCompletionCall) {
+    std::cout << ztk::cli::Completions(ztk::cli::Described(),
+                                       {words.begin() + 1, words.end()});
     return 0;
   }
   Parser parser;

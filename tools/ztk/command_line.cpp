@@ -19,7 +19,7 @@
 #include "ztk/commands/command_table.h"
 #include "ztk/progress.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -40,7 +40,7 @@ std::string SeeHelp(const std::string &path) {
 }
 
 std::string Footer(const std::string &note, const std::string &example) {
-  return note + "\n\n" + kWhole + "Example: " + example;
+  return note + "\n\n" + cli::kWhole + "Example: " + example;
 }
 
 std::string ProgramFooter() {
@@ -49,7 +49,7 @@ std::string ProgramFooter() {
   for (const ExitMeaning &meaning : ExitMeanings()) {
     const std::string number = std::to_string(static_cast<int>(meaning.exit));
     text += "\n" + std::string(kColumn - number.size(), ' ') + number + "  " +
-            OneLine(meaning.text);
+            cli::OneLine(meaning.text);
   }
   return Footer(text, kExample);
 }
@@ -73,7 +73,7 @@ class Parser {
   // so those are left out: making them all takes longer than most commands do.
   explicit Parser(const std::vector<std::string> &words) : app_(kAbout, "ztk") {
     // The commands take it over.
-    app_.formatter(std::make_shared<manual::HelpFormat>(kHelpColumn));
+    app_.formatter(std::make_shared<cli::HelpFormat>(kHelpColumn));
     const bool isClear = !words.empty() && IsFirstWord(words.front());
     Prepare(&app_, isClear ? "" : ProgramFooter());
     app_.set_version_flag(kVersionOption.names,
@@ -148,7 +148,7 @@ class Parser {
   void Prepare(CLI::App *app, const std::string &footer) {
     app->allow_extras();
     app->require_subcommand(0, 1);
-    app->group(manual::kCommandGroup);
+    app->group(cli::kCommandGroup);
     app->set_help_flag(kHelpOption.names, kHelpOption.description);
     app->add_flag(kJsonOption.names, json_, kJsonOption.description)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
@@ -210,18 +210,19 @@ class Parser {
     const std::string place = path.empty() ? "" : " after \"" + path + "\"";
     std::string message;
     if (extras.empty()) {
-      message =
-          "a command is missing" + place + "; accepted: " + Listed(Below(app));
+      message = "a command is missing" + place +
+                "; accepted: " + cli::Listed(Below(app));
     } else if (extras.front().starts_with("-")) {
-      message = "no option " + Quoted(extras.front()) + place +
-                NearestAndAccepted(extras.front(), Options(app));
+      message = "no option " + cli::Quoted(extras.front()) + place +
+                cli::NearestAndAccepted(extras.front(), Options(app));
     } else if (isGroup) {
-      message = "no command " + Quoted(extras.front()) + place +
+      message = "no command " + cli::Quoted(extras.front()) + place +
                 NearestCommand(app, extras.front());
     } else {
       // It may be an option without its dashes.
-      const std::string option = Nearest(extras.front(), Options(app));
-      message = "one word too many" + place + ": " + Quoted(extras.front()) +
+      const std::string option = cli::Nearest(extras.front(), Options(app));
+      message = "one word too many" + place + ": " +
+                cli::Quoted(extras.front()) +
                 (option.empty() ? "" : "; nearest: " + option);
     }
     throw Failure(ExitCode::Usage, message + SeeHelp(path));
@@ -254,9 +255,10 @@ class Parser {
       if (command.path.ends_with(" " + word)) whole.push_back(command.path);
     }
     if (whole.empty() || app.get_parent() != nullptr) {
-      return NearestAndAccepted(word, Below(app));
+      return cli::NearestAndAccepted(word, Below(app));
     }
-    return "; nearest: " + Listed(whole) + "; accepted: " + Listed(Below(app));
+    return "; nearest: " + cli::Listed(whole) +
+           "; accepted: " + cli::Listed(Below(app));
   }
 
   CLI::App app_;
@@ -276,9 +278,9 @@ bool AsksForJson(const std::vector<std::string> &words) {
 
 Report Help(const std::string &text) {
   Report report;
-  report.text = Flowed(text, Columns(STDOUT_FILENO));
+  report.text = cli::Flowed(text, cli::Columns(STDOUT_FILENO));
   report.fields["help"] =
-      LaidOut(Flowed(text, 0), {.columns = 0, .standsOut = false});
+      cli::LaidOut(cli::Flowed(text, 0), {.columns = 0, .standsOut = false});
   return report;
 }
 
@@ -291,7 +293,7 @@ Report Version() {
 
 Report Completed(const std::vector<std::string> &words) {
   Report report;
-  report.text = manual::Completions(manual::Described(), words);
+  report.text = cli::Completions(cli::Described(), words);
   return report;
 }
 
@@ -321,7 +323,7 @@ Report HelpOnPath(Parser *parser) {
 }  // namespace
 
 Report Run(std::vector<std::string> words, Call *call) {
-  if (!words.empty() && words.front() == manual::kCompletionCall) {
+  if (!words.empty() && words.front() == cli::kCompletionCall) {
     return Completed({words.begin() + 1, words.end()});
   }
   call->json = AsksForJson(words);
@@ -339,7 +341,7 @@ Report Run(std::vector<std::string> words, Call *call) {
   } catch (const CLI::ParseError &error) {
     call->command = parser.Path();
     throw Failure(ExitCode::Usage,
-                  OneLine(error.what()) + SeeHelp(call->command));
+                  cli::OneLine(error.what()) + SeeHelp(call->command));
   }
   const CLI::App *selected = parser.Selected();
   Arguments arguments = parser.ArgumentsOf(selected);
@@ -349,4 +351,4 @@ Report Run(std::vector<std::string> words, Call *call) {
   return parser.CommandOf(selected)->run(arguments);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -7,7 +7,7 @@
 
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // A call that did not run throws out of Run(): what is known of it until then.
 struct Call {
@@ -19,6 +19,6 @@ struct Call {
 // *call is filled in as soon as something is known.
 Report Run(std::vector<std::string> words, Call *call);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_COMMAND_LINE_H_

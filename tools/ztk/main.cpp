@@ -7,7 +7,7 @@
 #include "ztk/output.h"
 
 int main(int argc, char **argv) {
-  using namespace ztk::cli;
+  using namespace ztk::program;
   PrepareStreams();
   Call call;
   Report report;

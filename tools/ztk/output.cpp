@@ -12,7 +12,7 @@
 #include "cli/strings.h"
 #include "cli/terminal.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -55,9 +55,9 @@ bool WriteOutput(const std::string &text) {
 }
 
 void WriteError(const std::string &line) {
-  WriteAll(STDERR_FILENO,
-           LaidOut("ztk: " + OneLine(line) + "\n",
-                   {.columns = Columns(STDERR_FILENO), .standsOut = false}));
+  WriteAll(STDERR_FILENO, cli::LaidOut("ztk: " + cli::OneLine(line) + "\n",
+                                       {.columns = cli::Columns(STDERR_FILENO),
+                                        .standsOut = false}));
 }
 
 void WriteLineEnd() { WriteAll(STDERR_FILENO, "\n"); }
@@ -68,8 +68,9 @@ int Print(const std::string &command, const Report &report, bool json) {
   if (!report.written || (json && report.problem)) {
     written = WriteOutput(
         json ? JsonLine(command, report) + "\n"
-             : LaidOut(report.text, {.columns = Columns(STDOUT_FILENO),
-                                     .standsOut = MayStandOut(STDOUT_FILENO)}));
+             : cli::LaidOut(report.text,
+                            {.columns = cli::Columns(STDOUT_FILENO),
+                             .standsOut = cli::MayStandOut(STDOUT_FILENO)}));
     error = errno;
   }
   for (const std::string &warning : report.warnings) {
@@ -86,4 +87,4 @@ int Print(const std::string &command, const Report &report, bool json) {
                                          : ExitCode::Done);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -9,7 +9,7 @@
 
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // To be called before anything is opened. A standard stream that is closed
 // gets a descriptor that cannot be written, so that no connection to a mixer or
@@ -30,6 +30,6 @@ void WriteLineEnd();
 // Writes the report, in the form asked for, and answers the exit status.
 int Print(const std::string &command, const Report &report, bool json);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_OUTPUT_H_

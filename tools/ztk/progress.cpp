@@ -12,7 +12,7 @@
 #include "cli/terminal.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -67,7 +67,7 @@ void ShowWaiting(const std::string &what, int waited) {
   std::string line = what;
   if (waited > 0) line += ", " + std::to_string(waited) + " s";
   line += InterruptWaits() ? kEnding : kHowToEnd;
-  const std::size_t columns = Columns(STDERR_FILENO);
+  const std::size_t columns = cli::Columns(STDERR_FILENO);
   // A line that the terminal had to break could not be cleared.
   if (columns > 0 && line.size() >= columns) line.resize(columns - 1);
   theLineStands = true;
@@ -78,8 +78,8 @@ void ShowWaiting(const std::string &what, int waited) {
 }  // namespace
 
 Progress::Progress(std::string what)
-    : what_(std::move(what)), hasCursor_(HasCursor(STDERR_FILENO)) {
-  if (!IsTerminal(STDERR_FILENO)) return;
+    : what_(std::move(what)), hasCursor_(cli::HasCursor(STDERR_FILENO)) {
+  if (!cli::IsTerminal(STDERR_FILENO)) return;
   // The signals of the program are the main thread's, which alone knows when
   // they have to wait.
   sigset_t all;
@@ -123,7 +123,7 @@ Asking::Asking() { theUserIsAsked = true; }
 Asking::~Asking() { theUserIsAsked = false; }
 
 void EndOnInterrupt(const std::string &jsonLine) {
-  theErrorsAreShown = IsTerminal(STDERR_FILENO);
+  theErrorsAreShown = cli::IsTerminal(STDERR_FILENO);
   static std::string line;
   line = jsonLine;
   theJsonLine = line;
@@ -135,4 +135,4 @@ void EndOnInterrupt(const std::string &jsonLine) {
   sigaction(SIGINT, &action, nullptr);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

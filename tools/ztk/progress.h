@@ -10,7 +10,7 @@
 #include <string>
 #include <thread>
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // What is told after Ctrl-C.
 inline constexpr char kInterrupted[] =
@@ -62,6 +62,6 @@ class Asking {
 // the signal back. Nothing changes where the signal was ignored already.
 void EndOnInterrupt(const std::string &jsonLine);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_PROGRESS_H_

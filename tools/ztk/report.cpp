@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -72,4 +72,4 @@ std::string JsonLine(const std::string &command, const Report &report) {
   return Dump(json);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // Keeps its members in the order in which they were added.
 using Json = nlohmann::ordered_json;
@@ -74,6 +74,6 @@ std::string JsonLine(const std::string &command, const Report &report);
 // The word that stands for the exit code in a JSON error.
 const char *ErrorWord(ExitCode exit);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_REPORT_H_

@@ -26,10 +26,9 @@ unsigned Number(const char *what, const std::string &text, unsigned least,
                 unsigned most);
 
 // What can be offered for a word, whatever stands before it.
-manual::Option Offering(manual::Option option,
-                        const std::vector<manual::Value> &values);
+cli::Option Offering(cli::Option option, const std::vector<cli::Value> &values);
 
-std::vector<manual::Value> FaultKinds();
+std::vector<cli::Value> FaultKinds();
 
 }  // namespace ztk::virtual_mixer
 

@@ -29,15 +29,15 @@ unsigned Number(const char *what, const std::string &text, unsigned least,
                    std::to_string(most));
 }
 
-manual::Option Offering(manual::Option option,
-                        const std::vector<manual::Value> &values) {
-  option.fill = manual::Fill::Values;
-  option.values = [values](const manual::Typed & /*before*/,
+cli::Option Offering(cli::Option option,
+                     const std::vector<cli::Value> &values) {
+  option.fill = cli::Fill::Values;
+  option.values = [values](const cli::Typed & /*before*/,
                            const std::string & /*begun*/) { return values; };
   return option;
 }
 
-std::vector<manual::Value> FaultKinds() {
+std::vector<cli::Value> FaultKinds() {
   return {{.word = "stall", .meaning = "refuse the request"},
           {.word = "silence", .meaning = "never answer"},
           {.word = "delay:", .meaning = "answer late, by milliseconds"},

@@ -31,7 +31,7 @@ struct Words {
 };
 
 struct Command {
-  manual::Command text;
+  cli::Command text;
   // The exit status. Throws UsageError for words that cannot be, and
   // std::runtime_error.
   int (*run)(const Words &words);

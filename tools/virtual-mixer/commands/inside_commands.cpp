@@ -14,8 +14,8 @@
 namespace ztk::virtual_mixer {
 namespace {
 
-using manual::Option;
-using manual::Value;
+using cli::Option;
+using cli::Value;
 using Values = std::vector<Value>;
 
 std::string Ask(const std::string &line) {

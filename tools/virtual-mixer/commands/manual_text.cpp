@@ -6,7 +6,7 @@
 #include "virtual-mixer/commands/command_table.h"
 #include "virtual-mixer/control/control_socket.h"
 
-ztk::manual::Program ztk::manual::Described() {
+ztk::cli::Program ztk::cli::Described() {
   Program program{
       .name = "ztk-virtual-mixer",
       .summary = "programs among virtual VRM-D6 mixers",

@@ -9,8 +9,8 @@
 namespace ztk::virtual_mixer {
 namespace {
 
-using manual::Fill;
-using manual::Option;
+using cli::Fill;
+using cli::Option;
 
 constexpr unsigned kMostOthers = 128;
 constexpr unsigned kMostBuses = 8;

@@ -10,7 +10,7 @@
 #include "ztk/model/products.h"
 #include "ztk/model/settings_snapshot.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -106,7 +106,7 @@ void AddRefused(const std::vector<Setting> &settings, Report *report) {
   if (report->problem) report->warnings.push_back(report->problem->message);
   report->problem = {.exit = ExitCode::Rejected,
                      .message = "remembered, but refused when sent again: " +
-                                Listed(refused) + "; " + remedy};
+                                cli::Listed(refused) + "; " + remedy};
 }
 
 // Without asking the library, which would send.
@@ -221,7 +221,7 @@ Report ApplyAll(const Arguments &arguments) {
     throw Failure(
         ExitCode::Rejected,
         "no setting belongs to the " + ProductName(product) +
-            "; those of these models are remembered: " + Listed(models));
+            "; those of these models are remembered: " + cli::Listed(models));
   }
   Report report =
       Apply(std::move(settings), "the " + ProductName(product), arguments);
@@ -229,4 +229,4 @@ Report ApplyAll(const Arguments &arguments) {
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -6,7 +6,7 @@
 #include "build_config.h"
 #include "ztk/system/user_manager.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -95,4 +95,4 @@ std::vector<Command> AutoapplyCommands() {
           MakeCommand("status", "Show whether it is on", ShowState)};
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

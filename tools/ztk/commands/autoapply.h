@@ -9,11 +9,11 @@
 
 #include "ztk/commands/command_table.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 Group AutoapplyGroup();
 std::vector<Command> AutoapplyCommands();
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_COMMANDS_AUTOAPPLY_H_

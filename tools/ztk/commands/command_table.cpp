@@ -6,7 +6,7 @@
 #include "ztk/commands/setting_commands.h"
 #include "ztk/model/settings.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -290,4 +290,4 @@ const char *ParameterValueName(Parameter parameter) {
   return "";
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -13,7 +13,7 @@
 
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // What can follow the name of a command. Named after what users read.
 enum class Parameter : std::uint8_t {
@@ -100,6 +100,6 @@ const char *ParameterName(Parameter parameter);
 // "MODEL" for "--product"; empty for what stands without a name.
 const char *ParameterValueName(Parameter parameter);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_COMMANDS_COMMAND_TABLE_H_

@@ -11,7 +11,7 @@
 #include "ztk/progress.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -56,10 +56,11 @@ void AddFinding(const char *part, const Finding &finding, Report *report) {
        {"finding", finding.what},
        {"cause", finding.cause},
        {"command", finding.command}});
-  report->text += Padded(part, kColumn) + (finding.isNote ? "note: " : "") +
-                  finding.what + "\n" + Padded("", kColumn) +
-                  "cause: " + finding.cause + "\n" + kWhole +
-                  Padded("", kColumn) + "type:  " + finding.command + "\n";
+  report->text += cli::Padded(part, kColumn) +
+                  (finding.isNote ? "note: " : "") + finding.what + "\n" +
+                  cli::Padded("", kColumn) + "cause: " + finding.cause + "\n" +
+                  cli::kWhole + cli::Padded("", kColumn) +
+                  "type:  " + finding.command + "\n";
 }
 
 // True when the bundle has the sentences too.
@@ -137,7 +138,7 @@ Report Diagnose(const Arguments & /*arguments*/) {
          {"ok", findings.empty()},
          {"message", findings.empty() ? Json(good) : Json()}});
     if (findings.empty()) {
-      report.text += Padded(part.name, kColumn) + "ok: " + good + "\n";
+      report.text += cli::Padded(part.name, kColumn) + "ok: " + good + "\n";
     }
     for (const Finding &finding : findings) {
       AddFinding(part.name, finding, &report);
@@ -156,4 +157,4 @@ Report Diagnose(const Arguments & /*arguments*/) {
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

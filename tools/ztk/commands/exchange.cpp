@@ -17,7 +17,7 @@
 #include "ztk/model/history.h"
 #include "ztk/model/settings_snapshot.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -53,7 +53,7 @@ std::string Contents(const std::string &file) {
     // Opening a folder succeeds; reading it does not.
     if (stream) take(stream);
     if (!stream.is_open() || stream.bad() || (text.empty() && errno != 0)) {
-      throw Failure(ExitCode::Usage, "cannot read " + Quoted(file) + ": " +
+      throw Failure(ExitCode::Usage, "cannot read " + cli::Quoted(file) + ": " +
                                          std::strerror(errno) +
                                          "; accepted: a file that ztk export "
                                          "has written, or - for the input");
@@ -61,7 +61,7 @@ std::string Contents(const std::string &file) {
   }
   if (text.size() > kLargest) {
     throw Failure(ExitCode::Usage,
-                  Quoted(file) + " is too large to hold settings");
+                  cli::Quoted(file) + " is too large to hold settings");
   }
   return text;
 }
@@ -75,7 +75,7 @@ Json Parse(const std::string &text, Errors *errors) {
     if (event == Json::parse_event_t::object_end) names.pop_back();
     if (event == Json::parse_event_t::key &&
         !names.back().insert(parsed.get<std::string>()).second) {
-      errors->Add("", Quoted(parsed.get<std::string>()) + " stands twice");
+      errors->Add("", cli::Quoted(parsed.get<std::string>()) + " stands twice");
     }
     return true;
   };
@@ -148,17 +148,18 @@ class Reader {
       }
     } else if (std::find(std::begin(kEnvelope), std::end(kEnvelope), name) ==
                std::end(kEnvelope)) {
-      errors.Add("",
-                 "no entry " + Quoted(name) + "; accepted: version, settings");
+      errors.Add("", "no entry " + cli::Quoted(name) +
+                         "; accepted: version, settings");
     }
   }
 
   void ReadModel(const std::string &model, const Json &settings) {
-    const std::string place = "settings." + OneLine(model);
+    const std::string place = "settings." + cli::OneLine(model);
     const std::vector<std::string> names = SettingNames(model);
     if (names.empty()) {
-      return errors.Add("settings", "no model " + Quoted(model) +
-                                        "; accepted: " + Listed(ModelNames()));
+      return errors.Add("settings",
+                        "no model " + cli::Quoted(model) +
+                            "; accepted: " + cli::Listed(ModelNames()));
     }
     if (!settings.is_object()) return errors.Add(place, "accepted: an object");
     for (const auto &[name, value] : settings.items()) {
@@ -169,8 +170,8 @@ class Reader {
         }
       }
       if (found == nullptr) {
-        errors.Add(place, "no setting " + Quoted(name) +
-                              "; accepted: " + Listed(names));
+        errors.Add(place, "no setting " + cli::Quoted(name) +
+                              "; accepted: " + cli::Listed(names));
       } else {
         ReadSetting(*found, place + "." + name, value);
       }
@@ -190,7 +191,7 @@ class Reader {
       if (channel) {
         ReadChoice(family, *channel, place + "." + name, choice);
       } else {
-        errors.Add(place, "no channel " + Quoted(name) + "; " + accepted);
+        errors.Add(place, "no channel " + cli::Quoted(name) + "; " + accepted);
       }
     }
   }
@@ -206,7 +207,7 @@ class Reader {
     const auto words = value.get<std::string>();
     const Match match = FindChoice(choices, words);
     if (!match.choice) {
-      return errors.Add(place, "no choice " + Quoted(words) + accepted);
+      return errors.Add(place, "no choice " + cli::Quoted(words) + accepted);
     }
     changes_.push_back({.family = &family,
                         .product = family.product,
@@ -221,14 +222,14 @@ Report Refused(const std::string &file, const Errors &errors) {
   Report report;
   report.fields["errors"] = Json::array();
   for (const std::string &line : errors.lines()) {
-    report.errors.push_back(OneLine(file + ": " + line));
+    report.errors.push_back(cli::OneLine(file + ": " + line));
     report.fields["errors"].push_back(line);
   }
   const std::size_t count = errors.lines().size();
   report.problem = {.exit = ExitCode::Usage,
                     .message = "nothing was changed: " + std::to_string(count) +
                                (count == 1 ? " error" : " errors") + " in " +
-                               Quoted(file)};
+                               cli::Quoted(file)};
   return report;
 }
 
@@ -310,4 +311,4 @@ Report Import(const Arguments &arguments) {
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -11,13 +11,13 @@
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
-using manual::Fill;
-using manual::Typed;
-using manual::Value;
+using cli::Fill;
+using cli::Typed;
+using cli::Value;
 using Values = std::vector<Value>;
 
 // The family that a command is about; null for the other commands.
@@ -41,14 +41,15 @@ Values Channels(const Family &family, std::uint32_t count) {
 // itself when there are none, nothing when they are others.
 std::string Rest(const std::string &text, const std::string &words) {
   if (words.empty()) return text;
-  if (LowerCase(text).rfind(LowerCase(words) + " ", 0) != 0) return "";
+  if (cli::LowerCase(text).rfind(cli::LowerCase(words) + " ", 0) != 0)
+    return "";
   return text.substr(words.size() + 1);
 }
 
 std::uint32_t ChannelTyped(const Typed &before) {
   const auto word = before.find(ParameterName(Parameter::Channel));
   if (word == before.end()) return 0;
-  return ParseNumber(word->second).value_or(1) - 1;
+  return cli::ParseNumber(word->second).value_or(1) - 1;
 }
 
 // Texts say more than numbers; but a number is what can stand for a text that
@@ -76,7 +77,7 @@ Values Choices(const Family &family, const Typed &before,
 }
 
 void AddValues(const Family *family, const ParameterUse &use,
-               manual::Option *option) {
+               cli::Option *option) {
   switch (use.parameter) {
     case Parameter::Channel:
       option->values = [family](const Typed & /*before*/,
@@ -126,27 +127,27 @@ void AddValues(const Family *family, const ParameterUse &use,
   option->fill = Fill::Values;
 }
 
-manual::Command DescribedCommand(const Command &command) {
-  manual::Command described{.path = command.path,
-                            .summary = command.summary,
-                            .options = {},
-                            .note = command.note,
-                            .examples = {command.example}};
+cli::Command DescribedCommand(const Command &command) {
+  cli::Command described{.path = command.path,
+                         .summary = command.summary,
+                         .options = {},
+                         .note = command.note,
+                         .examples = {command.example}};
   const Family *family = FamilyOf(command.path);
   for (const ParameterUse &use : command.parameters) {
-    manual::Option option{.names = ParameterName(use.parameter),
-                          .value = ParameterValueName(use.parameter),
-                          .description = use.description,
-                          .required = use.required,
-                          .repeats = use.parameter == Parameter::Choice};
+    cli::Option option{.names = ParameterName(use.parameter),
+                       .value = ParameterValueName(use.parameter),
+                       .description = use.description,
+                       .required = use.required,
+                       .repeats = use.parameter == Parameter::Choice};
     AddValues(family, use, &option);
     described.options.push_back(std::move(option));
   }
   return described;
 }
 
-manual::Section ExitStatus() {
-  manual::Section section{.title = "EXIT STATUS", .text = "", .terms = {}};
+cli::Section ExitStatus() {
+  cli::Section section{.title = "EXIT STATUS", .text = "", .terms = {}};
   for (const ExitMeaning &meaning : ExitMeanings()) {
     section.terms.push_back(
         {.name = std::to_string(static_cast<int>(meaning.exit)),
@@ -155,8 +156,8 @@ manual::Section ExitStatus() {
   return section;
 }
 
-manual::Section JsonOutput() {
-  manual::Section section{
+cli::Section JsonOutput() {
+  cli::Section section{
       .title = "JSON",
       .text =
           "With --json every command writes one object on one line, also "
@@ -182,7 +183,7 @@ manual::Section JsonOutput() {
   return section;
 }
 
-manual::Section Environment() {
+cli::Section Environment() {
   return {
       .title = "ENVIRONMENT",
       .text = "",
@@ -202,8 +203,8 @@ manual::Section Environment() {
                       "plain."}}};
 }
 
-manual::Section Files() {
-  manual::Section section{
+cli::Section Files() {
+  cli::Section section{
       .title = "FILES",
       .text =
           "Settings are below XDG_CONFIG_HOME, or ~/.config without it; "
@@ -218,7 +219,7 @@ manual::Section Files() {
         "tarvix/Preferences/com.tarvix." + model + "autosetup.plist";
     const auto known = std::find_if(
         section.terms.begin(), section.terms.end(),
-        [&name](const manual::Term &term) { return term.name == name; });
+        [&name](const cli::Term &term) { return term.name == name; });
     if (known == section.terms.end()) {
       section.terms.push_back({.name = name,
                                .meaning = "What is remembered for the " +
@@ -238,10 +239,10 @@ manual::Section Files() {
 
 }  // namespace
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
-ztk::manual::Program ztk::manual::Described() {
-  using namespace ztk::cli;
+ztk::cli::Program ztk::cli::Described() {
+  using namespace ztk::program;
   Program program{
       .name = "ztk",
       .summary = "settings of the USB DJ mixer VRM-D6",

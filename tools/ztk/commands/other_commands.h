@@ -7,7 +7,7 @@
 #include "ztk/commands/command_table.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // Each mixer in bus order with what it says of itself, and what is remembered
 // for every model.
@@ -31,6 +31,6 @@ Report ShowWarning(const Arguments &arguments);
 // Writes a line for each change, as it comes, until it is interrupted.
 Report Watch(const Arguments &arguments);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_COMMANDS_OTHER_COMMANDS_H_

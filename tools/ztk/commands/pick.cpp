@@ -12,7 +12,7 @@
 #include "ztk/progress.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -36,20 +36,24 @@ std::optional<std::string> ReadLine() {
 std::string Complaint(const std::string &answer, const Match &match,
                       const std::vector<Choice> &choices) {
   if (!match.candidates.empty()) {
-    return Quoted(answer) + " can mean: " + Described(match.candidates) + "\n";
+    return cli::Quoted(answer) + " can mean: " + Described(match.candidates) +
+           "\n";
   }
-  return "no choice " + Quoted(answer) + NearestChoice(answer, choices) + "\n";
+  return "no choice " + cli::Quoted(answer) + NearestChoice(answer, choices) +
+         "\n";
 }
 
 }  // namespace
 
-bool CanPick() { return IsTerminal(STDIN_FILENO) && IsTerminal(STDOUT_FILENO); }
+bool CanPick() {
+  return cli::IsTerminal(STDIN_FILENO) && cli::IsTerminal(STDOUT_FILENO);
+}
 
 Choice Pick(const std::string &place, const std::string &list,
             const std::vector<Choice> &choices) {
-  const Layout layout{.columns = Columns(STDOUT_FILENO),
-                      .standsOut = MayStandOut(STDOUT_FILENO)};
-  WriteOutput(LaidOut(list, layout));
+  const cli::Layout layout{.columns = cli::Columns(STDOUT_FILENO),
+                           .standsOut = cli::MayStandOut(STDOUT_FILENO)};
+  WriteOutput(cli::LaidOut(list, layout));
   const Asking asking;
   while (true) {
     WriteOutput(place + ", number or text: ");
@@ -61,8 +65,8 @@ Choice Pick(const std::string &place, const std::string &list,
     }
     const Match match = FindChoice(choices, *answer);
     if (match.choice) return *match.choice;
-    WriteOutput(LaidOut(Complaint(*answer, match, choices), layout));
+    WriteOutput(cli::LaidOut(Complaint(*answer, match, choices), layout));
   }
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -7,7 +7,7 @@
 
 #include "ztk/model/choice.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // Whether somebody sits there who can be asked.
 bool CanPick();
@@ -17,6 +17,6 @@ bool CanPick();
 Choice Pick(const std::string &place, const std::string &list,
             const std::vector<Choice> &choices);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_COMMANDS_PICK_H_

@@ -15,7 +15,7 @@
 #include "ztk/system/announcement.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -38,14 +38,15 @@ std::uint32_t RequiredChannel(const Family &family, const Arguments &arguments,
 // HIGH or SOURCE.
 std::uint32_t RawNumber(const Arguments &arguments, Parameter parameter) {
   const std::string *word = arguments.Find(parameter);
-  const auto number = ParseDecimalOrHex(word == nullptr ? "" : *word);
+  const auto number = cli::ParseDecimalOrHex(word == nullptr ? "" : *word);
   if (number) return *number;
-  throw Failure(ExitCode::Usage,
-                std::string(ParameterName(parameter)) +
-                    (word == nullptr ? std::string(" is missing")
-                                     : " is not a number: " + Quoted(*word)) +
-                    "; accepted: decimal, or hexadecimal after 0x" +
-                    SeeHelp(kInput, "raw"));
+  throw Failure(
+      ExitCode::Usage,
+      std::string(ParameterName(parameter)) +
+          (word == nullptr ? std::string(" is missing")
+                           : " is not a number: " + cli::Quoted(*word)) +
+          "; accepted: decimal, or hexadecimal after 0x" +
+          SeeHelp(kInput, "raw"));
 }
 
 // What the library answers to words that only it judges.
@@ -75,7 +76,7 @@ std::string ChoiceLine(const Choice &choice, bool current,
   const std::string number = std::to_string(choice.number);
   const std::string line = std::string(numberWidth - number.size(), ' ') +
                            number + "  " + choice.text;
-  return (current ? Strong("* " + line) : "  " + line) + "\n";
+  return (current ? cli::Strong("* " + line) : "  " + line) + "\n";
 }
 
 // What the library holds to be the current choice: the remembered value or a
@@ -128,7 +129,7 @@ void CheckServed(const Family &family, std::uint32_t product,
 
 Report PlanOfSet(const Change &change, const Choice &choice) {
   const Family &family = *change.family;
-  CheckServed(family, change.product, Quoted(choice.text));
+  CheckServed(family, change.product, cli::Quoted(choice.text));
   Plan plan;
   plan.AddChange(change);
   plan.AddQuestion();
@@ -206,14 +207,16 @@ Choice Choose(const Family &family, std::uint32_t product,
   const Match match = FindChoice(choices, *words);
   if (match.choice) return *match.choice;
   if (match.candidates.empty()) {
-    throw Failure(ExitCode::Usage, place + " has no choice " + Quoted(*words) +
+    throw Failure(ExitCode::Usage, place + " has no choice " +
+                                       cli::Quoted(*words) +
                                        NearestChoice(*words, choices) +
                                        "; accepted: " + Described(choices));
   }
-  throw Failure(
-      ExitCode::Usage,
-      "choice " + Quoted(*words) + " can mean: " + Described(match.candidates) +
-          "; type more of it, or its number" + SeeHelp(family, "set"));
+  throw Failure(ExitCode::Usage,
+                "choice " + cli::Quoted(*words) +
+                    " can mean: " + Described(match.candidates) +
+                    "; type more of it, or its number" +
+                    SeeHelp(family, "set"));
 }
 
 }  // namespace
@@ -227,13 +230,14 @@ std::optional<std::uint32_t> ChannelFor(const Family &family,
                                         const Arguments &arguments) {
   const std::string *word = arguments.Find(Parameter::Channel);
   if (word == nullptr) return std::nullopt;
-  const std::optional<std::uint32_t> number = ParseNumber(*word);
+  const std::optional<std::uint32_t> number = cli::ParseNumber(*word);
   if (number && *number >= 1 && *number <= family.channels) {
     return *number - 1;
   }
   throw Failure(ExitCode::Usage,
-                std::string(family.title) + " has no channel " + Quoted(*word) +
-                    NearestAndAccepted(*word, 1, family.channels));
+                std::string(family.title) + " has no channel " +
+                    cli::Quoted(*word) +
+                    cli::NearestAndAccepted(*word, 1, family.channels));
 }
 
 std::vector<std::uint32_t> ChannelsFor(const Family &family,
@@ -299,7 +303,7 @@ Report SetChoice(const Family &family, const Arguments &arguments) {
       MakeStep(std::string(family.name) + " set", {wanted}, &report);
   const MadeChange &change = made.changes.front();
   if (change.result == ZTK_REJECTED) {
-    ThrowRejected(family, product, Quoted(choice.text));
+    ThrowRejected(family, product, cli::Quoted(choice.text));
   }
   AddFamilyFields(family, product, &report);
   AddValueFields(family, channel, change.change.index, &report.fields);
@@ -393,4 +397,4 @@ Report SendRaw(const Family &family, const Arguments &arguments) {
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -9,7 +9,7 @@
 #include "ztk/model/settings.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 Report ListChoices(const Family &family, const Arguments &arguments);
 Report GetRemembered(const Family &family, const Arguments &arguments);
@@ -36,6 +36,6 @@ std::optional<std::uint32_t> ChannelFor(const Family &family,
 std::vector<std::uint32_t> ChannelsFor(const Family &family,
                                        const Arguments &arguments);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_COMMANDS_SETTING_COMMANDS_H_

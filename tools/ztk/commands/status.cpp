@@ -10,7 +10,7 @@
 #include "ztk/model/settings_snapshot.h"
 #include "ztk/progress.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -135,7 +135,7 @@ Fact Serato(Interview *interview) {
 }
 
 std::string Row(const std::string &title, const std::string &words) {
-  return Padded("  " + title, kColumn) + " " + words + "\n";
+  return cli::Padded("  " + title, kColumn) + " " + words + "\n";
 }
 
 // A fact whose value is null carries its words, which say why.
@@ -248,4 +248,4 @@ Report ShowStatus(const Arguments & /*arguments*/) {
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -9,7 +9,7 @@
 #include "ztk/model/products.h"
 #include "ztk/model/settings_snapshot.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -100,7 +100,7 @@ void AddLeftAlone(const std::vector<std::string> &foreign, Report *report) {
                      .message =
                          "left alone, as another program has changed it "
                          "since: " +
-                         Listed(foreign)};
+                         cli::Listed(foreign)};
 }
 
 const PastChange &PastOf(const Change &change,
@@ -153,8 +153,8 @@ void AddRefused(const MadeChanges &made, Report *report) {
   if (report->problem) report->warnings.push_back(report->problem->message);
   report->problem = {
       .exit = ExitCode::Rejected,
-      .message =
-          "cannot be put back, as the library refuses it: " + Listed(refused)};
+      .message = "cannot be put back, as the library refuses it: " +
+                 cli::Listed(refused)};
 }
 
 // The rest without those that were refused, of which nothing can be expected.
@@ -283,4 +283,4 @@ Report Undo(const Arguments &arguments) {
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

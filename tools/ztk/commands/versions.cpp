@@ -5,7 +5,7 @@
 #include "ztk/model/products.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -36,13 +36,13 @@ Report ShowVersions(const Arguments & /*arguments*/) {
     ZTKTextRef text = nullptr;
     const bool found = piece.version(kOwnProduct, &text) == ZTK_SUCCESS;
     versions[piece.name] = found ? Json(Utf8(text)) : Json();
-    report.text += Padded(piece.title, kColumn) +
-                   (found ? OneLine(Utf8(text)) : "not installed") + "\n";
+    report.text += cli::Padded(piece.title, kColumn) +
+                   (found ? cli::OneLine(Utf8(text)) : "not installed") + "\n";
   }
   versions["ztk"] = build::kVersion;
-  report.text += Padded("ztk", kColumn) + build::kVersion + "\n";
+  report.text += cli::Padded("ztk", kColumn) + build::kVersion + "\n";
   report.fields["versions"] = versions;
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -11,7 +11,7 @@
 #include "ztk/progress.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -46,14 +46,14 @@ constexpr Language kLanguages[] = {
 
 // "zh-CN" is also written as "zh_CN".
 std::string Folded(const std::string &word) {
-  std::string folded = LowerCase(word);
+  std::string folded = cli::LowerCase(word);
   std::replace(folded.begin(), folded.end(), '_', '-');
   return folded;
 }
 
 std::uint32_t ParseLanguage(const std::string &word) {
   const std::string wanted = Folded(word);
-  const auto number = ParseNumber(word);
+  const auto number = cli::ParseNumber(word);
   std::vector<std::string> accepted;
   std::vector<std::string> names;
   for (const Language &language : kLanguages) {
@@ -67,12 +67,12 @@ std::uint32_t ParseLanguage(const std::string &word) {
                        " " + language.code);
   }
   if (number == kUsersLanguage) return kUsersLanguage;
-  const std::string nearest = Nearest(word, names);
+  const std::string nearest = cli::Nearest(word, names);
   throw Failure(ExitCode::Usage,
-                "no language " + Quoted(word) +
+                "no language " + cli::Quoted(word) +
                     (nearest.empty() ? "" : "; nearest: " + nearest) +
-                    "; accepted, by number, name or code: " + Listed(accepted) +
-                    ", 99 your own");
+                    "; accepted, by number, name or code: " +
+                    cli::Listed(accepted) + ", 99 your own");
 }
 
 // Null when the library has no sentence.
@@ -139,11 +139,11 @@ std::vector<std::string> LanguageNames() {
 Report ShowWarning(const Arguments &arguments) {
   std::uint32_t channel = 0;
   if (const std::string *word = arguments.Find(Parameter::OfChannel)) {
-    const auto number = ParseNumber(*word);
+    const auto number = cli::ParseNumber(*word);
     if (!number || *number < 1 || *number > kInput.channels) {
       throw Failure(ExitCode::Usage,
-                    "USB input audio has no channel " + Quoted(*word) +
-                        NearestAndAccepted(*word, 1, kWarningChannels));
+                    "USB input audio has no channel " + cli::Quoted(*word) +
+                        cli::NearestAndAccepted(*word, 1, kWarningChannels));
     }
     channel = *number - 1;
   }
@@ -165,7 +165,7 @@ Report ShowWarning(const Arguments &arguments) {
                   "VRM-D6Setup.framework is installed");
   }
   Report report;
-  report.text = OneLine(Utf8(text)) + "\n";
+  report.text = cli::OneLine(Utf8(text)) + "\n";
   report.fields = {{"result", result},
                    {"channel", channel + 1},
                    {"language", language},
@@ -173,4 +173,4 @@ Report ShowWarning(const Arguments &arguments) {
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -8,7 +8,7 @@
 #include "ztk/model/mixers.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // Adds to the warnings what a 101 for a channel of USB input audio means: the
 // library's sentence in the user's language, or one of this program where the
@@ -25,6 +25,6 @@ inline constexpr std::uint32_t kWarningChannels = 4;
 // What can follow --language: one word for each, its name if it is one.
 std::vector<std::string> LanguageNames();
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_COMMANDS_WARNING_H_

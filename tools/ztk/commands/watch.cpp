@@ -11,7 +11,7 @@
 #include "ztk/output.h"
 #include "ztk/system/event_loop.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -88,7 +88,7 @@ Report Watch(const Arguments &arguments) {
   const LoopEnd end = RunLoop(SayReady);
   Report report;
   report.written = true;
-  if (end == LoopEnd::Interrupted && IsTerminal(STDERR_FILENO)) {
+  if (end == LoopEnd::Interrupted && cli::IsTerminal(STDERR_FILENO)) {
     // Behind the "^C" that the terminal shows.
     WriteLineEnd();
   }
@@ -111,4 +111,4 @@ Report Watch(const Arguments &arguments) {
   return report;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -18,7 +18,7 @@
 #include "ztk/model/settings.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -169,4 +169,4 @@ Findings FindSettingsTrouble(std::string *good) {
   return findings;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

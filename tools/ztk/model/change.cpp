@@ -9,7 +9,7 @@
 #include "ztk/system/announcement.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -126,4 +126,4 @@ void WarnOfSilentBus(Report *report) {
       "not announced, as there is no session bus; see ztk doctor");
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -13,7 +13,7 @@
 #include "ztk/model/settings.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // A setting and the library's index of what it shall be.
 struct Change {
@@ -54,6 +54,6 @@ std::string Described(const MadeChange &change, const Reach &reach);
 // After an announcement that nobody could hear.
 void WarnOfSilentBus(Report *report);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_CHANGE_H_

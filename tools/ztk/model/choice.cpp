@@ -5,7 +5,7 @@
 #include "cli/suggest.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -18,7 +18,7 @@ bool IsSpace(char character) {
 std::string Folded(const std::string &text) {
   std::string folded;
   for (const char character : text) {
-    if (!IsSpace(character)) folded += LowerCase(character);
+    if (!IsSpace(character)) folded += cli::LowerCase(character);
   }
   return folded;
 }
@@ -49,7 +49,7 @@ Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
   const std::string wanted = Folded(words);
   if (wanted.empty()) return {};
 
-  const std::optional<std::uint32_t> number = ParseNumber(words);
+  const std::optional<std::uint32_t> number = cli::ParseNumber(words);
   for (const Choice &choice : choices) {
     if (number == choice.number) return {.choice = choice, .candidates = {}};
   }
@@ -70,7 +70,7 @@ std::string NearestChoice(const std::string &words,
     if (meant.size() == 1) return "; nearest: " + Described(meant.front());
     // Choices count from 1, without gaps.
     const std::uint32_t wanted =
-        ParseNumber(words).value_or(choices.back().number);
+        cli::ParseNumber(words).value_or(choices.back().number);
     return "; nearest: " + Described(wanted < choices.front().number
                                          ? choices.front()
                                          : choices.back());
@@ -78,7 +78,7 @@ std::string NearestChoice(const std::string &words,
   std::vector<std::string> texts;
   texts.reserve(choices.size());
   for (const Choice &choice : choices) texts.push_back(choice.text);
-  const std::string nearest = Nearest(words, texts);
+  const std::string nearest = cli::Nearest(words, texts);
   for (const Choice &choice : choices) {
     if (choice.text == nearest) return "; nearest: " + Described(choice);
   }
@@ -93,7 +93,7 @@ std::string Described(const std::vector<Choice> &choices) {
   std::vector<std::string> words;
   words.reserve(choices.size());
   for (const Choice &choice : choices) words.push_back(Described(choice));
-  return Listed(words);
+  return cli::Listed(words);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

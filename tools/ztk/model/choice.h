@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // One of a setting's choices, as it is listed.
 struct Choice {
@@ -39,6 +39,6 @@ std::string NearestChoice(const std::string &words,
 std::string Described(const Choice &choice);
 std::string Described(const std::vector<Choice> &choices);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_CHOICE_H_

@@ -11,7 +11,7 @@
 #include "ztk/system/places.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -220,4 +220,4 @@ void Plan::Tell(Report *report) const {
   TellNotices(report);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

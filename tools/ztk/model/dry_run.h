@@ -15,7 +15,7 @@
 #include "ztk/model/settings.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // The fields of a request's setup packet; none of these sends data.
 struct Setup {
@@ -80,6 +80,6 @@ class Plan {
   std::vector<Notice> notices_;
 };
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_DRY_RUN_H_

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace ztk::cli {
+namespace ztk::program {
 
 struct Finding {
   std::string id;       // a word for programs, as in "rule-missing"
@@ -51,6 +51,6 @@ Finding ExplainTexts(bool found);
 // A word that a shell takes as it is.
 std::string ShellQuoted(const std::string &word);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_FINDING_H_

@@ -7,7 +7,7 @@
 #include "ztk/model/settings_snapshot.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -143,4 +143,4 @@ MadeChanges MakeStep(const std::string &command,
   return made;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -14,7 +14,7 @@
 #include "ztk/model/settings.h"
 #include "ztk/model/state_file.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 struct PastChange {
   const Family *family;
@@ -61,6 +61,6 @@ class History {
 MadeChanges MakeStep(const std::string &command,
                      const std::vector<Change> &changes, Report *report);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_H_

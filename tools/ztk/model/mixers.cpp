@@ -7,7 +7,7 @@
 
 #include "usb/mixers.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -176,4 +176,4 @@ std::string Described(usb::Code code) {
   return text.data();
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -14,7 +14,7 @@
 #include "ztk/report.h"
 #include "ztk/system/places.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // What became of a mixer that was asked something.
 enum class MixerState : std::uint8_t {
@@ -81,6 +81,6 @@ std::string Described(const Reach &reach);
 // The end of a request in words: "no answer", "refused by the mixer", ...
 std::string Described(usb::Code code);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_MIXERS_H_

@@ -8,7 +8,7 @@
 #include "ztk/report.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -35,7 +35,7 @@ const Product *Find(std::uint32_t id) {
 }  // namespace
 
 std::uint32_t ParseProduct(const std::string &word) {
-  if (const auto number = ParseNumber(word); number && Find(*number)) {
+  if (const auto number = cli::ParseNumber(word); number && Find(*number)) {
     return *number;
   }
   std::uint32_t id = 0;
@@ -47,11 +47,11 @@ std::uint32_t ParseProduct(const std::string &word) {
   for (const Product &product : kProducts) {
     accepted.push_back(std::to_string(product.id) + " " + product.name);
   }
-  const std::string nearest = Nearest(word, ProductNames());
+  const std::string nearest = cli::Nearest(word, ProductNames());
   throw Failure(ExitCode::Usage,
-                "no model " + Quoted(word) +
+                "no model " + cli::Quoted(word) +
                     (nearest.empty() ? "" : "; nearest: " + nearest) +
-                    "; accepted, by number or name: " + Listed(accepted));
+                    "; accepted, by number or name: " + cli::Listed(accepted));
 }
 
 std::vector<std::string> ProductNames() {
@@ -65,4 +65,4 @@ std::string ProductName(std::uint32_t product) {
   return found == nullptr ? std::to_string(product) : found->name;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // The model that is meant when nobody says another.
 inline constexpr std::uint32_t kOwnProduct = 10;
@@ -23,6 +23,6 @@ std::vector<std::string> ProductNames();
 // The name of a model that ParseProduct() can give.
 std::string ProductName(std::uint32_t product);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_PRODUCTS_H_

@@ -6,7 +6,7 @@
 #include "ztk/model/products.h"
 #include "ztk/system/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 const Family kInput{
     .name = "input",
@@ -258,4 +258,4 @@ Json ChannelField(const Family &family, std::uint32_t channel) {
   return family.channels == 0 ? Json() : Json(channel + 1);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

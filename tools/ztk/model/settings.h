@@ -15,7 +15,7 @@
 #include "ztk/model/choice.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 struct Family {
   const char *name;     // the word on the command line
@@ -110,6 +110,6 @@ void AddValueFields(const Family &family, std::uint32_t channel,
 // The channel as people and programs count it, from 1.
 Json ChannelField(const Family &family, std::uint32_t channel);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_SETTINGS_H_

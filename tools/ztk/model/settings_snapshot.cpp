@@ -4,7 +4,7 @@
 #include "platform/text.h"
 #include "store/settings_file.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace plist = platform::property_list;
 using platform::text::Made;
@@ -35,4 +35,4 @@ std::optional<std::uint32_t> Remembered(const Family &family,
   return SettingsSnapshot().Remembered(family, channel);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -11,7 +11,7 @@
 #include "platform/property_list.h"
 #include "ztk/model/settings.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // What is remembered, each file as it was when it was first asked for.
 class SettingsSnapshot {
@@ -39,6 +39,6 @@ class SettingsSnapshot {
 std::optional<std::uint32_t> Remembered(const Family &family,
                                         std::uint32_t channel);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_SETTINGS_SNAPSHOT_H_

@@ -16,7 +16,7 @@
 #include "platform/common/replace_file.h"
 #include "ztk/progress.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -110,4 +110,4 @@ bool ReplaceStateFile(const std::string &path, const std::string &text,
   return platform::ReplaceFile(path, text, keepOld);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

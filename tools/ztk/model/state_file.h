@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // The folder for what a program keeps between its runs; empty where the user
 // has no home. It need not exist.
@@ -40,6 +40,6 @@ std::string ReadStateFile(const std::string &path);
 bool ReplaceStateFile(const std::string &path, const std::string &text,
                       bool keepOld);
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_STATE_FILE_H_

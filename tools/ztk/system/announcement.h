@@ -11,7 +11,7 @@
 
 #include "notify/announced_settings.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 struct Announcement {
   const notify::AnnouncedSetting *family;
@@ -47,6 +47,6 @@ class BusWitness {
   std::unique_ptr<Ear> ear_;
 };
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_ANNOUNCEMENT_H_

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // Each of these throws a Failure when the manager does not do it.
 class UserManager {
@@ -33,6 +33,6 @@ class UserManager {
 // installed.
 std::string PlugInRule();
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_

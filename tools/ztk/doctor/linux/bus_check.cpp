@@ -8,7 +8,7 @@
 #include "ztk/model/finding.h"
 #include "ztk/system/announcement.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -100,4 +100,4 @@ Findings FindBusTrouble(std::string *good) {
   return findings;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -18,7 +18,7 @@
 #include "ztk/model/finding.h"
 #include "ztk/system/places.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -336,4 +336,4 @@ Finding ExplainTexts(bool found) {
                          : "sudo cmake --install build"};
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

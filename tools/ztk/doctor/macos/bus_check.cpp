@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/finding.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // The distributed notification center comes with the login; it cannot be
 // missing, or set up otherwise, by anything that a user can do.
@@ -10,4 +10,4 @@ Findings FindBusTrouble(std::string *good) {
   return {};
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -2,7 +2,7 @@
 #include "ztk/model/finding.h"
 #include "ztk/system/places.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 Finding ExplainNoMixer() {
   return {.id = "no-mixer",
@@ -60,4 +60,4 @@ Finding ExplainTexts(bool found) {
           .command = "sudo cmake --install build"};
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

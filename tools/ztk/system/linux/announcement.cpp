@@ -10,7 +10,7 @@
 #include "platform/linux/sd_bus_library.h"
 #include "platform/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -105,4 +105,4 @@ bool BusWitness::Heard(const Announcement &announcement) {
   return true;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

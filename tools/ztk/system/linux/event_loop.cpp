@@ -10,7 +10,7 @@
 #include "platform/notification_center.h"
 #include "platform/text.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -95,4 +95,4 @@ void StopLoop() {
   if (theLoop.loop != nullptr) center::g_main_loop_quit(theLoop.loop);
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -9,7 +9,7 @@
 #include "platform/linux/bus_connection.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -54,7 +54,7 @@ class Answer {
 [[noreturn]] void Refuse(const std::string &reason) {
   throw Failure(ExitCode::Failed,
                 "autoapply needs the systemd of your session, which fails (" +
-                    OneLine(reason) +
+                    cli::OneLine(reason) +
                     "); instead, run 'ztk apply' after plugging in");
 }
 
@@ -117,4 +117,4 @@ std::string PlugInRule() {
   return "";
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -8,7 +8,7 @@
 
 namespace {
 namespace center = ztk::platform::notification_center;
-using ztk::cli::Announcement;
+using ztk::program::Announcement;
 }  // namespace
 
 // Keeps what came in of one name.
@@ -35,7 +35,7 @@ using ztk::cli::Announcement;
 
 @end
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -101,4 +101,4 @@ bool BusWitness::Heard(const Announcement &announcement) {
   return true;
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -14,7 +14,7 @@
 namespace {
 
 struct {
-  ztk::cli::OutputListener listener;
+  ztk::program::OutputListener listener;
   void *context;
 } theOutputListener;
 
@@ -36,7 +36,7 @@ struct {
 
 @end
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -86,4 +86,4 @@ LoopEnd RunLoop(void (*ready)()) {
 
 void StopLoop() { CFRunLoopStop(CFRunLoopGetMain()); }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

@@ -12,7 +12,7 @@
 #include "usb/USB.h"
 #include "ztk/system/places.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 namespace {
 
@@ -162,4 +162,4 @@ std::string Explained(const Access &access) {
          "; unplug the mixer and plug it in again";
 }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program

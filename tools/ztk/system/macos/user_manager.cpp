@@ -2,7 +2,7 @@
 #include "ztk/system/user_manager.h"
 #include "ztk/report.h"
 
-namespace ztk::cli {
+namespace ztk::program {
 
 // The service manager here starts nothing when a device is plugged in.
 struct UserManager::Connection {};
@@ -23,4 +23,4 @@ void UserManager::Unlink(const std::string & /*unit*/) {}
 
 std::string PlugInRule() { return ""; }
 
-}  // namespace ztk::cli
+}  // namespace ztk::program
