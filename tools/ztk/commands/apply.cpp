@@ -5,6 +5,7 @@
 
 #include "cli/strings.h"
 #include "ztk/commands/setting_commands.h"
+#include "ztk/commands/setting_parts.h"
 #include "ztk/model/dry_run.h"
 #include "ztk/model/mixers.h"
 #include "ztk/model/products.h"

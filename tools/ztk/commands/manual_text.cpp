@@ -258,7 +258,7 @@ ztk::cli::Program ztk::cli::Described() {
                                .value = "",
                                .description = option.description});
   }
-  for (const cli::Group &group : Groups()) {
+  for (const program::Group &group : Groups()) {
     program.groups.push_back(
         {.name = group.name,
          .summary = group.summary,
@@ -268,7 +268,7 @@ ztk::cli::Program ztk::cli::Described() {
                                     return group.name == family->name;
                                   })});
   }
-  for (const cli::Command &command : Commands()) {
+  for (const program::Command &command : Commands()) {
     program.commands.push_back(DescribedCommand(command));
   }
   return program;

@@ -25,16 +25,9 @@ Report SendRaw(const Family &family, const Arguments &arguments);
 Report ApplyFamily(const Family &family, const Arguments &arguments);
 Report ApplyAll(const Arguments &arguments);
 
-// The model that is meant: --product, or the family's own.
-std::uint32_t ProductFor(const Family &family, const Arguments &arguments);
-
-// N, from 0; none when it was left out. Throws where it is not a channel.
-std::optional<std::uint32_t> ChannelFor(const Family &family,
-                                        const Arguments &arguments);
-
-// The channels that are meant: N, or all.
-std::vector<std::uint32_t> ChannelsFor(const Family &family,
-                                       const Arguments &arguments);
+// The choices of a channel, as `list` shows them.
+void AddChoiceList(const Family &family, std::uint32_t product,
+                   std::uint32_t channel, Report *report);
 
 }  // namespace ztk::program
 

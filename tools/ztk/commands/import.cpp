@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// All that is remembered, in words: out to a file, and back in.
+// Restores settings from a file that `ztk export` has written: all or nothing.
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -10,6 +10,7 @@
 #include <set>
 
 #include "cli/strings.h"
+#include "ztk/commands/exported_file.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/commands/warning.h"
 #include "ztk/model/change.h"
@@ -21,7 +22,6 @@ namespace ztk::program {
 
 namespace {
 
-constexpr int kVersion = 1;
 constexpr std::size_t kLargest = std::size_t{1} << 20;  // bytes
 
 // What the answer in JSON has besides, so that it can be read back too.
@@ -138,8 +138,8 @@ class Reader {
  private:
   void ReadHead(const std::string &name, const Json &value) {
     if (name == "version") {
-      if (value != kVersion) {
-        errors.Add(name, "accepted: " + std::to_string(kVersion));
+      if (value != kExportVersion) {
+        errors.Add(name, "accepted: " + std::to_string(kExportVersion));
       }
     } else if (name == "settings") {
       if (!value.is_object()) return errors.Add(name, "accepted: an object");
@@ -248,36 +248,6 @@ void AddImported(const MadeChange &one, const Reach &reach, Report *report) {
 }
 
 }  // namespace
-
-Report Export(const Arguments & /*arguments*/) {
-  Report report;
-  Json settings = Json::object();
-  SettingsSnapshot remembered;
-  for (const Family *family : Families()) {
-    for (std::uint32_t channel = 0; channel < ChannelsToWalk(*family);
-         ++channel) {
-      const auto index = remembered.Remembered(*family, channel);
-      if (!index) continue;
-      const auto choice = ChoiceAt(*family, channel, *index);
-      if (!choice) {
-        report.warnings.push_back("left out, as there are no words for it: " +
-                                  PlaceName(*family, channel) + ": " +
-                                  DescribedValue(*family, channel, *index));
-        continue;
-      }
-      Json &place = settings[ModelName(*family)][family->name];
-      if (family->channels == 0) {
-        place = choice->text;
-      } else {
-        place[std::to_string(channel + 1)] = choice->text;
-      }
-    }
-  }
-  report.fields["version"] = kVersion;
-  report.fields["settings"] = std::move(settings);
-  report.text = report.fields.dump(2) + "\n";
-  return report;
-}
 
 Report Import(const Arguments &arguments) {
   const std::string *file = arguments.Find(Parameter::File);

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/commands/setting_commands.h"
+
+#include "cli/strings.h"
+#include "ztk/commands/pick.h"
+#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/warning.h"
+#include "ztk/model/change.h"
+#include "ztk/model/dry_run.h"
+#include "ztk/model/history.h"
+#include "ztk/model/mixers.h"
+
+namespace ztk::program {
+
+namespace {
+
+// The choice that the words mean; without words, the one that is picked from
+// the list, where somebody is there to pick.
+Choice Choose(const Family &family, std::uint32_t product,
+              std::uint32_t channel, const Arguments &arguments) {
+  const std::string place = PlaceName(family, channel);
+  const std::vector<Choice> choices = ChoicesOf(family, product, channel);
+  const std::string *words = arguments.Find(Parameter::Choice);
+  if (words == nullptr && !arguments.json && CanPick()) {
+    Report list;
+    AddChoiceList(family, product, channel, &list);
+    return Pick(place, list.text, choices);
+  }
+  if (words == nullptr) {
+    throw Failure(ExitCode::Usage, "a CHOICE is missing for " + place +
+                                       "; accepted: " + Described(choices));
+  }
+  const Match match = FindChoice(choices, *words);
+  if (match.choice) return *match.choice;
+  if (match.candidates.empty()) {
+    throw Failure(ExitCode::Usage, place + " has no choice " +
+                                       cli::Quoted(*words) +
+                                       NearestChoice(*words, choices) +
+                                       "; accepted: " + Described(choices));
+  }
+  throw Failure(ExitCode::Usage,
+                "choice " + cli::Quoted(*words) +
+                    " can mean: " + Described(match.candidates) +
+                    "; type more of it, or its number" +
+                    SeeHelp(family, "set"));
+}
+
+Report PlanOfSet(const Change &change, const Choice &choice) {
+  const Family &family = *change.family;
+  CheckServed(family, change.product, cli::Quoted(choice.text));
+  Plan plan;
+  plan.AddChange(change);
+  plan.AddQuestion();
+  Report report;
+  AddFamilyFields(family, change.product, &report);
+  AddValueFields(family, change.channel, change.index, &report.fields);
+  plan.Tell(&report);
+  return report;
+}
+
+}  // namespace
+
+Report SetChoice(const Family &family, const Arguments &arguments) {
+  const std::uint32_t product = ProductFor(family, arguments);
+  const std::uint32_t channel = RequiredChannel(family, arguments, "set");
+  const std::string place = PlaceName(family, channel);
+  const Choice choice = Choose(family, product, channel, arguments);
+  const Change wanted{.family = &family,
+                      .product = product,
+                      .channel = channel,
+                      .index = choice.number - 1};
+  if (arguments.Has(Parameter::DryRun)) return PlanOfSet(wanted, choice);
+
+  Report report;
+  const MadeChanges made =
+      MakeStep(std::string(family.name) + " set", {wanted}, &report);
+  const MadeChange &change = made.changes.front();
+  if (change.result == ZTK_REJECTED) {
+    ThrowRejected(family, product, cli::Quoted(choice.text));
+  }
+  AddFamilyFields(family, product, &report);
+  AddValueFields(family, channel, change.change.index, &report.fields);
+  report.fields["result"] = change.result;
+  report.fields["remembered"] = change.remembered;
+  report.fields["announced"] = change.announced;
+  AddTruth(made, place,
+           IsSentAgain(family, wanted.index)
+               ? std::string("ztk ") + family.name + " apply"
+               : SetCommand(family, channel, wanted.index),
+           &report);
+  report.text = place + ": " + Described(choice) + ", " +
+                Described(change, made.reach) + "\n" +
+                NoteOnSendingAgain(wanted);
+  // The sentence for no mixer says that the setting has been saved.
+  if (change.result == ZTK_WARNING &&
+      (change.remembered || made.reach.found() > 0)) {
+    ExplainWarning(channel, made.reach, &report);
+  }
+  return report;
+}
+
+}  // namespace ztk::program
