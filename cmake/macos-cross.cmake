@@ -32,12 +32,20 @@ set(CMAKE_OSX_SYSROOT ${MACOS_SDK})
 
 # Debian adds the version to some of these names and not to others.
 function(find_tool variable name)
-  find_program(${variable} NAMES ${name} ${name}-14
-    PATHS /usr/lib/llvm-14/bin NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+  find_program(${variable} NAMES ${name} ${name}-14 ${name}-19
+    PATHS /usr/lib/llvm-14/bin /usr/lib/llvm-19/bin
+    NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 endfunction()
 find_tool(MACOS_CLANG clang)
 find_tool(MACOS_CLANGXX clang++)
-find_tool(MACOS_LINKER ld64.lld)
+# The linker of LLVM 14 writes wrong unwind addresses for arm64, so a later one
+# is looked for first.
+find_program(MACOS_LINKER NAMES ld64.lld
+  PATHS /usr/lib/llvm-19/bin /usr/lib/llvm-16/bin
+  NO_CMAKE_FIND_ROOT_PATH NO_DEFAULT_PATH)
+if(NOT MACOS_LINKER)
+  find_tool(MACOS_LINKER ld64.lld)
+endif()
 find_tool(CMAKE_AR llvm-ar)
 find_tool(CMAKE_RANLIB llvm-ranlib)
 find_tool(CMAKE_STRIP llvm-strip)
@@ -58,6 +66,9 @@ cmake_path(GET MACOS_LINKER PARENT_PATH linker_folder)
 foreach(kind EXE SHARED MODULE)
   set(CMAKE_${kind}_LINKER_FLAGS_INIT "-fuse-ld=lld -B${linker_folder}")
 endforeach()
+# The makefiles take the flags of a framework from a variable of its own, which
+# CMake does not preset.
+set(CMAKE_MACOSX_FRAMEWORK_LINKER_FLAGS "-fuse-ld=lld -B${linker_folder}")
 
 # Headers and libraries come from the SDK and from nowhere else; the headers
 # without code that ztk needs, from the modules beside this file.

@@ -22,10 +22,11 @@
  * change callbacks run on the GLib main context that is the thread default of
  * the thread that registers, or on the global default context when it has
  * none: a worker thread pushes its own context first
- * (g_main_context_push_thread_default()). On macOS they run on the run loop of
- * the distributed notification center. Nothing is delivered while no loop runs:
+ * (g_main_context_push_thread_default()). On macOS the
+ * distributed notification center delivers on the run loop of the main thread,
+ * whichever thread registers. Nothing is delivered while no loop runs: on Linux
  * keep one running on the thread that registers, or, for the global context, on
- * the thread that works on it.
+ * the thread that works on it; on macOS on the main thread.
  *
  * **Texts** are never freed by the caller; see ZTKTextRef.
  */

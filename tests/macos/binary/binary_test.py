@@ -110,6 +110,9 @@ class Library(unittest.TestCase):
         wanted = {"x86_64": "X86_64", "arm64": "ARM64"}[OPTIONS.arch]
         self.assertRegex(header, rf"MH_MAGIC_64 +{wanted} .* DYLIB ")
 
+    def test_leaves_out_what_only_programs_need(self):
+        self.assertNotRegex(output_of("llvm-nm", binary()), r"ReplaceFile")
+
     def test_never_opens_a_device_or_starts_a_thread(self):
         needed = output_of("llvm-nm", "--undefined-only", binary())
         self.assertIn("_IOServiceMatching", needed)
@@ -153,6 +156,18 @@ class Program(unittest.TestCase):
         lines = output_of("llvm-otool", "-L",
                           OPTIONS.build / "bin/ztk").splitlines()
         self.assertEqual(lines[1].split(" (")[0].strip(), INSTALL_NAME)
+
+
+    def test_lets_the_framework_choose_its_own_language(self):
+        program = (OPTIONS.build / "bin/ztk").read_bytes()
+        start = program.index(b"<?xml")
+        end = program.index(b"</plist>", start) + len(b"</plist>")
+        info = plistlib.loads(program[start:end])
+        self.assertIs(info["CFBundleAllowMixedLocalizations"], True)
+        self.assertEqual(info["CFBundleIdentifier"], "com.tarvix.ztk")
+        sections = re.findall(r"sectname (\S+)", output_of(
+            "llvm-otool", "-l", OPTIONS.build / "bin/ztk"))
+        self.assertIn("__info_plist", sections)
 
 
 def main():

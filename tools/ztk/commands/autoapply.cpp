@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "build_config.h"
+#include "ztk/system/facts.h"
 #include "ztk/system/user_manager.h"
 
 namespace ztk::program {
@@ -12,11 +13,6 @@ namespace {
 
 // One for each mixer, so that two that come at the same time are both served.
 constexpr char kUnit[] = "ztk-apply@.service";
-
-constexpr char kNote[] =
-    "Off until you turn it on, for you alone. What was sent, and when, is in\n"
-    "your journal:\n"
-    "  journalctl --user -t ztk-apply";
 
 constexpr char kNoRule[] =
     "nothing tells of a mixer that is plugged in: udev has no rule "
@@ -75,7 +71,7 @@ Command MakeCommand(const char *verb, const char *summary,
   return {.path = path,
           .summary = summary,
           .parameters = {},
-          .note = kNote,
+          .note = AutoapplyFact(),
           .example = "ztk " + path,
           .run = run};
 }
@@ -85,7 +81,7 @@ Command MakeCommand(const char *verb, const char *summary,
 Group AutoapplyGroup() {
   return {.name = "autoapply",
           .summary = "Send what is remembered when a mixer is plugged in",
-          .note = kNote,
+          .note = AutoapplyFact(),
           .example = "ztk autoapply on"};
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <array>
+#include <span>
 
 #include "cli/strings.h"
 #include "cli/terminal.h"
@@ -9,6 +10,7 @@
 #include "ztk/model/finding.h"
 #include "ztk/model/mixers.h"
 #include "ztk/progress.h"
+#include "ztk/system/facts.h"
 #include "ztk/system/text.h"
 
 namespace ztk::program {
@@ -101,7 +103,8 @@ Findings FindTextTrouble(std::string *good) {
       ZTK_TEXT("/System/Library/Frameworks/VRM-D6Setup.framework"),
       ZTK_TEXT("/Library/Frameworks/VRM-D6Setup.framework")};
   bool found = false;
-  for (const ZTKTextRef path : paths) {
+  const bool onlyFirst = !WhyInstalledIsNotFound().empty();
+  for (const ZTKTextRef path : std::span(paths).first(onlyFirst ? 1 : 2)) {
     platform::bundle::Bundle *bundle = platform::bundle::AtPath(path);
     const bool complete = bundle != nullptr && HasTexts(bundle);
     found = found || bundle != nullptr;

@@ -10,6 +10,7 @@
 #include "ztk/commands/warning.h"
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
+#include "ztk/system/facts.h"
 
 namespace ztk::program {
 
@@ -184,39 +185,25 @@ cli::Section JsonOutput() {
 }
 
 cli::Section Environment() {
-  return {
-      .title = "ENVIRONMENT",
-      .text = "",
-      .terms = {
-          {.name = "XDG_CONFIG_HOME, HOME",
-           .meaning = "Where settings are remembered, see FILES."},
-          {.name = "XDG_STATE_HOME",
-           .meaning = "Where ztk undo finds what was changed, see FILES."},
-          {.name = "DBUS_SESSION_BUS_ADDRESS",
-           .meaning = "The message bus on which changes are announced."},
-          {.name = "LANGUAGE, LC_ALL, LC_MESSAGES, LANG",
-           .meaning = "The language of the warning texts."},
-          {.name = "NO_COLOR, CLICOLOR, TERM",
-           .meaning = "Nothing stands out in the terminal if NO_COLOR is set "
-                      "and not empty,\nif CLICOLOR is 0, or if TERM is "
-                      "dumb.\nWhat goes to a file or a pipe is always "
-                      "plain."}}};
+  cli::Section section{.title = "ENVIRONMENT", .text = "", .terms = {}};
+  for (const VariableFact &fact : VariableFacts()) {
+    section.terms.push_back({.name = fact.names, .meaning = fact.meaning});
+  }
+  section.terms.push_back(
+      {.name = "NO_COLOR, CLICOLOR, TERM",
+       .meaning = "Nothing stands out in the terminal if NO_COLOR is set "
+                  "and not empty,\nif CLICOLOR is 0, or if TERM is "
+                  "dumb.\nWhat goes to a file or a pipe is always "
+                  "plain."});
+  return section;
 }
 
 cli::Section Files() {
-  cli::Section section{
-      .title = "FILES",
-      .text =
-          "Settings are below XDG_CONFIG_HOME, or ~/.config without it; "
-          "what ztk undo needs is\n"
-          "below XDG_STATE_HOME, or ~/.local/state without it. On macOS, and "
-          "in a home shared\nwith it that has no such folder, settings are in "
-          "~/Library/Preferences, under the\nsame names.",
-      .terms = {}};
+  cli::Section section{.title = "FILES", .text = FilesFact(), .terms = {}};
   for (const Family *family : Families()) {
     const std::string model = ModelName(*family);
-    const std::string name =
-        "tarvix/Preferences/com.tarvix." + model + "autosetup.plist";
+    const std::string name = std::string(SettingsFolderFact()) + "com.tarvix." +
+                             model + "autosetup.plist";
     const auto known = std::find_if(
         section.terms.begin(), section.terms.end(),
         [&name](const cli::Term &term) { return term.name == name; });

@@ -3,6 +3,7 @@
 #include "cli/strings.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/model/products.h"
+#include "ztk/system/facts.h"
 #include "ztk/system/text.h"
 
 namespace ztk::program {
@@ -39,6 +40,8 @@ Report ShowVersions(const Arguments & /*arguments*/) {
     report.text += cli::Padded(piece.title, kColumn) +
                    (found ? cli::OneLine(Utf8(text)) : "not installed") + "\n";
   }
+  const std::string why = WhyInstalledIsNotFound();
+  if (!why.empty()) report.warnings.push_back(why);
   versions["ztk"] = build::kVersion;
   report.text += cli::Padded("ztk", kColumn) + build::kVersion + "\n";
   report.fields["versions"] = versions;

@@ -9,6 +9,7 @@
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 #include "ztk/progress.h"
+#include "ztk/system/facts.h"
 #include "ztk/system/text.h"
 
 namespace ztk::program {
@@ -106,8 +107,9 @@ std::string Explanation(std::uint32_t channel, const Reach &reach,
                      "whether this routing can be heard";
   }
   if (text != nullptr) return before + Utf8(text);
-  return PlainSentence(reach, place) +
-         " (the translated text is missing: install VRM-D6Setup.framework)";
+  const std::string why = WhyInstalledIsNotFound();
+  return PlainSentence(reach, place) + " (the translated text is missing: " +
+         (why.empty() ? "install VRM-D6Setup.framework" : why) + ")";
 }
 
 }  // namespace
@@ -160,9 +162,12 @@ Report ShowWarning(const Arguments &arguments) {
                                           "accepted: 1 to 4");
   }
   if (text == nullptr) {
+    const std::string why = WhyInstalledIsNotFound();
     throw Failure(ExitCode::Failed,
-                  "the library finds no such text: make sure that "
-                  "VRM-D6Setup.framework is installed");
+                  "the library finds no such text: " +
+                      (why.empty() ? "make sure that VRM-D6Setup.framework is "
+                                     "installed"
+                                   : why));
   }
   Report report;
   report.text = cli::OneLine(Utf8(text)) + "\n";

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <sys/mount.h>
+#include <sys/param.h>
+
 #include "ztk/model/finding.h"
+#include "ztk/system/facts.h"
 #include "ztk/system/places.h"
 
 namespace ztk::program {
@@ -44,13 +48,22 @@ std::string MoveAwayCommand(const std::string &path) {
 }
 
 std::string MakeWritableCommand(const std::string &folder) {
-  return "sudo mount -uw \"$(df -P " + ShellQuoted(folder) +
-         " | awk 'END {print $NF}')\"";
+  struct statfs system {};
+  const bool known = statfs(folder.c_str(), &system) == 0;
+  return "sudo mount -uw " + ShellQuoted(known ? system.f_mntonname : folder);
 }
 
 Findings FindOddLibrary(const std::string & /*library*/) { return {}; }
 
 Finding ExplainTexts(bool found) {
+  const std::string why = WhyInstalledIsNotFound();
+  if (!why.empty()) {
+    return {.id = "texts-not-found",
+            .what = "warnings are not told in your language",
+            .cause = why,
+            .command = "ztk versions",
+            .isNote = true};
+  }
   return {.id = found ? "texts-broken" : "texts-missing",
           .what = "warnings are not told in your language",
           .cause = found ? "VRM-D6Setup.framework has no texts in "

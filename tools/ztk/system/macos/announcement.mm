@@ -96,7 +96,11 @@ bool BusWitness::Heard(const Announcement &announcement) {
   while (!ear_->Has(announcement)) {
     const CFTimeInterval left = deadline - CFAbsoluteTimeGetCurrent();
     if (left <= 0) return false;
-    CFRunLoopRunInMode(kCFRunLoopDefaultMode, left, true);
+    // Without a source to wait for, the loop would end at once each time.
+    if (CFRunLoopRunInMode(kCFRunLoopDefaultMode, left, true) ==
+        kCFRunLoopRunFinished) {
+      return ear_->Has(announcement);
+    }
   }
   return true;
 }

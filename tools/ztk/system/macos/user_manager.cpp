@@ -4,13 +4,15 @@
 
 namespace ztk::program {
 
-// The service manager here starts nothing when a device is plugged in.
+// launchd can start a program when a device is plugged in, but the program then
+// has to take the event from it. Nothing of that is built.
 struct UserManager::Connection {};
 
 UserManager::UserManager() {
   throw Failure(ExitCode::Failed,
-                "nothing can be started here when a mixer is plugged in: that "
-                "is systemd's work; run 'ztk apply' after plugging in");
+                "ztk autoapply is not built for macOS: nothing is started here "
+                "when a mixer is plugged in; run 'ztk apply' after plugging "
+                "in");
 }
 
 UserManager::~UserManager() = default;
