@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 #
-# Language, warnings and instrumentation, one place for every target.
+# Language, warnings, hardening and instrumentation of all targets.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -26,6 +26,14 @@ add_compile_options(
   $<$<COMPILE_LANGUAGE:OBJCXX>:-Wundeclared-selector>)
 if(APPLE)
   add_compile_options(-Wunguarded-availability)
+endif()
+# Checks at run time that cost little: a changed return address, a buffer that is
+# too small. A packager's own flags come first where they name the same. The
+# second needs an optimiser, and the sanitizers bring their own.
+add_compile_options(-fstack-protector-strong)
+if(NOT ZTK_SANITIZE AND NOT "${CMAKE_C_FLAGS} ${CMAKE_CXX_FLAGS}" MATCHES "_FORTIFY_SOURCE")
+  add_compile_options(
+    $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)
 endif()
 if(ZTK_WERROR)
   add_compile_options(-Werror)
