@@ -1,13 +1,14 @@
 # SPDX-License-Identifier: MIT
 #
-# What is installed and where, by component; each is a package of its own:
-#   library      the shared library
-#   common       what every program that uses it needs beside it: the bundle of
-#                texts (resources/ installs it) and the udev rule
-#   development  what a programmer adds to it
-#   runtime      the programs and what belongs to them (tools/ installs them);
-#                also whatever names no component
-#   documents    what a reader wants who has not got the sources
+# What is installed and where, by component. A Debian package contains one of
+# them; ztk contains two.
+#   library        the shared library
+#   common         what every program that uses the library needs: the bundle of
+#                  texts (installed by resources/) and the udev rule
+#   development    headers, their manual page, the CMake package, the .pc file
+#   runtime        ztk and its files (installed by tools/); the default component
+#   virtual-mixer  ztk-virtual-mixer and its files
+#   documents      README, docs/, changelog and licence
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZTKFunc)
@@ -24,8 +25,8 @@ endif()
 install(FILES ${PROJECT_SOURCE_DIR}/include/ZTKFunc.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 
-# Programs find the library beside themselves, wherever the two are moved; a
-# framework they find by its full name.
+# Programs find the library relative to their own folder, so that the installation
+# can be moved. A framework is found by its full path.
 if(TARGET ztk AND NOT APPLE)
   file(RELATIVE_PATH bin_to_lib
     ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
@@ -47,8 +48,8 @@ install(FILES
   ${PROJECT_BINARY_DIR}/generated/ZTKFuncConfigVersion.cmake
   DESTINATION ${package_dir} COMPONENT development)
 
-# The .pc file names its folders from where it lies, so that an installation
-# may be moved.
+# The .pc file names its folders relative to itself, so that the installation can
+# be moved.
 cmake_path(ABSOLUTE_PATH pkgconfig_dir
   BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} OUTPUT_VARIABLE pc_folder)
 file(RELATIVE_PATH pc_to_prefix ${pc_folder} ${CMAKE_INSTALL_PREFIX})
@@ -70,8 +71,9 @@ configure_file(${PROJECT_SOURCE_DIR}/cmake/ztkfunc.pc.in
 install(FILES ${PROJECT_BINARY_DIR}/generated/ztkfunc.pc
   DESTINATION ${pkgconfig_dir} COMPONENT development)
 
-# udev knows vendors by four small hexadecimal digits. The unit lies where no
-# systemd looks: each user makes it known to their own.
+# udev writes a vendor id as four lower-case hexadecimal digits. The unit is
+# installed where systemd does not look for units: "ztk autoapply on" links it
+# for one user.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   string(REGEX REPLACE "^0x" "" vendor_id "${ZTK_USB_VENDOR_ID}")
   string(TOLOWER "${vendor_id}" vendor_id)
@@ -91,7 +93,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   endif()
 endif()
 
-# Laid out as here, so that the links between them lead somewhere.
+# In the same layout as in the sources, so that the links between them work.
 install(FILES
   ${PROJECT_SOURCE_DIR}/LICENSE
   ${PROJECT_SOURCE_DIR}/README.md

@@ -1,10 +1,11 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
-# A Debian 12 that has nothing but its base system, in a temporary folder, for
-# the commands that try things there. They source lib.sh first.
+# A Debian that has nothing but its base system, in a temporary folder, for the
+# commands that try things there. They source lib.sh first.
 
-readonly suite=bookworm
+# The release; set by make_bare_root.
+suite=
 
 # Where this machine takes the suite's packages from: both forms of source
 # lists, the first that offers it.
@@ -26,14 +27,17 @@ mirror() {
     awk -v suite="$suite" '$1 == "deb" && $3 == suite { print $2; exit }'
 }
 
-# What makes apt work on this machine makes it work in the root.
+# What makes apt work on this machine makes it work in the root. The package
+# sources are copied only where they offer the root's release.
 copy_apt_settings() {  # root
-  local file
-  rm -f "$1/etc/apt/sources.list"
-  for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list \
-    /etc/apt/sources.list.d/*.sources /etc/apt/keyrings \
-    /etc/apt/trusted.gpg.d /usr/share/keyrings /etc/apt/auth.conf.d \
-    /etc/resolv.conf /etc/hosts; do
+  local file lists=()
+  if [[ -n $(mirror) ]]; then
+    rm -f "$1/etc/apt/sources.list"
+    lists=(/etc/apt/sources.list /etc/apt/sources.list.d/*.list
+      /etc/apt/sources.list.d/*.sources)
+  fi
+  for file in "${lists[@]}" /etc/apt/keyrings /etc/apt/trusted.gpg.d \
+    /usr/share/keyrings /etc/apt/auth.conf.d /etc/resolv.conf /etc/hosts; do
     [[ -e $file ]] || continue
     mkdir -p "$1/${file%/*}"
     cp -aL --remove-destination "$file" "$1/${file%/*}/"
@@ -76,7 +80,8 @@ in_bare_root() {  # root command...
 }
 
 # Makes the root and sets $bare to its folder; it goes when the command ends.
-make_bare_root() {
+make_bare_root() {  # release
+  suite=$1
   [[ $(id -u) == 0 ]] || fail "Only root can make a bare Debian root."
   need_packages full
   local origin extra=()
@@ -87,7 +92,7 @@ make_bare_root() {
   bare_root_folder=$(mktemp -d "${TMPDIR:-/var/tmp}/bare-root.XXXXXX")
   trap 'rm -rf --one-file-system "$bare_root_folder"' EXIT
   bare=$bare_root_folder/root
-  say "Making a bare Debian 12 from $origin."
+  say "Making a bare Debian, release $suite, from $origin."
   debootstrap --variant=minbase "${extra[@]}" "$suite" "$bare" "$origin" \
     >"$bare_root_folder/log" 2>&1 || {
     tail -n 20 "$bare_root_folder/log" >&2

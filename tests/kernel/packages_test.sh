@@ -23,7 +23,7 @@ expect() {  # what expected actual
 if [[ ${2:-} != --with-mixer ]]; then
   ! dpkg-query --show 'libztkfunc*' &>/dev/null ||
     { echo "The packages are installed on this machine already."; exit 77; }
-  dpkg-deb --extract "$packages"/ztk_*.deb /run/unpacked
+  dpkg-deb --extract "$packages"/ztk-virtual-mixer_*.deb /run/unpacked
   exec /run/unpacked/usr/bin/ztk-virtual-mixer serve --attach \
     --log "$requests" -- "$0" "$packages" --with-mixer
 fi
