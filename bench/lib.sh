@@ -1,9 +1,9 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
-# What the commands of this folder share.
+# Functions that the commands of this folder share.
 
-# Starts a message bus of our own in a folder and sets $bus to its process.
+# Starts a private message bus in a folder and sets $bus to its process.
 start_bus() {  # folder
   cat >"$1/bus.conf" <<END
 <busconfig><type>session</type><auth>EXTERNAL</auth>
@@ -18,11 +18,11 @@ END
   bus=$!
   local address
   read -r address <"$1/address" || return 1
-  # Without its "guid=", as a session's variable has it.
+  # Without "guid=", like the variable of a session.
   export DBUS_SESSION_BUS_ADDRESS=${address%%,*}
 }
 
-# Runs the benchmarks that a filter names and keeps their results as a file.
+# Runs the benchmarks that match a filter and writes their results to a file.
 run_benchmarks() {  # bin results filter repetitions seconds
   ZTK_BENCH_MAY_CHANGE_SETTINGS=1 "$1/library_bench" \
     --benchmark_filter="$3" --benchmark_repetitions="$4" \
@@ -31,4 +31,16 @@ run_benchmarks() {  # bin results filter repetitions seconds
     cat "$2.txt" >&2
     return 1
   }
+}
+
+# Times programs from start to end, in a root folder if one is given, and writes
+# the results to a file there.
+time_programs() {  # bin file runs [root]
+  ${4:+chroot "$4"} hyperfine --shell=none --warmup 1 --runs "$3" --style none \
+    --export-json "$2" \
+    --command-name "ztk status" "$1/ztk status" \
+    --command-name "minimal C program" "$1/read_status" \
+    --command-name "the same, reading once" "$1/read_status once" \
+    --command-name "libusb lister" "$1/list_devices" \
+    --command-name lsusb "$(command -v lsusb)" 2>&1
 }
