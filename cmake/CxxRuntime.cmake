@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
 #
-# The C++ runtime as a part of what is linked. As a shared library it takes a
-# fifth of the time of a program that only asks a mixer something: it binds
-# thousands of names to itself each time, of which few are used here. Nor need
-# a program of another compiler then agree with the library on a version of it.
+# Links the C++ runtime statically. Loading it as a shared library takes a fifth
+# of the time of a program that only queries a mixer, because it resolves
+# thousands of its own names at each start. A program that was built with another
+# compiler need not use the same version of it either.
 
 set(ztk_static_cxx_runtime -static-libstdc++ -static-libgcc)
 
@@ -11,7 +11,7 @@ if(ZTK_STATIC_CXX_RUNTIME)
   include(CheckCXXSourceCompiles)
   include(CMakePushCheckState)
   cmake_push_check_state(RESET)
-  # Into a shared library: that takes one whose code may lie anywhere.
+  # The test links a shared library, which needs position-independent code.
   set(CMAKE_REQUIRED_FLAGS -fPIC)
   set(CMAKE_REQUIRED_LINK_OPTIONS ${ztk_static_cxx_runtime} -shared LINKER:-z,text)
   check_cxx_source_compiles("
@@ -21,16 +21,16 @@ if(ZTK_STATIC_CXX_RUNTIME)
     ZTK_HAS_STATIC_CXX_RUNTIME)
   cmake_pop_check_state()
   if(NOT ZTK_HAS_STATIC_CXX_RUNTIME)
-    # Asked again when it has been installed.
+    # Tests again at the next run: it may have been installed by then.
     unset(ZTK_HAS_STATIC_CXX_RUNTIME CACHE)
     message(FATAL_ERROR
-      "The C++ runtime is not here as a static library. Install it (libstdc++-static "
-      "where it is a package of its own), or build with -DZTK_STATIC_CXX_RUNTIME=OFF.")
+      "There is no static C++ runtime. Install it (on some systems the package "
+      "libstdc++-static), or build with -DZTK_STATIC_CXX_RUNTIME=OFF.")
   endif()
 endif()
 
-# For the library and ztk, whose start counts; all else keeps the shared one.
-# clang names the mathematics beside it, whether anything of that is used or not.
+# For the library and ztk, whose start time matters; other programs use the shared
+# runtime. --as-needed drops the mathematics library, which clang always names.
 function(ztk_link_cxx_runtime target)
   if(ZTK_STATIC_CXX_RUNTIME)
     target_link_options(${target} PRIVATE

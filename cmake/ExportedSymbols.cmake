@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# Makes the linker's lists of visible symbols from src/exports.txt: one name a
-# line, "#" starts a comment.
+# Makes the linker's lists of visible symbols from src/exports.txt, which has one
+# name per line; "#" starts a comment.
 
 function(ztk_read_exports file out)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
@@ -22,8 +22,8 @@ function(ztk_version_script exports script)
 ")
 endfunction()
 
-# For the linker of macOS, which writes a C name with an underscore before it,
-# and an Objective-C class as two symbols.
+# For the linker of macOS: each C name has an underscore before it, and an
+# Objective-C class has two symbols.
 function(ztk_exported_symbols_list exports list)
   ztk_read_exports("${exports}" names)
   list(TRANSFORM names PREPEND "_")

@@ -1,21 +1,23 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Does what a reader of a document does, and compares what it shows.
+"""Runs the commands and programs of a document and compares their output with
+the output that the document shows.
 
-- A block marked "console" holds commands after "$ " and what they print. All of
+- A block marked "console" contains commands after "$ " and their output. All of
   them run in order, in one home folder, on a private message bus. A block marked
-  "console mixer" runs inside the sandbox of a virtual mixer. "..." alone on a
-  line stands for any lines.
-- A block marked "c" is a program: it has to compile and to run among virtual
-  mixers. Words after the "c" name what it uses besides, as pkg-config knows it.
-  What it prints stands in the "text" block after it.
-- Blocks marked "sh" are not run: they install things or take a build's time.
-- What the links of the document point to has to be there.
+  "console mixer" runs with a virtual mixer. A line "..." matches any lines.
+- A block marked "c" is a program: it has to compile and to run with a virtual
+  mixer. The words after "c" name the other libraries that it uses, by their names
+  in pkg-config. The "text" block after it shows its output.
+- Blocks marked "sh" are not run: they install something or build for minutes.
+- The link targets inside the project have to exist.
+- A picture that scripts/record-demo made counts as one block "console mixer".
 
 Usage: document_test.py DOCUMENT BUILD [COMPILER [FLAG]...]
 """
 
 import difflib
+import html
 import os
 import pathlib
 import re
@@ -54,8 +56,16 @@ def blocks_of(text):
     return found
 
 
+def block_of_picture(text):
+    """What the picture of a terminal shows, without the headings between."""
+    lines = [html.unescape(line)
+             for line in re.findall(r"<text[^>]*>(.*)</text>", text)]
+    return Block("console mixer", "".join(
+        line + "\n" for line in lines if not line.startswith("--- ")), 0)
+
+
 def exchanges_of(block):
-    """The commands of a block, each with the output that is shown."""
+    """The commands of a block, each with the output below it."""
     found = []
     for offset, line in enumerate(block.text.splitlines(), 1):
         if line.startswith("$ "):
@@ -111,14 +121,17 @@ class Reader:
         return done.stdout
 
     def try_console(self, block):
-        """Runs a block as one script; the outputs are told apart by a mark."""
+        """Runs a block as one script; a mark separates the outputs."""
         exchanges = exchanges_of(block)
         mark = "-- the next command --"
         script = f"; echo '{mark}'\n".join(e.command for e in exchanges)
         command = ["bash", "-c", f"exec 2>&1\n{script}"]
         if block.kind == "console mixer":
             command = ["ztk-virtual-mixer", "run", "--", *command]
-        printed = self.run(command).split(mark + "\n")
+        # A picture has no empty lines.
+        printed = [
+            output if block.line else re.sub(r"\n\n+", "\n", output)
+            for output in self.run(command).split(mark + "\n")]
         printed += ["(it did not run)\n"] * (len(exchanges) - len(printed))
         return [difference(f"line {exchange.line}: {exchange.command}",
                            exchange.output, output)
@@ -144,7 +157,7 @@ class Reader:
 
 
 def difference(title, shown, printed):
-    """Empty when it fits; else what to tell."""
+    """Empty when the output matches; else the complaint."""
     if fits(shown, printed):
         return ""
     return "\n".join([title, *difflib.unified_diff(
@@ -153,9 +166,9 @@ def difference(title, shown, printed):
 
 
 def dead_links(document):
-    """What the document links to in the project, and is not there."""
+    """Complaints about links to files that do not exist."""
     text = document.read_text(encoding="utf-8")
-    return [f"a link to {target} leads nowhere"
+    return [f"there is no {target}, to which a link leads"
             for target in re.findall(r"\]\(([^)#]+)[^)]*\)", text)
             if not re.match(r"\w+:", target)
             and not (document.parent / target).exists()]
@@ -164,7 +177,7 @@ def dead_links(document):
 def try_examples(blocks, build, compiler):
     header = pathlib.Path(__file__).resolve().parents[2] / "include"
     complaints = []
-    # Short: sockets lie below it.
+    # A short path, because the names of sockets in it are limited.
     with tempfile.TemporaryDirectory(prefix="ztk.", dir="/tmp") as folder:
         reader = Reader(pathlib.Path(folder), os.path.abspath(build))
         try:
@@ -181,11 +194,13 @@ def try_examples(blocks, build, compiler):
 
 def main(document, build, *compiler):
     document = pathlib.Path(document)
-    blocks = blocks_of(document.read_text(encoding="utf-8"))
+    text = document.read_text(encoding="utf-8")
+    picture = document.suffix == ".svg"
+    blocks = [block_of_picture(text)] if picture else blocks_of(text)
     examples = [(block, following)
                 for block, following in zip(blocks, [*blocks[1:], None])
                 if block.kind.split()[:1] in (["console"], ["c"])]
-    complaints = dead_links(document)
+    complaints = [] if picture else dead_links(document)
     if document.name == "README.md" and not examples:
         complaints.append("there are no examples")
     if examples:

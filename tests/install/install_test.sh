@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Tests of the installed library; CMakeLists.txt sets the variables in capitals
-# and names the function to run.
+# Tests of the installed library. CMakeLists.txt sets the variables in capitals
+# and passes the name of the function to run.
 set -euo pipefail
 
 flags=${FLAGS:-}
@@ -148,12 +148,45 @@ udev_rule_for() {  # vendor
 
 manuals() {
   local file
-  for file in man/man1/ztk.1 man/man1/ztk-virtual-mixer.1 man/man3/ZTKFunc.3 \
+  for file in man/man1/ztk.1 man/man1/ztk-virtual-mixer.1 \
     bash-completion/completions/{ztk,ztk-virtual-mixer} \
     fish/vendor_completions.d/{ztk,ztk-virtual-mixer}.fish \
     "${ZSH_COMPLETIONS#share/}"/{_ztk,_ztk-virtual-mixer}; do
     [[ -s $PREFIX/share/$file ]] || fail "$file is not installed."
   done
+  # Made only where doxygen is installed.
+  [[ ! -e $BUILD/manual/ZTKFunc.3 ||
+    -s $PREFIX/share/man/man3/ZTKFunc.3 ]] ||
+    fail "man3/ZTKFunc.3 is not installed."
+}
+
+# The prefix holds one file and one folder that are not ours; they must stay.
+uninstall() {
+  local folder=$WORK/taken-away before
+  rm -rf "$folder"
+  mkdir -p "$folder/share/man" "$folder/bin"
+  echo "another program" >"$folder/bin/another"
+  before=$(find "$folder" | sort)
+  # The second installation must not take the folders of the first for others'.
+  "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
+  "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
+  [[ -x $folder/bin/ztk || ! -x $PREFIX/bin/ztk ]] || fail "It is not there."
+  "$CMAKE" -DBUILD="$BUILD" -P "$SOURCE/cmake/uninstall_files.cmake"
+  expect "$before" "$(find "$folder" | sort)" "What is left"
+  # With nothing there before, not even the prefix is left.
+  rm -rf "$folder"
+  "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
+  "$CMAKE" -DBUILD="$BUILD" -P "$SOURCE/cmake/uninstall_files.cmake"
+  [[ ! -e $folder ]] || fail "Left: $(find "$folder")"
+}
+
+hardening() {
+  local symbols
+  symbols=$(nm --dynamic --undefined-only "$PREFIX/$LIBDIR/libZTKFunc.so")
+  grep -q ' __stack_chk_fail' <<<"$symbols" ||
+    fail "The library has no stack protector."
+  [[ $BUILD_TYPE == Debug ]] || grep -q '_chk@' <<<"$symbols" ||
+    fail "The library calls no function that _FORTIFY_SOURCE checks."
 }
 
 # They find the library beside themselves.
