@@ -32,7 +32,7 @@ def check_functions(page, sources):
     if set(found) != names or not names:
         yield f"the header and exports.txt differ: {set(found) ^ names}"
     text = re.sub(r"\\f[BIRP]|\\&", "", page)
-    headings = dict(re.findall(r'\.SS "ZTKResult (\w+) \((.*)\)"', text))
+    headings = dict(re.findall(r'\.RI "ZTKResult (\w+) \((.*)\)"', text))
     for name, parameters in found.items():
         for word in parameters:
             if not re.search(rf"\b{word}\b", headings.get(name, "")):
