@@ -3,6 +3,7 @@
 # cmake -DBUILD=DIR -P uninstall_files.cmake: removes the files that
 # DIR/install_manifest.txt lists, then each folder that is empty and did not exist
 # before the installation.
+cmake_minimum_required(VERSION 3.25)
 set(manifest "${BUILD}/install_manifest.txt")
 set(record "${BUILD}/install_folders.txt")
 if(NOT EXISTS "${manifest}" OR NOT EXISTS "${record}")

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
 # cmake -DDOXYFILE=FILE -DTO=DIR -P reference.cmake: makes the interface reference.
+cmake_minimum_required(VERSION 3.25)
 find_program(DOXYGEN doxygen)
 if(NOT DOXYGEN)
   message(FATAL_ERROR "doxygen makes the reference, and it is not installed.")
