@@ -11,15 +11,51 @@
 namespace ztk::platform::property_list {
 
 struct Dictionary;
+struct Change;
 
-// Reads a file; null when there is none, it cannot be read, or its root is not
-// a dictionary. Goes back through Release(). Never creates anything.
+// How reading a file ended.
+enum class ReadState {
+  Read,    // The entries were read.
+  Absent,  // There is no file.
+  // There is a file, and it could not be read: no permission, no descriptor or
+  // memory left, an error of the disk, no regular file, or another program was
+  // writing to it all the time. It may hold settings, so it is not replaced.
+  Unavailable,
+  // The file was read in full, twice with the same bytes, and its root is not a
+  // dictionary, or the reader refuses it. It may be replaced.
+  Damaged,
+};
+
+struct ReadResult {
+  ReadState state = ReadState::Absent;
+  // Why a file is unavailable: the system's error number (errno). 0 otherwise,
+  // and where the system does not say.
+  int error = 0;
+
+  bool operator==(const ReadResult &) const = default;
+};
+
+// Reads a file. Writes the dictionary to *dictionary when the state is Read,
+// else null; it goes back through Release(). Never creates anything.
+ReadResult Read(ZTKTextRef path, Dictionary **dictionary);
+// The same for callers to whom a file that cannot be read is a missing one.
 Dictionary *ReadFile(ZTKTextRef path);
+
+// Begins to change a file: between BeginChange() and EndChange() the file is
+// read, and then replaced or left as it is. Other processes that change a file
+// of the same folder wait meanwhile. The wait is short; it ends without the
+// lock where the folder cannot be locked or another process keeps it too long.
+// Creates the folder of the file where it is missing. Changes are not nested,
+// and one thread begins, uses and ends each of them. Goes back through
+// EndChange().
+Change *BeginChange(ZTKTextRef path);
+// Null is allowed.
+void EndChange(Change *change);
 
 // Makes an empty dictionary that can be filled.
 Dictionary *MakeDictionary();
-// Adds all entries of a file; a missing or unreadable one adds nothing.
-void AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path);
+// Adds all entries of a file, if it can be read.
+ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path);
 // Sets an integer, replacing what stood under the key.
 void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value);
 
@@ -34,11 +70,16 @@ bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
 // outlives Release(): see ZTKTextRef in the public header for how long.
 ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key);
 
-// Replaces the file in XML form so that a reader sees the old or the new one,
-// never a part. False when it could not; then the old file stands untouched.
-// A file that AddEntriesOfFile() met but could not read is kept beside the new
-// one where the system can.
-bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path);
+// Replaces the file in XML form. A reader sees the old file or the new one,
+// never a part. Only a regular file is replaced. False when the file could not
+// be replaced; then the old file is untouched, and *error, where `error` is not
+// null, has the system's error number, or 0 where the system does not say.
+//
+// After AddEntriesOfFile() has found the same file unavailable, nothing is
+// written. A file that it found damaged, or from which it could not take every
+// character, is kept beside the new one where the system can.
+bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
+                     int *error = nullptr);
 
 // Null is allowed.
 void Release(Dictionary *dictionary);

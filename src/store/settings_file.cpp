@@ -49,11 +49,16 @@ void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value) {
   const Made path(MakePath(model));
   if (path.get() == nullptr) return;
 
+  plist::Change *change = plist::BeginChange(path.get());
   plist::Dictionary *settings = plist::MakeDictionary();
-  plist::AddEntriesOfFile(settings, path.get());
-  plist::SetInteger(settings, key, static_cast<std::int32_t>(value));
-  plist::WriteAtomically(settings, path.get());
+  const plist::ReadResult read = plist::AddEntriesOfFile(settings, path.get());
+  // A file that cannot be read now may hold settings: writing would lose them.
+  if (read.state != plist::ReadState::Unavailable) {
+    plist::SetInteger(settings, key, static_cast<std::int32_t>(value));
+    plist::WriteAtomically(settings, path.get());
+  }
   plist::Release(settings);
+  plist::EndChange(change);
 }
 
 void WriteChannel(ZTKTextRef model, ZTKTextRef keyFormat, std::uint32_t channel,

@@ -13,6 +13,10 @@ struct Dictionary {
   fake::Entries entries;
 };
 
+struct Change {
+  std::string path;
+};
+
 namespace {
 
 using fake::LogCall;
@@ -29,14 +33,47 @@ std::string Describe(const fake::Value &value) {
   return "(other)";
 }
 
+// What reading the file comes to, and its entries when it can be read.
+ReadResult Find(const std::string &path, fake::Entries *entries) {
+  const auto failure = TheWorld().readFailures.find(path);
+  if (failure != TheWorld().readFailures.end()) return failure->second;
+  const auto file = TheWorld().files.find(path);
+  if (file == TheWorld().files.end()) return {.state = ReadState::Absent};
+  *entries = file->second;
+  return {.state = ReadState::Read};
+}
+
 }  // namespace
 
-Dictionary *ReadFile(ZTKTextRef path) {
+ReadResult Read(ZTKTextRef path, Dictionary **dictionary) {
   LogCall(std::string("read file ") + path);
-  const auto file = TheWorld().files.find(path);
-  if (file == TheWorld().files.end()) return nullptr;
-  ++TheWorld().held.dictionaries;
-  return new Dictionary{.entries = file->second};
+  *dictionary = nullptr;
+  fake::Entries entries;
+  const ReadResult result = Find(path, &entries);
+  if (result.state == ReadState::Read) {
+    ++TheWorld().held.dictionaries;
+    *dictionary = new Dictionary{.entries = entries};
+  }
+  return result;
+}
+
+Dictionary *ReadFile(ZTKTextRef path) {
+  Dictionary *dictionary = nullptr;
+  Read(path, &dictionary);
+  return dictionary;
+}
+
+Change *BeginChange(ZTKTextRef path) {
+  LogCall(std::string("begin change of ") + path);
+  ++TheWorld().held.changes;
+  return new Change{.path = path};
+}
+
+void EndChange(Change *change) {
+  if (change == nullptr) return;
+  LogCall("end change of " + change->path);
+  --TheWorld().held.changes;
+  delete change;
 }
 
 Dictionary *MakeDictionary() {
@@ -45,13 +82,12 @@ Dictionary *MakeDictionary() {
   return new Dictionary{};
 }
 
-void AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
+ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
   LogCall(std::string("add entries of ") + path);
-  const auto file = TheWorld().files.find(path);
-  if (file == TheWorld().files.end()) return;
-  for (const auto &[key, value] : file->second) {
-    dictionary->entries[key] = value;
-  }
+  fake::Entries entries;
+  const ReadResult result = Find(path, &entries);
+  for (const auto &[key, value] : entries) dictionary->entries[key] = value;
+  return result;
 }
 
 void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value) {
@@ -81,7 +117,8 @@ ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key) {
   return text == nullptr ? nullptr : common::Intern(*text);
 }
 
-bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path) {
+bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
+                     int *error) {
   std::string step = std::string("write ") + path + " {";
   const char *separator = "";
   for (const auto &[key, value] : dictionary->entries) {
@@ -90,7 +127,10 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path) {
   }
   LogCall(std::string("write ") + path);
   LogStep(step + "}");
-  if (!TheWorld().canWrite) return false;
+  if (!TheWorld().canWrite) {
+    if (error != nullptr) *error = TheWorld().writeError;
+    return false;
+  }
   TheWorld().files[path] = dictionary->entries;
   return true;
 }

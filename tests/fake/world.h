@@ -5,6 +5,7 @@
 #ifndef ZTK_TESTS_FAKE_WORLD_H_
 #define ZTK_TESTS_FAKE_WORLD_H_
 
+#include <cerrno>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -15,6 +16,7 @@
 
 #include "build_config.h"
 #include "platform/notification_center.h"
+#include "platform/property_list.h"
 #include "platform/usb.h"
 
 namespace ztk::fake {
@@ -72,6 +74,7 @@ struct Held {
   int services = 0;
   int plugIns = 0;
   int interfaces = 0;  // references on device interfaces
+  int changes = 0;
   int dictionaries = 0;
   int bundles = 0;
   int userInfos = 0;
@@ -97,7 +100,10 @@ struct World {
   bool hasLibrary = true;
   std::string library = "/Users/dj/Library";
   std::map<std::string, Entries> files;
+  // By path: files that are there but cannot be read.
+  std::map<std::string, platform::property_list::ReadResult> readFailures;
   bool canWrite = true;
+  int writeError = EACCES;  // the reason where canWrite is false
   std::map<std::string, Bundle> bundles;
 
   // What came of it. `steps` is the log in the terms of a setter's rules:

@@ -14,7 +14,11 @@
 #include <string>
 #include <string_view>
 
+#include "platform/common/pause.h"
 #include "platform/property_list.h"
+
+// No other process writes to the files of this target: it does not wait.
+void ztk::platform::Pause(std::chrono::microseconds /*time*/) {}
 
 namespace {
 

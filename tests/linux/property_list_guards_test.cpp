@@ -188,12 +188,21 @@ TEST_F(BadFile, ThatIsAFolderStands) {
   EXPECT_THAT(ztk::test::NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(BadFile, ThatIsAPipeDoesNotBlockAndIsKeptBeside) {
+TEST_F(BadFile, ThatIsAPipeDoesNotBlockAndStays) {
   ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
   EXPECT_FALSE(IsRead());
-  EXPECT_TRUE(Write());
-  EXPECT_EQ(ContentOf(path_), fresh_);
-  EXPECT_TRUE(std::filesystem::is_fifo(path_ + ".unreadable-1"));
+  EXPECT_FALSE(Write());
+  EXPECT_TRUE(std::filesystem::is_fifo(path_));
+  EXPECT_THAT(ztk::test::NamesIn(folder_.path()), ElementsAre("a.plist"));
+}
+
+TEST_F(BadFile, BehindALinkThatIsAPipeStays) {
+  ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0600), 0);
+  std::filesystem::create_symlink("pipe", path_);
+  EXPECT_FALSE(Write());
+  EXPECT_TRUE(std::filesystem::is_fifo(folder_ / "pipe"));
+  EXPECT_THAT(ztk::test::NamesIn(folder_.path()),
+              ElementsAre("a.plist", "pipe"));
 }
 
 TEST_F(BadFile, IsKeptBesideUnderTheFirstFreeNumber) {

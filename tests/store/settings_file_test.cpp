@@ -8,6 +8,7 @@ namespace {
 
 using fake::Entries;
 using fake::Held;
+using platform::property_list::ReadState;
 
 const ZTKTextRef kD6 = ZTK_TEXT("VRM-D6");
 const ZTKTextRef kB5 = ZTK_TEXT("VRM-B5");
@@ -77,6 +78,15 @@ TEST_F(Read, LooksWhereTheUsersLibraryIs) {
                           "com.tarvix.VRM-B5autosetup.plist"));
 }
 
+TEST_F(Read, AnswersTheFallbackForAFileThatCannotBeRead) {
+  TheWorld().files[kD6File] = {{"MaxLevel", 2}};
+  for (const ReadState state : {ReadState::Unavailable, ReadState::Damaged}) {
+    TheWorld().readFailures[kD6File] = {.state = state, .error = 0};
+    EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+  }
+  EXPECT_EQ(TheWorld().held, Held{});
+}
+
 class ReadChannel : public CoreTest {};
 
 TEST_F(ReadChannel, PutsTheChannelIntoTheKey) {
@@ -110,14 +120,35 @@ TEST_F(Write, ReplacesWhatStoodUnderTheKey) {
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
-TEST_F(Write, MergesThenSetsThenWritesThenGivesBack) {
+TEST_F(Write, ReadsSetsAndWritesWithinOneChangeOfTheFile) {
   store::Write(kD6, "MaxLevel", 2);
+  const std::string file = kD6File;
   EXPECT_THAT(
       TakeCalls(),
-      ElementsAre("make dictionary", std::string("add entries of ") + kD6File,
-                  "set MaxLevel 2", std::string("write ") + kD6File,
-                  "release dictionary"));
+      ElementsAre("begin change of " + file, "make dictionary",
+                  "add entries of " + file, "set MaxLevel 2", "write " + file,
+                  "release dictionary", "end change of " + file));
   EXPECT_EQ(TheWorld().held, Held{});
+}
+
+TEST_F(Write, LeavesAFileAloneThatCannotBeReadNow) {
+  TheWorld().files[kD6File] = {{"MaxLevel", 3}};
+  TheWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
+                                      .error = EMFILE};
+  store::Write(kD6, "MaxLevel", 2);
+  const std::string file = kD6File;
+  EXPECT_THAT(TakeCalls(),
+              ElementsAre("begin change of " + file, "make dictionary",
+                          "add entries of " + file, "release dictionary",
+                          "end change of " + file));
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(TheWorld().held, Held{});
+}
+
+TEST_F(Write, ReplacesADamagedFile) {
+  TheWorld().readFailures[kD6File] = {.state = ReadState::Damaged, .error = 0};
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
 TEST_F(Write, StoresASigned32BitNumber) {

@@ -4,19 +4,31 @@
 
 #include <unistd.h>
 
+#include <utility>
+
 namespace ztk::platform {
 
-// A file descriptor that closes itself; below 0 is none.
+// Owns a file descriptor and closes it. A number below 0 means that there is
+// none.
 class Descriptor {
  public:
-  explicit Descriptor(int number) : number_(number) {}
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
+  explicit Descriptor(int number = -1) : number_(number) {}
+  ~Descriptor() { Close(); }
+  Descriptor(Descriptor &&other) noexcept
+      : number_(std::exchange(other.number_, -1)) {}
+  Descriptor &operator=(Descriptor &&other) noexcept {
+    if (this != &other) {
+      Close();
+      number_ = std::exchange(other.number_, -1);
+    }
+    return *this;
   }
-  Descriptor(const Descriptor &) = delete;
-  Descriptor &operator=(const Descriptor &) = delete;
   int get() const { return number_; }
   bool valid() const { return number_ >= 0; }
+  void Close() {
+    if (number_ >= 0) close(number_);
+    number_ = -1;
+  }
 
  private:
   int number_;

@@ -2,125 +2,27 @@
 #include "platform/common/replace_file.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
+#include <cstdio>
 #include <optional>
 
 #include "platform/common/descriptor.h"
+#include "platform/common/file_access.h"
+#include "platform/common/new_file.h"
+#include "platform/common/owner_identity.h"
+#include "platform/common/signal_hold.h"
 
 namespace ztk::platform {
 namespace {
 
-// Holds signals back from this thread while it lives: those that ask a program
-// to end, so that no unfinished file stays behind, and the one that a write
-// raises when a file may not grow. The latter is taken away, as by default it
-// ends the process; the others arrive afterwards.
-class SignalHold {
- public:
-  SignalHold() {
-    sigset_t held;
-    sigemptyset(&held);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGXFSZ}) {
-      sigaddset(&held, signal);
-    }
-    wasPending_ = FileSizeSignalIsPending();
-    held_ = pthread_sigmask(SIG_BLOCK, &held, &before_) == 0;
-  }
-  ~SignalHold() {
-    if (!held_) return;
-    if (!wasPending_ && FileSizeSignalIsPending()) {
-      sigset_t fileSize;
-      sigemptyset(&fileSize);
-      sigaddset(&fileSize, SIGXFSZ);
-      // A write raises it in this thread, where it is held: no wait.
-      int taken = 0;
-      sigwait(&fileSize, &taken);
-    }
-    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
-  }
-  SignalHold(const SignalHold &) = delete;
-  SignalHold &operator=(const SignalHold &) = delete;
-
- private:
-  static bool FileSizeSignalIsPending() {
-    sigset_t pending;
-    return sigpending(&pending) == 0 && sigismember(&pending, SIGXFSZ) == 1;
-  }
-
-  sigset_t before_;
-  bool wasPending_ = false;
-  bool held_ = false;
-};
-
-// The folder part, with its slash; empty for a bare name.
-std::string FolderOf(const std::string &path) {
-  return path.substr(0, path.rfind('/') + 1);
-}
-
-// Makes the folder that the path lies in, with at most `levels` folders.
-// Whether it worked shows when the file is made.
-void MakeFolders(const std::string &path, int levels) {
-  constexpr mode_t kOwnerOnly = 0700;
-  std::string folder = FolderOf(path);
-  while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
-  if (folder.empty() || levels == 0) return;
-  struct stat status = {};
-  if (stat(folder.c_str(), &status) == 0) return;
-  MakeFolders(folder, levels - 1);
-  mkdir(folder.c_str(), kOwnerOnly);
-}
-
-// Where the path leads when the symbolic links at its end are followed, even
-// when there is no file yet; nothing for a loop.
-std::optional<std::string> FollowLinks(std::string path) {
-  constexpr int kMaxLinks = 40;  // as many as the kernel follows
-  for (int i = 0; i <= kMaxLinks; ++i) {
-    std::array<char, PATH_MAX> target;
-    const ssize_t length = readlink(path.c_str(), target.data(), target.size());
-    if (length < 0) {
-      const bool noLink = errno == EINVAL || errno == ENOENT;
-      return noLink ? std::optional(path) : std::nullopt;
-    }
-    if (length == 0 || length == static_cast<ssize_t>(target.size())) break;
-    const std::string_view name(target.data(),
-                                static_cast<std::size_t>(length));
-    path = (name.front() == '/' ? "" : FolderOf(path)).append(name);
-  }
-  return std::nullopt;
-}
-
-bool WriteAll(int file, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t done = write(file, content.data(), content.size());
-    if (done < 0 && errno == EINTR) continue;
-    if (done <= 0) return false;
-    content.remove_prefix(static_cast<std::size_t>(done));
-  }
-  return true;
-}
-
-// Gives the new file the owner and mode of the one it replaces, and
-// `moreMode`.
-bool TakeOver(int file, const struct stat &old, mode_t moreMode) {
-  constexpr mode_t kPermissions = 0777;
-  // Only root may give a file away; others keep at least its group if they can.
-  if (fchown(file, old.st_uid, old.st_gid) != 0 &&
-      fchown(file, static_cast<uid_t>(-1), old.st_gid) != 0) {
-    errno = 0;
-  }
-  return fchmod(file, (old.st_mode & kPermissions) | moreMode) == 0;
-}
-
 // Copies a regular file into a new one, of which nothing stays on failure.
 bool CopyFile(const std::string &from, const std::string &to) {
   const Descriptor source(
-      open(from.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+      open(from.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
   struct stat status = {};
   if (!source.valid() || fstat(source.get(), &status) != 0) return false;
   if (!S_ISREG(status.st_mode)) {
@@ -147,16 +49,6 @@ bool CopyFile(const std::string &from, const std::string &to) {
   return false;
 }
 
-// A new name for a file that may neither be linked nor read: others' files may
-// lie in one's own folder. Not for a folder, which is no settings file at all.
-bool MoveFile(const std::string &from, const std::string &to) {
-  struct stat status = {};
-  if (lstat(from.c_str(), &status) != 0 || S_ISDIR(status.st_mode)) {
-    return false;
-  }
-  return rename(from.c_str(), to.c_str()) == 0;
-}
-
 // The old file under its second name.
 struct Kept {
   std::string name;    // empty when there was none to keep
@@ -180,50 +72,79 @@ bool KeepBeside(const std::string &file, Kept *kept) {
       return true;
     }
     if (errno == EEXIST) continue;
+    // A file of another user in a folder of one's own.
     *kept = {.name = name, .moved = true};
-    return MoveFile(file, name);
+    return rename(file.c_str(), name.c_str()) == 0;
   }
   return false;
 }
 
-// Moves the complete new file to the place of the old one.
-bool PutInPlace(const std::string &fresh, const std::string &file,
-                bool keepOld) {
+// Moves the complete new file to the place of the old one. Answers 0 or the
+// error number.
+int PutInPlace(const std::string &fresh, const std::string &file,
+               bool keepOld) {
   Kept kept;
-  if (keepOld && !KeepBeside(file, &kept)) return false;
-  if (rename(fresh.c_str(), file.c_str()) == 0) return true;
+  if (keepOld && !KeepBeside(file, &kept)) return errno;
+  if (std::rename(fresh.c_str(), file.c_str()) == 0) return 0;
+  const int error = errno;
   if (kept.moved) {
-    MoveFile(kept.name, file);
+    std::rename(kept.name.c_str(), file.c_str());
   } else if (!kept.name.empty()) {
     unlink(kept.name.c_str());
   }
-  return false;
+  return error;
+}
+
+// 0 when there is nothing at the place or a regular file, which *old then
+// describes; else the error number.
+int LookAtOldFile(const std::string &file, std::optional<struct stat> *old) {
+  struct stat status = {};
+  if (lstat(file.c_str(), &status) != 0) return errno == ENOENT ? 0 : errno;
+  if (S_ISDIR(status.st_mode)) return EISDIR;
+  if (!S_ISREG(status.st_mode)) return EINVAL;
+  *old = status;
+  return 0;
+}
+
+// Answers 0 or the error number.
+int Replace(const std::string &path, std::string_view content, bool keepOld) {
+  const SignalHold hold;
+  MakeFolders(path, kMaxMissingFolders);
+  const std::optional<std::string> file = FollowLinks(path);
+  if (!file) return errno;
+  std::optional<struct stat> old;
+  int error = LookAtOldFile(*file, &old);
+  if (error != 0) return error;
+
+  const NewFileModel model = {
+      .old = old ? &*old : nullptr,
+      // The mode may be why the old file could not be read.
+      .moreMode = keepOld ? mode_t{S_IRUSR | S_IWUSR} : mode_t{0}};
+  std::string fresh;
+  error = WriteNewFile(*file, content, model, &fresh);
+  if (error != 0) return error;
+  error = PutInPlace(fresh, *file, keepOld);
+  if (error != 0) {
+    unlink(fresh.c_str());
+    return error;
+  }
+  // The file is in its place: what fails from here on changes nothing.
+  const Descriptor folder = OpenFolderOf(*file);
+  if (folder.valid()) {
+    fsync(folder.get());
+    RemoveLeftovers(folder.get(), *file);
+  }
+  return 0;
 }
 
 }  // namespace
 
 bool ReplaceFile(const std::string &path, std::string_view content,
-                 bool keepOld) {
-  constexpr int kMaxMissingFolders = 3;
-  const SignalHold hold;
-  MakeFolders(path, kMaxMissingFolders);
-  const std::optional<std::string> file = FollowLinks(path);
-  if (!file) return false;
-
-  std::string fresh = *file + ".XXXXXX";
-  const Descriptor descriptor(mkostemp(fresh.data(), O_CLOEXEC));
-  if (!descriptor.valid()) return false;
-  struct stat old = {};
-  const bool replaces = stat(file->c_str(), &old) == 0 && S_ISREG(old.st_mode);
-  // The mode may be why the old file could not be read.
-  const mode_t moreMode = keepOld ? S_IRUSR | S_IWUSR : 0;
-  if (WriteAll(descriptor.get(), content) &&
-      (!replaces || TakeOver(descriptor.get(), old, moreMode)) &&
-      fsync(descriptor.get()) == 0 && PutInPlace(fresh, *file, keepOld)) {
-    return true;
-  }
-  unlink(fresh.c_str());
-  return false;
+                 bool keepOld, int *error) {
+  const OwnerIdentity identity(path);
+  const int reason = identity.good() ? Replace(path, content, keepOld) : EPERM;
+  if (error != nullptr) *error = reason;
+  return reason == 0;
 }
 
 }  // namespace ztk::platform

@@ -7,15 +7,18 @@
 
 namespace ztk::platform {
 
-// Replaces a file, so that a reader sees the old content or the new one: a new
-// file beside it takes its name. False when that cannot be done; then the old
-// file stands and nothing is left behind.
+// Replaces a file. A reader sees the old content or the new one: a complete new
+// file takes the name of the old one. False when that cannot be done; then the
+// old file is unchanged, nothing is left behind, and *error, where `error` is
+// not null, has the error number.
 //
-// A missing folder of the path is made, open to its owner only, and up to two
-// above it; a home directory is never made. A symbolic link stays, and the file
-// that it names is replaced, or made where there is none. An existing file
-// keeps its mode and, where the caller may set it, its owner; a new one is for
-// its owner only.
+// Only a regular file is replaced. A symbolic link stays, and the file that it
+// names is replaced, or created where there is none. A missing folder of the
+// path is created, open to its owner only, and up to two above it; a home
+// folder is never created. An existing file keeps its mode and, where the
+// caller may set it, its owner; a new one is for its owner only. When root
+// writes at a place of another user, it does so as that user
+// (owner_identity.h).
 //
 // With `keepOld` the old file is kept beside the new one under the first free
 // name of "<file>.unreadable-1", "-2" and so on to 1000; where that cannot be
@@ -23,9 +26,12 @@ namespace ztk::platform {
 // there first, and for a moment there is none. The new file can then be read by
 // its owner in any case.
 //
-// A process that may not write so large a file is not killed for it (SIGXFSZ).
+// Content and new name are on the disk when the function returns. What killed
+// programs have left of earlier replacements of this file is removed once it
+// is older than a day. A process that may not write so large a file is not
+// killed for it (SIGXFSZ).
 bool ReplaceFile(const std::string &path, std::string_view content,
-                 bool keepOld);
+                 bool keepOld, int *error = nullptr);
 
 }  // namespace ztk::platform
 

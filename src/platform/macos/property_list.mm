@@ -3,9 +3,22 @@
 // A Dictionary is an NSDictionary, a made one an NSMutableDictionary.
 #include "platform/property_list.h"
 
+#include <cerrno>
+#include <chrono>
+#include <optional>
+#include <string>
+
+#include "platform/common/file_access.h"
+#include "platform/common/file_change.h"
+#include "platform/common/pause.h"
 #include "platform/macos/foundation.h"
 
 namespace ztk::platform::property_list {
+
+struct Change {
+  FileChange change;
+};
+
 namespace {
 
 using macos::StringOf;
@@ -19,27 +32,86 @@ NSMutableDictionary *FilledOf(Dictionary *dictionary) {
   return (NSMutableDictionary *)dictionary;
 }
 
+std::string PathOf(ZTKTextRef path) {
+  const char *bytes = [StringOf(path) fileSystemRepresentation];
+  return bytes == nullptr ? "" : bytes;
+}
+
+// Why Foundation could not read the file as a dictionary. It does not say, so
+// the file is read once more: a file is damaged when two readings gave the same
+// bytes. One larger than any settings file is not read.
+ReadResult ReasonFor(ZTKTextRef path) {
+  constexpr std::size_t kLargest = std::size_t{1} << 20;
+  constexpr std::chrono::milliseconds kPause{8};
+  std::string first;
+  std::string second;
+  const std::string file = PathOf(path);
+  int error = ReadRegularFile(file.c_str(), kLargest, &first);
+  if (error == 0) {
+    Pause(kPause);
+    error = ReadRegularFile(file.c_str(), kLargest, &second);
+  }
+  if (error == ENOENT || error == ENOTDIR) {
+    return {.state = ReadState::Absent};
+  }
+  if (error == EFBIG || (error == 0 && first == second)) {
+    return {.state = ReadState::Damaged};
+  }
+  return {.state = ReadState::Unavailable, .error = error == 0 ? EBUSY : error};
+}
+
+// Reads the file into *entries, which belongs to the autorelease pool. A file
+// that does not parse may be one that another program is just writing over, so
+// it is tried again.
+ReadResult ReadEntries(ZTKTextRef path, NSDictionary **entries) {
+  constexpr int kAttempts = 3;
+  ReadResult result;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    *entries = [NSDictionary dictionaryWithContentsOfFile:StringOf(path)];
+    if (*entries != nil) return {.state = ReadState::Read};
+    result = ReasonFor(path);
+    if (result.error != EBUSY && result.state != ReadState::Damaged) break;
+  }
+  return result;
+}
+
 }  // namespace
 
 // Held twice: by the caller until Release(), and by the autorelease pool, so
-// that texts taken out of it live on until that drains.
-Dictionary *ReadFile(ZTKTextRef path) {
-  if (path == nullptr) return nullptr;
-  return (Dictionary *)[[NSDictionary
-      dictionaryWithContentsOfFile:StringOf(path)] retain];
+// that texts taken from it stay valid until the pool drains.
+ReadResult Read(ZTKTextRef path, Dictionary **dictionary) {
+  *dictionary = nullptr;
+  if (path == nullptr) return {};
+  NSDictionary *entries = nil;
+  const ReadResult result = ReadEntries(path, &entries);
+  *dictionary = (Dictionary *)[entries retain];
+  return result;
 }
+
+Dictionary *ReadFile(ZTKTextRef path) {
+  Dictionary *dictionary = nullptr;
+  Read(path, &dictionary);
+  return dictionary;
+}
+
+Change *BeginChange(ZTKTextRef path) {
+  if (path == nullptr) return nullptr;
+  return new Change{.change = FileChange(PathOf(path))};
+}
+
+void EndChange(Change *change) { delete change; }
 
 Dictionary *MakeDictionary() {
   return (Dictionary *)[[NSMutableDictionary alloc] initWithCapacity:1];
 }
 
-void AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
-  if (path == nullptr) return;
+ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
+  if (path == nullptr) return {};
   @autoreleasepool {
-    NSDictionary *entries =
-        [NSDictionary dictionaryWithContentsOfFile:StringOf(path)];
-    if (entries == nil) return;
-    [FilledOf(dictionary) addEntriesFromDictionary:entries];
+    NSDictionary *entries = nil;
+    const ReadResult result = ReadEntries(path, &entries);
+    if (entries != nil) [FilledOf(dictionary) addEntriesFromDictionary:entries];
+    return result;
   }
 }
 
@@ -73,7 +145,10 @@ ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key) {
   return TextOf(entry);
 }
 
-bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path) {
+bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
+                     int *error) {
+  // Foundation does not say why it could not write.
+  if (error != nullptr) *error = 0;
   if (path == nullptr) return false;
   @autoreleasepool {
     return [DictionaryOf(dictionary) writeToFile:StringOf(path) atomically:YES];

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+//
+// Small steps of file access that the platform layer and the programs share.
+#ifndef ZTK_PLATFORM_COMMON_FILE_ACCESS_H_
+#define ZTK_PLATFORM_COMMON_FILE_ACCESS_H_
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/common/descriptor.h"
+
+namespace ztk::platform {
+
+// The value of a variable of the environment when it is an absolute path, else
+// empty: a relative path would lead to wherever the program happens to run.
+std::string AbsolutePathFromEnvironment(const char *name);
+
+// The folder part of a path, with its slash at the end; empty for a bare name.
+std::string FolderOf(std::string_view path);
+
+// Opens the folder part of a path for reading, for flock() and fsync().
+Descriptor OpenFolderOf(const std::string &path);
+
+// Where the path leads when the symbolic links at its end are followed, even
+// when there is no file yet. Nothing, with errno set, for a loop of links.
+std::optional<std::string> FollowLinks(std::string path);
+
+// A settings file lies at most this many new folders below an existing one:
+// ".config", the maker's folder and "Preferences". A missing home folder is
+// above these and is never created.
+inline constexpr int kMaxMissingFolders = 3;
+
+// Creates the folder that the path lies in, for its owner only, together with
+// missing folders above it, at most `levels` folders in all. Does not report a
+// failure: creating a file in the folder fails then.
+void MakeFolders(std::string_view path, int levels);
+
+// Writes everything, however many calls it takes. False, with errno set, on an
+// error.
+bool WriteAll(int descriptor, std::string_view content);
+
+// Reads a regular file of at most `limit` bytes. Does not wait for the other
+// end of a pipe. Answers 0 on success, else the error number: ENOENT or ENOTDIR
+// when there is no file, EFBIG when it is larger, EBUSY when its size changed
+// meanwhile, EINVAL when it is no regular file.
+//
+// `flags` are added to those of open(), for example O_NOFOLLOW.
+int ReadRegularFile(const char *path, std::size_t limit, std::string *content,
+                    int flags = 0);
+
+}  // namespace ztk::platform
+
+#endif  // ZTK_PLATFORM_COMMON_FILE_ACCESS_H_

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "platform/common/file_change.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <cerrno>
+#include <optional>
+
+#include "platform/common/file_access.h"
+#include "platform/common/pause.h"
+
+namespace ztk::platform {
+
+bool LockExclusively(int descriptor, std::chrono::milliseconds patience) {
+  using std::chrono::steady_clock;
+  // Short, because the time between two changes of a busy process is short.
+  constexpr std::chrono::microseconds kPause{300};
+  if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) return true;
+  const auto end = steady_clock::now() + patience;
+  while (errno == EWOULDBLOCK || errno == EINTR) {
+    if (steady_clock::now() >= end) {
+      errno = EWOULDBLOCK;
+      return false;
+    }
+    Pause(kPause);
+    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) return true;
+  }
+  return false;
+}
+
+FileChange::FileChange(const std::string &path) : identity_(path) {
+  constexpr std::chrono::milliseconds kPatience{1000};
+  if (!identity_.good()) return;
+  MakeFolders(path, kMaxMissingFolders);
+  // Two paths may lead to one file: the folder of the file itself is locked.
+  const std::optional<std::string> file = FollowLinks(path);
+  if (!file) return;
+  folder_ = OpenFolderOf(*file);
+  locked_ = folder_.valid() && LockExclusively(folder_.get(), kPatience);
+}
+
+// Unlocking ends the lock also where a child process has a copy of the
+// descriptor.
+FileChange::~FileChange() {
+  if (locked_) flock(folder_.get(), LOCK_UN);
+}
+
+}  // namespace ztk::platform

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_PLATFORM_COMMON_SIGNAL_HOLD_H_
+#define ZTK_PLATFORM_COMMON_SIGNAL_HOLD_H_
+
+#include <signal.h>
+
+namespace ztk::platform {
+
+// Holds signals back from this thread while it lives: those that ask a program
+// to end, so that no unfinished file is left behind, and the one that a write
+// raises when a file may not grow. The latter is removed, because by default it
+// ends the process; the others arrive afterwards.
+class SignalHold {
+ public:
+  SignalHold() {
+    sigset_t held;
+    sigemptyset(&held);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGXFSZ}) {
+      sigaddset(&held, signal);
+    }
+    wasPending_ = FileSizeSignalIsPending();
+    held_ = pthread_sigmask(SIG_BLOCK, &held, &before_) == 0;
+  }
+  ~SignalHold() {
+    if (!held_) return;
+    if (!wasPending_ && FileSizeSignalIsPending()) {
+      sigset_t fileSize;
+      sigemptyset(&fileSize);
+      sigaddset(&fileSize, SIGXFSZ);
+      // A write raises it in this thread, where it is held: no wait.
+      int taken = 0;
+      sigwait(&fileSize, &taken);
+    }
+    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+  }
+  SignalHold(const SignalHold &) = delete;
+  SignalHold &operator=(const SignalHold &) = delete;
+
+ private:
+  static bool FileSizeSignalIsPending() {
+    sigset_t pending;
+    return sigpending(&pending) == 0 && sigismember(&pending, SIGXFSZ) == 1;
+  }
+
+  sigset_t before_;
+  bool wasPending_ = false;
+  bool held_ = false;
+};
+
+}  // namespace ztk::platform
+
+#endif  // ZTK_PLATFORM_COMMON_SIGNAL_HOLD_H_

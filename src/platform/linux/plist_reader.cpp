@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/plist_reader.h"
+
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/common/file_access.h"
+#include "platform/common/pause.h"
+#include "platform/linux/c_locale.h"
+#include "platform/linux/clean_text.h"
+#include "platform/linux/plist_guards.h"
+#include "platform/linux/plist_xml_text.h"
+
+namespace ztk::platform::property_list {
+namespace {
+
+// Copies a tree and cleans its texts and keys.
+class CleanCopy {
+ public:
+  // The guards bound the depth of this recursion.
+  plist_t Of(plist_t node) {
+    switch (plist_get_node_type(node)) {
+      case PLIST_STRING: {
+        std::uint64_t length = 0;
+        const char *text = plist_get_string_ptr(node, &length);
+        return plist_new_string(Clean({text, length}).c_str());
+      }
+      case PLIST_ARRAY:
+        return OfArray(node);
+      case PLIST_DICT:
+        return OfDictionary(node);
+      default:
+        return plist_copy(node);
+    }
+  }
+
+  bool incomplete() const { return incomplete_; }
+
+ private:
+  std::string Clean(std::string_view text) {
+    std::string clean = CleanText(text);
+    incomplete_ = incomplete_ || clean != text;
+    return clean;
+  }
+
+  plist_t OfArray(plist_t array) {
+    plist_t copy = plist_new_array();
+    plist_array_iter position = nullptr;
+    plist_array_new_iter(array, &position);
+    plist_t item = nullptr;
+    for (plist_array_next_item(array, position, &item); item != nullptr;
+         plist_array_next_item(array, position, &item)) {
+      plist_array_append_item(copy, Of(item));
+    }
+    std::free(position);
+    return copy;
+  }
+
+  // Of two keys that are the same once cleaned, the later one stays.
+  plist_t OfDictionary(plist_t dictionary) {
+    plist_t copy = plist_new_dict();
+    plist_dict_iter position = nullptr;
+    plist_dict_new_iter(dictionary, &position);
+    for (;;) {
+      char *key = nullptr;
+      plist_t value = nullptr;
+      plist_dict_next_item(dictionary, position, &key, &value);
+      if (key == nullptr) break;
+      plist_dict_set_item(copy, Clean(key).c_str(), Of(value));
+      std::free(key);
+    }
+    std::free(position);
+    return copy;
+  }
+
+  bool incomplete_ = false;
+};
+
+// The parsed root, owned by the caller, or null.
+plist_t Parse(std::string_view bytes) {
+  const ScopedCLocale cLocale;
+  plist_t root = nullptr;
+  if (IsBinary(bytes)) {
+    if (!IsSafeBinary(bytes)) return nullptr;
+    plist_from_bin(bytes.data(), static_cast<std::uint32_t>(bytes.size()),
+                   &root);
+    return root;
+  }
+  std::optional<std::string> xml = Utf8Xml(bytes);
+  if (!xml || !IsSafeXml(*xml)) return nullptr;
+  MakeIntegersDecimal(&*xml);
+  plist_from_xml(xml->data(), static_cast<std::uint32_t>(xml->size()), &root);
+  return root;
+}
+
+// The content of a file whose bytes are these. libplist does not report that
+// memory has run out, and leaves out what it had none for: errno tells.
+FileContent ContentOf(std::string_view bytes) {
+  FileContent content = {.result = {.state = ReadState::Damaged}};
+  errno = 0;
+  plist_t parsed = Parse(bytes);
+  if (plist_get_node_type(parsed) == PLIST_DICT) {
+    CleanCopy copy;
+    content.result.state = ReadState::Read;
+    content.root = copy.Of(parsed);
+    content.incomplete = copy.incomplete();
+  }
+  const bool outOfMemory = errno == ENOMEM;
+  plist_free(parsed);
+  if (!outOfMemory) return content;
+  plist_free(content.root);
+  return {.result = {.state = ReadState::Unavailable, .error = ENOMEM}};
+}
+
+ReadResult ResultOf(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+      return {.state = ReadState::Absent};
+    case EFBIG:
+      return {.state = ReadState::Damaged};
+    default:
+      return {.state = ReadState::Unavailable, .error = error};
+  }
+}
+
+}  // namespace
+
+FileContent ReadContent(const char *path) {
+  constexpr int kAttempts = 4;
+  constexpr std::chrono::milliseconds kPause{8};
+  std::string bytes;
+  std::optional<std::string> before;
+  bool same = false;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    if (attempt > 0) Pause(kPause);
+    const int error = ReadRegularFile(path, kMaxFileSize, &bytes);
+    if (error == EBUSY) {
+      before.reset();
+      same = false;
+      continue;
+    }
+    if (error != 0) return {.result = ResultOf(error)};
+    const FileContent content = ContentOf(bytes);
+    if (content.result.state != ReadState::Damaged) return content;
+    same = before == bytes;
+    before = bytes;
+  }
+  return {.result =
+              same ? ReadResult{.state = ReadState::Damaged} : ResultOf(EBUSY)};
+}
+
+}  // namespace ztk::platform::property_list

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_PLATFORM_LINUX_PLIST_READER_H_
+#define ZTK_PLATFORM_LINUX_PLIST_READER_H_
+
+#include <plist/plist.h>
+
+#include "platform/property_list.h"
+
+namespace ztk::platform::property_list {
+
+// What a file holds. Its texts and keys are cleaned of what XML cannot hold, so
+// that neither a caller nor a written file meets it.
+struct FileContent {
+  ReadResult result;
+  // The dictionary when the file was read, else null. Owned by the caller.
+  plist_t root = nullptr;
+  // A character was replaced by U+FFFD: the file has more than `root`.
+  bool incomplete = false;
+};
+
+// Reads a file. One that does not parse may be a file that another program is
+// just writing over; it is read again after short pauses, and counts as damaged
+// only when the last two readings gave the same bytes.
+FileContent ReadContent(const char *path);
+
+}  // namespace ztk::platform::property_list
+
+#endif  // ZTK_PLATFORM_LINUX_PLIST_READER_H_

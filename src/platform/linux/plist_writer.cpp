@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/plist_writer.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "platform/linux/c_locale.h"
+
+namespace ztk::platform::property_list {
+namespace {
+
+// A date in the form that strict readers accept: the year has four digits, to
+// which libplist does not pad it. A date after the year 9999 becomes the latest
+// one; a text that is no date, because the file that was read had none there,
+// becomes the earliest one.
+std::string StrictDate(std::string_view date) {
+  constexpr std::string_view kEarliest = "0001-01-01T00:00:00Z";
+  constexpr std::string_view kLatest = "9999-12-31T23:59:59Z";
+  constexpr std::size_t kYearDigits = 4;
+  const std::size_t year =
+      std::min(date.find_first_not_of("0123456789"), date.size());
+  if (year > kYearDigits) return std::string(kLatest);
+  const std::string strict =
+      std::string(kYearDigits - year, '0') + std::string(date);
+  const bool good = strict.size() == kEarliest.size() && strict >= kEarliest;
+  return good ? strict : std::string(kEarliest);
+}
+
+// No text is mistaken for an element: "<" is written as "&lt;" in texts.
+void MakeDatesStrict(std::string *xml) {
+  constexpr std::string_view kOpen = "<date>";
+  constexpr std::string_view kClose = "</date>";
+  constexpr std::string_view kEmpty = "<date/>";
+  std::size_t at = 0;
+  while ((at = xml->find("<date", at)) != std::string::npos) {
+    const bool empty = xml->compare(at, kEmpty.size(), kEmpty) == 0;
+    const std::size_t begin = at + kOpen.size();
+    const std::size_t end =
+        empty ? at + kEmpty.size() : xml->find(kClose, begin) + kClose.size();
+    const std::string strict = empty ? StrictDate("")
+                                     : StrictDate(std::string_view(*xml).substr(
+                                           begin, end - kClose.size() - begin));
+    const std::string element =
+        std::string(kOpen) + strict + std::string(kClose);
+    xml->replace(at, end - at, element);
+    at += element.size();
+  }
+}
+
+}  // namespace
+
+// libplist does not report that memory has run out: errno tells.
+std::string MakeXml(plist_t root) {
+  const ScopedCLocale cLocale;
+  errno = 0;
+  char *made = nullptr;
+  std::uint32_t length = 0;
+  plist_to_xml(root, &made, &length);
+  if (made == nullptr) return "";
+  const bool complete = errno != ENOMEM;
+  std::string xml(made, complete ? length : 0);
+  std::free(made);
+  MakeDatesStrict(&xml);
+  return xml;
+}
+
+}  // namespace ztk::platform::property_list

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/plist_xml_text.h"
+
+#include <iconv.h>
+
+#include <algorithm>
+#include <cstddef>
+
+#include "platform/linux/plist_guards.h"
+
+namespace ztk::platform::property_list {
+namespace {
+
+using std::string_view;
+
+constexpr string_view kWhiteSpace = " \t\r\n";
+
+// What editors write property lists in. Only these are given to iconv(), whose
+// other converters have had faults that a file could use.
+struct Encoding {
+  string_view declared;  // upper case, as in an XML declaration
+  const char *converter;
+};
+constexpr Encoding kEncodings[] = {
+    {.declared = "ISO-8859-1", .converter = "ISO-8859-1"},
+    {.declared = "LATIN1", .converter = "ISO-8859-1"},
+    {.declared = "ISO-8859-15", .converter = "ISO-8859-15"},
+    {.declared = "WINDOWS-1252", .converter = "CP1252"},
+};
+
+// Marks and first characters of the two orders of bytes in UTF-16.
+struct Utf16Order {
+  string_view mark;
+  string_view begin;
+  const char *converter;
+};
+constexpr Utf16Order kUtf16Orders[] = {
+    {.mark = {"\xFF\xFE", 2}, .begin = {"<\0", 2}, .converter = "UTF-16LE"},
+    {.mark = {"\xFE\xFF", 2}, .begin = {"\0<", 2}, .converter = "UTF-16BE"},
+};
+
+// Nothing when the system has no such converter, or the bytes do not convert
+// to at most twice the size of a file.
+std::optional<std::string> Convert(string_view bytes, const char *converter) {
+  const iconv_t conversion = iconv_open("UTF-8", converter);
+  if (conversion == reinterpret_cast<iconv_t>(-1)) return std::nullopt;
+  // No character of these encodings takes more than three bytes for one.
+  std::string text(3 * bytes.size(), '\0');
+  char *from = const_cast<char *>(bytes.data());
+  std::size_t fromLeft = bytes.size();
+  char *to = text.data();
+  std::size_t toLeft = text.size();
+  const std::size_t result = iconv(conversion, &from, &fromLeft, &to, &toLeft);
+  iconv_close(conversion);
+  if (result != 0 || fromLeft != 0) return std::nullopt;
+  text.resize(text.size() - toLeft);
+  return text;
+}
+
+// The value of `encoding` in the XML declaration, in upper case; empty where
+// there is none.
+std::string DeclaredEncoding(string_view bytes) {
+  constexpr string_view kKeyword = "encoding";
+  if (!bytes.starts_with("<?xml")) return "";
+  const string_view declaration = bytes.substr(0, bytes.find("?>"));
+  const std::size_t keyword = declaration.find(kKeyword);
+  if (keyword == string_view::npos) return "";
+  const std::size_t begin =
+      declaration.find_first_of("\"'", keyword + kKeyword.size());
+  if (begin == string_view::npos) return "";
+  const std::size_t end = declaration.find(declaration[begin], begin + 1);
+  if (end == string_view::npos) return "";
+  std::string name(declaration.substr(begin + 1, end - begin - 1));
+  std::transform(name.begin(), name.end(), name.begin(), [](char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+  });
+  return name;
+}
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// The number of zeros to remove from the front of a number, and where they
+// begin. The last digit stays.
+std::size_t LeadingZeros(string_view text, std::size_t *begin) {
+  std::size_t at = std::min(text.find_first_not_of(kWhiteSpace), text.size());
+  if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
+  *begin = at;
+  while (at + 1 < text.size() && text[at] == '0' && IsDigit(text[at + 1])) ++at;
+  return at - *begin;
+}
+
+}  // namespace
+
+std::optional<std::string> Utf8Xml(string_view bytes) {
+  constexpr string_view kUtf8Mark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(kUtf8Mark)) {
+    return std::string(bytes.substr(kUtf8Mark.size()));
+  }
+  for (const Utf16Order &order : kUtf16Orders) {
+    if (bytes.starts_with(order.mark)) {
+      return Convert(bytes.substr(order.mark.size()), order.converter);
+    }
+    if (bytes.starts_with(order.begin)) return Convert(bytes, order.converter);
+  }
+  const std::string declared = DeclaredEncoding(bytes);
+  if (declared.empty() || declared == "UTF-8" || declared == "UTF8" ||
+      declared == "US-ASCII" || declared == "ASCII") {
+    return std::string(bytes);
+  }
+  for (const Encoding &encoding : kEncodings) {
+    if (encoding.declared == declared) {
+      return Convert(bytes, encoding.converter);
+    }
+  }
+  return std::nullopt;
+}
+
+void MakeIntegersDecimal(std::string *xml) {
+  constexpr string_view kSections[][2] = {{"<!--", "-->"},
+                                          {"<![CDATA[", "]]>"}};
+  constexpr string_view kElement = "<integer";
+  std::size_t at = 0;
+  while ((at = xml->find('<', at)) != std::string::npos) {
+    const string_view rest = string_view(*xml).substr(at);
+    std::size_t length = 1;
+    for (const auto &[open, close] : kSections) {
+      if (rest.starts_with(open)) length = rest.find(close, open.size());
+    }
+    const std::size_t end = rest.find('>');
+    if (rest.starts_with(kElement) && end != string_view::npos) {
+      const string_view number = rest.substr(end + 1);
+      std::size_t begin = 0;
+      const std::size_t zeros = LeadingZeros(number, &begin);
+      xml->erase(at + end + 1 + begin, zeros);
+    }
+    at += length;
+  }
+}
+
+}  // namespace ztk::platform::property_list
