@@ -22,7 +22,9 @@ else()
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
       COMPONENT library NAMELINK_COMPONENT development)
 endif()
-install(FILES ${PROJECT_SOURCE_DIR}/include/ZTKFunc.h
+install(FILES
+    ${PROJECT_SOURCE_DIR}/include/ZTKFunc.h
+    ${PROJECT_SOURCE_DIR}/include/ZTKOutcome.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 
 # Programs find the library relative to their own folder, so that the installation

@@ -38,10 +38,10 @@ ZTKResult ZTK_GetBoostLevelText(uint32_t productId, uint32_t index,
 }
 
 ZTKResult ZTK_SetBoostLevelIndex(uint32_t productId, uint32_t index) {
+  outcome::Begin();
   if (!kSettableFor.Has(productId) || index >= kChoices) return ZTK_REJECTED;
 
-  usb::SendToEveryMixer(productId, SetUSBOutputLevelSetting,
-                        DeviceValue(index));
+  usb::SendToEveryMixer(productId, kWriteRegister, DeviceValue(index));
   store::Write(kModel, kKey, index);
   notify::PostIndex(notify::kBoostLevel, &boostLevelInfo, productId, index);
   return ZTK_SUCCESS;
@@ -49,6 +49,7 @@ ZTKResult ZTK_SetBoostLevelIndex(uint32_t productId, uint32_t index) {
 
 ZTKResult ZTK_GetCurrentBoostLevelIndex(uint32_t productId,
                                         uint32_t *outIndex) {
+  outcome::Begin();
   if (outIndex == nullptr || !kSettableFor.Has(productId)) return ZTK_REJECTED;
 
   *outIndex =
@@ -61,7 +62,6 @@ ZTKResult ZTK_SetCurrentBoostLevelIndex(uint32_t productId) {
   const ZTKResult remembered = ZTK_GetCurrentBoostLevelIndex(productId, &index);
   if (remembered != ZTK_SUCCESS || !CanBeResent(index)) return ZTK_REJECTED;
 
-  usb::SendToEveryMixer(productId, SetUSBOutputLevelSetting,
-                        DeviceValue(index));
+  usb::SendToEveryMixer(productId, kWriteRegister, DeviceValue(index));
   return ZTK_SUCCESS;
 }

@@ -108,11 +108,9 @@ ZTKResult WarnIfInaudible(std::int32_t mixers, std::uint32_t channel,
   }
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply reply;
-    {
-      const usb::OpenMixer mixer(i);
-      if (!mixer) continue;
-      GetInputSelectorInfo(mixer.connection(), reply.bytes,
-                           kSelectorInfoLength);
+    if (!usb::ReadFromMixer(i, usb::kInputSelectorRegister, &reply,
+                            kSelectorInfoLength)) {
+      continue;
     }
     if (choice < warnsBelow.withMixer &&
         reply.bytes[channel + 1] != kAudiblePosition) {
@@ -147,12 +145,13 @@ ZTKResult ZTK_GetUSBInputAudioText(uint32_t productId, int32_t channel,
 
 ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
                                uint32_t index) {
+  outcome::Begin();
   if (!kServed.Has(productId)) return ZTK_REJECTED;
   if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
   if (index >= BoundsOf(channel).setBelow) return ZTK_REJECTED;
 
   const std::int32_t mixers = usb::SendToEveryMixer(
-      productId, SetMixerOutputSetting, DeviceValue(channel, index));
+      productId, kWriteRegister, DeviceValue(channel, index));
   store::WriteChannel(kModel, kKeyFormat, channel, index);
   notify::PostChannelIndex(notify::kInputAudio, &inputAudioInfo, productId,
                            channel, index);
@@ -161,17 +160,19 @@ ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
 
 ZTKResult ZTK_SetUSBInputAudioDirect(uint32_t productId, uint32_t channel,
                                      uint32_t high, uint32_t source) {
+  outcome::Begin();
   if (!kServed.Has(productId)) return ZTK_REJECTED;
   if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
   if (source >= kSources) return ZTK_REJECTED;
 
   const std::int32_t mixers = usb::SendToEveryMixer(
-      productId, SetMixerOutputSetting, DirectValue(channel, high, source));
+      productId, kWriteRegister, DirectValue(channel, high, source));
   return WarnIfInaudible(mixers, channel, source, kSourceWarnsBelow);
 }
 
 ZTKResult ZTK_GetCurrentUSBInputAudioIndex(uint32_t productId, int32_t channel,
                                            uint32_t *outIndex) {
+  outcome::Begin();
   if (outIndex == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
   const auto row = static_cast<std::uint32_t>(channel);
   if (!IsChannel(row, kRememberedChannels)) return ZTK_REJECTED;
@@ -191,7 +192,6 @@ ZTKResult ZTK_SetCurrentUSBInputAudio(uint32_t productId, uint32_t channel) {
   if (remembered != ZTK_SUCCESS) return ZTK_REJECTED;
   if (!CanBeResent(channel, index)) return ZTK_REJECTED;
 
-  usb::SendToEveryMixer(productId, SetMixerOutputSetting,
-                        DeviceValue(channel, index));
+  usb::SendToEveryMixer(productId, kWriteRegister, DeviceValue(channel, index));
   return ZTK_SUCCESS;
 }

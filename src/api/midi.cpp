@@ -40,9 +40,10 @@ ZTKResult ZTK_GetMidiChannelText(uint32_t productId, uint32_t index,
 }
 
 ZTKResult ZTK_SetMidiChannelIndex(uint32_t productId, uint32_t index) {
+  outcome::Begin();
   if (!kServed.Has(productId) || index >= kChoices) return ZTK_REJECTED;
 
-  usb::SendToEveryMixer(productId, SetMidiChannelSetting, DeviceValue(index));
+  usb::SendToEveryMixer(productId, kWriteRegister, DeviceValue(index));
   store::Write(kModel, kKey, index);
   notify::PostIndex(notify::kMidiChannel, &midiChannelInfo, productId, index);
   return ZTK_SUCCESS;
@@ -50,6 +51,7 @@ ZTKResult ZTK_SetMidiChannelIndex(uint32_t productId, uint32_t index) {
 
 ZTKResult ZTK_GetCurrentMidiChannelIndex(uint32_t productId,
                                          uint32_t *outIndex) {
+  outcome::Begin();
   if (outIndex == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
 
   *outIndex =
@@ -63,7 +65,7 @@ ZTKResult ZTK_SetCurrentMidiChannelIndex(uint32_t productId) {
       ZTK_GetCurrentMidiChannelIndex(productId, &index);
   if (remembered != ZTK_SUCCESS || !CanBeResent(index)) return ZTK_REJECTED;
 
-  usb::SendToEveryMixer(productId, SetMidiChannelSetting, DeviceValue(index));
+  usb::SendToEveryMixer(productId, kWriteRegister, DeviceValue(index));
   return ZTK_SUCCESS;
 }
 

@@ -42,8 +42,8 @@ namespace {
 // none. Answers the count of mixers, which is taken in either case.
 std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
                         std::uint32_t index) {
-  if (!HasDeviceValue(channel, index)) return CheckUSBAudio(productId);
-  return usb::SendToEveryMixer(productId, SetMixerInputSetting,
+  if (!HasDeviceValue(channel, index)) return usb::CountMixers(productId);
+  return usb::SendToEveryMixer(productId, kWriteRegister,
                                DeviceValue(channel, index));
 }
 
@@ -51,10 +51,8 @@ std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
 void ReadSelectors(std::int32_t mixers) {
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply unused;
-    if (const usb::OpenMixer mixer(i); mixer) {
-      GetInputSelectorInfo(mixer.connection(), unused.bytes,
-                           kSelectorInfoLength);
-    }
+    usb::ReadFromMixer(i, usb::kInputSelectorRegister, &unused,
+                       kSelectorInfoLength);
   }
 }
 
@@ -82,6 +80,7 @@ ZTKResult ZTK_GetUSBOutputAudioText(uint32_t productId, uint32_t channel,
 
 ZTKResult ZTK_SetUSBOutputAudio(uint32_t productId, uint32_t channel,
                                 uint32_t index) {
+  outcome::Begin();
   if (!IsChannel(channel, kSettableChannels)) return ZTK_REJECTED;
   if (!kServed.Has(productId) || index >= kChoices) return ZTK_REJECTED;
 
@@ -94,6 +93,7 @@ ZTKResult ZTK_SetUSBOutputAudio(uint32_t productId, uint32_t channel,
 }
 
 ZTKResult ZTK_SetUSBOutputAudioDefault(uint32_t productId, uint32_t channel) {
+  outcome::Begin();
   if (!IsChannel(channel, kSettableChannels)) return ZTK_REJECTED;
   if (!kServed.Has(productId)) return ZTK_REJECTED;
 
@@ -109,6 +109,7 @@ ZTKResult ZTK_SetUSBOutputAudioDefault(uint32_t productId, uint32_t channel) {
 ZTKResult ZTK_GetCurrentUSBOutputAudioIndex(uint32_t productId,
                                             uint32_t channel,
                                             uint32_t *outIndex) {
+  outcome::Begin();
   if (outIndex == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
   if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
 

@@ -5,7 +5,7 @@
 
 #include "ZTKFunc.h"
 #include "platform/text.h"
-#include "usb/USB.h"
+#include "usb/mixers.h"
 
 using namespace ztk;
 using ztk::product::kModels;
@@ -24,5 +24,6 @@ ZTKResult ZTK_GetProductId(ZTKTextRef name, uint32_t *outId) {
 }
 
 ZTKResult ZTK_IsUSBConnection(uint32_t productId) {
-  return CheckUSBAudio(productId) > 0 ? ZTK_CONNECTED : ZTK_NOT_CONNECTED;
+  outcome::Begin();
+  return usb::CountMixers(productId) > 0 ? ZTK_CONNECTED : ZTK_NOT_CONNECTED;
 }

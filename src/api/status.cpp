@@ -14,28 +14,19 @@ namespace {
 // A read that delivers nothing must not look like a state.
 constexpr std::uint8_t kNoSeratoAnswer = 0xFF;
 
-using ReadRequest = usb::Code (*)(usb::Connection device, std::uint8_t *buffer,
-                                  std::uint16_t length);
-
-// Reads from one mixer into the preset reply; false when it does not open.
-bool Ask(std::int32_t position, ReadRequest request, usb::Reply *reply,
-         std::uint16_t length) {
-  const usb::OpenMixer mixer(position);
-  if (!mixer) return false;
-  request(mixer.connection(), reply->bytes, length);
-  return true;
-}
-
 }  // namespace
 
 ZTKResult ZTK_GetMixerCertifyLevel(uint32_t productId, uint32_t *outLevel) {
+  outcome::Begin();
   if (outLevel == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
 
   *outLevel = 0;
-  const std::int32_t mixers = CheckUSBAudio(productId);
+  const std::int32_t mixers = usb::CountMixers(productId);
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply reply;
-    if (!Ask(i, GetCertifyLevel, &reply, kCertifyLevelLength)) continue;
+    if (!usb::ReadFromMixer(i, usb::kCertifyLevelRegister, &reply,
+                            kCertifyLevelLength))
+      continue;
     *outLevel = BigEndian32(reply.bytes);
   }
   return ZTK_SUCCESS;
@@ -43,15 +34,17 @@ ZTKResult ZTK_GetMixerCertifyLevel(uint32_t productId, uint32_t *outLevel) {
 
 ZTKResult ZTK_GetFirmwareVersionIndex(uint32_t productId,
                                       uint32_t *outVersion) {
+  outcome::Begin();
   if (outVersion == nullptr) return ZTK_REJECTED;
   // Deliberate: written before the product is looked at.
   *outVersion = 0;
   if (!kServed.Has(productId)) return ZTK_REJECTED;
 
-  if (CheckUSBAudio(productId) == 0) return ZTK_SUCCESS;
+  if (usb::CountMixers(productId) == 0) return ZTK_SUCCESS;
   // Deliberate: only the first mixer is asked.
   usb::Reply reply;
-  if (Ask(0, GetFirmwareVersionNumber, &reply, kFirmwareVersionLength)) {
+  if (usb::ReadFromMixer(0, usb::kFirmwareVersionRegister, &reply,
+                         kFirmwareVersionLength)) {
     *outVersion = LittleEndian16(reply.bytes);
   }
   return ZTK_SUCCESS;
@@ -59,13 +52,16 @@ ZTKResult ZTK_GetFirmwareVersionIndex(uint32_t productId,
 
 ZTKResult ZTK_GetMixerInputSelectorStatus(uint32_t productId, uint32_t channel,
                                           uint32_t *outPosition) {
+  outcome::Begin();
   if (outPosition == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
   if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
 
-  const std::int32_t mixers = CheckUSBAudio(productId);
+  const std::int32_t mixers = usb::CountMixers(productId);
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply reply;
-    if (!Ask(i, GetInputSelectorInfo, &reply, kSelectorInfoLength)) continue;
+    if (!usb::ReadFromMixer(i, usb::kInputSelectorRegister, &reply,
+                            kSelectorInfoLength))
+      continue;
     *outPosition = reply.bytes[channel + 1];
     if (*outPosition >= kSelectorPositions) return ZTK_REJECTED;
   }
@@ -74,12 +70,15 @@ ZTKResult ZTK_GetMixerInputSelectorStatus(uint32_t productId, uint32_t channel,
 
 ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
                                          uint32_t *outActive) {
+  outcome::Begin();
   if (outActive == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
 
-  const std::int32_t mixers = CheckUSBAudio(productId);
+  const std::int32_t mixers = usb::CountMixers(productId);
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply reply{.bytes = {kNoSeratoAnswer, kNoSeratoAnswer}};
-    if (!Ask(i, GetSeratoActiveInfo, &reply, kSeratoActiveLength)) continue;
+    if (!usb::ReadFromMixer(i, usb::kSeratoActiveRegister, &reply,
+                            kSeratoActiveLength))
+      continue;
     if (reply.bytes[0] >= kSeratoStates) return ZTK_REJECTED;
     *outActive = reply.bytes[0];
   }

@@ -4,6 +4,7 @@
 #include "ZTKFunc.h"
 #include "api/install_location.h"
 #include "api/product_set.h"
+#include "outcome/outcome.h"
 #include "platform/property_list.h"
 
 using namespace ztk;
@@ -48,22 +49,26 @@ ZTKResult ReadVersion(ZTKTextRef file, ZTKTextRef key, ZTKTextRef *outText) {
 }  // namespace
 
 ZTKResult ZTK_GetPkgVersionText(uint32_t productId, ZTKTextRef *outText) {
+  outcome::Begin();
   if (outText == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
   return ReadVersion(kPkgFile, kPkgKey, outText);
 }
 
 ZTKResult ZTK_GetDriverVersionText(uint32_t productId, ZTKTextRef *outText) {
+  outcome::Begin();
   if (outText == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
   return ReadVersion(IsInstalledInLibrary() ? kNewDriverFile : kOldDriverFile,
                      kDriverKey, outText);
 }
 
 ZTKResult ZTK_GetUtilityVersionText(uint32_t productId, ZTKTextRef *outText) {
+  outcome::Begin();
   if (outText == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
   return ReadVersion(kUtilityFile, kBundleKey, outText);
 }
 
 ZTKResult ZTK_GetLibraryVersionText(uint32_t productId, ZTKTextRef *outText) {
+  outcome::Begin();
   if (outText == nullptr || !kServed.Has(productId)) return ZTK_REJECTED;
   return ReadVersion(IsInstalledInLibrary() ? kNewLibraryFile : kOldLibraryFile,
                      kBundleKey, outText);

@@ -29,9 +29,7 @@ constexpr std::uint8_t kOtherPort = 1;
 // does not answer does not say so.
 bool IsOnOtherPort() {
   usb::Reply reply;
-  if (const usb::OpenMixer mixer(0); mixer) {
-    GetPortInfo(mixer.connection(), reply.bytes, kPortInfoLength);
-  }
+  usb::ReadFromMixer(0, usb::kPortInfoRegister, &reply, kPortInfoLength);
   // Low byte first.
   return reply.bytes[0] == kOtherPort && reply.bytes[1] == 0;
 }
@@ -56,13 +54,14 @@ ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
                                                 uint32_t resultCode,
                                                 uint32_t language,
                                                 ZTKTextRef *outText) {
+  outcome::Begin();
   if (!kServed.Has(productId)) return ZTK_REJECTED;
   if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
   if (resultCode != ZTK_WARNING) return ZTK_REJECTED;
 
   // Deliberate: a mixer that is counted and does not open is still there.
   ZTKTextRef key = kNoMixer;
-  if (CheckUSBAudio(productId) != 0) {
+  if (usb::CountMixers(productId) != 0) {
     key = IsOnOtherPort() ? kSelectorOtherPort : kSelector;
   }
   // Deliberate: known to be none only now.

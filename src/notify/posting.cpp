@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "outcome/outcome.h"
 #include "platform/text.h"
 
 namespace ztk::notify {
@@ -15,6 +16,18 @@ Entry Number(ZTKTextRef key, std::uint32_t value) {
   return {.key = key, .value = static_cast<std::int32_t>(value)};
 }
 
+std::uint32_t ResultOf(center::Handover handover) {
+  switch (handover) {
+    case center::Handover::Sent:
+      return ZTK_ANNOUNCEMENT_SENT;
+    case center::Handover::NoCenter:
+      return ZTK_ANNOUNCEMENT_NO_BUS;
+    case center::Handover::Failed:
+      break;
+  }
+  return ZTK_ANNOUNCEMENT_FAILED;
+}
+
 void Post(const AnnouncedSetting &family, UserInfo **lastInfo,
           const Entry *entries, std::size_t count) {
   center::Release(*lastInfo);
@@ -22,7 +35,9 @@ void Post(const AnnouncedSetting &family, UserInfo **lastInfo,
 
   const platform::text::Made name(
       platform::text::Format(family.nameFormat, family.postedModel));
-  center::Post(name.get(), *lastInfo, family.delivery);
+  const center::PostResult result =
+      center::Post(name.get(), *lastInfo, family.delivery);
+  outcome::Announced(ResultOf(result.handover), result.systemCode);
 }
 
 }  // namespace

@@ -32,9 +32,17 @@ enum class Delivery {
   Immediately  // asks for delivery even then
 };
 
+// Whether a notification was handed to the center. A center that does not tell
+// counts as one that took it.
+enum class Handover { Sent, NoCenter, Failed };
+struct PostResult {
+  Handover handover = Handover::Sent;
+  std::int32_t systemCode = 0;  // errno of a failure; 0 if there is none
+};
+
 // Sends to every observer of the name, with no sender object. The port takes
 // its own hold of the record for as long as it needs it.
-void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery);
+PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery);
 
 // A method of the observer: its name, for centers that call by name, and its
 // code, for those that call directly.

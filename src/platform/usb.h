@@ -21,8 +21,18 @@ inline constexpr Code kNoDevice = 0xE00002C0;
 inline constexpr Code kExclusiveAccess = 0xE00002C5;
 inline constexpr Code kBusy = 0xE00002D5;
 inline constexpr Code kTimeout = 0xE00002D6;
+inline constexpr Code kNotAttached = 0xE00002D9;
 inline constexpr Code kNotPermitted = 0xE00002E2;
+inline constexpr Code kNotResponding = 0xE00002ED;
 inline constexpr Code kPipeStalled = 0xE000404F;
+inline constexpr Code kTransactionTimeout = 0xE0004051;
+
+// A result together with the number that the system itself gave for a failure:
+// an errno value or an IOReturn; 0 if there is none.
+struct Result {
+  Code code = kSuccess;
+  std::int32_t systemCode = 0;
+};
 
 // Registry objects; null is none.
 struct PortObject;
@@ -50,6 +60,7 @@ struct ControlRequest {
   void *data;
   std::uint32_t lengthDone;  // filled in by the port; after a failure what
                              // came before it, 0 where nobody can tell
+  std::int32_t systemCode;   // filled in by the port, as in Result
 };
 
 // Gets the port that the registry is asked through. On failure *port is null.
@@ -88,8 +99,8 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product);
 // Makes a found device ready for requests and gives back the interface to use
 // from now on: the same one, or one that takes its place. Consumes the
 // caller's reference; what is returned holds one. Null when the device cannot
-// be reached: then nothing is held.
-Device *MakeReady(Device *device);
+// be reached: then nothing is held, and *result tells why.
+Device *MakeReady(Device *device, Result *result);
 
 // Sends the request and waits for its end.
 Code Request(Device *device, ControlRequest *request);

@@ -2,6 +2,7 @@
 #include "usb/USB.h"
 
 #include "build_config.h"
+#include "usb/connection.h"
 
 using namespace ztk;
 using namespace ztk::usb;
@@ -61,8 +62,8 @@ port::Device *InterfaceOf(port::Service service, Code *result) {
 // Walks every device and puts the mixer at position `index` into the slot.
 // Deliberate: the walk goes on after it, and the interfaces of the devices
 // after it are neither released nor without effect on the result.
-Code ChooseMixer(port::Iterator iterator, Connection *slot,
-                 std::uint32_t index) {
+Code ChooseMixer(port::Iterator iterator, Connection *slot, std::uint32_t index,
+                 port::Result *cause) {
   Code result = port::kSuccess;
   bool chosen = false;
   while (port::Service service = port::NextService(iterator)) {
@@ -78,7 +79,7 @@ Code ChooseMixer(port::Iterator iterator, Connection *slot,
           port::ReleaseDevice(device);
           return port::kError;
         }
-        *slot = port::MakeReady(device);
+        *slot = port::MakeReady(device, cause);
       }
       // After the chosen one it wraps and does not reach 0 again.
       --index;
@@ -94,21 +95,74 @@ Code FindEveryDevice(port::Port masterPort, port::Iterator *iterator) {
   return port::FindServices(masterPort, matching, iterator);
 }
 
+// How many bytes came stays here: callers go by what their buffer holds.
 Code Read(Connection device, std::uint16_t reg, std::uint8_t *buffer,
           std::uint16_t length) {
-  // How many bytes came stays here: callers go by what their buffer holds.
-  return DeviceRequest(device, kReadRequestType, kReadRequest, 0, reg, buffer,
-                       &length);
+  std::uint32_t unused = 0;
+  return ReadRegister(device, reg, buffer, length, &unused).code;
 }
 
 Code Write(Connection device, std::uint16_t reg, std::uint16_t value) {
-  std::uint16_t dataWord = 0;  // never transferred
-  std::uint16_t length = 0;
-  return DeviceRequest(device, kWriteRequestType, kWriteRequest, value, reg,
-                       &dataWord, &length);
+  return WriteRegister(device, reg, value).code;
 }
 
 }  // namespace
+
+namespace ztk::usb {
+
+Code Open(Connection *slot, std::uint32_t index, port::Result *cause) {
+  // What remains if the walk does not reach the mixer.
+  *cause = {.code = port::kNoDevice};
+  port::Port masterPort = nullptr;
+  port::Iterator iterator = nullptr;
+  Code result = port::GetMasterPort(&masterPort);
+  if (result == port::kSuccess) result = FindEveryDevice(masterPort, &iterator);
+  if (result == port::kSuccess && iterator != nullptr) {
+    result = ChooseMixer(iterator, slot, index, cause);
+  }
+
+  if (*slot == nullptr) result = port::kError;
+  if (iterator != nullptr) port::ReleaseIterator(iterator);
+  if (masterPort != nullptr) port::ReleaseMasterPort(masterPort);
+  // The mixer was reached, and a device after it failed.
+  if (result != port::kSuccess && cause->code == port::kSuccess) {
+    *cause = {.code = result};
+  }
+  return result;
+}
+
+port::Result ReadRegister(Connection device, std::uint16_t reg,
+                          std::uint8_t *buffer, std::uint16_t length,
+                          std::uint32_t *lengthDone) {
+  port::ControlRequest request{.requestType = kReadRequestType,
+                               .request = kReadRequest,
+                               .value = 0,
+                               .index = reg,
+                               .length = length,
+                               .data = buffer,
+                               .lengthDone = 0,
+                               .systemCode = 0};
+  const Code code = port::Request(device, &request);
+  *lengthDone = request.lengthDone;
+  return {.code = code, .systemCode = request.systemCode};
+}
+
+port::Result WriteRegister(Connection device, std::uint16_t reg,
+                           std::uint16_t value) {
+  std::uint16_t dataWord = 0;  // never transferred
+  port::ControlRequest request{.requestType = kWriteRequestType,
+                               .request = kWriteRequest,
+                               .value = value,
+                               .index = reg,
+                               .length = 0,
+                               .data = &dataWord,
+                               .lengthDone = 0,
+                               .systemCode = 0};
+  const Code code = port::Request(device, &request);
+  return {.code = code, .systemCode = request.systemCode};
+}
+
+}  // namespace ztk::usb
 
 std::int32_t CheckUSBAudio(std::uint32_t /*productId*/) {
   port::Port masterPort = nullptr;
@@ -141,18 +195,8 @@ Code open_pipes(Connection *slot, std::uint32_t index) {
 }
 
 Code openUSB(Connection *slot, std::uint32_t index) {
-  port::Port masterPort = nullptr;
-  port::Iterator iterator = nullptr;
-  Code result = port::GetMasterPort(&masterPort);
-  if (result == port::kSuccess) result = FindEveryDevice(masterPort, &iterator);
-  if (result == port::kSuccess && iterator != nullptr) {
-    result = ChooseMixer(iterator, slot, index);
-  }
-
-  if (*slot == nullptr) result = port::kError;
-  if (iterator != nullptr) port::ReleaseIterator(iterator);
-  if (masterPort != nullptr) port::ReleaseMasterPort(masterPort);
-  return result;
+  port::Result unused;
+  return Open(slot, index, &unused);
 }
 
 void closeUSB(Connection *slot) {
@@ -171,7 +215,8 @@ Code DeviceRequest(Connection device, std::uint8_t requestType,
                               .index = index,
                               .length = *length,
                               .data = data,
-                              .lengthDone = 0};
+                              .lengthDone = 0,
+                              .systemCode = 0};
   const Code result = port::Request(device, &record);
   *length = static_cast<std::uint16_t>(record.lengthDone & 0xFFFF);
   return result;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// The walk over every attached mixer that all families share.
+// The walk over every attached mixer that all families share. What becomes of
+// each request is recorded; see outcome/outcome.h.
 #ifndef ZTK_USB_MIXERS_H_
 #define ZTK_USB_MIXERS_H_
 
 #include <cstdint>
 
+#include "outcome/outcome.h"
 #include "usb/USB.h"
 
 namespace ztk::usb {
@@ -14,9 +16,12 @@ namespace ztk::usb {
 // is empty: nothing is sent to it and there is nothing to close.
 class OpenMixer {
  public:
+  // For programs: uses visible functions only and records nothing.
   explicit OpenMixer(std::int32_t position)
       : opened_(open_pipes(&slot_, static_cast<std::uint32_t>(position)) ==
                 platform::usb::kSuccess) {}
+  // For the library: records why a mixer does not open for this request.
+  OpenMixer(std::int32_t position, outcome::Direction direction);
   ~OpenMixer() {
     if (opened_) closeUSB(&slot_);
   }
@@ -31,18 +36,24 @@ class OpenMixer {
   bool opened_;
 };
 
-using WriteRequest = Code (*)(Connection device, std::uint16_t value);
+// Counts the mixers.
+std::int32_t CountMixers(std::uint32_t productId);
 
-// Counts the mixers and sends one write to each. Answers the count, so that a
-// second pass walks the same positions.
-std::int32_t SendToEveryMixer(std::uint32_t productId, WriteRequest request,
+// Counts the mixers and writes the value to a register of each. Answers the
+// count, so that a second pass walks the same positions.
+std::int32_t SendToEveryMixer(std::uint32_t productId, std::uint16_t reg,
                               std::uint16_t value);
 
 // A reply buffer. Larger than any reply, because the byte of the fifth channel
-// lies past the five that a mixer sends: it keeps what it is preset to.
+// is behind the five that a mixer sends: it keeps what it is preset to.
 struct Reply {
   std::uint8_t bytes[8] = {};
 };
+
+// Opens the mixer, reads a register into the preset reply and closes the mixer.
+// False when it does not open. A request that fails leaves the reply as it is.
+bool ReadFromMixer(std::int32_t position, std::uint16_t reg, Reply *reply,
+                   std::uint16_t length);
 
 }  // namespace ztk::usb
 

@@ -1,11 +1,13 @@
 /* SPDX-License-Identifier: MIT */
 /*
- * A C program that takes the address of every function of the header, so that
+ * A C program that takes the address of every function of the headers, so that
  * it links only if all of them are there, and calls some without a mixer.
  */
 #include <ZTKFunc.h>
+#include <ZTKOutcome.h>
 #include <stddef.h>
 #include <stdio.h>
+#include <string.h>
 
 typedef void (*AnyFunction)(void);
 
@@ -65,6 +67,7 @@ static const struct Function kFunctions[] = {
     FUNCTION(ZTK_UnregisterMidiChannelChangedCallback),
     FUNCTION(ZTK_RegisterMidiKeyModeChangedCallback),
     FUNCTION(ZTK_UnregisterMidiKeyModeChangedCallback),
+    FUNCTION(ZTK_GetLastOutcome),
 };
 /* clang-format on */
 
@@ -83,6 +86,8 @@ static void CheckCodes(void) {
   Expect("ZTK_CONNECTED", ZTK_CONNECTED, 103);
   Expect("ZTK_NOT_CONNECTED", ZTK_NOT_CONNECTED, 104);
   Expect("the size of a result", (uint32_t)sizeof(ZTKResult), 4);
+  Expect("the mixers of an outcome", ZTK_OUTCOME_MIXERS, 127);
+  Expect("the size of an outcome", (uint32_t)sizeof(ZTKOutcome), 36 + 127 * 32);
 }
 
 static void OnChannel(int32_t channel, int32_t index, void *context) {
@@ -116,6 +121,30 @@ static void CheckCalls(void) {
          ZTK_RegisterMidiKeyModeChangedCallback(1, onIndex, NULL), 102);
 }
 
+/* A caller of an older and of a newer header than the library's. */
+static void CheckSizesOfOutcome(void) {
+  struct {
+    ZTKOutcome known;
+    uint32_t later[4];
+  } newer;
+  ZTKOutcome outcome;
+
+  Expect("no outcome", ZTK_GetLastOutcome(NULL), 102);
+  memset(&outcome, 0xEE, sizeof outcome);
+  outcome.size = 3;
+  Expect("a size that is too small", ZTK_GetLastOutcome(&outcome), 102);
+  Expect("an outcome that was rejected", outcome.mixersFound, 0xEEEEEEEEu);
+  outcome.size = 8;
+  Expect("an older caller", ZTK_GetLastOutcome(&outcome), 100);
+  Expect("its size", outcome.size, 8);
+  Expect("its last member", outcome.mixersFound, 0);
+  Expect("behind its last member", outcome.mixersListed, 0xEEEEEEEEu);
+  memset(&newer, 0xEE, sizeof newer);
+  newer.known.size = sizeof newer;
+  Expect("a newer caller", ZTK_GetLastOutcome(&newer.known), 100);
+  Expect("a member that is not known", newer.later[3], 0);
+}
+
 int main(void) {
   size_t i;
   for (i = 0; i < sizeof kFunctions / sizeof *kFunctions; ++i) {
@@ -125,6 +154,7 @@ int main(void) {
   }
   CheckCodes();
   CheckCalls();
+  CheckSizesOfOutcome();
   if (failures == 0) {
     printf("%u functions\n",
            (unsigned)(sizeof kFunctions / sizeof *kFunctions));

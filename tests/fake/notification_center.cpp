@@ -71,7 +71,7 @@ std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
   return 0;
 }
 
-void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
+PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   if (userInfo->references <= 0) {
     TheWorld().misuse.push_back("posted after release: info");
   }
@@ -79,6 +79,7 @@ void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
       delivery == Delivery::Immediately ? " immediately" : " by default";
   LogCall(std::string("post ") + name);
   LogStep(std::string("post ") + name + " " + Describe(userInfo) + when);
+  return TheWorld().postResult;
 }
 
 void AddObserver(void *observer, const Method &method, ZTKTextRef name) {

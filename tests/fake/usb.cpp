@@ -227,15 +227,17 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
   return result;
 }
 
-Device *MakeReady(Device *device) {
+Device *MakeReady(Device *device, Result *result) {
   Use(device, "device interface");
   const std::string mixer = std::to_string(MixerNumber(device->position));
   if (!DeviceAt(device->position).canBeReached) {
     LogStep("cannot open " + mixer);
     device->references = 0;
     --TheWorld().held.interfaces;
+    *result = DeviceAt(device->position).openResult;
     return nullptr;
   }
+  *result = {};
   LogCall("make ready");
   LogStep("open " + mixer);
   return device;
@@ -260,6 +262,8 @@ Code Request(Device *device, ControlRequest *request) {
     std::memcpy(request->data, answer.bytes.data(), answer.bytes.size());
   }
   request->lengthDone = static_cast<std::uint32_t>(answer.bytes.size());
+  request->systemCode =
+      answer.result == kSuccess ? 0 : target.systemCodeOfRequests;
   LogStep(RequestLine(MixerNumber(device->position),
                       {.requestType = request->requestType,
                        .request = request->request,

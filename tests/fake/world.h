@@ -41,7 +41,11 @@ struct Device {
   Code subClassResult = 0;
   Code vendorResult = 0;
   Code productResult = 0;
-  bool canBeReached = true;                 // else MakeReady() yields nothing
+  bool canBeReached = true;  // else MakeReady() yields nothing
+  // Why it cannot be reached, and the system's number for a failed request.
+  platform::usb::Result openResult = {.code = platform::usb::kNotPermitted,
+                                      .systemCode = 13};
+  std::int32_t systemCodeOfRequests = 0;
   std::uint32_t referencesOfOthers = 0;     // what a release says remains
   std::map<std::uint16_t, Answer> answers;  // to reads, by register
   Code writeResult = 0;
@@ -105,6 +109,9 @@ struct World {
   bool canWrite = true;
   int writeError = EACCES;  // the reason where canWrite is false
   std::map<std::string, Bundle> bundles;
+
+  // The message bus.
+  platform::notification_center::PostResult postResult;
 
   // What came of it. `steps` is the log in the terms of a setter's rules:
   // count, open, request, close, file, post. `calls` has every call.

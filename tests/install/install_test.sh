@@ -32,7 +32,8 @@ files_below() {
 }
 
 files() {
-  expect "./ZTKFunc.h" "$(files_below include)" "Installed headers"
+  expect "./ZTKFunc.h
+./ZTKOutcome.h" "$(files_below include)" "Installed headers"
   expect "./libZTKFunc.so
 ./libZTKFunc.so.1
 ./libZTKFunc.so.$VERSION" \

@@ -175,7 +175,7 @@ TEST_F(MacCalls, PassTheResultOfARequestOn) {
 
 TEST_F(MacCalls, ReachEveryMixerWithOneRequestEach) {
   TheWorld().bus = {Mixer(), Hub(), Mixer()};
-  EXPECT_EQ(usb::SendToEveryMixer(10, SetUSBOutputLevelSetting, 0x0300), 2);
+  EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 2);
   // Deliberate: the hub after the first mixer makes no difference, a device
   // that fails there would.
   EXPECT_THAT(TakeRequests(), ElementsAre("mixer 1: 40 03 0300 8003 0000",
@@ -185,7 +185,7 @@ TEST_F(MacCalls, ReachEveryMixerWithOneRequestEach) {
 TEST_F(MacCalls, PassOverAMixerBeforeADeviceThatFails) {
   TheWorld().bus = {Mixer(), WithoutPlugIn(), Mixer(), WithoutPlugIn()};
   // The two that let no plug-in be made are mixers in the registry.
-  EXPECT_EQ(usb::SendToEveryMixer(10, SetUSBOutputLevelSetting, 0x0300), 4);
+  EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 4);
   EXPECT_THAT(TakeRequests(), IsEmpty());
 }
 

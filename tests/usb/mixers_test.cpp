@@ -53,7 +53,7 @@ class SendToEveryMixer : public CoreTest {};
 
 TEST_F(SendToEveryMixer, CountsThenOpensSendsAndClosesEachInTurn) {
   TheWorld().bus = {Mixer(), Stranger(), Mixer()};
-  EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206), 2);
+  EXPECT_EQ(usb::SendToEveryMixer(10, 0x8002, 0x0206), 2);
   EXPECT_THAT(
       TakeSteps(),
       ElementsAre("count", "open 1", "mixer 1: 40 03 0206 8002 0000", "close 1",
@@ -62,7 +62,7 @@ TEST_F(SendToEveryMixer, CountsThenOpensSendsAndClosesEachInTurn) {
 
 TEST_F(SendToEveryMixer, OnlyCountsWithoutAMixer) {
   TheWorld().bus = {Stranger(), SameMakersOtherProduct()};
-  EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206), 0);
+  EXPECT_EQ(usb::SendToEveryMixer(10, 0x8002, 0x0206), 0);
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
 }
 
@@ -76,7 +76,7 @@ TEST_F(SendToEveryMixer, WalksOnceToCountAndOnceForEachMixer) {
   for (const auto &row : rows) {
     TheWorld() = World{};
     TheWorld().bus = row.bus;
-    usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206);
+    usb::SendToEveryMixer(10, 0x8002, 0x0206);
     const std::vector<std::string> calls = TakeCalls();
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "get master port"),
               row.walks);
@@ -85,7 +85,7 @@ TEST_F(SendToEveryMixer, WalksOnceToCountAndOnceForEachMixer) {
 
 TEST_F(SendToEveryMixer, SkipsAMixerThatDoesNotOpenAndGoesOn) {
   TheWorld().bus = {OutOfReach(), Mixer()};
-  EXPECT_EQ(usb::SendToEveryMixer(10, SetMidiChannelSetting, 0x0F00), 2);
+  EXPECT_EQ(usb::SendToEveryMixer(10, 0x8004, 0x0F00), 2);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "cannot open 1", "open 2",
                           "mixer 2: 40 03 0f00 8004 0000", "close 2"));
@@ -94,7 +94,7 @@ TEST_F(SendToEveryMixer, SkipsAMixerThatDoesNotOpenAndGoesOn) {
 TEST_F(SendToEveryMixer, GoesOnAfterAMixerThatRefuses) {
   TheWorld().bus = {Mixer(), Mixer()};
   TheWorld().bus[0].writeResult = 0xE000404F;
-  EXPECT_EQ(usb::SendToEveryMixer(10, SetUSBOutputLevelSetting, 0x0300), 2);
+  EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 2);
   EXPECT_THAT(
       TakeSteps(),
       ElementsAre("count", "open 1", "mixer 1: 40 03 0300 8003 0000 -> stall",
@@ -106,7 +106,7 @@ TEST_F(SendToEveryMixer, GoesOnAfterAMixerThatRefuses) {
 // position 0, and position 1 is empty.
 TEST_F(SendToEveryMixer, PassesOverAMixerThatGivesNoInterface) {
   TheWorld().bus = {WithoutInterface(), Mixer()};
-  EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerInputSetting, 0x0102), 2);
+  EXPECT_EQ(usb::SendToEveryMixer(10, 0x8016, 0x0102), 2);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 2", "mixer 2: 40 03 0102 8016 0000",
                           "close 2"));
@@ -115,7 +115,7 @@ TEST_F(SendToEveryMixer, PassesOverAMixerThatGivesNoInterface) {
 TEST_F(SendToEveryMixer, SendsToNobodyWhenADeviceAfterTheMixersFails) {
   TheWorld().bus = {Mixer(), Mixer(), MixerFailing(kDefects[2])};
   TheWorld().bus[2].product = 28;
-  EXPECT_EQ(usb::SendToEveryMixer(10, SetMixerOutputSetting, 0x0206), 2);
+  EXPECT_EQ(usb::SendToEveryMixer(10, 0x8002, 0x0206), 2);
   EXPECT_THAT(TakeSteps(), ElementsAre("count", "open 1", "open 2"));
 }
 

@@ -15,19 +15,25 @@ bool IsDrained(sd_bus *bus) {
   return sd_bus_get_n_queued_write(bus, &unsent) >= 0 && unsent == 0;
 }
 
-// Works on the connection until it is in the wanted state. False when it
-// breaks first, or the deadline passes.
-bool WorkUntil(bool (*reached)(sd_bus *), sd_bus *bus, std::uint64_t deadline) {
+// Works on the connection until it is in the wanted state. 0, or an errno value
+// when it breaks first, or the deadline passes (ETIMEDOUT).
+int WorkUntil(bool (*reached)(sd_bus *), sd_bus *bus, std::uint64_t deadline) {
   while (!reached(bus)) {
     const int progress = sd_bus_process(bus, nullptr);
-    if (progress < 0) return false;
+    if (progress < 0) return -progress;
     const std::uint64_t now = Now();
-    if (now >= deadline) return false;
+    if (now >= deadline) return ETIMEDOUT;
     if (progress > 0) continue;
     const int waited = sd_bus_wait(bus, deadline - now);
-    if (waited < 0 && waited != -EINTR) return false;
+    if (waited < 0 && waited != -EINTR) return -waited;
   }
-  return true;
+  return 0;
+}
+
+// Null, after telling the cause to whoever asks for it.
+OwnedBus NoBus(int cause, int *error) {
+  if (error != nullptr) *error = cause;
+  return nullptr;
 }
 
 }  // namespace
@@ -41,21 +47,25 @@ std::uint64_t Now() {
 
 std::uint64_t PatienceEnds() { return Now() + kPatience; }
 
-OwnedBus ConnectToSessionBus(std::uint64_t deadline) {
-  if (SdBus() == nullptr) return nullptr;
+OwnedBus ConnectToSessionBus(std::uint64_t deadline, int *error) {
+  if (SdBus() == nullptr) return NoBus(ENOSYS, error);
   sd_bus *opened = nullptr;
-  if (sd_bus_open_user(&opened) < 0) return nullptr;
+  if (const int result = sd_bus_open_user(&opened); result < 0) {
+    return NoBus(-result, error);
+  }
   OwnedBus bus(opened);
   // A library must not end its program when the bus goes away.
   sd_bus_set_exit_on_disconnect(bus.get(), 0);
-  if (!WorkUntil(IsReady, bus.get(), deadline)) return nullptr;
+  const int result = WorkUntil(IsReady, bus.get(), deadline);
+  if (result != 0) return NoBus(result, error);
   return bus;
 }
 
-void SendAndDrain(sd_bus *bus, sd_bus_message *message,
-                  std::uint64_t deadline) {
-  if (sd_bus_send(bus, message, nullptr) < 0) return;
-  WorkUntil(IsDrained, bus, deadline);
+int SendAndDrain(sd_bus *bus, sd_bus_message *message, std::uint64_t deadline) {
+  if (const int result = sd_bus_send(bus, message, nullptr); result < 0) {
+    return -result;
+  }
+  return WorkUntil(IsDrained, bus, deadline);
 }
 
 }  // namespace ztk::platform::notification_center

@@ -31,12 +31,14 @@ std::uint64_t Now();
 std::uint64_t PatienceEnds();
 
 // Connects to the session bus and waits until messages can be sent. Null when
-// there is no bus or no sd-bus (at once), or when the deadline passes.
-OwnedBus ConnectToSessionBus(std::uint64_t deadline);
+// there is no bus or no sd-bus (at once), or when the deadline passes; *error,
+// if given, is then an errno value: ETIMEDOUT for the deadline, ENOSYS where
+// there is no sd-bus.
+OwnedBus ConnectToSessionBus(std::uint64_t deadline, int *error = nullptr);
 
-// Sends the message. Returns when all of it has left this process, the
-// connection breaks, or the deadline passes.
-void SendAndDrain(sd_bus *bus, sd_bus_message *message, std::uint64_t deadline);
+// Sends the message. Returns 0 when all of it has left this process, else an
+// errno value: the connection broke, or the deadline passed (ETIMEDOUT).
+int SendAndDrain(sd_bus *bus, sd_bus_message *message, std::uint64_t deadline);
 
 }  // namespace ztk::platform::notification_center
 

@@ -4,6 +4,7 @@
 // start threads inside a library that promises none; sd-bus does not.
 #include "platform/notification_center.h"
 
+#include <cerrno>
 #include <memory>
 #include <utility>
 
@@ -56,16 +57,25 @@ std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
 
 // The record is written into the message during the call, so the caller's hold
 // is enough.
-void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
+PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   const std::uint64_t deadline = PatienceEnds();
   // A connection of its own works after fork() and in any thread, and does not
   // take messages from the observers'.
-  const OwnedBus bus = ConnectToSessionBus(deadline);
-  if (bus == nullptr) return;
+  int error = 0;
+  const OwnedBus bus = ConnectToSessionBus(deadline, &error);
+  if (bus == nullptr) {
+    const bool isMute = error == ETIMEDOUT;
+    return {.handover = isMute ? Handover::Failed : Handover::NoCenter,
+            .systemCode = error};
+  }
   sd_bus_message *message = MakeMessage(bus.get(), name, userInfo, delivery);
-  if (message == nullptr) return;
-  SendAndDrain(bus.get(), message, deadline);
+  if (message == nullptr) {
+    return {.handover = Handover::Failed, .systemCode = ENOMEM};
+  }
+  error = SendAndDrain(bus.get(), message, deadline);
   sd_bus_message_unref(message);
+  return {.handover = error == 0 ? Handover::Sent : Handover::Failed,
+          .systemCode = error};
 }
 
 void AddObserver(void *observer, const Method &method, ZTKTextRef name) {

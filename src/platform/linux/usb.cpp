@@ -74,19 +74,30 @@ Code CodeOfErrno(int error) {
   }
 }
 
+Result ResultOfOpening(int error) {
+  const bool isGone = error == ENOENT || error == ENXIO;
+  return {.code = isGone ? kNoDevice : CodeOfErrno(error), .systemCode = error};
+}
+
 // Opens the node and makes sure that the same device is still behind it: its
-// number may have been given to another one since the snapshot.
-int OpenNode(const DeviceFacts &facts) {
+// number may have been given to another one since the snapshot. -1 when it
+// cannot be opened; *result then tells why.
+int OpenNode(const DeviceFacts &facts, Result *result) {
+  *result = ResultOfOpening(ENODEV);
   const int number = ReadDeviceNumber(facts);
   if (number <= 0) return -1;
   const int node = open(NodeOf(facts, number).text, O_RDWR | O_CLOEXEC);
-  if (node < 0) return -1;
+  if (node < 0) {
+    *result = ResultOfOpening(errno);
+    return -1;
+  }
 
   std::uint8_t bytes[kDeviceDescriptorLength];
   DeviceIdentity identity;
   if (read(node, bytes, sizeof bytes) == static_cast<ssize_t>(sizeof bytes) &&
       ParseDeviceDescriptor(bytes, ByteOrder::Machine, &identity) &&
       identity == facts.identity) {
+    *result = {};
     return node;
   }
   close(node);
@@ -173,17 +184,21 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
 
 // The interface in the snapshot goes with its iterator; what outlives it is a
 // connection of its own.
-Device *MakeReady(Device *device) {
-  const int node = OpenNode(device->facts);
+Device *MakeReady(Device *device, Result *result) {
+  const int node = OpenNode(device->facts, result);
   if (node < 0) return nullptr;
   auto *connection = new (std::nothrow)
       Device{.facts = device->facts, .isConnection = true, .node = node};
-  if (connection == nullptr) close(node);
+  if (connection == nullptr) {
+    close(node);
+    *result = ResultOfOpening(ENOMEM);
+  }
   return connection;
 }
 
 Code Request(Device *device, ControlRequest *request) {
   request->lengthDone = 0;
+  request->systemCode = 0;
   // memset() for the padding: the kernel is given no byte that is not ours.
   usbdevfs_ctrltransfer transfer;
   std::memset(&transfer, 0, sizeof transfer);
@@ -196,7 +211,10 @@ Code Request(Device *device, ControlRequest *request) {
   transfer.data = request->data;
 
   const int done = ioctl(device->node, USBDEVFS_CONTROL, &transfer);
-  if (done < 0) return CodeOfErrno(errno);
+  if (done < 0) {
+    request->systemCode = errno;
+    return CodeOfErrno(errno);
+  }
   request->lengthDone = static_cast<std::uint32_t>(done);
   return kSuccess;
 }

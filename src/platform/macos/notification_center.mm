@@ -43,7 +43,8 @@ std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
   return [number intValue];
 }
 
-void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
+// The center does not tell whether it took a notification.
+PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   @autoreleasepool {
     NSDistributedNotificationCenter *center =
         [NSDistributedNotificationCenter defaultCenter];
@@ -58,6 +59,7 @@ void Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
                           userInfo:DictionaryOf(userInfo)];
     }
   }
+  return {};
 }
 
 void AddObserver(void *observer, const Method &method, ZTKTextRef name) {

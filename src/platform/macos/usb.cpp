@@ -135,7 +135,10 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
 }
 
 // Any device that was found can be asked at once.
-Device *MakeReady(Device *device) { return device; }
+Device *MakeReady(Device *device, Result *result) {
+  *result = {};
+  return device;
+}
 
 Code Request(Device *device, ControlRequest *request) {
   IOUSBDevRequest record{.bmRequestType = request->requestType,
@@ -148,6 +151,7 @@ Code Request(Device *device, ControlRequest *request) {
   IOUSBDeviceInterface **interface = InterfaceOf(device);
   const Code result = CodeOf((*interface)->DeviceRequest(interface, &record));
   request->lengthDone = record.wLenDone;
+  request->systemCode = static_cast<std::int32_t>(result);
   return result;
 }
 

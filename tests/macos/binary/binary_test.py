@@ -127,9 +127,9 @@ class Bundle(unittest.TestCase):
         for link, target in links.items():
             with self.subTest(link=link):
                 self.assertEqual(os.readlink(framework() / link), target)
-        header = (framework() / "Headers/ZTKFunc.h").read_bytes()
-        self.assertEqual(header,
-                         (OPTIONS.root / "include/ZTKFunc.h").read_bytes())
+        for name in ("ZTKFunc.h", "ZTKOutcome.h"):
+            self.assertEqual((framework() / "Headers" / name).read_bytes(),
+                             (OPTIONS.root / "include" / name).read_bytes())
 
     def test_says_who_it_is(self):
         info = plistlib.loads(
