@@ -49,9 +49,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data,
     if (imported) {
       Require(devices.Import(0, &lease) == usbip::ImportStatus::Ok);
     }
-    Session session = imported ? Session(&devices, lease) : Session(&devices);
-    const std::size_t piece = data[1] + std::size_t{1};
     Session::Clock::time_point now;
+    Session session =
+        imported ? Session(&devices, lease) : Session(&devices, now);
+    const std::size_t piece = data[1] + std::size_t{1};
     for (std::size_t at = 2; at < size; at += piece) {
       session.Receive(data + at, std::min(piece, size - at), now);
       now += std::chrono::milliseconds(1);

@@ -190,6 +190,17 @@ TEST(UsbipServer, OneClientTooManyIsTurnedAway) {
   clients.back()->Import("1-1");
 }
 
+TEST(UsbipServer, CountsOnlyClientsWithoutADevice) {
+  UsbipWorld world(SpreadDevices(70, 0, 1));
+  const std::string address = world.Listen("127.0.0.1:0");
+  std::vector<std::unique_ptr<Client>> clients;
+  for (int mixer = 1; mixer <= 70; ++mixer) {
+    SCOPED_TRACE(mixer);
+    clients.push_back(std::make_unique<Client>(address));
+    clients.back()->Import(world.Status(mixer).address.Name());
+  }
+}
+
 TEST(UsbipServer, SaysWhyItCannotListen) {
   UsbipWorld world(Mixers(0));
   const std::string address = world.Listen("127.0.0.1:0");

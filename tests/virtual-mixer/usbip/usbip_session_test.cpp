@@ -41,7 +41,8 @@ class UsbipSession : public testing::Test {
     devices_ = std::make_unique<Devices>(
         std::vector<Placement>(static_cast<std::size_t>(mixers)),
         [this](const std::string &line) { log_.push_back(line); });
-    session_ = std::make_unique<Session>(devices_.get());
+    session_ =
+        std::make_unique<Session>(devices_.get(), After(milliseconds(0)));
   }
   void Fault(const std::string &text) {
     std::string error;
@@ -86,6 +87,24 @@ TEST_F(UsbipSession, ListsWhatIsServedAndCloses) {
   EXPECT_TRUE(session_->Ended());
 }
 
+TEST_F(UsbipSession, AClientHasTenSecondsToImport) {
+  Plug(1);
+  EXPECT_EQ(session_->NextDue(), After(std::chrono::seconds(10)));
+  // Bytes that are no whole operation give no more time.
+  Ask(FromHex("0111"));
+  session_->Continue(After(milliseconds(9999)));
+  EXPECT_FALSE(session_->Ended());
+  session_->Continue(After(std::chrono::seconds(10)));
+  EXPECT_TRUE(session_->Broken());
+}
+
+TEST_F(UsbipSession, AClientWithADeviceHasAllTheTimeItNeeds) {
+  Import();
+  EXPECT_EQ(session_->NextDue(), std::nullopt);
+  session_->Continue(After(std::chrono::hours(1)));
+  EXPECT_FALSE(session_->Ended());
+}
+
 TEST_F(UsbipSession, ListsNothingWhereNothingIsServed) {
   Plug(0);
   EXPECT_EQ(Ask(ListRequest()), FromHex("0111 0005 00000000 00000000"));
@@ -94,7 +113,7 @@ TEST_F(UsbipSession, ListsNothingWhereNothingIsServed) {
 TEST_F(UsbipSession, ListsNeitherMixersInUseNorUnpluggedOnes) {
   Plug(3);
   devices_->Bus().Unplug(3);
-  Session other(devices_.get());
+  Session other(devices_.get(), After(milliseconds(0)));
   Ask(&other, ImportRequest("1-1"));
   EXPECT_EQ(Ask(ListRequest()), Join({FromHex("0111 0005 00000000 00000001"),
                                       MixerRecord(2), FromHex("ff000000")}));
@@ -105,7 +124,7 @@ TEST_F(UsbipSession, TellsAStrangerApart) {
       std::vector<Placement>{{.kind = DeviceKind::Sibling, .bus = 1},
                              {.kind = DeviceKind::Storage, .bus = 1}},
       nullptr);
-  session_ = std::make_unique<Session>(devices_.get());
+  session_ = std::make_unique<Session>(devices_.get(), After(milliseconds(0)));
   const Bytes reply = Ask(ListRequest());
   ASSERT_EQ(reply.size(), 12u + 2 * 316);
   const auto at = [&](std::size_t from, std::size_t count) {
@@ -121,7 +140,7 @@ TEST_F(UsbipSession, TellsAStrangerApart) {
 TEST_F(UsbipSession, RefusesAMixerThatIsNotThereOrInUse) {
   Plug(2);
   devices_->Bus().Unplug(2);
-  Session holder(devices_.get());
+  Session holder(devices_.get(), After(milliseconds(0)));
   Ask(&holder, ImportRequest("1-1"));
   const struct {
     std::string busId;
@@ -133,7 +152,7 @@ TEST_F(UsbipSession, RefusesAMixerThatIsNotThereOrInUse) {
               {std::string(32, 'x'), "0111 0003 00000004"}};
   for (const auto &row : rows) {
     SCOPED_TRACE(row.busId);
-    Session session(devices_.get());
+    Session session(devices_.get(), After(milliseconds(0)));
     EXPECT_EQ(Ask(&session, ImportRequest(row.busId)), FromHex(row.expected));
     EXPECT_TRUE(session.Ended());
   }
@@ -141,7 +160,7 @@ TEST_F(UsbipSession, RefusesAMixerThatIsNotThereOrInUse) {
 
 TEST_F(UsbipSession, AMixerIsFreeAgainAfterItsClient) {
   Import();
-  session_ = std::make_unique<Session>(devices_.get());
+  session_ = std::make_unique<Session>(devices_.get(), After(milliseconds(0)));
   EXPECT_EQ(Ask(ImportRequest("1-1")).size(), 320u);
 }
 
@@ -164,7 +183,7 @@ TEST_F(UsbipSession, TakesMessagesInPiecesOfAnySize) {
             Submitted(1, 0, 5, "0004040404"), Submitted(2, 0, 0)});
   EXPECT_EQ(Take(session_.get()), expected);
 
-  session_ = std::make_unique<Session>(devices_.get());
+  session_ = std::make_unique<Session>(devices_.get(), After(milliseconds(0)));
   EXPECT_EQ(Ask(all), expected);
 }
 
@@ -218,7 +237,7 @@ TEST_F(UsbipSession, ANewClientFindsTheMixerUnconfiguredButAsItWasSet) {
   Ask(Write(1, "00 09 0100 0000 0000"));
   EXPECT_TRUE(devices_->Bus().WaitUntilConfigured(0, milliseconds(0)));
   devices_->Bus().WithMixer(1, [](MixerModel &m) { m.TurnSelector(0, 9); });
-  session_ = std::make_unique<Session>(devices_.get());
+  session_ = std::make_unique<Session>(devices_.get(), After(milliseconds(0)));
   EXPECT_FALSE(devices_->Bus().WaitUntilConfigured(0, milliseconds(0)));
   Ask(ImportRequest("1-1"));
   EXPECT_EQ(Ask(Read(1, "80 08 0000 0000 0100", 1)), Submitted(1, 0, 1, "00"));
@@ -314,7 +333,7 @@ TEST_F(UsbipSession, AMixerThatComesBackHasToBeImportedAnew) {
   devices_->Bus().PlugIn(1);
   EXPECT_THAT(Ask(Read(1, kAskSelectors, 5)), IsEmpty());
   EXPECT_TRUE(session_->Broken());
-  session_ = std::make_unique<Session>(devices_.get());
+  session_ = std::make_unique<Session>(devices_.get(), After(milliseconds(0)));
   Ask(ImportRequest("1-1"));
   EXPECT_EQ(Ask(Read(1, kAskSelectors, 5)), Submitted(1, 0, 5, "0004040404"));
 }
@@ -364,7 +383,9 @@ TEST_F(UsbipSession, WhoBreaksTheRulesIsLeft) {
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
     Import();
-    if (!row.imported) session_ = std::make_unique<Session>(devices_.get());
+    if (!row.imported)
+      session_ =
+          std::make_unique<Session>(devices_.get(), After(milliseconds(0)));
     EXPECT_THAT(Ask(row.said), IsEmpty());
     EXPECT_TRUE(session_->Broken());
     // Nothing more is listened to.

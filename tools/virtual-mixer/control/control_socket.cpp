@@ -4,12 +4,14 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
-#include <sys/time.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdint>
 #include <cstring>
 #include <stdexcept>
@@ -18,8 +20,8 @@
 namespace ztk::virtual_mixer {
 namespace {
 
-// A client that says nothing must not keep the others waiting.
-constexpr timeval kPatience{.tv_sec = 2, .tv_usec = 0};
+using Clock = std::chrono::steady_clock;
+
 constexpr std::size_t kLongestLine = 1 << 20;
 
 sockaddr_un AddressOf(const std::string &path) {
@@ -43,19 +45,43 @@ const sockaddr *Generic(const sockaddr_un *address) {
   return reinterpret_cast<const sockaddr *>(address);
 }
 
-bool SendLine(int connection, const std::string &line) {
-  return WriteAll(line + '\n',
-                  [connection](const char *data, std::size_t size) {
-                    return send(connection, data, size, MSG_NOSIGNAL);
-                  });
+// Waits until the socket can be read or written. False at the deadline.
+bool WaitFor(int socket, short events, Clock::time_point deadline) {
+  while (true) {
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    if (left.count() <= 0) return false;
+    pollfd watched{.fd = socket, .events = events, .revents = 0};
+    const int ready =
+        poll(&watched, 1,
+             static_cast<int>(std::min<std::int64_t>(left.count(), INT_MAX)));
+    if (ready > 0) return true;
+    if (ready < 0 && errno != EINTR) return false;
+  }
 }
 
-// One line without its end; false when the other side stops before it.
-bool ReceiveLine(int connection, std::string *line) {
+// False when the other side closes, or has not taken all by the deadline.
+bool SendLine(int connection, const std::string &line,
+              Clock::time_point deadline) {
+  return WriteAll(line + '\n', [&](const char *data, std::size_t size) {
+    if (!WaitFor(connection, POLLOUT, deadline)) return ssize_t{0};
+    const ssize_t sent =
+        send(connection, data, size, MSG_NOSIGNAL | MSG_DONTWAIT);
+    if (sent < 0 && errno == EAGAIN) errno = EINTR;  // to be tried again
+    return sent;
+  });
+}
+
+// Reads one line without its end. False when the other side stops before the
+// end of the line, or has not sent all of it by the deadline.
+bool ReceiveLine(int connection, std::string *line,
+                 Clock::time_point deadline) {
   std::array<char, 4096> part{};
   while (line->size() < kLongestLine) {
-    const ssize_t got = recv(connection, part.data(), part.size(), 0);
-    if (got < 0 && errno == EINTR) continue;
+    if (!WaitFor(connection, POLLIN, deadline)) return false;
+    const ssize_t got =
+        recv(connection, part.data(), part.size(), MSG_DONTWAIT);
+    if (got < 0 && (errno == EINTR || errno == EAGAIN)) continue;
     if (got <= 0) return false;
     line->append(part.data(), static_cast<std::size_t>(got));
     const std::size_t end = line->find('\n');
@@ -66,15 +92,25 @@ bool ReceiveLine(int connection, std::string *line) {
   return false;
 }
 
+// Binds the socket to the path and gives it the mode 0600, whatever the umask:
+// never more on the way, as the mode is that of the descriptor without the bits
+// of the umask, and not less in the end.
+bool BindPrivately(int listener, const std::string &path) {
+  const sockaddr_un address = AddressOf(path);
+  return fchmod(listener, 0600) == 0 &&
+         bind(listener, Generic(&address), sizeof address) == 0 &&
+         chmod(path.c_str(), 0600) == 0;
+}
+
 }  // namespace
 
-ControlServer::ControlServer(const std::string &path, Handler handler)
+ControlServer::ControlServer(const std::string &path, Handler handler,
+                             std::chrono::milliseconds patience)
     : handler_(std::move(handler)),
+      patience_(patience),
       listener_(MakeSocket()),
       ended_(eventfd(0, EFD_CLOEXEC)) {
-  const sockaddr_un address = AddressOf(path);
-  if (ended_.Get() < 0 ||
-      bind(listener_.Get(), Generic(&address), sizeof address) != 0 ||
+  if (!ended_.IsOpen() || !BindPrivately(listener_.Get(), path) ||
       listen(listener_.Get(), 16) != 0) {
     throw std::runtime_error("cannot listen at " + path + ": " +
                              std::strerror(errno));
@@ -101,13 +137,14 @@ void ControlServer::Serve() {
 }
 
 void ControlServer::Answer(int connection) {
-  setsockopt(connection, SOL_SOCKET, SO_RCVTIMEO, &kPatience, sizeof kPatience);
-  setsockopt(connection, SOL_SOCKET, SO_SNDTIMEO, &kPatience, sizeof kPatience);
   std::string line;
-  if (ReceiveLine(connection, &line)) SendLine(connection, handler_(line));
+  if (!ReceiveLine(connection, &line, Clock::now() + patience_)) return;
+  const std::string answer = handler_(line);
+  SendLine(connection, answer, Clock::now() + patience_);
 }
 
-std::string AskControl(const std::string &path, const std::string &line) {
+std::string AskControl(const std::string &path, const std::string &line,
+                       std::chrono::milliseconds longest) {
   const sockaddr_un address = AddressOf(path);
   const FileDescriptor connection = MakeSocket();
   if (connect(connection.Get(), Generic(&address), sizeof address) != 0) {
@@ -118,9 +155,10 @@ std::string AskControl(const std::string &path, const std::string &line) {
     }
     throw std::runtime_error("the mixers at " + path + " have ended");
   }
+  const Clock::time_point deadline = Clock::now() + longest;
   std::string answer;
-  if (!SendLine(connection.Get(), line) ||
-      !ReceiveLine(connection.Get(), &answer)) {
+  if (!SendLine(connection.Get(), line, deadline) ||
+      !ReceiveLine(connection.Get(), &answer, deadline)) {
     throw std::runtime_error("the mixers do not answer");
   }
   return answer;

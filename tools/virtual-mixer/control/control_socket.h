@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// The way from a program to the owner of a world of mixers: a Unix socket, one
+// The Unix socket over which programs control virtual mixers that run: one
 // command line and one answer line for each connection.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_CONTROL_CONTROL_SOCKET_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_CONTROL_CONTROL_SOCKET_H_
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -19,12 +20,18 @@ inline constexpr char kControlVariable[] = "ZTK_VIRTUAL_MIXER_CONTROL";
 
 class ControlServer {
  public:
-  // Gets a line without its end and gives the answer, also without one. Called
-  // on the server's thread.
+  // Gets a line without its end and returns the answer, also without one.
+  // Called on the server's thread.
   using Handler = std::function<std::string(std::string_view line)>;
 
-  // Listens at `path` until it goes. Throws std::runtime_error if it cannot.
-  ControlServer(const std::string &path, Handler handler);
+  // Time that a client has to send its whole line, and then to take the whole
+  // answer: clients are served one after another.
+  static constexpr std::chrono::milliseconds kPatience{2000};
+
+  // Listens at `path`, which only this user (and root) can connect to, as long
+  // as this object exists. Throws std::runtime_error if it cannot.
+  ControlServer(const std::string &path, Handler handler,
+                std::chrono::milliseconds patience = kPatience);
   ~ControlServer();
   ControlServer(const ControlServer &) = delete;
   ControlServer &operator=(const ControlServer &) = delete;
@@ -34,15 +41,21 @@ class ControlServer {
   void Answer(int connection);
 
   const Handler handler_;
+  const std::chrono::milliseconds patience_;
   FileDescriptor listener_;
   // Readable once the server is to end.
   FileDescriptor ended_;
   std::thread thread_;
 };
 
+// A command waits for the mixers and, where they are attached to a kernel, for
+// the kernel, which needs seconds for each mixer that is plugged in.
+inline constexpr std::chrono::seconds kLongestCommand{600};
+
 // Sends one command and returns the answer. Throws std::runtime_error when
-// nobody answers.
-std::string AskControl(const std::string &path, const std::string &line);
+// there is no whole answer within this time.
+std::string AskControl(const std::string &path, const std::string &line,
+                       std::chrono::milliseconds longest = kLongestCommand);
 
 }  // namespace ztk::virtual_mixer
 

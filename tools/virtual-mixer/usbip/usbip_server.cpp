@@ -196,12 +196,17 @@ bool Server::TakeNewcomers() {
 void Server::Accept() {
   FileDescriptor socket(
       accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC));
+  if (!socket.IsOpen()) return;
   // One too many is turned away, so that nobody can use all descriptors up.
-  if (socket.Get() < 0 || clients_.size() >= kMostClients) return;
+  const auto withoutDevice = std::count_if(
+      clients_.begin(), clients_.end(),
+      [](const Client &client) { return !client.session->HasDevice(); });
+  if (static_cast<std::size_t>(withoutDevice) >= kMostWithoutDevice) return;
   PrepareClient(socket.Get());
-  clients_.push_back({.socket = std::move(socket),
-                      .session = std::make_unique<Session>(devices_),
-                      .closed = false});
+  clients_.push_back(
+      {.socket = std::move(socket),
+       .session = std::make_unique<Session>(devices_, Clock::now()),
+       .closed = false});
 }
 
 void Server::Read(Client *client) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The sockets of the USB/IP front: one thread that listens and serves every
-// client in turn.
+// The sockets of the USB/IP server: one thread listens and serves all clients.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SERVER_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SERVER_H_
 
@@ -28,7 +27,7 @@ ListenAddress ParseListenAddress(const std::string &text);
 class Server {
  public:
   explicit Server(Devices *devices);
-  // Whoever still waits for an answer loses the device.
+  // Clients that still wait for an answer lose their device.
   ~Server();
   Server(const Server &) = delete;
   Server &operator=(const Server &) = delete;
@@ -38,7 +37,7 @@ class Server {
   std::string Listen(const ListenAddress &address);
   // Serves a client that has its device already.
   void Adopt(FileDescriptor socket, const Lease &lease);
-  // Makes the thread look whether devices have gone.
+  // Makes the thread check whether devices have gone.
   void Wake();
 
  private:
@@ -47,7 +46,9 @@ class Server {
     std::unique_ptr<Session> session;
     bool closed = false;
   };
-  static constexpr std::size_t kMostClients = 64;
+  // Of the clients that have no device yet. Each of the others has a device of
+  // its own, so their number is limited too.
+  static constexpr std::size_t kMostWithoutDevice = 64;
 
   void Serve();
   int PollTimeout() const;

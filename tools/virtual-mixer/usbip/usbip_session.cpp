@@ -148,7 +148,7 @@ void Session::Unlink(const UrbCommand &command) {
 }
 
 void Session::Continue(Clock::time_point now) {
-  if (lease_ && !devices_->Holds(*lease_)) Break();
+  if (lease_ ? !devices_->Holds(*lease_) : now >= importDeadline_) Break();
   for (auto it = waiting_.begin(); it != waiting_.end();) {
     const auto next = std::next(it);
     if (it->due && *it->due <= now) {
@@ -161,6 +161,7 @@ void Session::Continue(Clock::time_point now) {
 }
 
 std::optional<Session::Clock::time_point> Session::NextDue() const {
+  if (!lease_) return importDeadline_;
   std::optional<Clock::time_point> next;
   for (const Waiting &one : waiting_) {
     if (one.due && (!next || *one.due < *next)) next = one.due;

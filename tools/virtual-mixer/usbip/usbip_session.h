@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// One conversation with a USB/IP client, as bytes that come and go: what is
-// asked, what is answered, what still waits. It has no socket and no clock of
-// its own.
+// The session of one USB/IP client: takes the bytes that the client sends,
+// produces the bytes to be sent back, and keeps the requests that still wait
+// for an answer. The caller owns the socket and the clock.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SESSION_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_SESSION_H_
 
@@ -21,20 +21,26 @@ class Session {
  public:
   using Clock = std::chrono::steady_clock;
 
-  // A client that is yet to choose its device.
-  explicit Session(Devices *devices) : devices_(devices) {}
-  // One that has it already.
+  // Time that a client has to list or import devices: an idle client must not
+  // keep others away.
+  static constexpr std::chrono::seconds kTimeToImport{10};
+
+  // A client without a device, connected at this time.
+  Session(Devices *devices, Clock::time_point now)
+      : devices_(devices), importDeadline_(now + kTimeToImport) {}
+  // A client that has its device already.
   Session(Devices *devices, const Lease &lease)
       : devices_(devices), lease_(lease) {}
-  // What still waits has gone.
+  // Requests that still wait end as if the device had gone.
   ~Session();
   Session(const Session &) = delete;
   Session &operator=(const Session &) = delete;
 
-  // Takes what has arrived, in pieces of any size.
+  // Takes bytes that have arrived, in pieces of any size.
   void Receive(const std::uint8_t *bytes, std::size_t count,
                Clock::time_point now);
-  // Gives the answers that are due; ends when the device has gone.
+  // Gives the answers that are due; ends when the device has gone, or when a
+  // client without a device has used up its time.
   void Continue(Clock::time_point now);
   // When Continue is to be called next, if at any time.
   std::optional<Clock::time_point> NextDue() const;
@@ -43,12 +49,14 @@ class Session {
   const Bytes &Output() const { return output_; }
   void Sent(std::size_t count);
 
+  bool HasDevice() const { return lease_.has_value(); }
+
   // No more is taken; the connection closes once the output has been sent.
   bool Ended() const { return ended_; }
-  // Ended, with nothing more to be sent: the client broke the rules, or its
-  // device has gone.
+  // Ended, with nothing more to be sent: the client broke the protocol, its
+  // time is over, or its device has gone.
   bool Broken() const { return broken_; }
-  // Nothing should be read from a client that does not read, either.
+  // Nothing is read from a client that does not read its answers.
   bool WantsInput() const { return !ended_ && output_.size() < kMostOutput; }
 
  private:
@@ -76,6 +84,7 @@ class Session {
 
   Devices *const devices_;
   std::optional<Lease> lease_;
+  Clock::time_point importDeadline_;
   Bytes input_;
   Bytes output_;
   std::list<Waiting> waiting_;
