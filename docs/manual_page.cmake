@@ -3,7 +3,6 @@
 # Makes the manual page of the header with doxygen. The head of doxygen's page
 # names the day of the build and its foot names doxygen: they are replaced, so
 # that each build makes the same bytes.
-cmake_minimum_required(VERSION 3.25)
 cmake_path(GET MADE PARENT_PATH folder)
 file(MAKE_DIRECTORY "${folder}")
 execute_process(COMMAND ${DOXYGEN} ${DOXYFILE} COMMAND_ERROR_IS_FATAL ANY)

@@ -56,6 +56,7 @@ ToolResult ToolTest::Tool(const std::vector<std::string> &arguments) const {
     SendTo(folder_ + "/err", STDERR_FILENO);
     setenv("TMPDIR", (folder_ + "/tmp").c_str(), 1);
     setenv("PROBE", PROBE, 1);
+    setenv("UDEV_PROBE", UDEV_PROBE, 1);
     setenv("TOOL", VIRTUAL_MIXER, 1);
     setenv("DIR", folder_.c_str(), 1);
     execv(VIRTUAL_MIXER, pointers.data());

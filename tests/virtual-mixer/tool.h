@@ -26,7 +26,8 @@ class ToolTest : public testing::Test {
   // Runs the arguments as they are.
   ToolResult Tool(const std::vector<std::string> &arguments) const;
   // Runs a shell script in a sandbox: "run OPTIONS -- sh -c SCRIPT". In the
-  // script, $PROBE and $TOOL are the two programs and $DIR is this folder.
+  // script, $PROBE, $UDEV_PROBE and $TOOL are the programs and $DIR is this
+  // folder.
   ToolResult Inside(const std::vector<std::string> &options,
                     const std::string &script) const;
 

@@ -43,9 +43,7 @@ class ShortTempDir {
 
 std::unique_ptr<Sandbox> MakeSandbox(const WorldOptions &options, LogSink log) {
   const ShortTempDir shortened;
-  return std::make_unique<Sandbox>(
-      SpreadDevices(options.mixers, options.otherDevices, options.buses),
-      std::move(log));
+  return std::make_unique<Sandbox>(PlacementsFor(options), std::move(log));
 }
 
 // The address sanitizer must come before every other library, or the programs
@@ -131,9 +129,9 @@ void Greet(int mixers, bool privateSettings) {
   std::fflush(stdout);
 }
 
-std::vector<std::string> CommandOrShell(const RunOptions &options) {
+std::vector<std::string> CommandOrShell(const RunOptions &options, int mixers) {
   if (!options.command.empty()) return options.command;
-  Greet(options.world.mixers, options.privateSettings);
+  Greet(mixers, options.privateSettings);
   const std::string shell = Variable("SHELL");
   return {shell.empty() ? "/bin/sh" : shell};
 }
@@ -146,6 +144,8 @@ int Run(const RunOptions &options) {
         "already inside a sandbox; leave it first, or use plug and unplug");
   }
   FillStandardStreams();
+  RemoveAbandonedFolders(TemporaryParent());
+  RemoveAbandonedFolders(TemporaryParent(Sandbox::kLongestTempDir));
   const SignalGuard signals;
   const LogFile log(options.world.logFile);
   const std::unique_ptr<Sandbox> sandbox =
@@ -165,7 +165,7 @@ int Run(const RunOptions &options) {
   variables.push_back("LD_PRELOAD=" + PreloadList());
   variables.push_back(std::string(kControlVariable) + "=" + controlPath);
   std::string error;
-  const int status = RunCommand(CommandOrShell(options),
+  const int status = RunCommand(CommandOrShell(options, sandbox->MixerCount()),
                                 EnvironmentWith(variables), signals, &error);
   if (!error.empty()) {
     std::fprintf(stderr, "ztk-virtual-mixer: %s\n", error.c_str());

@@ -1,48 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "virtual-mixer/serve.h"
 
-#include <unistd.h>
-
 #include <cstdio>
-#include <filesystem>
 
 #include "virtual-mixer/command_runner.h"
 #include "virtual-mixer/control/control_commands.h"
 #include "virtual-mixer/control/control_socket.h"
+#include "virtual-mixer/temporary_folder.h"
 #include "virtual-mixer/usbip/usbip_world.h"
 
 namespace ztk::virtual_mixer {
 namespace {
 
 constexpr char kStandardPort[] = "3240";
+// The path of a socket has at most 107 characters.
+constexpr std::size_t kLongestParent = 70;
 
-// The control socket's path, without anything left of it at the end.
-class ControlPath {
- public:
-  ControlPath() {
-    std::string folder = Variable("XDG_RUNTIME_DIR");
-    if (folder.empty()) folder = Variable("TMPDIR");
-    if (folder.empty()) folder = "/tmp";
-    path_ = folder + "/ztk-virtual-mixer." + std::to_string(getpid());
-  }
-  ~ControlPath() {
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
-  }
-  ControlPath(const ControlPath &) = delete;
-  ControlPath &operator=(const ControlPath &) = delete;
-  const std::string &Get() const { return path_; }
+std::string ParentOfControlFolder() {
+  const std::string folder = Variable("XDG_RUNTIME_DIR");
+  return folder.empty() ? TemporaryParent(kLongestParent) : folder;
+}
 
- private:
-  std::string path_;
-};
-
-std::string CountOf(const WorldOptions &options) {
-  std::string text = std::to_string(options.mixers) +
-                     (options.mixers == 1 ? " mixer" : " mixers");
-  if (options.otherDevices > 0) {
-    text += " and " + std::to_string(options.otherDevices) +
-            (options.otherDevices == 1 ? " other device" : " other devices");
+std::string CountOf(const UsbipWorld &world) {
+  const int mixers = world.MixerCount();
+  const int others = world.OtherCount();
+  std::string text =
+      std::to_string(mixers) + (mixers == 1 ? " mixer" : " mixers");
+  if (others > 0) {
+    text += " and " + std::to_string(others) +
+            (others == 1 ? " other device" : " other devices");
   }
   return text;
 }
@@ -61,7 +47,7 @@ std::string AttachCommand(const UsbipWorld &world, const std::string &address) {
 
 void Introduce(const ServeOptions &options, const UsbipWorld &world,
                const std::string &address, const std::string &controlPath) {
-  const std::string count = CountOf(options.world);
+  const std::string count = CountOf(world);
   if (options.attach) {
     std::printf("Attached %s to this machine's kernel.\n", count.c_str());
   } else {
@@ -93,12 +79,13 @@ int Serve(const ServeOptions &options) {
   FillStandardStreams();
   const SignalGuard signals;
   const LogFile log(options.world.logFile);
-  UsbipWorld world(
-      SpreadDevices(options.world.mixers, options.world.otherDevices, 1),
-      log.Sink());
+  UsbipWorld world(PlacementsFor(options.world), log.Sink());
   Prepare(&world, options.world);
-  const ControlPath path;
-  const ControlServer control(path.Get(), [&world](std::string_view line) {
+  const std::string parent = ParentOfControlFolder();
+  RemoveAbandonedFolders(parent);
+  const TemporaryFolder folder(parent, "ztk-virtual-mixer");
+  const std::string controlPath = folder.Path() + "/control";
+  const ControlServer control(controlPath, [&world](std::string_view line) {
     return RunControlCommand(&world, line);
   });
   std::string address;
@@ -108,7 +95,7 @@ int Serve(const ServeOptions &options) {
     address = world.Listen(options.listen);
   }
   if (options.command.empty()) {
-    Introduce(options, world, address, path.Get());
+    Introduce(options, world, address, controlPath);
     WaitForSignal(signals);
     return 0;
   }
@@ -116,7 +103,7 @@ int Serve(const ServeOptions &options) {
   std::string error;
   const int status = RunCommand(
       options.command,
-      EnvironmentWith({std::string(kControlVariable) + "=" + path.Get()}),
+      EnvironmentWith({std::string(kControlVariable) + "=" + controlPath}),
       signals, &error);
   if (!error.empty()) {
     std::fprintf(stderr, "ztk-virtual-mixer: %s\n", error.c_str());

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <filesystem>
 #include <string_view>
+#include <utility>
 
 #include "virtual-mixer/control/control_commands.h"
 
@@ -62,6 +63,27 @@ std::string_view NameOf(std::string_view variable) {
 }
 
 }  // namespace
+
+std::vector<Placement> PlacementsFor(const WorldOptions &options) {
+  if (options.reportFile.empty()) {
+    return SpreadDevices(options.mixers, options.otherDevices, options.buses);
+  }
+  std::vector<RecordedMixer> recorded;
+  try {
+    recorded = ReadReport(options.reportFile, options.delays);
+  } catch (const std::exception &error) {
+    throw UsageError(error.what());
+  }
+  std::vector<Placement> placements = SpreadDevices(
+      static_cast<int>(recorded.size()), options.otherDevices, options.buses);
+  std::size_t next = 0;
+  for (Placement &placement : placements) {
+    if (placement.kind != DeviceKind::Mixer) continue;
+    placement.recorded =
+        std::make_shared<const RecordedMixer>(std::move(recorded[next++]));
+  }
+  return placements;
+}
 
 void Prepare(MixerWorld *world, const WorldOptions &options) {
   for (const std::string &text : options.selectors) {

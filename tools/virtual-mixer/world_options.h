@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What every command that makes a world of mixers is told, and how it is
+// The options of the commands that start virtual mixers, and how they are
 // carried out.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_WORLD_OPTIONS_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_WORLD_OPTIONS_H_
@@ -14,13 +14,17 @@
 
 namespace ztk::virtual_mixer {
 
-// Something the user wrote that cannot be: one line.
+// An invalid command line, as one sentence.
 class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
 struct WorldOptions {
+  // A report, whose mixers are replayed; `mixers` mixers when empty.
+  std::string reportFile;
+  // Whether they answer as late as in the report.
+  Delays delays = Delays::Ignored;
   int mixers = 1;
   int otherDevices = 0;
   int buses = 1;
@@ -33,13 +37,18 @@ struct WorldOptions {
   std::string logFile;
 };
 
-// Does to the mixers what the options ask for. Throws UsageError.
+// The devices that the options ask for. Throws UsageError when the report
+// cannot be replayed.
+std::vector<Placement> PlacementsFor(const WorldOptions &options);
+
+// Prepares the mixers as the options ask for. Throws UsageError.
 void Prepare(MixerWorld *world, const WorldOptions &options);
 
-// A file of request lines. Who reads it after a request finds its line there.
+// A file of request lines. The line of a request is in the file before the
+// program that sent the request goes on.
 class LogFile {
  public:
-  // Starts the file anew; nothing is written when there is no name. Throws
+  // Empties the file; nothing is written when there is no name. Throws
   // std::runtime_error when it cannot be written.
   explicit LogFile(const std::string &name);
   // Null when nothing is written. Not to outlive this object.
@@ -49,18 +58,18 @@ class LogFile {
   FileDescriptor file_;
 };
 
-// A program that has closed its standard streams gives their numbers to the
-// next things that it opens, which then get its messages. To be called before
-// anything is opened.
+// Opens /dev/null for each standard stream that is closed. Otherwise the next
+// files would get their numbers, and the messages of the program. To be called
+// before anything is opened.
 void FillStandardStreams();
 
-// So that this program and its neighbours are found from a build folder too.
+// Makes programs inside find this program and ztk in a build folder too.
 void AddOwnFolderToPath();
 
-// The environment of this process with these "NAME=value" in place of its own.
+// The environment of this process, in which these "NAME=value" replace its own.
 std::vector<std::string> EnvironmentWith(std::vector<std::string> variables);
 
-// Empty when there is none.
+// The value of an environment variable; empty when it is not set.
 std::string Variable(const char *name);
 
 }  // namespace ztk::virtual_mixer

@@ -51,7 +51,7 @@ class Bus : public testing::Test {
   DeviceBus bus_{{{.kind = DeviceKind::Keyboard, .bus = 1},
                   {.kind = DeviceKind::Mixer, .bus = 1},
                   {.kind = DeviceKind::Mixer, .bus = 2}},
-                 0,
+                 DeviceBus::Configuration::ByKernel,
                  [this](const std::string &line) { log_.push_back(line); },
                  [this](const Device &device) {
                    changes_.push_back(device.address.Name() +
@@ -70,7 +70,8 @@ TEST_F(Bus, NumbersMixersAndPorts) {
 }
 
 TEST_F(Bus, RefusesMoreDevicesThanABusHasPorts) {
-  EXPECT_THROW(DeviceBus(std::vector<Placement>(32), 0, nullptr, nullptr),
+  EXPECT_THROW(DeviceBus(std::vector<Placement>(32),
+                         DeviceBus::Configuration::ByKernel, nullptr, nullptr),
                std::runtime_error);
 }
 

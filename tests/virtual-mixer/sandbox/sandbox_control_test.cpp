@@ -68,6 +68,25 @@ TEST_F(Control, UnplugsAndPlugsInWithTheStateKept) {
   EXPECT_EQ(result.err, "");
 }
 
+TEST_F(Control, TellsAListenerOfLibudev) {
+  if (std::string(UDEV_PROBE).empty()) GTEST_SKIP() << "no libudev-dev";
+  const ToolResult result =
+      Inside({"-n", "2"},
+             "$UDEV_PROBE 3 >$DIR/heard & until grep -qs ready $DIR/heard; do "
+             "sleep 0.01; done; $TOOL unplug --mixer 2; $TOOL plug; "
+             "$TOOL fault --mixer 1 unplug; $PROBE write 1 8003 0100; wait");
+  EXPECT_THAT(
+      Lines("heard"),
+      ElementsAre("ready",
+                  "remove /sys/devices/pci0000:00/0000:00:14.0/usb1/1-2 "
+                  "/dev/bus/usb/001/003 001b",
+                  "add /sys/devices/pci0000:00/0000:00:14.0/usb1/1-2 "
+                  "/dev/bus/usb/001/003 001b",
+                  "remove /sys/devices/pci0000:00/0000:00:14.0/usb1/1-1 "
+                  "/dev/bus/usb/001/002 001b"));
+  EXPECT_EQ(result.err, "");
+}
+
 TEST_F(Control, LeavesAnOpenNodeDeadWhenTheMixerComesBack) {
   const ToolResult result = Inside(
       {"--log", Folder() + "/log"},
@@ -129,7 +148,7 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
        2,
        "POSITION is required; see ztk-virtual-mixer turn "
        "--help"},
-      {{"turn", "-m", "0", "1", "3"}, 2, "bad mixer \"0\"; accepted: 1 to 32"},
+      {{"turn", "-m", "0", "1", "3"}, 2, "bad mixer \"0\"; accepted: 1 to 127"},
       {{"fault", "x"}, 2, "unknown fault \"x\"; accepted: stall, silence"},
       {{"reply", "80", "00"}, 2, "bad register \"80\"; accepted: 8001, 8002"},
       {{"reply", "8001", "0"}, 2, "bad bytes \"0\"; accepted: 1 to 64 pairs"},
@@ -143,10 +162,10 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
       {{"show", "me"}, 2, "one word too many after \"show\": \"me\"; see "},
       {{}, 2, "no command is given; accepted: run, serve, turn"},
       {{"run", "ls"}, 2, "put \"--\" before the command"},
-      {{"run", "-n", "33", "--", "true"},
+      {{"run", "-n", "128", "--", "true"},
        2,
-       "bad number of mixers \"33\"; "
-       "accepted: 0 to 32"},
+       "bad number of mixers \"128\"; "
+       "accepted: 0 to 127"},
       {{"run", "--selector", "1", "--", "true"}, 2, "the form is [MIXER:]CH"},
       {{"run", "--selector", "5=1", "--", "true"}, 2, "no channel \"5\""},
       {{"run", "--selector", "2:1=1", "--", "true"}, 2, "no mixer \"2\"; "},

@@ -20,6 +20,7 @@ using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
+using ::testing::SizeIs;
 
 class Running : public ToolTest {};
 
@@ -180,6 +181,44 @@ TEST_F(Running, WorksWithoutStandardStreams) {
 TEST_F(Running, CleansUpWhenItIsAborted) {
   Inside({}, "$PROBE read 1 8001 2 <&- >&- 2>&-");
   EXPECT_THAT(LeftBehind(), IsEmpty());
+}
+
+// A process that is killed cannot remove its folders.
+TEST_F(Running, RemovesTheFoldersOfARunThatWasKilled) {
+  EXPECT_EQ(Inside({"--private-settings"}, "kill -9 $PPID").status, -1);
+  EXPECT_THAT(LeftBehind(), SizeIs(2));
+  EXPECT_EQ(Inside({}, "true").status, 0);
+  EXPECT_THAT(LeftBehind(), IsEmpty());
+}
+
+TEST_F(Running, RemovesTheFolderOfAServerThatWasKilled) {
+  setenv("XDG_RUNTIME_DIR", (Folder() + "/tmp").c_str(), 1);
+  const std::vector<std::string> serve{"serve", "--listen", "127.0.0.1:0",
+                                       "--",    "sh",       "-c"};
+  std::vector<std::string> killed = serve;
+  killed.emplace_back("kill -9 $PPID");
+  std::vector<std::string> unharmed = serve;
+  unharmed.emplace_back("true");
+  EXPECT_EQ(Tool(killed).status, -1);
+  EXPECT_THAT(LeftBehind(), SizeIs(1));
+  EXPECT_EQ(Tool(unharmed).status, 0);
+  unsetenv("XDG_RUNTIME_DIR");
+  EXPECT_THAT(LeftBehind(), IsEmpty());
+}
+
+TEST_F(Running, KeepsTheFoldersOfARunThatGoesOn) {
+  const ToolResult result = Inside(
+      {"--private-settings"},
+      "env -u ZTK_VIRTUAL_MIXER_CONTROL -u UMOCKDEV_DIR LD_PRELOAD= $TOOL run "
+      "-- true; $PROBE read 1 8001 2; test -d $XDG_CONFIG_HOME/tarvix && echo "
+      "settings");
+  EXPECT_EQ(result.out, "2: 36 04\nsettings\n");
+}
+
+TEST_F(Running, LeavesFoldersThatAreNotMarked) {
+  std::filesystem::create_directory(Folder() + "/tmp/umockdev.OTHERS");
+  EXPECT_EQ(Inside({}, "true").status, 0);
+  EXPECT_THAT(LeftBehind(), ElementsAre("umockdev.OTHERS"));
 }
 
 TEST_F(Running, RefusesToBeNested) {

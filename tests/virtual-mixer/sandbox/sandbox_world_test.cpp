@@ -57,12 +57,12 @@ TEST_F(World, NumbersDevicesAlongTheBuses) {
                           "002/003 2-2 6666:001b", "002/004 2-3 1d6b:f002"));
 }
 
-TEST_F(World, HoldsThirtyTwoMixersInTheirOrder) {
+TEST_F(World, HoldsAHundredAndTwentySevenMixersInTheirOrder) {
   const ToolResult result =
-      Inside({"-n", "32", "--selector", "1:1=1", "--selector", "32:1=9"},
+      Inside({"-n", "127", "--selector", "1:1=1", "--selector", "127:1=9"},
              "$PROBE list | grep -c 6666:001b; $PROBE read 1 8002 2; "
-             "$PROBE read 32 8002 2; $PROBE read 33 8002 2");
-  EXPECT_EQ(result.out, "32\n2: 00 01\n2: 00 09\nno such mixer\n");
+             "$PROBE read 127 8002 2; $PROBE read 128 8002 2");
+  EXPECT_EQ(result.out, "127\n2: 00 01\n2: 00 09\nno such mixer\n");
 }
 
 TEST_F(World, HasTheAttributesOfARealOne) {

@@ -16,7 +16,7 @@ namespace ztk::virtual_mixer {
 std::vector<Command> WorldCommands();
 std::vector<Command> InsideCommands();
 
-inline constexpr unsigned kMostMixers = 32;
+inline constexpr unsigned kMostMixers = 127;
 
 // How a fault is written, for the help of each command that takes one.
 extern const char kFaultHelp[];

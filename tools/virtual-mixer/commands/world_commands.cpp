@@ -30,6 +30,17 @@ WorldOptions World(const Words &words) {
              kMostOthers, &options.otherDevices);
   TakeNumber(words, "--buses", "number of buses", 1, kMostBuses,
              &options.buses);
+  options.reportFile = words.One("--device");
+  if (words.Has("--device") && words.Has("--mixers")) {
+    throw UsageError(
+        "--device excludes --mixers: the report tells how many there are");
+  }
+  if (words.Has("--delays")) {
+    if (!words.Has("--device")) {
+      throw UsageError("--delays needs --device, whose delays are replayed");
+    }
+    options.delays = Delays::Replayed;
+  }
   options.selectors = words.All("--selector");
   options.replies = words.All("--reply");
   options.faults = words.All("--fault");
@@ -66,7 +77,15 @@ int RunServe(const Words &words) {
 std::vector<Option> WorldOptionTexts() {
   return {{.names = "-n,--mixers",
            .value = "N",
-           .description = "Mixers, 0 to 32; 1 when left out"},
+           .description = "Mixers, 0 to 127; 1 when left out"},
+          {.names = "--device",
+           .value = "FILE",
+           .description = "The mixers of a report that ztk doctor --report "
+                          "has written, instead of -n",
+           .fill = Fill::File},
+          {.names = "--delays",
+           .value = "",
+           .description = "With --device: answer as late as in the report"},
           {.names = "--other-devices",
            .value = "N",
            .description = "Other devices, half before and half after the "

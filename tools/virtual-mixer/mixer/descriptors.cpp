@@ -90,11 +90,52 @@ std::string Numbered(const char *format, int number) {
   return text.data();
 }
 
+// An interface descriptor has 9 bytes.
+bool IsInterface(const std::uint8_t *descriptor) {
+  return descriptor[0] >= 9 && descriptor[1] == 4;
+}
+
+// Calls `visit` with each descriptor, whose first byte is its length. False
+// when a length is wrong.
+template <typename Visit>
+bool VisitDescriptors(const Bytes &bytes, Visit visit) {
+  std::size_t at = 0;
+  while (at < bytes.size()) {
+    const std::size_t length = bytes[at];
+    if (length < 2 || length > bytes.size() - at) return false;
+    visit(bytes.data() + at);
+    at += length;
+  }
+  return true;
+}
+
 }  // namespace
 
 std::uint16_t Descriptors::Vendor() const { return Word(device, 8); }
 std::uint16_t Descriptors::Product() const { return Word(device, 10); }
 std::uint16_t Descriptors::Release() const { return Word(device, 12); }
+
+std::vector<Interface> Descriptors::Interfaces() const {
+  std::vector<Interface> interfaces;
+  VisitDescriptors(configuration, [&](const std::uint8_t *bytes) {
+    if (!IsInterface(bytes) || bytes[3] != 0) return;
+    interfaces.push_back({.number = bytes[2],
+                          .endpoints = bytes[4],
+                          .interfaceClass = bytes[5],
+                          .subclass = bytes[6],
+                          .protocol = bytes[7]});
+  });
+  return interfaces;
+}
+
+bool AreWellFormed(const Bytes &configuration) {
+  bool hasInterface = false;
+  const bool whole =
+      VisitDescriptors(configuration, [&](const std::uint8_t *bytes) {
+        hasInterface = hasInterface || (IsInterface(bytes) && bytes[3] == 0);
+      });
+  return whole && hasInterface;
+}
 
 Descriptors MixerDescriptors(int mixer) {
   return Make({.vendor = build::kUsbVendorId,

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Descriptors of the mixer and of the strangers that may stand beside it.
+// Descriptors of the mixer and of the other devices that may be attached too.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_MIXER_DESCRIPTORS_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_DESCRIPTORS_H_
 
@@ -17,12 +17,22 @@ using Bytes = std::vector<std::uint8_t>;
 
 inline constexpr std::uint16_t kMixerProduct = 27;
 
-// A device with one configuration and one interface that has no endpoints.
+// An interface in its first setting.
+struct Interface {
+  std::uint8_t number = 0;
+  std::uint8_t endpoints = 0;
+  std::uint8_t interfaceClass = 0;
+  std::uint8_t subclass = 0;
+  std::uint8_t protocol = 0;
+};
+
+// A device with one configuration.
 struct Descriptors {
   // As they go over the wire; the device's has 18 bytes.
   Bytes device;
   Bytes configuration;
-  // Manufacturer, product, serial number: string indexes 1 to 3.
+  // Manufacturer, product, serial number; the device descriptor has their
+  // string indexes.
   std::array<std::string, 3> strings;
   // Mbit/s, as sysfs writes it.
   std::string speed;
@@ -31,8 +41,12 @@ struct Descriptors {
   std::uint16_t Product() const;
   std::uint16_t Release() const;
   std::uint8_t DeviceClass() const { return device[4]; }
-  std::uint8_t InterfaceClass() const { return configuration[14]; }
+  std::uint8_t ConfigurationValue() const { return configuration[5]; }
+  std::vector<Interface> Interfaces() const;
 };
+
+// Whether the descriptors fill the bytes exactly and one is of an interface.
+bool AreWellFormed(const Bytes &configuration);
 
 // The n-th mixer; only the serial number tells mixers apart.
 Descriptors MixerDescriptors(int mixer);

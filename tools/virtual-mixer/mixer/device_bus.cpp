@@ -11,31 +11,47 @@
 namespace ztk::virtual_mixer {
 
 DeviceBus::DeviceBus(const std::vector<Placement> &placements,
-                     std::uint8_t configuration, LogSink log, Listener listener)
+                     Configuration configuration, LogSink log,
+                     Listener listener)
     : configuration_(configuration),
       log_(std::move(log)),
       listener_(std::move(listener)) {
   std::map<int, int> lastPort;
   for (const Placement &placement : placements) {
-    auto device = std::make_unique<Device>();
-    device->position = devices_.size();
     const bool isRootHub = placement.kind == DeviceKind::RootHub;
-    device->address = {.bus = placement.bus,
-                       .port = isRootHub ? 0 : ++lastPort[placement.bus]};
-    if (device->address.port > kPortsOfABus) {
-      throw std::runtime_error("bus " + std::to_string(placement.bus) +
-                               " has no port left");
-    }
-    if (placement.kind == DeviceKind::Mixer) {
-      mixers_.push_back(device->position);
-      device->mixer = MixerCount();
-      device->model = std::make_unique<MixerModel>();
-    }
-    device->descriptors = DescriptorsOf(
-        placement.kind, isRootHub ? placement.bus : device->mixer);
-    device->configuration = configuration_;
-    devices_.push_back(std::move(device));
+    AddDevice(placement, isRootHub ? 0 : ++lastPort[placement.bus]);
   }
+}
+
+void DeviceBus::AddDevice(const Placement &placement, int port) {
+  if (port > kPortsOfABus) {
+    throw std::runtime_error("bus " + std::to_string(placement.bus) +
+                             " has no port left");
+  }
+  auto device = std::make_unique<Device>();
+  device->position = devices_.size();
+  device->address = {.bus = placement.bus, .port = port};
+  if (placement.kind == DeviceKind::Mixer) {
+    mixers_.push_back(device->position);
+    device->mixer = MixerCount();
+    device->model = std::make_unique<MixerModel>();
+  }
+  device->descriptors =
+      DescriptorsOf(placement.kind, port == 0 ? placement.bus : device->mixer);
+  if (placement.recorded) Replay(*placement.recorded, device.get());
+  Reset(device.get());
+  devices_.push_back(std::move(device));
+}
+
+// Reports have no serial numbers; that of a virtual mixer takes the place.
+void DeviceBus::Replay(const RecordedMixer &recorded, Device *device) {
+  const std::string serial = device->descriptors.strings[2];
+  device->descriptors = recorded.descriptors;
+  device->descriptors.strings[2] = serial;
+  for (const auto &[number, reply] : recorded.replies) {
+    device->model->SetReply(number, reply);
+  }
+  for (const Fault &fault : recorded.faults) device->model->AddFault(fault);
 }
 
 int DeviceBus::OtherCount() const {
@@ -87,7 +103,9 @@ void DeviceBus::UnplugLocked(Device *device) {
 // As it is after being plugged in. What was set outlives being unplugged: the
 // mixer has its own power supply.
 void DeviceBus::Reset(Device *device) const {
-  device->configuration = configuration_;
+  device->configuration = configuration_ == Configuration::AtOnce
+                              ? device->descriptors.ConfigurationValue()
+                              : std::uint8_t{0};
   ++device->connection;
 }
 

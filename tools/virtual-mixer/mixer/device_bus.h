@@ -58,10 +58,13 @@ class DeviceBus {
   // of the bus it may call Log only.
   using Listener = std::function<void(const Device &device)>;
 
-  // All devices are plugged in. `configuration` is the one that a device has
-  // when it is plugged in: 1 where no kernel configures it.
+  // Whether devices have their configuration as soon as they are plugged in, or
+  // wait for a kernel that chooses it.
+  enum class Configuration { AtOnce, ByKernel };
+
+  // All devices are plugged in.
   DeviceBus(const std::vector<Placement> &placements,
-            std::uint8_t configuration, LogSink log, Listener listener);
+            Configuration configuration, LogSink log, Listener listener);
 
   std::size_t Count() const { return devices_.size(); }
   int MixerCount() const { return static_cast<int>(mixers_.size()); }
@@ -100,11 +103,13 @@ class DeviceBus {
                            std::chrono::milliseconds longest) const;
 
  private:
+  void AddDevice(const Placement &placement, int port);
+  static void Replay(const RecordedMixer &recorded, Device *device);
   Device &Mixer(int mixer) { return *devices_[PositionOf(mixer)]; }
   void Reset(Device *device) const;
   void UnplugLocked(Device *device);
 
-  const std::uint8_t configuration_;
+  const Configuration configuration_;
   const LogSink log_;
   const Listener listener_;
   std::mutex logMutex_;

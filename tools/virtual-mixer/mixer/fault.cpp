@@ -163,9 +163,13 @@ std::optional<std::uint16_t> ParseRegister(std::string_view text) {
 }
 
 std::optional<std::vector<std::uint8_t>> ParseBytes(std::string_view text) {
-  if (text.empty() || text.size() % 2 != 0 || text.size() > 128) {
-    return std::nullopt;
-  }
+  if (text.empty()) return std::nullopt;
+  return ParseBytes(text, 64);
+}
+
+std::optional<std::vector<std::uint8_t>> ParseBytes(std::string_view text,
+                                                    std::size_t most) {
+  if (text.size() % 2 != 0 || text.size() / 2 > most) return std::nullopt;
   std::vector<std::uint8_t> bytes;
   for (std::size_t i = 0; i < text.size(); i += 2) {
     std::uint8_t byte = 0;

@@ -56,7 +56,10 @@ std::string FormatFault(const Fault &fault);
 // Both read the whole text, or return nothing. A register has four hexadecimal
 // digits.
 std::optional<std::uint16_t> ParseRegister(std::string_view text);
-// Pairs of hexadecimal digits, 1 to 64 of them.
+// At most so many pairs of hexadecimal digits, perhaps none.
+std::optional<std::vector<std::uint8_t>> ParseBytes(std::string_view text,
+                                                    std::size_t most);
+// 1 to 64 pairs, as they are written on a command line.
 std::optional<std::vector<std::uint8_t>> ParseBytes(std::string_view text);
 
 }  // namespace ztk::virtual_mixer

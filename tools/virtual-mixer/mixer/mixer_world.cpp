@@ -20,7 +20,8 @@ std::vector<Placement> SpreadDevices(int mixers, int others, int buses) {
     const bool isMixer = i >= before && i < before + mixers;
     placements.push_back(
         {.kind = isMixer ? DeviceKind::Mixer : kKinds[other++ % kKinds.size()],
-         .bus = i / onEach + 1});
+         .bus = i / onEach + 1,
+         .recorded = nullptr});
   }
   return placements;
 }

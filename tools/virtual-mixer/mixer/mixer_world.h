@@ -6,11 +6,13 @@
 #define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_MIXER_WORLD_H_
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "virtual-mixer/mixer/device_model.h"
+#include "virtual-mixer/mixer/recorded_mixer.h"
 #include "virtual-mixer/mixer/usb_tree.h"
 
 namespace ztk::virtual_mixer {
@@ -22,6 +24,8 @@ enum class DeviceKind { Mixer, Hub, Keyboard, Storage, Sibling, RootHub };
 struct Placement {
   DeviceKind kind = DeviceKind::Mixer;
   int bus = 1;
+  // A mixer that behaves as this one did; null for one without history.
+  std::shared_ptr<const RecordedMixer> recorded = nullptr;
 };
 
 // Mixers, with half of the other devices before them and half after them, on

@@ -21,6 +21,8 @@ constexpr std::uint8_t kDevice = 1;
 constexpr std::uint8_t kConfiguration = 2;
 constexpr std::uint8_t kString = 3;
 
+constexpr std::size_t kFirstStringIndex = 14;
+
 // Texts are plain ASCII here, so each character is one UTF-16 unit.
 Bytes StringDescriptor(const std::string &text) {
   Bytes bytes{static_cast<std::uint8_t>(2 + 2 * text.size()), kString};
@@ -40,8 +42,13 @@ std::optional<Bytes> FindDescriptor(const Descriptors &descriptors,
   if (type != kString) return std::nullopt;
   // Index 0 lists the languages: US English alone.
   if (number == 0) return Bytes{4, kString, 0x09, 0x04};
-  if (number > descriptors.strings.size()) return std::nullopt;
-  return StringDescriptor(descriptors.strings[number - 1]);
+  // The device descriptor has the indexes of its three strings.
+  for (std::size_t i = 0; i < descriptors.strings.size(); ++i) {
+    if (descriptors.device[kFirstStringIndex + i] == number) {
+      return StringDescriptor(descriptors.strings[i]);
+    }
+  }
+  return std::nullopt;
 }
 
 std::optional<Bytes> Read(const Descriptors &descriptors,
@@ -63,15 +70,17 @@ std::optional<Bytes> Read(const Descriptors &descriptors,
   }
 }
 
-TransferStatus Write(const SetupPacket &setup, std::uint8_t *configuration) {
+TransferStatus Write(const Descriptors &descriptors, const SetupPacket &setup,
+                     std::uint8_t *configuration) {
   switch (setup.request) {
     case kSetConfiguration:
-      if (setup.value > 1) return TransferStatus::Stall;
+      if (setup.value != 0 && setup.value != descriptors.ConfigurationValue()) {
+        return TransferStatus::Stall;
+      }
       *configuration = static_cast<std::uint8_t>(setup.value);
       return TransferStatus::Ok;
     case kSetInterface:
-      return setup.value == 0 && setup.index == 0 ? TransferStatus::Ok
-                                                  : TransferStatus::Stall;
+      return setup.value == 0 ? TransferStatus::Ok : TransferStatus::Stall;
     case kSetAddress:
     case kClearFeature:
     case kSetFeature:
@@ -91,7 +100,7 @@ TransferStatus AnswerStandardRequest(const Descriptors &descriptors,
                                      const SetupPacket &setup,
                                      std::uint8_t *configuration, Bytes *data) {
   data->clear();
-  if (!IsRead(setup)) return Write(setup, configuration);
+  if (!IsRead(setup)) return Write(descriptors, setup, configuration);
   const std::optional<Bytes> reply = Read(descriptors, setup, *configuration);
   if (!reply) return TransferStatus::Stall;
   *data = *reply;

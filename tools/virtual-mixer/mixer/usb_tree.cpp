@@ -27,8 +27,12 @@ std::string Attribute(const char *name, const std::string &value) {
   return "A: " + std::string(name) + "=" + value + "\\n\n";
 }
 
-std::string Property(const char *name, const std::string &value) {
-  return "E: " + std::string(name) + "=" + value + "\n";
+std::string Listed(const Properties &properties) {
+  std::string text;
+  for (const auto &[name, value] : properties) {
+    text += "E: " + name + "=" + value + "\n";
+  }
+  return text;
 }
 
 std::string DevicePath(const Address &address) {
@@ -48,29 +52,14 @@ std::string Byte(std::uint8_t value) {
   return Format("%02x", static_cast<unsigned>(value));
 }
 
-std::string DeviceProperties(const Address &address,
-                             const Descriptors &device) {
-  return Property("SUBSYSTEM", "usb") + Property("DEVTYPE", "usb_device") +
-         Property("DEVNAME", address.Node()) +
-         Property("BUSNUM", Format("%03d", address.bus)) +
-         Property("DEVNUM", Format("%03d", address.DeviceNumber())) +
-         Property("MAJOR", "189") +
-         Property("MINOR", std::to_string(address.Minor())) +
-         Property("PRODUCT", ProductProperty(device)) +
-         Property("TYPE", std::to_string(device.DeviceClass()) + "/0/0") +
-         Property("DRIVER", "usb") +
-         Property("ID_VENDOR_ID", Word(device.Vendor())) +
-         Property("ID_MODEL_ID", Word(device.Product()));
-}
-
 }  // namespace
 
 std::string Address::Name() const {
   return port == 0 ? Format("usb%d", bus) : Format("%d-%d", bus, port);
 }
 
-std::string Address::InterfaceName() const {
-  return Format("%d-%d:1.0", bus, port);
+std::string Address::InterfaceName(const Interface &interface) const {
+  return Format("%d-%d:1.%d", bus, port, interface.number);
 }
 
 std::string Address::SysPath() const {
@@ -83,12 +72,37 @@ std::string Address::Node() const {
   return Format("/dev/bus/usb/%03d/%03d", bus, DeviceNumber());
 }
 
+Properties DeviceProperties(const Address &address, const Descriptors &device) {
+  return {{"SUBSYSTEM", "usb"},
+          {"DEVTYPE", "usb_device"},
+          {"DEVNAME", address.Node()},
+          {"BUSNUM", Format("%03d", address.bus)},
+          {"DEVNUM", Format("%03d", address.DeviceNumber())},
+          {"MAJOR", "189"},
+          {"MINOR", std::to_string(address.Minor())},
+          {"PRODUCT", ProductProperty(device)},
+          {"TYPE", std::to_string(device.DeviceClass()) + "/0/0"},
+          {"DRIVER", "usb"},
+          {"ID_VENDOR_ID", Word(device.Vendor())},
+          {"ID_MODEL_ID", Word(device.Product())}};
+}
+
+Properties InterfaceProperties(const Descriptors &device,
+                               const Interface &interface) {
+  return {{"SUBSYSTEM", "usb"},
+          {"DEVTYPE", "usb_interface"},
+          {"PRODUCT", ProductProperty(device)},
+          {"INTERFACE", Format("%d/%d/%d", interface.interfaceClass,
+                               interface.subclass, interface.protocol)}};
+}
+
 std::string DeviceRecord(const Address &address, const Descriptors &device) {
   Bytes descriptors = device.device;
   descriptors.insert(descriptors.end(), device.configuration.begin(),
                      device.configuration.end());
   return "P: " + DevicePath(address) + "\n" + "N: " + address.Node().substr(5) +
-         "=" + Hex(descriptors) + "\n" + DeviceProperties(address, device) +
+         "=" + Hex(descriptors) + "\n" +
+         Listed(DeviceProperties(address, device)) +
          "A: dev=189:" + std::to_string(address.Minor()) + "\n" +
          "H: descriptors=" + Hex(descriptors) + "\n" +
          Attribute("busnum", std::to_string(address.bus)) +
@@ -98,13 +112,16 @@ std::string DeviceRecord(const Address &address, const Descriptors &device) {
          Attribute("idProduct", Word(device.Product())) +
          Attribute("bcdDevice", Word(device.Release())) +
          Attribute("bDeviceClass", Byte(device.DeviceClass())) +
-         Attribute("bDeviceSubClass", "00") +
-         Attribute("bDeviceProtocol", "00") +
-         Attribute("bMaxPacketSize0", "64") +
+         Attribute("bDeviceSubClass", Byte(device.device[5])) +
+         Attribute("bDeviceProtocol", Byte(device.device[6])) +
+         Attribute("bMaxPacketSize0", std::to_string(device.device[7])) +
          Attribute("bNumConfigurations", "1") +
-         Attribute("bNumInterfaces", " 1") +
-         Attribute("bConfigurationValue", "1") +
-         Attribute("bmAttributes", "c0") + Attribute("bMaxPower", "0mA") +
+         Attribute("bNumInterfaces", Format("%2d", device.configuration[4])) +
+         Attribute("bConfigurationValue",
+                   std::to_string(device.ConfigurationValue())) +
+         Attribute("bmAttributes", Byte(device.configuration[7])) +
+         Attribute("bMaxPower",
+                   std::to_string(2 * device.configuration[8]) + "mA") +
          Attribute("configuration", "") +
          Attribute("maxchild",
                    address.port == 0 ? std::to_string(kPortsOfABus) : "0") +
@@ -115,18 +132,16 @@ std::string DeviceRecord(const Address &address, const Descriptors &device) {
          Attribute("serial", device.strings[2]) + "\n";
 }
 
-std::string InterfaceRecord(const Address &address, const Descriptors &device) {
-  const std::string kind = Byte(device.InterfaceClass());
-  return "P: " + DevicePath(address) + "/" + address.InterfaceName() + "\n" +
-         Property("SUBSYSTEM", "usb") + Property("DEVTYPE", "usb_interface") +
-         Property("PRODUCT", ProductProperty(device)) +
-         Property("INTERFACE",
-                  std::to_string(device.InterfaceClass()) + "/0/0") +
-         Attribute("bInterfaceNumber", "00") +
+std::string InterfaceRecord(const Address &address, const Descriptors &device,
+                            const Interface &interface) {
+  return "P: " + DevicePath(address) + "/" + address.InterfaceName(interface) +
+         "\n" + Listed(InterfaceProperties(device, interface)) +
+         Attribute("bInterfaceNumber", Byte(interface.number)) +
          Attribute("bAlternateSetting", " 0") +
-         Attribute("bNumEndpoints", "00") + Attribute("bInterfaceClass", kind) +
-         Attribute("bInterfaceSubClass", "00") +
-         Attribute("bInterfaceProtocol", "00") + "\n";
+         Attribute("bNumEndpoints", Byte(interface.endpoints)) +
+         Attribute("bInterfaceClass", Byte(interface.interfaceClass)) +
+         Attribute("bInterfaceSubClass", Byte(interface.subclass)) +
+         Attribute("bInterfaceProtocol", Byte(interface.protocol)) + "\n";
 }
 
 }  // namespace ztk::virtual_mixer

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// Where a device stands in /sys and /dev, and its description in the text
-// form that umockdev builds devices from.
+// The place of a device in /sys and /dev, its udev properties, and its
+// description in the text form from which umockdev builds devices.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_MIXER_USB_TREE_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_USB_TREE_H_
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "virtual-mixer/mixer/descriptors.h"
 
@@ -23,14 +25,22 @@ struct Address {
   int DeviceNumber() const { return port + 1; }
   // Of the node; the major number is 189.
   int Minor() const { return (bus - 1) * 128 + DeviceNumber() - 1; }
-  std::string Name() const;           // 1-2, usb1
-  std::string InterfaceName() const;  // 1-2:1.0, 1-0:1.0
-  std::string SysPath() const;        // /sys/devices/...
-  std::string Node() const;           // /dev/bus/usb/001/003
+  std::string Name() const;  // 1-2, usb1
+  // 1-2:1.0, 1-0:1.0
+  std::string InterfaceName(const Interface &interface) const;
+  std::string SysPath() const;  // /sys/devices/...
+  std::string Node() const;     // /dev/bus/usb/001/003
 };
 
+// Names and values.
+using Properties = std::vector<std::pair<std::string, std::string>>;
+Properties DeviceProperties(const Address &address, const Descriptors &device);
+Properties InterfaceProperties(const Descriptors &device,
+                               const Interface &interface);
+
 std::string DeviceRecord(const Address &address, const Descriptors &device);
-std::string InterfaceRecord(const Address &address, const Descriptors &device);
+std::string InterfaceRecord(const Address &address, const Descriptors &device,
+                            const Interface &interface);
 
 }  // namespace ztk::virtual_mixer
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "virtual-mixer/sandbox/private_settings.h"
 
-#include <cerrno>
-#include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <stdexcept>
 #include <system_error>
@@ -15,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Holds what the library and ztk remember, in both folders.
+// Folder of the settings and the history, in both folders.
 constexpr char kMakersFolder[] = "tarvix";
 
 struct Place {
@@ -29,7 +26,7 @@ constexpr Place kPlaces[] = {
      .belowHome = ".local/state",
      .name = "state"}};
 
-// The user's own; empty when it cannot be told.
+// The user's own folder; empty when it is not known.
 fs::path OwnFolder(const Place &place) {
   fs::path folder = Variable(place.variable);
   if (folder.is_absolute()) return folder;
@@ -37,51 +34,38 @@ fs::path OwnFolder(const Place &place) {
   return home.is_absolute() ? home / place.belowHome : fs::path();
 }
 
-// What cannot be linked to is missing inside, which is no reason to stop.
-void LinkToTheRest(const fs::path &own, const fs::path &stead) {
+// Links to everything in the user's own folder but the settings of the mixers.
+// Programs inside have to do without an entry that cannot be linked to.
+void LinkToOtherEntries(const fs::path &own, const fs::path &replacement) {
   std::error_code ignored;
   for (const auto &entry : fs::directory_iterator(own, ignored)) {
     const fs::path name = entry.path().filename();
     if (name == kMakersFolder) continue;
-    fs::create_symlink(entry.path(), stead / name, ignored);
+    fs::create_symlink(entry.path(), replacement / name, ignored);
   }
-}
-
-std::string MakeFolder() {
-  std::string path = Variable("TMPDIR");
-  // A relative one would be taken for none.
-  if (!fs::path(path).is_absolute()) path = "/tmp";
-  path += "/ztk-settings.XXXXXX";
-  if (mkdtemp(path.data()) != nullptr) return path;
-  throw std::runtime_error("no folder for private settings: " + path + ": " +
-                           std::strerror(errno));
 }
 
 }  // namespace
 
-PrivateSettings::PrivateSettings() : folder_(MakeFolder()) {
+PrivateSettings::PrivateSettings()
+    : folder_(TemporaryParent(), "ztk-settings") {
   for (const Place &place : kPlaces) {
-    const fs::path stead = fs::path(folder_) / place.name;
+    const fs::path replacement = fs::path(Folder()) / place.name;
     // Made here, or the library would share a home with macOS instead.
     std::error_code failure;
-    fs::create_directories(stead / kMakersFolder, failure);
+    fs::create_directories(replacement / kMakersFolder, failure);
     if (failure) {
       throw std::runtime_error("no folder for private settings: " +
-                               stead.string() + ": " + failure.message());
+                               replacement.string() + ": " + failure.message());
     }
-    LinkToTheRest(OwnFolder(place), stead);
+    LinkToOtherEntries(OwnFolder(place), replacement);
   }
-}
-
-PrivateSettings::~PrivateSettings() {
-  std::error_code ignored;
-  fs::remove_all(folder_, ignored);
 }
 
 std::vector<std::string> PrivateSettings::Environment() const {
   std::vector<std::string> variables;
   for (const Place &place : kPlaces) {
-    variables.push_back(std::string(place.variable) + "=" + folder_ + "/" +
+    variables.push_back(std::string(place.variable) + "=" + Folder() + "/" +
                         place.name);
   }
   return variables;

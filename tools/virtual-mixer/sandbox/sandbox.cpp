@@ -16,13 +16,13 @@
 #include <stdexcept>
 #include <utility>
 
+#include "virtual-mixer/sandbox/uevent.h"
+
 namespace ztk::virtual_mixer {
 namespace {
 
 // A file that not even the superuser may open for writing.
 constexpr char kReadOnlyForAll[] = "/proc/sys/kernel/ostype";
-// As if a kernel had taken the devices already.
-constexpr std::uint8_t kConfigured = 1;
 
 // Where there can be no folder the testbed ends the whole program.
 void CheckTempDir() {
@@ -72,7 +72,8 @@ std::vector<Placement> WithRootHubs(const std::vector<Placement> &placements) {
   std::vector<Placement> all;
   const auto addHub = [&](int bus) {
     if (!buses.insert(bus).second) return;
-    all.push_back({.kind = DeviceKind::RootHub, .bus = bus});
+    all.push_back(
+        {.kind = DeviceKind::RootHub, .bus = bus, .recorded = nullptr});
   };
   for (const Placement &placement : placements) {
     addHub(placement.bus);
@@ -89,7 +90,8 @@ void Sandbox::TestbedDeleter::operator()(_UMockdevTestbed *testbed) const {
 }
 
 Sandbox::Sandbox(const std::vector<Placement> &placements, LogSink log)
-    : bus_(WithRootHubs(placements), kConfigured, std::move(log),
+    : bus_(WithRootHubs(placements), DeviceBus::Configuration::AtOnce,
+           std::move(log),
            [this](const Device &device) {
              device.pluggedIn ? Appear(device) : Disappear(device);
            }),
@@ -115,6 +117,7 @@ Sandbox::Sandbox(const std::vector<Placement> &placements, LogSink log)
   gchar *const root = umockdev_testbed_get_root_dir(testbed_.get());
   rootDir_ = root;
   g_free(root);
+  mark_ = FolderMark(rootDir_);
 
   forbidden_.resize(bus_.Count());
   for (std::size_t i = 0; i < bus_.Count(); ++i) {
@@ -160,8 +163,36 @@ void Sandbox::SetForbidden(int mixer, bool forbidden) {
 void Sandbox::Appear(const Device &device) {
   AddRecord(testbed_.get(), DeviceRecord(device.address, device.descriptors));
   if (forbidden_[device.position]) HideNode(device);
-  AddRecord(testbed_.get(),
-            InterfaceRecord(device.address, device.descriptors));
+  for (const Interface &interface : device.descriptors.Interfaces()) {
+    AddRecord(testbed_.get(),
+              InterfaceRecord(device.address, device.descriptors, interface));
+  }
+  Announce(device);
+}
+
+// Sends the events of the device and its interfaces to programs that listen
+// through libudev. In a process that is itself inside, umockdev does that.
+void Sandbox::Announce(const Device &device) {
+  if (umockdev_in_mock_environment() != FALSE) return;
+  const char *const action = device.pluggedIn ? "add" : "remove";
+  const Address &address = device.address;
+  const std::string devPath = address.SysPath().substr(std::strlen("/sys"));
+  const auto send = [&](const std::string &path, const Properties &properties) {
+    SendUevent(rootDir_, {.action = action,
+                          .devPath = path,
+                          .properties = properties,
+                          .sequence = ++ueventSequence_});
+  };
+  const auto sendDevice = [&] {
+    send(devPath, DeviceProperties(address, device.descriptors));
+  };
+  // In the order of the kernel: interfaces are part of the device.
+  if (device.pluggedIn) sendDevice();
+  for (const Interface &interface : device.descriptors.Interfaces()) {
+    send(devPath + "/" + address.InterfaceName(interface),
+         InterfaceProperties(device.descriptors, interface));
+  }
+  if (!device.pluggedIn) sendDevice();
 }
 
 // The socket stays attached while the device is away: umockdev ends a program
@@ -181,15 +212,18 @@ void Sandbox::AttachIoctl(const Device &device) {
 void Sandbox::Disappear(const Device &device) {
   const Address &address = device.address;
   const std::string sysPath = address.SysPath();
-  // The interface first, as in the kernel: it is part of the device.
-  RemoveEntry(testbed_.get(), rootDir_, sysPath + "/" + address.InterfaceName(),
-              address.InterfaceName());
+  // The interfaces first, as in the kernel: they are part of the device.
+  for (const Interface &interface : device.descriptors.Interfaces()) {
+    const std::string name = address.InterfaceName(interface);
+    RemoveEntry(testbed_.get(), rootDir_, sysPath + "/" + name, name);
+  }
   RemoveEntry(testbed_.get(), rootDir_, sysPath, address.Name());
   std::filesystem::remove(
       rootDir_ + "/sys/dev/char/189:" + std::to_string(address.Minor()));
   std::filesystem::remove(rootDir_ + address.Node());
   std::filesystem::remove(rootDir_ + NumbersLink(address));
   front_.Abandon(device.position);
+  Announce(device);
 }
 
 void Sandbox::ShowNode(const Device &device) {

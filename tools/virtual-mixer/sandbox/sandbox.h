@@ -11,6 +11,7 @@
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_SANDBOX_SANDBOX_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_SANDBOX_SANDBOX_H_
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -21,6 +22,7 @@
 #include "virtual-mixer/mixer/mixer_world.h"
 #include "virtual-mixer/mixer/usb_tree.h"
 #include "virtual-mixer/sandbox/usbfs_front.h"
+#include "virtual-mixer/temporary_folder.h"
 
 struct _UMockdevTestbed;  // NOLINT(bugprone-reserved-identifier): fixed name
 
@@ -61,6 +63,7 @@ class Sandbox : public MixerWorld {
   void Appear(const Device &device);
   void Disappear(const Device &device);
   void AttachIoctl(const Device &device);
+  void Announce(const Device &device);
   void ShowNode(const Device &device);
   void HideNode(const Device &device);
 
@@ -76,6 +79,8 @@ class Sandbox : public MixerWorld {
   };
   std::unique_ptr<_UMockdevTestbed, TestbedDeleter> testbed_;
   std::string rootDir_;
+  FolderMark mark_;
+  std::uint64_t ueventSequence_ = 0;
 };
 
 }  // namespace ztk::virtual_mixer

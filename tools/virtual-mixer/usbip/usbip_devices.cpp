@@ -15,7 +15,7 @@ Export ExportOf(const Device &device) {
 }  // namespace
 
 Devices::Devices(const std::vector<Placement> &placements, LogSink log)
-    : bus_(placements, 0, std::move(log),
+    : bus_(placements, DeviceBus::Configuration::ByKernel, std::move(log),
            [this](const Device &device) { lent_[device.position] = false; }),
       lent_(bus_.Count()) {}
 

@@ -63,13 +63,14 @@ void PutDevice(const Export &device, Bytes *out) {
               descriptors.device.begin() + 7);
   out->push_back(device.configuration);
   out->push_back(descriptors.device[17]);
-  out->push_back(descriptors.configuration[4]);
+  out->push_back(static_cast<std::uint8_t>(descriptors.Interfaces().size()));
 }
 
-void PutInterface(const Descriptors &descriptors, Bytes *out) {
-  out->insert(out->end(), descriptors.configuration.begin() + 14,
-              descriptors.configuration.begin() + 17);
-  out->push_back(0);
+void PutInterfaces(const Descriptors &descriptors, Bytes *out) {
+  for (const Interface &interface : descriptors.Interfaces()) {
+    out->insert(out->end(), {interface.interfaceClass, interface.subclass,
+                             interface.protocol, 0});
+  }
 }
 
 // The head of an answer: the client knows its request by the sequence number
@@ -98,9 +99,12 @@ std::uint32_t DeviceId(const Address &address) {
 }
 
 std::uint32_t SpeedNumber(const Descriptors &descriptors) {
+  constexpr std::uint32_t kLow = 1;
   constexpr std::uint32_t kFull = 2;
   constexpr std::uint32_t kHigh = 3;
-  return descriptors.speed == "480" ? kHigh : kFull;
+  if (descriptors.speed == "1.5") return kLow;
+  // The ports that devices are attached to here have at most this speed.
+  return descriptors.speed == "12" ? kFull : kHigh;
 }
 
 Bytes ListReply(const std::vector<Export> &devices) {
@@ -109,7 +113,7 @@ Bytes ListReply(const std::vector<Export> &devices) {
   PutWord(static_cast<std::uint32_t>(devices.size()), &reply);
   for (const Export &device : devices) {
     PutDevice(device, &reply);
-    PutInterface(*device.descriptors, &reply);
+    PutInterfaces(*device.descriptors, &reply);
   }
   return reply;
 }
