@@ -4,10 +4,12 @@
 # What plugging in a mixer does for a user who has turned autoapply on. Runs in
 # the guest, beside systemd and a session of the user "guest":
 #
-#   autoapply_test.sh BUILD_FOLDER
+#   autoapply_test.sh INSTALLED PREFIX
+#
+# INSTALLED holds what "cmake --install" installs below PREFIX.
 set -euo pipefail
 
-readonly build=$1 requests=/run/requests
+readonly installed=$1 prefix=$2 requests=/run/requests
 
 fail() {
   printf 'autoapply_test: %s\n' "$*" >&2
@@ -82,12 +84,13 @@ until_true() {  # function
   fail "'$1' is not so after twenty seconds"
 }
 
-if [[ ${2:-} != --among-mixers ]]; then
-  cmake --install "$build" >/dev/null
+if [[ ${3:-} != --among-mixers ]]; then
+  mkdir -p "$prefix"
+  cp -R "$installed/." "$prefix/"
   udevadm control --reload
-  export PATH=/usr/local/bin:$PATH
+  export PATH=$prefix/bin:$PATH
   exec ztk-virtual-mixer serve -n 2 --attach --log "$requests" -- \
-    "$0" "$build" --among-mixers
+    "$0" "$@" --among-mixers
 fi
 
 until_true all_mixers

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Says how one test of the guest's report ended.
+"""Tells how one test ended that ran in a guest.
 
-Usage: verdict.py FOLDER SUITE.TEST
+Usage: verdict.py FOLDER SUITE.TEST    of the report of run-tests
+       verdict.py FOLDER NAME          of a script of run-session-tests
 
 Ends with 0 when it passed, with 77 when it was skipped, else with 1.
 """
@@ -19,6 +20,10 @@ def main(folder, name):
     if reason.exists():
         print(reason.read_text(), end="")
         return SKIPPED
+    if "." not in name:
+        print((folder / f"{name}.log").read_text(), end="")
+        status = int((folder / f"{name}.status").read_text())
+        return status if status in (0, SKIPPED) else 1
     suite, test = name.split(".")
     report = xml.etree.ElementTree.parse(folder / "report.xml")
     for case in report.iter("testcase"):
