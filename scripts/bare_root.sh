@@ -1,14 +1,14 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
-# A Debian that has nothing but its base system, in a temporary folder, for the
+# Makes a Debian with nothing but its base system in a temporary folder, for the
 # commands that try things there. They source lib.sh first.
 
 # The release; set by make_bare_root.
 suite=
 
-# Where this machine takes the suite's packages from: both forms of source
-# lists, the first that offers it.
+# Prints where this machine gets the packages of the release from, if it does.
+# Reads both forms of source lists.
 mirror() {
   local lists=(/etc/apt/sources.list /etc/apt/sources.list.d/*.list)
   { cat /etc/apt/sources.list.d/*.sources 2>/dev/null || true; } |
@@ -27,8 +27,8 @@ mirror() {
     awk -v suite="$suite" '$1 == "deb" && $3 == suite { print $2; exit }'
 }
 
-# What makes apt work on this machine makes it work in the root. The package
-# sources are copied only where they offer the root's release.
+# Lets apt work in the root as it does on this machine. The source lists are
+# copied only if they offer the release of the root.
 copy_apt_settings() {  # root
   local file lists=()
   if [[ -n $(mirror) ]]; then
@@ -42,13 +42,13 @@ copy_apt_settings() {  # root
     mkdir -p "$1/${file%/*}"
     cp -aL --remove-destination "$file" "$1/${file%/*}/"
   done
-  # Only how packages are fetched: other settings may run programs that a bare
+  # Only the settings for fetching packages: others may run programs that a bare
   # system does not have.
   apt-config dump | grep -E '^Acquire::(https?|Check|Allow)' \
     >"$1/etc/apt/apt.conf.d/90machine" || true
 }
 
-# Everything from here on happens in namespaces of its own: mounts and left
+# To be called in new mount and process namespaces, so that mounts and leftover
 # processes end with them.
 mount_system() {  # root
   local device
@@ -67,19 +67,29 @@ mount_system() {  # root
   ln -s /proc/self/fd "$1/dev/fd"
 }
 
-# Runs a command in the root with the environment of a fresh login.
+# Runs a command in the root with the environment of a fresh login of root.
 in_bare_root() {  # root command...
-  local bare=$1 settings=() name
-  shift
+  as_user_in_bare_root "$1" root /root 022 /root/project "${@:2}"
+}
+
+# Runs a command in a folder of the root with the environment of a fresh login.
+as_user_in_bare_root() {  # root user home umask folder command...
+  local bare=$1 user=$2 home=$3 mask=$4 folder=$5 settings=() name
+  shift 5
   for name in http_proxy https_proxy no_proxy; do
     [[ -z ${!name:-} ]] || settings+=("$name=${!name}")
   done
+  # shellcheck disable=SC2016  # expanded inside
   env -i PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin \
-    HOME=/root USER=root TERM="${TERM:-dumb}" LANG=C.UTF-8 "${settings[@]}" \
-    chroot "$bare" bash -c 'cd /root/project && "$@"' bash "$@" </dev/null
+    HOME="$home" USER="$user" LOGNAME="$user" TERM="${TERM:-dumb}" \
+    LANG=C.UTF-8 "${settings[@]}" chroot "$bare" \
+    setpriv --reuid "$user" --regid "$user" --init-groups \
+    bash -c 'umask "$1" && cd "$2" && shift 2 && "$@"' bash "$mask" "$folder" \
+    "$@" </dev/null
 }
 
-# Makes the root and sets $bare to its folder; it goes when the command ends.
+# Makes the root and sets $bare to its folder, which is removed when the command
+# ends.
 make_bare_root() {  # release
   suite=$1
   [[ $(id -u) == 0 ]] || fail "Only root can make a bare Debian root."

@@ -1,8 +1,8 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
-# What the project's commands share. A command sources this file first; it then
-# stands in the project's root folder, which is $root.
+# What the project's commands share. A command sources this file first; its
+# working folder is then the root folder of the project, which is also $root.
 
 set -euo pipefail
 
@@ -10,18 +10,15 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
-# Make works as well, for a build folder that was made with it.
-export CMAKE_GENERATOR=${CMAKE_GENERATOR:-Ninja}
-
 say() { printf '%s\n' "$*"; }
 
-# Ends the command with one plain sentence.
+# Ends the command with a message of one sentence.
 fail() {
   printf '%s: %s\n' "${0##*/}" "$*" >&2
   exit 1
 }
 
-# The packages of the named lists in scripts/packages/, one a line.
+# Prints the packages of the named lists in scripts/packages/, one per line.
 packages_of() {
   local list
   for list in "$@"; do
@@ -29,7 +26,7 @@ packages_of() {
   done
 }
 
-# The packages among the arguments that are not installed.
+# Prints those of the packages that are not installed.
 missing_packages() {
   local package
   for package in "$@"; do
@@ -39,7 +36,7 @@ missing_packages() {
   done
 }
 
-# Runs a command as root: directly, or through sudo where it asks nothing.
+# Runs a command as root: directly, or with sudo if that needs no password.
 as_root() {
   if [[ $(id -u) == 0 ]]; then
     "$@"
@@ -57,14 +54,14 @@ apt_get() {
     -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 "$@"
 }
 
-# Shows the newest line of a log, in place, as long as this command runs.
+# Shows the last line of a log while this command runs, and updates it in place.
 show_newest_line() {  # title log
   local columns line='' shown=none
   columns=$({ stty size </dev/tty; } 2>/dev/null | cut -d ' ' -f 2) || columns=0
   ((columns > 1)) || columns=80
   while kill -0 "$$" 2>/dev/null; do
     line=$(tail -n 1 "$2" | LC_ALL=C tr -cd '[:print:]')
-    # Whatever comes next begins at the left.
+    # The cursor returns to the first column for the next output.
     [[ $line == "$shown" ]] ||
       printf '\r\033[K%.*s\r' "$((columns - 1))" "$1: $line"
     shown=$line
@@ -72,7 +69,8 @@ show_newest_line() {  # title log
   done
 }
 
-# Runs a command with its output in a log. In a terminal, shows how far it is.
+# Runs a command and writes its output to a log. In a terminal, shows the last
+# line of the log meanwhile.
 logged() {  # title log command...
   local title=$1 log=$2 shows='' status=0
   shift 2
@@ -90,8 +88,8 @@ logged() {  # title log command...
   return "$status"
 }
 
-# Runs a command quietly, at most three times; its output appears only if the
-# last try fails.
+# Runs a command up to three times, until it succeeds. Prints its output only if
+# the last try fails.
 try_thrice() {
   local log try
   log=$(mktemp)
@@ -107,42 +105,60 @@ try_thrice() {
   return 1
 }
 
-# Installs what is missing of the named lists in scripts/packages/.
+# Installs the missing packages of the named lists in scripts/packages/. Ends
+# the command if that is not possible.
 need_packages() {
   if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
-    fail "This command installs what it needs with apt-get, on Debian 12 or" \
-      "a relative of it, and there is no apt-get here."
+    fail "This command installs what it needs with apt-get, on Debian 12, 13" \
+      "or a system made from them, but there is no apt-get here."
   fi
 
   local packages missing
   mapfile -t packages < <(packages_of "$@")
   mapfile -t missing < <(missing_packages "${packages[@]}")
-  [[ ${#missing[@]} -gt 0 ]] || return 0
+  [[ ${#missing[@]} == 0 ]] || install_packages "${missing[@]}"
+}
 
+install_packages() {
   may_become_root ||
-    fail "These packages are missing and only root can install them:" \
-      "${missing[*]}. Run 'sudo apt-get install ${missing[*]}' or start" \
-      "this command as root."
+    fail "These packages are missing and only root can install them: $*." \
+      "Run 'sudo apt-get install $*' or start this command as root."
 
-  say "Installing with apt-get: ${missing[*]}"
+  say "Installing with apt-get: $*"
   try_thrice apt_get update ||
     fail "The package lists could not be fetched; is the network up?"
-  try_thrice apt_get install -y --no-install-recommends "${missing[@]}" ||
+  try_thrice apt_get install -y --no-install-recommends "$@" ||
     fail "The packages could not be installed."
 }
 
-# Installs what is missing of the named lists if that can be done; whatever
-# needs the packages is skipped otherwise.
+# Installs those missing packages of the named lists that this release of Debian
+# offers, if that is possible. The tests that need the others are skipped.
 want_packages() {
-  (need_packages "$@") || say "Going on without them."
+  local packages package policy missing=()
+  mapfile -t packages < <(packages_of "$@")
+  mapfile -t packages < <(missing_packages "${packages[@]}")
+  for package in "${packages[@]}"; do
+    policy=$(LC_ALL=C apt-cache policy "$package" 2>/dev/null) || true
+    [[ ! $policy =~ Candidate:\ [^\(] ]] || missing+=("$package")
+  done
+  [[ ${#missing[@]} == 0 ]] || (install_packages "${missing[@]}") ||
+    say "The tests that need these packages are skipped."
 }
 
-# The one place that the version stands in.
+# Configures a preset. A build folder of another generator is configured anew.
+configure() {  # preset folder
+  local fresh=()
+  grep -qsx 'CMAKE_GENERATOR:INTERNAL=Ninja' "$2/CMakeCache.txt" ||
+    fresh=(--fresh)
+  cmake --preset "$1" "${fresh[@]}"
+}
+
+# Prints the version, which is written in CMakeLists.txt only.
 project_version() {
   sed -n 's/^  VERSION \([0-9.]*\)$/\1/p' CMakeLists.txt
 }
 
-# Every source of ours in C, C++ or Objective-C++.
+# Prints the paths of all sources in C, C++ and Objective-C++.
 sources() {
   local folders=() folder
   for folder in include src tools tests bench; do
@@ -152,7 +168,7 @@ sources() {
     \( -name '*.h' -o -name '*.c' -o -name '*.cpp' -o -name '*.mm' \) | sort
 }
 
-# Copies those of the files named on standard input that there are.
+# Copies the files named on standard input; those that do not exist are left out.
 copy_files() {  # folder
   mkdir -p "$1"
   while IFS= read -r -d '' file; do
@@ -160,12 +176,12 @@ copy_files() {  # folder
   done | tar --null -T - -c | tar -x -C "$1"
 }
 
-# The files of the work tree, committed or not, without what git ignores.
+# Copies the files of the work tree, committed or not, except ignored ones.
 copy_work_tree() {  # folder
   git ls-files -co --exclude-standard -z | copy_files "$1"
 }
 
-# The files that git knows, with changes that are not committed yet.
+# Copies the files that git tracks, with their uncommitted changes.
 copy_known_files() {  # folder
   git ls-files -z | copy_files "$1"
 }

@@ -47,6 +47,7 @@ LINES = (
     ("ztk-virtual-mixer run -n 1 -- ztk-virt", ["ztk-virtual-mixer"], []),
 )
 
+BASH_COMPLETION = pathlib.Path("/usr/share/bash-completion/bash_completion")
 BASH = r"""
 . /usr/share/bash-completion/bash_completion 2>/dev/null
 for program in ztk ztk-virtual-mixer; do . "$FOLDER/$program.bash"; done
@@ -179,6 +180,9 @@ GROUPS = ("input", "output", "boost", "midi", "autoapply")
 def main(name, folder, programs):
     if not shutil.which(name):
         print(f"{name} is not installed")
+        return 77
+    if name == "bash" and not BASH_COMPLETION.exists():
+        print("the package bash-completion is not installed")
         return 77
     complaints = []
     tried = 0
