@@ -54,7 +54,7 @@ TEST_F(KernelDevices, OfTheMakersOtherProductsNoneIsAMixer) {
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);
 }
 
-TEST_F(KernelDevices, AMixerBetweenStrangersIsReached) {
+TEST_F(KernelDevices, AMixerBetweenOtherDevicesIsReached) {
   Plug({kSibling, DeviceKind::Keyboard, kMixer, DeviceKind::Storage, kSibling,
         DeviceKind::Hub});
   EXPECT_EQ(CheckUSBAudio(10), 1);
@@ -156,13 +156,13 @@ TEST_F(KernelDevices, CountingOpensNothing) {
 
 TEST_F(KernelDevices, SleepingDevicesStayAsleep) {
   Plug({kSibling, kMixer, kSibling});
-  std::vector<std::string> strangers;
+  std::vector<std::string> others;
   for (const std::string &device : DevicesOnTheBus()) {
-    if (device != KernelWorld::DeviceOf(1)) strangers.push_back(device);
+    if (device != KernelWorld::DeviceOf(1)) others.push_back(device);
   }
-  ASSERT_EQ(strangers.size(), 2u);
+  ASSERT_EQ(others.size(), 2u);
   std::vector<std::string> activeTimes;
-  for (const std::string &device : strangers) {
+  for (const std::string &device : others) {
     SetAttribute(device, "power/autosuspend_delay_ms", "0");
     SetAttribute(device, "power/control", "auto");
     ASSERT_TRUE(WaitFor("it sleeps", [&] {
@@ -174,9 +174,9 @@ TEST_F(KernelDevices, SleepingDevicesStayAsleep) {
     for (const EveryRequestRow &row : rows) row.call();
   }
   EXPECT_FALSE(TakeLog().empty());
-  for (std::size_t i = 0; i < strangers.size(); ++i) {
-    EXPECT_EQ(Attribute(strangers[i], "power/runtime_status"), "suspended");
-    EXPECT_EQ(Attribute(strangers[i], "power/runtime_active_time"),
+  for (std::size_t i = 0; i < others.size(); ++i) {
+    EXPECT_EQ(Attribute(others[i], "power/runtime_status"), "suspended");
+    EXPECT_EQ(Attribute(others[i], "power/runtime_active_time"),
               activeTimes[i]);
   }
 }

@@ -31,7 +31,7 @@ std::vector<char *> Pointers(const std::vector<std::string> &texts) {
   return pointers;
 }
 
-// Starts the command; 0, or the error number.
+// Starts the command. Returns 0 or the error number.
 int Spawn(const std::vector<std::string> &command,
           const std::vector<std::string> &environment,
           const SignalGuard &signals, pid_t *pid) {
@@ -56,12 +56,13 @@ int ExitStatus(int status) {
   return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
-// The parent of a process, 0 when it has gone.
+// The parent of a process; 0 when the process has ended.
 pid_t ParentOf(pid_t pid) {
   std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
   std::string text;
   std::getline(file, text, '\0');
-  // The name before it may hold anything, so look from its end.
+  // The name of the program stands before it and may contain any character, so
+  // the search starts behind the name.
   const std::size_t nameEnd = text.rfind(')');
   if (nameEnd == std::string::npos || nameEnd + 4 > text.size()) return 0;
   return std::atoi(text.c_str() + nameEnd + 4);
@@ -85,7 +86,7 @@ void SignalChildren(int signal) {
   for (const pid_t child : Children()) kill(child, signal);
 }
 
-// "sleep (4711), sh (4712)"
+// Names and process ids, as in "sleep (4711), sh (4712)".
 std::string NamesOfChildren() {
   std::string names;
   for (const pid_t child : Children()) {
@@ -99,11 +100,12 @@ std::string NamesOfChildren() {
   return names;
 }
 
-class Family {
+class ChildProcesses {
  public:
-  explicit Family(pid_t command) : command_(command) {}
+  explicit ChildProcesses(pid_t command) : command_(command) {}
 
-  // Takes the status of every child that has ended; false when none is left.
+  // Takes the exit status of every child that has ended. False when no child is
+  // left.
   bool Reap() {
     while (true) {
       int status = 0;
@@ -118,19 +120,21 @@ class Family {
 
   void PassOn(const siginfo_t &info) {
     if (!commandEnded_) {
-      // The terminal has told the command already.
+      // The terminal has sent the signal to the command already.
       if (info.si_code > 0) return;
       kill(command_, info.si_signo);
-      // An interrupt may be for the command alone; the others are to end all.
+      // An interrupt may be meant for the command alone; the other signals end
+      // all processes.
       if (info.si_signo != SIGINT) ending_ = info.si_signo;
       return;
     }
-    // Processes in the background ignore the terminal's signals.
+    // Background processes ignore the signals of the terminal.
     ending_ = info.si_code <= 0 ? info.si_signo : SIGTERM;
     SignalChildren(ending_);
   }
 
-  // What the command leaves behind arrives here only when its parents end.
+  // Processes that the command has left running become children of this process
+  // only when their parents end.
   void TellNewOrphans() const {
     if (commandEnded_ && ending_ != 0) SignalChildren(ending_);
   }
@@ -146,10 +150,10 @@ class Family {
   int ending_ = 0;
 };
 
-// What ends with the command is not worth a word.
+// Processes that end with the command are not reported.
 constexpr timespec kBeforeAWord{.tv_sec = 0, .tv_nsec = 500'000'000};
 
-// Who leaves a shell sees nothing else of what it has left behind.
+// A user who has left a shell sees no other sign of processes that still run.
 void SayWhatIsWaitedFor() {
   const std::string names = NamesOfChildren();
   if (names.empty()) return;
@@ -159,11 +163,11 @@ void SayWhatIsWaitedFor() {
                names.c_str());
 }
 
-// The next signal. Unless it is to be quiet, says once what is waited for after
-// the command, and is quiet from then on.
-int NextSignal(const Family &family, const SignalGuard &signals, bool *quiet,
-               siginfo_t *info) {
-  if (*quiet || !family.IsWaitingForTheRest()) {
+// Waits for the next signal. Unless *quiet, prints once which processes are
+// waited for after the command has ended, and sets *quiet.
+int NextSignal(const ChildProcesses &children, const SignalGuard &signals,
+               bool *quiet, siginfo_t *info) {
+  if (*quiet || !children.IsWaitingForTheRest()) {
     return sigwaitinfo(&signals.Held(), info);
   }
   const int signal = sigtimedwait(&signals.Held(), info, &kBeforeAWord);
@@ -181,7 +185,7 @@ SignalGuard::SignalGuard() {
   for (const int signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
     sigaddset(&held_, signal);
   }
-  // A parent that ignores it would take every exit status away.
+  // If the parent ignored SIGCHLD, no exit status would be available.
   std::signal(SIGCHLD, SIG_DFL);
   struct sigaction pipe {};
   sigaction(SIGPIPE, nullptr, &pipe);
@@ -201,16 +205,16 @@ int RunCommand(const std::vector<std::string> &command,
     *error = command[0] + ": " + std::strerror(failure);
     return failure == ENOENT ? kNotFound : kCannotRun;
   }
-  Family family(pid);
-  // A script gets what the command says and nothing that depends on the time.
+  ChildProcesses children(pid);
+  // The output in a script must not depend on time.
   bool quiet = isatty(STDERR_FILENO) == 0;
-  while (family.Reap()) {
-    family.TellNewOrphans();
+  while (children.Reap()) {
+    children.TellNewOrphans();
     siginfo_t info{};
-    if (NextSignal(family, signals, &quiet, &info) < 0) continue;
-    if (info.si_signo != SIGCHLD) family.PassOn(info);
+    if (NextSignal(children, signals, &quiet, &info) < 0) continue;
+    if (info.si_signo != SIGCHLD) children.PassOn(info);
   }
-  return family.ExitStatusOfCommand();
+  return children.ExitStatusOfCommand();
 }
 
 }  // namespace ztk::virtual_mixer

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Runs a command and waits for it and for everything that it leaves behind.
+// Runs a command and waits for it and for all processes that it started.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_COMMAND_RUNNER_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_COMMAND_RUNNER_H_
 
@@ -12,8 +12,8 @@
 
 namespace ztk::virtual_mixer {
 
-// Holds back the signals that end programs, so that whoever made it can clean
-// up. To be made before any thread is started: threads inherit it.
+// Blocks the signals that end programs, so that this program can clean up. It
+// has to be made before any thread is started: threads inherit the mask.
 class SignalGuard {
  public:
   SignalGuard();
@@ -21,11 +21,11 @@ class SignalGuard {
   SignalGuard(const SignalGuard &) = delete;
   SignalGuard &operator=(const SignalGuard &) = delete;
 
-  // What is held back, SIGCHLD included.
+  // The blocked signals, SIGCHLD included.
   const sigset_t &Held() const { return held_; }
-  // The mask that a command starts with.
+  // The mask of before, with which commands start.
   const sigset_t &Before() const { return before_; }
-  // Signals that were ignored and so stay ignored for a command.
+  // Whether SIGPIPE was ignored, and so stays ignored for a command.
   bool PipeWasIgnored() const { return pipeWasIgnored_; }
 
  private:
@@ -36,12 +36,12 @@ class SignalGuard {
 
 // Runs the command with the environment ("NAME=value") and returns when the
 // last process that descends from it has ended. Signals that are sent to this
-// process go to the command or, once that has ended, to what is left. Those
-// from the terminal reach the command without help.
+// process are passed on to the command or, once it has ended, to the processes
+// that are left. The terminal sends its signals to the command itself.
 //
-// Returns the command's exit status as a shell would: 128 and the signal's
-// number when one ended it, 127 when there is no such command, 126 when it
-// cannot be run; *error then says why.
+// Returns the exit status of the command as a shell does: 128 plus the number
+// of the signal that ended it, 127 when there is no such command, 126 when it
+// cannot be run; *error then has the reason.
 int RunCommand(const std::vector<std::string> &command,
                const std::vector<std::string> &environment,
                const SignalGuard &signals, std::string *error);

@@ -23,7 +23,7 @@ namespace {
 
 constexpr char kPreloaded[] = "libumockdev-preload.so.0";
 
-// Lets the sandbox live in /tmp while TMPDIR is too long for it.
+// Makes the sandbox use /tmp when the path in TMPDIR is too long for it.
 class ShortTempDir {
  public:
   ShortTempDir() : before_(Variable("TMPDIR")) {
@@ -72,8 +72,8 @@ std::string PreloadList() {
   return list;
 }
 
-// Who takes the sandbox down: the main thread at the end, or the handler of an
-// abort. Whoever comes second waits for the end of the process.
+// Which thread removes the sandbox: the main thread at the end, or the thread
+// that aborts. The other one waits for the end of the process.
 enum class TakenDown { No, AtTheEnd, ByAbort };
 std::atomic<TakenDown> takenDown{TakenDown::No};
 std::vector<std::string> foldersToRemove;
@@ -97,8 +97,9 @@ void OnAbort(int signal) {
   std::raise(signal);
 }
 
-// umockdev aborts on what it does not understand, on a thread of its own and
-// at any time. The folders go even then. To be made after what owns them.
+// umockdev aborts the process when it receives data that it does not
+// understand, on a thread of its own and at any time. This object removes the
+// folders even then. It has to be made after the owners of the folders.
 class AbortGuard {
  public:
   explicit AbortGuard(std::vector<std::string> folders) {

@@ -11,14 +11,14 @@ namespace ztk::virtual_mixer {
 
 struct RunOptions {
   WorldOptions world;
-  // Else the user's own are changed.
+  // Whether settings are kept in a folder of this run.
   bool privateSettings = false;
-  // The user's shell when empty.
+  // The user's shell is run when this is empty.
   std::vector<std::string> command;
 };
 
 // Runs the command among virtual mixers and returns its exit status. Throws
-// UsageError, or std::runtime_error when the world cannot be built.
+// UsageError, or std::runtime_error when the sandbox cannot be built.
 int Run(const RunOptions &options);
 
 }  // namespace ztk::virtual_mixer

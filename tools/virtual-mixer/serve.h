@@ -11,11 +11,11 @@ namespace ztk::virtual_mixer {
 
 struct ServeOptions {
   WorldOptions world;
-  // Only this machine can reach it; the port is USB/IP's own.
+  // Reachable from this machine only; 3240 is the standard port of USB/IP.
   std::string listen = "127.0.0.1:3240";
-  // To this machine's kernel, instead of listening.
+  // Attach the mixers to the kernel of this machine instead of listening.
   bool attach = false;
-  // Serves until a signal comes when empty, else until the command has ended.
+  // Serves until the command has ended or, when it is empty, until a signal.
   std::vector<std::string> command;
 };
 

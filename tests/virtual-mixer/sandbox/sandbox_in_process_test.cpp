@@ -64,7 +64,7 @@ TEST_F(InProcess, AnswersItsOwner) {
 
   sandbox.WithMixer(2, [](MixerModel &mixer) { mixer.TurnSelector(0, 1); });
   EXPECT_THAT(Selectors(node.c_str()), ElementsAre(0, 1, 4, 4, 4));
-  // The stranger before the mixers knows no such request.
+  // The other device before the mixers knows no such request.
   EXPECT_THAT(Selectors("/dev/bus/usb/001/002"), ElementsAre(-EPIPE));
   EXPECT_THAT(log,
               ElementsAre("mixer 2: c0 00 0000 8002 0005 -> 00 01 04 04 04"));

@@ -18,7 +18,7 @@ using ::testing::IsEmpty;
 
 class World : public ToolTest {};
 
-TEST(SpreadDevices, PutsStrangersBeforeAndBehindTheMixers) {
+TEST(SpreadDevices, PutsOtherDevicesBeforeAndAfterTheMixers) {
   const auto text = [](int mixers, int others, int buses) {
     std::string names;
     for (const Placement &one : SpreadDevices(mixers, others, buses)) {

@@ -119,7 +119,7 @@ TEST_F(UsbipSession, ListsNeitherMixersInUseNorUnpluggedOnes) {
                                       MixerRecord(2), FromHex("ff000000")}));
 }
 
-TEST_F(UsbipSession, TellsAStrangerApart) {
+TEST_F(UsbipSession, DescribesOtherDevices) {
   devices_ = std::make_unique<Devices>(
       std::vector<Placement>{{.kind = DeviceKind::Sibling, .bus = 1},
                              {.kind = DeviceKind::Storage, .bus = 1}},

@@ -17,7 +17,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 using Words = std::vector<std::string>;
 
-// Thrown by a command; becomes its answer.
+// Thrown by a command that cannot be executed; the text becomes the answer.
 class Refusal : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -55,7 +55,7 @@ std::vector<int> ChosenMixers(const MixerWorld &world,
   return {static_cast<int>(*number)};
 }
 
-// The mixers that were chosen by this word, as people are told of them.
+// How messages name the mixers that this word chose.
 std::string Named(const std::string &word, std::size_t count) {
   if (word != "all") return "mixer " + word;
   if (count == 0) return "no mixer";
@@ -105,7 +105,7 @@ void SetReply(MixerWorld *world, int mixer, const Words &words) {
   }
 }
 
-// Every command that is done to mixers.
+// A command that changes mixers.
 struct ControlCommand {
   std::string_view name;
   std::size_t words;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What can be done to the mixers of a running world, one line a command:
+// The commands that change running virtual mixers, one line each:
 //
 //   turn M CHANNEL POSITION   turn a selector: channel 1 to 4, position up to
 //                             255
@@ -10,9 +10,9 @@
 //   forbid M   allow M        refuse to open its node, or allow it again
 //   show                      the state of everything
 //
-// M is a mixer's number, from 1, or "all". The answer is one line too: "ok" and
-// the mixers that it was done to or, of "show", the state as JSON; or "error"
-// and what was wrong.
+// M is the number of a mixer, from 1, or "all". The answer is one line too:
+// "ok" and the changed mixers ("show": the state as JSON), or "error" and the
+// reason.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_CONTROL_CONTROL_COMMANDS_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_CONTROL_CONTROL_COMMANDS_H_
 
@@ -23,10 +23,10 @@
 
 namespace ztk::virtual_mixer {
 
-// Carries out one command. Safe from any thread.
+// Executes one command. Safe from any thread.
 std::string RunControlCommand(MixerWorld *world, std::string_view line);
 
-// The state that "show" answers, laid out for people.
+// The JSON that "show" answers, as text for people.
 std::string DescribeState(const std::string &json);
 
 }  // namespace ztk::virtual_mixer

@@ -43,7 +43,7 @@ void DeviceBus::AddDevice(const Placement &placement, int port) {
   devices_.push_back(std::move(device));
 }
 
-// Reports have no serial numbers; that of a virtual mixer takes the place.
+// Reports have no serial number; the mixer keeps that of a virtual mixer.
 void DeviceBus::Replay(const RecordedMixer &recorded, Device *device) {
   const std::string serial = device->descriptors.strings[2];
   device->descriptors = recorded.descriptors;
@@ -100,8 +100,8 @@ void DeviceBus::UnplugLocked(Device *device) {
   if (listener_) listener_(*device);
 }
 
-// As it is after being plugged in. What was set outlives being unplugged: the
-// mixer has its own power supply.
+// Sets the state of a device that was just plugged in. The values that were set
+// stay: the mixer has its own power supply.
 void DeviceBus::Reset(Device *device) const {
   device->configuration = configuration_ == Configuration::AtOnce
                               ? device->descriptors.ConfigurationValue()
@@ -150,8 +150,8 @@ Answer DeviceBus::Handle(const Connection &connection,
 
 void DeviceBus::Log(std::size_t device, const SetupPacket &setup,
                     TransferStatus status, const Bytes &delivered) {
-  // Without the other lock: numbers of mixers never change, and requests to a
-  // device that is unplugged end while the bus is locked.
+  // mutex_ is not needed, as the numbers of mixers never change, and may be
+  // locked already: unplugging a device ends its requests.
   const int mixer = devices_[device]->mixer;
   if (!log_ || mixer == 0) return;
   const std::string line =

@@ -26,7 +26,7 @@ struct ControlRequest {
   Bytes data;
 };
 
-// One device. Everything that is not constant is guarded by the bus.
+// One device. The bus guards all members that change.
 struct Device {
   // Constant: position among the devices, place on the bus, number of a mixer
   // (from 1; 0 for other devices).
@@ -72,7 +72,7 @@ class DeviceBus {
   int OtherCount() const;
   // Position of a mixer, which counts from 1.
   std::size_t PositionOf(int mixer) const;
-  // Only what is constant may be read.
+  // Only the constant members may be read.
   const Device &At(std::size_t device) const { return *devices_[device]; }
 
   // Calls `visit` while the bus is locked: it must not call the bus.
@@ -80,7 +80,8 @@ class DeviceBus {
                   const std::function<void(Device &)> &visit);
   void WithMixer(int mixer, const std::function<void(MixerModel &)> &visit);
 
-  // Both return false, and change nothing, when it is so already.
+  // Both return false, and change nothing, when the mixer is in this state
+  // already.
   bool PlugIn(int mixer);
   bool Unplug(int mixer);
 
@@ -113,11 +114,11 @@ class DeviceBus {
   const LogSink log_;
   const Listener listener_;
   std::mutex logMutex_;
-  // Guards what changes in the devices.
+  // Guards the members of devices that change.
   mutable std::mutex mutex_;
   mutable std::condition_variable configured_;
   std::vector<std::unique_ptr<Device>> devices_;
-  // Their positions.
+  // Positions of the mixers.
   std::vector<std::size_t> mixers_;
 };
 

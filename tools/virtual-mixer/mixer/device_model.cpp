@@ -65,7 +65,8 @@ void MixerModel::AddFault(const Fault &fault) {
   faults_.push_back(fault);
 }
 
-// Finds the fault that a request meets and counts it down.
+// Finds the fault that applies to a request, and counts its remaining times
+// down.
 std::optional<Fault> MixerModel::TakeFault(const SetupPacket &setup) {
   const auto found =
       std::find_if(faults_.rbegin(), faults_.rend(),

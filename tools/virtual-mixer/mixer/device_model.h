@@ -21,7 +21,7 @@ struct Answer {
   TransferStatus status = TransferStatus::Ok;
   // Reply of a read, never longer than was asked for.
   Bytes data;
-  // How late the answer comes. What a write changes is changed at once.
+  // How late the answer comes. A write takes effect at once.
   std::chrono::milliseconds delay{0};
 };
 
@@ -52,25 +52,25 @@ class MixerModel {
   // off the bus, which ends all its faults.
   Answer Handle(const SetupPacket &setup);
 
-  // A knob: channel 0 to 3. False when there is no such channel.
+  // Turns the selector of channel 0 to 3. False when there is no such channel.
   bool TurnSelector(int channel, std::uint8_t position);
   std::uint8_t SelectorPosition(int channel) const;
 
-  // Replaces what a register that can be read replies; false for others.
+  // Replaces the reply of a register that can be read; false for others.
   bool SetReply(std::uint16_t registerNumber, Bytes reply);
   const std::map<std::uint16_t, Bytes> &Replies() const { return replies_; }
 
-  // Registers that can be written, and the value that came last.
+  // The registers that can be written, each with the last value.
   const std::map<std::uint16_t, std::optional<std::uint16_t>> &LastWritten()
       const {
     return written_;
   }
 
-  // A new fault takes the place of one with the same register and direction.
-  // Where several fit a request the newest counts.
+  // A new fault replaces one with the same register and direction. If several
+  // faults fit a request, the newest is used.
   void AddFault(const Fault &fault);
   void ClearFaults() { faults_.clear(); }
-  // Oldest first, with the number of times that are left.
+  // Oldest first, with the remaining number of times.
   const std::vector<Fault> &Faults() const { return faults_; }
 
  private:

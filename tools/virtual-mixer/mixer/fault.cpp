@@ -35,7 +35,7 @@ std::optional<Fault> Refuse(std::string_view what, std::string_view part,
   return std::nullopt;
 }
 
-// Cuts `mark` and what follows off the end of *text.
+// Removes `mark` and the text after it from *text. Returns the text after it.
 std::optional<std::string_view> CutTail(std::string_view *text, char mark) {
   const std::size_t at = text->find(mark);
   if (at == std::string_view::npos) return std::nullopt;
@@ -53,7 +53,7 @@ bool ReadKind(std::string_view name, Fault *fault) {
   return true;
 }
 
-// The part behind the colon; which kinds have one, and in which bounds.
+// Reads the part after the colon, which some kinds have.
 bool ReadArgument(std::optional<std::string_view> text, Fault *fault) {
   switch (fault->kind) {
     case Fault::Kind::Delay:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a virtual mixer can be told to do wrong, and how that is written:
+// The faults of a virtual mixer, and their text form:
 //
 //   KIND[@REGISTER][*TIMES]
 //
@@ -9,7 +9,7 @@
 //   delay:MS     answer it MS milliseconds late, 1 to 60000
 //   short:N      cut the reply to its first N bytes, 0 to 63
 //   bytes:HEX    deliver these bytes instead of the reply, 1 to 64 of them
-//   unplug       vanish while the request is under way
+//   unplug       leave the bus during the request
 //
 //   @8002        only requests to this register: four hexadecimal digits;
 //                @r8002 only reads of it, @w8002 only writes to it
@@ -39,18 +39,18 @@ struct Fault {
   std::vector<std::uint8_t> bytes;
   std::optional<std::uint16_t> registerNumber;
   Direction direction = Direction::Both;
-  // How many requests it is still good for; without a number, for ever.
+  // Number of requests that it still applies to; without a number, all.
   std::optional<std::uint32_t> timesLeft;
 
   bool Fits(const SetupPacket &setup) const;
   bool HasSameScope(const Fault &other) const;
 };
 
-// Reads the text form. When it cannot, the answer is empty and *error one line
+// Reads the text form. On failure it returns nothing, and *error is one line
 // that says what is wrong and what is accepted.
 std::optional<Fault> ParseFault(std::string_view text, std::string *error);
 
-// The text form, with the number of times that are left.
+// The text form, with the remaining number of times.
 std::string FormatFault(const Fault &fault);
 
 // Both read the whole text, or return nothing. A register has four hexadecimal

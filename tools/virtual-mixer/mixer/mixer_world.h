@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A running world of virtual mixers, whichever front brings requests to them:
-// what can be done to it from outside.
+// The interface of running virtual mixers, in a sandbox or served over USB/IP,
+// to the programs and tests that control them.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_MIXER_MIXER_WORLD_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_MIXER_MIXER_WORLD_H_
 
@@ -24,7 +24,7 @@ enum class DeviceKind { Mixer, Hub, Keyboard, Storage, Sibling, RootHub };
 struct Placement {
   DeviceKind kind = DeviceKind::Mixer;
   int bus = 1;
-  // A mixer that behaves as this one did; null for one without history.
+  // The mixer to be replayed; null for an ordinary virtual mixer.
   std::shared_ptr<const RecordedMixer> recorded = nullptr;
 };
 
@@ -40,11 +40,11 @@ struct MixerStatus {
   Address address;
   bool pluggedIn = false;
   bool forbidden = false;
-  // Of a world that is served: whether a kernel has the mixer at present.
+  // Only for mixers that are served: whether a kernel has the mixer at present.
   std::optional<bool> attached;
 };
 
-// Gets each request line; called from several threads, one at a time.
+// Receives each request line. Called from several threads, one at a time.
 using LogSink = std::function<void(const std::string &line)>;
 
 // Safe from any thread.
@@ -61,12 +61,12 @@ class MixerWorld {
   virtual void WithMixer(int mixer,
                          const std::function<void(MixerModel &)> &visit) = 0;
 
-  // Both do nothing when it is so already.
+  // Both do nothing when the mixer is in this state already.
   virtual void PlugIn(int mixer) = 0;
   virtual void Unplug(int mixer) = 0;
 
   // Forbids opening the mixer's node for writing (EACCES), or allows it again.
-  // Throws std::runtime_error where this world cannot do that.
+  // Throws std::runtime_error for mixers that are served.
   virtual void SetForbidden(int mixer, bool forbidden) = 0;
 };
 

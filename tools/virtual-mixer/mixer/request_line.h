@@ -29,7 +29,7 @@ struct SetupPacket {
   std::uint16_t length = 0;
 };
 
-// How a request ended, as the one who sent it sees it.
+// How a request ended for its sender.
 enum class TransferStatus { Ok, Stall, Silence, Gone };
 
 inline bool IsRead(const SetupPacket &setup) {
@@ -48,8 +48,8 @@ inline std::string HexBytes(const std::uint8_t *bytes, std::size_t count) {
   return text;
 }
 
-// The line, without a line end. `bytes` is what a read delivered; it is not
-// looked at when the request failed or was a write.
+// The line, without a line end. `bytes` are the bytes that a read delivered;
+// they are ignored when the request failed or was a write.
 inline std::string RequestLine(int mixer, const SetupPacket &setup,
                                TransferStatus status,
                                const std::uint8_t *bytes = nullptr,

@@ -40,7 +40,7 @@ std::optional<Bytes> FindDescriptor(const Descriptors &descriptors,
   if (type == kDevice && number == 0) return descriptors.device;
   if (type == kConfiguration && number == 0) return descriptors.configuration;
   if (type != kString) return std::nullopt;
-  // Index 0 lists the languages: US English alone.
+  // Index 0 lists the languages: only US English.
   if (number == 0) return Bytes{4, kString, 0x09, 0x04};
   // The device descriptor has the indexes of its three strings.
   for (std::size_t i = 0; i < descriptors.strings.size(); ++i) {

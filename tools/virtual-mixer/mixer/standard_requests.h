@@ -9,7 +9,7 @@ namespace ztk::virtual_mixer {
 
 bool IsStandardRequest(const SetupPacket &setup);
 
-// Answers what every USB device answers: its descriptors, status and
+// Answers the requests that all USB devices answer: descriptors, status and
 // configuration. *configuration is the chosen one, 0 when none is. Answers Ok
 // or Stall; *data is cut to what was asked for.
 TransferStatus AnswerStandardRequest(const Descriptors &descriptors,

@@ -18,10 +18,10 @@ inline constexpr int kPortsOfABus = 31;
 
 struct Address {
   int bus = 1;
-  // 0 is the root hub. Devices are plugged straight into it.
+  // 0 is the root hub, which all devices are plugged into.
   int port = 0;
 
-  // Given in the order of the ports, so bus order is the order of creation.
+  // Numbers follow the ports, so the order on the bus is the order of creation.
   int DeviceNumber() const { return port + 1; }
   // Of the node; the major number is 189.
   int Minor() const { return (bus - 1) * 128 + DeviceNumber() - 1; }

@@ -24,7 +24,7 @@ namespace {
 // A file that not even the superuser may open for writing.
 constexpr char kReadOnlyForAll[] = "/proc/sys/kernel/ostype";
 
-// Where there can be no folder the testbed ends the whole program.
+// The testbed ends the whole program when it cannot make its folder.
 void CheckTempDir() {
   const char *const variable = std::getenv("TMPDIR");
   const bool isSet = variable != nullptr && *variable != '\0';
@@ -48,8 +48,8 @@ void AddRecord(UMockdevTestbed *testbed, const std::string &record) {
   throw std::runtime_error("cannot add a device: " + why);
 }
 
-// Removal by hand: umockdev's own tells the event monitors first, which fails
-// loudly in a process that is not itself inside.
+// Removes the files of an entry. The function of umockdev sends an event first,
+// which fails with a message in a process outside the sandbox.
 void RemoveEntry(UMockdevTestbed *testbed, const std::string &root,
                  const std::string &sysPath, const std::string &name) {
   if (umockdev_in_mock_environment() != FALSE) {
@@ -130,7 +130,7 @@ Sandbox::Sandbox(const std::vector<Placement> &placements, LogSink log)
 }
 
 Sandbox::~Sandbox() {
-  // While umockdev's thread can still carry the last answers.
+  // The thread of umockdev still has to send the last answers.
   front_.Stop();
   testbed_.reset();
 }
@@ -171,7 +171,7 @@ void Sandbox::Appear(const Device &device) {
 }
 
 // Sends the events of the device and its interfaces to programs that listen
-// through libudev. In a process that is itself inside, umockdev does that.
+// through libudev. In a process inside the sandbox umockdev sends them.
 void Sandbox::Announce(const Device &device) {
   if (umockdev_in_mock_environment() != FALSE) return;
   const char *const action = device.pluggedIn ? "add" : "remove";
@@ -237,8 +237,8 @@ void Sandbox::ShowNode(const Device &device) {
              static_cast<std::streamsize>(bytes.size()));
 }
 
-// File modes do not hold the superuser back, so the node leads to a file of
-// the kernel's that nobody may write.
+// File modes do not apply to the superuser, so the node becomes a link to a
+// file of the kernel that nobody may write.
 void Sandbox::HideNode(const Device &device) {
   const std::filesystem::path node = rootDir_ + device.address.Node();
   std::filesystem::remove(node);

@@ -6,8 +6,8 @@
 // The owner and the programs inside must run as the same user. A program may
 // fail 50 times to open a device node; the next failure ends it (umockdev keeps
 // a place for each and never gives it back). A program must not write to
-// standard streams that it has closed: umockdev's sockets get their numbers,
-// and it aborts the owner of the sandbox for what it then reads.
+// standard streams that it has closed: sockets of umockdev get their numbers,
+// and umockdev aborts the owner of the sandbox when it reads such data.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_SANDBOX_SANDBOX_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_SANDBOX_SANDBOX_H_
 
@@ -30,10 +30,10 @@ namespace ztk::virtual_mixer {
 
 class Sandbox : public MixerWorld {
  public:
-  // Builds the world in a new folder under TMPDIR and sets UMOCKDEV_DIR.
+  // Builds the devices in a new folder under TMPDIR and sets UMOCKDEV_DIR.
   // TMPDIR must be at most kLongestTempDir characters: the paths of sockets
   // have to fit. Only one sandbox can exist in a process at a time. Throws
-  // std::runtime_error when the world cannot be built.
+  // std::runtime_error when that fails.
   explicit Sandbox(const std::vector<Placement> &placements,
                    LogSink log = nullptr);
   ~Sandbox() override;
@@ -51,11 +51,11 @@ class Sandbox : public MixerWorld {
   void WithMixer(int mixer,
                  const std::function<void(MixerModel &)> &visit) override;
 
-  // A mixer that comes back has the place and number that it had.
+  // A mixer that is plugged in again has its old place and number.
   void PlugIn(int mixer) override { bus_.PlugIn(mixer); }
   void Unplug(int mixer) override { bus_.Unplug(mixer); }
 
-  // Holds for the superuser too.
+  // Applies to the superuser too.
   void SetForbidden(int mixer, bool forbidden) override;
 
  private:
@@ -73,7 +73,7 @@ class Sandbox : public MixerWorld {
   // Device behind each node. Constant once the sandbox is made.
   std::map<std::string, std::size_t> positions_;
   UsbfsFront front_;
-  // Made last and ended first: its thread calls into the front.
+  // Constructed last and destroyed first, as its thread calls front_.
   struct TestbedDeleter {
     void operator()(_UMockdevTestbed *testbed) const;
   };

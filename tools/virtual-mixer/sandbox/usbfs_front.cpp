@@ -22,13 +22,13 @@ constexpr auto kComplaints =
     static_cast<GLogLevelFlags>(static_cast<unsigned>(G_LOG_LEVEL_CRITICAL) |
                                 static_cast<unsigned>(G_LOG_LEVEL_WARNING));
 
-// An ioctl number travels as a long and may arrive with its sign extended.
+// umockdev passes ioctl numbers as long, perhaps with an extended sign.
 bool IsControl(gulong request) {
   return static_cast<std::uint32_t>(request) ==
          static_cast<std::uint32_t>(USBDEVFS_CONTROL);
 }
 
-// What the kernel answers.
+// The error number that the kernel returns.
 int ErrorNumber(TransferStatus status) {
   switch (status) {
     case TransferStatus::Ok:
@@ -60,8 +60,8 @@ Bytes BytesOf(const UMockdevIoctlData *data) {
   return {data->data, data->data + data->data_len};
 }
 
-// umockdev complains of a program that was killed while it talked or waited,
-// which is no fault of anybody's.
+// Drops the messages of umockdev about a program that was killed during a
+// request, which is no error.
 void DropVanishedClient(const gchar *domain, GLogLevelFlags level,
                         const gchar *message, gpointer /*unused*/) {
   if (std::strstr(message, "IoctlClient with open stream") != nullptr) return;
@@ -194,7 +194,7 @@ bool UsbfsFront::Control(_UMockdevIoctlClient *client,
   return true;
 }
 
-// Gives the answer. Everything that `waiting` holds is released.
+// Sends the answer and releases everything that `waiting` owns.
 void UsbfsFront::Finish(Waiting *waiting) {
   const Answer &answer = waiting->answer;
   std::size_t count = 0;

@@ -15,7 +15,7 @@
 
 #include "virtual-mixer/mixer/device_bus.h"
 
-// umockdev's types, kept out of those who include this.
+// Types of umockdev, whose header need not be included.
 struct _UMockdevIoctlBase;  // NOLINT(bugprone-reserved-identifier): fixed name
 struct _UMockdevIoctlClient;  // NOLINT(bugprone-reserved-identifier): fixed
 struct _UMockdevIoctlData;  // NOLINT(bugprone-reserved-identifier): fixed name
@@ -42,14 +42,14 @@ class UsbfsFront {
   UsbfsFront(const UsbfsFront &) = delete;
   UsbfsFront &operator=(const UsbfsFront &) = delete;
 
-  // To be attached to the nodes; belongs to this object.
+  // Has to be attached to the nodes; owned by this object.
   _UMockdevIoctlBase *IoctlBase() const { return base_; }
 
   // The device has been unplugged: ends the requests that still wait.
   void Abandon(std::size_t device);
 
-  // Ends every request that still waits, as if the devices had gone, and
-  // answers no more.
+  // Ends all requests that still wait, as if the devices were unplugged, and
+  // answers no more requests.
   void Stop();
 
  private:
@@ -61,7 +61,7 @@ class UsbfsFront {
     std::size_t device = 0;
     SetupPacket setup;
     Answer answer;
-    // When the answer is given; at no time when the sender waits for ever.
+    // Time of the answer; none when the sender waits for ever.
     std::optional<Clock::time_point> due;
   };
 

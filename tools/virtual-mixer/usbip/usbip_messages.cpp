@@ -11,7 +11,7 @@ constexpr std::uint16_t kImportAnswer = 0x0003;
 constexpr std::uint32_t kSubmitAnswer = 3;
 constexpr std::uint32_t kUnlinkAnswer = 4;
 constexpr std::size_t kPathSize = 256;
-// What a reply to an unlink holds behind its status.
+// Bytes after the status in a reply to an unlink message.
 constexpr std::size_t kUnlinkPadding = 24;
 
 std::uint16_t Half(const std::uint8_t *bytes) {
@@ -22,7 +22,7 @@ std::uint32_t Word(const std::uint8_t *bytes) {
   return static_cast<std::uint32_t>(Half(bytes)) << 16 | Half(bytes + 2);
 }
 
-// A setup packet is little-endian, on this way too.
+// A setup packet is little-endian, as on the wire of USB.
 std::uint16_t UsbHalf(const std::uint8_t *bytes) {
   return static_cast<std::uint16_t>(bytes[0] | bytes[1] << 8);
 }
@@ -73,8 +73,7 @@ void PutInterfaces(const Descriptors &descriptors, Bytes *out) {
   }
 }
 
-// The head of an answer: the client knows its request by the sequence number
-// and needs no more of it.
+// The header of an answer: the sequence number is enough to find the request.
 void PutAnswer(std::uint32_t code, std::uint32_t sequence, std::int32_t status,
                Bytes *out) {
   for (const std::uint32_t word : {code, sequence, 0U, 0U, 0U}) {

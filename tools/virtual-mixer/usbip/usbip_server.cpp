@@ -42,7 +42,7 @@ std::string BoundPort(int listener) {
   return std::to_string(ntohs(port));
 }
 
-// A listening socket; none, with errno set, when this address will not do.
+// A listening socket; none, with errno set, when this address cannot be used.
 FileDescriptor ListenAt(const addrinfo &found) {
   FileDescriptor made(socket(found.ai_family,
                              found.ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK,
@@ -58,8 +58,8 @@ FileDescriptor ListenAt(const addrinfo &found) {
   return made;
 }
 
-// A kernel takes the socket over and never closes it by itself when the
-// network has gone.
+// The kernel of the client takes the socket over and does not close it when the
+// network fails, so the server has to notice it.
 void PrepareClient(int socket) {
   setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &kOn, sizeof kOn);
   setsockopt(socket, SOL_SOCKET, SO_KEEPALIVE, &kOn, sizeof kOn);
@@ -141,7 +141,8 @@ void Server::Adopt(FileDescriptor socket, const Lease &lease) {
 
 void Server::Wake() {
   const std::uint64_t one = 1;
-  // It cannot fail but for a count that is high already.
+  // It fails only when the count is at its limit, and then the thread wakes
+  // anyway.
   [[maybe_unused]] const ssize_t written =
       write(woken_.Get(), &one, sizeof one);
 }

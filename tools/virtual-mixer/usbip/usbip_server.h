@@ -16,7 +16,7 @@
 
 namespace ztk::virtual_mixer::usbip {
 
-// Where to listen: "127.0.0.1:3240", "[::1]:3240", "localhost:0".
+// Address to listen at: "127.0.0.1:3240", "[::1]:3240", "localhost:0".
 struct ListenAddress {
   std::string host;
   std::string port;
@@ -32,8 +32,9 @@ class Server {
   Server(const Server &) = delete;
   Server &operator=(const Server &) = delete;
 
-  // Takes clients at this address from now on. Returns it with the port that
-  // stands for 0. Throws std::runtime_error when it cannot. To be called once.
+  // Accepts clients at this address from now on. Returns the address with the
+  // real port in place of 0. Throws std::runtime_error when it cannot. To be
+  // called once.
   std::string Listen(const ListenAddress &address);
   // Serves a client that has its device already.
   void Adopt(FileDescriptor socket, const Lease &lease);
@@ -52,7 +53,7 @@ class Server {
 
   void Serve();
   int PollTimeout() const;
-  // False when the server is to end.
+  // False when the server has to end.
   bool TakeNewcomers();
   void Accept();
   void Read(Client *client);
@@ -60,14 +61,14 @@ class Server {
 
   Devices *const devices_;
   std::mutex mutex_;
-  // Guarded; the thread takes them over.
+  // Guarded by mutex_; the thread takes them over.
   std::vector<Client> newcomers_;
   FileDescriptor newListener_;
   bool stopping_ = false;
-  // The thread's own.
+  // Used by the thread only.
   FileDescriptor listener_;
   std::list<Client> clients_;
-  // Readable when one of the guarded has changed.
+  // Readable when a guarded member has changed.
   FileDescriptor woken_;
   std::thread thread_;
 };

@@ -9,11 +9,10 @@ namespace {
 
 // A control transfer's length has 16 bits.
 constexpr std::uint32_t kLongestTransfer = 0xFFFF;
-// A kernel sends one request at a time to a pipe; who lets this many pile up
-// means no good.
+// A kernel sends one request at a time to a pipe. A client with this many
+// waiting requests is disconnected.
 constexpr std::size_t kMostWaiting = 256;
-// How a transfer says that it has no isochronous packets; old and new kernels
-// differ.
+// The two values for "no isochronous packets", of old and new kernels.
 constexpr std::uint32_t kNoPackets = 0;
 constexpr std::uint32_t kNoPacketsEither = 0xFFFFFFFF;
 
@@ -93,7 +92,7 @@ std::size_t Session::TakeCommand(Clock::time_point now) {
   return whole;
 }
 
-// What follows a message that breaks these cannot be told apart.
+// After a message that breaks these rules the next message cannot be found.
 bool Session::IsLawful(const UrbCommand &command) const {
   const Export device = devices_->Describe(lease_->device);
   if (command.deviceId != DeviceId(device.address)) return false;
@@ -105,12 +104,12 @@ bool Session::IsLawful(const UrbCommand &command) const {
 
 void Session::Submit(const UrbCommand &command, const Bytes &data,
                      Clock::time_point now) {
-  // The devices have the default pipe and no other.
+  // The devices have the default pipe only.
   if (command.endpoint != 0) {
     Send(SubmitReply(command.sequence, kNoEntry, 0, {}));
     return;
   }
-  // Of a request without data the direction means nothing.
+  // The direction of a request without data has no meaning.
   const bool reads = command.direction == kIn;
   if (command.setup.length != 0 && IsRead(command.setup) != reads) {
     Send(SubmitReply(command.sequence, kBrokenPipe, 0, {}));
@@ -130,8 +129,8 @@ void Session::Submit(const UrbCommand &command, const Bytes &data,
   if (waiting_.size() > kMostWaiting) Break();
 }
 
-// The sender gave the request up: to it, the mixer was silent. An answer that
-// has been sent already stands.
+// The sender cancels the request: for the sender the mixer was silent. An
+// answer that was sent already is not taken back.
 void Session::Unlink(const UrbCommand &command) {
   const auto found =
       std::find_if(waiting_.begin(), waiting_.end(), [&](const Waiting &one) {
@@ -174,7 +173,7 @@ void Session::Sent(std::size_t count) {
                 output_.begin() + static_cast<std::ptrdiff_t>(count));
 }
 
-// Logs how the request ended, and tells the client.
+// Logs how the request ended and sends the reply.
 void Session::Finish(const UrbCommand &command, const Answer &answer) {
   if (answer.status == TransferStatus::Gone) {
     devices_->Log(lease_->device, command.setup, TransferStatus::Gone, {});
@@ -198,7 +197,7 @@ void Session::Send(const Bytes &bytes) {
   output_.insert(output_.end(), bytes.begin(), bytes.end());
 }
 
-// A real device says nothing more either, once it has been pulled out.
+// Nothing more is sent, as after a real device was unplugged.
 void Session::Break() {
   ended_ = broken_ = true;
   output_.clear();

@@ -42,10 +42,10 @@ class Session {
   // Gives the answers that are due; ends when the device has gone, or when a
   // client without a device has used up its time.
   void Continue(Clock::time_point now);
-  // When Continue is to be called next, if at any time.
+  // Time at which Continue has to be called next, if any.
   std::optional<Clock::time_point> NextDue() const;
 
-  // What is to be sent, and how much of it has been.
+  // The bytes to be sent, and the call after some of them were sent.
   const Bytes &Output() const { return output_; }
   void Sent(std::size_t count);
 
@@ -65,12 +65,12 @@ class Session {
   struct Waiting {
     UrbCommand command;
     Answer answer;
-    // At no time when the mixer is silent.
+    // None when the mixer is silent.
     std::optional<Clock::time_point> due;
   };
 
-  // Each handles one whole message at the head of the input and returns its
-  // size; 0 when there is none.
+  // Each handles one whole message at the start of the input and returns its
+  // size; 0 when there is no whole message.
   std::size_t TakeMessage(Clock::time_point now);
   std::size_t TakeOperation();
   std::size_t TakeCommand(Clock::time_point now);

@@ -10,7 +10,8 @@
 namespace ztk::virtual_mixer {
 namespace {
 
-// A kernel needs half a second for each device, an emulated one several.
+// A kernel needs half a second for each device, an emulated kernel several
+// seconds.
 constexpr std::chrono::seconds kPatience{30};
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A world of devices that is served over USB/IP: to clients that come, or to
-// the kernel of this machine.
+// Devices that are served over USB/IP, to clients on the network or to the
+// kernel of this machine.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_WORLD_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_USBIP_USBIP_WORLD_H_
 
@@ -18,15 +18,15 @@ namespace ztk::virtual_mixer {
 
 class UsbipWorld : public MixerWorld {
  public:
-  // Nobody can reach the devices before Listen or Attach.
+  // The devices can be reached only after Listen or Attach.
   explicit UsbipWorld(const std::vector<Placement> &placements,
                       LogSink log = nullptr);
 
-  // Returns the address with the port that stands for 0.
+  // Returns the address with the real port in place of 0.
   std::string Listen(const std::string &address);
 
   // Attaches every device to this machine's kernel, in order, and waits until
-  // it has taken them; so does plugging in from now on. Throws
+  // it has configured them; so does plugging in from now on. Throws
   // std::runtime_error when it cannot.
   void Attach(const std::string &vhciFolder = usbip::kVhciFolder);
 

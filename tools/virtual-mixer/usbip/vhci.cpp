@@ -20,12 +20,12 @@ namespace {
 constexpr char kOtherWay[] =
     "; or serve with --listen and attach with the usbip tool on a machine that "
     "can";
-// In the kernel's table: a port of the hub for devices up to high speed that
-// nothing is attached to.
+// A line of the kernel's table with this hub and this state is a free port for
+// devices up to high speed.
 constexpr char kHighSpeedHub[] = "hs";
 constexpr int kUnused = 4;
 
-// The first free port of one table, whose lines are
+// The first free port in a table with the lines
 //   hub port sta spd dev sockfd local_busid
 std::optional<int> FreePort(const std::filesystem::path &table) {
   std::ifstream lines(table);

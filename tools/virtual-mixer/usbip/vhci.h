@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The virtual host controller of this machine's kernel (vhci-hcd), to whose
-// ports devices that are served over USB/IP can be attached.
+// The virtual host controller of the kernel (vhci-hcd). Devices that are served
+// over USB/IP can be attached to its ports.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_USBIP_VHCI_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_USBIP_VHCI_H_
 
@@ -13,9 +13,9 @@ namespace ztk::virtual_mixer::usbip {
 
 inline constexpr char kVhciFolder[] = "/sys/devices/platform/vhci_hcd.0";
 
-// Hands one end of a connection to the kernel, which keeps it, and so attaches
-// the device that the other end serves. Throws std::runtime_error that says
-// what is missing and what to do.
+// Attaches the device that is served at the other end of the socket: the kernel
+// takes the socket over. Throws std::runtime_error with what is missing and
+// what to do.
 void AttachToKernel(const std::string &vhciFolder, const Export &device,
                     int socket);
 
