@@ -161,6 +161,14 @@ TEST_F(GetFirmwareVersionIndex, IsZeroWhenNoMixerAnswers) {
   EXPECT_THAT(TakeSteps(), ElementsAre("count", "open 1"));
 }
 
+TEST_F(GetFirmwareVersionIndex, OpensNothingWhereNoMixerIsCounted) {
+  EXPECT_EQ(Ask({Stranger(), Stranger()}, FirmwareVersion),
+            (Told{.result = 100, .output = 0}));
+  EXPECT_THAT(TakeSteps(), ElementsAre("count"));
+  const auto calls = TakeCalls();
+  EXPECT_EQ(std::count(calls.begin(), calls.end(), "find every service"), 0);
+}
+
 TEST_F(GetFirmwareVersionIndex, WritesZeroEvenForARefusedProduct) {
   std::uint32_t version = kUntouched;
   EXPECT_EQ(ZTK_GetFirmwareVersionIndex(8, &version), 102u);

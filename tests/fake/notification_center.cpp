@@ -87,6 +87,7 @@ void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
   LogStep(std::string("observe ") + name + " with " + method.selector);
   TheWorld().observations.push_back(
       {.name = name, .observer = observer, .method = method});
+  if (TheWorld().onObserve) TheWorld().onObserve();
 }
 
 }  // namespace ztk::platform::notification_center

@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -112,6 +113,8 @@ struct World {
 
   // The message bus.
   platform::notification_center::PostResult postResult;
+  // Runs while an observer is added.
+  std::function<void()> onObserve;
 
   // What came of it. `steps` is the log in the terms of a setter's rules:
   // count, open, request, close, file, post. `calls` has every call.

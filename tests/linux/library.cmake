@@ -19,6 +19,7 @@ add_executable(library_tests
   ../support/library_world_sandbox.cpp
   library_main.cpp
   library_files_test.cpp
+  library_outcome_test.cpp
   library_process_test.cpp
   library_requests_test.cpp
   library_settings_test.cpp

@@ -147,6 +147,22 @@ TEST_F(Register, StoresCallbackAndContextInTheSlotOfTheProductOnly) {
   }
 }
 
+// A notification that arrives while the observer is being added finds the slot
+// as it was before: the callback must not run before Register has returned.
+TEST_F(Register, AddsTheObserverBeforeItStoresTheCallback) {
+  for (const Family &family : kFamilies) {
+    SCOPED_TRACE(family.name);
+    TheWorld().onObserve = [&family] {
+      EXPECT_TRUE(family.isEmpty(static_cast<int>(family.productId)));
+      EXPECT_EQ(family.contexts[family.productId], nullptr);
+    };
+    int context = 0;
+    EXPECT_EQ(family.registerOne(family.productId, false, &context), 100u);
+    EXPECT_FALSE(family.isEmpty(static_cast<int>(family.productId)));
+  }
+  EXPECT_EQ(TheWorld().observations.size(), 4u);
+}
+
 TEST_F(Register, MakesOneObserverForAllFamilies) {
   EXPECT_EQ(_ZTKFunc, nullptr);
   kFamilies[2].registerOne(10, false, nullptr);
