@@ -3,32 +3,50 @@
  * @file ZTKFunc.h
  * Settings of the USB DJ mixer VRM-D6 and its sister models.
  *
- * A setter sends the new value to every attached mixer, remembers it in a
- * per-user property-list file and announces it to every process of the user's
- * session. A getter of a current value reads that file; a re-apply function
- * sends what it holds once more. Status queries ask the mixer.
+ * A setter sends the new value to every attached mixer, stores it in a settings
+ * file of the user (a property list) and announces the change to every process
+ * of the user's session. The function that gets a current value reads it from
+ * that file, and the function that sets a current value sends it from there to
+ * the mixers again. Status queries ask the mixers.
  *
- * **Results.** Every function returns one of the ZTKResult codes below. Where
- * one says "102", nothing was sent, stored or announced and outputs keep their
- * value, unless its own comment says otherwise.
+ * **Results.** Every function returns one of the ZTKResult codes below. The
+ * comment of a function lists them in the order in which they are tested. Where
+ * a function returns 102, it sends, stores and announces nothing, and outputs
+ * keep their value, unless its comment says otherwise.
  *
- * **Failures below the interface are not reported.** A mixer that cannot be
- * opened, a request that it refuses, a settings file that cannot be written, a
- * session without a message bus: each is passed over and the code is the same
- * as if it had worked. The `ztk` program looks behind the codes.
+ * **Failures below the interface do not change the result.** A mixer that
+ * cannot be opened or refuses a request, a settings file that cannot be
+ * written, a session without a message bus: the function goes on, and the
+ * result is the same as if that had worked. ZTK_GetLastOutcome() in
+ * ZTKOutcome.h tells what really happened.
  *
- * **Threads.** The library starts no thread and takes no lock. Call it from one
- * thread at a time, except where a function says that any thread may. On Linux
- * change callbacks run on the GLib main context that is the thread default of
- * the thread that registers, or on the global default context when it has
- * none: a worker thread pushes its own context first
- * (g_main_context_push_thread_default()). On macOS the
- * distributed notification center delivers on the run loop of the main thread,
- * whichever thread registers. Nothing is delivered while no loop runs: on Linux
- * keep one running on the thread that registers, or, for the global context, on
- * the thread that works on it; on macOS on the main thread.
+ * **Duration.** A function returns when all mixers have answered. On Linux each
+ * request to a mixer is given up after 1 second. A setter makes one request to
+ * each mixer, those of USB input and output audio two, a status query one. It
+ * also waits up to 1 second while another program changes the same settings,
+ * and up to 1 second for a message bus that does not respond. An input setter
+ * with three mixers that do not answer therefore needs about 6 seconds; with
+ * mixers that answer, a call needs some milliseconds. On macOS the system
+ * decides how long a request may take.
  *
- * **Texts** are never freed by the caller; see ZTKTextRef.
+ * **Threads.** The library starts no threads and takes no locks. Functions
+ * whose comment says so may be called from any thread at any time. Of all
+ * others, at most one may run at a time in a process. Breaking this rule
+ * damages memory: for example, two setters that run at the same time free the
+ * record of the last announcement twice, and the process crashes, perhaps much
+ * later.
+ *
+ * **Callbacks** run on an event loop, and never while no loop runs:
+ * - On Linux on the GLib main context that is the thread default of the thread
+ *   that registers, or on the global default context if it has none. A worker
+ *   thread pushes a context of its own before it registers
+ *   (g_main_context_push_thread_default()).
+ * - On macOS on the run loop of the main thread, whichever thread registers:
+ *   distributed notifications are delivered there.
+ *
+ * **Memory.** The library frees what it allocates. Texts are never freed by the
+ * caller; see ZTKTextRef. If memory is short, a function goes on without what
+ * it could not allocate, as after any other failure below the interface.
  */
 #ifndef ZTKFUNC_H_
 #define ZTKFUNC_H_
@@ -45,6 +63,22 @@
 #define ZTK_EXPORT
 #endif
 
+/**
+ * @defgroup version Version of this header
+ * @{
+ */
+
+/** Grows when something is removed or changed; part of the library's name. */
+#define ZTK_VERSION_MAJOR 1
+/** Grows when something is added. */
+#define ZTK_VERSION_MINOR 0
+/** Grows with corrections. */
+#define ZTK_VERSION_PATCH 0
+/** The whole version as one number for comparisons: 1.2.3 is 10203. */
+#define ZTK_VERSION \
+  (ZTK_VERSION_MAJOR * 10000 + ZTK_VERSION_MINOR * 100 + ZTK_VERSION_PATCH)
+/** @} */
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -54,30 +88,29 @@ extern "C" {
  * @{
  */
 
-/** What every function returns: one of the five codes below. */
+/** What every function returns: one of these five codes. */
 typedef uint32_t ZTKResult;
 
 /**
- * Done. Queries answer it too when no mixer is attached; each says what its
- * output holds then.
+ * Done. Queries also return it when no mixer is attached; the comment of each
+ * tells what its output is in that case.
  */
 #define ZTK_SUCCESS 100u
 /**
- * Done, with a warning: no mixer is attached to hear the new routing from, or
- * the input selector of that channel does not stand where it makes the routing
- * audible. Only ZTK_SetUSBInputAudio() and ZTK_SetUSBInputAudioDirect() answer
- * it.
+ * Done, with a warning: no mixer is attached, or the input selector of the
+ * channel is in a position in which the new routing cannot be heard. Only
+ * ZTK_SetUSBInputAudio() and ZTK_SetUSBInputAudioDirect() return it.
  */
 #define ZTK_WARNING 101u
 /**
- * Refused: an argument is null, out of range, or not served, or a name holds no
- * model. Where a function refuses for what it read from a file or a mixer, its
- * own comment says so.
+ * Rejected: an argument is null or out of range, the function does not serve
+ * the product, or a name contains no model. Some functions also reject what
+ * they read from a file or a mixer; their comments say so.
  */
 #define ZTK_REJECTED 102u
-/** At least one mixer is attached; only ZTK_IsUSBConnection() answers it. */
+/** At least one mixer is attached; only ZTK_IsUSBConnection() returns it. */
 #define ZTK_CONNECTED 103u
-/** No mixer is attached; only ZTK_IsUSBConnection() answers it. */
+/** No mixer is attached; only ZTK_IsUSBConnection() returns it. */
 #define ZTK_NOT_CONNECTED 104u
 /** @} */
 
@@ -88,18 +121,19 @@ typedef uint32_t ZTKResult;
 
 #if defined(__APPLE__)
 /**
- * A text. A constant of the library lives as long as the process; a text read
- * from a file belongs to the dictionary or bundle that it came from, so retain
- * it to keep it beyond the current autorelease pool. Never release it.
+ * A text. A constant of the library lives as long as the process. A text that
+ * was read from a file belongs to the dictionary or bundle that it comes from:
+ * retain it to keep it beyond the current autorelease pool. Never release a
+ * text that you did not retain.
  */
 typedef CFStringRef ZTKTextRef;
 /** Makes a ZTKTextRef from a string literal. */
 #define ZTK_TEXT(literal) CFSTR(literal)
 #else
 /**
- * A text: UTF-8, ends with a zero byte. One handed out stays valid until the
- * process ends; never free it. Texts given to the library are only read during
- * the call.
+ * A text in UTF-8 that ends with a zero byte. A text that the library returns
+ * stays valid until the process ends; never free it. A text that is passed to
+ * the library is only read during the call.
  */
 typedef const char *ZTKTextRef;
 /** Makes a ZTKTextRef from a string literal. */
@@ -109,9 +143,9 @@ typedef const char *ZTKTextRef;
 /**
  * Called when a routing changes in any process.
  *
- * @param channel  Channel that changed, from 0.
- * @param index    Its new choice, from 0.
- * @param context  As given when registering.
+ * @param channel  Channel that changed, counted from 0.
+ * @param index    Its new choice, counted from 0.
+ * @param context  The pointer that was passed when registering.
  */
 typedef void (*ZTKChannelCallback)(int32_t channel, int32_t index,
                                    void *context);
@@ -119,20 +153,22 @@ typedef void (*ZTKChannelCallback)(int32_t channel, int32_t index,
 /**
  * Called when a setting that has no channels changes in any process.
  *
- * @param index    The new choice, from 0.
- * @param context  As given when registering.
+ * @param index    The new choice, counted from 0.
+ * @param context  The pointer that was passed when registering.
  */
 typedef void (*ZTKIndexCallback)(int32_t index, void *context);
 /** @} */
 
 /**
  * @defgroup product Product and connection
- * Which model a function is asked about, and whether a mixer is attached.
+ * Numbers of the models, and whether a mixer is attached.
  *
- * Models are numbered 0 VRM-Q8X, 1 VRM-K2, 2 VRM-Q8S, 3 VRC-H7, 4 VRM-Q9,
- * 5 VRM-L4, 6 VRM-E3, 8 VRM-B5, 10 VRM-D6; 7 and 9 are no models. The number
- * chooses who is served, not who is talked to: mixers are always found by the
- * maker's USB vendor id and the USB product id 27.
+ * The models are 0 VRM-Q8X, 1 VRM-K2, 2 VRM-Q8S, 3 VRC-H7, 4 VRM-Q9, 5 VRM-L4,
+ * 6 VRM-E3, 8 VRM-B5 and 10 VRM-D6; the numbers 7 and 9 are not used. Functions
+ * take the number of a model as productId and reject models that they do not
+ * serve. It does not choose among the attached mixers: these are always found
+ * by the maker's USB vendor id and the USB product id 27, and all of them are
+ * addressed.
  * @{
  */
 
@@ -156,69 +192,70 @@ typedef void (*ZTKIndexCallback)(int32_t index, void *context);
 #define ZTK_PRODUCT_VRM_D6 10u
 
 /**
- * Finds the number of a model from its name.
+ * Finds the number of a model from a name that contains it.
  *
- * The model's text may stand anywhere in the name, in upper or lower case.
- * When a name holds two, the one that comes first in this order counts:
- * VRM-Q8X, VRM-K2, VRM-Q8S, VRC-H7, VRM-Q9, VRM-L4, VRM-E3, VRM-B5, VRM-D6.
+ * The model may be anywhere in the name, in upper or lower case. If a name
+ * contains two models, the one that comes first in this list counts: VRM-Q8X,
+ * VRM-K2, VRM-Q8S, VRC-H7, VRM-Q9, VRM-L4, VRM-E3, VRM-B5, VRM-D6.
  *
- * @param name        Name to look through.
+ * @param name        Name to search, for example that of a sound device.
  * @param[out] outId  0 to 6, 8 or 10. Written on success only.
  *
  * @retval 102 (ZTK_REJECTED)  name is null (tested first), outId is null, or no
  *                             model's text is found.
  * @retval 100 (ZTK_SUCCESS)   *outId is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetProductId(ZTKTextRef name, uint32_t *outId);
 
 /**
  * Tells whether a mixer is attached.
  *
- * Counts the mixers on the bus; none is opened.
+ * Counts the mixers on the USB bus and opens none.
  *
- * @param productId  Ignored: every value answers the same.
+ * @param productId  Ignored: the result is the same for every value.
  *
  * @retval 103 (ZTK_CONNECTED)      At least one mixer is attached.
- * @retval 104 (ZTK_NOT_CONNECTED)  None is, or the bus cannot be read.
+ * @retval 104 (ZTK_NOT_CONNECTED)  No mixer is, or the bus cannot be read.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_IsUSBConnection(uint32_t productId);
 /** @} */
 
 /**
  * @defgroup versions Version texts
- * Versions of the four installed pieces, each read from a property-list file at
- * a fixed place. No mixer is asked.
+ * Versions of four installed components, each read from a property-list file at
+ * a fixed path. No mixer is asked. The maker's installer for macOS writes these
+ * files; where it did not run, there are none.
  *
- * The driver and the library lie under /Library or, on older systems, under
- * /System/Library. The second number of the system version decides: above 10
- * is newer, and everything else, a version 11.2 included, is older. There is no
- * second try at the other place.
+ * The driver and the library are under /Library or, on older systems, under
+ * /System/Library. The second number of the system version decides: a system
+ * counts as newer if it is above 10, and as older otherwise. A version such as
+ * 11.2 therefore counts as older. The other path is not tried.
  *
- * All four take:
- * - productId: served is 10 only.
- * - outText: the version exactly as the file has it; see ZTKTextRef for how
- *   long it lives. Written on success only.
+ * All four functions take:
+ * - productId: the only product served is 10.
+ * - outText: the version exactly as it is in the file; see ZTKTextRef for how
+ *   long the text lives. Written on success only.
  *
- * And answer, in this order: 102 when outText is null; 102 when productId is
- * not 10; 102 when the file cannot be read as a dictionary or does not hold the
- * version as a text; 100.
+ * Their results, in the order of the tests: 102 if outText is null; 102 if
+ * productId is not 10; 102 if the file cannot be read as a dictionary, or its
+ * version is missing or not a text; 100.
  * @{
  */
 
 /** Reads the version of the installer package, from its receipt. */
 ZTK_EXPORT ZTKResult ZTK_GetPkgVersionText(uint32_t productId,
                                            ZTKTextRef *outText);
-/** Reads the version of the USB audio driver: its short version. */
+/** Reads the short version of the USB audio driver. */
 ZTK_EXPORT ZTKResult ZTK_GetDriverVersionText(uint32_t productId,
                                               ZTKTextRef *outText);
-/** Reads the version of the settings utility: its build version. */
+/** Reads the build version of the settings utility. */
 ZTK_EXPORT ZTKResult ZTK_GetUtilityVersionText(uint32_t productId,
                                                ZTKTextRef *outText);
-/** Reads the version of the installed library: its build version. */
+/** Reads the build version of the installed library. */
 ZTK_EXPORT ZTKResult ZTK_GetLibraryVersionText(uint32_t productId,
                                                ZTKTextRef *outText);
 /** @} */
@@ -227,10 +264,10 @@ ZTK_EXPORT ZTKResult ZTK_GetLibraryVersionText(uint32_t productId,
  * @defgroup input_audio USB input audio
  * Which mixer signal is recorded on each of the five USB channels.
  *
- * Serves the VRM-D6 (10) only. Channels count from 0 to 4. Channels 0 to 3
- * offer seven choices, channel 4 eight. Beyond them stands a placeholder,
- * "PARAM ERROR", which the text getter and the setter still take: their bounds
- * are wider than the count.
+ * Serves the VRM-D6 (10) only. Channels are numbered from 0 to 4. Channels 0 to
+ * 3 have seven choices, channel 4 has eight. After them comes a placeholder
+ * with the text "PARAM ERROR". The text getter and the setter accept it: they
+ * take larger indexes than the count says.
  * @{
  */
 
@@ -246,7 +283,7 @@ ZTK_EXPORT ZTKResult ZTK_GetLibraryVersionText(uint32_t productId,
  *                             served, or channel is above 4.
  * @retval 100 (ZTK_SUCCESS)   *outCount is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetNumOfInputAudioIndex(uint32_t productId,
                                                  uint32_t channel,
@@ -255,14 +292,14 @@ ZTK_EXPORT ZTKResult ZTK_GetNumOfInputAudioIndex(uint32_t productId,
 /**
  * Names a choice of a channel.
  *
- * The choices lie one channel after the other, eight to a channel: index 8 of
- * channels 0 to 3 is the first choice of the next channel.
+ * The texts of all channels form one list with eight entries for each channel:
+ * index 8 of the channels 0 to 3 is the first choice of the next channel.
  *
  * @param productId     Served: 10.
  * @param channel       0 to 4.
- * @param index         0 to 8; on channel 4, 0 to 9. "PARAM ERROR" where there
- *                      is no choice: 7 on channels 0 to 3, 8 and 9 on channel
- *                      4.
+ * @param index         0 to 8; on channel 4, 0 to 9. The text is "PARAM ERROR"
+ *                      where there is no choice: at 7 on the channels 0 to 3,
+ *                      at 8 and 9 on channel 4.
  * @param ignored       Any value.
  * @param[out] outText  A constant. Written on success only.
  *
@@ -270,7 +307,7 @@ ZTK_EXPORT ZTKResult ZTK_GetNumOfInputAudioIndex(uint32_t productId,
  *                             served, channel or index is out of range.
  * @retval 100 (ZTK_SUCCESS)   *outText is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetUSBInputAudioText(uint32_t productId,
                                               int32_t channel, uint32_t index,
@@ -278,8 +315,8 @@ ZTK_EXPORT ZTKResult ZTK_GetUSBInputAudioText(uint32_t productId,
                                               ZTKTextRef *outText);
 
 /**
- * Sets the choice of a channel: sends it to every mixer, remembers it,
- * announces it, and then asks each mixer where its input selector stands.
+ * Sets the choice of a channel: sends it to every mixer, stores and announces
+ * it, and then asks each mixer for the position of its input selector.
  *
  * @param productId  Served: 10.
  * @param channel    0 to 4.
@@ -288,21 +325,20 @@ ZTK_EXPORT ZTKResult ZTK_GetUSBInputAudioText(uint32_t productId,
  *
  * @retval 102 (ZTK_REJECTED)  productId is not served (tested first), channel
  *                             or index is out of range.
- * @retval 101 (ZTK_WARNING)   Set. No mixer is attached and index is 0, 1 or 2;
- *                             or one opens, index is 0 or 1, and the selector
- *                             of that channel is not at position 4, or is not
- *                             told. Channel 4 has none and is never at 4.
+ * @retval 101 (ZTK_WARNING)   Set. Either no mixer is attached and index is 0,
+ * 1 or 2; or index is 0 or 1, and for a mixer that can be opened the selector
+ * of the channel is not in position 4 (ZTK_SELECTOR_AUDIBLE) or the mixer does
+ * not tell. Channel 4 has no selector and counts as not in this position.
  * @retval 100 (ZTK_SUCCESS)   Set.
  */
 ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
                                           uint32_t index);
 
 /**
- * Sends a raw routing value to every mixer; it is neither remembered nor
- * announced.
+ * Sends a raw routing value to every mixer; it is neither stored nor announced.
  *
- * The value is 16 bits: high + 1 in the top four (higher bits are cut off),
- * channel + 1 in the next four, source in the low eight.
+ * The value has 16 bits: high + 1 in the top four (higher bits are cut off),
+ * channel + 1 in the next four, and source in the low eight.
  *
  * @param productId  Served: 10.
  * @param channel    0 to 4.
@@ -310,15 +346,17 @@ ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
  * @param source     Source code, 0 to 15: 1 control tone LINE, 3 control tone
  *                   PHONO, 6 post fader of the channel, 7 cross fader A, 8
  *                   cross fader B, 9 MIC, 10 REC OUT; the others have no name.
- *                   The faders of another channel, 17 to 20 on channel 4, are
- *                   out of this function's reach.
+ *                   The codes 17 to 20, which select the fader of another
+ *                   channel on channel 4, cannot be sent with this function.
  *
  * @retval 102 (ZTK_REJECTED)  productId is not served (tested first), channel
  *                             or source is out of range.
- * @retval 101 (ZTK_WARNING)   Sent. No mixer is attached and source is 0 or 1;
- *                             or one opens, source is 0 to 3, and the selector
- *                             of that channel is not at position 4, or is not
- *                             told. Channel 4 has none and is never at 4.
+ * @retval 101 (ZTK_WARNING)   Sent. Either no mixer is attached and source is 0
+ *                             or 1; or source is 0 to 3, and for a mixer that
+ *                             can be opened the selector of the channel is not
+ *                             in position 4 (ZTK_SELECTOR_AUDIBLE) or the mixer
+ *                             does not tell. Channel 4 has no selector and
+ *                             counts as not in this position.
  * @retval 100 (ZTK_SUCCESS)   Sent.
  */
 ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudioDirect(uint32_t productId,
@@ -326,13 +364,14 @@ ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudioDirect(uint32_t productId,
                                                 uint32_t source);
 
 /**
- * Reads the remembered choice of a channel.
+ * Reads the stored choice of a channel.
  *
  * @param productId      Served: 10.
- * @param channel        0 to 5: one wider than elsewhere. Channel 5 is always
- *                       0.
- * @param[out] outIndex  The integer as it stands in the settings file, any
- *                       value, -1 as 0xFFFFFFFF; 0 without one.
+ * @param channel        0 to 5, which is one channel more than other functions
+ *                       take. For channel 5 the choice is always 0.
+ * @param[out] outIndex  The integer from the settings file, which may be any
+ *                       value; -1 is 0xFFFFFFFF. 0 if nothing is stored.
+ *                       Written on success only.
  *
  * @retval 102 (ZTK_REJECTED)  outIndex is null (tested first), productId is not
  *                             served, or channel is out of range.
@@ -343,7 +382,7 @@ ZTK_EXPORT ZTKResult ZTK_GetCurrentUSBInputAudioIndex(uint32_t productId,
                                                       uint32_t *outIndex);
 
 /**
- * Sends the remembered choice of a channel to every mixer once more.
+ * Sends the stored choice of a channel to every mixer again.
  *
  * Nothing is stored or announced, no selector is read.
  *
@@ -351,8 +390,8 @@ ZTK_EXPORT ZTKResult ZTK_GetCurrentUSBInputAudioIndex(uint32_t productId,
  * @param channel    0 to 5, as ZTK_GetCurrentUSBInputAudioIndex() takes it.
  *                   Channel 5 sends the placeholder of channel 4.
  *
- * @retval 102 (ZTK_REJECTED)  That function refuses the arguments, or
- *                             channel * 8 + the remembered index is above 41.
+ * @retval 102 (ZTK_REJECTED)  That function rejects the arguments, or
+ *                             channel * 8 + the stored index is above 41.
  * @retval 100 (ZTK_SUCCESS)   Sent, also when no mixer is attached.
  */
 ZTK_EXPORT ZTKResult ZTK_SetCurrentUSBInputAudio(uint32_t productId,
@@ -365,30 +404,29 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentUSBInputAudio(uint32_t productId,
  */
 
 /**
- * Gives the sentence to show with a 101 of ZTK_SetUSBInputAudio().
+ * Gets the text to show to the user after ZTK_SetUSBInputAudio() returned 101.
  *
- * Counts the mixers and asks the first one for the state of its port; the
- * sentence says whether no mixer is attached or its input selector needs to be
- * turned.
+ * Counts the mixers and asks the first one for the state of its port. The text
+ * says that no mixer is attached, or that its input selector has to be turned.
  *
  * @param productId     Served: 10.
- * @param channel       0 to 3: channel 4 has no selector and no sentence.
+ * @param channel       0 to 3: channel 4 has no selector and no text.
  * @param resultCode    Must be 101.
  * @param language      0 English, 1 Japanese, 2 French, 3 German, 4 Italian,
  *                      5 Dutch, 6 Spanish, 7 Russian, 8 Portuguese,
  *                      9 simplified Chinese, 10 traditional Chinese,
- *                      11 Korean; 99 the user's own. With no mixer attached the
- *                      user's own language is used whatever is asked for.
- * @param[out] outText  Must not be null: it is not tested. The sentence, or
- *                      null when the library's bundle is missing or, for
- *                      languages 0 to 11, that language or its sentence. In
- *                      the user's own language a missing sentence yields its
+ *                      11 Korean; 99 the language of the user. If no mixer is
+ *                      attached, the language of the user is used in any case.
+ * @param[out] outText  Must not be null; this is not tested. The text, or null
+ *                      if the library's bundle is missing or, for the languages
+ *                      0 to 11, this language or its text. If the text is
+ *                      missing in the language of the user, the result is its
  *                      key, such as "WARNING1". Written on success only.
  *
  * @retval 102 (ZTK_REJECTED)  productId is not served, channel is out of range,
- *                             or resultCode is not 101 (nothing is asked of a
- *                             mixer then); or language is none of the above
- *                             (known only after the mixer was asked).
+ *                             or resultCode is not 101: in these cases no mixer
+ *                             is asked. Or language is none of the above, which
+ *                             is tested only after the mixer was asked.
  * @retval 100 (ZTK_SUCCESS)   *outText is set.
  */
 ZTK_EXPORT ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
@@ -400,12 +438,13 @@ ZTK_EXPORT ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
 
 /**
  * @defgroup output_audio USB output audio
- * Which playback channel of the computer feeds which mixer input.
+ * Which input of the mixer each playback channel of the computer goes to.
  *
- * Serves the VRM-B5 (8) only, and keeps that model's settings file, but talks
- * to the same mixers as every other family. Channels count from 0 to 2, each
- * with three choices. The functions do not agree on their bounds: the setters
- * take channels 3 and 4 too, and the text getter takes index 3.
+ * Serves the VRM-B5 (8) only and stores in the settings file of that model, but
+ * sends to the same mixers as all other functions. Channels are numbered from 0
+ * to 2 and have three choices each. The bounds of the functions differ: the
+ * setters also take the channels 3 and 4, and the text getter also takes index
+ * 3.
  * @{
  */
 
@@ -420,7 +459,7 @@ ZTK_EXPORT ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
  *                             served, or channel is out of range.
  * @retval 100 (ZTK_SUCCESS)   *outCount is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetNumOfOutputAudioIndex(uint32_t productId,
                                                   uint32_t channel,
@@ -440,7 +479,7 @@ ZTK_EXPORT ZTKResult ZTK_GetNumOfOutputAudioIndex(uint32_t productId,
  *                             index is above 3.
  * @retval 100 (ZTK_SUCCESS)   *outText is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetUSBOutputAudioText(uint32_t productId,
                                                uint32_t channel, uint32_t index,
@@ -448,24 +487,25 @@ ZTK_EXPORT ZTKResult ZTK_GetUSBOutputAudioText(uint32_t productId,
                                                ZTKTextRef *outText);
 
 /**
- * Sets the choice of a channel: sends it to every mixer, remembers it,
- * announces it, and reads every mixer's input selector once.
+ * Sets the choice of a channel: sends it to every mixer, stores and announces
+ * it, and reads the input selectors of every mixer once.
  *
  * @param productId  Served: 8.
- * @param channel    0 to 4. There is nothing to send for 3 and 4; they are
- *                   remembered and announced all the same.
+ * @param channel    0 to 4. For 3 and 4 nothing is sent, but the choice is
+ *                   stored and announced.
  * @param index      0 to 2.
  *
  * @retval 102 (ZTK_REJECTED)  channel is out of range (tested first), productId
  *                             is not served, or index is out of range.
- * @retval 100 (ZTK_SUCCESS)   Set. This family never answers 101.
+ * @retval 100 (ZTK_SUCCESS)   Set. The functions of this group never return
+ * 101.
  */
 ZTK_EXPORT ZTKResult ZTK_SetUSBOutputAudio(uint32_t productId, uint32_t channel,
                                            uint32_t index);
 
 /**
- * Sets a channel to its default, whose index is the channel itself, as
- * ZTK_SetUSBOutputAudio() does, but does not remember it.
+ * Sets a channel to its default as ZTK_SetUSBOutputAudio() does, but does not
+ * store it. The index of the default is the number of the channel.
  *
  * @param productId  Served: 8.
  * @param channel    0 to 4. There is nothing to send for 3 and 4; the channel
@@ -479,13 +519,13 @@ ZTK_EXPORT ZTKResult ZTK_SetUSBOutputAudioDefault(uint32_t productId,
                                                   uint32_t channel);
 
 /**
- * Reads the remembered choice of a channel.
+ * Reads the stored choice of a channel.
  *
  * @param productId      Served: 8.
  * @param channel        0 to 2.
- * @param[out] outIndex  The integer as it stands in the settings file, any
- *                       value, -1 as 0xFFFFFFFF; the channel itself without
- *                       one.
+ * @param[out] outIndex  The integer from the settings file, which may be any
+ *                       value; -1 is 0xFFFFFFFF. The number of the channel if
+ *                       nothing is stored. Written on success only.
  *
  * @retval 102 (ZTK_REJECTED)  outIndex is null, productId is not served, or
  *                             channel is out of range.
@@ -496,10 +536,10 @@ ZTK_EXPORT ZTKResult ZTK_GetCurrentUSBOutputAudioIndex(uint32_t productId,
                                                        uint32_t *outIndex);
 
 /**
- * Sends the remembered choice of a channel to every mixer once more.
+ * Sends the stored choice of a channel to every mixer again.
  *
- * The remembered index is not tested: one above 2 sends a value of a later
- * channel, and one that has no value sends nothing.
+ * The stored index is not tested: an index above 2 sends a value of a later
+ * channel, or nothing if there is no such value.
  *
  * @param productId  Served: 8.
  * @param channel    0 to 2.
@@ -516,18 +556,18 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentUSBOutputAudio(uint32_t productId,
  * @defgroup boost Boost level
  * The level of the mixer's USB output, in four steps.
  *
- * Only the VRM-D6 (10) can be set; the choices can be listed for more models.
+ * It can be set for the VRM-D6 (10) only; the choices can be listed for more
+ * models.
  * @{
  */
 
 /**
  * Counts the boost levels of a product.
  *
- * Answered from a constant table: no mixer is asked, none need be attached.
+ * The answer comes from a constant table: no mixer is asked.
  *
- * @param productId      Model asked about, as ZTK_GetProductId() numbers them.
- *                       Served: 0, 1, 5, 6, 8, 10. Wider than
- *                       ZTK_SetBoostLevelIndex(), which serves 10 only.
+ * @param productId      Served: 0, 1, 5, 6, 8, 10. These are more models than
+ *                       ZTK_SetBoostLevelIndex() serves.
  * @param[out] outCount  Number of choices, always 4; valid indexes are 0
  *                       (-5 dB) to 3 (-19 dB). Written on success only.
  *
@@ -535,7 +575,7 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentUSBOutputAudio(uint32_t productId,
  *                             not served.
  * @retval 100 (ZTK_SUCCESS)   *outCount is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetNumOfBoostLevelIndex(uint32_t productId,
                                                  uint32_t *outCount);
@@ -552,14 +592,14 @@ ZTK_EXPORT ZTKResult ZTK_GetNumOfBoostLevelIndex(uint32_t productId,
  *                             served, or index is above 3.
  * @retval 100 (ZTK_SUCCESS)   *outText is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetBoostLevelText(uint32_t productId, uint32_t index,
                                            uint32_t ignored,
                                            ZTKTextRef *outText);
 
 /**
- * Sets the boost level: sends it to every mixer, remembers and announces it.
+ * Sets the boost level: sends it to every mixer, stores and announces it.
  *
  * @param productId  Served: 10.
  * @param index      0 to 3.
@@ -570,11 +610,12 @@ ZTK_EXPORT ZTKResult ZTK_GetBoostLevelText(uint32_t productId, uint32_t index,
 ZTK_EXPORT ZTKResult ZTK_SetBoostLevelIndex(uint32_t productId, uint32_t index);
 
 /**
- * Reads the remembered boost level.
+ * Reads the stored boost level.
  *
  * @param productId      Served: 10.
- * @param[out] outIndex  The integer as it stands in the settings file, any
- *                       value, -1 as 0xFFFFFFFF; 3 without one.
+ * @param[out] outIndex  The integer from the settings file, which may be any
+ *                       value; -1 is 0xFFFFFFFF. 3 if nothing is stored.
+ * Written on success only.
  *
  * @retval 102 (ZTK_REJECTED)  outIndex is null (tested first), or productId is
  *                             not served.
@@ -584,12 +625,12 @@ ZTK_EXPORT ZTKResult ZTK_GetCurrentBoostLevelIndex(uint32_t productId,
                                                    uint32_t *outIndex);
 
 /**
- * Sends the remembered boost level to every mixer once more.
+ * Sends the stored boost level to every mixer again.
  *
  * @param productId  Served: 10.
  *
- * @retval 102 (ZTK_REJECTED)  productId is not served, or the remembered index
- *                             is above 3: nothing is sent.
+ * @retval 102 (ZTK_REJECTED)  productId is not served, or the stored index is
+ *                             above 3.
  * @retval 100 (ZTK_SUCCESS)   Sent, also when no mixer is attached.
  */
 ZTK_EXPORT ZTKResult ZTK_SetCurrentBoostLevelIndex(uint32_t productId);
@@ -597,9 +638,9 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentBoostLevelIndex(uint32_t productId);
 
 /**
  * @defgroup midi MIDI channel and key mode
- * The MIDI channel serves the VRM-K2 (1) only. The key mode serves no model:
- * its functions are kept for programs that were built against them and answer
- * 102 to everything.
+ * The MIDI channel can be set for the VRM-K2 (1) only. The key mode can be set
+ * for no model: its functions exist for programs that were built with them, and
+ * always return 102.
  * @{
  */
 
@@ -613,7 +654,7 @@ ZTK_EXPORT ZTKResult ZTK_SetCurrentBoostLevelIndex(uint32_t productId);
  *                             not served.
  * @retval 100 (ZTK_SUCCESS)   *outCount is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetNumOfMidiChannelIndex(uint32_t productId,
                                                   uint32_t *outCount);
@@ -630,14 +671,14 @@ ZTK_EXPORT ZTKResult ZTK_GetNumOfMidiChannelIndex(uint32_t productId,
  *                             served, or index is above 15.
  * @retval 100 (ZTK_SUCCESS)   *outText is set.
  *
- * @note Keeps no state; may be called from any thread.
+ * @note May be called from any thread.
  */
 ZTK_EXPORT ZTKResult ZTK_GetMidiChannelText(uint32_t productId, uint32_t index,
                                             uint32_t ignored,
                                             ZTKTextRef *outText);
 
 /**
- * Sets the MIDI channel: sends it to every mixer, remembers and announces it.
+ * Sets the MIDI channel: sends it to every mixer, stores and announces it.
  *
  * @param productId  Served: 1.
  * @param index      0 to 15.
@@ -649,11 +690,12 @@ ZTK_EXPORT ZTKResult ZTK_SetMidiChannelIndex(uint32_t productId,
                                              uint32_t index);
 
 /**
- * Reads the remembered MIDI channel.
+ * Reads the stored MIDI channel.
  *
  * @param productId      Served: 1.
- * @param[out] outIndex  The integer as it stands in the settings file, any
- *                       value, -1 as 0xFFFFFFFF; 0 without one.
+ * @param[out] outIndex  The integer from the settings file, which may be any
+ *                       value; -1 is 0xFFFFFFFF. 0 if nothing is stored.
+ * Written on success only.
  *
  * @retval 102 (ZTK_REJECTED)  outIndex is null (tested first), or productId is
  *                             not served.
@@ -663,51 +705,60 @@ ZTK_EXPORT ZTKResult ZTK_GetCurrentMidiChannelIndex(uint32_t productId,
                                                     uint32_t *outIndex);
 
 /**
- * Sends the remembered MIDI channel to every mixer once more, if it is one of
- * the first four.
+ * Sends the stored MIDI channel to every mixer again, if it is one of the first
+ * four.
  *
  * @param productId  Served: 1.
  *
- * @retval 102 (ZTK_REJECTED)  productId is not served, or the remembered index
- *                             is above 3: only "CH 1" to "CH 4" are re-sent,
+ * @retval 102 (ZTK_REJECTED)  productId is not served, or the stored index is
+ *                             above 3: only "CH 1" to "CH 4" are sent again,
  *                             although all sixteen can be set.
  * @retval 100 (ZTK_SUCCESS)   Sent, also when no mixer is attached.
  */
 ZTK_EXPORT ZTKResult ZTK_SetCurrentMidiChannelIndex(uint32_t productId);
 
-/** Answers 102 (ZTK_REJECTED) and does nothing; *outCount is not written. */
+/** Returns 102 (ZTK_REJECTED) and does nothing; *outCount is not written. */
 ZTK_EXPORT ZTKResult ZTK_GetNumOfMidiKeyModeIndex(uint32_t productId,
                                                   uint32_t *outCount);
-/** Answers 102 (ZTK_REJECTED) and does nothing; *outText is not written. */
+/** Returns 102 (ZTK_REJECTED) and does nothing; *outText is not written. */
 ZTK_EXPORT ZTKResult ZTK_GetMidiKeyModeText(uint32_t productId, uint32_t index,
                                             uint32_t ignored,
                                             ZTKTextRef *outText);
-/** Answers 102 (ZTK_REJECTED) and does nothing. */
+/** Returns 102 (ZTK_REJECTED) and does nothing. */
 ZTK_EXPORT ZTKResult ZTK_SetMidiKeyModeIndex(uint32_t productId,
                                              uint32_t index);
-/** Answers 102 (ZTK_REJECTED) and does nothing; *outIndex is not written. */
+/** Returns 102 (ZTK_REJECTED) and does nothing; *outIndex is not written. */
 ZTK_EXPORT ZTKResult ZTK_GetCurrentMidiKeyModeIndex(uint32_t productId,
                                                     uint32_t *outIndex);
-/** Answers 102 (ZTK_REJECTED) and does nothing. */
+/** Returns 102 (ZTK_REJECTED) and does nothing. */
 ZTK_EXPORT ZTKResult ZTK_SetCurrentMidiKeyModeIndex(uint32_t productId);
 /** @} */
 
 /**
  * @defgroup status Mixer status
- * Facts that only the mixer knows. Serves the VRM-D6 (10) only.
+ * Status of the attached mixers. Serves the VRM-D6 (10) only.
  *
- * Each query asks the attached mixers in bus order; a mixer that cannot be
- * opened is passed over. With several mixers the last answer stands, except
- * that the firmware version is the first mixer's.
+ * Each query asks the mixers in the order of the bus and skips those that
+ * cannot be opened. With several mixers the output is that of the last one;
+ * only the firmware version is that of the first one.
  * @{
  */
+
+/** Number of positions of an input selector: 0 to 16. */
+#define ZTK_SELECTOR_POSITIONS 17u
+/**
+ * Position of an input selector in which the choices "Control Tone" of USB
+ * input audio can be heard. What the other positions select is not known.
+ */
+#define ZTK_SELECTOR_AUDIBLE 4u
 
 /**
  * Reads the certification level.
  *
  * @param productId      Served: 10.
- * @param[out] outLevel  The mixer's number; 0 when none opens, or when the last
- *                       that opens does not answer. Untouched on 102.
+ * @param[out] outLevel  Level, a 32-bit number that the mixer sends. 0 if no
+ *                       mixer can be opened, or the last one that can does not
+ *                       answer. Written on success only.
  *
  * @retval 102 (ZTK_REJECTED)  outLevel is null (tested first), or productId is
  *                             not served.
@@ -720,10 +771,10 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerCertifyLevel(uint32_t productId,
  * Reads the firmware version of the first mixer.
  *
  * @param productId        Served: 10.
- * @param[out] outVersion  The mixer's 16-bit number, such as 1078; 0 when the
- *                         first mixer does not open or answer, whatever the
- *                         others would. Set to 0 also when productId is
- *                         refused.
+ * @param[out] outVersion  The 16-bit number that the mixer sends, such as 1078
+ *                         (0x0436). 0 if the first mixer cannot be opened or
+ *                         does not answer; the others are not asked. Also set
+ *                         to 0 if productId is not served.
  *
  * @retval 102 (ZTK_REJECTED)  outVersion is null (tested first), or productId
  *                             is not served.
@@ -733,19 +784,20 @@ ZTK_EXPORT ZTKResult ZTK_GetFirmwareVersionIndex(uint32_t productId,
                                                  uint32_t *outVersion);
 
 /**
- * Reads where the input selector of a channel stands.
+ * Reads the position of the input selector of a channel.
  *
  * @param productId         Served: 10.
- * @param channel           0 to 4. The mixer reports 0 to 3; channel 4 is 0.
- * @param[out] outPosition  Position, 0 to 16; 0 also for a mixer that opens
- *                          and does not answer. Untouched when no mixer can be
- *                          opened: set it before.
+ * @param channel           0 to 4. Channel 4 has no input selector; its
+ * position is always 0.
+ * @param[out] outPosition  Position, 0 to 16. 0 also if a mixer can be opened
+ *                          and does not answer. Not written if no mixer can be
+ *                          opened: set it before the call.
  *
  * @retval 102 (ZTK_REJECTED)  outPosition is null (tested first), productId is
- *                             not served, or channel is out of range, with
- *                             *outPosition untouched; or a mixer reports 17 or
- *                             more, with that number in *outPosition.
- * @retval 100 (ZTK_SUCCESS)   Answered, or no mixer can be opened.
+ *                             not served, or channel is out of range: then
+ *                             *outPosition is not written. Or a mixer sends 17
+ *                             or more: then *outPosition is that number.
+ * @retval 100 (ZTK_SUCCESS)   *outPosition is set, or no mixer can be opened.
  */
 ZTK_EXPORT ZTKResult ZTK_GetMixerInputSelectorStatus(uint32_t productId,
                                                      uint32_t channel,
@@ -755,14 +807,14 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerInputSelectorStatus(uint32_t productId,
  * Reads whether the Serato DJ software is active on the mixer.
  *
  * @param productId       Served: 10.
- * @param[out] outActive  0 not active, 1 active. Untouched when no mixer can be
- *                        opened: set it before.
+ * @param[out] outActive  0 not active, 1 active. Not written if no mixer can be
+ *                        opened: set it before the call.
  *
  * @retval 102 (ZTK_REJECTED)  outActive is null (tested first), productId is
- *                             not served, or a mixer reports something else or
- *                             nothing. A mixer before it may have set
+ *                             not served, or a mixer sends another number or
+ *                             does not answer. An earlier mixer may have set
  *                             *outActive.
- * @retval 100 (ZTK_SUCCESS)   Answered, or no mixer can be opened.
+ * @retval 100 (ZTK_SUCCESS)   *outActive is set, or no mixer can be opened.
  */
 ZTK_EXPORT ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
                                                     uint32_t *outActive);
@@ -770,25 +822,26 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
 
 /**
  * @defgroup callbacks Change callbacks
- * Be called when any process of the session, this one included, changes a
- * setting.
+ * Calls a function of the program when any process of the session, this one
+ * included, changes a setting.
  *
- * One callback per family and product. Registering again replaces it and adds
- * another delivery: after n registrations it runs n times for each change.
- * Unregistering empties the slot, so that none of them runs anything.
+ * There is one callback for each setting and product. Registering again
+ * replaces it and adds another delivery: after n registrations it runs n times
+ * for each change. After unregistering it does not run any more.
  *
- * Register takes:
- * - productId: who is served stands with each function.
- * - callback: called on the event loop that the head of this file names. Null
- *   is taken and means nobody is called.
- * - context: handed back as it is; must stay valid until unregistered.
+ * The functions that register take:
+ * - productId: the comment of each function tells which products it serves.
+ * - callback: the function to call, on the event loop that the comment at the
+ *   head of this file names. With null nothing is called.
+ * - context: a pointer that is passed to the callback. It must stay valid until
+ *   the callback is unregistered.
  *
- * It answers 102 when productId is not served, and else 100, also when there is
- * no message bus to listen on, or no GLib to listen with.
+ * They return 102 if productId is not served, and else 100, also if the session
+ * has no message bus, or if GLib is not installed (Linux).
  *
- * Unregister ignores its second argument. It answers 102 when productId is not
- * served, and else 100; in three families it serves more products than Register
- * does.
+ * The functions that unregister ignore their second argument. They return 102
+ * if productId is not served, and else 100. For three settings they serve more
+ * products than the functions that register.
  * @{
  */
 
@@ -802,8 +855,9 @@ ZTK_EXPORT ZTKResult ZTK_UnregisterInputAudioChangedCallback(uint32_t productId,
 /**
  * Registers for USB output audio. Served: 10.
  *
- * The setters of this family announce under the VRM-B5's name, and this listens
- * under the VRM-D6's: the library's own changes never call it.
+ * The setters of USB output audio announce their changes under the name of the
+ * VRM-B5, and this function listens to the name of the VRM-D6: changes that are
+ * made with this library never call the callback.
  */
 ZTK_EXPORT ZTKResult ZTK_RegisterOutputAudioChangedCallback(
     uint32_t productId, ZTKChannelCallback callback, void *context);
@@ -825,10 +879,10 @@ ZTK_EXPORT ZTKResult ZTK_RegisterMidiChannelChangedCallback(
 ZTK_EXPORT ZTKResult
 ZTK_UnregisterMidiChannelChangedCallback(uint32_t productId, void *ignored);
 
-/** Answers 102 (ZTK_REJECTED) and does nothing. */
+/** Returns 102 (ZTK_REJECTED) and does nothing. */
 ZTK_EXPORT ZTKResult ZTK_RegisterMidiKeyModeChangedCallback(
     uint32_t productId, ZTKIndexCallback callback, void *context);
-/** Answers 102 (ZTK_REJECTED) and does nothing. */
+/** Returns 102 (ZTK_REJECTED) and does nothing. */
 ZTK_EXPORT ZTKResult
 ZTK_UnregisterMidiKeyModeChangedCallback(uint32_t productId, void *ignored);
 /** @} */

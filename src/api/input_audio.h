@@ -76,7 +76,7 @@ constexpr std::uint16_t DirectValue(std::uint32_t channel, std::uint32_t high,
 
 // When a setter warns that the new routing cannot be heard: a routing below a
 // threshold needs the input selector of the channel in this position.
-inline constexpr std::uint8_t kAudiblePosition = 4;
+inline constexpr std::uint8_t kAudiblePosition = ZTK_SELECTOR_AUDIBLE;
 inline constexpr std::uint16_t kSelectorInfoLength = 5;  // bytes
 // Deliberate: the thresholds depend on the setter and on whether a mixer is
 // attached.

@@ -23,7 +23,7 @@ inline constexpr std::uint16_t kSeratoActiveLength = 2;
 // byte of a channel is at channel + 1.
 inline constexpr std::int32_t kChannels = 5;
 inline constexpr std::int32_t kSelectors = 4;
-inline constexpr std::uint8_t kSelectorPositions = 17;
+inline constexpr std::uint8_t kSelectorPositions = ZTK_SELECTOR_POSITIONS;
 inline constexpr std::uint8_t kSeratoStates = 2;
 
 constexpr std::uint32_t BigEndian32(const std::uint8_t *bytes) {

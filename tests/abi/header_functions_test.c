@@ -86,6 +86,23 @@ static void CheckCodes(void) {
   Expect("ZTK_CONNECTED", ZTK_CONNECTED, 103);
   Expect("ZTK_NOT_CONNECTED", ZTK_NOT_CONNECTED, 104);
   Expect("the size of a result", (uint32_t)sizeof(ZTKResult), 4);
+  Expect("the major version", ZTK_VERSION_MAJOR, PROJECT_VERSION_MAJOR);
+  Expect("the minor version", ZTK_VERSION_MINOR, PROJECT_VERSION_MINOR);
+  Expect("the patch version", ZTK_VERSION_PATCH, PROJECT_VERSION_PATCH);
+  Expect("the version", ZTK_VERSION,
+         PROJECT_VERSION_MAJOR * 10000 + PROJECT_VERSION_MINOR * 100 +
+             PROJECT_VERSION_PATCH);
+  Expect("ZTK_PRODUCT_VRM_Q8X", ZTK_PRODUCT_VRM_Q8X, 0);
+  Expect("ZTK_PRODUCT_VRM_K2", ZTK_PRODUCT_VRM_K2, 1);
+  Expect("ZTK_PRODUCT_VRM_Q8S", ZTK_PRODUCT_VRM_Q8S, 2);
+  Expect("ZTK_PRODUCT_VRC_H7", ZTK_PRODUCT_VRC_H7, 3);
+  Expect("ZTK_PRODUCT_VRM_Q9", ZTK_PRODUCT_VRM_Q9, 4);
+  Expect("ZTK_PRODUCT_VRM_L4", ZTK_PRODUCT_VRM_L4, 5);
+  Expect("ZTK_PRODUCT_VRM_E3", ZTK_PRODUCT_VRM_E3, 6);
+  Expect("ZTK_PRODUCT_VRM_B5", ZTK_PRODUCT_VRM_B5, 8);
+  Expect("ZTK_PRODUCT_VRM_D6", ZTK_PRODUCT_VRM_D6, 10);
+  Expect("ZTK_SELECTOR_POSITIONS", ZTK_SELECTOR_POSITIONS, 17);
+  Expect("ZTK_SELECTOR_AUDIBLE", ZTK_SELECTOR_AUDIBLE, 4);
   Expect("the mixers of an outcome", ZTK_OUTCOME_MIXERS, 127);
   Expect("the size of an outcome", (uint32_t)sizeof(ZTKOutcome), 36 + 127 * 32);
 }

@@ -10,6 +10,9 @@ bool FindAll(void *library, GLibFunctions *functions) {
   return true;
 }
 
+ZTK_DLOPEN_NOTE(ZTK_GLIB_LIBRARY, "callbacks",
+                "Calling back when another process changes a setting")
+
 constinit LoadedLibrary<GLibFunctions> theLibrary(ZTK_GLIB_LIBRARY, FindAll);
 
 }  // namespace

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 //
-// Libraries that are loaded by whoever first needs one of their functions, so
-// that nobody else pays for them at the start. A header lists the functions as
+// Lazy loading of shared libraries (dlopen on first use), to keep the start of
+// programs short. A header lists the functions as
 //
 //   #define ZTK_FOR_EVERY_THING_FUNCTION(Do) Do(thing_new) Do(thing_free)
 //
-// and makes a struct of pointers and the functions' own names of it; a source
-// says which library they are in.
+// and defines a struct of pointers and the functions under their own names from
+// that list; a source names the library that has them.
 #ifndef ZTK_PLATFORM_LINUX_LOADED_LIBRARY_H_
 #define ZTK_PLATFORM_LINUX_LOADED_LIBRARY_H_
 
 #include <dlfcn.h>
 
 #include <atomic>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 
 namespace ztk::platform {
@@ -56,6 +58,18 @@ class LoadedLibrary {
   std::atomic<const Functions *> functions_ = nullptr;
 };
 
+// An entry of the section .note.dlopen, from which packaging tools learn of the
+// libraries that are loaded in this way. The format is systemd's "ELF dlopen
+// metadata": an ELF note of the owner "FDO" whose content is JSON.
+template <std::size_t length>
+struct DlopenNote {
+  std::uint32_t nameSize = 4;
+  std::uint32_t jsonSize = length;
+  std::uint32_t type = 0x407C0C0A;
+  char name[4] = "FDO";
+  alignas(4) char json[length];
+};
+
 template <typename Function>
 bool FindFunction(void *library, const char *name, Function *function) {
   *function = reinterpret_cast<Function>(dlsym(library, name));
@@ -63,6 +77,20 @@ bool FindFunction(void *library, const char *name, Function *function) {
 }
 
 }  // namespace ztk::platform
+
+// Defines the note about a library that is loaded: its soname, the feature that
+// needs it, and a sentence about that. All are string literals. The alignment
+// is named because gcc would use a larger one, and leave gaps between the
+// notes.
+#define ZTK_DLOPEN_JSON(soname, feature, description)            \
+  "[{\"feature\":\"" feature "\",\"description\":\"" description \
+  "\",\"priority\":\"recommended\",\"soname\":[\"" soname "\"]}]"
+#define ZTK_DLOPEN_NOTE(soname, feature, description)                   \
+  [[gnu::used, gnu::section(".note.dlopen")]] alignas(                  \
+      4) constinit const ::ztk::platform::                              \
+      DlopenNote<sizeof(ZTK_DLOPEN_JSON(soname, feature, description))> \
+          theDlopenNote{.json =                                         \
+                            ZTK_DLOPEN_JSON(soname, feature, description)};
 
 // For the struct: the pointer to a function.
 #define ZTK_LOADED_POINTER(name) decltype(&::name) name;

@@ -10,6 +10,9 @@ bool FindAll(void *library, SdBusFunctions *functions) {
   return true;
 }
 
+ZTK_DLOPEN_NOTE(ZTK_SD_BUS_LIBRARY, "announcements",
+                "Announcing changed settings on the session bus")
+
 constinit LoadedLibrary<SdBusFunctions> theLibrary(ZTK_SD_BUS_LIBRARY, FindAll);
 
 }  // namespace
