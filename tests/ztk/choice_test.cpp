@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ztk::program {
+namespace ztk::model {
 namespace {
 
 const std::vector<Choice> kRouting{{.number = 1, .text = "CH1 Tone PHONO"},
@@ -91,10 +91,6 @@ TEST(FindChoice, TakesABareNumberForNothingElse) {
   CheckAll({{"a listed one", kLevels, "3", "3 -15 dB"},
             {"a level", kLevels, "5", "[]"},
             {"two digits", kLevels, "10", "[]"}});
-  EXPECT_EQ(NearestChoice("5", kLevels), "; nearest: 1 -5 dB");
-  EXPECT_EQ(NearestChoice("10", kLevels), "; nearest: 2 -10 dB");
-  EXPECT_EQ(NearestChoice("9", kLevels), "; nearest: 4 -19 dB");
-  EXPECT_EQ(NearestChoice("0", kLevels), "; nearest: 1 -5 dB");
 }
 
 TEST(FindChoice, FindsNothingForNothing) {
@@ -102,4 +98,4 @@ TEST(FindChoice, FindsNothingForNothing) {
 }
 
 }  // namespace
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -123,7 +123,7 @@ TEST_F(DryRun, ShowsRequestsFileAndAnnouncement) {
   const Result result = OneMixer("ztk input set 2 3 --dry-run");
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out,
-            "Nothing is done. It would be:\n"
+            "Dry run: nothing is sent or stored. This would happen:\n"
             "  mixer 1  type 0x40  request 3  value 0x0206  index 0x8002  "
             "length 0\n"
             "  mixer 1  type 0xC0  request 0  value 0x0000  index 0x8002  "

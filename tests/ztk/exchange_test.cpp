@@ -71,11 +71,11 @@ TEST_F(Export, LeavesOutWhatHasNoWordsAndSaysSo) {
               HasSubstr("Boost level: 9, which is not a choice"));
 }
 
-// Every choice of every family, out and in again.
+// Every choice of every setting, out and in again.
 TEST_F(Import, BringsBackWhatWasExported) {
   std::set<std::string> models;
-  for (const program::Family *family : program::Families()) {
-    models.insert(program::ModelName(*family));
+  for (const model::Setting *setting : model::AllSettings()) {
+    models.insert(model::ModelName(*setting));
   }
   for (int round = 0; round < 16; ++round) {
     SCOPED_TRACE(round);

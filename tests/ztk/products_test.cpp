@@ -4,29 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "cli/strings.h"
-#include "ztk/report.h"
 
-namespace ztk::program {
+namespace ztk::model {
 namespace {
-
-TEST(ParseProduct, TakesNumbersAndNames) {
-  const struct {
-    const char *word;
-    std::uint32_t expected;
-  } rows[] = {{"0", 0},      {"10", 10},        {"VRM-K2", 1},
-              {"vrm-b5", 8}, {"my VRM-D6", 10}, {"VRC-H7", 3}};
-  for (const auto &row : rows) {
-    SCOPED_TRACE(row.word);
-    EXPECT_EQ(ParseProduct(row.word), row.expected);
-  }
-}
-
-TEST(ParseProduct, RefusesTheGapsAndEverythingElse) {
-  for (const char *word : {"7", "9", "11", "-1", "", "VRM", "4294967306"}) {
-    SCOPED_TRACE(word);
-    EXPECT_THROW(ParseProduct(word), Failure);
-  }
-}
 
 TEST(ProductName, NamesEveryModel) {
   EXPECT_EQ(ProductName(0), "VRM-Q8X");
@@ -46,4 +26,4 @@ TEST(ParseDecimalOrHex, TakesBothAndNothingElse) {
 }
 
 }  // namespace
-}  // namespace ztk::program
+}  // namespace ztk::model

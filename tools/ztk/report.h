@@ -12,7 +12,12 @@
 #include <string>
 #include <vector>
 
+namespace ztk::model {}
+
 namespace ztk::program {
+
+// The commands speak of settings, mixers and changes, which the model defines.
+using namespace model;
 
 // Keeps its members in the order in which they were added.
 using Json = nlohmann::ordered_json;

@@ -5,12 +5,13 @@
 #include "ztk/commands/other_commands.h"
 #include "ztk/commands/setting_commands.h"
 #include "ztk/model/settings.h"
+#include "ztk/report/setting_report.h"
 
 namespace ztk::program {
 
 namespace {
 
-using Run = Report (*)(const Family &family, const Arguments &arguments);
+using Run = Report (*)(const Setting &setting, const Arguments &arguments);
 
 ParameterUse ProductOption(const std::string &otherwise) {
   return {.parameter = Parameter::Product,
@@ -26,60 +27,60 @@ ParameterUse DryRunOption() {
 }
 
 // N, where the setting has channels.
-void AddChannel(const Family &family, bool required,
+void AddChannel(const Setting &setting, bool required,
                 std::vector<ParameterUse> *uses) {
-  if (family.channels == 0) return;
-  std::string text = "Channel, 1 to " + std::to_string(family.channels);
+  if (setting.channels == 0) return;
+  std::string text = "Channel, 1 to " + std::to_string(setting.channels);
   if (!required) text += "; all when left out";
   uses->push_back({.parameter = Parameter::Channel,
                    .required = required,
                    .description = text});
 }
 
-Command MakeCommand(const Family &family, const char *verb,
+Command MakeCommand(const Setting &setting, const char *verb,
                     const std::string &summary, const std::string &words,
                     Run run) {
-  std::string path = std::string(family.name) + " " + verb;
+  std::string path = std::string(setting.name) + " " + verb;
   std::string example = "ztk " + path;
   if (!words.empty()) example += " " + words;
   return {.path = path,
           .summary = summary,
           .parameters = {},
-          .note = Note(family),
+          .note = Note(setting),
           .example = example,
-          .run = [&family, run](const Arguments &arguments) {
-            return run(family, arguments);
+          .run = [&setting, run](const Arguments &arguments) {
+            return run(setting, arguments);
           }};
 }
 
 // list, get, default and apply, which differ in nothing but what they run.
-Command MakePlain(const Family &family, const char *verb,
+Command MakePlain(const Setting &setting, const char *verb,
                   const std::string &summary, Run run) {
-  Command command =
-      MakeCommand(family, verb, summary, family.channels == 0 ? "" : "1", run);
-  AddChannel(family, false, &command.parameters);
-  command.parameters.push_back(ProductOption(ModelName(family)));
+  Command command = MakeCommand(setting, verb, summary,
+                                setting.channels == 0 ? "" : "1", run);
+  AddChannel(setting, false, &command.parameters);
+  command.parameters.push_back(ProductOption(ModelName(setting)));
   return command;
 }
 
-Command MakeSending(const Family &family, const char *verb,
+Command MakeSending(const Setting &setting, const char *verb,
                     const std::string &summary, Run run) {
-  Command command = MakePlain(family, verb, summary, run);
+  Command command = MakePlain(setting, verb, summary, run);
   command.parameters.push_back(DryRunOption());
   return command;
 }
 
-Command MakeSet(const Family &family) {
+Command MakeSet(const Setting &setting) {
   Command command = MakeCommand(
-      family, "set", "Choose: send it to every mixer and remember it",
-      family.example, SetChoice);
-  AddChannel(family, true, &command.parameters);
+      setting, "set", "Choose: send it to every mixer and remember it",
+      setting.example, SetChoice);
+  AddChannel(setting, true, &command.parameters);
   command.parameters.push_back(
       {.parameter = Parameter::Choice,
        .required = false,
        .description = "Number as listed (from 1), text, or its beginning; "
                       "asked for in a terminal when left out"});
-  command.parameters.push_back(ProductOption(ModelName(family)));
+  command.parameters.push_back(ProductOption(ModelName(setting)));
   command.parameters.push_back(DryRunOption());
   return command;
 }
@@ -102,20 +103,21 @@ Command MakeRaw() {
   return command;
 }
 
-void AddFamily(const Family &family, std::vector<Command> *commands) {
+void AddSettingCommands(const Setting &setting,
+                        std::vector<Command> *commands) {
   commands->push_back(MakePlain(
-      family, "list", "List the choices with their numbers", ListChoices));
+      setting, "list", "List the choices with their numbers", ListChoices));
   commands->push_back(
-      MakePlain(family, "get", "Show what is remembered", GetRemembered));
-  commands->push_back(MakeSet(family));
-  if (&family == &kOutput) {
-    commands->push_back(MakeSending(family, "default",
+      MakePlain(setting, "get", "Show what is remembered", GetRemembered));
+  commands->push_back(MakeSet(setting));
+  if (&setting == &kOutput) {
+    commands->push_back(MakeSending(setting, "default",
                                     "Send the default; it is not remembered",
                                     SendDefault));
   }
   commands->push_back(MakeSending(
-      family, "apply", "Send what is remembered again", ApplyFamily));
-  if (&family == &kInput) commands->push_back(MakeRaw());
+      setting, "apply", "Send what is remembered again", ApplySetting));
+  if (&setting == &kInput) commands->push_back(MakeRaw());
 }
 
 // Of what is remembered as a whole.
@@ -220,19 +222,20 @@ std::vector<Command> MakeCommands() {
                       .note = "Mixers are numbered in the order of the bus.",
                       .example = "ztk status",
                       .run = ShowStatus});
-  for (const Family *family : Families()) AddFamily(*family, &commands);
+  for (const Setting *setting : AllSettings())
+    AddSettingCommands(*setting, &commands);
   AddOthers(&commands);
   return commands;
 }
 
 std::vector<Group> MakeGroups() {
   std::vector<Group> groups;
-  for (const Family *family : Families()) {
-    groups.push_back({.name = family->name,
-                      .summary = Summary(*family),
-                      .note = Note(*family),
-                      .example = std::string("ztk ") + family->name + " set " +
-                                 family->example});
+  for (const Setting *setting : AllSettings()) {
+    groups.push_back({.name = setting->name,
+                      .summary = Summary(*setting),
+                      .note = Note(*setting),
+                      .example = std::string("ztk ") + setting->name + " set " +
+                                 setting->example});
   }
   groups.push_back(AutoapplyGroup());
   return groups;

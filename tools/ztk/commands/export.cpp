@@ -1,38 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/commands/other_commands.h"
-
-#include "ztk/commands/exported_file.h"
-#include "ztk/model/settings_snapshot.h"
+#include "ztk/model/exchange.h"
 
 namespace ztk::program {
 
 Report Export(const Arguments & /*arguments*/) {
   Report report;
-  Json settings = Json::object();
-  SettingsSnapshot remembered;
-  for (const Family *family : Families()) {
-    for (std::uint32_t channel = 0; channel < ChannelsToWalk(*family);
-         ++channel) {
-      const auto index = remembered.Remembered(*family, channel);
-      if (!index) continue;
-      const auto choice = ChoiceAt(*family, channel, *index);
-      if (!choice) {
-        report.warnings.push_back("left out, as there are no words for it: " +
-                                  PlaceName(*family, channel) + ": " +
-                                  DescribedValue(*family, channel, *index));
-        continue;
-      }
-      Json &place = settings[ModelName(*family)][family->name];
-      if (family->channels == 0) {
-        place = choice->text;
-      } else {
-        place[std::to_string(channel + 1)] = choice->text;
-      }
-    }
+  const auto [text, leftOut] = ExportSettings();
+  report.text = text;
+  report.fields = Json::parse(text);
+  for (const std::string &value : leftOut) {
+    report.warnings.push_back("left out, as there are no words for it: " +
+                              value);
   }
-  report.fields["version"] = kExportVersion;
-  report.fields["settings"] = std::move(settings);
-  report.text = report.fields.dump(2) + "\n";
   return report;
 }
 

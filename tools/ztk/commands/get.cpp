@@ -3,30 +3,30 @@
 
 #include "ztk/commands/setting_parts.h"
 #include "ztk/model/products.h"
-#include "ztk/model/settings_snapshot.h"
+#include "ztk/model/remembered.h"
 
 namespace ztk::program {
 
-Report GetRemembered(const Family &family, const Arguments &arguments) {
-  const std::uint32_t product = ProductFor(family, arguments);
+Report GetRemembered(const Setting &setting, const Arguments &arguments) {
+  const std::uint32_t product = ProductFor(setting, arguments);
   Report report;
-  AddFamilyFields(family, product, &report);
+  AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
-  report.text = Belonging(family) + "\n";
-  for (const std::uint32_t channel : ChannelsFor(family, arguments)) {
-    const auto index = Current(family, product, channel);
+  report.text = Belonging(setting) + "\n";
+  for (const std::uint32_t channel : ChannelsFor(setting, arguments)) {
+    const auto index = CurrentIndex(setting, product, channel);
     if (!index) {
       throw Failure(ExitCode::Rejected,
                     "nothing can be read for the " + ProductName(product) +
-                        ": " + Belonging(family) + " Leave --product out");
+                        ": " + Belonging(setting) + " Leave --product out");
     }
-    const bool remembered = Remembered(family, channel).has_value();
+    const bool remembered = Remembered(setting, channel).has_value();
     Json fields;
-    AddValueFields(family, channel, *index, &fields);
+    AddValueFields(setting, channel, *index, &fields);
     fields["remembered"] = remembered;
     report.fields["channels"].push_back(std::move(fields));
-    report.text += PlaceName(family, channel) + "  " +
-                   DescribedValue(family, channel, *index) +
+    report.text += PlaceName(setting, channel) + "  " +
+                   DescribedValue(setting, channel, *index) +
                    (remembered ? "\n" : " (default; nothing remembered)\n");
   }
   return report;

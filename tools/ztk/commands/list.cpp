@@ -3,8 +3,7 @@
 
 #include "cli/terminal.h"
 #include "ztk/commands/setting_parts.h"
-#include "ztk/model/choice.h"
-#include "ztk/model/settings_snapshot.h"
+#include "ztk/model/remembered.h"
 
 namespace ztk::program {
 
@@ -20,19 +19,19 @@ std::string ChoiceLine(const Choice &choice, bool current,
 
 }  // namespace
 
-void AddChoiceList(const Family &family, std::uint32_t product,
+void AddChoiceList(const Setting &setting, std::uint32_t product,
                    std::uint32_t channel, Report *report) {
-  const std::vector<Choice> choices = ChoicesOf(family, product, channel);
-  const auto current = Current(family, product, channel);
-  const bool remembered = current && Remembered(family, channel);
+  const std::vector<Choice> choices = ServedChoices(setting, product, channel);
+  const auto current = CurrentIndex(setting, product, channel);
+  const bool remembered = current && Remembered(setting, channel);
   std::string &text = report->text;
-  text += "\n" + PlaceName(family, channel);
+  text += "\n" + PlaceName(setting, channel);
   if (!current) {
     text += " (listed only)";
   } else if (!remembered) {
     text += " (nothing remembered; * is the default)";
   } else if (*current >= choices.size()) {
-    text += " (remembered: " + DescribedValue(family, channel, *current) + ")";
+    text += " (remembered: " + DescribedValue(setting, channel, *current) + ")";
   }
   text += "\n";
   Json list = Json::array();
@@ -45,19 +44,19 @@ void AddChoiceList(const Family &family, std::uint32_t product,
                     {"current", marked}});
   }
   report->fields["channels"].push_back(
-      {{"channel", ChannelField(family, channel)},
+      {{"channel", ChannelField(setting, channel)},
        {"remembered", remembered},
        {"choices", std::move(list)}});
 }
 
-Report ListChoices(const Family &family, const Arguments &arguments) {
-  const std::uint32_t product = ProductFor(family, arguments);
+Report ListChoices(const Setting &setting, const Arguments &arguments) {
+  const std::uint32_t product = ProductFor(setting, arguments);
   Report report;
-  AddFamilyFields(family, product, &report);
+  AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
-  report.text = Belonging(family) + " * marks the current choice.\n";
-  for (const std::uint32_t channel : ChannelsFor(family, arguments)) {
-    AddChoiceList(family, product, channel, &report);
+  report.text = Belonging(setting) + " * marks the current choice.\n";
+  for (const std::uint32_t channel : ChannelsFor(setting, arguments)) {
+    AddChoiceList(setting, product, channel, &report);
   }
   return report;
 }

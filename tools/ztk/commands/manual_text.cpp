@@ -21,19 +21,19 @@ using cli::Typed;
 using cli::Value;
 using Values = std::vector<Value>;
 
-// The family that a command is about; null for the other commands.
-const Family *FamilyOf(const std::string &path) {
-  for (const Family *family : Families()) {
-    if (path.starts_with(std::string(family->name) + " ")) return family;
+// The setting that a command is about; null for the other commands.
+const Setting *SettingOf(const std::string &path) {
+  for (const Setting *setting : AllSettings()) {
+    if (path.starts_with(std::string(setting->name) + " ")) return setting;
   }
   return nullptr;
 }
 
-Values Channels(const Family &family, std::uint32_t count) {
+Values Channels(const Setting &setting, std::uint32_t count) {
   Values values;
   for (std::uint32_t channel = 0; channel < count; ++channel) {
     values.push_back({.word = std::to_string(channel + 1),
-                      .meaning = PlaceName(family, channel)});
+                      .meaning = PlaceName(setting, channel)});
   }
   return values;
 }
@@ -55,16 +55,16 @@ std::uint32_t ChannelTyped(const Typed &before) {
 
 // Texts say more than numbers; but a number is what can stand for a text that
 // looks like an option.
-Values Choices(const Family &family, const Typed &before,
+Values Choices(const Setting &setting, const Typed &before,
                const std::string &begun) {
   const std::uint32_t channel = ChannelTyped(before);
-  if (channel >= ChannelsToWalk(family)) return {};
+  if (channel >= ChannelsToWalk(setting)) return {};
   const auto words = before.find(ParameterName(Parameter::Choice));
   const std::string known = words == before.end() ? "" : words->second;
   const bool number =
       !begun.empty() && begun.front() >= '0' && begun.front() <= '9';
   Values values;
-  for (const Choice &choice : ChoicesOf(family, family.product, channel)) {
+  for (const Choice &choice : ChoicesOf(setting, setting.product, channel)) {
     const std::string position = std::to_string(choice.number);
     if (known.empty() && (number || choice.text.starts_with('-'))) {
       values.push_back({.word = position, .meaning = choice.text});
@@ -77,18 +77,19 @@ Values Choices(const Family &family, const Typed &before,
   return values;
 }
 
-void AddValues(const Family *family, const ParameterUse &use,
+void AddValues(const Setting *setting, const ParameterUse &use,
                cli::Option *option) {
   switch (use.parameter) {
     case Parameter::Channel:
-      option->values = [family](const Typed & /*before*/,
-                                const std::string & /*begun*/) {
-        return Channels(*family, family->channels);
+      option->values = [setting](const Typed & /*before*/,
+                                 const std::string & /*begun*/) {
+        return Channels(*setting, setting->channels);
       };
       break;
     case Parameter::Choice:
-      option->values = [family](const Typed &before, const std::string &begun) {
-        return Choices(*family, before, begun);
+      option->values = [setting](const Typed &before,
+                                 const std::string &begun) {
+        return Choices(*setting, before, begun);
       };
       break;
     case Parameter::OfChannel:
@@ -101,8 +102,8 @@ void AddValues(const Family *family, const ParameterUse &use,
       option->values = [](const Typed & /*before*/,
                           const std::string & /*begun*/) {
         Values values;
-        for (const std::string &name : ProductNames()) {
-          values.push_back({.word = name, .meaning = "model"});
+        for (const Product &product : Products()) {
+          values.push_back({.word = product.name, .meaning = "model"});
         }
         return values;
       };
@@ -134,14 +135,14 @@ cli::Command DescribedCommand(const Command &command) {
                          .options = {},
                          .note = command.note,
                          .examples = {command.example}};
-  const Family *family = FamilyOf(command.path);
+  const Setting *setting = SettingOf(command.path);
   for (const ParameterUse &use : command.parameters) {
     cli::Option option{.names = ParameterName(use.parameter),
                        .value = ParameterValueName(use.parameter),
                        .description = use.description,
                        .required = use.required,
                        .repeats = use.parameter == Parameter::Choice};
-    AddValues(family, use, &option);
+    AddValues(setting, use, &option);
     described.options.push_back(std::move(option));
   }
   return described;
@@ -200,8 +201,8 @@ cli::Section Environment() {
 
 cli::Section Files() {
   cli::Section section{.title = "FILES", .text = FilesFact(), .terms = {}};
-  for (const Family *family : Families()) {
-    const std::string model = ModelName(*family);
+  for (const Setting *setting : AllSettings()) {
+    const std::string model = ModelName(*setting);
     const std::string name = std::string(SettingsFolderFact()) + "com.tarvix." +
                              model + "autosetup.plist";
     const auto known = std::find_if(
@@ -210,9 +211,9 @@ cli::Section Files() {
     if (known == section.terms.end()) {
       section.terms.push_back({.name = name,
                                .meaning = "What is remembered for the " +
-                                          model + ": " + family->name});
+                                          model + ": " + setting->name});
     } else {
-      known->meaning += std::string(", ") + family->name;
+      known->meaning += std::string(", ") + setting->name;
     }
   }
   section.terms.push_back(
@@ -250,9 +251,9 @@ ztk::cli::Program ztk::cli::Described() {
         {.name = group.name,
          .summary = group.summary,
          .note = group.note,
-         .isSetting = std::any_of(Families().begin(), Families().end(),
-                                  [&group](const Family *family) {
-                                    return group.name == family->name;
+         .isSetting = std::any_of(AllSettings().begin(), AllSettings().end(),
+                                  [&group](const Setting *setting) {
+                                    return group.name == setting->name;
                                   })});
   }
   for (const program::Command &command : Commands()) {

@@ -11,6 +11,7 @@
 #include "ztk/output.h"
 #include "ztk/progress.h"
 #include "ztk/report.h"
+#include "ztk/report/setting_report.h"
 
 namespace ztk::program {
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ztk/model/choice.h"
+#include "ztk/report.h"
 
 namespace ztk::program {
 

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/commands/setting_commands.h"
 
+#include "api/input_audio.h"
 #include "cli/strings.h"
 #include "ztk/commands/setting_parts.h"
 #include "ztk/commands/warning.h"
-#include "ztk/model/dry_run.h"
-#include "ztk/model/mixers.h"
+#include "ztk/report/dry_run_report.h"
 
 namespace ztk::program {
 
 namespace {
 
-constexpr std::uint32_t kSources = 16;
 constexpr char kAcceptedSources[] = " (SOURCE: 0 to 15)";
 
 // HIGH or SOURCE.
@@ -40,52 +39,53 @@ struct RawValue {
   }
 };
 
-void AddRawFields(const Family &family, const RawValue &raw, Report *report) {
-  report->fields["channel"] = ChannelField(family, raw.channel);
+void AddRawFields(const Setting &setting, const RawValue &raw, Report *report) {
+  report->fields["channel"] = ChannelField(setting, raw.channel);
   report->fields["high"] = raw.high;
   report->fields["source"] = raw.source;
 }
 
-Report PlanOfRaw(const Family &family, std::uint32_t product,
+Report PlanOfRaw(const Setting &setting, std::uint32_t product,
                  const RawValue &raw) {
-  CheckServed(family, product, raw.InWords());
-  if (raw.source >= kSources) {
-    ThrowRejected(family, product, raw.InWords() + kAcceptedSources);
+  CheckServed(setting, product, raw.InWords());
+  if (raw.source >= input_audio::kSources) {
+    ThrowRejected(setting, product, raw.InWords() + kAcceptedSources);
   }
   Plan plan;
   plan.AddRaw(raw.channel, raw.high, raw.source);
   plan.AddQuestion();
   Report report;
-  AddFamilyFields(family, product, &report);
-  AddRawFields(family, raw, &report);
-  plan.Tell(&report);
+  AddSettingNames(setting, product, &report);
+  AddRawFields(setting, raw, &report);
+  ReportDryRun(plan, &report);
   return report;
 }
 
 }  // namespace
 
-Report SendRaw(const Family &family, const Arguments &arguments) {
-  const std::uint32_t product = ProductFor(family, arguments);
-  const std::uint32_t channel = RequiredChannel(family, arguments, "raw");
+Report SendRaw(const Setting &setting, const Arguments &arguments) {
+  const std::uint32_t product = ProductFor(setting, arguments);
+  const std::uint32_t channel = RequiredChannel(setting, arguments, "raw");
   const RawValue raw{.channel = channel,
                      .high = RawNumber(arguments, Parameter::High),
                      .source = RawNumber(arguments, Parameter::Source)};
   if (arguments.Has(Parameter::DryRun)) {
-    return PlanOfRaw(family, product, raw);
+    return PlanOfRaw(setting, product, raw);
   }
-  const Sent sent = SendAndLook([&] {
+  const Sent sent = Send([&] {
     return ZTK_SetUSBInputAudioDirect(product, channel, raw.high, raw.source);
   });
   if (sent.result == ZTK_REJECTED) {
-    ThrowRejected(family, product, raw.InWords() + kAcceptedSources);
+    ThrowRejected(setting, product, raw.InWords() + kAcceptedSources);
   }
   Report report;
-  AddFamilyFields(family, product, &report);
-  AddRawFields(family, raw, &report);
+  AddSettingNames(setting, product, &report);
+  AddRawFields(setting, raw, &report);
   report.fields["result"] = sent.result;
-  report.text = PlaceName(family, channel) + ": " + raw.InWords() + ", " +
+  report.text = PlaceName(setting, channel) + ": " + raw.InWords() + ", " +
                 Described(sent.reach) + ", not remembered\n";
-  AddReach(sent.reach, NeverRemembered("the value", "ztk input raw"), &report);
+  ReportReach(sent.reach, NeverRemembered("the value", "ztk input raw"),
+              &report);
   // The same sentence again; this value never is.
   if (sent.result == ZTK_WARNING && sent.reach.found() > 0) {
     ExplainWarning(channel, sent.reach, &report);

@@ -5,10 +5,7 @@
 #include "ztk/commands/pick.h"
 #include "ztk/commands/setting_parts.h"
 #include "ztk/commands/warning.h"
-#include "ztk/model/change.h"
-#include "ztk/model/dry_run.h"
-#include "ztk/model/history.h"
-#include "ztk/model/mixers.h"
+#include "ztk/report/dry_run_report.h"
 
 namespace ztk::program {
 
@@ -16,14 +13,14 @@ namespace {
 
 // The choice that the words mean; without words, the one that is picked from
 // the list, where somebody is there to pick.
-Choice Choose(const Family &family, std::uint32_t product,
+Choice Choose(const Setting &setting, std::uint32_t product,
               std::uint32_t channel, const Arguments &arguments) {
-  const std::string place = PlaceName(family, channel);
-  const std::vector<Choice> choices = ChoicesOf(family, product, channel);
+  const std::string place = PlaceName(setting, channel);
+  const std::vector<Choice> choices = ServedChoices(setting, product, channel);
   const std::string *words = arguments.Find(Parameter::Choice);
   if (words == nullptr && !arguments.json && CanPick()) {
     Report list;
-    AddChoiceList(family, product, channel, &list);
+    AddChoiceList(setting, product, channel, &list);
     return Pick(place, list.text, choices);
   }
   if (words == nullptr) {
@@ -42,30 +39,30 @@ Choice Choose(const Family &family, std::uint32_t product,
                 "choice " + cli::Quoted(*words) +
                     " can mean: " + Described(match.candidates) +
                     "; type more of it, or its number" +
-                    SeeHelp(family, "set"));
+                    SeeHelp(setting, "set"));
 }
 
 Report PlanOfSet(const Change &change, const Choice &choice) {
-  const Family &family = *change.family;
-  CheckServed(family, change.product, cli::Quoted(choice.text));
+  const Setting &setting = *change.setting;
+  CheckServed(setting, change.product, cli::Quoted(choice.text));
   Plan plan;
   plan.AddChange(change);
   plan.AddQuestion();
   Report report;
-  AddFamilyFields(family, change.product, &report);
-  AddValueFields(family, change.channel, change.index, &report.fields);
-  plan.Tell(&report);
+  AddSettingNames(setting, change.product, &report);
+  AddValueFields(setting, change.channel, change.index, &report.fields);
+  ReportDryRun(plan, &report);
   return report;
 }
 
 }  // namespace
 
-Report SetChoice(const Family &family, const Arguments &arguments) {
-  const std::uint32_t product = ProductFor(family, arguments);
-  const std::uint32_t channel = RequiredChannel(family, arguments, "set");
-  const std::string place = PlaceName(family, channel);
-  const Choice choice = Choose(family, product, channel, arguments);
-  const Change wanted{.family = &family,
+Report SetChoice(const Setting &setting, const Arguments &arguments) {
+  const std::uint32_t product = ProductFor(setting, arguments);
+  const std::uint32_t channel = RequiredChannel(setting, arguments, "set");
+  const std::string place = PlaceName(setting, channel);
+  const Choice choice = Choose(setting, product, channel, arguments);
+  const Change wanted{.setting = &setting,
                       .product = product,
                       .channel = channel,
                       .index = choice.number - 1};
@@ -73,21 +70,21 @@ Report SetChoice(const Family &family, const Arguments &arguments) {
 
   Report report;
   const MadeChanges made =
-      MakeStep(std::string(family.name) + " set", {wanted}, &report);
+      RunStep(std::string(setting.name) + " set", {wanted}, &report);
   const MadeChange &change = made.changes.front();
   if (change.result == ZTK_REJECTED) {
-    ThrowRejected(family, product, cli::Quoted(choice.text));
+    ThrowRejected(setting, product, cli::Quoted(choice.text));
   }
-  AddFamilyFields(family, product, &report);
-  AddValueFields(family, channel, change.change.index, &report.fields);
+  AddSettingNames(setting, product, &report);
+  AddValueFields(setting, channel, change.change.index, &report.fields);
   report.fields["result"] = change.result;
   report.fields["remembered"] = change.remembered;
   report.fields["announced"] = change.announced;
-  AddTruth(made, place,
-           IsSentAgain(family, wanted.index)
-               ? std::string("ztk ") + family.name + " apply"
-               : SetCommand(family, channel, wanted.index),
-           &report);
+  ReportOutcome(made, place,
+                IsSentAgain(setting, wanted.index)
+                    ? std::string("ztk ") + setting.name + " apply"
+                    : SetCommand(setting, channel, wanted.index),
+                &report);
   report.text = place + ": " + Described(choice) + ", " +
                 Described(change, made.reach) + "\n" +
                 NoteOnSendingAgain(wanted);

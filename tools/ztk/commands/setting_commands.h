@@ -11,22 +11,22 @@
 
 namespace ztk::program {
 
-Report ListChoices(const Family &family, const Arguments &arguments);
-Report GetRemembered(const Family &family, const Arguments &arguments);
-Report SetChoice(const Family &family, const Arguments &arguments);
+Report ListChoices(const Setting &setting, const Arguments &arguments);
+Report GetRemembered(const Setting &setting, const Arguments &arguments);
+Report SetChoice(const Setting &setting, const Arguments &arguments);
 
 // Of USB output audio only: sent and announced, not remembered.
-Report SendDefault(const Family &family, const Arguments &arguments);
+Report SendDefault(const Setting &setting, const Arguments &arguments);
 // Of USB input audio only: sent, neither announced nor remembered.
-Report SendRaw(const Family &family, const Arguments &arguments);
+Report SendRaw(const Setting &setting, const Arguments &arguments);
 
 // Send what is remembered again, and nothing else: a setting without a value
 // of its own is left alone, where the library would send its default.
-Report ApplyFamily(const Family &family, const Arguments &arguments);
+Report ApplySetting(const Setting &setting, const Arguments &arguments);
 Report ApplyAll(const Arguments &arguments);
 
 // The choices of a channel, as `list` shows them.
-void AddChoiceList(const Family &family, std::uint32_t product,
+void AddChoiceList(const Setting &setting, std::uint32_t product,
                    std::uint32_t channel, Report *report);
 
 }  // namespace ztk::program

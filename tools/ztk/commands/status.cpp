@@ -2,25 +2,19 @@
 #include <array>
 #include <cstdio>
 
+#include "api/status.h"
 #include "cli/strings.h"
 #include "usb/mixers.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/model/mixers.h"
+#include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"
-#include "ztk/model/settings_snapshot.h"
 #include "ztk/progress.h"
+#include "ztk/report/setting_report.h"
 
 namespace ztk::program {
 
 namespace {
-
-constexpr std::uint16_t kFirmwareLength = 2;  // bytes
-constexpr std::uint16_t kCertifyLevelLength = 4;
-constexpr std::uint16_t kSelectorLength = 5;
-constexpr std::uint16_t kSeratoLength = 2;
-
-constexpr int kSelectors = 4;
-constexpr std::uint8_t kSelectorPositions = 17;
 
 // What a reply is preset to, as a read does not tell how much came.
 constexpr std::uint8_t kUntouched = 0xFF;
@@ -40,9 +34,9 @@ using Read = usb::Code (*)(usb::Connection device, std::uint8_t *buffer,
 
 // Asks one mixer. After a request without an answer the others are not sent:
 // each would be waited for as long.
-class Interview {
+class MixerReader {
  public:
-  explicit Interview(usb::Connection mixer) : mixer_(mixer) {}
+  explicit MixerReader(usb::Connection mixer) : mixer_(mixer) {}
 
   // Empty when it answered; else why not.
   std::string Ask(Read read, usb::Reply *reply, std::uint16_t length) {
@@ -65,11 +59,11 @@ std::string Formatted(const char *format, unsigned first, unsigned second = 0) {
   return text.data();
 }
 
-Fact Firmware(Interview *interview) {
+Fact Firmware(MixerReader *reader) {
   Fact fact{.name = "firmware", .title = "firmware", .value = {}, .words = {}};
   usb::Reply reply;
-  fact.words =
-      interview->Ask(GetFirmwareVersionNumber, &reply, kFirmwareLength);
+  fact.words = reader->Ask(GetFirmwareVersionNumber, &reply,
+                           status::kFirmwareVersionLength);
   if (!fact.words.empty()) return fact;
   const unsigned low = reply.bytes[0];
   const unsigned high = reply.bytes[1];
@@ -83,34 +77,33 @@ Fact Firmware(Interview *interview) {
   return fact;
 }
 
-Fact CertificationLevel(Interview *interview) {
+Fact CertificationLevel(MixerReader *reader) {
   Fact fact{.name = "certificationLevel",
             .title = "certified",
             .value = {},
             .words = {}};
   usb::Reply reply;
-  fact.words = interview->Ask(GetCertifyLevel, &reply, kCertifyLevelLength);
+  fact.words =
+      reader->Ask(GetCertifyLevel, &reply, status::kCertifyLevelLength);
   if (!fact.words.empty()) return fact;
-  std::uint32_t level = 0;
-  for (int i = 0; i < kCertifyLevelLength; ++i) {
-    level = level << 8 | reply.bytes[i];
-  }
+  const std::uint32_t level = status::BigEndian32(reply.bytes);
   fact.value = level;
   fact.words = "level " + std::to_string(level);
   return fact;
 }
 
-Fact Selectors(Interview *interview) {
+Fact Selectors(MixerReader *reader) {
   Fact fact{
       .name = "selectors", .title = "selectors", .value = {}, .words = {}};
   usb::Reply reply;
-  fact.words = interview->Ask(GetInputSelectorInfo, &reply, kSelectorLength);
+  fact.words =
+      reader->Ask(GetInputSelectorInfo, &reply, status::kSelectorInfoLength);
   if (!fact.words.empty()) return fact;
   fact.value = Json::array();
-  for (int channel = 0; channel < kSelectors; ++channel) {
+  for (int channel = 0; channel < status::kSelectors; ++channel) {
     // The first byte has no meaning here.
     const std::uint8_t position = reply.bytes[channel + 1];
-    const bool known = position < kSelectorPositions;
+    const bool known = position < status::kSelectorPositions;
     fact.value.push_back(known ? Json(position) : Json());
     if (channel > 0) fact.words += "   ";
     fact.words += "CH" + std::to_string(channel + 1) + " " +
@@ -119,10 +112,11 @@ Fact Selectors(Interview *interview) {
   return fact;
 }
 
-Fact Serato(Interview *interview) {
+Fact Serato(MixerReader *reader) {
   Fact fact{.name = "serato", .title = "Serato", .value = {}, .words = {}};
   usb::Reply reply;
-  fact.words = interview->Ask(GetSeratoActiveInfo, &reply, kSeratoLength);
+  fact.words =
+      reader->Ask(GetSeratoActiveInfo, &reply, status::kSeratoActiveLength);
   if (!fact.words.empty()) return fact;
   const std::uint8_t state = reply.bytes[0];
   if (state > 1) {
@@ -164,11 +158,11 @@ void AddMixer(int position, const std::string &place, Listing *listing) {
   const std::string number = std::to_string(position + 1);
   if (mixer) {
     *text += "Mixer " + number + " is reachable\n";
-    Interview interview(mixer.connection());
-    AddFact(Firmware(&interview), &fields, text);
-    AddFact(CertificationLevel(&interview), &fields, text);
-    AddFact(Selectors(&interview), &fields, text);
-    AddFact(Serato(&interview), &fields, text);
+    MixerReader reader(mixer.connection());
+    AddFact(Firmware(&reader), &fields, text);
+    AddFact(CertificationLevel(&reader), &fields, text);
+    AddFact(Selectors(&reader), &fields, text);
+    AddFact(Serato(&reader), &fields, text);
     ++listing->reached;
   } else {
     const std::string reason =
@@ -221,17 +215,17 @@ void AddRemembered(Report *report) {
   SettingsSnapshot settings;
   Json list = Json::array();
   std::string text;
-  for (const Family *family : Families()) {
-    for (std::uint32_t channel = 0; channel < ChannelsToWalk(*family);
+  for (const Setting *setting : AllSettings()) {
+    for (std::uint32_t channel = 0; channel < ChannelsToWalk(*setting);
          ++channel) {
-      const auto index = settings.Remembered(*family, channel);
+      const auto index = settings.Remembered(*setting, channel);
       if (!index) continue;
-      Json fields{{"setting", family->name}, {"model", ModelName(*family)}};
-      AddValueFields(*family, channel, *index, &fields);
+      Json fields{{"setting", setting->name}, {"model", ModelName(*setting)}};
+      AddValueFields(*setting, channel, *index, &fields);
       list.push_back(std::move(fields));
-      text += Row(PlaceName(*family, channel),
-                  DescribedValue(*family, channel, *index) + "  (" +
-                      ModelName(*family) + ")");
+      text += Row(PlaceName(*setting, channel),
+                  DescribedValue(*setting, channel, *index) + "  (" +
+                      ModelName(*setting) + ")");
     }
   }
   report->fields["remembered"] = std::move(list);

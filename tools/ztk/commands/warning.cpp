@@ -9,6 +9,7 @@
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 #include "ztk/progress.h"
+#include "ztk/report/change_report.h"
 #include "ztk/system/facts.h"
 #include "ztk/system/text.h"
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "api/status.h"
 #include "ztk/model/change.h"
 #include "ztk/model/mixers.h"
 #include "ztk/report.h"
@@ -20,7 +21,7 @@ void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
 void ExplainWarnings(const MadeChanges &made, Report *report);
 
 // The channels that have a selector, and so a warning: the first ones.
-inline constexpr std::uint32_t kWarningChannels = 4;
+inline constexpr std::uint32_t kWarningChannels = status::kSelectors;
 
 // What can follow --language: one word for each, its name if it is one.
 std::vector<std::string> LanguageNames();

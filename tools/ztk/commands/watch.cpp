@@ -9,6 +9,7 @@
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 #include "ztk/output.h"
+#include "ztk/report/setting_report.h"
 #include "ztk/system/event_loop.h"
 
 namespace ztk::program {
@@ -20,34 +21,34 @@ struct Watcher {
   int writeError = 0;
 };
 
-// One for each family: the context of its callback.
+// One for each setting: the context of its callback.
 struct Listener {
   Watcher *watcher;
-  const Family *family;
+  const Setting *setting;
 };
 
 // A change may come from any program and hold any number.
 std::string ChangeLine(const Listener &listener, std::int32_t channel,
                        std::int32_t index) {
-  const Family &family = *listener.family;
+  const Setting &setting = *listener.setting;
   const auto row = static_cast<std::uint32_t>(channel);
   const auto value = static_cast<std::uint32_t>(index);
-  const bool known = row < ChannelsToWalk(family);
+  const bool known = row < ChannelsToWalk(setting);
   if (!listener.watcher->json) {
-    const std::string place = known ? PlaceName(family, row)
-                                    : std::string(family.place) +
+    const std::string place = known ? PlaceName(setting, row)
+                                    : std::string(setting.place) +
                                           " (unknown channel " +
                                           std::to_string(channel) + ")";
     return place + ": " +
-           (known ? DescribedValue(family, row, value)
+           (known ? DescribedValue(setting, row, value)
                   : std::to_string(index)) +
            "\n";
   }
   Report report;
-  report.fields["setting"] = family.name;
-  report.fields["model"] = ModelName(family);
+  report.fields["setting"] = setting.name;
+  report.fields["model"] = ModelName(setting);
   if (known) {
-    AddValueFields(family, row, value, &report.fields);
+    AddValueFields(setting, row, value, &report.fields);
   } else {
     report.fields.update(Json{{"channel", std::int64_t{channel} + 1},
                               {"number", nullptr},
@@ -76,10 +77,10 @@ void SayReady() { WriteError("watching for changes; Ctrl-C ends"); }
 
 Report Watch(const Arguments &arguments) {
   Watcher watcher{.json = arguments.json, .writeError = 0};
-  Listener input{.watcher = &watcher, .family = &kInput};
-  Listener output{.watcher = &watcher, .family = &kOutput};
-  Listener boost{.watcher = &watcher, .family = &kBoost};
-  Listener midi{.watcher = &watcher, .family = &kMidi};
+  Listener input{.watcher = &watcher, .setting = &kInput};
+  Listener output{.watcher = &watcher, .setting = &kOutput};
+  Listener boost{.watcher = &watcher, .setting = &kBoost};
+  Listener midi{.watcher = &watcher, .setting = &kMidi};
   ZTK_RegisterInputAudioChangedCallback(kInput.product, OnChange, &input);
   ListenToOutputAudio(OnChange, &output);
   ZTK_RegisterBoostLevelChangedCallback(kBoost.product, OnIndexChange, &boost);

@@ -8,17 +8,15 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
-#include <set>
 
 #include "platform/paths.h"
 #include "platform/property_list.h"
 #include "platform/text.h"
 #include "store/settings_file.h"
-#include "ztk/model/finding.h"
-#include "ztk/model/settings.h"
+#include "ztk/doctor/finding.h"
 #include "ztk/system/text.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -139,7 +137,8 @@ void FindUnwritable(std::string folder, Findings *findings) {
 
 }  // namespace
 
-Findings FindSettingsTrouble(std::string *good) {
+Findings CheckSettingsFiles(const std::vector<std::string> &models,
+                            std::string *good) {
   const platform::text::Made library(platform::paths::UserLibrary());
   if (library.get() == nullptr) {
     return {{.id = "settings-no-home",
@@ -149,10 +148,8 @@ Findings FindSettingsTrouble(std::string *good) {
   }
   Findings findings;
   const std::string folder = Utf8(library.get()) + "/Preferences";
-  std::set<std::string> models;
-  for (const Family *family : Families()) {
-    if (!models.insert(ModelName(*family)).second) continue;
-    const platform::text::Made file(store::MakePath(family->model));
+  for (const std::string &model : models) {
+    const platform::text::Made file(WithText(model, store::MakePath));
     const std::string path = Utf8(file.get());
     FindUnreadable(path, &findings);
     struct stat status {};
@@ -169,4 +166,4 @@ Findings FindSettingsTrouble(std::string *good) {
   return findings;
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -2,10 +2,8 @@
 #include "ztk/model/choice.h"
 
 #include "cli/strings.h"
-#include "cli/suggest.h"
-#include "ztk/report.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -62,29 +60,6 @@ Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
   return {.choice = std::nullopt, .candidates = std::move(found)};
 }
 
-std::string NearestChoice(const std::string &words,
-                          const std::vector<Choice> &choices) {
-  if (choices.empty()) return "";
-  if (IsDigits(words)) {
-    const std::vector<Choice> meant = BeginningWith(choices, words, true);
-    if (meant.size() == 1) return "; nearest: " + Described(meant.front());
-    // Choices count from 1, without gaps.
-    const std::uint32_t wanted =
-        cli::ParseNumber(words).value_or(choices.back().number);
-    return "; nearest: " + Described(wanted < choices.front().number
-                                         ? choices.front()
-                                         : choices.back());
-  }
-  std::vector<std::string> texts;
-  texts.reserve(choices.size());
-  for (const Choice &choice : choices) texts.push_back(choice.text);
-  const std::string nearest = cli::Nearest(words, texts);
-  for (const Choice &choice : choices) {
-    if (choice.text == nearest) return "; nearest: " + Described(choice);
-  }
-  return "";
-}
-
 std::string Described(const Choice &choice) {
   return std::to_string(choice.number) + " " + choice.text;
 }
@@ -96,4 +71,4 @@ std::string Described(const std::vector<Choice> &choices) {
   return cli::Listed(words);
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Finding the choice that a user means.
+// Finding the choice that the words of a user name.
 #ifndef ZTK_TOOLS_ZTK_MODEL_CHOICE_H_
 #define ZTK_TOOLS_ZTK_MODEL_CHOICE_H_
 
@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace ztk::program {
+namespace ztk::model {
 
 // One of a setting's choices, as it is listed.
 struct Choice {
@@ -25,20 +25,15 @@ struct Match {
 
 // Looks for a choice by its number, by its text, or by the beginning of its
 // text. Upper and lower case are the same and spaces do not count. A text that
-// starts with a minus sign is also found without it, because shells and users
-// stumble over it, but not by its bare number: "10 dB" can only be a level, and
-// "4" is the fourth choice.
+// starts with a minus sign is also found without it, because a shell may take
+// such a word for an option, but not by its number alone: "10 dB" can only be a
+// level, and "4" is the fourth choice.
 Match FindChoice(const std::vector<Choice> &choices, const std::string &words);
-
-// "; nearest: 6 MIC" for words that no choice begins with; empty where none is
-// near.
-std::string NearestChoice(const std::string &words,
-                          const std::vector<Choice> &choices);
 
 // "1 REC OUT", for lists on one line.
 std::string Described(const Choice &choice);
 std::string Described(const std::vector<Choice> &choices);
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_CHOICE_H_

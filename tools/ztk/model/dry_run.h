@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: MIT
 //
-// What a command would do, told without doing it. The library cannot be asked:
-// this follows what its functions send, in their order, and a test holds it to
-// what the mixers really get.
+// Dry run: what a change would send, store and announce, without doing it. The
+// library has no function for this, so the order of its requests is repeated
+// here; a test compares the plan with what virtual mixers receive.
 #ifndef ZTK_TOOLS_ZTK_MODEL_DRY_RUN_H_
 #define ZTK_TOOLS_ZTK_MODEL_DRY_RUN_H_
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ztk/model/change.h"
 #include "ztk/model/settings.h"
-#include "ztk/report.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 // The fields of a request's setup packet; none of these sends data.
 struct Setup {
@@ -26,60 +26,64 @@ struct Setup {
   std::uint16_t length;  // of the reply
 };
 
+struct PlannedRequest {
+  int mixer;  // counts from 1
+  Setup setup;
+};
+
+struct PlannedWrite {
+  std::string file;
+  std::string key;
+  std::optional<std::uint32_t> before;
+  Change change;
+};
+
+struct PlannedAnnouncement {
+  std::string name;
+  std::vector<std::pair<std::string, std::uint32_t>> numbers;
+};
+
 class Plan {
  public:
-  // Looks at who is there, and asks nobody.
+  // Looks which mixers are attached, and sends nothing to them.
   Plan();
 
   // A setter: sends, remembers, announces, and reads the selectors.
   void AddChange(const Change &change);
   // Sends a value again.
-  void AddSendingAgain(const Family &family, std::uint32_t channel,
+  void AddSendingAgain(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
   // Sends and announces the default of a USB output.
-  void AddDefault(const Family &family, std::uint32_t channel);
+  void AddDefault(const Setting &setting, std::uint32_t channel);
   // Sends a raw value of a USB input.
   void AddRaw(std::uint32_t channel, std::uint32_t high, std::uint32_t source);
   // The question that this program asks every mixer at the end.
   void AddQuestion();
 
-  // Adds all of it to the report.
-  void Tell(Report *report) const;
+  std::size_t mixersFound() const { return found_; }
+  std::size_t mixersThatCanBeOpened() const { return mixers_.size(); }
+  // In the order in which they would be made.
+  const std::vector<PlannedRequest> &requests() const { return requests_; }
+  const std::vector<PlannedWrite> &writes() const { return writes_; }
+  const std::vector<PlannedAnnouncement> &announcements() const {
+    return announcements_;
+  }
 
  private:
-  struct Request {
-    int mixer;
-    Setup setup;
-  };
-  struct Write {
-    std::string file;
-    std::string key;
-    std::optional<std::uint32_t> before;
-    Change change;
-  };
-  struct Notice {
-    std::string name;
-    std::vector<std::pair<std::string, std::uint32_t>> numbers;
-  };
-
   void AddToEach(const Setup &setup);
-  void AddWriteRequest(const Family &family, std::uint32_t channel,
+  void AddWriteRequest(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
-  void AddNotice(const Change &change);
-  // `stops` where the first mixer that was read ends it.
-  void AddSelectors(const Family &family, bool stops);
-
-  void TellRequests(Report *report) const;
-  void TellWrites(Report *report) const;
-  void TellNotices(Report *report) const;
+  void AddAnnouncement(const Change &change);
+  // `stops` where the library reads only the first mixer.
+  void AddSelectors(const Setting &setting, bool stops);
 
   std::size_t found_ = 0;
   std::vector<int> mixers_;  // those that can be opened
-  std::vector<Request> requests_;
-  std::vector<Write> writes_;
-  std::vector<Notice> notices_;
+  std::vector<PlannedRequest> requests_;
+  std::vector<PlannedWrite> writes_;
+  std::vector<PlannedAnnouncement> announcements_;
 };
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_DRY_RUN_H_

@@ -2,14 +2,16 @@
 #include "ztk/model/history.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "ztk/model/settings_snapshot.h"
-#include "ztk/report.h"
+#include "ztk/model/remembered.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
+
+using Json = nlohmann::ordered_json;
 
 constexpr std::size_t kMostSteps = 100;
 constexpr char kFile[] = "/ztk-history.jsonl";
@@ -24,15 +26,15 @@ std::optional<PastChange> ParseChange(const Json &json) {
   const std::string name = json.value("setting", Json()).is_string()
                                ? json["setting"].get<std::string>()
                                : "";
-  for (const Family *family : Families()) {
-    if (name != family->name) continue;
+  for (const Setting *setting : AllSettings()) {
+    if (name != setting->name) continue;
     const auto after = Number(json.value("after", Json()));
     const std::uint32_t channel =
-        family->channels == 0
+        setting->channels == 0
             ? 0
             : Number(json.value("channel", Json())).value_or(0) - 1;
-    if (!after || channel >= ChannelsToWalk(*family)) return std::nullopt;
-    return PastChange{.family = family,
+    if (!after || channel >= ChannelsToWalk(*setting)) return std::nullopt;
+    return PastChange{.setting = setting,
                       .channel = channel,
                       .before = Number(json.value("before", Json())),
                       .after = *after};
@@ -60,8 +62,9 @@ std::string LineOf(const Step &step) {
   Json json{{"command", step.command}, {"changes", Json::array()}};
   for (const PastChange &change : step.changes) {
     json["changes"].push_back(
-        {{"setting", change.family->name},
-         {"channel", ChannelField(*change.family, change.channel)},
+        {{"setting", change.setting->name},
+         {"channel",
+          change.setting->channels == 0 ? Json() : Json(change.channel + 1)},
          {"before", change.before
                         ? Json(static_cast<std::int32_t>(*change.before))
                         : Json()},
@@ -70,18 +73,31 @@ std::string LineOf(const Step &step) {
   return json.dump() + "\n";
 }
 
-void WarnOfNoUndo(const std::string &reason, Report *report) {
-  report->warnings.push_back("ztk undo will not know of this: " + reason);
-}
-
 }  // namespace
 
 History::History() : path_(StateFolder() + kFile), lock_(StateFolder()) {
-  if (usable()) Load();
+  switch (lock_.result()) {
+    case StateLock::Result::Held:
+      Load();
+      return;
+    case StateLock::Result::Busy:
+      state_ = State::Busy;
+      break;
+    case StateLock::Result::Unavailable:
+      break;
+  }
+  reason_ = lock_.reason();
 }
 
+// A file that exists and cannot be read is left alone: it is neither empty nor
+// damaged, and may be readable the next time.
 void History::Load() {
-  const std::string text = ReadStateFile(path_);
+  const auto [text, reason] = ReadStateFile(path_);
+  if (!reason.empty()) {
+    reason_ = reason;
+    return;
+  }
+  state_ = State::Usable;
   std::istringstream lines(text);
   for (std::string line; std::getline(lines, line);) {
     if (auto step = ParseStep(line)) {
@@ -108,39 +124,39 @@ bool History::Save() {
   return saved;
 }
 
-MadeChanges MakeStep(const std::string &command,
-                     const std::vector<Change> &changes, Report *report) {
-  History history;
+MadeStep MakeStep(const std::string &command,
+                  const std::vector<Change> &changes, History *history) {
   Step step{.command = command, .changes = {}};
   for (const Change &change : changes) {
-    const auto before = Remembered(*change.family, change.channel);
+    const auto before = Remembered(*change.setting, change.channel);
     if (before == change.index) continue;
-    step.changes.push_back({.family = change.family,
+    step.changes.push_back({.setting = change.setting,
                             .channel = change.channel,
                             .before = before,
                             .after = change.index});
   }
-  // Before the change: what ends this program meanwhile leaves a step too many,
-  // which is noticed, and not one too few.
+  MadeStep result;
+  // The step is written before the change. If this program is ended in between,
+  // the history holds a step that did not happen, which undo recognises.
   bool recorded = false;
-  if (!history.usable()) {
-    WarnOfNoUndo(history.reason(), report);
+  if (history->state() != History::State::Usable) {
+    result.notRecorded = history->reason();
   } else if (!step.changes.empty()) {
-    history.Add(step);
-    recorded = history.Save();
+    history->Add(step);
+    recorded = history->Save();
     if (!recorded) {
-      WarnOfNoUndo("nothing can be written to " + StateFolder(), report);
+      result.notRecorded = "nothing can be written to " + StateFolder();
     }
   }
-  MadeChanges made = MakeChanges(changes);
+  result.made = MakeChanges(changes);
   const bool kept =
-      std::any_of(made.changes.begin(), made.changes.end(),
+      std::any_of(result.made.changes.begin(), result.made.changes.end(),
                   [](const MadeChange &one) { return one.remembered; });
   if (recorded && !kept) {
-    history.DropLast();
-    history.Save();
+    history->DropLast();
+    history->Save();
   }
-  return made;
+  return result;
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

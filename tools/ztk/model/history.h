@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What this program has changed, so that it can be put back. Nobody else reads
-// or writes it; the settings files stay what they are.
+// What this program has changed, so that it can be put back. No other program
+// reads or writes the file, and the settings files contain nothing of it.
 #ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_H_
 #define ZTK_TOOLS_ZTK_MODEL_HISTORY_H_
 
@@ -14,10 +14,10 @@
 #include "ztk/model/settings.h"
 #include "ztk/model/state_file.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 struct PastChange {
-  const Family *family;
+  const Setting *setting;
   std::uint32_t channel;
   std::optional<std::uint32_t> before;  // none: nothing was remembered
   std::uint32_t after;
@@ -29,22 +29,28 @@ struct Step {
   std::vector<PastChange> changes;
 };
 
-// While it lives, no other program of this kind changes anything: what two of
-// them remember at the same time would otherwise be lost.
+// While it lives, no other program of this kind changes anything, so that two
+// of them do not lose each other's steps.
 class History {
  public:
+  // Waits for another program of this kind: see StateLock.
   History();
 
-  // Whether there is one; else why not, as a part of a sentence.
-  bool usable() const { return lock_.held(); }
-  const std::string &reason() const { return lock_.reason(); }
-  // Lines that were no steps are left out.
+  enum class State : std::uint8_t {
+    Usable,
+    Busy,        // another program of this kind is at work
+    Unavailable  // nothing can be recorded, or what is recorded cannot be read
+  };
+  State state() const { return state_; }
+  // Why it is not usable, as a part of a sentence.
+  const std::string &reason() const { return reason_; }
+  // Some lines of the file were no steps; they are left out.
   bool damaged() const { return damaged_; }
 
   const std::vector<Step> &steps() const { return steps_; }
   void Add(Step step);
   void DropLast() { steps_.pop_back(); }
-  // False when it could not be written.
+  // Only for a usable history. False when it could not be written.
   bool Save();
 
  private:
@@ -52,15 +58,24 @@ class History {
 
   std::string path_;
   StateLock lock_;
+  State state_ = State::Unavailable;
+  std::string reason_;
   std::vector<Step> steps_;
   bool damaged_ = false;
 };
 
-// Makes the changes as one step of the history. Adds a warning to the report
-// where undo will not know of it. `command` as in "input set".
-MadeChanges MakeStep(const std::string &command,
-                     const std::vector<Change> &changes, Report *report);
+struct MadeStep {
+  MadeChanges made;
+  // Why the history does not hold this step; empty when it does, or when
+  // nothing has changed.
+  std::string notRecorded;
+};
 
-}  // namespace ztk::program
+// Makes the changes as one step of the history, which is not busy. `command` as
+// in "input set".
+MadeStep MakeStep(const std::string &command,
+                  const std::vector<Change> &changes, History *history);
+
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_H_

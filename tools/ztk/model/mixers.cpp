@@ -5,14 +5,12 @@
 #include <array>
 #include <cstdio>
 
+#include "api/status.h"
 #include "usb/mixers.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
-
-// What every mixer can be asked at any time without changing anything.
-constexpr std::uint16_t kQuestionLength = 2;  // bytes
 
 MixerState StateOf(usb::Code code) {
   switch (code) {
@@ -84,18 +82,12 @@ Mixer AskMixer(int number, const std::string &place) {
   const usb::OpenMixer mixer(static_cast<std::int32_t>(found - now.begin()));
   if (!mixer) return Unopened(number, place);
   usb::Reply reply;
-  const usb::Code code = GetFirmwareVersionNumber(mixer.connection(),
-                                                  reply.bytes, kQuestionLength);
+  const usb::Code code = GetFirmwareVersionNumber(
+      mixer.connection(), reply.bytes, status::kFirmwareVersionLength);
   return {.number = number,
           .state = StateOf(code),
           .reason = Word(StateOf(code)),
           .message = Sentence(number, code)};
-}
-
-std::string InNumbers(std::size_t part, std::size_t all) {
-  if (part == all)
-    return std::to_string(all) + (all == 1 ? " mixer" : " mixers");
-  return std::to_string(part) + " of " + std::to_string(all) + " mixers";
 }
 
 }  // namespace
@@ -121,44 +113,6 @@ Reach AskMixers(const std::vector<std::string> &places) {
   return reach;
 }
 
-void AddReach(const Reach &reach, const Outcome &outcome, Report *report) {
-  Json unanswered = Json::array();
-  const std::size_t answered = reach.answered();
-  for (const Mixer &mixer : reach.mixers) {
-    if (mixer.state == MixerState::Answered) continue;
-    unanswered.push_back({{"mixer", mixer.number},
-                          {"reason", mixer.reason},
-                          {"message", mixer.message}});
-    // With one mixer it is the problem itself.
-    if (reach.found() > 1) report->warnings.push_back(mixer.message);
-  }
-  report->fields["mixers"] = {{"found", reach.found()},
-                              {"answered", answered},
-                              {"unanswered", std::move(unanswered)}};
-  if (answered == reach.found() && answered > 0) return;
-  if (answered > 0) {
-    report->problem = {.exit = ExitCode::SomeMixers,
-                       .message = "only " + InNumbers(answered, reach.found()) +
-                                  " answered; " + outcome.someMissing};
-    return;
-  }
-  std::string why = "no mixer is attached";
-  if (reach.found() == 1) why = reach.mixers.front().message;
-  if (reach.found() > 1) {
-    why = "none of " + std::to_string(reach.found()) + " mixers answered";
-  }
-  const bool sent = reach.opened() > 0;
-  report->problem = {.exit = ExitCode::NoMixer,
-                     .message = (sent ? outcome.notAnswered : outcome.notSent) +
-                                ": " + why + "; " + outcome.remedy};
-}
-
-std::string Described(const Reach &reach) {
-  const std::size_t answered = reach.answered();
-  if (answered > 0) return "sent to " + InNumbers(answered, reach.found());
-  return reach.opened() > 0 ? "sent, but not answered" : "not sent";
-}
-
 std::string Described(usb::Code code) {
   switch (code) {
     case platform::usb::kPipeStalled:
@@ -176,4 +130,4 @@ std::string Described(usb::Code code) {
   return text.data();
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -10,11 +10,9 @@
 
 #include "ZTKFunc.h"
 #include "usb/USB.h"
-#include "ztk/progress.h"
-#include "ztk/report.h"
 #include "ztk/system/places.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 // What became of a mixer that was asked something.
 enum class MixerState : std::uint8_t {
@@ -54,7 +52,6 @@ struct Sent {
 // attached before it whether it is there: the library does not tell.
 template <typename Function>
 Sent SendAndLook(Function send) {
-  const Progress progress(kWaitingForMixer);
   const std::vector<std::string> before = MixerPlaces();
   const ZTKResult result = send();
   // A call that was rejected has sent nothing.
@@ -62,25 +59,9 @@ Sent SendAndLook(Function send) {
   return {.result = result, .reach = AskMixers(before)};
 }
 
-// What became of a setting, as parts of a sentence.
-struct Outcome {
-  std::string notSent;      // where nothing could be sent
-  std::string notAnswered;  // where it was, but no mixer has answered
-  std::string remedy;       // what to do in both cases
-  std::string someMissing;  // what to do once the others are back
-};
-
-// Adds how many mixers were found and how many answered, a warning for each
-// that did not, and the problem when some or all did not.
-void AddReach(const Reach &reach, const Outcome &outcome, Report *report);
-
-// "sent to 2 mixers", "sent to 1 of 2 mixers", "sent, but not answered",
-// "not sent"
-std::string Described(const Reach &reach);
-
 // The end of a request in words: "no answer", "refused by the mixer", ...
 std::string Described(usb::Code code);
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_MIXERS_H_

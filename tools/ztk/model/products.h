@@ -5,24 +5,32 @@
 #define ZTK_TOOLS_ZTK_MODEL_PRODUCTS_H_
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
-namespace ztk::program {
+#include "ZTKFunc.h"
 
-// The model that is meant when nobody says another.
-inline constexpr std::uint32_t kOwnProduct = 10;
+namespace ztk::model {
 
-// The number of a model from what follows --product: its number, or a name in
-// which the library finds one. Throws a Failure that lists the models.
-std::uint32_t ParseProduct(const std::string &word);
+// The model that is meant where no other is named.
+inline constexpr std::uint32_t kOwnProduct = ZTK_PRODUCT_VRM_D6;
 
-// The names of all models, in the order of their numbers.
-std::vector<std::string> ProductNames();
+struct Product {
+  std::uint32_t id;  // as the library numbers it
+  std::string name;
+};
 
-// The name of a model that ParseProduct() can give.
+// In the order of their numbers.
+const std::vector<Product> &Products();
+
+// The number of a model from a word of the user: its number, or a name in which
+// the library finds one. None where it is neither.
+std::optional<std::uint32_t> FindProduct(const std::string &word);
+
+// The name of a model; its number where there is no such model.
 std::string ProductName(std::uint32_t product);
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_PRODUCTS_H_

@@ -13,11 +13,10 @@
 #include "ZTKFunc.h"
 #include "notify/announced_settings.h"
 #include "ztk/model/choice.h"
-#include "ztk/report.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
-struct Family {
+struct Setting {
   const char *name;     // the word on the command line
   const char *title;    // what it is called
   const char *place;    // what one channel of it is called
@@ -42,8 +41,10 @@ struct Family {
   // Indexes behind the choices that the library sets and sends again although
   // they are no choices.
   std::uint32_t placeholders;
+  // What the library takes where nothing is remembered.
+  std::uint32_t (*defaultIndex)(std::uint32_t channel);
 
-  // The library's functions; those of a family without channels leave the
+  // The library's functions; those of a setting without channels leave the
   // channel out.
   ZTKResult (*count)(std::uint32_t product, std::uint32_t channel,
                      std::uint32_t *outCount);
@@ -58,58 +59,52 @@ struct Family {
   ZTKResult (*sendAgain)(std::uint32_t product, std::uint32_t channel);
 };
 
-extern const Family kInput;
-extern const Family kOutput;
-extern const Family kBoost;
-extern const Family kMidi;
+extern const Setting kInput;
+extern const Setting kOutput;
+extern const Setting kBoost;
+extern const Setting kMidi;
 
-std::span<const Family *const> Families();
+std::span<const Setting *const> AllSettings();
 
 // The channels to walk: one, 0, where the setting has none.
-std::uint32_t ChannelsToWalk(const Family &family);
+std::uint32_t ChannelsToWalk(const Setting &setting);
 
-std::string ModelName(const Family &family);
+// "VRM-B5": the model that the setting belongs to.
+std::string ModelName(const Setting &setting);
 
-// "USB output audio belongs to the VRM-B5."
-std::string Belonging(const Family &family);
-
-// The same, and which choices are not sent again, where some are not.
-std::string Note(const Family &family);
-
-// Whether the library would send this index again.
-bool IsSentAgain(const Family &family, std::uint32_t index);
-
-// What sets it: "ztk input set 2 3".
-std::string SetCommand(const Family &family, std::uint32_t channel,
-                       std::uint32_t index);
-
-// "USB output audio of the VRM-B5: where playback goes"
-std::string Summary(const Family &family);
+// The models that settings belong to, each once.
+std::vector<std::string> ModelNames();
 
 // "USB input 2", "Boost level"; channels count from 0 here.
-std::string PlaceName(const Family &family, std::uint32_t channel);
+std::string PlaceName(const Setting &setting, std::uint32_t channel);
 
-// What a channel offers, without placeholders. Throws a Failure where the
-// library does not serve the product.
-std::vector<Choice> ChoicesOf(const Family &family, std::uint32_t product,
+// Whether the library would send this index again.
+bool IsSentAgain(const Setting &setting, std::uint32_t index);
+
+// Whether the library's setter takes this index: a choice or a placeholder. The
+// number in a settings file may be any.
+bool CanBeSet(const Setting &setting, std::uint32_t channel,
+              std::uint32_t index);
+
+// The choices of a channel, without placeholders. Empty where the library does
+// not serve the product.
+std::vector<Choice> ChoicesOf(const Setting &setting, std::uint32_t product,
                               std::uint32_t channel);
 
 // The choice with the library's index; none where there is no such choice.
-std::optional<Choice> ChoiceAt(const Family &family, std::uint32_t channel,
+std::optional<Choice> ChoiceAt(const Setting &setting, std::uint32_t channel,
                                std::uint32_t index);
 
+// What the library takes as the current choice: the remembered value or a
+// default. None for a product that can only be listed.
+std::optional<std::uint32_t> CurrentIndex(const Setting &setting,
+                                          std::uint32_t product,
+                                          std::uint32_t channel);
+
 // "3 Post CH2 Fader", or "77, which is not a choice".
-std::string DescribedValue(const Family &family, std::uint32_t channel,
+std::string DescribedValue(const Setting &setting, std::uint32_t channel,
                            std::uint32_t index);
 
-// Adds "channel" (null where there are none), "number" and "text" (null for no
-// choice) and "value", the library's index.
-void AddValueFields(const Family &family, std::uint32_t channel,
-                    std::uint32_t index, Json *fields);
-
-// The channel as people and programs count it, from 1.
-Json ChannelField(const Family &family, std::uint32_t channel);
-
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_SETTINGS_H_

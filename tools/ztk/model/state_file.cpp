@@ -13,10 +13,10 @@
 #include <cstring>
 #include <thread>
 
+#include "platform/common/descriptor.h"
 #include "platform/common/replace_file.h"
-#include "ztk/progress.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -24,8 +24,7 @@ using std::chrono::milliseconds;
 using std::chrono::seconds;
 using std::chrono::steady_clock;
 
-// A mixer that does not answer holds its program up for 15 s.
-constexpr seconds kPatience{20};
+constexpr seconds kLongestWait{5};
 constexpr milliseconds kPause{5};
 constexpr std::size_t kLargest = std::size_t{1} << 20;  // bytes
 
@@ -41,6 +40,39 @@ void MakeFolders(const std::string &path) {
     mkdir(path.substr(0, slash).c_str(), 0700);
   }
   mkdir(path.c_str(), 0700);
+}
+
+bool IsRegularFile(int file) {
+  struct stat status {};
+  return fstat(file, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+std::string ErrorText(const std::string &path, int error) {
+  return path + ": " +
+         (error == ELOOP ? "it is a symbolic link" : std::strerror(error));
+}
+
+// The process that holds the lock has written its number into the file.
+std::string OtherProcess(int file) {
+  std::array<char, 16> digits{};
+  const ssize_t length = pread(file, digits.data(), digits.size(), 0);
+  std::string number;
+  for (ssize_t i = 0; i < length; ++i) {
+    const char digit = digits[static_cast<std::size_t>(i)];
+    if (digit < '0' || digit > '9') break;
+    number += digit;
+  }
+  return number.empty() ? "another ztk"
+                        : "another ztk, process " + number + ",";
+}
+
+// The number is only told to the user: nothing depends on it being written.
+void WriteProcessNumber(int file) {
+  const std::string number = std::to_string(getpid()) + "\n";
+  if (ftruncate(file, 0) != 0 ||
+      pwrite(file, number.data(), number.size(), 0) < 0) {
+    errno = 0;
+  }
 }
 
 }  // namespace
@@ -62,47 +94,67 @@ StateLock::StateLock(const std::string &folder) {
   }
   MakeFolders(folder);
   const std::string path = folder + "/ztk.lock";
-  const int file = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  if (file < 0) {
-    reason_ = path + ": " + std::strerror(errno);
-    return;
-  }
-  const Progress progress("Waiting for another ztk");
-  const auto end = steady_clock::now() + kPatience;
-  while (flock(file, LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK && errno != EINTR) {
-      reason_ = path + ": " + std::strerror(errno);
-      break;
-    }
-    if (steady_clock::now() >= end) {
-      reason_ = "another ztk does not come to its end";
-      break;
-    }
-    std::this_thread::sleep_for(kPause);
-  }
-  if (reason_.empty()) {
-    file_ = file;
-  } else {
-    close(file);
-  }
+  Open(path);
+  if (file_ >= 0) Wait(path);
 }
 
 StateLock::~StateLock() {
   if (file_ >= 0) close(file_);
 }
 
-std::string ReadStateFile(const std::string &path) {
-  const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-  if (file < 0) return "";
-  std::string text;
-  std::array<char, 4096> part{};
-  ssize_t got = 0;
-  while ((got = read(file, part.data(), part.size())) > 0 &&
-         text.size() <= kLargest) {
-    text.append(part.data(), static_cast<std::size_t>(got));
+// Does not wait for the other end of a pipe that has the file's name.
+void StateLock::Open(const std::string &path) {
+  file_ = open(path.c_str(),
+               O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);
+  if (file_ < 0) {
+    reason_ = ErrorText(path, errno);
+  } else if (!IsRegularFile(file_)) {
+    reason_ = path + ": it is not a regular file";
+    close(file_);
+    file_ = -1;
   }
-  close(file);
-  return got < 0 || text.size() > kLargest ? "" : text;
+}
+
+void StateLock::Wait(const std::string &path) {
+  const auto end = steady_clock::now() + kLongestWait;
+  while (flock(file_, LOCK_EX | LOCK_NB) != 0) {
+    if (errno != EWOULDBLOCK && errno != EINTR) {
+      reason_ = ErrorText(path, errno);
+      return;
+    }
+    if (steady_clock::now() >= end) {
+      result_ = Result::Busy;
+      reason_ = OtherProcess(file_) +
+                " is at work and has not finished within " +
+                std::to_string(kLongestWait.count()) + " s";
+      return;
+    }
+    std::this_thread::sleep_for(kPause);
+  }
+  result_ = Result::Held;
+  WriteProcessNumber(file_);
+}
+
+StateFileContent ReadStateFile(const std::string &path) {
+  StateFileContent content;
+  const platform::Descriptor file(
+      open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW));
+  if (!file.valid()) {
+    if (errno != ENOENT) content.reason = ErrorText(path, errno);
+    return content;
+  }
+  if (!IsRegularFile(file.get())) {
+    return {.text = {}, .reason = path + ": it is not a regular file"};
+  }
+  std::array<char, 4096> part{};
+  while (content.text.size() <= kLargest) {
+    const ssize_t length = read(file.get(), part.data(), part.size());
+    if (length == 0) return content;
+    if (length < 0 && errno == EINTR) continue;
+    if (length < 0) return {.text = {}, .reason = ErrorText(path, errno)};
+    content.text.append(part.data(), static_cast<std::size_t>(length));
+  }
+  return {.text = {}, .reason = path + ": it is larger than 1 MiB"};
 }
 
 bool ReplaceStateFile(const std::string &path, const std::string &text,
@@ -110,4 +162,4 @@ bool ReplaceStateFile(const std::string &path, const std::string &text,
   return platform::ReplaceFile(path, text, keepOld);
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -11,10 +11,10 @@
 
 #include "notify/announced_settings.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 struct Announcement {
-  const notify::AnnouncedSetting *family;
+  const notify::AnnouncedSetting *setting;
   std::uint32_t product;
   std::optional<std::uint32_t> channel;
   std::uint32_t index;
@@ -34,7 +34,7 @@ class BusWitness {
  public:
   // Listens from now on. Where there is no bus, it hears nothing.
   explicit BusWitness(
-      const std::vector<const notify::AnnouncedSetting *> &families);
+      const std::vector<const notify::AnnouncedSetting *> &settings);
   ~BusWitness();
   BusWitness(const BusWitness &) = delete;
   BusWitness &operator=(const BusWitness &) = delete;
@@ -47,6 +47,6 @@ class BusWitness {
   std::unique_ptr<Ear> ear_;
 };
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_ANNOUNCEMENT_H_

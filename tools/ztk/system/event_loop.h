@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-namespace ztk::program {
+namespace ztk::model {
 
 // What the library's callbacks do not hear: it announces changes of USB output
 // audio under another model's name than it listens to.
@@ -28,6 +28,6 @@ LoopEnd RunLoop(void (*ready)());
 // Ends the loop from within a callback.
 void StopLoop();
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_EVENT_LOOP_H_

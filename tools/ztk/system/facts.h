@@ -7,7 +7,7 @@
 #include <span>
 #include <string>
 
-namespace ztk::program {
+namespace ztk::model {
 
 // Variables of the environment, and what they decide.
 struct VariableFact {
@@ -28,6 +28,6 @@ const char *AutoapplyFact();
 // when nothing hinders it.
 std::string WhyInstalledIsNotFound();
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_FACTS_H_

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/places.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 const char *Word(Obstacle obstacle) {
   switch (obstacle) {
@@ -21,4 +21,4 @@ const char *Word(Obstacle obstacle) {
   return "not-opened";
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

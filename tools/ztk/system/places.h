@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace ztk::program {
+namespace ztk::model {
 
 // The system's names of the places, in the order in which the library numbers
 // their mixers. Opens nothing.
@@ -44,6 +44,6 @@ const char *Word(Obstacle obstacle);
 // line.
 std::string Explained(const Access &access);
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_PLACES_H_

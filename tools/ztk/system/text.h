@@ -8,7 +8,7 @@
 
 #include "ZTKFunc.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 // Empty for null.
 std::string Utf8(ZTKTextRef text);
@@ -34,6 +34,6 @@ auto WithText(const std::string &text, Function function) {
   return function(made.get());
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_TEXT_H_

@@ -8,9 +8,10 @@
 #include <memory>
 #include <string>
 
-namespace ztk::program {
+namespace ztk::model {
 
-// Each of these throws a Failure when the manager does not do it.
+// Each of these throws std::runtime_error with the reason when the manager does
+// not do it.
 class UserManager {
  public:
   UserManager();
@@ -33,6 +34,6 @@ class UserManager {
 // installed.
 std::string PlugInRule();
 
-}  // namespace ztk::program
+}  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_

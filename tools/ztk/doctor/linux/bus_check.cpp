@@ -5,10 +5,10 @@
 #include <cstdlib>
 #include <optional>
 
-#include "ztk/model/finding.h"
+#include "ztk/doctor/finding.h"
 #include "ztk/system/announcement.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -83,7 +83,7 @@ Finding ExplainNoBus() {
 
 }  // namespace
 
-Findings FindBusTrouble(std::string *good) {
+Findings CheckBus(std::string *good) {
   *good = "other programs hear of changes";
   Findings findings;
   if (!SessionBusAnswers()) findings.push_back(ExplainNoBus());
@@ -100,4 +100,4 @@ Findings FindBusTrouble(std::string *good) {
   return findings;
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -15,10 +15,10 @@
 #include "build_config.h"
 #include "udev_rule.h"
 #include "usb/USB.h"
-#include "ztk/model/finding.h"
+#include "ztk/doctor/finding.h"
 #include "ztk/system/places.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -336,4 +336,4 @@ Finding ExplainTexts(bool found) {
                          : "sudo cmake --install build"};
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/finding.h"
+#include "ztk/doctor/finding.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 // The distributed notification center comes with the login; it cannot be
 // missing, or set up otherwise, by anything that a user can do.
-Findings FindBusTrouble(std::string *good) {
+Findings CheckBus(std::string *good) {
   *good = "the system's notification center carries changes";
   return {};
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -2,11 +2,11 @@
 #include <sys/mount.h>
 #include <sys/param.h>
 
-#include "ztk/model/finding.h"
+#include "ztk/doctor/finding.h"
 #include "ztk/system/facts.h"
 #include "ztk/system/places.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 Finding ExplainNoMixer() {
   return {.id = "no-mixer",
@@ -73,4 +73,4 @@ Finding ExplainTexts(bool found) {
           .command = "sudo cmake --install build"};
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

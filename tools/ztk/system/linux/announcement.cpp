@@ -10,7 +10,7 @@
 #include "platform/linux/sd_bus_library.h"
 #include "platform/text.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -18,7 +18,7 @@ namespace center = platform::notification_center;
 
 // What came in, of one name.
 struct Inbox {
-  const notify::AnnouncedSetting *family;
+  const notify::AnnouncedSetting *setting;
   std::vector<Announcement> heard;
 };
 
@@ -27,7 +27,7 @@ void Keep(void *observer, const center::UserInfo *userInfo) {
   const auto number = [userInfo](ZTKTextRef key) {
     return static_cast<std::uint32_t>(center::ReadNumber(userInfo, key));
   };
-  inbox->heard.push_back({.family = inbox->family,
+  inbox->heard.push_back({.setting = inbox->setting,
                           .product = number(notify::kProductKey),
                           .channel = number(notify::kChannelKey),
                           .index = number(notify::kIndexKey)});
@@ -39,10 +39,10 @@ struct BusWitness::Ear {
   center::OwnedBus bus;
   std::deque<Inbox> inboxes;  // which the registrations point to
 
-  void ListenTo(const notify::AnnouncedSetting *family) {
-    Inbox &inbox = inboxes.emplace_back(Inbox{.family = family, .heard = {}});
+  void ListenTo(const notify::AnnouncedSetting *setting) {
+    Inbox &inbox = inboxes.emplace_back(Inbox{.setting = setting, .heard = {}});
     const platform::text::Made name(
-        platform::text::Format(family->nameFormat, family->postedModel));
+        platform::text::Format(setting->nameFormat, setting->postedModel));
     auto registration =
         std::make_unique<center::Registration>(center::Registration{
             .observer = &inbox, .code = Keep, .name = name.get()});
@@ -51,7 +51,7 @@ struct BusWitness::Ear {
 
   bool Has(const Announcement &wanted) const {
     for (const Inbox &inbox : inboxes) {
-      if (inbox.family != wanted.family) continue;
+      if (inbox.setting != wanted.setting) continue;
       for (const Announcement &one : inbox.heard) {
         // A number that was not sent reads as 0.
         if (one.product == wanted.product && one.index == wanted.index &&
@@ -77,12 +77,12 @@ const char *MissingLoopLibrary() {
 }
 
 BusWitness::BusWitness(
-    const std::vector<const notify::AnnouncedSetting *> &families)
+    const std::vector<const notify::AnnouncedSetting *> &settings)
     : ear_(std::make_unique<Ear>()) {
   ear_->bus = center::ConnectToSessionBus(center::PatienceEnds());
   if (ear_->bus == nullptr) return;
-  for (const notify::AnnouncedSetting *family : families)
-    ear_->ListenTo(family);
+  for (const notify::AnnouncedSetting *setting : settings)
+    ear_->ListenTo(setting);
 }
 
 BusWitness::~BusWitness() {
@@ -105,4 +105,4 @@ bool BusWitness::Heard(const Announcement &announcement) {
   return true;
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

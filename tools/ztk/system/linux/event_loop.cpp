@@ -10,7 +10,7 @@
 #include "platform/notification_center.h"
 #include "platform/text.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -53,9 +53,9 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
   // Observers live as long as the process.
   static OutputObserver observer;
   observer = {.listener = listener, .context = context};
-  const notify::AnnouncedSetting &family = notify::kOutputAudio;
+  const notify::AnnouncedSetting &setting = notify::kOutputAudio;
   const platform::text::Made name(
-      platform::text::Format(family.nameFormat, family.postedModel));
+      platform::text::Format(setting.nameFormat, setting.postedModel));
   center::AddObserver(
       &observer, {.selector = "outputAudioChanged:", .code = OnOutputAudio},
       name.get());
@@ -95,4 +95,4 @@ void StopLoop() {
   if (theLoop.loop != nullptr) center::g_main_loop_quit(theLoop.loop);
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

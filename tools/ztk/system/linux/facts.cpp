@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/facts.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 std::span<const VariableFact> VariableFacts() {
   static constexpr VariableFact kFacts[] = {
@@ -36,4 +36,4 @@ const char *AutoapplyFact() {
 // The port finds the bundle wherever it is installed.
 std::string WhyInstalledIsNotFound() { return ""; }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -11,7 +11,7 @@
 #include "platform/linux/usb_snapshot.h"
 #include "usb/USB.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -106,4 +106,4 @@ std::string Explained(const Access &access) {
          access.reason;
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/text.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 std::string Utf8(ZTKTextRef text) { return text == nullptr ? "" : text; }
 
@@ -9,4 +9,4 @@ LibraryText::LibraryText(const std::string &text) : text_(text.c_str()) {}
 
 LibraryText::~LibraryText() = default;
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/user_manager.h"
 
+#include <stdexcept>
+
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
 
 #include "cli/strings.h"
 #include "platform/linux/bus_connection.h"
-#include "ztk/report.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -52,10 +53,9 @@ class Answer {
 };
 
 [[noreturn]] void Refuse(const std::string &reason) {
-  throw Failure(ExitCode::Failed,
-                "autoapply needs the systemd of your session, which fails (" +
-                    cli::OneLine(reason) +
-                    "); instead, run 'ztk apply' after plugging in");
+  throw std::runtime_error(
+      "autoapply needs the systemd of your session, which fails (" +
+      cli::OneLine(reason) + "); instead, run 'ztk apply' after plugging in");
 }
 
 }  // namespace
@@ -117,4 +117,4 @@ std::string PlugInRule() {
   return "";
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -8,13 +8,13 @@
 
 namespace {
 namespace center = ztk::platform::notification_center;
-using ztk::program::Announcement;
+using ztk::model::Announcement;
 }  // namespace
 
 // Keeps what came in of one name.
 @interface ZTKInbox : NSObject {
  @public
-  const ztk::notify::AnnouncedSetting *family;
+  const ztk::notify::AnnouncedSetting *setting;
   std::vector<Announcement> heard;
 }
 - (void)keep:(NSNotification *)notification;
@@ -27,7 +27,7 @@ using ztk::program::Announcement;
   const auto number = [info](ZTKTextRef key) {
     return static_cast<std::uint32_t>(center::ReadNumber(info, key));
   };
-  heard.push_back({.family = family,
+  heard.push_back({.setting = setting,
                    .product = number(ztk::notify::kProductKey),
                    .channel = number(ztk::notify::kChannelKey),
                    .index = number(ztk::notify::kIndexKey)});
@@ -35,14 +35,14 @@ using ztk::program::Announcement;
 
 @end
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
 constexpr CFTimeInterval kPatience = 1;  // second
 
 bool Has(const ZTKInbox *inbox, const Announcement &wanted) {
-  if (inbox->family != wanted.family) return false;
+  if (inbox->setting != wanted.setting) return false;
   for (const Announcement &one : inbox->heard) {
     // A number that was not sent reads as 0.
     if (one.product == wanted.product && one.index == wanted.index &&
@@ -71,14 +71,14 @@ struct BusWitness::Ear {
 bool SessionBusAnswers() { return true; }
 
 BusWitness::BusWitness(
-    const std::vector<const notify::AnnouncedSetting *> &families)
+    const std::vector<const notify::AnnouncedSetting *> &settings)
     : ear_(std::make_unique<Ear>()) {
-  for (const notify::AnnouncedSetting *family : families) {
+  for (const notify::AnnouncedSetting *setting : settings) {
     ZTKInbox *inbox = [[ZTKInbox alloc] init];
-    inbox->family = family;
+    inbox->setting = setting;
     ear_->inboxes.push_back(inbox);
     const platform::text::Made name(
-        platform::text::Format(family->nameFormat, family->postedModel));
+        platform::text::Format(setting->nameFormat, setting->postedModel));
     center::AddObserver(inbox, {.selector = "keep:", .code = nullptr},
                         name.get());
   }
@@ -105,4 +105,4 @@ bool BusWitness::Heard(const Announcement &announcement) {
   return true;
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

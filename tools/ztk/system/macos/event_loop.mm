@@ -14,7 +14,7 @@
 namespace {
 
 struct {
-  ztk::program::OutputListener listener;
+  ztk::model::OutputListener listener;
   void *context;
 } theOutputListener;
 
@@ -36,7 +36,7 @@ struct {
 
 @end
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -64,9 +64,9 @@ dispatch_source_t WatchForSignal(int number) {
 
 void ListenToOutputAudio(OutputListener listener, void *context) {
   theOutputListener = {.listener = listener, .context = context};
-  const notify::AnnouncedSetting &family = notify::kOutputAudio;
+  const notify::AnnouncedSetting &setting = notify::kOutputAudio;
   const platform::text::Made name(
-      platform::text::Format(family.nameFormat, family.postedModel));
+      platform::text::Format(setting.nameFormat, setting.postedModel));
   // Observers live as long as the process.
   platform::notification_center::AddObserver(
       [[ZTKOutputObserver alloc] init],
@@ -86,4 +86,4 @@ LoopEnd RunLoop(void (*ready)()) {
 
 void StopLoop() { CFRunLoopStop(CFRunLoopGetMain()); }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

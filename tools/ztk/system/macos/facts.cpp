@@ -3,7 +3,7 @@
 
 #include "api/install_location.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 std::span<const VariableFact> VariableFacts() {
   static constexpr VariableFact kFacts[] = {
@@ -35,4 +35,4 @@ std::string WhyInstalledIsNotFound() {
          "/Library is not found";
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -12,7 +12,7 @@
 #include "usb/USB.h"
 #include "ztk/system/places.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 namespace {
 
@@ -162,4 +162,4 @@ std::string Explained(const Access &access) {
          "; unplug the mixer and plug it in again";
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -3,7 +3,7 @@
 
 #include "ztk/system/text.h"
 
-namespace ztk::program {
+namespace ztk::model {
 
 std::string Utf8(ZTKTextRef text) {
   if (text == nullptr) return "";
@@ -27,4 +27,4 @@ LibraryText::~LibraryText() {
   if (text_ != nullptr) CFRelease(text_);
 }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/user_manager.h"
-#include "ztk/report.h"
 
-namespace ztk::program {
+#include <stdexcept>
+
+namespace ztk::model {
 
 // launchd can start a program when a device is plugged in, but the program then
 // has to take the event from it. Nothing of that is built.
 struct UserManager::Connection {};
 
 UserManager::UserManager() {
-  throw Failure(ExitCode::Failed,
-                "ztk autoapply is not built for macOS: nothing is started here "
-                "when a mixer is plugged in; run 'ztk apply' after plugging "
-                "in");
+  throw std::runtime_error(
+      "ztk autoapply is not built for macOS: nothing is started here "
+      "when a mixer is plugged in; run 'ztk apply' after plugging "
+      "in");
 }
 
 UserManager::~UserManager() = default;
@@ -25,4 +26,4 @@ void UserManager::Unlink(const std::string & /*unit*/) {}
 
 std::string PlugInRule() { return ""; }
 
-}  // namespace ztk::program
+}  // namespace ztk::model

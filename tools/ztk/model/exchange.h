@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+//
+// All remembered settings as a text, and such a text read again.
+#ifndef ZTK_TOOLS_ZTK_MODEL_EXCHANGE_H_
+#define ZTK_TOOLS_ZTK_MODEL_EXCHANGE_H_
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "ztk/model/change.h"
+
+namespace ztk::model {
+
+struct ExportedSettings {
+  std::string text;  // in JSON: by model, setting and channel
+  // Remembered numbers that are no choice, so that no text stands for them:
+  // "USB input 2: 77, which is not a choice".
+  std::vector<std::string> leftOut;
+};
+ExportedSettings ExportSettings();
+
+// The largest text that can be a list of settings, in bytes.
+inline constexpr std::size_t kLargestImport = std::size_t{1} << 20;
+
+struct ImportedSettings {
+  std::vector<Change> changes;  // none where there are errors
+  // The first errors, each with the place in the text: "settings.VRM-D6: ...".
+  std::vector<std::string> errors;
+  std::size_t errorCount = 0;  // of all errors
+};
+
+// Reads what ExportSettings() writes, and checks all of it. Sets nothing.
+ImportedSettings ParseImport(const std::string &text);
+
+}  // namespace ztk::model
+
+#endif  // ZTK_TOOLS_ZTK_MODEL_EXCHANGE_H_

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/model/resend.h"
+
+#include "ztk/model/remembered.h"
+
+namespace ztk::model {
+
+namespace {
+
+// The library addresses its values across the channels: a remembered number
+// behind a channel's choices would send a value of another channel, which is
+// not what was remembered.
+bool BelongsToItsChannel(const StoredValue &value) {
+  return CanBeSet(*value.setting, value.channel, value.index);
+}
+
+}  // namespace
+
+std::vector<StoredValue> StoredValues(
+    const Setting &setting, const std::vector<std::uint32_t> &channels) {
+  std::vector<StoredValue> values;
+  for (const std::uint32_t channel : channels) {
+    const auto index = Remembered(setting, channel);
+    if (!index) continue;
+    values.push_back(
+        {.setting = &setting, .channel = channel, .index = *index});
+  }
+  return values;
+}
+
+bool WouldBeRefused(const StoredValue &value) {
+  return !BelongsToItsChannel(value) ||
+         !IsSentAgain(*value.setting, value.index);
+}
+
+Sent SendAgain(std::vector<StoredValue> *values) {
+  return SendAndLook([values] {
+    ZTKResult all = ZTK_REJECTED;
+    for (StoredValue &value : *values) {
+      const Setting &setting = *value.setting;
+      value.refused =
+          !BelongsToItsChannel(value) ||
+          setting.sendAgain(setting.product, value.channel) != ZTK_SUCCESS;
+      if (!value.refused) all = ZTK_SUCCESS;
+    }
+    return all;
+  });
+}
+
+}  // namespace ztk::model

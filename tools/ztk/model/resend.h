@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+//
+// Sending remembered values to the mixers again.
+#ifndef ZTK_TOOLS_ZTK_MODEL_RESEND_H_
+#define ZTK_TOOLS_ZTK_MODEL_RESEND_H_
+
+#include <cstdint>
+#include <vector>
+
+#include "ztk/model/mixers.h"
+#include "ztk/model/settings.h"
+
+namespace ztk::model {
+
+// A value in a settings file.
+struct StoredValue {
+  const Setting *setting;
+  std::uint32_t channel;
+  std::uint32_t index;
+  bool refused = false;  // by the library, or because it is no choice
+};
+
+// The values that are remembered for these channels. A setting without one is
+// left out: the library would send its default.
+std::vector<StoredValue> StoredValues(
+    const Setting &setting, const std::vector<std::uint32_t> &channels);
+
+// Whether the library would refuse to send it. Sends nothing.
+bool WouldBeRefused(const StoredValue &value);
+
+// Sends each of them, and marks those that are refused.
+Sent SendAgain(std::vector<StoredValue> *values);
+
+}  // namespace ztk::model
+
+#endif  // ZTK_TOOLS_ZTK_MODEL_RESEND_H_

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/report/setting_report.h"
+
+#include "cli/strings.h"
+#include "cli/suggest.h"
+#include "ztk/model/products.h"
+
+namespace ztk::program {
+
+namespace {
+
+// The choice that a number out of range comes closest to. Choices count from
+// 1 without gaps. A level such as -10 dB is meant by its number alone.
+const Choice &NearestNumber(const std::string &digits,
+                            const std::vector<Choice> &choices) {
+  for (const Choice &choice : choices) {
+    if (choice.text.starts_with("-" + digits)) return choice;
+  }
+  const auto number = cli::ParseNumber(digits);
+  return number && *number < choices.front().number ? choices.front()
+                                                    : choices.back();
+}
+
+}  // namespace
+
+std::string Belonging(const Setting &setting) {
+  return std::string(setting.title) + " belongs to the " + ModelName(setting) +
+         ".";
+}
+
+std::string Note(const Setting &setting) {
+  std::string note = Belonging(setting);
+  if (setting.sentAgainBelow != 0) {
+    note += " Of its choices, apply sends 1 to " +
+            std::to_string(setting.sentAgainBelow) +
+            "\nagain, and no other: set another one once more instead.";
+  }
+  return note;
+}
+
+std::string Summary(const Setting &setting) {
+  return std::string(setting.title) + " of the " + ModelName(setting) + ": " +
+         setting.idea;
+}
+
+std::string SetCommand(const Setting &setting, std::uint32_t channel,
+                       std::uint32_t index) {
+  std::string command = std::string("ztk ") + setting.name + " set ";
+  if (setting.channels != 0) command += std::to_string(channel + 1) + " ";
+  return command + std::to_string(index + 1);
+}
+
+std::string NearestChoice(const std::string &words,
+                          const std::vector<Choice> &choices) {
+  if (choices.empty()) return "";
+  if (!words.empty() &&
+      words.find_first_not_of("0123456789") == std::string::npos) {
+    return "; nearest: " + Described(NearestNumber(words, choices));
+  }
+  std::vector<std::string> texts;
+  texts.reserve(choices.size());
+  for (const Choice &choice : choices) texts.push_back(choice.text);
+  const std::string nearest = cli::Nearest(words, texts);
+  for (const Choice &choice : choices) {
+    if (choice.text == nearest) return "; nearest: " + Described(choice);
+  }
+  return "";
+}
+
+std::vector<Choice> ServedChoices(const Setting &setting, std::uint32_t product,
+                                  std::uint32_t channel) {
+  std::vector<Choice> choices = ChoicesOf(setting, product, channel);
+  if (choices.empty()) {
+    throw Failure(ExitCode::Rejected,
+                  "the " + ProductName(product) + " is not served: " +
+                      Belonging(setting) + " Leave --product out");
+  }
+  return choices;
+}
+
+std::uint32_t ParseProduct(const std::string &word) {
+  if (const auto id = FindProduct(word)) return *id;
+  std::vector<std::string> names;
+  std::vector<std::string> accepted;
+  for (const Product &product : Products()) {
+    names.emplace_back(product.name);
+    accepted.push_back(std::to_string(product.id) + " " + product.name);
+  }
+  const std::string nearest = cli::Nearest(word, names);
+  throw Failure(ExitCode::Usage,
+                "no model " + cli::Quoted(word) +
+                    (nearest.empty() ? "" : "; nearest: " + nearest) +
+                    "; accepted, by number or name: " + cli::Listed(accepted));
+}
+
+void AddValueFields(const Setting &setting, std::uint32_t channel,
+                    std::uint32_t index, Json *fields) {
+  const std::optional<Choice> choice = ChoiceAt(setting, channel, index);
+  (*fields)["channel"] = ChannelField(setting, channel);
+  (*fields)["number"] = choice ? Json(choice->number) : Json();
+  (*fields)["text"] = choice ? Json(choice->text) : Json();
+  (*fields)["value"] = static_cast<std::int32_t>(index);
+}
+
+Json ChannelField(const Setting &setting, std::uint32_t channel) {
+  return setting.channels == 0 ? Json() : Json(channel + 1);
+}
+
+}  // namespace ztk::program

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+//
+// Settings in sentences for people and in fields for programs.
+#ifndef ZTK_TOOLS_ZTK_REPORT_SETTING_REPORT_H_
+#define ZTK_TOOLS_ZTK_REPORT_SETTING_REPORT_H_
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ztk/model/settings.h"
+#include "ztk/report.h"
+
+namespace ztk::program {
+
+// "USB output audio belongs to the VRM-B5."
+std::string Belonging(const Setting &setting);
+
+// The same, and which choices are not sent again, where some are not.
+std::string Note(const Setting &setting);
+
+// "USB output audio of the VRM-B5: where playback goes"
+std::string Summary(const Setting &setting);
+
+// The command that sets a choice: "ztk input set 2 3".
+std::string SetCommand(const Setting &setting, std::uint32_t channel,
+                       std::uint32_t index);
+
+// "; nearest: 6 MIC" for words that no choice begins with; empty where no
+// choice is similar.
+std::string NearestChoice(const std::string &words,
+                          const std::vector<Choice> &choices);
+
+// The choices of a channel. Throws a Failure where the library does not serve
+// the product.
+std::vector<Choice> ServedChoices(const Setting &setting, std::uint32_t product,
+                                  std::uint32_t channel);
+
+// The number of the model that follows --product. Throws a Failure that lists
+// the models where there is no such model.
+std::uint32_t ParseProduct(const std::string &word);
+
+// Adds "channel" (null where there are none), "number" and "text" (null for no
+// choice) and "value", the library's index.
+void AddValueFields(const Setting &setting, std::uint32_t channel,
+                    std::uint32_t index, Json *fields);
+
+// The channel as people and programs count it, from 1.
+Json ChannelField(const Setting &setting, std::uint32_t channel);
+
+}  // namespace ztk::program
+
+#endif  // ZTK_TOOLS_ZTK_REPORT_SETTING_REPORT_H_
