@@ -132,6 +132,9 @@ def swap_arguments(code, text):
         last = closing(code, match.start(1))
         places = arguments(code, match.start(1), last)
         pieces = [text[begin:end] for begin, end in places]
+        # A function that begins in the first column is declared, not called.
+        if not code[code.rfind("\n", 0, match.start()) + 1].isspace():
+            continue
         # A parameter is a type and a name; an argument seldom has a space.
         if any(re.match(r"(?:const )?[\w:<>]+ [*&]*\w+$|[\w:]+ \*\w*$", piece)
                for piece in pieces):
