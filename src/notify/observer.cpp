@@ -36,7 +36,11 @@ void Call(void *observer, const ztk::notify::UserInfo *userInfo) {
 
 namespace ztk::notify {
 
-void *AllocateObserver() { return new ZTKFunc; }
+// It has no state, so one serves for the life of the process.
+void *AllocateObserver() {
+  static ZTKFunc observer;
+  return &observer;
+}
 
 const Method kInputAudioChanged{.selector = "inputAudioChanged:",
                                 .code = Call<&ZTKFunc::InputAudioChanged>};

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Texts. ZTKTextRef and ZTK_TEXT stand in the public header; here is what the
-// core does with them. A text "made" by one of these functions is owned by the
-// caller and goes back through Release().
+// What the core does with texts; ZTKTextRef and ZTK_TEXT are in the public
+// header. A text "made" by one of these functions is owned by the caller and
+// goes back through Release(). It is null where memory is short; every function
+// of the platform accepts a null text.
 #ifndef ZTK_PLATFORM_TEXT_H_
 #define ZTK_PLATFORM_TEXT_H_
 

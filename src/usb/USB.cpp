@@ -117,6 +117,7 @@ Code Open(Connection *slot, std::uint32_t index, port::Result *cause) {
   port::Iterator iterator = nullptr;
   Code result = port::GetMasterPort(&masterPort);
   if (result == port::kSuccess) result = FindEveryDevice(masterPort, &iterator);
+  if (result != port::kSuccess) *cause = {.code = result};
   if (result == port::kSuccess && iterator != nullptr) {
     result = ChooseMixer(iterator, slot, index, cause);
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/common/interned_text.h"
 
+#include <new>
 #include <string>
 #include <unordered_set>
 
@@ -14,9 +15,11 @@ constinit std::unordered_set<std::string> *allTexts = nullptr;
 
 }  // namespace
 
-const char *Intern(std::string_view text) {
+const char *Intern(std::string_view text) try {
   if (allTexts == nullptr) allTexts = new std::unordered_set<std::string>;
   return allTexts->emplace(text.substr(0, text.find('\0'))).first->c_str();
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 }  // namespace ztk::platform::common

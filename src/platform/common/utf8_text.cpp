@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -49,7 +50,7 @@ struct Arguments {
   std::int32_t number;
 };
 
-ZTKTextRef Fill(ZTKTextRef format, const Arguments &arguments) {
+ZTKTextRef Fill(ZTKTextRef format, const Arguments &arguments) try {
   if (format == nullptr) return nullptr;
   const std::string_view pattern(format);
   std::string filled;
@@ -75,12 +76,14 @@ ZTKTextRef Fill(ZTKTextRef format, const Arguments &arguments) {
     ++at;
   }
   return Make(filled);
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 }  // namespace
 
 // Only ASCII letters are mapped: what lies beyond depends on the language.
-ZTKTextRef UpperCase(ZTKTextRef text) {
+ZTKTextRef UpperCase(ZTKTextRef text) try {
   if (text == nullptr) return nullptr;
   std::string upper(text);
   for (char &character : upper) {
@@ -89,6 +92,8 @@ ZTKTextRef UpperCase(ZTKTextRef text) {
     }
   }
   return Make(upper);
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 bool Contains(ZTKTextRef text, ZTKTextRef part) {

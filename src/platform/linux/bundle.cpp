@@ -3,6 +3,7 @@
 
 #include <sys/stat.h>
 
+#include <new>
 #include <string>
 #include <vector>
 
@@ -56,20 +57,24 @@ std::string FindBundle(std::string_view path, std::string_view dataFolder) {
   return IsFolder(own) ? own : "";
 }
 
-Bundle *AtPath(ZTKTextRef path) {
+Bundle *AtPath(ZTKTextRef path) try {
   if (path == nullptr) return nullptr;
   std::string found = FindBundle(path, build::kDataDir);
   if (found.empty()) return nullptr;
   return new Bundle{.path = std::move(found)};
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
-ZTKTextRef ResourcePath(const Bundle *bundle) {
+ZTKTextRef ResourcePath(const Bundle *bundle) try {
   if (bundle == nullptr) return nullptr;
   return text::Format("%@", ResourceFolder(*bundle).c_str());
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
-                         ZTKTextRef table) {
+                         ZTKTextRef table) try {
   if (bundle == nullptr || key == nullptr) return nullptr;
   const std::string resources = ResourceFolder(*bundle);
   const std::string file = table == nullptr ? "" : table;
@@ -86,6 +91,8 @@ ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
     }
   }
   return common::Intern(key);
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 void Release(Bundle *bundle) { delete bundle; }

@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <memory>
+#include <new>
 
 namespace ztk::platform::notification_center {
 
@@ -64,7 +65,7 @@ sd_bus_message *MakeMessage(sd_bus *bus, ZTKTextRef name,
   return nullptr;
 }
 
-UserInfo *ReadMessage(sd_bus_message *message, ZTKTextRef name) {
+UserInfo *ReadMessage(sd_bus_message *message, ZTKTextRef name) try {
   // Several registrations read the same message, one after the other.
   if (sd_bus_message_rewind(message, 1) < 0) return nullptr;
   if (sd_bus_message_has_signature(message, kSignature) <= 0) return nullptr;
@@ -79,6 +80,8 @@ UserInfo *ReadMessage(sd_bus_message *message, ZTKTextRef name) {
     return nullptr;
   }
   return userInfo.release();
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 std::string MatchRule(ZTKTextRef name) {

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "platform/linux/bus_connection.h"
@@ -23,9 +24,11 @@ struct Request {
   std::unique_ptr<Registration> registration;
 };
 
-gboolean RunRequest(gpointer data) {
+gboolean RunRequest(gpointer data) try {
   auto *request = static_cast<Request *>(data);
   Register(request->context, std::move(request->registration));
+  return G_SOURCE_REMOVE;
+} catch (const std::bad_alloc &) {
   return G_SOURCE_REMOVE;
 }
 
@@ -33,7 +36,7 @@ void DeleteRequest(gpointer data) { delete static_cast<Request *>(data); }
 
 }  // namespace
 
-UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
+UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) try {
   auto userInfo = std::make_unique<UserInfo>();
   userInfo->numbers.reserve(count);
   for (std::size_t i = 0; i < count; ++i) {
@@ -41,6 +44,8 @@ UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
         {.key = entries[i].key, .value = entries[i].value});
   }
   return userInfo.release();
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 void Release(UserInfo *userInfo) {
@@ -58,6 +63,9 @@ std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
 // The record is written into the message during the call, so the caller's hold
 // is enough.
 PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
+  if (name == nullptr) {
+    return {.handover = Handover::Failed, .systemCode = ENOMEM};
+  }
   const std::uint64_t deadline = PatienceEnds();
   // A connection of its own works after fork() and in any thread, and does not
   // take messages from the observers'.
@@ -78,8 +86,9 @@ PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
           .systemCode = error};
 }
 
-void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
-  if (GLib() == nullptr) return;
+void AddObserver(void *observer, const Method &method, ZTKTextRef name) try {
+  // There is no name where memory is short.
+  if (name == nullptr || GLib() == nullptr) return;
   GMainContext *context = g_main_context_get_thread_default();
   if (context == nullptr) context = g_main_context_default();
   auto *request = new Request{
@@ -90,6 +99,8 @@ void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
   // thread registers, because the connection is its own.
   g_main_context_invoke_full(context, G_PRIORITY_DEFAULT, RunRequest, request,
                              DeleteRequest);
+} catch (const std::bad_alloc &) {
+  // Nothing is delivered then, as without a bus.
 }
 
 }  // namespace ztk::platform::notification_center

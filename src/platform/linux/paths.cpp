@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -47,7 +48,7 @@ std::string HomeFromPasswordDatabase() {
 
 }  // namespace
 
-ZTKTextRef UserLibrary() {
+ZTKTextRef UserLibrary() try {
   std::string home = AbsoluteFromEnvironment("HOME");
   if (home.empty()) home = HomeFromPasswordDatabase();
   std::string config = AbsoluteFromEnvironment("XDG_CONFIG_HOME");
@@ -61,6 +62,8 @@ ZTKTextRef UserLibrary() {
                       IsFolder(home + "/Library/Preferences");
   const std::string chosen = shared ? home + "/Library" : library;
   return text::Format("%@", chosen.c_str());
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 }  // namespace ztk::platform::paths

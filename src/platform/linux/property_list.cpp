@@ -8,6 +8,7 @@
 #include <plist/plist.h>
 
 #include <cerrno>
+#include <new>
 #include <string>
 
 #include "platform/common/file_change.h"
@@ -55,14 +56,20 @@ plist_t MakeInteger(std::int32_t value) {
 
 }  // namespace
 
-ReadResult Read(ZTKTextRef path, Dictionary **dictionary) {
+ReadResult Read(ZTKTextRef path, Dictionary **dictionary) try {
   *dictionary = nullptr;
   if (path == nullptr) return {};
   const FileContent content = ReadContent(path);
   if (content.result.state == ReadState::Read) {
-    *dictionary = new Dictionary{.root = content.root};
+    *dictionary = new (std::nothrow) Dictionary{.root = content.root};
+    if (*dictionary == nullptr) {
+      plist_free(content.root);
+      return {.state = ReadState::Unavailable, .error = ENOMEM};
+    }
   }
   return content.result;
+} catch (const std::bad_alloc &) {
+  return {.state = ReadState::Unavailable, .error = ENOMEM};
 }
 
 Dictionary *ReadFile(ZTKTextRef path) {
@@ -71,17 +78,21 @@ Dictionary *ReadFile(ZTKTextRef path) {
   return dictionary;
 }
 
-Change *BeginChange(ZTKTextRef path) {
+Change *BeginChange(ZTKTextRef path) try {
   return path == nullptr ? nullptr : new Change{.change = FileChange(path)};
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
 void EndChange(Change *change) { delete change; }
 
-Dictionary *MakeDictionary() {
+Dictionary *MakeDictionary() try {
   return new Dictionary{.root = plist_new_dict()};
+} catch (const std::bad_alloc &) {
+  return nullptr;
 }
 
-ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
+ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) try {
   if (dictionary == nullptr || path == nullptr) return {};
   const FileContent content = ReadContent(path);
   if (content.root != nullptr) {
@@ -94,14 +105,20 @@ ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
   dictionary->added = content.result;
   dictionary->addedIncomplete = content.incomplete;
   return content.result;
+} catch (const std::bad_alloc &) {
+  dictionary->lacksMemory = true;
+  return {.state = ReadState::Unavailable, .error = ENOMEM};
 }
 
-void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value) {
+void SetInteger(Dictionary *dictionary, ZTKTextRef key,
+                std::int32_t value) try {
   if (dictionary == nullptr || key == nullptr) return;
   errno = 0;
   plist_dict_set_item(dictionary->root, CleanText(key).c_str(),
                       MakeInteger(value));
   dictionary->lacksMemory = dictionary->lacksMemory || errno == ENOMEM;
+} catch (const std::bad_alloc &) {
+  dictionary->lacksMemory = true;
 }
 
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
@@ -141,31 +158,34 @@ ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key) {
 }
 
 bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
-                     int *error) {
+                     int *error) try {
   int ignored = 0;
-  if (error == nullptr) error = &ignored;
-  *error = EINVAL;
+  int *reason = error != nullptr ? error : &ignored;
+  *reason = EINVAL;
   if (dictionary == nullptr || path == nullptr) return false;
   const bool sameFile = dictionary->addedFrom == path;
   if (sameFile && dictionary->added.state == ReadState::Unavailable) {
-    *error = dictionary->added.error;
+    *reason = dictionary->added.error;
     return false;
   }
   const std::string xml = MakeXml(dictionary->root);
   if (xml.empty() || dictionary->lacksMemory) {
-    *error = ENOMEM;
+    *reason = ENOMEM;
     return false;
   }
   // A file that could not be read again would lose everything at the next
   // write. A binary one can grow past the limit by becoming XML.
   if (!IsSafeXml(xml)) {
-    *error = EFBIG;
+    *reason = EFBIG;
     return false;
   }
   const bool keepOld =
       sameFile && (dictionary->added.state == ReadState::Damaged ||
                    dictionary->addedIncomplete);
-  return ReplaceFile(path, xml, keepOld, error);
+  return ReplaceFile(path, xml, keepOld, reason);
+} catch (const std::bad_alloc &) {
+  if (error != nullptr) *error = ENOMEM;
+  return false;
 }
 
 void Release(Dictionary *dictionary) {

@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <memory>
 #include <new>
 #include <vector>
 
@@ -113,7 +114,9 @@ Code GetMasterPort(Port *port) {
 
 void ReleaseMasterPort(Port /*port*/) {}
 
-Matching *CreateMatching(const char * /*className*/) { return new Matching; }
+Matching *CreateMatching(const char * /*className*/) {
+  return new (std::nothrow) Matching;
+}
 
 // The core leaves its numbers behind, so they must cost nothing here: the
 // number travels in the pointer itself.
@@ -128,20 +131,23 @@ void SetMatchingValue(Matching *matching, const char *key, Number *number) {
   if (std::strcmp(key, "idProduct") == 0) matching->wanted.product = value;
 }
 
-Code FindServices(Port /*port*/, Matching *matching, Iterator *iterator) {
+Code FindServices(Port /*port*/, Matching *matching, Iterator *iterator) try {
   const WantedDevice wanted = matching->wanted;
   delete matching;
   *iterator = nullptr;
 
   std::vector<DeviceFacts> found;
   if (!ReadBus(wanted, &found)) return kSuccess;
-  auto *snapshot = new IteratorObject;
+  auto snapshot = std::make_unique<IteratorObject>();
   snapshot->devices.reserve(found.size());
   for (const DeviceFacts &facts : found) {
     snapshot->devices.push_back({.facts = facts});
   }
-  *iterator = snapshot;
+  *iterator = snapshot.release();
   return kSuccess;
+} catch (const std::bad_alloc &) {
+  *iterator = nullptr;
+  return kError;
 }
 
 Service NextService(Iterator iterator) {

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+//
+// Each allocation of a call fails once, one after the other. No std::bad_alloc
+// may leave the library, and a setter returns what it returns otherwise. It
+// runs in the sandbox, with the core and the port linked in: the allocations of
+// the shared library cannot be replaced.
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+
+#include "ZTKOutcome.h"
+
+namespace {
+
+// The allocation that fails, counted from 1; 0 for none.
+long failing = 0;
+long counted = 0;
+
+void *Allocate(std::size_t size) {
+  if (failing != 0 && ++counted == failing) return nullptr;
+  return std::malloc(size == 0 ? 1 : size);
+}
+
+void OnChannel(std::int32_t, std::int32_t, void *) {}
+
+std::uint32_t number = 0;
+ZTKTextRef text = nullptr;
+
+struct Call {
+  const char *name;
+  ZTKResult (*call)();
+  ZTKResult expected;
+  ZTKResult expectedToo;  // what a missing text or file makes of it
+};
+
+const Call kCalls[] = {
+    {"GetProductId",
+     [] { return ZTK_GetProductId("Tarvix Audio Systems vrm-d6", &number); },
+     100, 102},
+    {"IsUSBConnection", [] { return ZTK_IsUSBConnection(10); }, 103, 104},
+    {"SetUSBInputAudio", [] { return ZTK_SetUSBInputAudio(10, 0, 2); }, 100,
+     101},
+    {"SetUSBOutputAudio", [] { return ZTK_SetUSBOutputAudio(8, 0, 2); }, 100,
+     100},
+    {"SetBoostLevelIndex", [] { return ZTK_SetBoostLevelIndex(10, 1); }, 100,
+     100},
+    {"SetMidiChannelIndex", [] { return ZTK_SetMidiChannelIndex(1, 2); }, 100,
+     100},
+    {"GetCurrentBoostLevelIndex",
+     [] { return ZTK_GetCurrentBoostLevelIndex(10, &number); }, 100, 100},
+    {"SetCurrentBoostLevelIndex",
+     [] { return ZTK_SetCurrentBoostLevelIndex(10); }, 100, 100},
+    {"GetMixerCertifyLevel",
+     [] { return ZTK_GetMixerCertifyLevel(10, &number); }, 100, 100},
+    {"GetLibraryVersionText",
+     [] { return ZTK_GetLibraryVersionText(10, &text); }, 100, 102},
+    {"GetWarningText",
+     [] {
+       return ZTK_GetWarningTextForSetUSBAudioInput(10, 0, 101, 99, &text);
+     },
+     100, 100},
+    {"RegisterInputAudioChangedCallback",
+     [] {
+       return ZTK_RegisterInputAudioChangedCallback(10, OnChannel, nullptr);
+     },
+     100, 100}};
+
+// Fails each allocation of a call; how many there are. -1 for a wrong result.
+long FailEach(const Call &call) {
+  for (long which = 1;; ++which) {
+    counted = 0;
+    failing = which;
+    const ZTKResult result = call.call();
+    failing = 0;
+    if (counted < which) return which - 1;
+    if (result != call.expected && result != call.expectedToo) {
+      std::printf("%s: %u when allocation %ld failed\n", call.name,
+                  static_cast<unsigned>(result), which);
+      return -1;
+    }
+  }
+}
+
+}  // namespace
+
+// The compiler must not know that these do not return null.
+void *operator new(std::size_t size) {
+  void *memory = Allocate(size);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
+  return Allocate(size);
+}
+void operator delete(void *memory) noexcept { std::free(memory); }
+void operator delete(void *memory, std::size_t) noexcept { std::free(memory); }
+
+int main() {
+  int failures = 0;
+  for (const Call &call : kCalls) {
+    // What is loaded or made once is there before the first count.
+    call.call();
+    const long allocations = FailEach(call);
+    if (allocations < 0) ++failures;
+    std::printf("%s: %ld allocations\n", call.name, allocations);
+  }
+  return failures == 0 ? 0 : 1;
+}
