@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -61,9 +63,10 @@ const char *PrepareSettings() {
   return nullptr;
 }
 
-void ReadSettings() {
+namespace {
+
+void ReadFile() {
   struct stat status;
-  stat(makersFolder, &status);
   const int settings = open(file, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
   if (settings < 0) return;
   char bytes[4096];
@@ -73,11 +76,42 @@ void ReadSettings() {
   close(settings);
 }
 
+}  // namespace
+
+void ReadSettings() {
+  struct stat status;
+  stat(makersFolder, &status);
+  ReadFile();
+}
+
+namespace {
+
+// Reads the whole folder, as looking for leftovers does.
+void ReadFolder(int descriptor) {
+  alignas(8) char entries[32768];
+  while (syscall(SYS_getdents64, descriptor, entries, sizeof entries) > 0) {
+  }
+}
+
+// Writes the content into a file without a name and gives it the name `fresh`.
+void MakeFresh(const char *fresh) {
+  struct stat status;
+  lstat(file, &status);
+  const int made = open(folder, O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+  Ignore(write(made, content, sizeof content - 1));
+  Ignore(fchown(made, status.st_uid, status.st_gid));
+  fchmod(made, status.st_mode & 0777);
+  fsync(made);
+  char from[32];
+  std::snprintf(from, sizeof from, "/proc/self/fd/%d", made);
+  Ignore(linkat(AT_FDCWD, from, AT_FDCWD, fresh, AT_SYMLINK_FOLLOW));
+  close(made);
+}
+
 // The signal is held back around the write because the library, which must not
 // end its program, does so.
-void StoreIndex(std::uint32_t channel, std::uint32_t index) {
-  ReadSettings();
-
+void ReplaceSettings() {
+  geteuid();
   sigset_t pending;
   sigset_t signal;
   sigset_t before;
@@ -92,20 +126,38 @@ void StoreIndex(std::uint32_t channel, std::uint32_t index) {
   Ignore(readlink(file, target, sizeof target));
   char fresh[sizeof file + 8];
   std::memcpy(fresh, file, fileLength);
-  std::memcpy(fresh + fileLength, ".XXXXXX", sizeof ".XXXXXX");
-  const int made = mkostemp(fresh, O_CLOEXEC);
-  stat(file, &status);
-  content[kChannelAt] = static_cast<char>('0' + channel);
-  content[kIndexAt] = static_cast<char>('0' + index);
-  Ignore(write(made, content, sizeof content - 1));
-  Ignore(fchown(made, status.st_uid, status.st_gid));
-  fchmod(made, status.st_mode & 0777);
-  fsync(made);
+  std::memcpy(fresh + fileLength, ".floor1", sizeof ".floor1");
+  MakeFresh(fresh);
   rename(fresh, file);
-  close(made);
+  const int listing =
+      open(folder, O_RDONLY | O_NONBLOCK | O_DIRECTORY | O_CLOEXEC);
+  fstat(listing, &status);
+  fsync(listing);
+  ReadFolder(listing);
+  close(listing);
 
   sigpending(&pending);
   pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
+}  // namespace
+
+void StoreIndex(std::uint32_t channel, std::uint32_t index) {
+  content[kChannelAt] = static_cast<char>('0' + channel);
+  content[kIndexAt] = static_cast<char>('0' + index);
+
+  struct stat status;
+  stat(makersFolder, &status);
+  geteuid();
+  stat(folder, &status);
+  char target[8];
+  Ignore(readlink(file, target, sizeof target));
+  const int locked = open(folder, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  flock(locked, LOCK_EX | LOCK_NB);
+  ReadFile();
+  ReplaceSettings();
+  flock(locked, LOCK_UN);
+  close(locked);
 }
 
 }  // namespace ztk::bench::floor

@@ -17,8 +17,9 @@ Bundle *AtPath(ZTKTextRef path);
 // caller gives it back with text::Release(). Null for a null bundle.
 ZTKTextRef ResourcePath(const Bundle *bundle);
 
-// The text of a key in a string table, in the language that the user prefers.
-// An unknown key answers the key itself, a null bundle null. Not owned by the
+// The text of a key in a string table, in the language that the user prefers of
+// those that have the table. A key that this table lacks, or a missing table,
+// answers the key itself; a null bundle answers null. Not owned by the
 // caller: see ZTKTextRef in the public header for how long it lives.
 ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
                          ZTKTextRef table);

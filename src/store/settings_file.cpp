@@ -4,6 +4,7 @@
 #include "platform/paths.h"
 #include "platform/property_list.h"
 #include "platform/text.h"
+#include "store/file_outcome.h"
 
 namespace ztk::store {
 namespace {
@@ -29,9 +30,12 @@ ZTKTextRef MakePath(ZTKTextRef model) {
 
 std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback) {
   const Made path(MakePath(model));
-  if (path.get() == nullptr) return fallback;
-
-  plist::Dictionary *settings = plist::ReadFile(path.get());
+  if (path.get() == nullptr) {
+    RecordReadingWithoutHome();
+    return fallback;
+  }
+  plist::Dictionary *settings = nullptr;
+  RecordReading(plist::Read(path.get(), &settings));
   if (settings == nullptr) return fallback;
   std::int32_t value = fallback;
   plist::IntegerValue(settings, key, &value);
@@ -47,16 +51,21 @@ std::int32_t ReadChannel(ZTKTextRef model, ZTKTextRef keyFormat,
 
 void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value) {
   const Made path(MakePath(model));
-  if (path.get() == nullptr) return;
-
+  if (path.get() == nullptr) {
+    RecordStoringWithoutHome();
+    return;
+  }
   plist::Change *change = plist::BeginChange(path.get());
   plist::Dictionary *settings = plist::MakeDictionary();
   const plist::ReadResult read = plist::AddEntriesOfFile(settings, path.get());
   // A file that cannot be read now may hold settings: writing would lose them.
+  int error = 0;
+  bool written = false;
   if (read.state != plist::ReadState::Unavailable) {
     plist::SetInteger(settings, key, static_cast<std::int32_t>(value));
-    plist::WriteAtomically(settings, path.get());
+    written = plist::WriteAtomically(settings, path.get(), &error);
   }
+  RecordStoring(read, written, error);
   plist::Release(settings);
   plist::EndChange(change);
 }

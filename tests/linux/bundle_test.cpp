@@ -115,6 +115,7 @@ TEST(FolderNames, GoFromTheExactToTheGeneral) {
       {"zh_SG", {"zh_SG", "zh_CN", "zh"}},
       {"zh", {"zh", "zh_CN"}},
       {"zh_Hant", {"zh_Hant", "zh_TW", "zh"}},
+      {"zh_Hans_TW", {"zh_Hans_TW", "zh_CN", "zh"}},
       {"zh-Hant-HK", {"zh_Hant_HK", "zh_TW", "zh"}},
       {"zh-Hans-HK", {"zh_Hans_HK", "zh_CN", "zh"}},
       {"", {}},
@@ -215,9 +216,13 @@ TEST_F(LocalizedText, FollowsThePreferredLanguage) {
   }
 }
 
-TEST_F(LocalizedText, GoesOnWhereALanguageLacksTheKey) {
+TEST_F(LocalizedText, AnswersTheKeyWhereThePreferredLanguageLacksIt) {
   const Variable lang("LANG", "de_DE.UTF-8");
-  EXPECT_EQ(Text("WARNING2"), "English two");
+  EXPECT_EQ(Text("WARNING2"), "WARNING2");
+}
+
+TEST_F(LocalizedText, TakesTheFirstLanguageThatHasTheTable) {
+  const Variable lang("LANG", "de_DE.UTF-8");
   const Variable language("LANGUAGE", "sv:ru:de");
   EXPECT_EQ(Text("WARNING1"), "\xD0\xB4\xD0\xB0");
 }

@@ -29,6 +29,7 @@ add_executable(library_tests
   ../support/library_world.cpp
   ../support/library_world_sandbox.cpp
   library_main.cpp
+  library_devices_test.cpp
   library_files_test.cpp
   library_outcome_test.cpp
   library_process_test.cpp

@@ -83,6 +83,10 @@ TEST_F(IntegerValue, ConvertsEveryKindOfEntry) {
       {"wide", Xml("<key>a</key><integer>4294967303</integer>"), "7"},
       {"unsigned", Xml("<key>a</key><integer>18446744073709551615</integer>"),
        "-1"},
+      {"leading zero", Xml("<key>a</key><integer>010</integer>"), "10"},
+      {"zeros and sign", Xml("<key>a</key><integer> -0099</integer>"), "-99"},
+      {"zeros only", Xml("<key>a</key><integer>000</integer>"), "0"},
+      {"hexadecimal", Xml("<key>a</key><integer>0x10</integer>"), "16"},
       {"real", Xml("<key>a</key><real>-2.75</real>"), "-2"},
       {"huge real", Xml("<key>a</key><real>1e40</real>"), "2147483647"},
       {"nan", Xml("<key>a</key><real>nan</real>"), "0"},
@@ -161,6 +165,16 @@ TEST_F(TextValue, IsOnlyThatOfATextEntry) {
   }
 }
 
+TEST_F(TextValue, KeepsTwoTextsApart) {
+  Put(path_, Xml("<key>a</key><string>one</string>"
+                 "<key>b</key><string>two</string>"));
+  const Dictionary dictionary = Read();
+  const ZTKTextRef one = plist::TextValue(dictionary.get(), "a");
+  const ZTKTextRef two = plist::TextValue(dictionary.get(), "b");
+  EXPECT_STREQ(one, "one");
+  EXPECT_STREQ(two, "two");
+}
+
 TEST_F(TextValue, OutlivesTheDictionaryAndDoesNotGrow) {
   Put(path_, Xml("<key>a</key><string>10.13.6</string>"));
   const ZTKTextRef text = plist::TextValue(Read().get(), "a");
@@ -232,6 +246,64 @@ TEST_F(Rewriting, KeepsEntriesOfEveryKind) {
       "\t<key></key>\n\t<string></string>\n";
   const std::string added = "\t<key>new</key>\n\t<integer>1</integer>\n";
   EXPECT_EQ(Rewritten(Xml(entries)), Xml(entries + added));
+}
+
+TEST_F(Rewriting, WritesAnIntegerWithALeadingZeroAsADecimalOne) {
+  const std::string text =
+      "\t<key>text</key>\n\t<string>&lt;integer&gt;010</string>\n";
+  EXPECT_EQ(Rewritten(Xml("<key>a</key><integer>010</integer><key>text</key>"
+                          "<string><![CDATA[<integer>010]]></string>")),
+            Xml("\t<key>a</key>\n\t<integer>10</integer>\n" + text +
+                "\t<key>new</key>\n\t<integer>1</integer>\n"));
+}
+
+// The letter a with two dots, in every encoding that is read.
+TEST_F(Rewriting, ConvertsOtherEncodingsToUtf8) {
+  const auto declared = [](const std::string &encoding) {
+    return "<?xml version='1.0' encoding='" + encoding +
+           "'?><plist><dict><key>a</key><string>\xE4</string></dict></plist>";
+  };
+  const auto utf16 = [](bool bigEndian) {
+    std::string text;
+    for (const char c : std::string("<plist><dict><key>a</key><string>\xE4"
+                                    "</string></dict></plist>")) {
+      text += bigEndian ? std::string("\0", 1) + c : c + std::string("\0", 1);
+    }
+    return text;
+  };
+  const struct {
+    const char *name;
+    std::string content;
+  } rows[] = {
+      {"Latin-1", declared("ISO-8859-1")},
+      {"lower case", declared("iso-8859-1")},
+      {"Latin-9", declared("ISO-8859-15")},
+      {"Windows", declared("windows-1252")},
+      {"UTF-16, mark, little", "\xFF\xFE" + utf16(false)},
+      {"UTF-16, mark, big", "\xFE\xFF" + utf16(true)},
+      {"UTF-16, little", utf16(false)},
+      {"UTF-16, big", utf16(true)},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(Rewritten(row.content),
+              Xml("\t<key>a</key>\n\t<string>\xC3\xA4</string>\n"
+                  "\t<key>new</key>\n\t<integer>1</integer>\n"));
+  }
+  EXPECT_EQ(ztk::test::NamesIn(folder_.path()).size(), 1U);
+}
+
+TEST_F(Rewriting, KeepsAFileBesideWhoseCharactersItCannotTake) {
+  const std::string rows[] = {
+      "<?xml version=\"1.0\" encoding=\"KOI8-R\"?><plist><dict/></plist>",
+      Xml("<key>a</key><string>\xE4 without a declaration</string>"),
+      "\xFF\xFE<\0odd"};
+  int number = 0;
+  for (const std::string &content : rows) {
+    Rewritten(content);
+    EXPECT_EQ(ContentOf(path_ + ".unreadable-" + std::to_string(++number)),
+              content);
+  }
 }
 
 TEST_F(Rewriting, TurnsABinaryFileIntoXml) {

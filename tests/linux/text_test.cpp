@@ -55,6 +55,22 @@ TEST(Format, OfATextThatIsMissingIsNone) {
   EXPECT_EQ(Take(Format("%@", nullptr)), "(null)");
 }
 
+// They may be called from any thread, so each answer is memory of its own.
+TEST(MadeTexts, DoNotOverwriteOneAnother) {
+  const Made upper(UpperCase("one"));
+  const Made upperToo(UpperCase("two"));
+  const Made format(Format("%@ %@", "one", "x"));
+  const Made formatToo(Format("%d", 2));
+  const Made part(DotComponent("1.2", 0));
+  const Made partToo(DotComponent("1.2", 1));
+  EXPECT_STREQ(upper.get(), "ONE");
+  EXPECT_STREQ(upperToo.get(), "TWO");
+  EXPECT_STREQ(format.get(), "one x");
+  EXPECT_STREQ(formatToo.get(), "2");
+  EXPECT_STREQ(part.get(), "1");
+  EXPECT_STREQ(partToo.get(), "2");
+}
+
 TEST(DotComponent, CountsFromZero) {
   const struct {
     ZTKTextRef text;

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <iterator>
+
+#include "platform/linux/usb_requests.h"
 
 namespace ztk::platform::usb {
 namespace {
@@ -41,7 +44,7 @@ TEST(NodeOf, NamesBusAndNumberInThreeDigitsAtLeast) {
   for (const auto &row : rows) {
     const DeviceFacts facts{
         .entry = {}, .place = PlaceOf(row.entry), .identity = {}};
-    EXPECT_STREQ(NodeOf(facts, row.number).text, row.expected) << row.entry;
+    EXPECT_EQ(NodeOf(facts, row.number), row.expected) << row.entry;
   }
 }
 
@@ -60,6 +63,21 @@ TEST(ParseDeviceDescriptor, ReadsIdentityAndRefusesOtherDescriptors) {
   bytes[1] = 1;
   bytes[0] = 9;
   EXPECT_FALSE(ParseDeviceDescriptor(bytes, ByteOrder::Bus, &identity));
+}
+
+TEST(Request, HasOneSecond) { EXPECT_EQ(kRequestTimeoutMs, 1000U); }
+
+TEST(CodeOfErrno, GivesEachErrorItsCode) {
+  const struct {
+    int error;
+    Code expected;
+  } rows[] = {{EPIPE, 0xE000404F},     {ENODEV, 0xE00002C0},
+              {ESHUTDOWN, 0xE00002C0}, {EACCES, 0xE00002E2},
+              {EPERM, 0xE00002E2},     {ETIMEDOUT, 0xE00002D6},
+              {EBUSY, 0xE00002D5},     {EIO, 0xE00002BC}};
+  for (const auto &row : rows) {
+    EXPECT_EQ(CodeOfErrno(row.error), row.expected) << row.error;
+  }
 }
 
 }  // namespace

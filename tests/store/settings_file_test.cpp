@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/settings_file.h"
 
+#include "ZTKOutcome.h"
+#include "outcome/outcome.h"
 #include "support/core_test.h"
 
 namespace ztk::test {
@@ -178,6 +180,79 @@ TEST_F(Write, TouchesTheFileOfItsModelOnly) {
   store::Write(kB5, "Input0", 1);
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
   EXPECT_EQ(TheWorld().files.at(kB5File), (Entries{{"Input0", 1}}));
+}
+
+// What the record of the call says about the file.
+class FileOutcome : public CoreTest {
+ protected:
+  void SetUp() override {
+    CoreTest::SetUp();
+    outcome::Begin();
+  }
+  static ZTKOutcome Record() {
+    ZTKOutcome record = {};
+    record.size = sizeof record;
+    ZTK_GetLastOutcome(&record);
+    return record;
+  }
+};
+
+TEST_F(FileOutcome, TellsHowReadingEnded) {
+  const struct {
+    ReadState state;
+    int error;
+    std::uint32_t expected;
+  } rows[] = {{ReadState::Absent, 0, ZTK_FILE_ABSENT},
+              {ReadState::Damaged, 0, ZTK_FILE_DAMAGED},
+              {ReadState::Unavailable, EMFILE, ZTK_FILE_CANNOT_BE_READ_NOW},
+              {ReadState::Unavailable, EACCES, ZTK_FILE_NOT_PERMITTED},
+              {ReadState::Unavailable, EINVAL, ZTK_FILE_NOT_REGULAR}};
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.expected);
+    TheWorld().readFailures[kD6File] = {.state = row.state, .error = row.error};
+    store::Read(kD6, "MaxLevel", 3);
+    EXPECT_EQ(Record().read.result, row.expected);
+    EXPECT_EQ(Record().read.systemCode, row.error);
+  }
+  TheWorld().readFailures.clear();
+  TheWorld().files[kD6File] = {};
+  store::Read(kD6, "MaxLevel", 3);
+  EXPECT_EQ(Record().read.result, ZTK_FILE_OK);
+  EXPECT_EQ(Record().store.result, ZTK_FILE_NONE);
+  TheWorld().hasLibrary = false;
+  store::Read(kD6, "MaxLevel", 3);
+  EXPECT_EQ(Record().read.result, ZTK_FILE_NO_HOME);
+}
+
+TEST_F(FileOutcome, TellsWhyNothingIsStored) {
+  const struct {
+    int error;
+    std::uint32_t expected;
+  } rows[] = {{ENOENT, ZTK_FILE_NO_FOLDER},   {EACCES, ZTK_FILE_NOT_PERMITTED},
+              {EROFS, ZTK_FILE_READ_ONLY},    {ENOSPC, ZTK_FILE_FULL},
+              {EISDIR, ZTK_FILE_NOT_REGULAR}, {EIO, ZTK_FILE_FAILED}};
+  TheWorld().canWrite = false;
+  for (const auto &row : rows) {
+    TheWorld().writeError = row.error;
+    store::Write(kD6, "MaxLevel", 2);
+    EXPECT_EQ(Record().store.result, row.expected) << row.error;
+    EXPECT_EQ(Record().store.systemCode, row.error);
+  }
+  TheWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
+                                      .error = EMFILE};
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_EQ(Record().store.result, ZTK_FILE_CANNOT_BE_READ_NOW);
+  EXPECT_EQ(Record().store.systemCode, EMFILE);
+  TheWorld().hasLibrary = false;
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_EQ(Record().store.result, ZTK_FILE_NO_HOME);
+}
+
+TEST_F(FileOutcome, TellsThatADamagedFileWasReplaced) {
+  TheWorld().readFailures[kD6File] = {.state = ReadState::Damaged, .error = 0};
+  store::Write(kD6, "MaxLevel", 2);
+  EXPECT_EQ(Record().read.result, ZTK_FILE_DAMAGED);
+  EXPECT_EQ(Record().store.result, ZTK_FILE_OK);
 }
 
 class WriteChannel : public CoreTest {};

@@ -126,21 +126,19 @@ int WriteNewFile(const std::string &file, std::string_view content,
   return error;
 }
 
-void RemoveLeftovers(int folder, const std::string &file) {
-  const std::string base = file.substr(FolderOf(file).size());
-  // The listing owns its descriptor and closes it.
-  const int own = fcntl(folder, F_DUPFD_CLOEXEC, 0);
-  DIR *listing = own < 0 ? nullptr : fdopendir(own);
-  if (listing == nullptr) {
-    if (own >= 0) close(own);
-    return;
-  }
+void SyncAndCleanFolderOf(const std::string &file) {
+  const std::string folder = FolderOf(file);
+  const std::string base = file.substr(folder.size());
+  DIR *listing = opendir(folder.empty() ? "." : folder.c_str());
+  if (listing == nullptr) return;
+  fsync(dirfd(listing));
   while (const dirent *entry = readdir(listing)) {
     struct stat status = {};
     if (IsNewFileName(entry->d_name, base) &&
-        fstatat(folder, entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+        fstatat(dirfd(listing), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) ==
+            0 &&
         S_ISREG(status.st_mode) && IsOlderThanADay(status)) {
-      unlinkat(folder, entry->d_name, 0);
+      unlinkat(dirfd(listing), entry->d_name, 0);
     }
   }
   closedir(listing);

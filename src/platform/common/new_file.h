@@ -24,9 +24,10 @@ struct NewFileModel {
 int WriteNewFile(const std::string &file, std::string_view content,
                  const NewFileModel &model, std::string *name);
 
-// Removes new files beside `file` that never took its place because the program
-// was killed, once they are older than a day. `folder` is the folder of `file`.
-void RemoveLeftovers(int folder, const std::string &file);
+// Puts the names in the folder of `file` on the disk, then removes new files
+// beside `file` that never took its place because the program was killed, once
+// they are older than a day.
+void SyncAndCleanFolderOf(const std::string &file);
 
 }  // namespace ztk::platform
 

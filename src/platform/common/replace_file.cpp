@@ -129,11 +129,7 @@ int Replace(const std::string &path, std::string_view content, bool keepOld) {
     return error;
   }
   // The file is in its place: what fails from here on changes nothing.
-  const Descriptor folder = OpenFolderOf(*file);
-  if (folder.valid()) {
-    fsync(folder.get());
-    RemoveLeftovers(folder.get(), *file);
-  }
+  SyncAndCleanFolderOf(*file);
   return 0;
 }
 

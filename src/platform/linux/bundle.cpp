@@ -37,14 +37,6 @@ std::string ResourceFolder(const Bundle &bundle) {
   return bundle.path;
 }
 
-// The text that a language's table holds, or null.
-ZTKTextRef TextOfTable(const std::string &path, ZTKTextRef key) {
-  property_list::Dictionary *texts = property_list::ReadFile(path.c_str());
-  const ZTKTextRef text = property_list::TextValue(texts, key);
-  property_list::Release(texts);
-  return text;
-}
-
 }  // namespace
 
 std::string FindBundle(std::string_view path, std::string_view dataFolder) {
@@ -86,8 +78,13 @@ ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
       std::string path = resources;
       path.append("/").append(name).append(".lproj/");
       path.append(file).append(".strings");
-      const ZTKTextRef text = TextOfTable(path, key);
-      if (text != nullptr) return text;
+      property_list::Dictionary *texts = property_list::ReadFile(path.c_str());
+      if (texts == nullptr) continue;
+      const ZTKTextRef text = property_list::TextValue(texts, key);
+      property_list::Release(texts);
+      // The first language that has the table decides: without the key it
+      // answers the key, and no other language is asked.
+      return text != nullptr ? text : common::Intern(key);
     }
   }
   return common::Intern(key);

@@ -19,6 +19,7 @@
 #include <new>
 #include <vector>
 
+#include "platform/linux/usb_requests.h"
 #include "platform/linux/usb_snapshot.h"
 
 namespace ztk::platform::usb {
@@ -46,34 +47,12 @@ struct IteratorObject {
 
 namespace {
 
-// A hung mixer must not hang its caller for ever.
-constexpr unsigned kTimeoutMs = 5000;
-
 PortObject theBus;
 
 Device *DeviceOf(Service service) {
   return reinterpret_cast<Device *>(service);
 }
 Device *DeviceOf(PlugIn *plugIn) { return reinterpret_cast<Device *>(plugIn); }
-
-Code CodeOfErrno(int error) {
-  switch (error) {
-    case EPIPE:
-      return kPipeStalled;
-    case ENODEV:
-    case ESHUTDOWN:
-      return kNoDevice;
-    case EACCES:
-    case EPERM:
-      return kNotPermitted;
-    case ETIMEDOUT:
-      return kTimeout;
-    case EBUSY:
-      return kBusy;
-    default:
-      return kError;
-  }
-}
 
 Result ResultOfOpening(int error) {
   const bool isGone = error == ENOENT || error == ENXIO;
@@ -87,7 +66,7 @@ int OpenNode(const DeviceFacts &facts, Result *result) {
   *result = ResultOfOpening(ENODEV);
   const int number = ReadDeviceNumber(facts);
   if (number <= 0) return -1;
-  const int node = open(NodeOf(facts, number).text, O_RDWR | O_CLOEXEC);
+  const int node = open(NodeOf(facts, number).c_str(), O_RDWR | O_CLOEXEC);
   if (node < 0) {
     *result = ResultOfOpening(errno);
     return -1;
@@ -213,7 +192,7 @@ Code Request(Device *device, ControlRequest *request) {
   transfer.wValue = request->value;
   transfer.wIndex = request->index;
   transfer.wLength = request->length;
-  transfer.timeout = kTimeoutMs;
+  transfer.timeout = kRequestTimeoutMs;
   transfer.data = request->data;
 
   const int done = ioctl(device->node, USBDEVFS_CONTROL, &transfer);

@@ -7,9 +7,12 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <charconv>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string_view>
+
+#include "platform/common/descriptor.h"
 
 namespace ztk::platform::usb {
 namespace {
@@ -19,53 +22,25 @@ constexpr std::uint8_t kDeviceDescriptorType = 1;
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
-// The path of an entry's attributes, changed in place from entry to entry: no
-// snprintf(), as this runs for every device on the bus, three times a setter.
-class AttributePath {
- public:
-  AttributePath() {
-    std::memcpy(text_, kDevices, sizeof kDevices);
-    text_[kPrefix - 1] = '/';
-  }
+// Entries of devices are "usb2" or begin with a digit; interfaces have a ':' in
+// their names.
+bool IsDevice(std::string_view entry) {
+  if (!IsDigit(entry.front()) && !entry.starts_with("usb")) return false;
+  return entry.find(':') == std::string_view::npos;
+}
 
-  // Takes a name and is true when it is that of a device: interfaces have a ':'
-  // in theirs.
-  bool SetEntry(const char *name) {
-    if (!IsDigit(name[0]) && std::strncmp(name, "usb", 3) != 0) return false;
-    length_ = 0;
-    for (; name[length_] != '\0'; ++length_) {
-      if (name[length_] == ':' || length_ == kLongestEntry) return false;
-      text_[kPrefix + length_] = name[length_];
-    }
-    return true;
-  }
-
-  const char *entry() const { return text_ + kPrefix; }
-  std::size_t length() const { return length_; }
-
-  // Reads the start of an attribute; the number of bytes, 0 on failure.
-  // Absolute paths and open(): the attributes of a device that has gone cannot
-  // be taken for another one's, because the entry's name says where it is
-  // plugged in.
-  template <std::size_t kNameSize>
-  std::size_t Read(const char (&attribute)[kNameSize], void *bytes,
-                   std::size_t size) {
-    static_assert(kNameSize <= kLongestAttribute);
-    std::memcpy(text_ + kPrefix + length_, attribute, kNameSize);
-    const int file = open(text_, O_RDONLY | O_CLOEXEC);
-    if (file < 0) return 0;
-    const ssize_t got = read(file, bytes, size);
-    close(file);
-    return got < 0 ? 0 : static_cast<std::size_t>(got);
-  }
-
- private:
-  static constexpr std::size_t kPrefix = sizeof kDevices;  // and the '/'
-  static constexpr std::size_t kLongestAttribute = 16;
-
-  char text_[kPrefix + kLongestEntry + kLongestAttribute];
-  std::size_t length_ = 0;
-};
+// Reads the start of an attribute; the number of bytes, 0 on failure. Absolute
+// paths: the attributes of a device that has gone cannot be taken for those of
+// another one, because the name of the entry says where it is plugged in.
+std::size_t ReadAttribute(std::string_view entry, std::string_view attribute,
+                          void *bytes, std::size_t size) {
+  std::string path(kDevices);
+  path.append("/").append(entry).append("/").append(attribute);
+  const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (!file.valid()) return 0;
+  const ssize_t got = read(file.get(), bytes, size);
+  return got < 0 ? 0 : static_cast<std::size_t>(got);
+}
 
 std::uint16_t Number16(const std::uint8_t *bytes, ByteOrder order) {
   std::uint16_t number = 0;
@@ -74,16 +49,10 @@ std::uint16_t Number16(const std::uint8_t *bytes, ByteOrder order) {
   return number;
 }
 
-// Three digits or more, as "%03d" has them; answers their end.
-char *WriteThreeDigits(int number, char *to) {
-  constexpr int kMostDigits = 10;
-  for (int least = 100; least > 1 && number < least; least /= 10) *to++ = '0';
-  return std::to_chars(to, to + kMostDigits, number).ptr;
-}
-
-bool ReadIdentity(AttributePath *path, DeviceIdentity *identity) {
+bool ReadIdentity(std::string_view entry, DeviceIdentity *identity) {
   std::uint8_t bytes[kDeviceDescriptorLength];
-  return path->Read("/descriptors", bytes, sizeof bytes) == sizeof bytes &&
+  return ReadAttribute(entry, "descriptors", bytes, sizeof bytes) ==
+             sizeof bytes &&
          ParseDeviceDescriptor(bytes, ByteOrder::Bus, identity);
 }
 
@@ -129,15 +98,14 @@ bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices) {
   if (directory == nullptr) return false;
   constexpr std::size_t kUsualDevices = 32;
   if (wanted.IsAny()) devices->reserve(kUsualDevices);
-  AttributePath path;
   DeviceIdentity identity;
   while (const dirent *found = readdir(directory)) {
-    if (!path.SetEntry(found->d_name)) continue;
-    if (!ReadIdentity(&path, &identity) || !wanted.Is(identity)) continue;
-    DeviceFacts &facts = devices->emplace_back();
-    std::memcpy(facts.entry, path.entry(), path.length());
-    facts.place = PlaceOf(facts.entry);
-    facts.identity = identity;
+    if (!IsDevice(found->d_name)) continue;
+    if (!ReadIdentity(found->d_name, &identity)) continue;
+    if (!wanted.Is(identity)) continue;
+    devices->push_back({.entry = found->d_name,
+                        .place = PlaceOf(found->d_name),
+                        .identity = identity});
   }
   closedir(directory);
   std::sort(devices->begin(), devices->end(),
@@ -149,18 +117,16 @@ bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices) {
 
 int ReadDeviceNumber(const DeviceFacts &facts) {
   char text[16] = {};
-  AttributePath path;
-  if (!path.SetEntry(facts.entry)) return 0;
-  if (path.Read("/devnum", text, sizeof text - 1) == 0) return 0;
+  if (ReadAttribute(facts.entry, "devnum", text, sizeof text - 1) == 0) {
+    return 0;
+  }
   return std::atoi(text);
 }
 
-NodePath NodeOf(const DeviceFacts &facts, int number) {
-  NodePath path;
-  char *end = stpcpy(path.text, "/dev/bus/usb/");
-  end = WriteThreeDigits(BusOf(facts.place), end);
-  *end++ = '/';
-  *WriteThreeDigits(number, end) = '\0';
+std::string NodeOf(const DeviceFacts &facts, int number) {
+  char path[48];
+  std::snprintf(path, sizeof path, "/dev/bus/usb/%03d/%03d", BusOf(facts.place),
+                number);
   return path;
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace ztk::platform::usb {
@@ -35,13 +36,11 @@ struct WantedDevice {
 };
 
 // Entry names are "usb2" for the root hub of bus 2, and "2-1.4" for the device
-// behind port 4 of the hub at port 1. The kernel limits them to 6 hubs.
-inline constexpr std::size_t kLongestEntry = 31;
-
+// behind port 4 of the hub at port 1.
 struct DeviceFacts {
-  char entry[kLongestEntry + 1] = {};
+  std::string entry = {};
   std::uint64_t place = 0;
-  DeviceIdentity identity;
+  DeviceIdentity identity = {};
 };
 
 // sysfs gives the descriptor as it came over the bus, low byte first; a node
@@ -53,7 +52,7 @@ bool ParseDeviceDescriptor(const std::uint8_t *bytes, ByteOrder order,
                            DeviceIdentity *identity);
 
 // Where a device is plugged in, as a number to sort by: its bus, then the ports
-// that lead to it, one byte each. A root hub comes before what it bears.
+// that lead to it, one byte each. A root hub comes before what is behind it.
 std::uint64_t PlaceOf(const char *entry);
 // The bus of a place.
 int BusOf(std::uint64_t place);
@@ -67,10 +66,7 @@ bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices);
 int ReadDeviceNumber(const DeviceFacts &facts);
 
 // The path of the node with that number, which is above 0.
-struct NodePath {
-  char text[40];
-};
-NodePath NodeOf(const DeviceFacts &facts, int number);
+std::string NodeOf(const DeviceFacts &facts, int number);
 
 }  // namespace ztk::platform::usb
 

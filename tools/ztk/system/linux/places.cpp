@@ -28,7 +28,7 @@ std::vector<DeviceFacts> Mixers() {
 std::string NodeOf(const DeviceFacts &facts) {
   const int number = platform::usb::ReadDeviceNumber(facts);
   if (number <= 0) return "";
-  return platform::usb::NodeOf(facts, number).text;
+  return platform::usb::NodeOf(facts, number);
 }
 
 Obstacle ObstacleOf(int error) {
