@@ -13,8 +13,8 @@
 using namespace ztk;
 using namespace ztk::input_audio;
 
-// Shared by a family of mixers; this one uses the entries that the choices
-// below name.
+// The texts of several models. The choices below refer to the entries that this
+// model uses.
 const ZTKTextRef InputAudioText[44] = {
     ZTK_TEXT("CH1 Timecode PHONO"),        // 0
     ZTK_TEXT("CH1 Timecode CD/LINE"),      // 1
@@ -99,8 +99,9 @@ static_assert(PositionOf(kLastChannel, kLastRowBounds.textBelow) ==
 
 namespace {
 
-// Asks the mixers in turn where the channel's input selector stands; the first
-// that stands wrong decides. `choice` is what the thresholds speak of.
+// Asks one mixer after the other for the position of the channel's input
+// selector. The first mixer with another position than the audible one decides.
+// `choice` is compared with the thresholds.
 ZTKResult WarnIfInaudible(std::int32_t mixers, std::uint32_t channel,
                           std::uint32_t choice, const Thresholds &warnsBelow) {
   if (mixers == 0) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// Where the installer puts things depends on the system's version.
+// The folder of the installed components depends on the version of the system.
 #ifndef ZTK_API_INSTALL_LOCATION_H_
 #define ZTK_API_INSTALL_LOCATION_H_
 
 namespace ztk {
 
-// True when they lie under /Library, false for /System/Library.
+// True if they are under /Library, false if they are under /System/Library.
 //
 // Deliberate: only the second number of the system version counts, and a
 // version such as 11.2 is older than 10.11. A version that cannot be read, or

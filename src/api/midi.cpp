@@ -18,7 +18,7 @@ const ZTKTextRef MidiChannelText[16] = {
     ZTK_TEXT("CH 5"),  ZTK_TEXT("CH 6"),  ZTK_TEXT("CH 7"),  ZTK_TEXT("CH 8"),
     ZTK_TEXT("CH 9"),  ZTK_TEXT("CH 10"), ZTK_TEXT("CH 11"), ZTK_TEXT("CH 12"),
     ZTK_TEXT("CH 13"), ZTK_TEXT("CH 14"), ZTK_TEXT("CH 15"), ZTK_TEXT("CH 16")};
-// Deliberate: visible, and read by nothing.
+// Deliberate: exported, but not used by the library.
 const ZTKTextRef MidiKeyModeText[2] = {ZTK_TEXT("Toggle"), ZTK_TEXT("Trigger")};
 
 static_assert(std::size(MidiChannelText) == kChoices);
@@ -69,8 +69,8 @@ ZTKResult ZTK_SetCurrentMidiChannelIndex(uint32_t productId) {
   return ZTK_SUCCESS;
 }
 
-// Deliberate: the key mode is there for programs that were built against it,
-// and serves no product.
+// Deliberate: the functions of the key mode exist for programs that were built
+// with them, and serve no product.
 
 ZTKResult ZTK_GetNumOfMidiKeyModeIndex(uint32_t /*productId*/,
                                        uint32_t * /*outCount*/) {

@@ -47,7 +47,7 @@ std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
                                DeviceValue(channel, index));
 }
 
-// Deliberate: what the mixers answer is not looked at; this family never warns.
+// Deliberate: the answers are not used; the setters of this file never warn.
 void ReadSelectors(std::int32_t mixers) {
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply unused;

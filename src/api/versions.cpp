@@ -31,7 +31,8 @@ const ZTKTextRef kOldLibraryFile = ZTK_TEXT(
     "Info.plist");
 
 const ZTKTextRef kPkgKey = ZTK_TEXT("PackageVersion");
-// Deliberate: the driver tells its short version, the other two their build.
+// Deliberate: the driver has its short version read, the other two their build
+// version.
 const ZTKTextRef kDriverKey = ZTK_TEXT("CFBundleShortVersionString");
 const ZTKTextRef kBundleKey = ZTK_TEXT("CFBundleVersion");
 

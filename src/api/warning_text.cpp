@@ -25,8 +25,8 @@ const ZTKTextRef kTablePath = ZTK_TEXT("%@/%@.lproj/Localizable.strings");
 constexpr std::uint16_t kPortInfoLength = 2;  // bytes
 constexpr std::uint8_t kOtherPort = 1;
 
-// Whether the first mixer says that its port is in the other state. One that
-// does not answer does not say so.
+// Whether the first mixer answers that its port is in the other state. False if
+// it does not answer.
 bool IsOnOtherPort() {
   usb::Reply reply;
   usb::ReadFromMixer(0, usb::kPortInfoRegister, &reply, kPortInfoLength);
@@ -59,18 +59,19 @@ ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
   if (!IsChannel(channel, kChannels)) return ZTK_REJECTED;
   if (resultCode != ZTK_WARNING) return ZTK_REJECTED;
 
-  // Deliberate: a mixer that is counted and does not open is still there.
+  // Deliberate: a mixer that is counted but cannot be opened counts as
+  // attached.
   ZTKTextRef key = kNoMixer;
   if (usb::CountMixers(productId) != 0) {
     key = IsOnOtherPort() ? kSelectorOtherPort : kSelector;
   }
-  // Deliberate: known to be none only now.
+  // Deliberate: the language is tested only after the mixer was asked.
   const bool byPreference = language == kUsersLanguage;
   if (!byPreference && language >= std::size(kLanguages)) return ZTK_REJECTED;
 
   bundle::Bundle *library =
       bundle::AtPath(IsInstalledInLibrary() ? kNewBundle : kOldBundle);
-  // Deliberate: without a mixer the language asked for does not matter.
+  // Deliberate: without a mixer the text is in the language of the user.
   *outText = byPreference || key == kNoMixer
                  ? bundle::LocalizedText(library, key, kTable)
                  : TextOfLanguage(library, language, key);

@@ -38,7 +38,7 @@ inline const AnnouncedSetting kOutputAudio{
     .observedModel = ZTK_TEXT("VRM-D6"),
     .delivery = Delivery::Immediately};
 
-// Deliberate: these two leave the moment of delivery to the center.
+// Deliberate: for these two settings the center decides when to deliver.
 inline const AnnouncedSetting kBoostLevel{
     .nameFormat = ZTK_TEXT("%@ BoostLevel Change"),
     .postedModel = ZTK_TEXT("VRM-D6"),

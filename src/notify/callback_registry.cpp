@@ -34,12 +34,13 @@ namespace {
 
 namespace center = platform::notification_center;
 
-// Deliberate: three families let go of more products than they take on.
+// Deliberate: for three settings more products can be unregistered than
+// registered.
 constexpr ProductSet kRegisteredFor{10};
 constexpr ProductSet kUnregisteredFor{0, 1, 5, 6, 8, 10};
 constexpr ProductSet kMidiFor{1};
 
-// One family's tables and how it is heard of.
+// The tables of a setting, and how its changes are received.
 template <typename Callback>
 struct Registration {
   const AnnouncedSetting &family;
@@ -78,8 +79,8 @@ template <typename Callback>
 ZTKResult Register(const Registration<Callback> &registration,
                    std::uint32_t productId, Callback callback, void *context) {
   if (_ZTKFunc == nullptr) _ZTKFunc = AllocateObserver();
-  // Deliberate: dropped without being given back, so the next post has nothing
-  // to give back either.
+  // Deliberate: the record is dropped without being released, so the next
+  // announcement does not release it either.
   *registration.lastInfo = nullptr;
 
   const AnnouncedSetting &family = registration.family;
@@ -92,8 +93,8 @@ ZTKResult Register(const Registration<Callback> &registration,
   return ZTK_SUCCESS;
 }
 
-// The slot that a notification speaks of; -1 when another poster on the
-// machine names a product that there is no slot for.
+// The slot of the product in a notification; -1 if another program posted a
+// product that has no slot.
 std::int32_t SlotOf(const UserInfo *userInfo) {
   const std::int32_t productId = center::ReadNumber(userInfo, kProductKey);
   return productId >= 0 && productId < kSlots ? productId : -1;

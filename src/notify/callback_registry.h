@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Who wants to be called, process-wide. The names are visible in the library,
-// but this header is not installed. Written by Register, Unregister and the
-// posting setters on the caller's thread, without a lock.
+// The registered callbacks of the process. The tables are exported by the
+// library, but this header is not installed. The functions that register and
+// unregister, and the setters that announce, write them on the thread of the
+// caller and without a lock.
 #ifndef ZTK_NOTIFY_CALLBACK_REGISTRY_H_
 #define ZTK_NOTIFY_CALLBACK_REGISTRY_H_
 
@@ -30,27 +31,27 @@ ZTK_EXPORT extern ZTKIndexCallback
     BoostLevelChangedCallback[ztk::notify::kSlots];
 ZTK_EXPORT extern ZTKIndexCallback
     MidiChannelChangedCallback[ztk::notify::kSlots];
-// Only ever read: nothing registers for the key mode.
+// Never written: no function registers callbacks for the key mode.
 ZTK_EXPORT extern ZTKIndexCallback
     MidiKeyModeChangedCallback[ztk::notify::kSlots];
 
-// What the caller gave along; kept after Unregister.
+// The context of each callback. It stays after unregistering.
 ZTK_EXPORT extern void *InputAudioChangedContext[ztk::notify::kSlots];
 ZTK_EXPORT extern void *OutputAudioChangedContext[ztk::notify::kSlots];
 ZTK_EXPORT extern void *BoostLevelChangedContext[ztk::notify::kSlots];
 ZTK_EXPORT extern void *MidiChannelChangedContext[ztk::notify::kSlots];
 ZTK_EXPORT extern void *MidiKeyModeChangedContext[ztk::notify::kSlots];
 
-// The record of a family's last post, owned until its next post.
+// The record of the last announcement of a setting, owned until the next one.
 ZTK_EXPORT extern ztk::notify::UserInfo *inputAudioInfo;
 ZTK_EXPORT extern ztk::notify::UserInfo *outputAudioInfo;
 ZTK_EXPORT extern ztk::notify::UserInfo *boostLevelInfo;
 ZTK_EXPORT extern ztk::notify::UserInfo *midiChannelInfo;
-// There for symmetry: never written or read.
+// Exported like the others, but neither written nor read.
 ZTK_EXPORT extern ztk::notify::UserInfo *midiKeyModeInfo;
 
-// The one observer; null until the first successful Register of any family,
-// then alive until the process ends.
+// The only observer; null until the first callback is registered. It then lives
+// until the process ends.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,*-naming): fixed name
 ZTK_EXPORT extern void *_ZTKFunc;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer that receives the notifications of every process and calls the
-// registered callback. It has no state of its own.
+// The observer that receives the notifications of all processes and calls the
+// registered callbacks. It has no state.
 #ifndef ZTK_NOTIFY_OBSERVER_H_
 #define ZTK_NOTIFY_OBSERVER_H_
 

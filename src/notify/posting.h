@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The announcement of a change, the last step of every setter that makes one.
+// The announcement of a change, the last step of each setter that announces.
 #ifndef ZTK_NOTIFY_POSTING_H_
 #define ZTK_NOTIFY_POSTING_H_
 
@@ -11,8 +11,8 @@
 
 namespace ztk::notify {
 
-// Replaces the family's last record by a new one (the old one is given back
-// first) and sends it to every process. `lastInfo` is the family's global.
+// Releases the last record of the setting, makes a new one and sends it to
+// every process. `lastInfo` is the exported variable of the setting.
 void PostIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
                std::uint32_t productId, std::uint32_t index);
 void PostChannelIndex(const AnnouncedSetting &family, UserInfo **lastInfo,

@@ -20,7 +20,8 @@ constexpr std::uint8_t kWriteRequestType = 0x40;  // host to device, vendor
 constexpr std::uint8_t kReadRequest = 0;
 constexpr std::uint8_t kWriteRequest = 3;
 
-// Facts of one device, each asked only if all before it were answered.
+// What the descriptor of a device says. After the first failure nothing more is
+// asked.
 struct Identity {
   Code result;
   std::uint16_t vendor = 0;
@@ -34,7 +35,7 @@ struct Identity {
 
 Identity Identify(port::Device *device) {
   Identity identity{.result = port::kSuccess};
-  // Read and not used: a device that cannot answer them is passed over too.
+  // Read but not used: a device that does not answer these is skipped as well.
   std::uint8_t unusedClass = 0;
   identity.result = port::GetDeviceClass(device, &unusedClass);
   if (identity.result != port::kSuccess) return identity;
@@ -46,8 +47,8 @@ Identity Identify(port::Device *device) {
   return identity;
 }
 
-// The device interface of a service, which is released; null when the device
-// has to be passed over. *result takes the result of making the plug-in.
+// The device interface of a service; null if the device has to be skipped. The
+// service is released. *result is the result of making the plug-in.
 port::Device *InterfaceOf(port::Service service, Code *result) {
   port::PlugIn *plugIn = nullptr;
   *result = port::CreatePlugIn(service, &plugIn);
@@ -59,9 +60,9 @@ port::Device *InterfaceOf(port::Service service, Code *result) {
   return device;
 }
 
-// Walks every device and puts the mixer at position `index` into the slot.
-// Deliberate: the walk goes on after it, and the interfaces of the devices
-// after it are neither released nor without effect on the result.
+// Walks over all devices and puts the mixer at position `index` into the slot.
+// Deliberate: the walk goes on after this mixer. The interfaces of the devices
+// after it are not released, and their failures change the result.
 Code ChooseMixer(port::Iterator iterator, Connection *slot, std::uint32_t index,
                  port::Result *cause) {
   Code result = port::kSuccess;
@@ -81,7 +82,7 @@ Code ChooseMixer(port::Iterator iterator, Connection *slot, std::uint32_t index,
         }
         *slot = port::MakeReady(device, cause);
       }
-      // After the chosen one it wraps and does not reach 0 again.
+      // After the chosen mixer it wraps around and does not reach 0 again.
       --index;
     }
     if (!chosen) result = port::ReleaseDevice(device);
@@ -95,7 +96,7 @@ Code FindEveryDevice(port::Port masterPort, port::Iterator *iterator) {
   return port::FindServices(masterPort, matching, iterator);
 }
 
-// How many bytes came stays here: callers go by what their buffer holds.
+// Callers use the content of their buffer, not the number of bytes that came.
 Code Read(Connection device, std::uint16_t reg, std::uint8_t *buffer,
           std::uint16_t length) {
   std::uint32_t unused = 0;
@@ -171,7 +172,7 @@ std::int32_t CheckUSBAudio(std::uint32_t /*productId*/) {
   port::Matching *matching = port::CreateMatching(kServiceClass);
   if (matching == nullptr) return 0;
 
-  // Deliberate: neither the numbers nor the port are given back.
+  // Deliberate: the numbers and the port are not released.
   port::SetMatchingValue(matching, kVendorKey,
                          port::MakeNumber(build::kUsbVendorId));
   port::SetMatchingValue(matching, kProductKey,

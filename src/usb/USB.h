@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Connection to a mixer and the ten requests that it understands. The names
-// are visible in the library, but this header is not installed.
+// The connection to a mixer and its ten requests. The functions are exported by
+// the library, but this header is not installed.
 //
-// A connection lives for exactly one request. Nothing is kept between calls,
-// so any thread may call; the slot belongs to the caller.
+// A connection is used for exactly one request. Nothing is kept between calls,
+// so any thread may call these functions; the slot belongs to the caller.
 #ifndef ZTK_USB_USB_H_
 #define ZTK_USB_USB_H_
 
@@ -22,8 +22,8 @@ using Connection = platform::usb::Device *;
 // The mixer in its USB device descriptor; the vendor is build::kUsbVendorId.
 inline constexpr std::uint16_t kMixerProductId = 27;
 
-// Registers, as they stand in the index field of a request. Two numbers serve
-// a read and a write that have nothing to do with each other.
+// Registers, which the index field of a request names. Two of the numbers are
+// used for a read and a write that are unrelated.
 inline constexpr std::uint16_t kFirmwareVersionRegister = 0x8001;
 inline constexpr std::uint16_t kInputSelectorRegister = 0x8002;
 inline constexpr std::uint16_t kMixerOutputRegister = 0x8002;
@@ -39,25 +39,25 @@ inline constexpr std::uint16_t kMixerInputRegister = 0x8016;
 
 extern "C" {
 
-// Counts the attached mixers; 0 also when the bus cannot be read. None is
-// opened. `productId` is ignored: every model is found the same way.
+// Counts the attached mixers without opening them; 0 also if the bus cannot be
+// read. `productId` is ignored: all models are found in the same way.
 ZTK_EXPORT std::int32_t CheckUSBAudio(std::uint32_t productId);
 
 // Empties the slot, then opens the mixer at position `index` (from 0, in
-// registry order) into it. 0 when the caller may send its request; anything
-// else means: send nothing and do not close. kError for a null slot or no such
-// mixer.
+// registry order) into it. Returns 0 if the caller may send its request. For
+// any other result the caller sends nothing and does not close the connection;
+// kError means that the slot is null or there is no such mixer.
 ZTK_EXPORT ztk::usb::Code open_pipes(ztk::usb::Connection *slot,
                                      std::uint32_t index);
 
-// The search behind open_pipes(), which callers use instead. `slot` is not
-// null. An occupied slot keeps its connection and answers kError once the mixer
-// is reached.
+// The search that open_pipes() makes; callers use open_pipes(). `slot` is not
+// null. If the slot already holds a connection, it keeps that one, and the
+// search returns kError when it reaches the mixer.
 ZTK_EXPORT ztk::usb::Code openUSB(ztk::usb::Connection *slot,
                                   std::uint32_t index);
 
-// Closes the connection and empties the slot, which is not null; nothing on an
-// empty one.
+// Closes the connection and empties the slot, which is not null. Does nothing
+// if the slot is empty.
 ZTK_EXPORT void closeUSB(ztk::usb::Connection *slot);
 
 // Sends one control request. *length is the length of the data stage before,
@@ -69,12 +69,12 @@ ZTK_EXPORT ztk::usb::Code DeviceRequest(ztk::usb::Connection device,
                                         std::uint16_t index, void *data,
                                         std::uint16_t *length);
 
-// Reads. `length` bytes are asked for; how many came is not told, so the
+// Reads. They ask for `length` bytes and do not return how many came, so the
 // caller presets `buffer`.
 ZTK_EXPORT ztk::usb::Code GetFirmwareVersionNumber(ztk::usb::Connection device,
                                                    std::uint8_t *buffer,
                                                    std::uint16_t length);
-// Byte 0 has no meaning here; byte channel + 1 is a selector's position.
+// Byte 0 is not used; byte channel + 1 is the position of a selector.
 ZTK_EXPORT ztk::usb::Code GetInputSelectorInfo(ztk::usb::Connection device,
                                                std::uint8_t *buffer,
                                                std::uint16_t length);
@@ -88,7 +88,8 @@ ZTK_EXPORT ztk::usb::Code GetCertifyLevel(ztk::usb::Connection device,
                                           std::uint8_t *buffer,
                                           std::uint16_t length);
 
-// Writes: the new setting travels in the value field, there is no data stage.
+// Writes. The value field of the request holds the new setting; there is no
+// data stage.
 ZTK_EXPORT ztk::usb::Code SetMixerOutputSetting(ztk::usb::Connection device,
                                                 std::uint16_t value);
 ZTK_EXPORT ztk::usb::Code SetMixerInputSetting(ztk::usb::Connection device,
@@ -97,7 +98,7 @@ ZTK_EXPORT ztk::usb::Code SetUSBOutputLevelSetting(ztk::usb::Connection device,
                                                    std::uint16_t value);
 ZTK_EXPORT ztk::usb::Code SetMidiChannelSetting(ztk::usb::Connection device,
                                                 std::uint16_t value);
-// No function of the library sends this one; programs may.
+// No function of ZTKFunc.h sends this request; programs may call it.
 ZTK_EXPORT ztk::usb::Code SetMidiKeyModeSetting(ztk::usb::Connection device,
                                                 std::uint16_t value);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The walk over every attached mixer that all families share. What becomes of
+// The walk over all attached mixers, which the settings share. The result of
 // each request is recorded; see outcome/outcome.h.
 #ifndef ZTK_USB_MIXERS_H_
 #define ZTK_USB_MIXERS_H_
@@ -12,8 +12,8 @@
 
 namespace ztk::usb {
 
-// One opened mixer, closed at the end of the scope. A mixer that does not open
-// is empty: nothing is sent to it and there is nothing to close.
+// An opened mixer that is closed at the end of the scope. If the mixer cannot
+// be opened, the object is empty: nothing is sent and nothing is closed.
 class OpenMixer {
  public:
   // For programs: uses visible functions only and records nothing.
@@ -39,8 +39,8 @@ class OpenMixer {
 // Counts the mixers.
 std::int32_t CountMixers(std::uint32_t productId);
 
-// Counts the mixers and writes the value to a register of each. Answers the
-// count, so that a second pass walks the same positions.
+// Counts the mixers and writes the value to a register of each. Returns the
+// count, so that a second pass visits the same positions.
 std::int32_t SendToEveryMixer(std::uint32_t productId, std::uint16_t reg,
                               std::uint16_t value);
 
