@@ -6,6 +6,7 @@
 #include "api/product_set.h"
 #include "outcome/outcome.h"
 #include "platform/property_list.h"
+#include "store/file_outcome.h"
 
 using namespace ztk;
 
@@ -37,7 +38,8 @@ const ZTKTextRef kDriverKey = ZTK_TEXT("CFBundleShortVersionString");
 const ZTKTextRef kBundleKey = ZTK_TEXT("CFBundleVersion");
 
 ZTKResult ReadVersion(ZTKTextRef file, ZTKTextRef key, ZTKTextRef *outText) {
-  plist::Dictionary *info = plist::ReadFile(file);
+  plist::Dictionary *info = nullptr;
+  store::RecordReading(plist::Read(file, &info));
   if (info == nullptr) return ZTK_REJECTED;
   const ZTKTextRef version = plist::TextValue(info, key);
   plist::Release(info);

@@ -9,6 +9,7 @@
 #include "platform/bundle.h"
 #include "platform/property_list.h"
 #include "platform/text.h"
+#include "store/file_outcome.h"
 #include "usb/mixers.h"
 
 using namespace ztk;
@@ -40,7 +41,8 @@ ZTKTextRef TextOfLanguage(const bundle::Bundle *library, std::uint32_t language,
   if (resources.get() == nullptr) return nullptr;
   const Made path(platform::text::Format(kTablePath, resources.get(),
                                          kLanguages[language]));
-  plist::Dictionary *table = plist::ReadFile(path.get());
+  plist::Dictionary *table = nullptr;
+  store::RecordReading(plist::Read(path.get(), &table));
   if (table == nullptr) return nullptr;
   const ZTKTextRef text = plist::TextValue(table, key);
   plist::Release(table);

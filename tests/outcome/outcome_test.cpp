@@ -222,6 +222,36 @@ TEST_F(Outcome, IsEmptyAfterARejectedCall) {
   }
 }
 
+TEST_F(Outcome, TellsWhetherAFileWasRead) {
+  constexpr char kPkgFile[] =
+      "/private/var/db/receipts/com.tarvix.VRM-D6.pkg.plist";
+  ZTKTextRef text = nullptr;
+  EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 102u);
+  EXPECT_EQ(Last().read.result, 2u);  // absent
+  TheWorld().files[kPkgFile] = {{"PackageVersion", "1.2"}};
+  EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 100u);
+  EXPECT_EQ(Last().read.result, 1u);
+  // It can be read, but lacks what was asked for.
+  TheWorld().files[kPkgFile] = {};
+  EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 102u);
+  EXPECT_EQ(Last().read.result, 1u);
+  EXPECT_EQ(Last().store.result, 0u);
+}
+
+TEST_F(Outcome, TellsOfTheTextsOfALanguage) {
+  TheWorld().bus = {Mixer()};
+  TheWorld().bundles["/System/Library/Frameworks/VRM-D6Setup.framework"] = {
+      .resourcePath = "/r", .preferredTexts = {}};
+  ZTKTextRef text = nullptr;
+  EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 0, 101, 0, &text), 100u);
+  EXPECT_EQ(Last().read.result, 2u);
+  TheWorld().files["/r/English.lproj/Localizable.strings"] = {
+      {"WARNING2", "Turn it."}};
+  EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 0, 101, 0, &text), 100u);
+  EXPECT_EQ(Last().read.result, 1u);
+  EXPECT_STREQ(text, "Turn it.");
+}
+
 TEST_F(Outcome, CountsForAQuestionAboutTheConnection) {
   TheWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
