@@ -102,6 +102,18 @@ TEST_F(KernelPrograms, TheRunningMixersObeyTheControlCommands) {
   EXPECT_THAT(output, EndsWith("mixer 1  bus id 1-1  attached\nstatus 0"));
 }
 
+TEST_F(KernelPrograms, AReplayedReportIsReportedAgain) {
+  Attached("-n 2 --reply 1:8001=2103 --fault 2:stall@r8004",
+           "$Z doctor --report /tmp/first >/dev/null");
+  Attached("--device /tmp/first", "$Z doctor --report /tmp/second >/dev/null");
+  EXPECT_EQ(Shell("for name in first second; do grep -v milliseconds "
+                  "/tmp/$name >/tmp/$name-without-times; done; "
+                  "diff /tmp/first-without-times /tmp/second-without-times && "
+                  "grep -c '21 03' /tmp/second && "
+                  "grep -c refused /tmp/second"),
+            "1\n1\nstatus 0");
+}
+
 TEST_F(KernelPrograms, StatusSaysThatAMixerMayNotBeOpened) {
   if (!Has("setpriv")) GTEST_SKIP() << "setpriv is not installed";
   const std::string output =

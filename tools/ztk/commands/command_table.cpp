@@ -198,7 +198,12 @@ void AddOthers(std::vector<Command> *commands) {
   commands->push_back(
       {.path = "doctor",
        .summary = "Find out why something does not work, and what to type",
-       .parameters = {},
+       .parameters = {{.parameter = Parameter::ReportFile,
+                       .required = false,
+                       .description =
+                           "Also write a report for a maintainer to this "
+                           "file: mixers, versions and findings, without "
+                           "private data"}},
        .note =
            "Looks at the mixers, the settings files, the session's message\n"
            "bus and the warning texts. Nothing is changed; every mixer is\n"
@@ -273,6 +278,8 @@ const char *ParameterName(Parameter parameter) {
       return "--dry-run";
     case Parameter::File:
       return "FILE";
+    case Parameter::ReportFile:
+      return "--report";
     case Parameter::Language:
       break;
   }
@@ -287,6 +294,8 @@ const char *ParameterValueName(Parameter parameter) {
       return "N";
     case Parameter::Language:
       return "L";
+    case Parameter::ReportFile:
+      return "FILE";
     default:
       break;
   }

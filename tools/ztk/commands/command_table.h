@@ -26,6 +26,7 @@ enum class Parameter : std::uint8_t {
   Language,   // --language L
   DryRun,     // --dry-run
   File,       // FILE
+  ReportFile  // --report FILE
 };
 
 // A parameter as one command has it.

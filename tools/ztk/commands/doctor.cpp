@@ -6,6 +6,7 @@
 #include "ztk/commands/other_commands.h"
 #include "ztk/model/diagnosis.h"
 #include "ztk/progress.h"
+#include "ztk/report/mixer_report.h"
 
 namespace ztk::program {
 
@@ -28,9 +29,19 @@ void AddFinding(const char *part, const Finding &finding, Report *report) {
                   "type:  " + finding.command + "\n";
 }
 
+void AddMixerReport(const std::string &file, Report *report) {
+  const Progress progress(kWaitingForMixer);
+  const std::string failure =
+      WriteMixerReport(MakeMixerReport(report->fields["findings"]), file);
+  if (!failure.empty()) throw Failure(ExitCode::Failed, failure);
+  report->fields["report"] = file;
+  report->text += cli::Padded("report", kColumn) + "written to " +
+                  cli::OneLine(file) + "\n";
+}
+
 }  // namespace
 
-Report Diagnose(const Arguments & /*arguments*/) {
+Report Diagnose(const Arguments &arguments) {
   Report report;
   report.fields["checks"] = Json::array();
   report.fields["findings"] = Json::array();
@@ -52,6 +63,9 @@ Report Diagnose(const Arguments & /*arguments*/) {
       AddFinding(part.name, finding, &report);
       if (!finding.isNote) ++problems;
     }
+  }
+  if (const std::string *file = arguments.Find(Parameter::ReportFile)) {
+    AddMixerReport(*file, &report);
   }
   if (problems > 0) {
     report.problem = {

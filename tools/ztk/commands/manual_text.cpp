@@ -119,6 +119,7 @@ void AddValues(const Setting *setting, const ParameterUse &use,
       };
       break;
     case Parameter::File:
+    case Parameter::ReportFile:
       option->fill = Fill::File;
       return;
     case Parameter::DryRun:  // no word follows

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/system/usb_devices.h"
+
+#include <dirent.h>
+
+#include <algorithm>
+#include <fstream>
+#include <memory>
+
+namespace ztk::model {
+
+namespace {
+
+constexpr char kFolder[] = "/sys/bus/usb/devices/";
+// Of devices whose interfaces have a class each.
+constexpr char kClassOfInterfaces[] = "00";
+
+// The first word of a file; empty where there is none.
+std::string WordIn(const std::string &path) {
+  std::ifstream file(path);
+  std::string word;
+  file >> word;
+  return word;
+}
+
+std::vector<std::string> Entries() {
+  std::vector<std::string> names;
+  const std::unique_ptr<DIR, int (*)(DIR *)> folder(opendir(kFolder), closedir);
+  if (!folder) return names;
+  while (const dirent *const entry = readdir(folder.get())) {
+    names.emplace_back(entry->d_name);
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+}  // namespace
+
+std::vector<UsbDevice> UsbDevices() {
+  const std::vector<std::string> names = Entries();
+  std::vector<UsbDevice> devices;
+  for (const std::string &name : names) {
+    // Interfaces have a colon in their names.
+    if (name[0] == '.' || name.find(':') != std::string::npos) continue;
+    std::string deviceClass = WordIn(kFolder + name + "/bDeviceClass");
+    if (deviceClass == kClassOfInterfaces) {
+      const auto interface = std::find_if(
+          names.begin(), names.end(),
+          [&](const auto &other) { return other.starts_with(name + ":"); });
+      if (interface != names.end()) {
+        deviceClass = WordIn(kFolder + *interface + "/bInterfaceClass");
+      }
+    }
+    devices.push_back({.place = name,
+                       .deviceClass = deviceClass,
+                       .speed = WordIn(kFolder + name + "/speed")});
+  }
+  return devices;
+}
+
+}  // namespace ztk::model

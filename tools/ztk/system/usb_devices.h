@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_TOOLS_ZTK_SYSTEM_USB_DEVICES_H_
+#define ZTK_TOOLS_ZTK_SYSTEM_USB_DEVICES_H_
+
+#include <string>
+#include <vector>
+
+namespace ztk::model {
+
+// A device on the bus, without anything that tells whose it is. Both are empty
+// where the system does not tell.
+struct UsbDevice {
+  std::string place;  // as MixerPlaces() names places
+  // Two hexadecimal digits; that of the first interface where the device
+  // leaves it to its interfaces.
+  std::string deviceClass;
+  std::string speed;  // in Mbit/s
+};
+
+// All devices, hubs and mixers included, in the order of their places. Opens
+// none of them.
+std::vector<UsbDevice> UsbDevices();
+
+}  // namespace ztk::model
+
+#endif  // ZTK_TOOLS_ZTK_SYSTEM_USB_DEVICES_H_
