@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/common/interned_text.h"
+#include "support/number_rows.h"
 
 namespace {
 
@@ -50,35 +51,16 @@ TEST(IntegerFromBoolean, IsOneOrZero) {
 }
 
 TEST(IntegerFromText, ReadsTheLeadingNumber) {
-  const struct {
-    std::string_view text;
-    std::int32_t expected;
-  } rows[] = {
-      {"5", 5},
-      {"  \t\n 12 apples", 12},
-      {"-7", -7},
-      {"+8", 8},
-      {"- 7", 0},
-      {"--7", 0},
-      {"007", 7},
-      {"0x10", 0},
-      {"3.9", 3},
-      {"1,5", 1},
-      {"", 0},
-      {"   ", 0},
-      {"-", 0},
-      {"apples", 0},
-      {"2147483647", 2147483647},
-      {"2147483648", 2147483647},
-      {"-2147483648", -2147483647 - 1},
-      {"-2147483649", -2147483647 - 1},
-      {"99999999999999999999999999", 2147483647},
-      {"-99999999999999999999999999", -2147483647 - 1},
-  };
-  for (const auto &row : rows) {
+  for (const ztk::test::NumberRow &row : ztk::test::kNumberRows) {
     SCOPED_TRACE(row.text);
     EXPECT_EQ(IntegerFromText(row.text), row.expected);
   }
+}
+
+TEST(IntegerFromText, StopsAtABrokenCharacter) {
+  EXPECT_EQ(IntegerFromText("\xC2"), 0);
+  EXPECT_EQ(IntegerFromText("\xE3\x80"), 0);
+  EXPECT_EQ(IntegerFromText("\xFF 5"), 0);
 }
 
 TEST(Intern, GivesEqualTextsOnePlaceThatNeverMoves) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/common/number_rules.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -10,7 +11,41 @@ namespace {
 
 constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
-constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
+
+// The characters that Foundation's intValue skips, first and last of each row.
+constexpr struct {
+  std::uint32_t first, last;
+} kSkipped[] = {{0x00, 0x20}, {0x7F, 0xA0}, {0x2000, 0x200B}, {0x3000, 0x3000}};
+
+bool IsSkipped(std::uint32_t character) {
+  for (const auto &row : kSkipped) {
+    if (character >= row.first && character <= row.last) return true;
+  }
+  return false;
+}
+
+// How many bytes the skipped character takes that the text begins with; 0 for
+// any other. Those in question have at most three bytes in UTF-8.
+std::size_t SkippedBytes(std::string_view text) {
+  const auto byte = [text](std::size_t at) {
+    return at < text.size() ? static_cast<std::uint8_t>(text[at]) : 0U;
+  };
+  if (text.empty()) return 0;
+  if (byte(0) < 0x80) return IsSkipped(byte(0)) ? 1 : 0;
+  const std::uint32_t two = (byte(0) & 0x1FU) << 6 | (byte(1) & 0x3FU);
+  if ((byte(0) & 0xE0U) == 0xC0U) return IsSkipped(two) ? 2 : 0;
+  const std::uint32_t three =
+      (byte(0) & 0x0FU) << 12 | (byte(1) & 0x3FU) << 6 | (byte(2) & 0x3FU);
+  if ((byte(0) & 0xF0U) == 0xE0U) return IsSkipped(three) ? 3 : 0;
+  return 0;
+}
+
+std::string_view WithoutLeadingSpace(std::string_view text) {
+  while (const std::size_t bytes = SkippedBytes(text)) {
+    text.remove_prefix(std::min(bytes, text.size()));
+  }
+  return text;
+}
 
 }  // namespace
 
@@ -29,16 +64,17 @@ std::int32_t IntegerFromReal(double real) {
 std::int32_t IntegerFromBoolean(bool boolean) { return boolean ? 1 : 0; }
 
 std::int32_t IntegerFromText(std::string_view text) {
-  std::size_t at = text.find_first_not_of(kWhiteSpace);
-  if (at == std::string_view::npos) return 0;
-
-  const bool negative = text[at] == '-';
-  if (negative || text[at] == '+') ++at;
+  text = WithoutLeadingSpace(text);
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) {
+    text = WithoutLeadingSpace(text.substr(1));
+  }
   // The magnitude stops growing just past the limits.
   constexpr std::int64_t kFarEnough = std::int64_t{kHighest} + 1;
   std::int64_t magnitude = 0;
-  for (; at < text.size() && text[at] >= '0' && text[at] <= '9'; ++at) {
-    magnitude = magnitude * 10 + (text[at] - '0');
+  for (const char digit : text) {
+    if (digit < '0' || digit > '9') break;
+    magnitude = magnitude * 10 + (digit - '0');
     if (magnitude > kFarEnough) magnitude = kFarEnough;
   }
   if (negative) return static_cast<std::int32_t>(-magnitude);

@@ -19,8 +19,10 @@ std::int32_t IntegerFromReal(double real);
 // 0 or 1.
 std::int32_t IntegerFromBoolean(bool boolean);
 
-// White space, a sign, digits; what follows is ignored. Held at the 32-bit
-// limits; 0 where there is no digit. Decimal only, and no locale matters.
+// Space, a sign, space, digits; what follows is ignored. Held at the 32-bit
+// limits; 0 where there is no digit. Decimal only, and no locale matters. Space
+// is what Foundation takes for it: control characters, U+00A0, U+2000 to U+200B
+// and U+3000 as well.
 std::int32_t IntegerFromText(std::string_view text);
 
 }  // namespace ztk::platform::common

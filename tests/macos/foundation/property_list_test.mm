@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "foundation_test.h"
+#include "support/number_rows.h"
 #include "support/temp_home.h"
 
 namespace ztk::test {
@@ -56,6 +57,19 @@ TEST_F(MacPropertyList, GivesIntegersOfWhateverHasANumber) {
     SCOPED_TRACE(row.key);
     std::int32_t value = 99;
     EXPECT_TRUE(plist::IntegerValue(list, TextOf(row.key), &value));
+    EXPECT_EQ(value, row.expected);
+  }
+}
+
+TEST_F(MacPropertyList, ReadsTextsByTheTableOfBothPorts) {
+  NSMutableDictionary *list = [NSMutableDictionary dictionary];
+  for (const NumberRow &row : kNumberRows) {
+    if (row.onAppleOnly) continue;
+    SCOPED_TRACE(row.text);
+    [list setObject:ObjectOf(row.text) forKey:@"key"];
+    std::int32_t value = 99;
+    EXPECT_TRUE(plist::IntegerValue((plist::Dictionary *)list, ZTK_TEXT("key"),
+                                    &value));
     EXPECT_EQ(value, row.expected);
   }
 }
