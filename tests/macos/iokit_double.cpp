@@ -155,7 +155,11 @@ kern_return_t IOServiceGetMatchingServices(mach_port_t masterPort,
   if (masterPort != MACH_PORT_NULL) {
     At(masterPort, "IOServiceGetMatchingServices", kPort);
   }
-  if (TheWorld().findResult != kIOReturnSuccess) return TheWorld().findResult;
+  if (TheWorld().findResult != kIOReturnSuccess) {
+    // A failure leaves behind whatever it likes.
+    *existing = kMasterPort;
+    return TheWorld().findResult;
+  }
   if (!wanted) return kIOReturnBadArgument;
 
   std::vector<std::size_t> found;

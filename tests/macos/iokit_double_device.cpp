@@ -94,6 +94,8 @@ virtual_mixer::TransferStatus TransferStatusOf(IOReturn result) {
 
 IOReturn Request(void *self, IOUSBDevRequest *request) {
   if (!Enter(self, "DeviceRequest")) return kIOReturnNoDevice;
+  // Writes without bytes get an address, too.
+  if (request->pData == nullptr) LogMisuse("DeviceRequest without a buffer");
   const Interface &interface = *InterfaceAt(self);
   const Device &device = DeviceOf(interface);
   Reply reply{.result = device.writeResult, .bytes = {}};

@@ -22,7 +22,7 @@ Bundle *AtPath(ZTKTextRef path) {
   return (Bundle *)[[NSBundle bundleWithPath:StringOf(path)] retain];
 }
 
-ZTKTextRef ResourcePath(const Bundle *bundle) {
+CF_RETURNS_RETAINED ZTKTextRef ResourcePath(const Bundle *bundle) {
   return TextOf([[BundleOf(bundle) resourcePath] retain]);
 }
 

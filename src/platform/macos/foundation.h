@@ -18,6 +18,11 @@
 #error "These sources count references by hand: build them with -fno-objc-arc."
 #endif
 
+// Tells the static analyser that the caller owns what is returned.
+#ifndef CF_RETURNS_RETAINED
+#define CF_RETURNS_RETAINED __attribute__((cf_returns_retained))
+#endif
+
 namespace ztk::platform::macos {
 
 inline NSString *StringOf(ZTKTextRef text) { return (NSString *)text; }

@@ -5,7 +5,7 @@
 
 namespace ztk::platform::paths {
 
-ZTKTextRef UserLibrary() {
+CF_RETURNS_RETAINED ZTKTextRef UserLibrary() {
   @autoreleasepool {
     NSArray *folders = NSSearchPathForDirectoriesInDomains(
         NSLibraryDirectory, NSUserDomainMask, YES);

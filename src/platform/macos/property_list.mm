@@ -3,6 +3,8 @@
 // A Dictionary is an NSDictionary, a made one an NSMutableDictionary.
 #include "platform/property_list.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <chrono>
 #include <optional>
@@ -58,6 +60,18 @@ ReadResult ReasonFor(ZTKTextRef path) {
     return {.state = ReadState::Damaged};
   }
   return {.state = ReadState::Unavailable, .error = error == 0 ? EBUSY : error};
+}
+
+// Gives a file another name beside its own, the first that is free. The old
+// bytes stay when the file is replaced.
+bool KeepAside(const std::string &file) {
+  constexpr int kNames = 1000;
+  for (int number = 1; number <= kNames; ++number) {
+    const std::string kept = file + ".unreadable-" + std::to_string(number);
+    if (link(file.c_str(), kept.c_str()) == 0) return true;
+    if (errno != EEXIST) return false;
+  }
+  return false;
 }
 
 // Reads the file into *entries, which belongs to the autorelease pool. A file
@@ -151,6 +165,15 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
   if (error != nullptr) *error = 0;
   if (path == nullptr) return false;
   @autoreleasepool {
+    NSDictionary *old = nil;
+    const ReadResult result = ReadEntries(path, &old);
+    const bool mayBeReplaced =
+        result.state != ReadState::Unavailable &&
+        (result.state != ReadState::Damaged || KeepAside(PathOf(path)));
+    if (!mayBeReplaced) {
+      if (error != nullptr) *error = result.error;
+      return false;
+    }
     return [DictionaryOf(dictionary) writeToFile:StringOf(path) atomically:YES];
   }
 }

@@ -10,7 +10,7 @@ namespace ztk::platform::text {
 using macos::StringOf;
 using macos::TextOf;
 
-ZTKTextRef UpperCase(ZTKTextRef text) {
+CF_RETURNS_RETAINED ZTKTextRef UpperCase(ZTKTextRef text) {
   @autoreleasepool {
     return TextOf([[StringOf(text) uppercaseString] retain]);
   }
@@ -22,13 +22,14 @@ bool Contains(ZTKTextRef text, ZTKTextRef part) {
 }
 
 // A missing text would be filled in as "(null)".
-ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first) {
+CF_RETURNS_RETAINED ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first) {
   if (format == nullptr || first == nullptr) return nullptr;
   return TextOf(
       [[NSString alloc] initWithFormat:StringOf(format), StringOf(first)]);
 }
 
-ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first, ZTKTextRef second) {
+CF_RETURNS_RETAINED ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first,
+                                      ZTKTextRef second) {
   if (format == nullptr || first == nullptr || second == nullptr) {
     return nullptr;
   }
@@ -36,12 +37,13 @@ ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first, ZTKTextRef second) {
       initWithFormat:StringOf(format), StringOf(first), StringOf(second)]);
 }
 
-ZTKTextRef Format(ZTKTextRef format, std::int32_t number) {
+CF_RETURNS_RETAINED ZTKTextRef Format(ZTKTextRef format, std::int32_t number) {
   if (format == nullptr) return nullptr;
   return TextOf([[NSString alloc] initWithFormat:StringOf(format), number]);
 }
 
-ZTKTextRef DotComponent(ZTKTextRef text, unsigned position) {
+CF_RETURNS_RETAINED ZTKTextRef DotComponent(ZTKTextRef text,
+                                            unsigned position) {
   @autoreleasepool {
     NSCharacterSet *dot =
         [NSCharacterSet characterSetWithCharactersInString:@"."];

@@ -85,7 +85,8 @@ TEST_F(MacObserver, CallsTheFamilyOfTheMethod) {
   Send(@"outputAudioChanged:", Record(Number(10), Number(1), Number(0)));
   Send(@"boostLevelChanged:", Record(Number(10), Number(7), Number(3)));
   Send(@"midiChannelChanged:", Record(Number(1), Number(7), Number(15)));
-  Send(@"midiKeyModeChanged:", Record(Number(10), Number(7), Number(1)));
+  // Of a model for which the MIDI channel has a callback.
+  Send(@"midiKeyModeChanged:", Record(Number(1), Number(7), Number(1)));
   EXPECT_THAT(Taken(),
               ElementsAre("input 2 5", "output 1 0", "boost 3", "midi 15"));
 }

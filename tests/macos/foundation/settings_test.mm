@@ -84,13 +84,15 @@ TEST_F(MacSettings, OfEachModelHaveTheirOwnFile) {
   EXPECT_EQ(Held("VRM-K2"), (Values{{"MidiChannel", "15"}}));
 }
 
-TEST_F(MacSettings, ReplaceAFileThatIsNoDictionary) {
+TEST_F(MacSettings, ReplaceADamagedFileAndKeepItBeside) {
   WriteAll(SettingsFile("VRM-D6"), "not a property list <");
   std::uint32_t value = 99;
   EXPECT_EQ(ZTK_GetCurrentBoostLevelIndex(10, &value), 100u);
   EXPECT_EQ(value, 3u);
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   EXPECT_EQ(Held("VRM-D6"), (Values{{"MaxLevel", "1"}}));
+  EXPECT_EQ(ReadAll(SettingsFile("VRM-D6") + ".unreadable-1"),
+            "not a property list <");
 }
 
 TEST_F(MacSettings, AreForgottenSilentlyWithoutAFolder) {

@@ -60,7 +60,7 @@ struct BusWitness::Ear {
 
   bool Has(const Announcement &wanted) const {
     for (const ZTKInbox *inbox : inboxes) {
-      if (cli::Has(inbox, wanted)) return true;
+      if (program::Has(inbox, wanted)) return true;
     }
     return false;
   }
