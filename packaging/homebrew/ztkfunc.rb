@@ -1,0 +1,39 @@
+# SPDX-License-Identifier: MIT
+#
+# Installs ztk and the framework with Homebrew. It was written without a Mac and
+# has never run; README.md beside it tells what follows from the place of the
+# framework.
+class Ztkfunc < Formula
+  desc "Settings of the USB DJ mixer VRM-D6"
+  homepage "https://tarvix.example/ztkfunc"
+  # The address and the checksum are those of a release; a checkout is
+  # installed with "brew install --HEAD".
+  head "https://tarvix.example/ztkfunc.git", branch: "main"
+  license "MIT"
+
+  depends_on "cli11" => :build
+  depends_on "cmake" => :build
+  depends_on "nlohmann-json" => :build
+
+  def install
+    system "cmake", "-S", ".", "-B", "build", *std_cmake_args,
+           "-DBUILD_TESTING=OFF", "-DZTK_FRAMEWORK_DIR=#{frameworks}"
+    system "cmake", "--build", "build"
+    system "cmake", "--install", "build"
+  end
+
+  def caveats
+    <<~EOS
+      The library looks for its texts and versions in /Library/Frameworks (below
+      /System/Library from macOS 11 on), not in #{opt_frameworks}.
+      Warnings are therefore told in ztk's own words. On macOS 10.11 to 10.15
+      this link lets the library find them:
+        sudo ln -s #{opt_frameworks}/VRM-D6Setup.framework /Library/Frameworks/
+    EOS
+  end
+
+  test do
+    assert_match version.to_s, shell_output("#{bin}/ztk --version") if build.stable?
+    assert_match "no mixer is attached", shell_output("#{bin}/ztk status 2>&1", 3)
+  end
+end
