@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "support/core_test.h"
+#include "support/text.h"
 
 namespace ztk::test {
 
@@ -24,7 +25,7 @@ using Steps = std::vector<std::string>;
 
 // What outputs hold before a call that must not write them.
 inline constexpr std::uint32_t kUntouched = 0xA5A5A5A5;
-inline constexpr char kUntouchedText[] = "untouched";
+inline const ZTKTextRef kUntouchedText = ZTK_TEXT("untouched");
 
 // A mixer that is counted and does not open.
 inline Device UnreachableMixer() {

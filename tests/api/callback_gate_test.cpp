@@ -72,8 +72,8 @@ TEST_F(CallbackGates, RegisterTakesOneProductAndUnregisterSix) {
     for (const std::uint32_t product : kIds) {
       SCOPED_TRACE(std::string(row.family) + " " + std::to_string(product));
       FillEverySlot();
-      const bool served =
-          std::ranges::find(kSixProducts, product) != kSixProducts.end();
+      const bool served = std::find(kSixProducts.begin(), kSixProducts.end(),
+                                    product) != kSixProducts.end();
       EXPECT_EQ(row.call(product, Context()), served ? 100u : 102u);
       const Steps expected = {std::string(row.family) + " " +
                               std::to_string(product) + " callback"};

@@ -33,7 +33,7 @@ class GetUSBInputAudioText : public ApiTest {
     ZTKTextRef text = kUntouchedText;
     const ZTKResult result =
         ZTK_GetUSBInputAudioText(10, channel, index, 0, &text);
-    return std::to_string(result) + " " + (text == nullptr ? "(null)" : text);
+    return std::to_string(result) + " " + Plain(text);
   }
 };
 
@@ -76,7 +76,7 @@ TEST_F(GetUSBInputAudioText, IgnoresItsFourthArgument) {
     SCOPED_TRACE(ignored);
     ZTKTextRef text = kUntouchedText;
     EXPECT_EQ(ZTK_GetUSBInputAudioText(10, 0, 7, ignored, &text), 100u);
-    EXPECT_STREQ(text, "PARAM ERROR");
+    EXPECT_EQ(Plain(text), "PARAM ERROR");
   }
 }
 

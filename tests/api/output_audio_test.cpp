@@ -31,7 +31,7 @@ class GetUSBOutputAudioText : public ApiTest {
     ZTKTextRef text = kUntouchedText;
     const ZTKResult result =
         ZTK_GetUSBOutputAudioText(8, channel, index, ignored, &text);
-    return std::to_string(result) + " " + text;
+    return std::to_string(result) + " " + Plain(text);
   }
 };
 

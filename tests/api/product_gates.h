@@ -62,7 +62,7 @@ struct Gate {
 
   // A function that takes no channel accepts any.
   bool TakesChannel() const {
-    return std::ranges::any_of(served, [](const Served &range) {
+    return std::any_of(served.begin(), served.end(), [](const Served &range) {
       return range.channels.first != kAny.first ||
              range.channels.last != kAny.last;
     });
@@ -72,8 +72,9 @@ struct Gate {
     const auto covers = [&a](const Served &range) {
       return range.channels.Has(a.channel) && range.indexes.Has(a.index);
     };
-    return std::ranges::find(products, a.product) != products.end() &&
-           std::ranges::any_of(served, covers);
+    return std::find(products.begin(), products.end(), a.product) !=
+               products.end() &&
+           std::any_of(served.begin(), served.end(), covers);
   }
 };
 
@@ -96,7 +97,8 @@ inline void OnIndex(std::int32_t, void *) {}
 inline const Gate kGates[] = {
     // Product and connection.
     {"GetProductId", kEveryProduct, kNoBounds, Output::Number,
-     [](const Arguments &a) { return ZTK_GetProductId("VRM-D6", a.number); }},
+     [](const Arguments &a) { return ZTK_GetProductId(ZTK_TEXT("VRM-D6"),
+                                                          a.number); }},
     {"GetProductId, no name", {}, {}, Output::Number,
      [](const Arguments &a) { return ZTK_GetProductId(nullptr, a.number); }},
     {"IsUSBConnection", kEveryProduct, kNoBounds, Output::None,

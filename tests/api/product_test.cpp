@@ -25,7 +25,8 @@ class GetProductId : public ApiTest {
   };
   static Found Find(const char *name) {
     std::uint32_t id = kUntouched;
-    const ZTKResult result = ZTK_GetProductId(name, &id);
+    const ZTKResult result =
+        ZTK_GetProductId(name == nullptr ? nullptr : Lasting(name), &id);
     return {.result = result, .id = id};
   }
 };
@@ -86,7 +87,7 @@ TEST_F(GetProductId, NeverAnswersTheGapsSevenAndNine) {
 
 TEST_F(GetProductId, RejectsANullNameAndANullOutput) {
   EXPECT_EQ(Find(nullptr), (Found{.result = 102, .id = kUntouched}));
-  EXPECT_EQ(ZTK_GetProductId("VRM-D6", nullptr), 102u);
+  EXPECT_EQ(ZTK_GetProductId(ZTK_TEXT("VRM-D6"), nullptr), 102u);
   EXPECT_EQ(ZTK_GetProductId(nullptr, nullptr), 102u);
 }
 
@@ -94,7 +95,7 @@ TEST_F(GetProductId, LeavesTheCallersTextAndAsksNothing) {
   TheWorld().bus = {Mixer()};
   std::string name = "vrm-d6 in lower case";
   std::uint32_t id = 0;
-  EXPECT_EQ(ZTK_GetProductId(name.c_str(), &id), 100u);
+  EXPECT_EQ(ZTK_GetProductId(Lasting(name), &id), 100u);
   EXPECT_EQ(name, "vrm-d6 in lower case");
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }

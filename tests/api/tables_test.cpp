@@ -64,7 +64,7 @@ TEST_F(VisibleTables, InputAudioTextHas43TextsAndANullAtItsEnd) {
   ASSERT_EQ(std::size(InputAudioText), 44u);
   for (std::size_t i = 0; i < std::size(expected); ++i) {
     SCOPED_TRACE(i);
-    EXPECT_STREQ(InputAudioText[i], expected[i]);
+    EXPECT_EQ(Plain(InputAudioText[i]), expected[i]);
   }
   EXPECT_THAT(InputAudioText[43], IsNull());
 }
@@ -92,8 +92,7 @@ TEST_F(VisibleTables, InputDeviceValuesHaveFiveRowsOfEightAndTwoBehind) {
 }
 
 TEST_F(VisibleTables, OutputAudioHasThreeTexts) {
-  EXPECT_THAT(OutputAudioText,
-              ElementsAre(StrEq("CH1"), StrEq("CH2"), StrEq("AUX")));
+  EXPECT_THAT(Plain(OutputAudioText), ElementsAre("CH1", "CH2", "AUX"));
 }
 
 TEST_F(VisibleTables, OutputTextPositionsHaveARowOfZerosBehind) {
@@ -110,23 +109,20 @@ TEST_F(VisibleTables, OutputDeviceValuesCountChannelsFromOne) {
 }
 
 TEST_F(VisibleTables, BoostLevelCodesRunAgainstTheTexts) {
-  EXPECT_THAT(BoostLevelText, ElementsAre(StrEq("-5 dB"), StrEq("-10 dB"),
-                                          StrEq("-15 dB"), StrEq("-19 dB")));
+  EXPECT_THAT(Plain(BoostLevelText),
+              ElementsAre("-5 dB", "-10 dB", "-15 dB", "-19 dB"));
   EXPECT_THAT(_convDbTable, ElementsAre(3, 2, 1, 0));
 }
 
 TEST_F(VisibleTables, MidiChannelTextsCountFromOne) {
-  EXPECT_THAT(
-      MidiChannelText,
-      ElementsAre(StrEq("CH 1"), StrEq("CH 2"), StrEq("CH 3"), StrEq("CH 4"),
-                  StrEq("CH 5"), StrEq("CH 6"), StrEq("CH 7"), StrEq("CH 8"),
-                  StrEq("CH 9"), StrEq("CH 10"), StrEq("CH 11"), StrEq("CH 12"),
-                  StrEq("CH 13"), StrEq("CH 14"), StrEq("CH 15"),
-                  StrEq("CH 16")));
+  EXPECT_THAT(Plain(MidiChannelText),
+              ElementsAre("CH 1", "CH 2", "CH 3", "CH 4", "CH 5", "CH 6",
+                          "CH 7", "CH 8", "CH 9", "CH 10", "CH 11", "CH 12",
+                          "CH 13", "CH 14", "CH 15", "CH 16"));
 }
 
 TEST_F(VisibleTables, MidiKeyModeTextsAreThereAlthoughNothingReadsThem) {
-  EXPECT_THAT(MidiKeyModeText, ElementsAre(StrEq("Toggle"), StrEq("Trigger")));
+  EXPECT_THAT(Plain(MidiKeyModeText), ElementsAre("Toggle", "Trigger"));
 }
 
 }  // namespace

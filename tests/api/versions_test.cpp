@@ -46,7 +46,7 @@ class VersionTest : public ApiTest {
   static std::string Told(VersionFunction function) {
     ZTKTextRef text = kUntouchedText;
     const ZTKResult result = function(10, &text);
-    return std::to_string(result) + " " + (text == nullptr ? "(null)" : text);
+    return std::to_string(result) + " " + Plain(text);
   }
 
   // The files that were read since the last question, in order.
@@ -241,7 +241,7 @@ TEST_F(VersionTexts, AreRefusedToOtherProductsAlthoughEveryFileIsThere) {
     for (const std::uint32_t product : {0u, 1u, 8u, 9u, 11u, 0xFFFFFFFFu}) {
       ZTKTextRef text = kUntouchedText;
       EXPECT_EQ(function(product, &text), 102u);
-      EXPECT_STREQ(text, "untouched");
+      EXPECT_EQ(Plain(text), "untouched");
     }
     EXPECT_EQ(function(10, nullptr), 102u);
     EXPECT_EQ(function(8, nullptr), 102u);
@@ -261,7 +261,7 @@ TEST_F(VersionTexts, OutliveTheFileTheyCameFrom) {
   ZTKTextRef text = nullptr;
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 100u);
   TheWorld().files.clear();
-  EXPECT_STREQ(text, "package");
+  EXPECT_EQ(Plain(text), "package");
 }
 
 }  // namespace

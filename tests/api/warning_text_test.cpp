@@ -43,7 +43,7 @@ class GetWarningTextForSetUSBAudioInput : public ApiTest {
     ZTKTextRef text = kUntouchedText;
     const ZTKResult result = ZTK_GetWarningTextForSetUSBAudioInput(
         10, channel, 101, language, &text);
-    return std::to_string(result) + " " + (text == nullptr ? "(null)" : text);
+    return std::to_string(result) + " " + Plain(text);
   }
 
   // What was looked up since the last question, without the bus.
@@ -146,7 +146,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, RefusesAnythingButAWarning) {
     ZTKTextRef text = kUntouchedText;
     EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 0, code, 0, &text),
               102u);
-    EXPECT_STREQ(text, "untouched");
+    EXPECT_EQ(Plain(text), "untouched");
   }
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
@@ -158,7 +158,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, ChecksTheOtherArgumentsFirst) {
   EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(8, 0, 101, 12, &text), 102u);
   EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 4, 101, 12, &text), 102u);
   EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 0, 100, 12, &text), 102u);
-  EXPECT_STREQ(text, "untouched");
+  EXPECT_EQ(Plain(text), "untouched");
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "fake/world.h"
-#include "platform/common/interned_text.h"
 #include "platform/text.h"
+#include "support/text.h"
 
 namespace ztk::platform::bundle {
 
@@ -15,10 +15,11 @@ struct Bundle {
 
 using fake::LogCall;
 using fake::TheWorld;
+using test::Plain;
 
 Bundle *AtPath(ZTKTextRef path) {
-  LogCall(std::string("bundle at ") + path);
-  const auto bundle = TheWorld().bundles.find(path);
+  LogCall(std::string("bundle at ") + Plain(path));
+  const auto bundle = TheWorld().bundles.find(Plain(path));
   if (bundle == TheWorld().bundles.end()) return nullptr;
   ++TheWorld().held.bundles;
   return new Bundle{.contents = bundle->second};
@@ -26,22 +27,23 @@ Bundle *AtPath(ZTKTextRef path) {
 
 ZTKTextRef ResourcePath(const Bundle *bundle) {
   if (bundle == nullptr) return nullptr;
-  return text::Format("%@", bundle->contents.resourcePath.c_str());
+  return text::Format(ZTK_TEXT("%@"),
+                      test::Lasting(bundle->contents.resourcePath));
 }
 
 ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
                          ZTKTextRef table) {
-  LogCall(std::string("localized ") + key + " of " + table);
+  LogCall(std::string("localized ") + Plain(key) + " of " + Plain(table));
   if (bundle == nullptr) return nullptr;
   const auto &tables = bundle->contents.preferredTexts;
-  const auto texts = tables.find(table);
+  const auto texts = tables.find(Plain(table));
   if (texts != tables.end()) {
-    const auto text = texts->second.find(key);
+    const auto text = texts->second.find(Plain(key));
     if (text != texts->second.end()) {
-      return common::Intern(text->second);
+      return test::Lasting(text->second);
     }
   }
-  return common::Intern(key);
+  return key;
 }
 
 void Release(Bundle *bundle) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fake/world.h"
+#include "support/text.h"
 
 namespace ztk::platform::notification_center {
 
@@ -21,6 +22,7 @@ namespace {
 using fake::LogCall;
 using fake::LogStep;
 using fake::TheWorld;
+using test::Plain;
 
 UserInfo *Keep(UserInfo userInfo) {
   static std::deque<UserInfo> kept;
@@ -42,7 +44,7 @@ std::string Describe(const UserInfo *userInfo) {
 UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
   UserInfo userInfo{.references = 1, .entries = {}};
   for (std::size_t i = 0; i < count; ++i) {
-    userInfo.entries.emplace_back(entries[i].key, entries[i].value);
+    userInfo.entries.emplace_back(Plain(entries[i].key), entries[i].value);
   }
   LogCall("make info " + Describe(&userInfo));
   ++TheWorld().held.userInfos;
@@ -66,7 +68,7 @@ void Release(UserInfo *userInfo) {
 std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
   if (userInfo == nullptr) return 0;
   for (const auto &[name, value] : userInfo->entries) {
-    if (name == key) return value;
+    if (name == Plain(key)) return value;
   }
   return 0;
 }
@@ -77,16 +79,16 @@ PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   }
   const char *when =
       delivery == Delivery::Immediately ? " immediately" : " by default";
-  LogCall(std::string("post ") + name);
-  LogStep(std::string("post ") + name + " " + Describe(userInfo) + when);
+  LogCall(std::string("post ") + Plain(name));
+  LogStep(std::string("post ") + Plain(name) + " " + Describe(userInfo) + when);
   return TheWorld().postResult;
 }
 
 void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
-  LogCall(std::string("observe ") + name + " with " + method.selector);
-  LogStep(std::string("observe ") + name + " with " + method.selector);
+  LogCall(std::string("observe ") + Plain(name) + " with " + method.selector);
+  LogStep(std::string("observe ") + Plain(name) + " with " + method.selector);
   TheWorld().observations.push_back(
-      {.name = name, .observer = observer, .method = method});
+      {.name = Plain(name), .observer = observer, .method = method});
   if (TheWorld().onObserve) TheWorld().onObserve();
 }
 

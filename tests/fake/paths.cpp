@@ -3,13 +3,14 @@
 
 #include "fake/world.h"
 #include "platform/text.h"
+#include "support/text.h"
 
 namespace ztk::platform::paths {
 
 ZTKTextRef UserLibrary() {
   const fake::World &world = fake::TheWorld();
   if (!world.hasLibrary) return nullptr;
-  return text::Format("%@", world.library.c_str());
+  return text::Format(ZTK_TEXT("%@"), test::Lasting(world.library));
 }
 
 }  // namespace ztk::platform::paths

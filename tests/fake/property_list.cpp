@@ -4,8 +4,8 @@
 #include <string>
 
 #include "fake/world.h"
-#include "platform/common/interned_text.h"
 #include "platform/common/number_rules.h"
+#include "support/text.h"
 
 namespace ztk::platform::property_list {
 
@@ -22,6 +22,7 @@ namespace {
 using fake::LogCall;
 using fake::LogStep;
 using fake::TheWorld;
+using test::Plain;
 
 std::string Describe(const fake::Value &value) {
   if (const auto *number = std::get_if<std::int32_t>(&value)) {
@@ -46,10 +47,10 @@ ReadResult Find(const std::string &path, fake::Entries *entries) {
 }  // namespace
 
 ReadResult Read(ZTKTextRef path, Dictionary **dictionary) {
-  LogCall(std::string("read file ") + path);
+  LogCall(std::string("read file ") + Plain(path));
   *dictionary = nullptr;
   fake::Entries entries;
-  const ReadResult result = Find(path, &entries);
+  const ReadResult result = Find(Plain(path), &entries);
   if (result.state == ReadState::Read) {
     ++TheWorld().held.dictionaries;
     *dictionary = new Dictionary{.entries = entries};
@@ -64,9 +65,9 @@ Dictionary *ReadFile(ZTKTextRef path) {
 }
 
 Change *BeginChange(ZTKTextRef path) {
-  LogCall(std::string("begin change of ") + path);
+  LogCall(std::string("begin change of ") + Plain(path));
   ++TheWorld().held.changes;
-  return new Change{.path = path};
+  return new Change{.path = Plain(path)};
 }
 
 void EndChange(Change *change) {
@@ -83,21 +84,21 @@ Dictionary *MakeDictionary() {
 }
 
 ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
-  LogCall(std::string("add entries of ") + path);
+  LogCall(std::string("add entries of ") + Plain(path));
   fake::Entries entries;
-  const ReadResult result = Find(path, &entries);
+  const ReadResult result = Find(Plain(path), &entries);
   for (const auto &[key, value] : entries) dictionary->entries[key] = value;
   return result;
 }
 
 void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value) {
-  LogCall(std::string("set ") + key + " " + std::to_string(value));
-  dictionary->entries[key] = value;
+  LogCall(std::string("set ") + Plain(key) + " " + std::to_string(value));
+  dictionary->entries[Plain(key)] = value;
 }
 
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
                   std::int32_t *value) {
-  const auto entry = dictionary->entries.find(key);
+  const auto entry = dictionary->entries.find(Plain(key));
   if (entry == dictionary->entries.end()) return false;
   if (const auto *number = std::get_if<std::int32_t>(&entry->second)) {
     *value = *number;
@@ -111,27 +112,27 @@ bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
 }
 
 ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key) {
-  const auto entry = dictionary->entries.find(key);
+  const auto entry = dictionary->entries.find(Plain(key));
   if (entry == dictionary->entries.end()) return nullptr;
   const auto *text = std::get_if<std::string>(&entry->second);
-  return text == nullptr ? nullptr : common::Intern(*text);
+  return text == nullptr ? nullptr : test::Lasting(*text);
 }
 
 bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
                      int *error) {
-  std::string step = std::string("write ") + path + " {";
+  std::string step = std::string("write ") + Plain(path) + " {";
   const char *separator = "";
   for (const auto &[key, value] : dictionary->entries) {
     step += separator + key + "=" + Describe(value);
     separator = ", ";
   }
-  LogCall(std::string("write ") + path);
+  LogCall(std::string("write ") + Plain(path));
   LogStep(step + "}");
   if (!TheWorld().canWrite) {
     if (error != nullptr) *error = TheWorld().writeError;
     return false;
   }
-  TheWorld().files[path] = dictionary->entries;
+  TheWorld().files[Plain(path)] = dictionary->entries;
   return true;
 }
 

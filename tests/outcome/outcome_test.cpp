@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "support/core_test.h"
+#include "support/text.h"
 
 namespace ztk::test {
 namespace {
@@ -249,7 +250,7 @@ TEST_F(Outcome, TellsOfTheTextsOfALanguage) {
       {"WARNING2", "Turn it."}};
   EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 0, 101, 0, &text), 100u);
   EXPECT_EQ(Last().read.result, 1u);
-  EXPECT_STREQ(text, "Turn it.");
+  EXPECT_EQ(Plain(text), "Turn it.");
 }
 
 TEST_F(Outcome, CountsForAQuestionAboutTheConnection) {

@@ -18,40 +18,40 @@ const ZTKTextRef kB5 = ZTK_TEXT("VRM-B5");
 class Read : public CoreTest {};
 
 TEST_F(Read, AnswersTheFallbackWithoutAFileAndCreatesNone) {
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", -8), -8);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), -8), -8);
   EXPECT_THAT(TheWorld().files, IsEmpty());
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
 TEST_F(Read, AnswersTheFallbackForAKeyThatIsNotThere) {
   TheWorld().files[kD6File] = {{"maxlevel", 2}, {"MaxLevel2", 1}};
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
 TEST_F(Read, AnswersTheFallbackForAnEntryOfAnotherKind) {
   TheWorld().files[kD6File] = {{"MaxLevel", {}}};
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
 TEST_F(Read, AnswersTheIntegerWhateverItIs) {
   for (const std::int32_t value : {0, 2, 99, -1, 2147483647, INT32_MIN}) {
     SCOPED_TRACE(value);
     TheWorld().files[kD6File] = {{"MaxLevel", value}};
-    EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), value);
+    EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), value);
   }
 }
 
 TEST_F(Read, TakesTheNumberOfAText) {
   TheWorld().files[kD6File] = {{"MaxLevel", "5"}};
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 5);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 5);
   TheWorld().files[kD6File] = {{"MaxLevel", "loud"}};
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 0);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 0);
 }
 
 TEST_F(Read, ReadsTheFileOnceAndGivesItBack) {
   TheWorld().files[kD6File] = {{"MaxLevel", 2}};
-  store::Read(kD6, "MaxLevel", 3);
+  store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kD6File,
                                        "release dictionary"));
   EXPECT_EQ(TheWorld().held, Held{});
@@ -59,22 +59,22 @@ TEST_F(Read, ReadsTheFileOnceAndGivesItBack) {
 
 TEST_F(Read, KeepsNothingFromCallToCall) {
   TheWorld().files[kD6File] = {{"MaxLevel", 2}};
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 2);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 2);
   TheWorld().files[kD6File] = {{"MaxLevel", 1}};
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 1);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 1);
   TheWorld().files.clear();
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
 TEST_F(Read, AnswersTheFallbackWithoutALibraryDirectory) {
   TheWorld().hasLibrary = false;
-  EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+  EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
 TEST_F(Read, LooksWhereTheUsersLibraryIs) {
   TheWorld().library = "/home/dj/.config/tarvix";
-  store::Read(kB5, "Input0", 0);
+  store::Read(kB5, ZTK_TEXT("Input0"), 0);
   EXPECT_THAT(TakeCalls(),
               ElementsAre("read file /home/dj/.config/tarvix/Preferences/"
                           "com.tarvix.VRM-B5autosetup.plist"));
@@ -84,7 +84,7 @@ TEST_F(Read, AnswersTheFallbackForAFileThatCannotBeRead) {
   TheWorld().files[kD6File] = {{"MaxLevel", 2}};
   for (const ReadState state : {ReadState::Unavailable, ReadState::Damaged}) {
     TheWorld().readFailures[kD6File] = {.state = state, .error = 0};
-    EXPECT_EQ(store::Read(kD6, "MaxLevel", 3), 3);
+    EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
   }
   EXPECT_EQ(TheWorld().held, Held{});
 }
@@ -93,22 +93,22 @@ class ReadChannel : public CoreTest {};
 
 TEST_F(ReadChannel, PutsTheChannelIntoTheKey) {
   TheWorld().files[kD6File] = {{"Output0", 10}, {"Output4", 14}};
-  EXPECT_EQ(store::ReadChannel(kD6, "Output%d", 0, 7), 10);
-  EXPECT_EQ(store::ReadChannel(kD6, "Output%d", 4, 7), 14);
-  EXPECT_EQ(store::ReadChannel(kD6, "Output%d", 3, 7), 7);
+  EXPECT_EQ(store::ReadChannel(kD6, ZTK_TEXT("Output%d"), 0, 7), 10);
+  EXPECT_EQ(store::ReadChannel(kD6, ZTK_TEXT("Output%d"), 4, 7), 14);
+  EXPECT_EQ(store::ReadChannel(kD6, ZTK_TEXT("Output%d"), 3, 7), 7);
 }
 
 class Write : public CoreTest {};
 
 TEST_F(Write, CreatesTheFileWithTheOneKey) {
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
 TEST_F(Write, KeepsEveryOtherKeyOfWhateverKind) {
   TheWorld().files[kD6File] = {
       {"MaxLevel", 2}, {"Foo", "bar"}, {"Other", {}}, {"Output1", "6"}};
-  store::Write(kD6, "Output0", 1);
+  store::Write(kD6, ZTK_TEXT("Output0"), 1);
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2},
                                                    {"Foo", "bar"},
                                                    {"Other", {}},
@@ -118,12 +118,12 @@ TEST_F(Write, KeepsEveryOtherKeyOfWhateverKind) {
 
 TEST_F(Write, ReplacesWhatStoodUnderTheKey) {
   TheWorld().files[kD6File] = {{"MaxLevel", "loud"}};
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
 TEST_F(Write, ReadsSetsAndWritesWithinOneChangeOfTheFile) {
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   const std::string file = kD6File;
   EXPECT_THAT(
       TakeCalls(),
@@ -137,7 +137,7 @@ TEST_F(Write, LeavesAFileAloneThatCannotBeReadNow) {
   TheWorld().files[kD6File] = {{"MaxLevel", 3}};
   TheWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
                                       .error = EMFILE};
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   const std::string file = kD6File;
   EXPECT_THAT(TakeCalls(),
               ElementsAre("begin change of " + file, "make dictionary",
@@ -149,19 +149,19 @@ TEST_F(Write, LeavesAFileAloneThatCannotBeReadNow) {
 
 TEST_F(Write, ReplacesADamagedFile) {
   TheWorld().readFailures[kD6File] = {.state = ReadState::Damaged, .error = 0};
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
 TEST_F(Write, StoresASigned32BitNumber) {
-  store::Write(kD6, "MaxLevel", 0xFFFFFFFF);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 0xFFFFFFFF);
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", -1}}));
 }
 
 TEST_F(Write, IgnoresAFailureAndLeavesTheOldFile) {
   TheWorld().files[kD6File] = {{"MaxLevel", 3}};
   TheWorld().canWrite = false;
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_THAT(TakeSteps(),
               ElementsAre(std::string("write ") + kD6File + " {MaxLevel=2}"));
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
@@ -170,14 +170,14 @@ TEST_F(Write, IgnoresAFailureAndLeavesTheOldFile) {
 
 TEST_F(Write, DoesNothingWithoutALibraryDirectory) {
   TheWorld().hasLibrary = false;
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_THAT(TakeCalls(), IsEmpty());
   EXPECT_THAT(TheWorld().files, IsEmpty());
 }
 
 TEST_F(Write, TouchesTheFileOfItsModelOnly) {
   TheWorld().files[kD6File] = {{"MaxLevel", 3}};
-  store::Write(kB5, "Input0", 1);
+  store::Write(kB5, ZTK_TEXT("Input0"), 1);
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
   EXPECT_EQ(TheWorld().files.at(kB5File), (Entries{{"Input0", 1}}));
 }
@@ -210,17 +210,17 @@ TEST_F(FileOutcome, TellsHowReadingEnded) {
   for (const auto &row : rows) {
     SCOPED_TRACE(row.expected);
     TheWorld().readFailures[kD6File] = {.state = row.state, .error = row.error};
-    store::Read(kD6, "MaxLevel", 3);
+    store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
     EXPECT_EQ(Record().read.result, row.expected);
     EXPECT_EQ(Record().read.systemCode, row.error);
   }
   TheWorld().readFailures.clear();
   TheWorld().files[kD6File] = {};
-  store::Read(kD6, "MaxLevel", 3);
+  store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_EQ(Record().read.result, ZTK_FILE_OK);
   EXPECT_EQ(Record().store.result, ZTK_FILE_NONE);
   TheWorld().hasLibrary = false;
-  store::Read(kD6, "MaxLevel", 3);
+  store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_EQ(Record().read.result, ZTK_FILE_NO_HOME);
 }
 
@@ -234,23 +234,23 @@ TEST_F(FileOutcome, TellsWhyNothingIsStored) {
   TheWorld().canWrite = false;
   for (const auto &row : rows) {
     TheWorld().writeError = row.error;
-    store::Write(kD6, "MaxLevel", 2);
+    store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
     EXPECT_EQ(Record().store.result, row.expected) << row.error;
     EXPECT_EQ(Record().store.systemCode, row.error);
   }
   TheWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
                                       .error = EMFILE};
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(Record().store.result, ZTK_FILE_CANNOT_BE_READ_NOW);
   EXPECT_EQ(Record().store.systemCode, EMFILE);
   TheWorld().hasLibrary = false;
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(Record().store.result, ZTK_FILE_NO_HOME);
 }
 
 TEST_F(FileOutcome, TellsThatADamagedFileWasReplaced) {
   TheWorld().readFailures[kD6File] = {.state = ReadState::Damaged, .error = 0};
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(Record().read.result, ZTK_FILE_DAMAGED);
   EXPECT_EQ(Record().store.result, ZTK_FILE_OK);
 }
@@ -258,8 +258,8 @@ TEST_F(FileOutcome, TellsThatADamagedFileWasReplaced) {
 class WriteChannel : public CoreTest {};
 
 TEST_F(WriteChannel, PutsTheChannelIntoTheKey) {
-  store::WriteChannel(kB5, "Input%d", 0, 2);
-  store::WriteChannel(kB5, "Input%d", 4, 1);
+  store::WriteChannel(kB5, ZTK_TEXT("Input%d"), 0, 2);
+  store::WriteChannel(kB5, ZTK_TEXT("Input%d"), 4, 1);
   EXPECT_EQ(TheWorld().files.at(kB5File),
             (Entries{{"Input0", 2}, {"Input4", 1}}));
 }

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+//
+// CoreFoundation's functions on GNUstep's Foundation, where the objects are the
+// same ones, and what of the object registry and of dispatch the programs use.
+#import <Foundation/Foundation.h>
+
+#include <IOKit/IOKitLib.h>
+#include <signal.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <deque>
+
+#include "iokit_double_objects.h"
+
+namespace ztk::iokit {
+
+CFMutableDictionaryRef MakeMatching(const char *className) {
+  // A bus of that many mixers, in a program that does not describe one.
+  const char *mixers = std::getenv("MACHO_RUN_MIXERS");
+  TheWorld().bus.assign(
+      static_cast<std::size_t>(mixers == nullptr ? 0 : std::atoi(mixers)),
+      Mixer());
+  NSMutableDictionary *made = [[NSMutableDictionary alloc] init];
+  [made setObject:[NSString stringWithUTF8String:className] forKey:@"class"];
+  return (CFMutableDictionaryRef)made;
+}
+
+std::optional<Matching> ConsumeMatching(CFDictionaryRef dictionary) {
+  NSMutableDictionary *object = (NSMutableDictionary *)dictionary;
+  const auto number = [object](NSString *key) -> std::optional<std::int32_t> {
+    NSNumber *found = [object objectForKey:key];
+    if (found == nil) return std::nullopt;
+    return [found intValue];
+  };
+  Matching matching{.className = [[object objectForKey:@"class"] UTF8String],
+                    .vendor = number(@"idVendor"),
+                    .product = number(@"idProduct")};
+  [object release];
+  return matching;
+}
+
+void ForgetObjects() {}
+
+bool SameUuid(const CFUUIDBytes &first, const CFUUIDBytes &second) {
+  return std::memcmp(&first, &second, sizeof first) == 0;
+}
+
+}  // namespace ztk::iokit
+
+namespace {
+
+volatile sig_atomic_t theSignals;  // a bit for each that came
+bool theLoopEnds;
+struct {
+  void (*handler)(void *);
+  void *context;
+} theSources[32];
+
+void OnSignal(int number) {
+  theSignals = theSignals | static_cast<int>(1U << number);
+}
+
+// Runs what signals asked for. True when the loop is to end.
+bool RunSources() {
+  for (int number = 1; number < 32; ++number) {
+    if ((static_cast<unsigned>(theSignals) & (1U << number)) == 0) continue;
+    theSignals = theSignals & ~static_cast<int>(1U << number);
+    if (theSources[number].handler != nullptr) {
+      theSources[number].handler(theSources[number].context);
+    }
+  }
+  return theLoopEnds;
+}
+
+void RunFor(double seconds) {
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  [[NSRunLoop currentRunLoop]
+         runMode:NSDefaultRunLoopMode
+      beforeDate:[NSDate dateWithTimeIntervalSinceNow:seconds]];
+  [pool drain];
+}
+
+}  // namespace
+
+extern "C" {
+
+const void *darwin_kCFAllocatorDefault;
+const void *darwin_kCFRunLoopDefaultMode;
+char darwin__dispatch_main_q[64];
+char darwin__dispatch_source_type_signal[64];
+
+void CFRelease(CFTypeRef object) { [(id)object release]; }
+CFTypeRef CFRetain(CFTypeRef object) { return [(id)object retain]; }
+bool CFEqual(CFTypeRef first, CFTypeRef second) {
+  return [(id)first isEqual:(id)second];
+}
+CFIndex CFGetRetainCount(CFTypeRef object) {
+  return static_cast<CFIndex>([(id)object retainCount]);
+}
+
+CFStringRef CFStringCreateWithCString(CFAllocatorRef /*allocator*/,
+                                      const char *text,
+                                      CFStringEncoding /*encoding*/) {
+  return (CFStringRef)[[NSString alloc] initWithUTF8String:text];
+}
+CFIndex CFStringGetLength(CFStringRef text) {
+  return static_cast<CFIndex>([(NSString *)text length]);
+}
+CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding) {
+  return length * 3;
+}
+Boolean CFStringGetCString(CFStringRef text, char *bytes, CFIndex size,
+                           CFStringEncoding) {
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  const char *from = [(NSString *)text UTF8String];
+  const bool fits = static_cast<CFIndex>(std::strlen(from)) < size;
+  if (fits) std::strcpy(bytes, from);
+  [pool drain];
+  return fits;
+}
+const char *CFStringGetCStringPtr(CFStringRef, CFStringEncoding) {
+  return nullptr;
+}
+
+CFNumberRef CFNumberCreate(CFAllocatorRef /*allocator*/, CFNumberType /*type*/,
+                           const void *value) {
+  std::int32_t number = 0;
+  std::memcpy(&number, value, sizeof number);
+  return (CFNumberRef)[[NSNumber alloc] initWithInt:number];
+}
+bool CFNumberGetValue(CFNumberRef number, CFNumberType, void *value) {
+  const std::int32_t plain = [(NSNumber *)number intValue];
+  std::memcpy(value, &plain, sizeof plain);
+  return true;
+}
+unsigned long CFNumberGetTypeID() { return 22; }
+unsigned long CFGetTypeID(CFTypeRef object) {
+  return [(id)object isKindOfClass:[NSNumber class]] ? CFNumberGetTypeID() : 0;
+}
+
+void CFDictionarySetValue(CFMutableDictionaryRef dictionary, const void *key,
+                          const void *value) {
+  [(NSMutableDictionary *)dictionary setObject:(id)value forKey:(id)key];
+}
+
+CFUUIDRef CFUUIDGetConstantUUIDWithBytes(
+    CFAllocatorRef /*allocator*/, UInt8 byte0, UInt8 byte1, UInt8 byte2,
+    UInt8 byte3, UInt8 byte4, UInt8 byte5, UInt8 byte6, UInt8 byte7,
+    UInt8 byte8, UInt8 byte9, UInt8 byte10, UInt8 byte11, UInt8 byte12,
+    UInt8 byte13, UInt8 byte14, UInt8 byte15) {
+  static std::deque<CFUUIDBytes> constants;
+  const CFUUIDBytes bytes{byte0,  byte1,  byte2,  byte3, byte4,  byte5,
+                          byte6,  byte7,  byte8,  byte9, byte10, byte11,
+                          byte12, byte13, byte14, byte15};
+  // One object for one name, wherever it is asked for.
+  for (const CFUUIDBytes &known : constants) {
+    if (ztk::iokit::SameUuid(known, bytes)) {
+      return reinterpret_cast<CFUUIDRef>(&known);
+    }
+  }
+  return reinterpret_cast<CFUUIDRef>(&constants.emplace_back(bytes));
+}
+CFUUIDBytes CFUUIDGetUUIDBytes(CFUUIDRef uuid) {
+  return *reinterpret_cast<const CFUUIDBytes *>(uuid);
+}
+
+CFTypeRef IORegistryEntryCreateCFProperty(io_object_t, CFStringRef,
+                                          CFAllocatorRef, std::uint32_t) {
+  return (CFTypeRef)[[NSNumber alloc] initWithInt:0x14100000];
+}
+kern_return_t IORegistryEntryGetRegistryEntryID(io_object_t,
+                                                std::uint64_t *entry) {
+  *entry = 1;
+  return 0;
+}
+
+double CFAbsoluteTimeGetCurrent() {
+  return [NSDate timeIntervalSinceReferenceDate];
+}
+void *CFRunLoopGetMain() { return &theLoopEnds; }
+void CFRunLoopStop(void * /*loop*/) { theLoopEnds = true; }
+void CFRunLoopRun() {
+  theLoopEnds = false;
+  while (!RunSources()) RunFor(0.02);
+}
+std::int32_t CFRunLoopRunInMode(CFStringRef, double seconds, bool) {
+  constexpr std::int32_t kTimedOut = 3;
+  constexpr double kStep = 0.02;
+  RunFor(seconds < kStep ? seconds : kStep);
+  return kTimedOut;
+}
+
+void *dispatch_source_create(const void *, std::uintptr_t number, unsigned long,
+                             void *) {
+  return &theSources[number];
+}
+void dispatch_source_set_event_handler_f(void *source,
+                                         void (*handler)(void *)) {
+  static_cast<decltype(&theSources[0])>(source)->handler = handler;
+}
+void dispatch_resume(void *source) {
+  const auto number =
+      static_cast<decltype(&theSources[0])>(source) - &theSources[0];
+  signal(static_cast<int>(number), OnSignal);
+}
+
+}  // extern "C"

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+//
+// Between the library's texts and those of a test, which are UTF-8. The one
+// place of the tests that knows what a text is on each system.
+#ifndef ZTK_TESTS_SUPPORT_TEXT_H_
+#define ZTK_TESTS_SUPPORT_TEXT_H_
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "ZTKFunc.h"
+#if !defined(__APPLE__)
+#include "platform/common/interned_text.h"
+#endif
+
+namespace ztk::test {
+
+// "(null)" for no text.
+inline std::string Plain(ZTKTextRef text) {
+  if (text == nullptr) return "(null)";
+#if defined(__APPLE__)
+  const CFIndex most = CFStringGetMaximumSizeForEncoding(
+                           CFStringGetLength(text), kCFStringEncodingUTF8) +
+                       1;
+  std::string bytes(static_cast<std::size_t>(most), '\0');
+  CFStringGetCString(text, bytes.data(), most, kCFStringEncodingUTF8);
+  return bytes.c_str();
+#else
+  return text;
+#endif
+}
+
+template <std::size_t kSize>
+std::vector<std::string> Plain(const ZTKTextRef (&texts)[kSize]) {
+  std::vector<std::string> plain;
+  for (const ZTKTextRef text : texts) plain.push_back(Plain(text));
+  return plain;
+}
+
+// A text that stays until the process ends.
+inline ZTKTextRef Lasting(const std::string &text) {
+#if defined(__APPLE__)
+  return CFStringCreateWithCString(kCFAllocatorDefault, text.c_str(),
+                                   kCFStringEncodingUTF8);
+#else
+  return platform::common::Intern(text);
+#endif
+}
+
+}  // namespace ztk::test
+
+#endif  // ZTK_TESTS_SUPPORT_TEXT_H_
