@@ -128,6 +128,7 @@ void ReplaceSettings() {
   std::memcpy(fresh, file, fileLength);
   std::memcpy(fresh + fileLength, ".floor1", sizeof ".floor1");
   MakeFresh(fresh);
+  lstat(file, &status);
   rename(fresh, file);
   const int listing =
       open(folder, O_RDONLY | O_NONBLOCK | O_DIRECTORY | O_CLOEXEC);

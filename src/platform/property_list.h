@@ -75,6 +75,10 @@ ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key);
 // be replaced; then the old file is untouched, and *error, where `error` is not
 // null, has the system's error number, or 0 where the system does not say.
 //
+// If another process has replaced the file since AddEntriesOfFile() read it,
+// nothing is written where the system can tell, and *error is ESTALE: the
+// change has to be made again on the new file.
+//
 // After AddEntriesOfFile() has found the same file unavailable, nothing is
 // written. A file that it found damaged, or from which it could not take every
 // character, is kept beside the new one where the system can.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/settings_file.h"
 
+#include <cerrno>
+
 #include "platform/paths.h"
 #include "platform/property_list.h"
 #include "platform/text.h"
@@ -18,6 +20,23 @@ const ZTKTextRef kPathFormat =
 
 ZTKTextRef MakeKey(ZTKTextRef keyFormat, std::uint32_t channel) {
   return platform::text::Format(keyFormat, static_cast<std::int32_t>(channel));
+}
+
+// Reads the file, sets the value and replaces the file. False when another
+// process has replaced the file meanwhile, so that it has to be done again.
+bool Merge(ZTKTextRef path, ZTKTextRef key, std::int32_t value) {
+  plist::Dictionary *settings = plist::MakeDictionary();
+  const plist::ReadResult read = plist::AddEntriesOfFile(settings, path);
+  int error = 0;
+  bool written = false;
+  // A file that cannot be read now may hold settings: writing would lose them.
+  if (read.state != plist::ReadState::Unavailable) {
+    plist::SetInteger(settings, key, value);
+    written = plist::WriteAtomically(settings, path, &error);
+  }
+  plist::Release(settings);
+  RecordStoring(read, written, error);
+  return written || error != ESTALE;
 }
 
 }  // namespace
@@ -56,17 +75,11 @@ void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value) {
     return;
   }
   plist::Change *change = plist::BeginChange(path.get());
-  plist::Dictionary *settings = plist::MakeDictionary();
-  const plist::ReadResult read = plist::AddEntriesOfFile(settings, path.get());
-  // A file that cannot be read now may hold settings: writing would lose them.
-  int error = 0;
-  bool written = false;
-  if (read.state != plist::ReadState::Unavailable) {
-    plist::SetInteger(settings, key, static_cast<std::int32_t>(value));
-    written = plist::WriteAtomically(settings, path.get(), &error);
+  // The lock may be missing, on some file systems or after waiting too long.
+  constexpr int kAttempts = 20;
+  for (int left = kAttempts; left > 0; --left) {
+    if (Merge(path.get(), key, static_cast<std::int32_t>(value))) break;
   }
-  RecordStoring(read, written, error);
-  plist::Release(settings);
   plist::EndChange(change);
 }
 

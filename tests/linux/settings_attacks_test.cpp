@@ -136,6 +136,19 @@ TEST_F(Locking, GoesOnWhenAnotherProcessKeepsTheLock) {
   close(other);
 }
 
+TEST_F(Locking, IsNotAllThatKeepsAnotherProcessesValue) {
+  Put(path_, old_);
+  plist::Dictionary *dictionary = plist::MakeDictionary();
+  plist::AddEntriesOfFile(dictionary, path_.c_str());
+  EXPECT_EQ(Set(path_), 0);
+  int error = 0;
+  EXPECT_FALSE(plist::WriteAtomically(dictionary, path_.c_str(), &error));
+  EXPECT_EQ(error, ESTALE);
+  plist::Release(dictionary);
+  EXPECT_EQ(ContentOf(path_), both_);
+  EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
+}
+
 TEST_F(Reading, TellsAbsentUnavailableAndDamagedFilesApart) {
   using plist::ReadResult;
   EXPECT_EQ(Read(path_), (ReadResult{.state = ReadState::Absent}));

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "store/settings_file.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "ZTKOutcome.h"
 #include "outcome/outcome.h"
 #include "support/core_test.h"
@@ -144,6 +147,17 @@ TEST_F(Write, LeavesAFileAloneThatCannotBeReadNow) {
                           "add entries of " + file, "release dictionary",
                           "end change of " + file));
   EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(TheWorld().held, Held{});
+}
+
+TEST_F(Write, IsDoneAgainWhenAnotherProcessHasReplacedTheFile) {
+  TheWorld().canWrite = false;
+  TheWorld().writeError = ESTALE;
+  store::Write(kD6, "MaxLevel", 2);
+  const std::vector<std::string> calls = TakeCalls();
+  EXPECT_EQ(std::count(calls.begin(), calls.end(),
+                       std::string("add entries of ") + kD6File),
+            20);
   EXPECT_EQ(TheWorld().held, Held{});
 }
 

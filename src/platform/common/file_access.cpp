@@ -68,12 +68,13 @@ bool WriteAll(int descriptor, std::string_view content) {
 }
 
 int ReadRegularFile(const char *path, std::size_t limit, std::string *content,
-                    int flags) {
+                    int flags, struct stat *found) {
   const Descriptor file(
       open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | flags));
   if (!file.valid()) return errno;
   struct stat status = {};
   if (fstat(file.get(), &status) != 0) return errno;
+  if (found != nullptr) *found = status;
   if (!S_ISREG(status.st_mode)) return EINVAL;
   if (status.st_size > static_cast<off_t>(limit)) return EFBIG;
 

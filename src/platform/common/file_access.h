@@ -4,6 +4,8 @@
 #ifndef ZTK_PLATFORM_COMMON_FILE_ACCESS_H_
 #define ZTK_PLATFORM_COMMON_FILE_ACCESS_H_
 
+#include <sys/stat.h>
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -46,9 +48,10 @@ bool WriteAll(int descriptor, std::string_view content);
 // when there is no file, EFBIG when it is larger, EBUSY when its size changed
 // meanwhile, EINVAL when it is no regular file.
 //
-// `flags` are added to those of open(), for example O_NOFOLLOW.
+// `flags` are added to those of open(), for example O_NOFOLLOW. *status, where
+// `status` is not null, describes the file that was read.
 int ReadRegularFile(const char *path, std::size_t limit, std::string *content,
-                    int flags = 0);
+                    int flags = 0, struct stat *status = nullptr);
 
 }  // namespace ztk::platform
 

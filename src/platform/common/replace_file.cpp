@@ -106,8 +106,18 @@ int LookAtOldFile(const std::string &file, std::optional<struct stat> *old) {
   return 0;
 }
 
+// True when the file is still the one that `expected` describes. A replaced one
+// has another inode, or, where the number is used again, another time.
+bool IsStill(const struct stat &expected, const std::string &file) {
+  struct stat now = {};
+  return lstat(file.c_str(), &now) == 0 && now.st_dev == expected.st_dev &&
+         now.st_ino == expected.st_ino && now.st_size == expected.st_size &&
+         now.st_mtime == expected.st_mtime && now.st_ctime == expected.st_ctime;
+}
+
 // Answers 0 or the error number.
-int Replace(const std::string &path, std::string_view content, bool keepOld) {
+int Replace(const std::string &path, std::string_view content, bool keepOld,
+            const struct stat *expected) {
   const SignalHold hold;
   MakeFolders(path, kMaxMissingFolders);
   const std::optional<std::string> file = FollowLinks(path);
@@ -123,7 +133,8 @@ int Replace(const std::string &path, std::string_view content, bool keepOld) {
   std::string fresh;
   error = WriteNewFile(*file, content, model, &fresh);
   if (error != 0) return error;
-  error = PutInPlace(fresh, *file, keepOld);
+  const bool changed = expected != nullptr && !IsStill(*expected, *file);
+  error = changed ? ESTALE : PutInPlace(fresh, *file, keepOld);
   if (error != 0) {
     unlink(fresh.c_str());
     return error;
@@ -136,9 +147,10 @@ int Replace(const std::string &path, std::string_view content, bool keepOld) {
 }  // namespace
 
 bool ReplaceFile(const std::string &path, std::string_view content,
-                 bool keepOld, int *error) {
+                 bool keepOld, int *error, const struct stat *expected) {
   const OwnerIdentity identity(path);
-  const int reason = identity.good() ? Replace(path, content, keepOld) : EPERM;
+  const int reason =
+      identity.good() ? Replace(path, content, keepOld, expected) : EPERM;
   if (error != nullptr) *error = reason;
   return reason == 0;
 }

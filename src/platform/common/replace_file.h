@@ -2,6 +2,8 @@
 #ifndef ZTK_PLATFORM_COMMON_REPLACE_FILE_H_
 #define ZTK_PLATFORM_COMMON_REPLACE_FILE_H_
 
+#include <sys/stat.h>
+
 #include <string>
 #include <string_view>
 
@@ -30,8 +32,13 @@ namespace ztk::platform {
 // programs have left of earlier replacements of this file is removed once it
 // is older than a day. A process that may not write so large a file is not
 // killed for it (SIGXFSZ).
+//
+// `expected` may describe the file that the content was made from. If another
+// one is there by now, because another process has replaced it, the file is not
+// replaced, and the error number is ESTALE.
 bool ReplaceFile(const std::string &path, std::string_view content,
-                 bool keepOld, int *error = nullptr);
+                 bool keepOld, int *error = nullptr,
+                 const struct stat *expected = nullptr);
 
 }  // namespace ztk::platform
 

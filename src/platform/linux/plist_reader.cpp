@@ -138,14 +138,16 @@ FileContent ReadContent(const char *path) {
   bool same = false;
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     if (attempt > 0) Pause(kPause);
-    const int error = ReadRegularFile(path, kMaxFileSize, &bytes);
+    struct stat status = {};
+    const int error = ReadRegularFile(path, kMaxFileSize, &bytes, 0, &status);
     if (error == EBUSY) {
       before.reset();
       same = false;
       continue;
     }
     if (error != 0) return {.result = ResultOf(error)};
-    const FileContent content = ContentOf(bytes);
+    FileContent content = ContentOf(bytes);
+    content.status = status;
     if (content.result.state != ReadState::Damaged) return content;
     same = before == bytes;
     before = bytes;

@@ -3,6 +3,9 @@
 #define ZTK_PLATFORM_LINUX_PLIST_READER_H_
 
 #include <plist/plist.h>
+#include <sys/stat.h>
+
+#include <optional>
 
 #include "platform/property_list.h"
 
@@ -16,6 +19,8 @@ struct FileContent {
   plist_t root = nullptr;
   // A character was replaced by U+FFFD: the file has more than `root`.
   bool incomplete = false;
+  // Describes the file where there is one that could be opened.
+  std::optional<struct stat> status = {};
 };
 
 // Reads a file. One that does not parse may be a file that another program is

@@ -9,6 +9,7 @@
 
 #include <cerrno>
 #include <new>
+#include <optional>
 #include <string>
 
 #include "platform/common/file_change.h"
@@ -28,6 +29,7 @@ struct Dictionary {
   std::string addedFrom = {};
   ReadResult added = {};
   bool addedIncomplete = false;
+  std::optional<struct stat> addedStatus = {};
   // Memory ran out while it was filled: it may lack entries.
   bool lacksMemory = false;
 };
@@ -104,6 +106,7 @@ ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) try {
   dictionary->addedFrom = path;
   dictionary->added = content.result;
   dictionary->addedIncomplete = content.incomplete;
+  dictionary->addedStatus = content.status;
   return content.result;
 } catch (const std::bad_alloc &) {
   dictionary->lacksMemory = true;
@@ -169,7 +172,8 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
     return false;
   }
   const std::string xml = MakeXml(dictionary->root);
-  if (xml.empty() || dictionary->lacksMemory) {
+  const bool complete = dictionary->root != nullptr && !dictionary->lacksMemory;
+  if (xml.empty() || !complete) {
     *reason = ENOMEM;
     return false;
   }
@@ -182,7 +186,9 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
   const bool keepOld =
       sameFile && (dictionary->added.state == ReadState::Damaged ||
                    dictionary->addedIncomplete);
-  return ReplaceFile(path, xml, keepOld, reason);
+  const bool hasStatus = sameFile && dictionary->addedStatus;
+  return ReplaceFile(path, xml, keepOld, reason,
+                     hasStatus ? &*dictionary->addedStatus : nullptr);
 } catch (const std::bad_alloc &) {
   if (error != nullptr) *error = ENOMEM;
   return false;
