@@ -103,8 +103,8 @@ TEST_F(Help, TellsTheVersion) {
   const Result result = NoMixer("ztk --version; ztk --version --json");
   const std::vector<std::string> lines = SplitLines(result.out);
   ASSERT_EQ(lines.size(), 2U);
-  EXPECT_EQ(lines[0], "ztk " ZTK_VERSION);
-  EXPECT_EQ(OneObject(lines[1])["version"], ZTK_VERSION);
+  EXPECT_EQ(lines[0], "ztk " ZTK_PROGRAM_VERSION);
+  EXPECT_EQ(OneObject(lines[1])["version"], ZTK_PROGRAM_VERSION);
 }
 
 // Every example is run, so that none of them is a lie. Tested by themselves:

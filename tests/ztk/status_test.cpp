@@ -133,10 +133,11 @@ TEST_F(Versions, SaysWhatIsNotInstalled) {
                                      "Driver   not installed\n"
                                      "Utility  not installed\n"
                                      "Library  not installed\n"
-                                     "ztk      " ZTK_VERSION "\n"));
+                                     "ztk      " ZTK_PROGRAM_VERSION "\n"));
   EXPECT_EQ(OneObject(LastLine(result.out) + "\n")["versions"],
             Json::parse(R"({"package":null,"driver":null,"utility":null,
-                            "library":null,"ztk":")" ZTK_VERSION R"("})"));
+                            "library":null,"ztk":")" ZTK_PROGRAM_VERSION
+                        R"("})"));
 }
 
 TEST_F(Versions, ShowsWhatIs) {

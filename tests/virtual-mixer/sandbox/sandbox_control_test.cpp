@@ -216,7 +216,7 @@ TEST_F(Control, HasHelpWithAnExampleForEachCommand) {
               HasSubstr("reply [OPTIONS] REGISTER BYTES\n"));
   EXPECT_THAT(Tool({"fault", "--help"}).out,
               HasSubstr("fault [OPTIONS] FAULT\n"));
-  EXPECT_THAT(Tool({"--version"}).out, EndsWith(" " ZTK_VERSION "\n"));
+  EXPECT_THAT(Tool({"--version"}).out, EndsWith(" " ZTK_PROGRAM_VERSION "\n"));
 }
 
 }  // namespace
