@@ -169,7 +169,7 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
 
 // The interface in the snapshot goes with its iterator; what outlives it is a
 // connection of its own.
-Device *MakeReady(Device *device, Result *result) {
+Device *MakeReady(Device *device, Result *result) try {
   const int node = OpenNode(device->facts, result);
   if (node < 0) return nullptr;
   auto *connection = new (std::nothrow)
@@ -179,6 +179,9 @@ Device *MakeReady(Device *device, Result *result) {
     *result = ResultOfOpening(ENOMEM);
   }
   return connection;
+} catch (const std::bad_alloc &) {
+  *result = ResultOfOpening(ENOMEM);
+  return nullptr;
 }
 
 Code Request(Device *device, ControlRequest *request) {
