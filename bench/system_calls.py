@@ -72,8 +72,10 @@ class Trace:
     def add(self, name, arguments, result):
         is_lstat = name == "lstat" or "AT_SYMLINK_NOFOLLOW" in arguments
         name = SAME.get(name, name)
-        # Only root asks to whom the folders above a settings file belong.
-        if name == "stat" and is_lstat and not PLIST_AT_END.search(arguments):
+        # Only root asks to whom the path of a settings file belongs.
+        if name == "stat" and is_lstat and (
+                not PLIST_AT_END.search(arguments) or
+                self.calls[-1:] == ["geteuid"]):
             return
         if name in C_LIBRARY or name in WAITING:
             return
@@ -117,6 +119,7 @@ class Trace:
         text = SANDBOX.sub("", text).replace(self.home, "~")
         if text.startswith("/proc/self/fd/"):
             return "/proc/self/fd"
+        text = text.rstrip("/")
         return re.sub(r"(\.plist)\.\w{6}$", r"\1.NEW", text)
 
     @staticmethod
