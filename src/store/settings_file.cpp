@@ -3,20 +3,16 @@
 
 #include <cerrno>
 
-#include "platform/paths.h"
 #include "platform/property_list.h"
 #include "platform/text.h"
 #include "store/file_outcome.h"
+#include "store/settings_path.h"
 
 namespace ztk::store {
 namespace {
 
 namespace plist = platform::property_list;
 using platform::text::Made;
-
-// Fixed: no separator stands between the model and "autosetup".
-const ZTKTextRef kPathFormat =
-    ZTK_TEXT("%@/Preferences/com.tarvix.%@autosetup.plist");
 
 ZTKTextRef MakeKey(ZTKTextRef keyFormat, std::uint32_t channel) {
   return platform::text::Format(keyFormat, static_cast<std::int32_t>(channel));
@@ -40,12 +36,6 @@ bool Merge(ZTKTextRef path, ZTKTextRef key, std::int32_t value) {
 }
 
 }  // namespace
-
-ZTKTextRef MakePath(ZTKTextRef model) {
-  const Made library(platform::paths::UserLibrary());
-  if (library.get() == nullptr) return nullptr;
-  return platform::text::Format(kPathFormat, library.get(), model);
-}
 
 std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback) {
   const Made path(MakePath(model));

@@ -13,10 +13,6 @@
 
 namespace ztk::store {
 
-// Makes the path of the model's file; the caller gives it back with
-// text::Release(). Null when the user has no home. There may be no such file.
-ZTKTextRef MakePath(ZTKTextRef model);
-
 // Answers the integer under a key of the model's file, whatever its value, or
 // `fallback` when the file is missing or cannot be read, or has no such key.
 // Creates nothing.

@@ -12,7 +12,7 @@
 #include "platform/paths.h"
 #include "platform/property_list.h"
 #include "platform/text.h"
-#include "store/settings_file.h"
+#include "store/settings_path.h"
 #include "ztk/doctor/finding.h"
 #include "ztk/system/text.h"
 

@@ -4,7 +4,7 @@
 #include "api/input_audio.h"
 #include "api/status.h"
 #include "platform/text.h"
-#include "store/settings_file.h"
+#include "store/settings_path.h"
 #include "usb/USB.h"
 #include "ztk/model/remembered.h"
 #include "ztk/system/places.h"

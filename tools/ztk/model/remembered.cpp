@@ -2,7 +2,7 @@
 #include "ztk/model/remembered.h"
 
 #include "platform/text.h"
-#include "store/settings_file.h"
+#include "store/settings_path.h"
 
 namespace ztk::model {
 
