@@ -162,6 +162,15 @@ def with_fault(text, fault):
     return text[:fault.start] + fault.replacement + text[fault.end:]
 
 
+def function_of(text, fault):
+    """The name of the function that the fault is in; empty outside of one."""
+    before = text[:fault.start]
+    heads = list(re.finditer(r"^[A-Za-z_][^\n;{}=#]*?(\w+)\(", before, re.M))
+    if not heads or re.search(r"^}", before[heads[-1].start():], re.M):
+        return ""
+    return heads[-1][1]
+
+
 def description(text, fault):
     """One line that names the fault: what is dropped, or the changed line."""
     if fault.rule == "drop a statement":

@@ -91,5 +91,13 @@ class Description(unittest.TestCase):
              "drop a statement: Send(c)"])
 
 
+    def test_names_the_function(self):
+        text = ("int A(int b) {\n  return 1;\n}\n\nconstexpr int kC = 2;\n\n"
+                "int D(int e,\n      int f) {\n  return 3;\n}\n")
+        self.assertEqual([fault_rules.function_of(text, fault)
+                          for fault in fault_rules.faults_in(text)],
+                         ["A", "", "D"])
+
+
 if __name__ == "__main__":
     unittest.main(argv=sys.argv[:1])
