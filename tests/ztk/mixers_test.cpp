@@ -97,9 +97,8 @@ TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
     const char *told;
     const char *message;
   } rows[] = {
-      {"stall@r8001", "0/1 1:refused", "mixer 1 refuses what it is asked"},
-      {"silence@r8001", "0/1 1:silent", "mixer 1 does not answer"},
-      {"unplug@r8001", "0/1 1:gone", "mixer 1 is gone"},
+      {"stall@w8003", "0/1 1:refused", "mixer 1 refuses the value"},
+      {"silence@w8003", "0/1 1:silent", "mixer 1 does not answer"},
       {"unplug@w8003", "0/1 1:gone", "mixer 1 is gone"},
   };
   for (const auto &row : rows) {
@@ -119,20 +118,52 @@ TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
   }
 }
 
-TEST_F(Reach, TellsWhichMixerWasUnpluggedByTheNumberThatItHad) {
-  const Result result = Inside(
-      {"-n", "3", "--fault", "1:unplug@w8003", "--fault", "3:stall@r8001"},
-      "ztk boost set 2 --json");
-  EXPECT_EQ(result.status, 6);
-  EXPECT_EQ(Told(OneObject(result.out)), "1/3 1:gone 3:refused");
+// A question afterwards would be answered: only the value is refused.
+TEST_F(Reach, NamesARefusedValueOfEverySettingThatTheMixerHas) {
+  const struct {
+    const char *fault;
+    const char *command;
+    int status;
+    const char *told;
+  } rows[] = {
+      {"stall@w8002", "input set 2 3", 3, "0/1 1:refused"},
+      {"silence@w8002", "input set 2 3", 3, "0/1 1:silent"},
+      {"stall@w8003", "boost apply", 3, "0/1 1:refused"},
+      {"silence@w8003", "apply", 3, "0/1 1:silent"},
+      {"stall@w8002", "input raw 1 0 5", 3, "0/1 1:refused"},
+      {"stall@w8016", "output default 1", 3, "0/1 1:refused"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(std::string(row.command) + " with " + row.fault);
+    Remember("VRM-D6", {{"MaxLevel", 2}});
+    const Result result = Inside({"-n", "1", "--fault", row.fault},
+                                 "ztk " + std::string(row.command) + " --json");
+    EXPECT_EQ(result.status, row.status);
+    EXPECT_EQ(Told(OneObject(result.out)), row.told);
+    EXPECT_EQ(ErrorWord(OneObject(result.out)), "no-mixer");
+  }
 }
 
-TEST_F(Reach, SaysThatASentValueWasNotAnswered) {
+TEST_F(Reach, SendsNothingBesideWhatTheLibrarySends) {
+  EXPECT_EQ(OneMixer("ztk boost set 2").status, 0);
+  EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
+}
+
+// The library passes over the mixer behind one that is unplugged.
+TEST_F(Reach, TellsWhichMixerWasUnpluggedByTheNumberThatItHad) {
+  const Result result = Inside(
+      {"-n", "3", "--fault", "1:unplug@w8003", "--fault", "3:stall@w8003"},
+      "ztk boost set 2 --json");
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(Told(OneObject(result.out)), "0/3 1:gone 2:busy 3:refused");
+}
+
+TEST_F(Reach, SaysThatTheMixerRefusedTheValue) {
   const Result result = Inside({"-n", "1", "--fault", "stall"},
                                "ztk boost set 2; ztk boost apply");
   EXPECT_EQ(result.out,
-            "Boost level: 2 -10 dB, sent, but not answered, remembered\n"
-            "Boost level: 2 -10 dB, sent, but not answered\n");
+            "Boost level: 2 -10 dB, refused by the mixer, remembered\n"
+            "Boost level: 2 -10 dB, refused by the mixer\n");
 }
 
 TEST_F(Reach, IsSevenWhenTheValueCouldNotBeRemembered) {
@@ -145,7 +176,8 @@ TEST_F(Reach, IsSevenWhenTheValueCouldNotBeRemembered) {
   EXPECT_EQ(Told(json), "1/1");
   EXPECT_EQ(ErrorWord(json), "not-remembered");
   EXPECT_THAT(result.err, HasSubstr("Boost level is sent to 1 mixer, but not "
-                                    "remembered; make sure"));
+                                    "remembered: "));
+  EXPECT_THAT(result.err, HasSubstr("; make sure that you can write to "));
   EXPECT_THAT(result.err, HasSubstr(".config/tarvix/Preferences"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
 }
@@ -157,31 +189,32 @@ TEST_F(Reach, IsFiveWhenTheValueWentNowhere) {
   EXPECT_EQ(result.out, "Boost level: 1 -5 dB, not sent, not remembered\n");
   EXPECT_THAT(result.err,
               StartsWith("ztk: Boost level is neither sent nor remembered: no "
-                         "mixer is attached; make sure that you can write "));
+                         "mixer is attached; "));
+  EXPECT_THAT(result.err, HasSubstr("; make sure that you can write to "));
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
 }
 
 TEST_F(Reach, IsFiveWhenWhatIsNotRememberedWasNotAnsweredEither) {
   WriteAll(home_.path() / ".config/tarvix/Preferences", "");
   const Result result =
-      Inside({"-n", "1", "--fault", "stall@r8001"}, "ztk boost set 1");
+      Inside({"-n", "1", "--fault", "stall@w8003"}, "ztk boost set 1");
   EXPECT_EQ(result.status, 5);
   EXPECT_THAT(result.err,
               StartsWith("ztk: Boost level is sent, but not answered, and not "
-                         "remembered: mixer 1 refuses what it is asked; "));
+                         "remembered: mixer 1 refuses the value; "));
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
 }
 
 TEST_F(Reach, DoesNotSayThatWhatWasNotRememberedCanBeApplied) {
   WriteAll(home_.path() / ".config/tarvix/Preferences", "");
   const Result result =
-      Inside({"-n", "2", "--fault", "2:stall@r8001"}, "ztk boost set 1");
+      Inside({"-n", "2", "--fault", "2:stall@w8003"}, "ztk boost set 1");
   EXPECT_EQ(result.status, 7);
   EXPECT_THAT(result.err, HasSubstr("warning: only 1 of 2 mixers answered; "
                                     "once the others do, set it again\n"));
   EXPECT_THAT(LastLine(result.err),
               StartsWith("ztk: Boost level is sent to 1 of 2 mixers, but not "
-                         "remembered; "));
+                         "remembered: "));
 }
 
 TEST_F(Reach, IsThreeForWhatIsNeverRemembered) {

@@ -22,8 +22,7 @@ TEST_F(InputSet, SendsRemembersAndReadsTheSelector) {
   EXPECT_THAT(result.err, IsEmpty());
   EXPECT_THAT(Requests(),
               ElementsAre("mixer 1: 40 03 0206 8002 0000",
-                          "mixer 1: c0 00 0000 8002 0005 -> 00 04 04 04 04",
-                          "mixer 1: c0 00 0000 8001 0002 -> 36 04"));
+                          "mixer 1: c0 00 0000 8002 0005 -> 00 04 04 04 04"));
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")),
               HasSubstr("<key>Output1</key>"));
 }

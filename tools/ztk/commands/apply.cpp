@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Sending what is remembered again.
+#include <algorithm>
+
 #include "cli/strings.h"
 #include "ztk/commands/setting_commands.h"
 #include "ztk/commands/setting_parts.h"
@@ -72,17 +74,13 @@ Report PlanOfApply(std::vector<StoredValue> settings) {
   Plan plan;
   Report report;
   report.fields["settings"] = Json::array();
-  std::size_t refused = 0;
   for (StoredValue &value : settings) {
     value.refused = WouldBeRefused(value);
-    if (value.refused) {
-      ++refused;
-    } else {
+    if (!value.refused) {
       plan.AddSendingAgain(*value.setting, value.channel, value.index);
     }
     AddSettingFields(value, &report);
   }
-  if (refused < settings.size()) plan.AddQuestion();
   ReportDryRun(plan, &report);
   AddRefused(settings, &report);
   return report;
@@ -107,15 +105,18 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
   }
   if (arguments.Has(Parameter::DryRun)) return PlanOfApply(settings);
 
-  const Sent sent = [&settings] {
+  const Reach reach = [&settings] {
     const Progress progress(kWaitingForMixer);
     return SendAgain(&settings);
   }();
   for (const StoredValue &value : settings) {
-    AddSetting(value, sent.reach, &report);
+    AddSetting(value, reach, &report);
   }
-  if (sent.result != ZTK_REJECTED) {
-    ReportReach(sent.reach,
+  const bool allRefused =
+      std::all_of(settings.begin(), settings.end(),
+                  [](const StoredValue &value) { return value.refused; });
+  if (!allRefused) {
+    ReportReach(reach,
                 {.notSent = "nothing was sent",
                  .notAnswered = "all was sent, but not answered",
                  .remedy = "what is remembered stays so; try again",

@@ -97,7 +97,6 @@ Report Import(const Arguments &arguments) {
   if (arguments.Has(Parameter::DryRun)) {
     Plan plan;
     for (const Change &change : changes) plan.AddChange(change);
-    plan.AddQuestion();
     ReportDryRun(plan, &report);
     return report;
   }

@@ -5,6 +5,7 @@
 #include "cli/strings.h"
 #include "ztk/commands/setting_parts.h"
 #include "ztk/commands/warning.h"
+#include "ztk/progress.h"
 #include "ztk/report/dry_run_report.h"
 
 namespace ztk::program {
@@ -53,7 +54,6 @@ Report PlanOfRaw(const Setting &setting, std::uint32_t product,
   }
   Plan plan;
   plan.AddRaw(raw.channel, raw.high, raw.source);
-  plan.AddQuestion();
   Report report;
   AddSettingNames(setting, product, &report);
   AddRawFields(setting, raw, &report);
@@ -72,23 +72,27 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
   if (arguments.Has(Parameter::DryRun)) {
     return PlanOfRaw(setting, product, raw);
   }
-  const Sent sent = Send([&] {
-    return ZTK_SetUSBInputAudioDirect(product, channel, raw.high, raw.source);
-  });
-  if (sent.result == ZTK_REJECTED) {
+  RecordedCalls calls;
+  const ZTKResult result = [&] {
+    const Progress progress(kWaitingForMixer);
+    return calls.Call([&] {
+      return ZTK_SetUSBInputAudioDirect(product, channel, raw.high, raw.source);
+    });
+  }();
+  if (result == ZTK_REJECTED) {
     ThrowRejected(setting, product, raw.InWords() + kAcceptedSources);
   }
   Report report;
   AddSettingNames(setting, product, &report);
   AddRawFields(setting, raw, &report);
-  report.fields["result"] = sent.result;
+  report.fields["result"] = result;
   report.text = PlaceName(setting, channel) + ": " + raw.InWords() + ", " +
-                Described(sent.reach) + ", not remembered\n";
-  ReportReach(sent.reach, NeverRemembered("the value", "ztk input raw"),
+                Described(calls.reach()) + ", not remembered\n";
+  ReportReach(calls.reach(), NeverRemembered("the value", "ztk input raw"),
               &report);
   // The same sentence again; this value never is.
-  if (sent.result == ZTK_WARNING && sent.reach.found() > 0) {
-    ExplainWarning(channel, sent.reach, &report);
+  if (result == ZTK_WARNING && calls.reach().found() > 0) {
+    ExplainWarning(channel, calls.reach(), &report);
   }
   return report;
 }

@@ -2,8 +2,8 @@
 #include "ztk/commands/setting_commands.h"
 
 #include "ztk/commands/setting_parts.h"
+#include "ztk/progress.h"
 #include "ztk/report/dry_run_report.h"
-#include "ztk/system/announcement.h"
 
 namespace ztk::program {
 
@@ -16,7 +16,6 @@ Report PlanOfDefault(const Setting &setting, std::uint32_t product,
   for (const std::uint32_t channel : channels) {
     plan.AddDefault(setting, channel);
   }
-  plan.AddQuestion();
   Report report;
   AddSettingNames(setting, product, &report);
   ReportDryRun(plan, &report);
@@ -34,18 +33,19 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
   if (arguments.Has(Parameter::DryRun)) {
     return PlanOfDefault(setting, product, channels);
   }
-  BusWitness witness({setting.notice});
-  const Sent sent = Send([&] {
-    ZTKResult result = ZTK_SUCCESS;
-    for (const std::uint32_t channel : channels) {
-      result = ZTK_SetUSBOutputAudioDefault(product, channel);
-    }
-    return result;
-  });
-  if (sent.result != ZTK_SUCCESS) {
-    ThrowRejected(setting, product, "the default");
-  }
+  RecordedCalls calls;
+  ZTKResult result = ZTK_SUCCESS;
   bool announced = true;
+  {
+    const Progress progress(kWaitingForMixer);
+    for (const std::uint32_t channel : channels) {
+      result = calls.Call(
+          [&] { return ZTK_SetUSBOutputAudioDefault(product, channel); });
+      announced = announced &&
+                  calls.last().announcement.result == ZTK_ANNOUNCEMENT_SENT;
+    }
+  }
+  if (result != ZTK_SUCCESS) ThrowRejected(setting, product, "the default");
   for (const std::uint32_t channel : channels) {
     // The default of a channel is the choice with its own number.
     Json fields;
@@ -53,16 +53,12 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
     report.fields["channels"].push_back(std::move(fields));
     report.text += PlaceName(setting, channel) + ": default " +
                    DescribedValue(setting, channel, channel) + ", " +
-                   Described(sent.reach) + ", not remembered\n";
-    announced = announced && witness.Heard({.setting = setting.notice,
-                                            .product = product,
-                                            .channel = channel,
-                                            .index = channel});
+                   Described(calls.reach()) + ", not remembered\n";
   }
-  report.fields["result"] = sent.result;
+  report.fields["result"] = result;
   report.fields["announced"] = announced;
-  ReportReach(sent.reach, NeverRemembered("the default", "ztk output default"),
-              &report);
+  ReportReach(calls.reach(),
+              NeverRemembered("the default", "ztk output default"), &report);
   if (!announced) WarnOfMissingBus(&report);
   return report;
 }

@@ -47,7 +47,6 @@ Report PlanOfSet(const Change &change, const Choice &choice) {
   CheckServed(setting, change.product, cli::Quoted(choice.text));
   Plan plan;
   plan.AddChange(change);
-  plan.AddQuestion();
   Report report;
   AddSettingNames(setting, change.product, &report);
   AddValueFields(setting, change.channel, change.index, &report.fields);

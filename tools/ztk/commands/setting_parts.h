@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "ztk/commands/command_table.h"
-#include "ztk/progress.h"
 #include "ztk/report/change_report.h"
 #include "ztk/report/setting_report.h"
 
@@ -49,14 +48,6 @@ void AddSettingNames(const Setting &setting, std::uint32_t product,
 // The sentences for something that is sent and never remembered.
 DeliveryTexts NeverRemembered(const std::string &what,
                               const std::string &command);
-
-// Calls a function of the library that sends, and shows when a mixer has to be
-// waited for.
-template <typename Function>
-Sent Send(Function send) {
-  const Progress progress(kWaitingForMixer);
-  return SendAndLook(send);
-}
 
 }  // namespace ztk::program
 

@@ -117,7 +117,6 @@ void ReportPlan(const std::vector<Change> &changes, Report *report) {
       refused.changes.push_back({.change = change, .result = ZTK_REJECTED});
     }
   }
-  if (refused.changes.size() < changes.size()) plan.AddQuestion();
   ReportDryRun(plan, report);
   AddRefused(refused, report);
 }

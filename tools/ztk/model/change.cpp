@@ -1,57 +1,54 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/change.h"
 
-#include <algorithm>
-
-#include "ztk/model/remembered.h"
-#include "ztk/system/announcement.h"
-
 namespace ztk::model {
 
 namespace {
 
-std::vector<const notify::AnnouncedSetting *> Notices(
-    const std::vector<Change> &changes) {
-  std::vector<const notify::AnnouncedSetting *> notices;
-  for (const Change &change : changes) {
-    const notify::AnnouncedSetting *notice = change.setting->notice;
-    if (std::find(notices.begin(), notices.end(), notice) == notices.end()) {
-      notices.push_back(notice);
-    }
+std::string WhyNotStored(const ZTKFileOutcome &store) {
+  switch (store.result) {
+    case ZTK_FILE_NO_HOME:
+      return "you have no home folder";
+    case ZTK_FILE_NO_FOLDER:
+      return "its folder does not exist and cannot be made";
+    case ZTK_FILE_NOT_PERMITTED:
+      return "you have no permission";
+    case ZTK_FILE_READ_ONLY:
+      return "the file system is read-only";
+    case ZTK_FILE_FULL:
+      return "the file system or your quota is full";
+    case ZTK_FILE_CANNOT_BE_READ_NOW:
+      return "the settings file cannot be read at the moment";
+    case ZTK_FILE_NOT_REGULAR:
+      return "a folder or a device has the name of the settings file";
+    default:
+      break;
   }
-  return notices;
+  return store.systemCode == 0 ? "the settings file cannot be written"
+                               : SystemErrorText(store.systemCode);
 }
 
 }  // namespace
 
 MadeChanges MakeChanges(const std::vector<Change> &changes) {
   MadeChanges made;
-  BusWitness witness(Notices(changes));
-  const Sent sent = SendAndLook([&] {
-    ZTKResult all = ZTK_REJECTED;
-    for (const Change &change : changes) {
-      made.changes.push_back(
-          {.change = change,
-           .result = change.setting->set(change.product, change.channel,
-                                         change.index)});
-      if (made.changes.back().result != ZTK_REJECTED) all = ZTK_SUCCESS;
+  RecordedCalls calls;
+  for (const Change &change : changes) {
+    MadeChange one{.change = change};
+    one.result = calls.Call([&change] {
+      return change.setting->set(change.product, change.channel, change.index);
+    });
+    if (one.result != ZTK_REJECTED) {
+      const ZTKOutcome &outcome = calls.last();
+      one.remembered = outcome.store.result == ZTK_FILE_OK;
+      if (!one.remembered) one.notStored = WhyNotStored(outcome.store);
+      one.replacedDamaged =
+          one.remembered && outcome.read.result == ZTK_FILE_DAMAGED;
+      one.announced = outcome.announcement.result == ZTK_ANNOUNCEMENT_SENT;
     }
-    return all;
-  });
-  made.reach = sent.reach;
-  for (MadeChange &one : made.changes) {
-    if (one.result == ZTK_REJECTED) continue;
-    const Change &change = one.change;
-    one.remembered =
-        Remembered(*change.setting, change.channel) == change.index;
-    one.announced =
-        witness.Heard({.setting = change.setting->notice,
-                       .product = change.product,
-                       .channel = change.setting->channels == 0
-                                      ? std::nullopt
-                                      : std::optional(change.channel),
-                       .index = change.index});
+    made.changes.push_back(std::move(one));
   }
+  made.reach = calls.reach();
   return made;
 }
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// Changing settings, and the truth about what came of it: the library answers
-// the same whether a mixer, the settings file and the bus took the value.
+// Changes of settings, and what became of them: which mixers accepted the
+// value, whether it was stored and whether it was announced.
 #ifndef ZTK_TOOLS_ZTK_MODEL_CHANGE_H_
 #define ZTK_TOOLS_ZTK_MODEL_CHANGE_H_
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "ztk/model/mixers.h"
@@ -24,8 +25,13 @@ struct Change {
 struct MadeChange {
   Change change;
   ZTKResult result = ZTK_REJECTED;
-  bool remembered = false;  // it stands in the file
-  bool announced = false;   // the bus has carried it
+  bool remembered = false;  // it is stored in the settings file
+  bool announced = false;   // the message bus has taken the announcement
+  // Why it is not stored, as a part of a sentence; else empty.
+  std::string notStored = {};
+  // The settings file was damaged. It is kept under another name, and a new one
+  // holds the value.
+  bool replacedDamaged = false;
 };
 
 struct MadeChanges {
@@ -33,8 +39,9 @@ struct MadeChanges {
   Reach reach;
 };
 
-// Makes them with the library's setters, in this order. Throws nothing: a
-// change that the library refuses says so.
+// Makes them with the library's setters, in this order, and takes what became
+// of them from the library's record. A change that the library rejects has sent
+// and stored nothing.
 MadeChanges MakeChanges(const std::vector<Change> &changes);
 
 }  // namespace ztk::model

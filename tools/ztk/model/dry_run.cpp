@@ -2,7 +2,6 @@
 #include "ztk/model/dry_run.h"
 
 #include "api/input_audio.h"
-#include "api/status.h"
 #include "platform/text.h"
 #include "store/settings_path.h"
 #include "usb/USB.h"
@@ -126,11 +125,6 @@ void Plan::AddRaw(std::uint32_t channel, std::uint32_t high,
                     input_audio::DirectValue(channel, high, source)));
   AddSelectors(kInput, channel == input_audio::kLastChannel &&
                            source < input_audio::kSourceWarnsBelow.withMixer);
-}
-
-void Plan::AddQuestion() {
-  AddToEach(
-      Reading(usb::kFirmwareVersionRegister, status::kFirmwareVersionLength));
 }
 
 }  // namespace ztk::model

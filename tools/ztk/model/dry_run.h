@@ -57,8 +57,6 @@ class Plan {
   void AddDefault(const Setting &setting, std::uint32_t channel);
   // Sends a raw value of a USB input.
   void AddRaw(std::uint32_t channel, std::uint32_t high, std::uint32_t source);
-  // The question that this program asks every mixer at the end.
-  void AddQuestion();
 
   std::size_t mixersFound() const { return found_; }
   std::size_t mixersThatCanBeOpened() const { return mixers_.size(); }

@@ -46,22 +46,37 @@ const char *Word(MixerState state) {
   return "failed";
 }
 
-// The sentence about a mixer that was opened.
-std::string Sentence(int number, usb::Code code) {
-  switch (StateOf(code)) {
-    case MixerState::Answered:
-      return "";
+MixerState StateOf(const ZTKRequestOutcome &request) {
+  switch (request.result) {
+    case ZTK_REQUEST_NONE:
+    case ZTK_REQUEST_ACCEPTED:
+      return MixerState::Answered;
+    case ZTK_REQUEST_REFUSED:
+      return MixerState::Refused;
+    case ZTK_REQUEST_SILENT:
+      return MixerState::Silent;
+    case ZTK_REQUEST_GONE:
+      return MixerState::Gone;
+    default:
+      return MixerState::Failed;
+  }
+}
+
+// About a mixer that was opened.
+std::string Sentence(int number, MixerState state) {
+  switch (state) {
     case MixerState::Refused:
       return Named(number) + " refuses what it is asked";
     case MixerState::Silent:
       return Named(number) + " does not answer";
     case MixerState::Gone:
       return Named(number) + " is gone: it was unplugged or switched off";
+    case MixerState::Answered:
     case MixerState::NotOpened:
     case MixerState::Failed:
       break;
   }
-  return "the request to " + Named(number) + " " + Described(code);
+  return "";
 }
 
 Mixer Unopened(int number, const std::string &place) {
@@ -74,6 +89,26 @@ Mixer Unopened(int number, const std::string &place) {
           .message = Named(number) + " " + Explained(access)};
 }
 
+// What became of the request that sets a value.
+Mixer AfterWrite(int number, const ZTKRequestOutcome &write) {
+  Mixer mixer{
+      .number = number, .state = StateOf(write), .reason = {}, .message = {}};
+  mixer.reason = Word(mixer.state);
+  switch (mixer.state) {
+    case MixerState::Refused:
+      mixer.message = Named(number) + " refuses the value";
+      break;
+    case MixerState::Failed:
+      mixer.message = "the request to " + Named(number) +
+                      " failed: " + SystemErrorText(write.systemCode);
+      break;
+    default:
+      mixer.message = Sentence(number, mixer.state);
+      break;
+  }
+  return mixer;
+}
+
 // Its number is what it was called before; its position may have changed.
 Mixer AskMixer(int number, const std::string &place) {
   const std::vector<std::string> now = MixerPlaces();
@@ -84,10 +119,14 @@ Mixer AskMixer(int number, const std::string &place) {
   usb::Reply reply;
   const usb::Code code = GetFirmwareVersionNumber(
       mixer.connection(), reply.bytes, status::kFirmwareVersionLength);
-  return {.number = number,
-          .state = StateOf(code),
-          .reason = Word(StateOf(code)),
-          .message = Sentence(number, code)};
+  const MixerState state = StateOf(code);
+  return {
+      .number = number,
+      .state = state,
+      .reason = Word(state),
+      .message = state == MixerState::Failed
+                     ? "the request to " + Named(number) + " " + Described(code)
+                     : Sentence(number, state)};
 }
 
 }  // namespace
@@ -102,6 +141,57 @@ std::size_t Reach::opened() const {
   return static_cast<std::size_t>(std::count_if(
       mixers.begin(), mixers.end(),
       [](const Mixer &mixer) { return mixer.state != MixerState::NotOpened; }));
+}
+
+void RecordedCalls::Collect(ZTKResult result,
+                            const std::vector<std::string> &places) {
+  last_ = {};
+  if (result == ZTK_REJECTED) return;
+  last_.size = sizeof last_;
+  ZTK_GetLastOutcome(&last_);
+  for (const std::string &place : places) MixerAt(place);
+  // The library opens mixers by their position. When one is unplugged, those
+  // behind it move up, and the next one is passed over.
+  std::size_t unplugged = 0;
+  std::vector<bool> served(places.size());
+  for (std::size_t i = 0; i < last_.mixersListed; ++i) {
+    const std::size_t position = i + unplugged;
+    if (position >= places.size()) break;
+    const ZTKRequestOutcome &write = last_.mixers[i].write;
+    if (write.opened == 0) continue;
+    served[position] = true;
+    Mixer &mixer = MixerAt(places[position]);
+    if (mixer.state == MixerState::Answered) {
+      mixer = AfterWrite(mixer.number, write);
+    }
+    if (write.result == ZTK_REQUEST_GONE) ++unplugged;
+  }
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    Mixer &mixer = MixerAt(places[i]);
+    if (served[i] || mixer.state != MixerState::Answered) continue;
+    mixer = Unopened(mixer.number, places[i]);
+  }
+  for (std::size_t i = 0; i < places_.size(); ++i) {
+    Mixer &mixer = reach_.mixers[i];
+    const bool here =
+        std::find(places.begin(), places.end(), places_[i]) != places.end();
+    if (mixer.state == MixerState::Answered && !here) {
+      mixer = Unopened(mixer.number, places_[i]);
+    }
+  }
+}
+
+Mixer &RecordedCalls::MixerAt(const std::string &place) {
+  const auto known = std::find(places_.begin(), places_.end(), place);
+  if (known != places_.end()) {
+    return reach_.mixers[static_cast<std::size_t>(known - places_.begin())];
+  }
+  places_.push_back(place);
+  const int number = static_cast<int>(places_.size());
+  return reach_.mixers.emplace_back(Mixer{.number = number,
+                                          .state = MixerState::Answered,
+                                          .reason = {},
+                                          .message = {}});
 }
 
 Reach AskMixers(const std::vector<std::string> &places) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the library's answers do not tell: which mixers were reached.
+// Which mixers were reached, and why others were not.
 #ifndef ZTK_TOOLS_ZTK_MODEL_MIXERS_H_
 #define ZTK_TOOLS_ZTK_MODEL_MIXERS_H_
 
@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ZTKFunc.h"
+#include "ZTKOutcome.h"
 #include "usb/USB.h"
 #include "ztk/system/places.h"
 
@@ -17,9 +18,9 @@ namespace ztk::model {
 // What became of a mixer that was asked something.
 enum class MixerState : std::uint8_t {
   Answered,
-  Refused,    // it is there and says no
-  Silent,     // it let the time run out
-  Gone,       // it was attached before, or until the request
+  Refused,    // it answered that it does not accept the request
+  Silent,     // it did not answer in time
+  Gone,       // it was unplugged or switched off meanwhile
   NotOpened,  // nothing could be sent to it
   Failed
 };
@@ -43,21 +44,35 @@ struct Reach {
 // Asks each mixer at these places something harmless.
 Reach AskMixers(const std::vector<std::string> &places);
 
-struct Sent {
-  ZTKResult result;
-  Reach reach;
-};
+// Calls functions of the library one after the other, and collects from the
+// record of each call what became of its requests.
+class RecordedCalls {
+ public:
+  // Calls the function and answers its result. A call that was rejected has
+  // sent nothing.
+  template <typename Function>
+  ZTKResult Call(Function function) {
+    const std::vector<std::string> places = MixerPlaces();
+    const ZTKResult result = function();
+    Collect(result, places);
+    return result;
+  }
 
-// Calls a function of the library that sends, and asks every mixer that was
-// attached before it whether it is there: the library does not tell.
-template <typename Function>
-Sent SendAndLook(Function send) {
-  const std::vector<std::string> before = MixerPlaces();
-  const ZTKResult result = send();
-  // A call that was rejected has sent nothing.
-  if (result == ZTK_REJECTED) return {.result = result, .reach = {}};
-  return {.result = result, .reach = AskMixers(before)};
-}
+  // The record of the last call.
+  const ZTKOutcome &last() const { return last_; }
+  // All mixers that were attached to any of the calls. One that did not accept
+  // a value counts as not answered, also where it accepted others.
+  const Reach &reach() const { return reach_; }
+
+ private:
+  void Collect(ZTKResult result, const std::vector<std::string> &places);
+  // The mixer that is plugged in there, which may be new.
+  Mixer &MixerAt(const std::string &place);
+
+  ZTKOutcome last_{};
+  Reach reach_;
+  std::vector<std::string> places_;  // of the mixers in reach_
+};
 
 // The end of a request in words: "no answer", "refused by the mixer", ...
 std::string Described(usb::Code code);

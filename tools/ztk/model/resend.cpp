@@ -33,18 +33,15 @@ bool WouldBeRefused(const StoredValue &value) {
          !IsSentAgain(*value.setting, value.index);
 }
 
-Sent SendAgain(std::vector<StoredValue> *values) {
-  return SendAndLook([values] {
-    ZTKResult all = ZTK_REJECTED;
-    for (StoredValue &value : *values) {
-      const Setting &setting = *value.setting;
-      value.refused =
-          !BelongsToItsChannel(value) ||
-          setting.sendAgain(setting.product, value.channel) != ZTK_SUCCESS;
-      if (!value.refused) all = ZTK_SUCCESS;
-    }
-    return all;
-  });
+Reach SendAgain(std::vector<StoredValue> *values) {
+  RecordedCalls calls;
+  for (StoredValue &value : *values) {
+    const Setting &setting = *value.setting;
+    value.refused = !BelongsToItsChannel(value) || calls.Call([&] {
+      return setting.sendAgain(setting.product, value.channel);
+    }) != ZTK_SUCCESS;
+  }
+  return calls.reach();
 }
 
 }  // namespace ztk::model

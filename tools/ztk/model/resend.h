@@ -29,7 +29,7 @@ std::vector<StoredValue> StoredValues(
 bool WouldBeRefused(const StoredValue &value);
 
 // Sends each of them, and marks those that are refused.
-Sent SendAgain(std::vector<StoredValue> *values);
+Reach SendAgain(std::vector<StoredValue> *values);
 
 }  // namespace ztk::model
 

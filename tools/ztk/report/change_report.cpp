@@ -18,6 +18,20 @@ std::string InNumbers(std::size_t part, std::size_t all) {
   return std::to_string(part) + " of " + std::to_string(all) + " mixers";
 }
 
+bool AllRefused(const Reach &reach) {
+  return std::all_of(
+      reach.mixers.begin(), reach.mixers.end(),
+      [](const Mixer &mixer) { return mixer.state == MixerState::Refused; });
+}
+
+// Why the first change that is not stored is not.
+std::string WhyNotStored(const MadeChanges &made) {
+  for (const MadeChange &change : made.changes) {
+    if (!change.notStored.empty()) return change.notStored;
+  }
+  return "";
+}
+
 std::string SettingsFolder() {
   const platform::text::Made library(platform::paths::UserLibrary());
   if (library.get() == nullptr) return "your home folder";
@@ -27,8 +41,9 @@ std::string SettingsFolder() {
 // What is sent can be sent again; what is not remembered is lost.
 void ReportForgotten(const MadeChanges &made, const std::string &what,
                      Report *report) {
-  const std::string remedy =
-      "make sure that you can write to " + SettingsFolder();
+  const std::string remedy = WhyNotStored(made) +
+                             "; make sure that you can write to " +
+                             SettingsFolder();
   ReportReach(made.reach,
               {.notSent = what + " is neither sent nor remembered",
                .notAnswered = what + " is sent, but not answered, and not "
@@ -46,8 +61,8 @@ void ReportForgotten(const MadeChanges &made, const std::string &what,
                    [](const MadeChange &change) { return change.remembered; });
   report->problem = {.exit = ExitCode::NotRemembered,
                      .message = what + " is " + Described(made.reach) +
-                                (none ? ", but not remembered; "
-                                      : ", but not all is remembered; ") +
+                                (none ? ", but not remembered: "
+                                      : ", but not all is remembered: ") +
                                 remedy};
 }
 
@@ -110,7 +125,8 @@ void ReportReach(const Reach &reach, const DeliveryTexts &texts,
 std::string Described(const Reach &reach) {
   const std::size_t answered = reach.answered();
   if (answered > 0) return "sent to " + InNumbers(answered, reach.found());
-  return reach.opened() > 0 ? "sent, but not answered" : "not sent";
+  if (reach.opened() == 0) return "not sent";
+  return AllRefused(reach) ? "refused by the mixer" : "sent, but not answered";
 }
 
 void ReportOutcome(const MadeChanges &made, const std::string &what,
@@ -133,6 +149,14 @@ void ReportOutcome(const MadeChanges &made, const std::string &what,
       std::all_of(made.changes.begin(), made.changes.end(),
                   [](const MadeChange &change) { return change.announced; });
   if (!announced) WarnOfMissingBus(report);
+  const bool replaced = std::any_of(
+      made.changes.begin(), made.changes.end(),
+      [](const MadeChange &change) { return change.replacedDamaged; });
+  if (replaced) {
+    report->warnings.push_back("the settings file was damaged; it is kept in " +
+                               SettingsFolder() +
+                               " under a name with \".unreadable\"");
+  }
 }
 
 std::string NoteOnSendingAgain(const Change &change) {

@@ -44,6 +44,9 @@ const char *Word(Obstacle obstacle);
 // line.
 std::string Explained(const Access &access);
 
+// The text of a system code in the record of a call (ZTKOutcome.h).
+std::string SystemErrorText(std::int32_t code);
+
 }  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_PLACES_H_

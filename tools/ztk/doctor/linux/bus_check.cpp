@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "ztk/doctor/finding.h"
-#include "ztk/system/announcement.h"
+#include "ztk/system/session_bus.h"
 
 namespace ztk::model {
 

@@ -106,4 +106,6 @@ std::string Explained(const Access &access) {
          access.reason;
 }
 
+std::string SystemErrorText(std::int32_t code) { return std::strerror(code); }
+
 }  // namespace ztk::model

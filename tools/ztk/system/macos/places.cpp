@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstring>
 #include <utility>
 
 #include "build_config.h"
@@ -160,6 +161,11 @@ std::string Explained(const Access &access) {
   }
   return "is attached but cannot be opened: " + access.reason +
          "; unplug the mixer and plug it in again";
+}
+
+// A file's error number is positive, an IOReturn is not.
+std::string SystemErrorText(std::int32_t code) {
+  return code > 0 ? std::strerror(code) : Written(code);
 }
 
 }  // namespace ztk::model

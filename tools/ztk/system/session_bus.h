@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+//
+// Whether announcements can reach other programs.
+#ifndef ZTK_TOOLS_ZTK_SYSTEM_SESSION_BUS_H_
+#define ZTK_TOOLS_ZTK_SYSTEM_SESSION_BUS_H_
+
+namespace ztk::model {
+
+// True when there is a session bus that other programs could listen on.
+bool SessionBusAnswers();
+
+// The library by which a session bus is reached, if it cannot be loaded; else
+// null.
+const char *MissingBusLibrary();
+// The library whose loop delivers what comes over the bus, if it cannot be
+// loaded; else null.
+const char *MissingLoopLibrary();
+
+}  // namespace ztk::model
+
+#endif  // ZTK_TOOLS_ZTK_SYSTEM_SESSION_BUS_H_
