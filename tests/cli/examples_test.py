@@ -18,7 +18,7 @@ import tempfile
 
 def examples_of(page):
     text = page.read_text(encoding="utf-8")
-    for block in re.findall(r"^Example:\n\.PP\n\.RS 4\n\.nf\n(.*?)^\.fi", text,
+    for block in re.findall(r"^Examples?:\n\.PP\n\.RS 4\n\.nf\n(.*?)^\.fi", text,
                             flags=re.M | re.S):
         for line in block.splitlines():
             for markup, character in ((r"\-", "-"), (r"\(aq", "'"), (r"\&", "")):

@@ -47,34 +47,39 @@ def offered(programs, words):
     return [line.split("\t")[0] for line in done.stdout.splitlines()]
 
 
+def sections_of(page, request):
+    return dict(re.findall(rf'\.{request} "([A-Za-z ]+)"\n(.*?)(?=\n\.S[SH] )',
+                           page, flags=re.S))
+
+
 def check_program_page(folder, programs, name):
     page = plain(folder / f"{name}.1")
-    told = dict(re.findall(r'\.SS "([a-z ]+)"\n(.*?)(?=\n\.S[SH] )', page,
-                           flags=re.S))
+    common = sections_of(page, "SH")["OPTIONS"]
+    told = sections_of(page, "SS")
     complaints = []
-    commands = 0
+    groups = set()
     heads = [[name]]
     for head in heads:
         path = " ".join(head[1:])
-        below = [word for word in offered(programs, [*head, ""])
-                 if re.fullmatch("[a-z]+", word)]
-        if path not in told and below and len(head) < 3:
-            heads += [[*head, word] for word in below]
-            continue
-        commands += 1
         help_text = subprocess.run(
             [f"{programs}/{name}", *head[1:], "--help"], check=True,
             stdout=subprocess.PIPE, text=True).stdout
+        if "\nCommands:\n" in help_text:
+            heads += [[*head, word] for word in offered(programs, [*head, ""])
+                      if word != "help"]
+            continue
+        groups.add(head[1])
+        section = told.get(head[1], "")
         for option in offered(programs, [*head, "--"]):
-            if not re.search(rf"{option}\b", told.get(path, "") + page[:2000]):
+            if not re.search(rf"{option}\b", section + common):
                 complaints.append(f"{name}(1) does not tell {option} of {path}")
-            if option != "--version" and option not in help_text:
+            if option not in help_text:
                 complaints.append(f"{name} {path} --help does not tell {option}")
-        if path not in told:
+        if not re.search(rf"^{name} {path}\b", section, flags=re.M):
             complaints.append(f"{name}(1) does not tell {path}")
-    if commands != len(told) or not commands:
-        complaints.append(f"{name}(1) tells {len(told)} commands, and there are "
-                          f"{commands}")
+    if groups != set(told) or not told:
+        complaints.append(f"{name}(1) and the program differ: "
+                          f"{groups ^ set(told)}")
     return complaints
 
 

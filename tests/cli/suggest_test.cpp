@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-//
-// What somebody meant who typed a wrong word.
 #include "cli/suggest.h"
 
-#include "ztk/cli_world.h"
+#include <gtest/gtest.h>
 
 namespace ztk::test {
 namespace {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// What a user at a terminal sees, and what Ctrl-C leaves behind.
+// The layout of text for a terminal.
 #include "cli/terminal.h"
 
-#include "support/pseudo_terminal.h"
-#include "ztk/cli_world.h"
+#include <gtest/gtest.h>
 
 namespace ztk::test {
 namespace {
@@ -13,17 +12,16 @@ using cli::Flowed;
 using cli::LaidOut;
 using cli::Strong;
 
-TEST(LaidOut, LeavesLinesAloneWithoutATerminal) {
-  EXPECT_EQ(
-      LaidOut("a  b c d e f g\n\n  h", {.columns = 0, .standsOut = false}),
-      "a  b c d e f g\n\n  h");
+TEST(LaidOut, LeavesLinesUnchangedWithoutATerminal) {
+  EXPECT_EQ(LaidOut("a  b c d e f g\n\n  h", {.columns = 0, .emphasis = false}),
+            "a  b c d e f g\n\n  h");
 }
 
-TEST(LaidOut, ShowsMarksOnlyWhereTextMayStandOut) {
+TEST(LaidOut, ShowsEmphasisOnlyWhereItIsWanted) {
   const std::string text = "  1\n" + Strong("* 2") + "\n";
-  EXPECT_EQ(LaidOut(text, {.columns = 0, .standsOut = false}), "  1\n* 2\n");
-  EXPECT_EQ(LaidOut(text, {.columns = 80, .standsOut = false}), "  1\n* 2\n");
-  EXPECT_EQ(LaidOut(text, {.columns = 80, .standsOut = true}),
+  EXPECT_EQ(LaidOut(text, {.columns = 0, .emphasis = false}), "  1\n* 2\n");
+  EXPECT_EQ(LaidOut(text, {.columns = 80, .emphasis = false}), "  1\n* 2\n");
+  EXPECT_EQ(LaidOut(text, {.columns = 80, .emphasis = true}),
             "  1\n\033[1m* 2\033[0m\n");
 }
 
@@ -53,7 +51,7 @@ TEST(LaidOut, BreaksLinesBetweenWords) {
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
-    EXPECT_EQ(LaidOut(row.text, {.columns = row.columns, .standsOut = false}),
+    EXPECT_EQ(LaidOut(row.text, {.columns = row.columns, .emphasis = false}),
               row.expected);
   }
 }
@@ -84,236 +82,8 @@ TEST(Flowed, FillsUpSentencesAndNothingElse) {
   EXPECT_EQ(Flowed(words + " 2\n", 200), words.substr(0, 79) + "\n1 2\n");
 }
 
-class Terminal : public CliWorld {
- protected:
-  void SetUp() override {
-    CliWorld::SetUp();
-    setenv("TERM", "xterm", 1);
-    for (const char *name : {"NO_COLOR", "CLICOLOR"}) unsetenv(name);
-  }
-
-  // What stands before the command of a sandbox.
-  std::vector<std::string> Sandbox(const std::vector<std::string> &options,
-                                   const std::string &script) const {
-    std::vector<std::string> words{ZTK_VIRTUAL_MIXER, "run", "--log",
-                                   (home_.path() / "requests").string()};
-    words.insert(words.end(), options.begin(), options.end());
-    for (const char *word : {"--", "sh", "-c"}) words.emplace_back(word);
-    words.push_back(script);
-    return words;
-  }
-
-  std::string Shown(const std::string &script, unsigned short columns) const {
-    PseudoTerminal terminal(Sandbox({"-n", "1"}, script), columns);
-    terminal.End();
-    return terminal.shown();
-  }
-};
-
-TEST_F(Terminal, MakesTheCurrentChoiceStandOut) {
-  const std::string shown = Shown("ztk boost list", 80);
-  EXPECT_THAT(shown, HasSubstr("\033[1m* 4  -19 dB\033[0m\n"));
-  EXPECT_THAT(shown, HasSubstr("\n  3  -15 dB\n"));
-}
-
-TEST_F(Terminal, IsPlainWhereTheUserWantsIt) {
-  for (const char *wish : {"NO_COLOR=1", "CLICOLOR=0", "TERM=dumb", "TERM="}) {
-    SCOPED_TRACE(wish);
-    const std::string shown = Shown(std::string(wish) + " ztk boost list", 80);
-    EXPECT_THAT(shown, HasSubstr("\n* 4  -19 dB\n"));
-    EXPECT_THAT(shown, Not(HasSubstr("\033")));
-  }
-  // Set to nothing, it is no wish.
-  EXPECT_THAT(Shown("NO_COLOR= ztk boost list", 80), HasSubstr("\033[1m"));
-}
-
-TEST_F(Terminal, GivesAPipeNothingButText) {
-  const std::string shown = Shown(
-      "export CLICOLOR_FORCE=1 FORCE_COLOR=1; ztk boost list | cat; "
-      "ztk boost list --json",
-      80);
-  EXPECT_THAT(shown, HasSubstr("\n* 4  -19 dB\n"));
-  EXPECT_THAT(shown, Not(HasSubstr("\033")));
-}
-
-TEST_F(Terminal, KeepsToANarrowWidth) {
-  Remember("VRM-D6", {{"Output1", 0}, {"MaxLevel", 1}});
-  const std::string shown = Shown(
-      "NO_COLOR=1; export NO_COLOR; ztk status; ztk input list; ztk get;"
-      "ztk input get; ztk apply; ztk versions; ztk midi list; ztk --help",
-      40);
-  for (const std::string &line : SplitLines(shown)) {
-    EXPECT_LE(line.size(), 40U) << line;
-  }
-  EXPECT_THAT(shown, HasSubstr("  selectors     CH1 4   CH2 4   CH3 4\n"
-                               "                CH4 4\n"));
-}
-
-TEST_F(Terminal, ShowsHelpInANarrowWidth) {
-  std::string script;
-  for (const char *command : {"", "run", "serve", "fault", "reply", "show"}) {
-    script += std::string("ztk-virtual-mixer ") + command + " --help;";
-  }
-  for (const char *command : {"", "input set", "autoapply", "undo", "doctor"}) {
-    script += std::string("ztk ") + command + " --help;";
-  }
-  const std::string shown = Shown(script, 40);
-  for (const std::string &line : SplitLines(shown)) {
-    // Commands to be copied, and a word that is longer than its column.
-    if (line.rfind("  ztk", 0) == 0 || line.rfind("  sudo", 0) == 0) continue;
-    EXPECT_LE(line.size(), 40U) << line;
-  }
-  EXPECT_THAT(shown, HasSubstr("\nExample:\n  ztk input set 2 \"post ch2 "
-                               "fader\"\n"));
-}
-
-// A line end within it would be a part of what is pasted into a shell.
-TEST_F(Terminal, NeverBreaksACommandThatIsToBeTyped) {
-  const std::string shown = Shown(
-      "ztk-virtual-mixer unplug; ztk-virtual-mixer plug; "
-      "ztk-virtual-mixer fault silence@r8001; ztk doctor",
-      40);
-  EXPECT_THAT(shown, HasSubstr("\n          type:  for on in 0 1; do echo $on "
-                               "| sudo tee /sys/bus/usb/devices/1-1/authorized;"
-                               " done\n"));
-}
-
-TEST_F(Terminal, ShowsThatItWaitsForASilentMixer) {
-  PseudoTerminal terminal(
-      Sandbox({"--fault", "delay:1900@8001*1"}, "ztk status"), 80);
-  EXPECT_TRUE(terminal.WaitFor("\r\033[KWaiting for a mixer; Ctrl-C ends"));
-  EXPECT_TRUE(terminal.WaitFor("\r\033[KWaiting for a mixer, 1 s; Ctrl-C"));
-  EXPECT_EQ(terminal.End(), 0);
-  // It has gone before the answer is shown.
-  EXPECT_THAT(terminal.shown(), HasSubstr("ends\r\033[KMixer 1 is reachable"));
-}
-
-TEST_F(Terminal, ShowsOnADumbTerminalOnceThatItWaits) {
-  PseudoTerminal terminal(
-      Sandbox({"--fault", "delay:1000@8001*1"}, "TERM=dumb ztk status"), 80);
-  EXPECT_EQ(terminal.End(), 0);
-  EXPECT_THAT(terminal.shown(),
-              StartsWith("Waiting for a mixer; Ctrl-C ends\nMixer 1 is"));
-}
-
-TEST_F(Terminal, SaysNothingOfWaitingElsewhere) {
-  const Result result =
-      Inside({"--fault", "delay:1000@8001*1"}, "ztk status > $DIR/o");
-  EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.err, IsEmpty());
-}
-
-TEST_F(Terminal, EndsOnCtrlCWithOneLineAndStatus130) {
-  PseudoTerminal terminal(Sandbox({"--fault", "delay:2000"},
-                                  "trap : INT; ztk boost set 1; echo =$?"),
-                          80);
-  ASSERT_TRUE(terminal.WaitFor("Ctrl-C ends"));
-  terminal.Type("\x03");
-  EXPECT_TRUE(terminal.WaitFor("; ending"));
-  terminal.End();
-  EXPECT_THAT(terminal.shown(), HasSubstr("\r\033[Kztk: interrupted; "));
-  EXPECT_THAT(terminal.shown(), HasSubstr("\n=130\n"));
-  EXPECT_FALSE(HasSettings("VRM-D6"));
-}
-
-TEST_F(Terminal, EndsOnCtrlCWithAnObject) {
-  PseudoTerminal terminal(
-      Sandbox({"--fault", "delay:2000"},
-              "trap : INT; ztk status --json > $DIR/out.json; echo =$?"),
-      80);
-  ASSERT_TRUE(terminal.WaitFor("Ctrl-C ends"));
-  terminal.Type("\x03");
-  EXPECT_TRUE(terminal.WaitFor("=130"));
-  const Json json = OneObject(File("out.json"));
-  EXPECT_EQ(json["command"], "status");
-  EXPECT_EQ(json["ok"], false);
-  EXPECT_EQ(json["error"]["code"], "interrupted");
-}
-
-TEST_F(Terminal, IsNotInterruptedWhereTheSignalIsIgnored) {
-  const Result result = Inside(
-      {"--fault", "delay:300*1"},
-      "trap '' INT; ztk boost set 1 > $DIR/o & until [ -s $DIR/requests ];"
-      "do sleep 0.01; done; kill -INT $!; wait $!; echo $?");
-  EXPECT_EQ(result.out, "0\n");
-  EXPECT_EQ(File("o"), "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n");
-}
-
-// Whatever comes next, as the prompt of a shell, stands on a line of its own.
-TEST_F(Terminal, EndsWatchingOnCtrlCWithStatus0) {
-  PseudoTerminal terminal(
-      Sandbox({"-n", "1"}, "trap : INT; ztk watch; echo =$?"), 80);
-  ASSERT_TRUE(terminal.WaitFor("watching for changes; Ctrl-C ends\n"));
-  terminal.Type("\x03");
-  EXPECT_TRUE(terminal.WaitFor("^C\n=0\n"));
-}
-
-class Picking : public Terminal {};
-
-TEST_F(Picking, TakesANumberOrTextFromTheList) {
-  for (const char *answer : {"3\n", "post\n", "POST CH2\n"}) {
-    SCOPED_TRACE(answer);
-    PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk input set 2"), 80);
-    EXPECT_TRUE(
-        terminal.WaitFor("\033[1m* 1  CH2 Control Tone PHONO\033[0m\n"));
-    EXPECT_TRUE(
-        terminal.WaitFor("  7  REC OUT\nUSB input 2, number or text: "));
-    terminal.Type(answer);
-    EXPECT_EQ(terminal.End(), 0);
-    EXPECT_THAT(terminal.shown(),
-                HasSubstr("\nUSB input 2: 3 Post CH2 Fader, sent to 1 mixer, "
-                          "remembered\n"));
-    EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0206 8002 0000"));
-    Remember("VRM-D6", {});
-  }
-}
-
-TEST_F(Picking, AsksAgainAfterAWrongWord) {
-  PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk boost set"), 40);
-  ASSERT_TRUE(terminal.WaitFor("Boost level, number or text: "));
-  terminal.Type("12\n");
-  EXPECT_TRUE(terminal.WaitFor("no choice \"12\"; nearest: 4 -19 dB\n"));
-  terminal.Type("-1\n");
-  EXPECT_TRUE(terminal.WaitFor("\"-1\" can mean: 2 -10 dB, 3 -15 dB, 4 -19\n"));
-  EXPECT_TRUE(terminal.WaitFor("Boost level, number or text: "));
-  terminal.Type("-10\n");
-  EXPECT_EQ(terminal.End(), 0);
-  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
-}
-
-TEST_F(Picking, SendsNothingWithoutAnAnswer) {
-  for (const char *answer : {"\n", "  \n", "\x04"}) {
-    PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk midi set; echo =$?"), 80);
-    ASSERT_TRUE(terminal.WaitFor("MIDI channel, number or text: "));
-    terminal.Type(answer);
-    EXPECT_TRUE(terminal.WaitFor("ztk: nothing was chosen for MIDI channel"));
-    EXPECT_TRUE(terminal.WaitFor("\n=2\n"));
-    EXPECT_THAT(Requests(), IsEmpty());
-    EXPECT_FALSE(HasSettings("VRM-K2"));
-  }
-}
-
-TEST_F(Picking, EndsOnCtrlC) {
-  PseudoTerminal terminal(
-      Sandbox({"-n", "1"}, "trap : INT; ztk midi set; echo =$?"), 80);
-  ASSERT_TRUE(terminal.WaitFor("MIDI channel, number or text: "));
-  terminal.Type("\x03");
-  EXPECT_TRUE(
-      terminal.WaitFor("^C\nztk: interrupted; nothing was changed\n=130\n"));
-  EXPECT_THAT(Requests(), IsEmpty());
-}
-
-TEST_F(Picking, IsNotForScripts) {
-  for (const char *script :
-       {"ztk midi set < /dev/null", "ztk midi set --json > $DIR/o",
-        "ztk midi set | cat", "ztk midi set --json"}) {
-    SCOPED_TRACE(script);
-    PseudoTerminal terminal(Sandbox({"-n", "1"}, script), 80);
-    terminal.End();
-    EXPECT_THAT(terminal.shown(),
-                HasSubstr("ztk: a CHOICE is missing for MIDI channel; "));
-    EXPECT_THAT(terminal.shown(), Not(HasSubstr("number or text")));
-  }
+TEST(MessageLine, IsOneLineWithoutATerminal) {
+  EXPECT_EQ(cli::MessageLine("ztk", "a\nb\x1B[1m"), "ztk: a b [1m\n");
 }
 
 }  // namespace

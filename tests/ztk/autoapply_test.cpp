@@ -47,8 +47,9 @@ class Autoapply : public CliWorld {
 TEST_F(Autoapply, IsOffUntilAskedFor) {
   const Result result = OneMixer("ztk autoapply status");
   EXPECT_EQ(result.status, 0) << result.err;
-  EXPECT_EQ(result.out,
-            "Off: what is remembered is sent when you run 'ztk apply'.\n");
+  EXPECT_EQ(
+      result.out,
+      "Off: the remembered settings are sent when you run 'ztk apply'.\n");
   EXPECT_EQ(result.err, "");
   EXPECT_THAT(manager_->calls(), IsEmpty());
   EXPECT_THAT(Requests(), IsEmpty());
@@ -59,9 +60,10 @@ TEST_F(Autoapply, MakesTheUnitKnownForGood) {
   const Result result = WithFiles({kUnitFile, kRule}, "ztk autoapply on");
   SKIP_WITHOUT_NAMESPACE(result);
   EXPECT_EQ(result.status, 0) << result.err;
-  EXPECT_EQ(result.out,
-            "On: when a mixer is plugged in, what is remembered is sent to "
-            "it.\n");
+  EXPECT_EQ(
+      result.out,
+      "On: the remembered settings are sent to each mixer that is plugged "
+      "in.\n");
   EXPECT_EQ(result.err, "");
   EXPECT_THAT(manager_->calls(), ElementsAre("LinkUnitFiles " ZTK_DATA_DIR
                                              "/ztk/ztk-apply@.service 0 1",
@@ -106,8 +108,9 @@ TEST_F(Autoapply, SaysThatNothingStartsItWithoutTheRule) {
   SKIP_WITHOUT_NAMESPACE(result);
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(result.out, StartsWith("On: "));
-  EXPECT_THAT(SplitLines(result.err),
-              ElementsAre(HasSubstr("udev has no rule 71-ztk-apply.rules")));
+  EXPECT_THAT(
+      SplitLines(result.err),
+      ElementsAre(HasSubstr("the udev rule 71-ztk-apply.rules is missing")));
 }
 
 TEST_F(Autoapply, NeedsAnInstalledUnit) {
@@ -116,7 +119,7 @@ TEST_F(Autoapply, NeedsAnInstalledUnit) {
   EXPECT_EQ(result.status, 5);
   EXPECT_EQ(result.out, "");
   EXPECT_THAT(SplitLines(result.err),
-              ElementsAre(HasSubstr("there is no " + std::string(kUnitFile))));
+              ElementsAre(HasSubstr("the file " + std::string(kUnitFile))));
   EXPECT_THAT(manager_->calls(), IsEmpty());
 }
 

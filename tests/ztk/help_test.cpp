@@ -2,8 +2,8 @@
 #include <regex>
 #include <set>
 
+#include "cli/program.h"
 #include "cli_world.h"
-#include "ztk/commands/command_table.h"
 #include "ztk/model/settings.h"
 
 namespace ztk::test {
@@ -26,11 +26,13 @@ TEST_F(Help, TellsTheExitCodes) {
   EXPECT_EQ(result.status, 0);
   for (const char *line :
        {"0  done", "1  ztk doctor has found a problem",
-        "2  the words, or a file to import, were wrong; nothing was sent",
-        "3  no mixer answered", "4  rejected", "5  something else failed",
+        "2  invalid command line or import file; nothing was sent",
+        "3  no mixer answered", "4  rejected", "5  another error",
         "6  some mixers answered", "7  sent, but not remembered",
-        "\n  130  interrupted by Ctrl-C; not ztk watch, which is ended so: 0\n",
-        "Example: ztk input set 2 \"post ch2 fader\"",
+        "\n  130  interrupted by Ctrl-C; ztk watch ends with status 0 "
+        "instead\n",
+        "\nExamples:\n  ztk status\n",
+        "\n  ztk input set 2 \"post ch2 fader\"\n",
         "USB output audio of the VRM-B5"}) {
     EXPECT_THAT(result.out, HasSubstr(line));
   }
@@ -40,7 +42,7 @@ TEST_F(Help, TellsTheExitCodes) {
 
 TEST_F(Help, ShowsAnExampleAndTheModelWithEveryCommand) {
   std::string script;
-  for (const program::Command &command : program::Commands()) {
+  for (const cli::Command &command : cli::ThisProgram().commands) {
     script += "ztk " + command.path + " --help > '" + home_.path().string() +
               "/" + command.path + "'; echo $?;";
   }
@@ -48,10 +50,10 @@ TEST_F(Help, ShowsAnExampleAndTheModelWithEveryCommand) {
   for (const std::string &status : SplitLines(result.out)) {
     EXPECT_EQ(status, "0");
   }
-  for (const program::Command &command : program::Commands()) {
+  for (const cli::Command &command : cli::ThisProgram().commands) {
     SCOPED_TRACE(command.path);
     const std::string help = File(command.path);
-    EXPECT_THAT(help, HasSubstr("Example: " + command.example + "\n"));
+    EXPECT_THAT(help, HasSubstr("Example: " + command.examples.front() + "\n"));
     EXPECT_THAT(help, HasSubstr("ztk " + command.path));
     EXPECT_THAT(help, HasSubstr("--json"));
     EXPECT_THAT(OnOneLine(help), HasSubstr(OnOneLine(command.note)));
@@ -114,11 +116,11 @@ TEST_F(Help, GivesExamplesThatWork) {
   std::string script =
       "cd $DIR; ztk boost set 1 > /dev/null; ztk export > club.json\n"
       "set -x\n";
-  for (const program::Command &command : program::Commands()) {
+  for (const cli::Command &command : cli::ThisProgram().commands) {
     if (command.path == "watch" || command.path == "warning" ||
         command.path == "doctor" || command.path.starts_with("autoapply "))
       continue;
-    script += "{ " + command.example + "; } > /dev/null || exit\n";
+    script += "{ " + command.examples.front() + "; } > /dev/null || exit\n";
   }
   const Result result = OneMixer(script);
   EXPECT_EQ(result.status, 0) << result.err;
@@ -152,7 +154,7 @@ TEST_F(Help, GivesAnExampleOfAWarningThatWorks) {
 }
 
 TEST_F(Help, GivesExamplesForEverySetting) {
-  for (const program::Group &group : program::Groups()) {
+  for (const cli::Group &group : cli::ThisProgram().groups) {
     if (group.name == "autoapply") continue;  // needs a systemd
     EXPECT_EQ(OneMixer(group.example).status, 0) << group.example;
   }
@@ -161,11 +163,11 @@ TEST_F(Help, GivesExamplesForEverySetting) {
 
 TEST(Commands, HaveNamesOfTheirOwn) {
   std::set<std::string> paths;
-  for (const program::Command &command : program::Commands()) {
+  for (const cli::Command &command : cli::ThisProgram().commands) {
     EXPECT_TRUE(paths.insert(command.path).second) << command.path;
-    EXPECT_EQ(command.example.rfind("ztk " + command.path, 0), 0U);
+    EXPECT_EQ(command.examples.front().rfind("ztk " + command.path, 0), 0U);
   }
-  EXPECT_EQ(paths.size(), 30U);
+  EXPECT_EQ(paths.size(), 31U);
 }
 
 }  // namespace

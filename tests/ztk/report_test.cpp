@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/report.h"
-#include "cli/strings.h"
 
 #include <gtest/gtest.h>
 
@@ -38,19 +37,6 @@ TEST(ErrorWord, NamesEveryExitCode) {
   EXPECT_STREQ(ErrorWord(ExitCode::Failed), "failed");
   EXPECT_STREQ(ErrorWord(ExitCode::SomeMixers), "some-mixers");
   EXPECT_STREQ(ErrorWord(ExitCode::NotRemembered), "not-remembered");
-}
-
-TEST(Quoted, KeepsToOneShortLine) {
-  EXPECT_EQ(cli::Quoted("a\nb\x1B[1m\x7F"), "\"a b [1m \"");
-  EXPECT_EQ(cli::Quoted(std::string(61, 'x')),
-            "\"" + std::string(60, 'x') + "...\"");
-  EXPECT_EQ(cli::Quoted(std::string(60, 'x')),
-            "\"" + std::string(60, 'x') + "\"");
-}
-
-TEST(Padded, FillsUpAndNeverCuts) {
-  EXPECT_EQ(cli::Padded("ab", 4), "ab  ");
-  EXPECT_EQ(cli::Padded("abcde", 4), "abcde");
 }
 
 }  // namespace

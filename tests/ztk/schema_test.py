@@ -32,7 +32,8 @@ SCENES = (
         for setting in input output boost midi; do
           for verb in list get apply; do ztk $setting $verb --json; done
         done
-        ztk status --json; ztk versions --json; ztk apply --json
+        ztk status --json; ztk versions --json; ztk models --json
+        ztk apply --json
         """),
     (("-n", "2"), """
         ztk input set 2 mic --json; ztk output set 1 aux --json
@@ -109,7 +110,7 @@ SCENES = (
         ztk boost set 2; ztk undo --dry-run --json; ztk undo --json
         """),
     # What is good, and what is found.
-    (ONE, "ztk doctor --json"),
+    (ONE, "ztk doctor --json; ztk doctor --report report.json --json; rm report.json"),
     (NONE, "HOME=/nonexistent ztk doctor --json"),
     (("-n", "2", "--fault", "2:stall"), "ztk doctor --json"),
     # No message bus.
@@ -211,6 +212,8 @@ def commands_of_table():
         return [line.split("\t")[0] for line in done.stdout.splitlines()]
 
     for name in offered(""):
+        if name == "help":
+            continue
         below = [word for word in offered(name, "") if word.isalpha()]
         is_group = name in ("input", "output", "boost", "midi", "autoapply")
         yield from ([f"{name} {word}" for word in below] if is_group else [name])

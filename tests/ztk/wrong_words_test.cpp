@@ -5,8 +5,8 @@
 #include <random>
 #include <utility>
 
+#include "cli/program.h"
 #include "cli_world.h"
-#include "ztk/commands/command_table.h"
 
 namespace ztk::test {
 namespace {
@@ -95,7 +95,7 @@ class WrongWords : public CliWorld {
   }
 
   std::string Line() {
-    const program::Command &command = OneOf(program::Commands());
+    const cli::Command &command = OneOf(cli::ThisProgram().commands);
     switch (Below(6)) {
       case 0:  // a command that there is not
         return Garbage() + " " + command.path;
@@ -115,7 +115,7 @@ class WrongWords : public CliWorld {
         return OneOf<std::string>({"apply", "boost list", "input get 1",
                                    "midi set 1", "output default"}) +
                " --product " +
-               OneOf<std::string>({"7", "9", "11", "VRM", "''", "-5", "K2"});
+               OneOf<std::string>({"7", "9", "11", "VRM", "''", "-5", "K3"});
       default:  // too much
         return OneOf<std::string>({"status", "versions", "watch", "apply",
                                    "input raw 1 0 5", "boost list",
@@ -161,11 +161,11 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
       {"inptu",
        "ztk: no command \"inptu\"; nearest: input; accepted: status, input, "
        "output, boost, midi, apply, autoapply, undo, export, import, watch, "
-       "warning, doctor, versions; see ztk --help\n"},
+       "warning, doctor, models, versions; see ztk --help\n"},
       {"",
        "ztk: a command is missing; accepted: status, input, output, boost, "
        "midi, apply, autoapply, undo, export, import, watch, warning, doctor, "
-       "versions; see ztk --help\n"},
+       "models, versions; see ztk --help\n"},
       {"input",
        "ztk: a command is missing after \"input\"; accepted: list, get, set, "
        "apply, raw; see ztk input --help\n"},
@@ -177,13 +177,14 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
        "ztk: USB input audio has no channel \"6\"; nearest: 5; accepted: 1 to "
        "5\n"},
       {"input set",
-       "ztk: N is missing: a channel from 1 to 5; see ztk input set --help\n"},
+       "ztk: a CHANNEL is missing; accepted: 1 to 5; see ztk input set "
+       "--help\n"},
       {"status now",
        "ztk: one word too many after \"status\": \"now\"; see ztk status "
        "--help\n"},
       {"status --all",
        "ztk: no option \"--all\" after \"status\"; accepted: "
-       "--help, --json; see ztk status --help\n"},
+       "--json, --quiet, --help, --version; see ztk status --help\n"},
       {"apply --product VRM-Z1",
        "ztk: no model \"VRM-Z1\"; accepted, by number or "
        "name: 0 VRM-Q8X, 1 "
@@ -206,7 +207,7 @@ TEST_F(WrongWords, TellTheNearestRightOne) {
   } rows[] = {
       {"inptu list", "input"},
       {"statsu", "status"},
-      {"verison --json", "versions"},
+      {"verisons --json", "versions"},
       {"input lits 2", "list"},
       {"boost sett 1", "set"},
       {"set 2 mic", "input set, output set, boost set, midi set"},
@@ -225,7 +226,7 @@ TEST_F(WrongWords, TellTheNearestRightOne) {
       {"output set 1 auxx", "3 AUX"},
       {"output set 4 aux", "3"},
       {"apply --product VRM-D7", "VRM-D6"},
-      {"boost get --product vrm_b5", "VRM-B5"},
+      {"boost get --product vrm-b6", "VRM-B5"},
       {"warning --language germna", "German"},
       {"warning --language portugese", "Portuguese"},
       {"warning --channel 7", "4"},

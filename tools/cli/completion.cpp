@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "cli/help.h"
 #include "cli/strings.h"
 
 namespace ztk::cli {
@@ -21,23 +22,28 @@ bool Begins(const std::string &word, const std::string &begun) {
 }
 
 // Reads a command line up to the word that is to be completed.
-class Reader {
+class CompletionReader {
  public:
-  explicit Reader(const Program &program) : program_(program) {}
+  explicit CompletionReader(const Program &program)
+      : program_(program), common_(CommonOptions(program)) {}
 
   void Take(const std::string &word) {
     if (option_ != nullptr) {
-      typed_[KeyOf(*option_)] = word;
+      before_.given[KeyOf(*option_)] = {word};
       option_ = nullptr;
     } else if (!marked_ && word == "--") {
       marked_ = true;
     } else if (!marked_ && TakeOption(word)) {
       return;
     } else if (command_ == nullptr) {
+      if (path_.empty() && !asksForHelp_ && word == kHelpWord) {
+        asksForHelp_ = true;
+        return;
+      }
       path_ += (path_.empty() ? "" : " ") + word;
-      FindCommand();
+      command_ = FindCommand(program_, path_);
     } else {
-      TakePosition(word);
+      TakePositional(word);
     }
   }
 
@@ -50,15 +56,8 @@ class Reader {
       return ValuesOf(*option, begun.substr(0, sign + 1),
                       begun.substr(sign + 1));
     }
-    std::string offered = command_ == nullptr ? Commands(begun) : "";
-    const Option *position = NextPosition();
-    if (position != nullptr && position->fill == Fill::Command) {
-      if (marked_) return kCommand;
-      offered += Line("--", position->description, "", begun);
-    } else if (position != nullptr &&
-               (position->fill != Fill::File || !begun.starts_with('-'))) {
-      offered += ValuesOf(*position, "", begun);
-    }
+    std::string offered = command_ == nullptr ? Words(begun) : "";
+    offered += Positionals(begun);
     if (!marked_ && (begun.starts_with('-') || offered.empty())) {
       offered += Options(begun);
     }
@@ -76,51 +75,56 @@ class Reader {
     const std::size_t sign = word.find('=');
     const Option *option = Find(word.substr(0, sign));
     if (option == nullptr) return false;
-    typed_[KeyOf(*option)] =
-        sign == std::string::npos ? "" : word.substr(sign + 1);
+    before_.given[KeyOf(*option)] = {
+        sign == std::string::npos ? "" : word.substr(sign + 1)};
     if (!option->value.empty() && sign == std::string::npos) option_ = option;
     return true;
   }
 
-  void TakePosition(const std::string &word) {
-    const Option *position = NextPosition();
-    if (position == nullptr) return;
-    std::string &known = typed_[KeyOf(*position)];
-    known += (known.empty() ? "" : " ") + word;
-    if (!position->repeats) ++positions_;
-  }
-
-  void FindCommand() {
-    for (const Command &command : program_.commands) {
-      if (command.path == path_) command_ = &command;
+  void TakePositional(const std::string &word) {
+    const Option *positional = NextPositional();
+    if (positional == nullptr) return;
+    std::vector<std::string> &values = before_.given[KeyOf(*positional)];
+    if (values.empty()) {
+      values.push_back(word);
+    } else {
+      values.front() += " " + word;
     }
+    if (!positional->repeats) ++complete_;
   }
 
   const Option *Find(const std::string &name) const {
     if (!name.starts_with('-')) return nullptr;
-    for (const Option &option : program_.options) {
-      if (HasName(option, name)) return &option;
-    }
-    if (command_ == nullptr) return nullptr;
-    for (const Option &option : command_->options) {
-      if (HasName(option, name)) return &option;
+    for (const std::vector<Option> *options : OptionLists()) {
+      for (const Option &option : *options) {
+        const std::vector<std::string> names = NamesOf(option);
+        if (std::find(names.begin(), names.end(), name) != names.end()) {
+          return &option;
+        }
+      }
     }
     return nullptr;
-  }
-
-  static bool HasName(const Option &option, const std::string &name) {
-    const std::vector<std::string> names = NamesOf(option);
-    return std::find(names.begin(), names.end(), name) != names.end();
   }
 
   // Null when all were typed.
-  const Option *NextPosition() const {
-    if (command_ == nullptr) return nullptr;
+  const Option *NextPositional() const {
+    if (command_ == nullptr || asksForHelp_) return nullptr;
     std::size_t number = 0;
     for (const Option &option : command_->options) {
-      if (IsPosition(option) && number++ == positions_) return &option;
+      if (IsPositional(option) && number++ == complete_) return &option;
     }
     return nullptr;
+  }
+
+  std::string Positionals(const std::string &begun) const {
+    const Option *positional = NextPositional();
+    if (positional == nullptr) return "";
+    if (positional->fill == Fill::Command) {
+      return marked_ ? kCommand
+                     : Line("--", positional->description, "", begun);
+    }
+    if (positional->fill == Fill::File && begun.starts_with('-')) return "";
+    return ValuesOf(*positional, "", begun);
   }
 
   std::string ValuesOf(const Option &option, const std::string &lead,
@@ -128,59 +132,58 @@ class Reader {
     if (option.fill == Fill::File) return kFiles;
     if (option.fill != Fill::Values) return "";
     std::string offered;
-    for (const Value &value : option.values(typed_, begun)) {
+    for (const Value &value : option.values(before_, begun)) {
       offered += Line(value.word, value.meaning, lead, begun);
     }
     return offered;
   }
 
-  std::string Commands(const std::string &begun) const {
+  std::string Words(const std::string &begun) const {
     std::string offered;
-    if (path_.empty()) {
-      for (const Group &group : program_.groups) {
-        offered += Line(group.name, group.summary, "", begun);
-      }
+    for (const Value &next : NextWords(program_, path_)) {
+      offered += Line(next.word, next.meaning, "", begun);
     }
-    const std::string before = path_.empty() ? "" : path_ + " ";
-    for (const Command &command : program_.commands) {
-      if (!command.path.starts_with(before)) continue;
-      const std::string rest = command.path.substr(before.size());
-      if (rest.find(' ') != std::string::npos) continue;
-      offered += Line(rest, command.summary, "", begun);
+    if (path_.empty() && !asksForHelp_) {
+      offered += Line(kHelpWord, "Show the help of a command", "", begun);
     }
     return offered;
   }
 
   std::string Options(const std::string &begun) const {
     std::string offered;
-    const auto offer = [&](const std::vector<Option> &options) {
-      for (const Option &option : options) {
-        if (IsPosition(option)) continue;
-        if (!option.repeats && typed_.count(KeyOf(option)) > 0) continue;
+    for (const std::vector<Option> *options : OptionLists()) {
+      for (const Option &option : *options) {
+        if (IsPositional(option)) continue;
+        if (!option.repeats && before_.Has(KeyOf(option))) continue;
         for (const std::string &name : NamesOf(option)) {
           offered += Line(name, option.description, "", begun);
         }
       }
-    };
-    if (command_ != nullptr) offer(command_->options);
-    offer(program_.options);
+    }
     return offered;
   }
 
+  std::vector<const std::vector<Option> *> OptionLists() const {
+    if (command_ == nullptr) return {&common_};
+    return {&command_->options, &common_};
+  }
+
   const Program &program_;
+  std::vector<Option> common_;
+  bool asksForHelp_ = false;
   std::string path_;
   const Command *command_ = nullptr;
-  const Option *option_ = nullptr;  // whose value comes next
+  const Option *option_ = nullptr;  // the next word is its value
   bool marked_ = false;             // "--" was typed
-  std::size_t positions_ = 0;       // that are complete
-  Typed typed_;
+  std::size_t complete_ = 0;        // positional arguments
+  Arguments before_;
 };
 
 }  // namespace
 
 std::string Completions(const Program &program,
                         const std::vector<std::string> &words) {
-  Reader reader(program);
+  CompletionReader reader(program);
   if (words.empty()) return reader.Offered("");
   for (std::size_t i = 0; i + 1 < words.size(); ++i) reader.Take(words[i]);
   return reader.Offered(words.back());

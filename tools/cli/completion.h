@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Completing a command line: each shell has a short script that asks the
-// program itself, so that what is offered is what the program takes.
+// Completion of command lines. Each shell has a short script that asks the
+// program itself, so that exactly the accepted words are offered.
 #ifndef ZTK_TOOLS_CLI_COMPLETION_H_
 #define ZTK_TOOLS_CLI_COMPLETION_H_
 
@@ -13,19 +13,19 @@
 
 namespace ztk::cli {
 
-// The first word of a call by such a script; the others follow, the last of
-// which is the one to complete.
+// The first word of a call by such a script. The words of the command line
+// follow; the last one is the word to complete.
 inline constexpr char kCompletionCall[] = "__complete";
 
-// What can stand in the place of the last word: a line each, the word, a tab,
-// and what it means. Instead, ":files" where a file is named, and ":command"
-// where another program's words follow the "--" that stands before.
+// The words that can stand in place of the last word, one line each: the word,
+// a tab, its meaning. Instead, ":files" where a file name is expected, and
+// ":command" where the command line of another program follows "--".
 std::string Completions(const Program &program,
                         const std::vector<std::string> &words);
 
 enum class Shell : std::uint8_t { Bash, Fish, Zsh };
 
-// The script that completes the program.
+// The completion script of a program.
 std::string CompletionScript(const std::string &program, Shell shell);
 
 }  // namespace ztk::cli

@@ -5,15 +5,15 @@ namespace ztk::cli {
 
 namespace {
 
-// @PROGRAM@ is the program's name, @FUNCTION@ the same as a function may be
-// called in every shell, @CALL@ the word that asks for completions.
+// @PROGRAM@ is the name of the program, @FUNCTION@ the same in the form of a
+// function name, @CALL@ the word that asks for completions.
 constexpr char kBash[] = R"(# bash completion for @PROGRAM@ -*- shell-script -*-
-# Made from the program's table of commands; the program says what fits.
+# The program itself tells which words it accepts here.
 
 _@FUNCTION@() {
   local cur words cword quote='' line word lead i
   COMPREPLY=()
-  # Bash parts words at "=" and ":", which belong to ours.
+  # Bash splits words at "=" and ":"; they are joined again here.
   if declare -F _get_comp_words_by_ref >/dev/null; then
     _get_comp_words_by_ref -n =: cur words cword
   else
@@ -26,7 +26,7 @@ _@FUNCTION@() {
   for word in "${words[@]:1:cword}"; do
     typed+=("${word//[\"\'\\]/}")
   done
-  # What stands before the last sign that parts words is not replaced.
+  # Bash replaces only what follows the last splitting character.
   lead=${cur%"${cur##*[=:]}"}
   while IFS= read -r line; do
     case $line in
@@ -57,7 +57,7 @@ complete -F _@FUNCTION@ @PROGRAM@
 )";
 
 constexpr char kFish[] = R"(# fish completion for @PROGRAM@
-# Made from the program's table of commands; the program says what fits.
+# The program itself tells which words it accepts here.
 
 function __@FUNCTION@_complete
     set -l before (commandline -opc)
@@ -79,7 +79,7 @@ complete -c @PROGRAM@ -f -a '(__@FUNCTION@_complete)'
 )";
 
 constexpr char kZsh[] = R"(#compdef @PROGRAM@
-# Made from the program's table of commands; the program says what fits.
+# The program itself tells which words it accepts here.
 
 _@PROGRAM@() {
   local line word

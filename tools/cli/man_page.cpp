@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/man_page.h"
 
+#include <algorithm>
+
 #include "cli/roff.h"
 
 namespace ztk::cli {
@@ -9,41 +11,68 @@ namespace {
 
 constexpr int kCommandsSection = 1;
 
-std::string OptionMarkup(const Option &option) {
+std::string NamesMarkup(const Option &option) {
   std::string markup;
   for (const std::string &name : NamesOf(option)) {
     if (!markup.empty()) markup += ", ";
-    markup += IsPosition(option) ? Italic(name) : Bold(name);
+    markup += IsPositional(option) ? Italic(name) : Bold(name);
   }
   if (!option.value.empty()) markup += " " + Italic(option.value);
   return markup;
 }
 
-// As it stands in a synopsis: in brackets where it may be left out.
+// An option in a synopsis: in brackets where it may be left out.
 std::string UseMarkup(const Option &option) {
   std::string use =
-      IsPosition(option) ? Italic(option.names) : Bold(KeyOf(option));
+      IsPositional(option) ? Italic(option.names) : Bold(KeyOf(option));
+  if (option.fill == Fill::Command) use = Bold("--") + " " + use;
   if (!option.value.empty()) use += " " + Italic(option.value);
   if (option.repeats) use += "...";
   return option.required ? use : "[" + use + "]";
 }
 
-// Options first, as they are looked for; positions in their order.
+// Options first, as readers look for them; positional arguments in their order.
 std::string Synopsis(const Program &program, const Command &command) {
   std::string synopsis = Bold(program.name + " " + command.path);
-  for (const Option &option : command.options) {
-    if (!IsPosition(option)) synopsis += " " + UseMarkup(option);
-  }
-  for (const Option &option : command.options) {
-    if (IsPosition(option)) synopsis += " " + UseMarkup(option);
+  for (const bool positional : {false, true}) {
+    for (const Option &option : command.options) {
+      if (IsPositional(option) == positional) {
+        synopsis += " " + UseMarkup(option);
+      }
+    }
   }
   return synopsis;
 }
 
+std::string Examples(const std::vector<std::string> &examples) {
+  std::string lines;
+  for (const std::string &example : examples) lines += "  " + example + "\n";
+  return lines;
+}
+
 void AddTerms(const std::vector<Option> &options, Page *page) {
   for (const Option &option : options) {
-    page->Term(OptionMarkup(option), option.description + ".");
+    page->Term(NamesMarkup(option), option.description + ".");
   }
+}
+
+// The options of several commands, each description once.
+std::vector<Option> OptionsOf(const std::vector<const Command *> &commands) {
+  std::vector<Option> options;
+  for (const Command *command : commands) {
+    for (const Option &option : command->options) {
+      const auto known = std::find_if(
+          options.begin(), options.end(),
+          [&](const Option &other) { return other.names == option.names; });
+      if (known == options.end()) {
+        options.push_back(option);
+      } else if (known->description.find(option.description) ==
+                 std::string::npos) {
+        known->description += ".\n" + command->path + ": " + option.description;
+      }
+    }
+  }
+  return options;
 }
 
 void AddCommand(const Program &program, const Command &command, Page *page) {
@@ -52,59 +81,100 @@ void AddCommand(const Program &program, const Command &command, Page *page) {
   page->Text("\n" + command.summary + ".");
   AddTerms(command.options, page);
   if (!command.note.empty()) page->Text("\n" + command.note);
-  std::string examples;
-  for (const std::string &example : command.examples) {
-    examples += "  " + example + "\n";
-  }
-  page->Text("\nExample:\n" + examples);
+  page->Text("\nExample:\n" + Examples(command.examples));
 }
 
-}  // namespace
-
-std::string ManPage(const Program &program, const std::string &date,
-                    const std::string &source) {
-  std::string title;
-  for (const char character : program.name) {
-    const bool lower = character >= 'a' && character <= 'z';
-    title += lower ? static_cast<char>(character - 'a' + 'A') : character;
-  }
-  Page page(title, kCommandsSection, date, source);
-  page.Section("NAME");
-  page.Line(Escaped(program.name) + " \\- " + Escaped(program.summary));
-  page.Section("SYNOPSIS");
-  page.Line(Bold(program.name) + " " + Italic("COMMAND") + " [" +
-            Italic("OPTION") + "]...");
-  page.Section("DESCRIPTION");
-  page.Text(program.about);
-  page.Section("OPTIONS");
-  page.Text("These go with every command, but --version with none:");
-  AddTerms(program.options, &page);
-  if (!program.groups.empty()) {
-    page.Section("SETTINGS");
-    for (const Group &group : program.groups) {
-      if (!group.isSetting) continue;
-      page.Term(Bold(group.name), group.summary + ".\n" + group.note);
-    }
-  }
-  page.Section("COMMANDS");
+// What its commands share stands here once.
+void AddGroup(const Program &program, const Group &group, Page *page) {
+  std::vector<const Command *> commands;
+  std::vector<std::string> examples;
   for (const Command &command : program.commands) {
-    AddCommand(program, command, &page);
+    if (!command.path.starts_with(group.name + " ")) continue;
+    commands.push_back(&command);
+    examples.insert(examples.end(), command.examples.begin(),
+                    command.examples.end());
   }
-  for (const Section &section : program.sections) {
-    page.Section(section.title);
-    page.Text(section.text);
+  page->Subsection(group.name);
+  page->Text(group.summary + ".\n" + group.note);
+  for (const Command *command : commands) {
+    const std::string own =
+        command->note == group.note ? "" : "\n" + command->note;
+    page->Term(Synopsis(program, *command), command->summary + "." + own);
+  }
+  const std::vector<Option> options = OptionsOf(commands);
+  if (!options.empty()) page->Text("\nArguments and options:");
+  AddTerms(options, page);
+  page->Text("\nExamples:\n" + Examples(examples));
+}
+
+void AddCommands(const Program &program, Page *page) {
+  page->Section("COMMANDS");
+  std::string last;
+  for (const Command &command : program.commands) {
+    const std::string first = command.path.substr(0, command.path.find(' '));
+    const Group *group = FindGroup(program, first);
+    if (group == nullptr || first == command.path) {
+      AddCommand(program, command, page);
+    } else if (first != last) {
+      AddGroup(program, *group, page);
+    }
+    last = first;
+  }
+}
+
+void AddSections(const std::vector<Section> &sections, Page *page) {
+  for (const Section &section : sections) {
+    page->Section(section.title);
+    page->Text(section.text);
     for (const Term &term : section.terms) {
-      page.Term(Bold(term.name), term.meaning);
+      page->Term(Bold(term.name), term.meaning);
     }
   }
-  page.Section("SEE ALSO");
+}
+
+std::string SeeAlso(const Program &program) {
   std::string others;
   for (const std::string &other : program.seeAlso) {
     const std::size_t bracket = other.find('(');
     if (!others.empty()) others += ",\n";
     others += Bold(other.substr(0, bracket)) + other.substr(bracket);
   }
-  page.Line(others);
+  return others;
+}
+
+std::string UpperCase(std::string text) {
+  for (char &character : text) {
+    const bool lower = character >= 'a' && character <= 'z';
+    if (lower) character = static_cast<char>(character - 'a' + 'A');
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string ManPage(const Program &program, const std::string &date,
+                    const std::string &source) {
+  Page page(UpperCase(program.name), kCommandsSection, date, source);
+  page.Section("NAME");
+  page.Line(Escaped(program.name) + " \\- " + Escaped(program.summary));
+  page.Section("SYNOPSIS");
+  page.Line(Bold(program.name) + " " + Italic("COMMAND") + " [" +
+            Italic("OPTION") + "]...");
+  page.Section("EXAMPLES");
+  page.Text(Examples(program.examples));
+  page.Section("DESCRIPTION");
+  page.Text(program.about);
+  AddSections(program.introduction(), &page);
+  page.Section("OPTIONS");
+  page.Text("These options are accepted with every command:");
+  AddTerms(CommonOptions(program), &page);
+  AddCommands(program, &page);
+  AddSections(
+      {{.title = "EXIT STATUS", .text = "", .terms = program.exitStatuses}},
+      &page);
+  AddSections(program.sections(), &page);
+  page.Section("SEE ALSO");
+  page.Line(SeeAlso(program));
   return page.text();
 }
 

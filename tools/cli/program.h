@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// A program as its user meets it: commands, options, what they mean. Each
-// program fills it from its own table; manual pages and completions are made
-// from it.
+// The command-line interface of a program as one table: commands, options,
+// exit statuses, and the functions that run the commands. Parser, help,
+// completions and manual page are made from this table.
 #ifndef ZTK_TOOLS_CLI_PROGRAM_H_
 #define ZTK_TOOLS_CLI_PROGRAM_H_
 
@@ -14,35 +14,55 @@
 
 namespace ztk::cli {
 
-// A word that can stand somewhere, and what it means.
+// The arguments of one call, by the long name of the option ("--product") or
+// the name of the positional argument ("CHANNEL").
+struct Arguments {
+  // The words of a positional argument that takes several of them are joined
+  // by single spaces. A flag has the value "true".
+  std::map<std::string, std::vector<std::string>> given;
+  // A program and its own arguments, which follow "--".
+  std::vector<std::string> command;
+
+  bool Has(const std::string &name) const { return given.count(name) > 0; }
+  // The last value; null when the argument was left out.
+  const std::string *Find(const std::string &name) const {
+    const auto found = given.find(name);
+    return found == given.end() ? nullptr : &found->second.back();
+  }
+  // The last value; empty when the argument was left out.
+  std::string One(const std::string &name) const {
+    return Has(name) ? given.at(name).back() : "";
+  }
+  std::vector<std::string> All(const std::string &name) const {
+    return Has(name) ? given.at(name) : std::vector<std::string>();
+  }
+};
+
+// An accepted word and its meaning, offered by completions.
 struct Value {
   std::string word;
   std::string meaning;
 };
 
-// What was typed before: by the long name of an option, "--product", or the
-// name of a position, "N". Words of a position that takes several are joined by
-// single spaces.
-using Typed = std::map<std::string, std::string>;
-
 enum class Fill : std::uint8_t {
-  Nothing,  // anything can stand there
-  Values,   // what `values` gives
-  File,     // the name of a file
-  Command   // a program and its own arguments, up to the end
+  Nothing,  // any word
+  Values,   // what `values` returns
+  File,     // a file name
+  Command   // a program and its own arguments, which follow "--"
 };
 
+// An option, or a positional argument, whose name has no dashes.
 struct Option {
-  // "-n,--mixers"; the name of a position has no dashes.
-  std::string names;
-  std::string value;  // "MODEL"; empty for a flag and for a position
+  std::string names;  // "-n,--mixers", "CHANNEL"
+  std::string value;  // "MODEL"; empty for a flag and for a positional argument
   std::string description;
   bool required = false;
-  bool repeats = false;  // may be given again; a position: takes several words
+  // The option may be given again; the positional argument takes several words.
+  bool repeats = false;
   Fill fill = Fill::Nothing;
-  // What can stand there, after what was typed before, for a word that begins
-  // so far; more may be given, as only what begins so is offered.
-  std::function<std::vector<Value>(const Typed &before,
+  // The words that fit after the arguments before; `begun` is the part of the
+  // word that was typed. Words that do not begin so may be returned too.
+  std::function<std::vector<Value>(const Arguments &before,
                                    const std::string &begun)>
       values = {};
 };
@@ -54,17 +74,19 @@ struct Command {
   std::string
       note;  // sentences; lines that start with a space stay as they are
   std::vector<std::string> examples;
+  // Returns the exit status.
+  std::function<int(const Arguments &arguments)> run;
 };
 
-// A word that stands for several commands: the first of their paths.
+// The first word of commands with two words.
 struct Group {
   std::string name;
   std::string summary;
   std::string note;
-  bool isSetting;  // else its commands alone tell of it
+  std::string example;
 };
 
-// What one exit status, variable or file means.
+// An exit status, a variable or a file, and its meaning.
 struct Term {
   std::string name;
   std::string meaning;
@@ -72,26 +94,52 @@ struct Term {
 
 struct Section {
   std::string title;
-  std::string text;  // paragraphs, parted by empty lines
+  std::string text;  // paragraphs, separated by empty lines
   std::vector<Term> terms;
 };
 
 struct Program {
   std::string name;
-  std::string summary;          // goes on after "ztk - "
-  std::string about;            // paragraphs
+  std::string version;
+  std::string summary;  // continues "ztk - "
+  std::string about;    // the first paragraph of help and manual page
+  std::vector<std::string> examples;
   std::vector<Option> options;  // of every command
   std::vector<Group> groups;
   std::vector<Command> commands;
-  std::vector<Section> sections;
+  std::vector<Term> exitStatuses;
+  // Of the manual page, which alone needs them: before its commands and after.
+  std::vector<Section> (*introduction)();
+  std::vector<Section> (*sections)();
   std::vector<std::string> seeAlso;  // "ztk-virtual-mixer(1)"
 };
 
-// The names of an option, one by one.
+// Defined by each program: the table of the program that is linked.
+const Program &ThisProgram();
+
+inline constexpr char kHelpName[] = "--help";
+inline constexpr char kVersionName[] = "--version";
+
+// The options of every command: those of the program, --help and --version.
+std::vector<Option> CommonOptions(const Program &program);
+
+// All names of an option.
 std::vector<std::string> NamesOf(const Option &option);
-// The name by which Typed knows it: the last of them.
+// The name by which Arguments knows it: the last one.
 std::string KeyOf(const Option &option);
-bool IsPosition(const Option &option);
+bool IsPositional(const Option &option);
+bool IsFlag(const Option &option);
+
+// Null where there is none.
+const Command *FindCommand(const Program &program, const std::string &path);
+const Group *FindGroup(const Program &program, const std::string &name);
+
+// The words that can follow the path, which is empty or names a group.
+std::vector<Value> NextWords(const Program &program, const std::string &path);
+
+// An option that offers these words, whatever stands before it. The function is
+// called by completions only.
+Option Offering(Option option, std::function<std::vector<Value>()> values);
 
 }  // namespace ztk::cli
 

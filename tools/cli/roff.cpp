@@ -15,7 +15,7 @@ std::vector<std::string> LinesOf(const std::string &text) {
   return lines;
 }
 
-// As the argument of a request.
+// Text as the quoted argument of a request.
 std::string Argument(const std::string &text) {
   std::string argument;
   for (const char character : Escaped(text)) {
@@ -35,7 +35,8 @@ std::string Escaped(const std::string &text) {
         escaped += "\\e";
         break;
       case '-':
-        // Else it is shown as a hyphen that no shell understands.
+        // A plain dash is shown as a typographic hyphen, which cannot be
+        // copied into a shell.
         escaped += "\\-";
         break;
       case '\'':
@@ -70,10 +71,10 @@ std::string Italic(const std::string &text) {
 
 Page::Page(const std::string &title, int section, const std::string &date,
            const std::string &source) {
-  // The date is read by programs: its dashes stay as they are.
+  // Programs read the date, so its dashes are not escaped.
   Request(".TH " + Argument(title) + " " + std::to_string(section) + " " +
           date + " " + Argument(source));
-  // Names are looked for, and copied: they are never parted.
+  // No hyphenation: readers search for names and copy them.
   Request(".nh");
   Request(".ad l");
 }
@@ -129,7 +130,7 @@ void Page::Verbatim(const std::string &lines) {
   Request(".nf");
   for (const std::string &line : LinesOf(lines)) {
     const std::size_t first = line.find_first_not_of(' ');
-    // An empty line would be an error; a space in front a break.
+    // An empty line is an error; a leading space would break the line.
     Request(first == std::string::npos ? "\\&" : "\\&" + Escaped(line));
   }
   Request(".fi");

@@ -17,14 +17,14 @@ class Page {
   void Section(const std::string &title);
   void Subsection(const std::string &title);
 
-  // Flowing text: paragraphs are parted by empty lines, and lines that start
-  // with a space are shown as they are.
+  // Paragraphs, separated by empty lines. Lines that start with a space are
+  // shown unchanged.
   void Text(const std::string &text);
-  // A line on its own, of text that is marked up already.
+  // A paragraph of one line, which contains markup.
   void Line(const std::string &markup);
-  // Lines as they are, indented.
+  // Indented lines that are not filled.
   void Verbatim(const std::string &lines);
-  // A term, marked up already, with what it means beside or below it.
+  // A term, which contains markup, and its meaning beside or below it.
   void Term(const std::string &markup, const std::string &meaning);
 
   const std::string &text() const { return text_; }
@@ -33,11 +33,11 @@ class Page {
   void Request(const std::string &request);
 
   std::string text_;
-  // Nothing stands yet below the last heading, where no paragraph may begin.
+  // No paragraph request may follow a heading directly.
   bool afterHeading_ = false;
 };
 
-// Text in which nothing is read as markup any more.
+// Text in which roff finds no markup.
 std::string Escaped(const std::string &text);
 std::string Bold(const std::string &text);
 std::string Italic(const std::string &text);

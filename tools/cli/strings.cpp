@@ -9,14 +9,10 @@ namespace {
 
 constexpr std::size_t kLongestQuotation = 60;  // bytes
 
-}  // namespace
-
-namespace {
-
-std::optional<std::uint32_t> Parse(const char *begin, const char *end,
-                                   int base) {
+std::optional<std::uint32_t> ParseInBase(std::string_view word, int base) {
   std::uint32_t number = 0;
-  const auto [rest, error] = std::from_chars(begin, end, number, base);
+  const char *const end = word.data() + word.size();
+  const auto [rest, error] = std::from_chars(word.data(), end, number, base);
   if (error != std::errc{} || rest != end) return std::nullopt;
   return number;
 }
@@ -33,23 +29,26 @@ std::string LowerCase(std::string text) {
   return text;
 }
 
-std::optional<std::uint32_t> ParseNumber(const std::string &word) {
-  return Parse(word.data(), word.data() + word.size(), 10);
+std::optional<std::uint32_t> ParseNumber(std::string_view word) {
+  return ParseInBase(word, 10);
 }
 
-std::optional<std::uint32_t> ParseNumber(const std::string &word,
+std::optional<std::uint32_t> ParseNumber(std::string_view word,
                                          std::uint32_t least,
                                          std::uint32_t most) {
-  const std::optional<std::uint32_t> number = ParseNumber(word);
-  if (!number || *number < least || *number > most) return std::nullopt;
-  return number;
+  const auto number = ParseNumber(word);
+  return number && *number >= least && *number <= most ? number : std::nullopt;
 }
 
-std::optional<std::uint32_t> ParseDecimalOrHex(const std::string &word) {
+std::optional<std::uint32_t> ParseHex(std::string_view word) {
+  return ParseInBase(word, 16);
+}
+
+std::optional<std::uint32_t> ParseDecimalOrHex(std::string_view word) {
   if (!word.starts_with("0x") && !word.starts_with("0X")) {
     return ParseNumber(word);
   }
-  return Parse(word.data() + 2, word.data() + word.size(), 16);
+  return ParseHex(word.substr(2));
 }
 
 std::string OneLine(const std::string &text) {

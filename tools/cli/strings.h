@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// Reading single words of the command line.
+// Words of a command line: reading numbers, preparing text for messages.
 #ifndef ZTK_TOOLS_CLI_STRINGS_H_
 #define ZTK_TOOLS_CLI_STRINGS_H_
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ztk::cli {
@@ -14,28 +15,30 @@ namespace ztk::cli {
 char LowerCase(char character);
 std::string LowerCase(std::string text);
 
-// A number of decimal digits and nothing else; none when it is not, or when it
-// does not fit.
-std::optional<std::uint32_t> ParseNumber(const std::string &word);
-// The same, between two bounds that are both accepted.
-std::optional<std::uint32_t> ParseNumber(const std::string &word,
+// A number of decimal digits and nothing else. Empty for anything else, and
+// when the number does not fit or lies outside of the bounds.
+std::optional<std::uint32_t> ParseNumber(std::string_view word);
+std::optional<std::uint32_t> ParseNumber(std::string_view word,
                                          std::uint32_t least,
                                          std::uint32_t most);
 
 // The same, or "0x" and hexadecimal digits.
-std::optional<std::uint32_t> ParseDecimalOrHex(const std::string &word);
+std::optional<std::uint32_t> ParseDecimalOrHex(std::string_view word);
 
-// One line of text from anything: control characters become spaces. Texts of
-// the library and words of the user go through it on their way to a terminal.
+// Hexadecimal digits and nothing else.
+std::optional<std::uint32_t> ParseHex(std::string_view word);
+
+// Replaces control characters by spaces. Text of the library and of the user is
+// shown in a terminal only after this.
 std::string OneLine(const std::string &text);
 
-// A word of the user's in quotation marks, on one line and not too long.
+// A word in quotation marks, on one line, cut when it is long.
 std::string Quoted(const std::string &word);
 
 // "a, b, c"
 std::string Listed(const std::vector<std::string> &words);
 
-// Fills up with spaces to the width, so that columns align.
+// Appends spaces up to the width, to align columns.
 std::string Padded(const std::string &text, std::size_t width);
 
 }  // namespace ztk::cli

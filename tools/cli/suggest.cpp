@@ -10,10 +10,11 @@ namespace ztk::cli {
 
 namespace {
 
-// A longer word is garbage, and comparing takes time.
+// A longer word is not a mistyped one, and the comparison takes time.
 constexpr std::size_t kLongestWord = 100;  // bytes
 
-// Letters and digits: "post ch2", "PostCH2" and "--post-ch2" are as good.
+// Removes spaces and dashes and folds case: "post ch2", "PostCH2" and
+// "--post-ch2" are the same word.
 std::string Folded(const std::string &text) {
   std::string folded;
   for (const char character : text) {
@@ -25,8 +26,8 @@ std::string Folded(const std::string &text) {
   return folded;
 }
 
-// How many letters have to be put in, taken out, replaced, or swapped with
-// their neighbour to make `word` of `text`, or of the part of it that is best.
+// The edit distance (insertion, deletion, replacement, swap of neighbours)
+// between `word` and `text`, or the part of `text` that is most similar.
 std::size_t Differences(const std::string &word, const std::string &text,
                         bool ofPart) {
   using Row = std::vector<std::size_t>;
@@ -50,9 +51,8 @@ std::size_t Differences(const std::string &word, const std::string &text,
   return ofPart ? *std::min_element(last.begin(), last.end()) : last.back();
 }
 
-// How many letters may differ in a word that is only a slip of the text: a
-// third of the shorter one; fewer where the word is only a part of the text, as
-// a few letters are soon found in any.
+// The largest accepted distance: a third of the shorter word. It is smaller for
+// a part of the text, because a few letters are found in almost any text.
 std::size_t MostDifferences(const std::string &word, const std::string &text,
                             bool ofPart) {
   if (ofPart) return text.size() > word.size() ? (word.size() - 1) / 3 : 0;
@@ -98,7 +98,7 @@ std::string NearestAndAccepted(const std::string &word,
 std::string NearestAndAccepted(const std::string &word, std::uint32_t least,
                                std::uint32_t most) {
   std::string nearest;
-  // However large: what does not fit is above the range.
+  // A number that does not fit into 32 bits is above the range.
   const bool number = !word.empty() &&
                       word.find_first_not_of("0123456789") == std::string::npos;
   if (number) {

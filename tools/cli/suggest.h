@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What somebody meant who typed a word that there is not.
+// Suggests the accepted word that is closest to a mistyped one.
 #ifndef ZTK_TOOLS_CLI_SUGGEST_H_
 #define ZTK_TOOLS_CLI_SUGGEST_H_
 
@@ -10,18 +10,18 @@
 
 namespace ztk::cli {
 
-// The accepted word of which the other is a slip: it may be a part of it, a few
-// letters may be missing, too many, wrong or swapped; case does not count.
-// Empty when it is too far from each, as that would be no more than a guess.
+// The accepted word that is closest to `word`: a part of it, or the same with a
+// few letters missing, added, replaced or swapped. Upper and lower case do not
+// differ. Empty when each accepted word differs too much.
 std::string Nearest(const std::string &word,
                     const std::vector<std::string> &accepted);
 
-// "; nearest: input; accepted: status, input"; the nearest only where there is
-// one, and nothing where nothing is accepted.
+// "; nearest: input; accepted: status, input". Without the nearest when there
+// is none; empty when nothing is accepted.
 std::string NearestAndAccepted(const std::string &word,
                                const std::vector<std::string> &accepted);
 
-// "; nearest: 5; accepted: 1 to 5", for a word that shall be a number.
+// "; nearest: 5; accepted: 1 to 5", for a word that has to be a number.
 std::string NearestAndAccepted(const std::string &word, std::uint32_t least,
                                std::uint32_t most);
 

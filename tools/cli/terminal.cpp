@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/strings.h"
+
 namespace ztk::cli {
 
 namespace {
@@ -16,7 +18,7 @@ namespace {
 constexpr char kBold[] = "\033[1m";
 constexpr char kNormal[] = "\033[0m";
 
-// Of the environment; empty for none.
+// The value of an environment variable; empty when it is not set.
 std::string_view Variable(const char *name) {
   const char *value = std::getenv(name);
   return value == nullptr ? "" : value;
@@ -26,8 +28,8 @@ bool IsMark(char character) {
   return character == kStrong || character == kPlain || character == kWhole;
 }
 
-// The first byte of a character, in UTF-8. All that is shown here is one column
-// wide, but for the sentences of some languages, which the terminal breaks.
+// The first byte of a character in UTF-8. Each character counts as one column;
+// where it is wider, in warning texts of some languages, the terminal wraps.
 bool StartsCharacter(char character) {
   return !IsMark(character) &&
          (static_cast<unsigned char>(character) & 0xC0) != 0x80;
@@ -51,10 +53,13 @@ std::size_t Indentation(std::string_view line) {
   return spaces;
 }
 
-// Where the rest of a line goes on: below its second column, unless that
-// leaves too little room.
+// The indentation of the rest of a wrapped line: that of its second column,
+// unless too little room is left. A line that is indented deeply is itself the
+// second column of the line above.
 std::size_t HangingIndentation(std::string_view line, std::size_t columns) {
+  constexpr std::size_t kDeep = 12;
   const std::size_t first = Indentation(line);
+  if (first >= kDeep) return first <= columns / 2 ? first : 0;
   const std::size_t gap = line.find("  ", line.find_first_not_of(" \x0E\x0F"));
   if (gap != std::string_view::npos) {
     const std::size_t second = line.find_first_not_of(' ', gap);
@@ -66,7 +71,7 @@ std::size_t HangingIndentation(std::string_view line, std::size_t columns) {
   return first + 2 <= columns / 2 ? first + 2 : 0;
 }
 
-// The length in bytes of what fits, which ends before a space if it can.
+// The length in bytes of the part that fits; it ends at a space if possible.
 std::size_t Fitting(std::string_view line, std::size_t columns) {
   const std::size_t start = line.find_first_not_of(' ');
   std::size_t width = 0;
@@ -81,7 +86,7 @@ std::size_t Fitting(std::string_view line, std::size_t columns) {
   return line.size();
 }
 
-// Words that are too long for a line are left to the terminal.
+// A word that is longer than a line is not divided.
 std::string Wrapped(std::string_view line, std::size_t columns,
                     std::size_t hanging) {
   if (line.starts_with(kWhole)) return std::string(line);
@@ -97,7 +102,7 @@ std::string Wrapped(std::string_view line, std::size_t columns,
   }
 }
 
-// A whole line that is too long, below the title that it begins with.
+// Puts a line that is not wrapped, and too long, below its title ("Example:").
 std::string WholeBelowTitle(const std::string &line, std::size_t columns) {
   const std::size_t title = line.find(": ");
   if (WidthOf(line) <= columns || title == std::string::npos) return line;
@@ -105,12 +110,12 @@ std::string WholeBelowTitle(const std::string &line, std::size_t columns) {
          line.substr(title + 1);
 }
 
-std::string Marked(const std::string &text, bool standsOut) {
+std::string Marked(const std::string &text, bool emphasis) {
   std::string marked;
   for (const char character : text) {
     if (!IsMark(character)) {
       marked += character;
-    } else if (standsOut && character != kWhole) {
+    } else if (emphasis && character != kWhole) {
       marked += character == kStrong ? kBold : kNormal;
     }
   }
@@ -134,13 +139,13 @@ bool HasCursor(int stream) {
   return IsTerminal(stream) && !kind.empty() && kind != "dumb";
 }
 
-bool MayStandOut(int stream) {
+bool ShowsEmphasis(int stream) {
   return HasCursor(stream) && Variable("NO_COLOR").empty() &&
          Variable("CLICOLOR") != "0";
 }
 
 std::string LaidOut(const std::string &text, const Layout &layout) {
-  if (layout.columns == 0) return Marked(text, layout.standsOut);
+  if (layout.columns == 0) return Marked(text, layout.emphasis);
   std::string wrapped;
   std::size_t begin = 0;
   while (begin < text.size()) {
@@ -153,7 +158,7 @@ std::string LaidOut(const std::string &text, const Layout &layout) {
     wrapped += '\n';
     begin = end + 1;
   }
-  return Marked(wrapped, layout.standsOut);
+  return Marked(wrapped, layout.emphasis);
 }
 
 std::string Flowed(const std::string &text, std::size_t columns) {
@@ -181,6 +186,11 @@ std::string Flowed(const std::string &text, std::size_t columns) {
     flowed += Wrapped(line, width, hanging) + "\n";
   }
   return flowed;
+}
+
+std::string MessageLine(const std::string &program, const std::string &text) {
+  return LaidOut(program + ": " + OneLine(text) + "\n",
+                 {.columns = Columns(STDERR_FILENO), .emphasis = false});
 }
 
 }  // namespace ztk::cli

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
-// Writes the manual page and the completions of the program that it is linked
-// with. It runs while the project is built and is not installed.
+// Writes the manual page and the completions of the program whose table is
+// linked. It runs during the build and is not installed.
 #include <fstream>
 #include <iostream>
 #include <string>
 
 #include "cli/completion.h"
-#include "cli/described.h"
 #include "cli/man_page.h"
+#include "cli/program.h"
 
 namespace {
 
-// Under names by which each reader finds them.
 bool Write(const std::string &file, const std::string &text) {
   std::ofstream stream(file, std::ios::binary);
   stream << text;
@@ -30,7 +29,7 @@ int main(int argc, char **argv) {
     return 2;
   }
   const std::string folder = std::string(argv[1]) + "/";
-  const Program program = Described();
+  const Program &program = ThisProgram();
   const std::string &name = program.name;
   const bool written =
       Write(folder + name + ".1", ManPage(program, argv[2], argv[3])) &&

@@ -5,20 +5,16 @@
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_WORLD_OPTIONS_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_WORLD_OPTIONS_H_
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "cli/parser.h"
 #include "common/file_descriptor.h"
 #include "virtual-mixer/mixer/mixer_world.h"
 
 namespace ztk::virtual_mixer {
 
-// An invalid command line, as one sentence.
-class UsageError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+using cli::UsageError;
 
 struct WorldOptions {
   // A report, whose mixers are replayed; `mixers` mixers when empty.

@@ -2,22 +2,23 @@
 #ifndef ZTK_TOOLS_ZTK_COMMAND_LINE_H_
 #define ZTK_TOOLS_ZTK_COMMAND_LINE_H_
 
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "cli/program.h"
 #include "ztk/report.h"
 
 namespace ztk::program {
 
-// A call that did not run throws out of Run(): what is known of it until then.
-struct Call {
-  std::string command;  // "input set", as far as the words go
-  bool json = false;
-};
+// Runs the command that the words after the program's name ask for, and
+// returns the exit status. Never throws.
+int RunCommandLine(const std::vector<std::string> &words);
 
-// Parses the words that follow the program's name, and runs their command.
-// *call is filled in as soon as something is known.
-Report Run(std::vector<std::string> words, Call *call);
+// Runs the function of a command and prints its report, also when it throws.
+int RunCommand(const std::string &path,
+               const std::function<Report(const cli::Arguments &)> &run,
+               const cli::Arguments &arguments);
 
 }  // namespace ztk::program
 

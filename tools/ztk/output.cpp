@@ -9,7 +9,6 @@
 #include <csignal>
 #include <cstring>
 
-#include "cli/strings.h"
 #include "cli/terminal.h"
 
 namespace ztk::program {
@@ -44,8 +43,8 @@ void PrepareStreams() {
   std::signal(SIGPIPE, SIG_IGN);
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
     if (fcntl(stream, F_GETFD) >= 0 || errno != EBADF) continue;
-    // The lowest free number is this one, as those below are open. A folder
-    // can neither be read nor written, and this one is always there.
+    // open() takes the lowest free number, which is this one. A folder can
+    // neither be read nor written, and this one always exists.
     if (open("/", O_RDONLY | O_DIRECTORY) < 0) return;
   }
 }
@@ -55,22 +54,22 @@ bool WriteOutput(const std::string &text) {
 }
 
 void WriteError(const std::string &line) {
-  WriteAll(STDERR_FILENO, cli::LaidOut("ztk: " + cli::OneLine(line) + "\n",
-                                       {.columns = cli::Columns(STDERR_FILENO),
-                                        .standsOut = false}));
+  WriteAll(STDERR_FILENO, cli::MessageLine("ztk", line));
 }
 
 void WriteLineEnd() { WriteAll(STDERR_FILENO, "\n"); }
 
-int Print(const std::string &command, const Report &report, bool json) {
+int Print(const std::string &command, const Report &report, const Form &form) {
   bool written = true;
   int error = 0;
-  if (!report.written || (json && report.problem)) {
+  if (!report.written || (form.json && report.problem)) {
     written = WriteOutput(
-        json ? JsonLine(command, report) + "\n"
-             : cli::LaidOut(report.text,
-                            {.columns = cli::Columns(STDOUT_FILENO),
-                             .standsOut = cli::MayStandOut(STDOUT_FILENO)}));
+        form.json ? JsonLine(command, report) + "\n"
+        : form.quiet
+            ? std::string()
+            : cli::LaidOut(report.text,
+                           {.columns = cli::Columns(STDOUT_FILENO),
+                            .emphasis = cli::ShowsEmphasis(STDOUT_FILENO)}));
     error = errno;
   }
   for (const std::string &warning : report.warnings) {
@@ -80,7 +79,7 @@ int Print(const std::string &command, const Report &report, bool json) {
   if (report.problem) WriteError(report.problem->message);
   if (!written) {
     WriteError(std::string("cannot write the output: ") + std::strerror(error) +
-               "; what it would have said is lost");
+               "; the output is lost");
     return static_cast<int>(ExitCode::Failed);
   }
   return static_cast<int>(report.problem ? report.problem->exit

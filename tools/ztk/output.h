@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The standard streams. Nothing is buffered: what was written has left the
-// process, and a failure is known at once.
+// Writing to the standard streams. Nothing is buffered: after a call the text
+// has left the process, or the failure is known.
 #ifndef ZTK_TOOLS_ZTK_OUTPUT_H_
 #define ZTK_TOOLS_ZTK_OUTPUT_H_
 
@@ -11,24 +11,30 @@
 
 namespace ztk::program {
 
-// To be called before anything is opened. A standard stream that is closed
-// gets a descriptor that cannot be written, so that no connection to a mixer or
-// bus takes its number and receives text. A pipe whose reader has gone becomes
-// a failed write instead of a signal.
+// To be called before anything is opened. A closed standard stream gets a
+// descriptor that cannot be written; otherwise a connection to a mixer or bus
+// would take its number and receive text. Writing to a pipe without a reader
+// becomes an error instead of a signal.
 void PrepareStreams();
 
 // False when not all of it could be written.
 bool WriteOutput(const std::string &text);
 
-// A line on the error stream, which only a terminal may break, between words;
-// nobody is left to tell when that fails.
+// Writes a message to the error stream, wrapped in a terminal. A failure is
+// ignored.
 void WriteError(const std::string &line);
 
-// Ends a line that the terminal has begun, on the error stream.
+// Writes a line end to the error stream.
 void WriteLineEnd();
 
-// Writes the report, in the form asked for, and answers the exit status.
-int Print(const std::string &command, const Report &report, bool json);
+// The form in which the user asked for the report.
+struct Form {
+  bool json = false;
+  bool quiet = false;  // no text, only warnings and errors
+};
+
+// Writes the report and returns the exit status.
+int Print(const std::string &command, const Report &report, const Form &form);
 
 }  // namespace ztk::program
 

@@ -9,40 +9,38 @@ constexpr ExitMeaning kExitMeanings[] = {
     {.exit = ExitCode::Done,
      .word = "",
      .text =
-         "done: every mixer that was sent something answered, and what was\n"
+         "done: each mixer that received something answered, and what was\n"
          "set is remembered; a command that only shows something has shown\n"
-         "it, also that no mixer answers; there may be a warning all the same"},
+         "it, even when no mixer answers; there may be warnings"},
     {.exit = ExitCode::Found,
      .word = "found",
      .text = "ztk doctor has found a problem"},
     {.exit = ExitCode::Usage,
      .word = "usage",
-     .text = "the words, or a file to import, were wrong; nothing was sent"},
+     .text = "invalid command line or import file; nothing was sent"},
     {.exit = ExitCode::NoMixer,
      .word = "no-mixer",
-     .text =
-         "no mixer answered; what was set, imported or undone is remembered,\n"
-         "what was sent raw or as the default is not"},
+     .text = "no mixer answered; what was set, imported or undone is\n"
+             "remembered, raw values and defaults are not"},
     {.exit = ExitCode::Rejected,
      .word = "rejected",
-     .text =
-         "rejected: a model or value that the library does not take, a\n"
-         "remembered value that does not belong there, or one that another\n"
-         "program has changed since and ztk undo leaves alone"},
+     .text = "rejected: the library does not accept the model or the value, a\n"
+             "remembered value is not valid for its channel, or ztk undo left\n"
+             "alone what another program has changed since"},
     {.exit = ExitCode::Failed,
      .word = "failed",
-     .text = "something else failed"},
+     .text = "another error, which the message describes"},
     {.exit = ExitCode::SomeMixers,
      .word = "some-mixers",
      .text = "some mixers answered, others did not; a choice is remembered"},
     {.exit = ExitCode::NotRemembered,
      .word = "not-remembered",
-     .text = "sent, but not remembered: the settings file does not hold it"},
+     .text = "sent, but not remembered: the settings file does not contain it"},
     {.exit = ExitCode::Interrupted,
      .word = "interrupted",
-     .text = "interrupted by Ctrl-C; not ztk watch, which is ended so: 0"}};
+     .text = "interrupted by Ctrl-C; ztk watch ends with status 0 instead"}};
 
-// Never throws for text that is not UTF-8: a user may type anything.
+// Accepts text that is not UTF-8, because a user may type anything.
 std::string Dump(const Json &json) {
   return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }

@@ -146,21 +146,21 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
       {{"turn", "1", "256"}, 2, "bad position \"256\"; accepted: 0 to 255"},
       {{"turn", "1"},
        2,
-       "POSITION is required; see ztk-virtual-mixer turn "
-       "--help"},
+       "POSITION is missing after \"turn\"; accepted: Position, 0 to 255; "
+       "see ztk-virtual-mixer turn --help"},
       {{"turn", "-m", "0", "1", "3"}, 2, "bad mixer \"0\"; accepted: 1 to 127"},
       {{"fault", "x"}, 2, "unknown fault \"x\"; accepted: stall, silence"},
       {{"reply", "80", "00"}, 2, "bad register \"80\"; accepted: 8001, 8002"},
       {{"reply", "8001", "0"}, 2, "bad bytes \"0\"; accepted: 1 to 64 pairs"},
       {{"rnu", "--", "true"},
        2,
-       "unknown command \"rnu\"; nearest: run; accepted: run, serve, turn"},
+       "no command \"rnu\"; nearest: run; accepted: run, serve, turn"},
       {{"--versoin"}, 2, "no option \"--versoin\"; nearest: --version; acc"},
       {{"run", "--mixrs", "2", "--", "true"},
        2,
        "no option \"--mixrs\" after \"run\"; nearest: --mixers; accepted: "},
       {{"show", "me"}, 2, "one word too many after \"show\": \"me\"; see "},
-      {{}, 2, "no command is given; accepted: run, serve, turn"},
+      {{}, 2, "a command is missing; accepted: run, serve, turn"},
       {{"run", "ls"}, 2, "put \"--\" before the command"},
       {{"run", "-n", "128", "--", "true"},
        2,
@@ -175,7 +175,7 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
        2,
        "--forbid x: no mixer \"x\"; there"},
       {{"run", "--log", "/nowhere/log", "--", "true"}, 1, "/nowhere/log"},
-      {{"show"}, 1, "not inside a sandbox; start one with"},
+      {{"show"}, 1, "no virtual mixers here; start some with"},
   };
   for (const Row &row : rows) {
     SCOPED_TRACE(row.error);

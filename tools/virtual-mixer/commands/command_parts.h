@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the table of commands is put together from.
+// The parts of the table of commands.
 #ifndef ZTK_TOOLS_VIRTUAL_MIXER_COMMANDS_COMMAND_PARTS_H_
 #define ZTK_TOOLS_VIRTUAL_MIXER_COMMANDS_COMMAND_PARTS_H_
 
@@ -8,25 +8,25 @@
 #include <vector>
 
 #include "cli/program.h"
-#include "virtual-mixer/commands/command_table.h"
 
 namespace ztk::virtual_mixer {
 
-// Those that make a world, and those that change one from inside.
-std::vector<Command> WorldCommands();
-std::vector<Command> InsideCommands();
+using cli::Arguments;
+
+// The commands that start virtual mixers, and those that change them. Their
+// functions throw cli::UsageError for invalid arguments, and
+// std::runtime_error.
+std::vector<cli::Command> WorldCommands();
+std::vector<cli::Command> InsideCommands();
 
 inline constexpr unsigned kMostMixers = 127;
 
-// How a fault is written, for the help of each command that takes one.
+// The form of a fault, for the help of each command that takes one.
 extern const char kFaultHelp[];
 
-// A number among the words. Throws UsageError; `what` names it there.
+// Reads a number; `what` names it in the message of the UsageError.
 unsigned Number(const char *what, const std::string &text, unsigned least,
                 unsigned most);
-
-// What can be offered for a word, whatever stands before it.
-cli::Option Offering(cli::Option option, const std::vector<cli::Value> &values);
 
 std::vector<cli::Value> FaultKinds();
 

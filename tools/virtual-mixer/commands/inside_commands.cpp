@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// What is asked of a world that runs. It checks each word again; here, a slip
-// is known before it is asked.
+// The commands that change running mixers. Arguments are checked here first, so
+// that an error is known before the mixers are reached.
 #include <cstdlib>
 #include <iostream>
 
+#include "cli/parser.h"
+#include "cli/strings.h"
 #include "virtual-mixer/commands/command_parts.h"
 #include "virtual-mixer/control/control_commands.h"
 #include "virtual-mixer/control/control_socket.h"
@@ -14,7 +16,9 @@
 namespace ztk::virtual_mixer {
 namespace {
 
+using cli::Command;
 using cli::Option;
+using cli::UsageError;
 using cli::Value;
 using Values = std::vector<Value>;
 
@@ -22,9 +26,9 @@ std::string Ask(const std::string &line) {
   const char *const path = std::getenv(kControlVariable);
   if (path == nullptr || *path == '\0') {
     throw std::runtime_error(
-        "not inside a sandbox; start one with: ztk-virtual-mixer run; or, for "
-        "mixers that are served, export ZTK_VIRTUAL_MIXER_CONTROL as \"serve\" "
-        "prints it");
+        "no virtual mixers here; start some with: ztk-virtual-mixer run; or, "
+        "for mixers that are served, export ZTK_VIRTUAL_MIXER_CONTROL as "
+        "\"serve\" prints it");
   }
   const std::string answer = AskControl(path, line);
   if (answer.compare(0, 2, "ok") != 0) {
@@ -33,57 +37,64 @@ std::string Ask(const std::string &line) {
   return answer.size() > 3 ? answer.substr(3) : "";
 }
 
-// Which mixers, as the world answers, and what is true of them now.
-int Tell(const std::string &mixers, const std::string &what) {
+// `mixers` is the answer of the control socket, `what` their new state.
+int PrintState(const std::string &mixers, const std::string &what) {
   std::cout << mixers << ": " << what << "\n";
   return 0;
 }
 
-std::string Mixer(const Words &words) {
-  if (!words.Has("--mixer")) return "all";
-  Number("mixer", words.One("--mixer"), 1, kMostMixers);
-  return words.One("--mixer");
+// The number of the mixer: an option, or alone ("unplug 1").
+std::string Mixer(const Arguments &arguments) {
+  const std::string name = arguments.Has("M") ? "M" : "--mixer";
+  if (!arguments.Has(name)) return "all";
+  if (arguments.Has("M") && arguments.Has("--mixer")) {
+    throw UsageError("the mixer is given twice, as M and with --mixer");
+  }
+  Number("mixer", arguments.One(name), 1, kMostMixers);
+  return arguments.One(name);
 }
 
-int RunTurn(const Words &words) {
-  const std::string mixer = Mixer(words);
-  const std::string channel = words.One("CHANNEL");
-  const std::string position = words.One("POSITION");
+int RunTurn(const Arguments &arguments) {
+  const std::string mixer = Mixer(arguments);
+  const std::string channel = arguments.One("CHANNEL");
+  const std::string position = arguments.One("POSITION");
   Number("channel", channel, 1, 4);
   Number("position", position, 0, 255);
   std::string line = "turn " + mixer;
   for (const std::string &word : {channel, position}) line += " " + word;
-  return Tell(Ask(line), "channel " + channel + " at position " + position);
+  return PrintState(Ask(line),
+                    "channel " + channel + " at position " + position);
 }
 
-int RunFault(const Words &words) {
-  const std::string mixer = Mixer(words);
-  const std::string fault = words.One("FAULT");
+int RunFault(const Arguments &arguments) {
+  const std::string mixer = Mixer(arguments);
+  const std::string fault = arguments.One("FAULT");
   std::string error;
   if (fault != "none" && !ParseFault(fault, &error)) throw UsageError(error);
   std::string line = "fault " + mixer;
   line += " " + fault;
-  return Tell(Ask(line), fault == "none" ? "no faults" : "fault " + fault);
+  return PrintState(Ask(line),
+                    fault == "none" ? "no faults" : "fault " + fault);
 }
 
-int RunReply(const Words &words) {
-  const std::string mixer = Mixer(words);
-  const std::string number = words.One("REGISTER");
-  const std::string bytes = words.One("BYTES");
+int RunReply(const Arguments &arguments) {
+  const std::string mixer = Mixer(arguments);
+  const std::string number = arguments.One("REGISTER");
+  const std::string bytes = arguments.One("BYTES");
   if (!ParseRegister(number)) {
-    throw UsageError("bad register \"" + number +
-                     "\"; accepted: 8001, 8002, 8004, 8006, 8007");
+    throw UsageError("bad register " + cli::Quoted(number) +
+                     "; accepted: 8001, 8002, 8004, 8006, 8007");
   }
   if (!ParseBytes(bytes)) {
-    throw UsageError("bad bytes \"" + bytes +
-                     "\"; accepted: 1 to 64 pairs of hexadecimal digits");
+    throw UsageError("bad bytes " + cli::Quoted(bytes) +
+                     "; accepted: 1 to 64 pairs of hexadecimal digits");
   }
   std::string line = "reply " + mixer;
   for (const std::string &word : {number, bytes}) line += " " + word;
-  return Tell(Ask(line), "register " + number + " replies " + bytes);
+  return PrintState(Ask(line), "register " + number + " replies " + bytes);
 }
 
-// The commands that need no more than a mixer.
+// The commands that take nothing but a mixer.
 struct Simple {
   const char *name;
   const char *summary;
@@ -91,7 +102,7 @@ struct Simple {
   const char *where = "inside run or serve";
   const char *note = "";
 };
-// What a kernel lets users open is not for a served mixer to say.
+// For served mixers the kernel decides who may open them.
 constexpr char kInsideRun[] = "inside run";
 constexpr Simple kPlug{
     .name = "plug", .summary = "Attach mixers", .done = "plugged in"};
@@ -104,23 +115,23 @@ constexpr Simple kForbid{.name = "forbid",
                              "ztk-virtual-mixer allow",
                          .where = kInsideRun,
                          .note =
-                             "For programs it is as with a real mixer: ztk "
-                             "doctor tells what would help\nthere. Here, "
-                             "ztk-virtual-mixer allow does."};
+                             "Programs see the same as with a real mixer; ztk "
+                             "doctor shows the remedy for a\nreal one. Here, "
+                             "ztk-virtual-mixer allow ends it."};
 constexpr Simple kAllow{.name = "allow",
                         .summary = "Allow opening them again",
                         .done = "may be opened",
                         .where = kInsideRun};
 
 template <const Simple &kSimple>
-int RunSimple(const Words &words) {
-  return Tell(Ask(std::string(kSimple.name) + " " + Mixer(words)),
-              kSimple.done);
+int RunSimple(const Arguments &arguments) {
+  return PrintState(Ask(std::string(kSimple.name) + " " + Mixer(arguments)),
+                    kSimple.done);
 }
 
-int RunShow(const Words &words) {
+int RunShow(const Arguments &arguments) {
   const std::string state = Ask("show");
-  std::cout << (words.Has("--json") ? state + "\n" : DescribeState(state));
+  std::cout << (arguments.Has("--json") ? state + "\n" : DescribeState(state));
   return 0;
 }
 
@@ -132,6 +143,19 @@ Values Registers() {
           {.word = "8007", .meaning = "certification level"}};
 }
 
+Values Channels() {
+  return {{.word = "1", .meaning = "CH1"},
+          {.word = "2", .meaning = "CH2"},
+          {.word = "3", .meaning = "CH3"},
+          {.word = "4", .meaning = "CH4"}};
+}
+
+Values FaultsAndNone() {
+  Values values = FaultKinds();
+  values.push_back({.word = "none", .meaning = "end all faults"});
+  return values;
+}
+
 Option MixerText() {
   return {.names = "-m,--mixer",
           .value = "M",
@@ -139,90 +163,86 @@ Option MixerText() {
 }
 
 Command MakeTurn() {
-  return {.text = {.path = "turn",
-                   .summary = "Turn an input selector (inside run or serve)",
-                   .options = {MixerText(),
-                               Offering({.names = "CHANNEL",
-                                         .value = "",
-                                         .description = "Channel, 1 to 4",
-                                         .required = true},
-                                        {{.word = "1", .meaning = "CH1"},
-                                         {.word = "2", .meaning = "CH2"},
-                                         {.word = "3", .meaning = "CH3"},
-                                         {.word = "4", .meaning = "CH4"}}),
-                               {.names = "POSITION",
-                                .value = "",
-                                .description = "Position, 0 to 255",
-                                .required = true}},
-                   .note = "",
-                   .examples = {"ztk-virtual-mixer turn --mixer 2 1 3"}},
+  return {.path = "turn",
+          .summary = "Turn an input selector (inside run or serve)",
+          .options = {MixerText(),
+                      cli::Offering({.names = "CHANNEL",
+                                     .value = "",
+                                     .description = "Channel, 1 to 4",
+                                     .required = true},
+                                    Channels),
+                      {.names = "POSITION",
+                       .value = "",
+                       .description = "Position, 0 to 255",
+                       .required = true}},
+          .note = "",
+          .examples = {"ztk-virtual-mixer turn --mixer 2 1 3"},
           .run = RunTurn};
 }
 
 Command MakeFault() {
-  Values values = FaultKinds();
-  values.push_back({.word = "none", .meaning = "end all faults"});
-  return {
-      .text = {.path = "fault",
-               .summary =
-                   "Make mixers misbehave, or stop it (inside run or serve)",
-               .options = {MixerText(),
-                           Offering({.names = "FAULT",
-                                     .value = "",
-                                     .description =
-                                         "FAULT as below; none ends all faults",
-                                     .required = true},
-                                    values)},
-               .note = kFaultHelp,
-               .examples = {"ztk-virtual-mixer fault 'stall@8002*3'"}},
-      .run = RunFault};
+  return {.path = "fault",
+          .summary =
+              "Add a fault to mixers, or end all faults (inside run or serve)",
+          .options = {MixerText(),
+                      cli::Offering(
+                          {.names = "FAULT",
+                           .value = "",
+                           .description =
+                               "Fault, in the form below; none ends all faults",
+                           .required = true},
+                          FaultsAndNone)},
+          .note = kFaultHelp,
+          .examples = {"ztk-virtual-mixer fault 'stall@8002*3'"},
+          .run = RunFault};
 }
 
 Command MakeReply() {
-  return {.text = {.path = "reply",
-                   .summary =
-                       "Change what a register replies (inside run or serve)",
-                   .options = {MixerText(),
-                               Offering(
-                                   {.names = "REGISTER",
-                                    .value = "",
-                                    .description =
-                                        "8001 firmware, 8002 selectors, 8004 "
-                                        "Serato, 8006 port, 8007 certification "
-                                        "level",
-                                    .required = true},
-                                   Registers()),
-                               {.names = "BYTES",
-                                .value = "",
-                                .description = "1 to 64 pairs of digits",
-                                .required = true}},
-                   .note = "",
-                   .examples = {"ztk-virtual-mixer reply 8004 0100"}},
-          .run = RunReply};
+  return {
+      .path = "reply",
+      .summary = "Change what a register replies (inside run or serve)",
+      .options = {MixerText(),
+                  cli::Offering(
+                      {.names = "REGISTER",
+                       .value = "",
+                       .description = "8001 firmware, 8002 selectors, 8004 "
+                                      "Serato, 8006 port, 8007 certification "
+                                      "level",
+                       .required = true},
+                      Registers),
+                  {.names = "BYTES",
+                   .value = "",
+                   .description = "1 to 64 pairs of digits",
+                   .required = true}},
+      .note = "",
+      .examples = {"ztk-virtual-mixer reply 8004 0100"},
+      .run = RunReply};
 }
 
 template <const Simple &kSimple>
 Command MakeSimple() {
   const std::string name = kSimple.name;
-  return {.text = {.path = name,
-                   .summary = std::string(kSimple.summary) + " (" +
-                              kSimple.where + ")",
-                   .options = {MixerText()},
-                   .note = kSimple.note,
-                   .examples = {"ztk-virtual-mixer " + name + " --mixer 1"}},
+  return {.path = name,
+          .summary = std::string(kSimple.summary) + " (" + kSimple.where + ")",
+          .options = {MixerText(),
+                      {.names = "M",
+                       .value = "",
+                       .description = "The same without --mixer"}},
+          .note = kSimple.note,
+          .examples = {"ztk-virtual-mixer " + name + " --mixer 1"},
           .run = RunSimple<kSimple>};
 }
 
 Command MakeShow() {
-  return {.text = {.path = "show",
-                   .summary = "Show mixers, selectors, values and faults "
-                              "(inside run or serve)",
-                   .options = {{.names = "--json",
-                                .value = "",
-                                .description = "As JSON"}},
-                   .note = "",
-                   .examples = {"ztk-virtual-mixer show --json"}},
-          .run = RunShow};
+  return {
+      .path = "show",
+      .summary =
+          "Show mixers, selectors, values and faults "
+          "(inside run or serve)",
+      .options = {{.names = "--json", .value = "", .description = "As JSON"}},
+      .note = "",
+      .examples = {"ztk-virtual-mixer show --json"},
+      .run = RunShow};
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // run and serve.
+#include "cli/parser.h"
 #include "virtual-mixer/commands/command_parts.h"
 #include "virtual-mixer/run.h"
 #include "virtual-mixer/serve.h"
@@ -9,62 +10,64 @@
 namespace ztk::virtual_mixer {
 namespace {
 
+using cli::Command;
 using cli::Fill;
 using cli::Option;
+using cli::UsageError;
 
 constexpr unsigned kMostOthers = 128;
 constexpr unsigned kMostBuses = 8;
 
 // An option that has a number.
-void TakeNumber(const Words &words, const char *name, const char *what,
+void TakeNumber(const Arguments &arguments, const char *name, const char *what,
                 unsigned least, unsigned most, int *number) {
-  if (!words.Has(name)) return;
-  *number = static_cast<int>(Number(what, words.One(name), least, most));
+  if (!arguments.Has(name)) return;
+  *number = static_cast<int>(Number(what, arguments.One(name), least, most));
 }
 
-WorldOptions World(const Words &words) {
+WorldOptions World(const Arguments &arguments) {
   WorldOptions options;
-  TakeNumber(words, "--mixers", "number of mixers", 0, kMostMixers,
+  TakeNumber(arguments, "--mixers", "number of mixers", 0, kMostMixers,
              &options.mixers);
-  TakeNumber(words, "--other-devices", "number of other devices", 0,
+  TakeNumber(arguments, "--other-devices", "number of other devices", 0,
              kMostOthers, &options.otherDevices);
-  TakeNumber(words, "--buses", "number of buses", 1, kMostBuses,
+  TakeNumber(arguments, "--buses", "number of buses", 1, kMostBuses,
              &options.buses);
-  options.reportFile = words.One("--device");
-  if (words.Has("--device") && words.Has("--mixers")) {
+  options.reportFile = arguments.One("--device");
+  if (arguments.Has("--device") && arguments.Has("--mixers")) {
     throw UsageError(
         "--device excludes --mixers: the report tells how many there are");
   }
-  if (words.Has("--delays")) {
-    if (!words.Has("--device")) {
+  if (arguments.Has("--delays")) {
+    if (!arguments.Has("--device")) {
       throw UsageError("--delays needs --device, whose delays are replayed");
     }
     options.delays = Delays::Replayed;
   }
-  options.selectors = words.All("--selector");
-  options.replies = words.All("--reply");
-  options.faults = words.All("--fault");
-  options.forbidden = words.All("--forbid");
-  options.logFile = words.One("--log");
+  options.selectors = arguments.All("--selector");
+  options.replies = arguments.All("--reply");
+  options.faults = arguments.All("--fault");
+  options.forbidden = arguments.All("--forbid");
+  options.logFile = arguments.One("--log");
   return options;
 }
 
-int RunRun(const Words &words) {
-  return Run({.world = World(words),
-              .privateSettings = words.Has("--private-settings"),
-              .command = words.command});
+int RunRun(const Arguments &arguments) {
+  return Run({.world = World(arguments),
+              .privateSettings = arguments.Has("--private-settings"),
+              .command = arguments.command});
 }
 
-int RunServe(const Words &words) {
+int RunServe(const Arguments &arguments) {
   ServeOptions options;
-  options.world = World(words);
-  options.attach = words.Has("--attach");
-  options.command = words.command;
-  if (words.Has("--listen")) {
+  options.world = World(arguments);
+  options.attach = arguments.Has("--attach");
+  options.command = arguments.command;
+  if (arguments.Has("--listen")) {
     if (options.attach) {
       throw UsageError("--attach excludes --listen: give one of them");
     }
-    options.listen = words.One("--listen");
+    options.listen = arguments.One("--listen");
   }
   try {
     usbip::ParseListenAddress(options.listen);
@@ -99,11 +102,11 @@ std::vector<Option> WorldOptionTexts() {
            .value = "[M:]REG=HEX",
            .description = "What a register replies, as in 8004=0100",
            .repeats = true},
-          Offering({.names = "--fault",
-                    .value = "[M:]FAULT",
-                    .description = "What goes wrong; see below",
-                    .repeats = true},
-                   FaultKinds()),
+          cli::Offering({.names = "--fault",
+                         .value = "[M:]FAULT",
+                         .description = "Fault, in the form below",
+                         .repeats = true},
+                        FaultKinds),
           {.names = "--log",
            .value = "FILE",
            .description = "Write each request to this file, as it happens",
@@ -113,82 +116,81 @@ std::vector<Option> WorldOptionTexts() {
 Option CommandText() {
   return {.names = "COMMAND",
           .value = "",
-          .description = "Behind \"--\": the command and its own words",
+          .description = "Command to run, with its own arguments",
           .repeats = true,
           .fill = Fill::Command};
 }
 
 Command MakeRun() {
   Command command{
-      .text = {.path = "run",
-               .summary = "Run a command, or your shell, among virtual mixers",
-               .options = WorldOptionTexts(),
-               .note = std::string(
-                           "With M: a value is for that mixer only. The "
-                           "command follows \"--\"; the\nmixers last until it "
-                           "and all that it started have ended. The exit "
-                           "status is\nits own. Programs of another user "
-                           "(sudo) do not see the mixers.\n\nSettings that "
-                           "are changed inside are your own, and stay "
-                           "changed.\nWith --private-settings nothing is "
-                           "remembered at first, and what is\nremembered goes "
-                           "with the run; the configuration of other "
-                           "programs\nis there as ever. Changes are announced "
-                           "on your message bus all the same.\n\n") +
-                       kFaultHelp,
-               .examples = {"ztk-virtual-mixer run --private-settings",
-                            "ztk-virtual-mixer run -n 2 --fault 2:stall -- ztk "
-                            "status"}},
+      .path = "run",
+      .summary = "Run a command, or your shell, with virtual mixers",
+      .options = WorldOptionTexts(),
+      .note = std::string("A value after M: is for that mixer only. The "
+                          "command follows \"--\"; the\nmixers exist until "
+                          "it and all processes that it started have ended. "
+                          "The exit\nstatus is that of the command. Programs "
+                          "of another user (sudo) do not see\nthe mixers."
+                          "\n\nSettings that are changed inside are your own, "
+                          "and stay changed.\nWith --private-settings "
+                          "nothing is remembered at first, and all settings"
+                          "\nare removed at the end; the configuration of "
+                          "other programs is available\nas usual. Changes "
+                          "are announced on your message bus in both cases."
+                          "\n\n") +
+              kFaultHelp,
+      .examples = {"ztk-virtual-mixer run --private-settings",
+                   "ztk-virtual-mixer run -n 2 --fault 2:stall -- ztk "
+                   "status"},
       .run = RunRun};
-  command.text.options.push_back(
+  command.options.push_back(
       {.names = "--buses",
        .value = "N",
        .description =
            "Buses to spread the devices over, 1 to 8; 1 when left out"});
-  command.text.options.push_back(
+  command.options.push_back(
       {.names = "--forbid",
        .value = "M",
        .description =
            "Mixer that may not be opened (permission denied), until allow",
        .repeats = true});
-  command.text.options.push_back(
+  command.options.push_back(
       {.names = "--private-settings",
        .value = "",
        .description = "Keep settings and undo history in a folder of this run, "
                       "removed at its end; your own are changed when left "
                       "out"});
-  command.text.options.push_back(CommandText());
+  command.options.push_back(CommandText());
   return command;
 }
 
 Command MakeServe() {
   Command command{
-      .text = {.path = "serve",
-               .summary = "Serve virtual mixers over USB/IP to a real kernel",
-               .options = WorldOptionTexts(),
-               .note = std::string(
-                           "Serves until Ctrl-C or, with a command, until that "
-                           "has ended; the exit\nstatus is then its own. With "
-                           "M: a value is for that mixer only. A mixer\nthat "
-                           "was unplugged and plugged in is attached again at "
-                           "once with\n--attach; otherwise the client has to "
-                           "do that.\n\n") +
-                       kFaultHelp,
-               .examples = {"ztk-virtual-mixer serve -n 2",
-                            "sudo ztk-virtual-mixer serve --attach -- ztk "
-                            "status"}},
+      .path = "serve",
+      .summary = "Serve virtual mixers over USB/IP to a real kernel",
+      .options = WorldOptionTexts(),
+      .note = std::string("Serves until Ctrl-C or, with a command, until the "
+                          "command has ended; the\nexit status is then that "
+                          "of the command. A value after M: is for that\n"
+                          "mixer only. With --attach, a mixer that was "
+                          "unplugged and plugged in is\nattached again at "
+                          "once; otherwise the client has to attach it.\n\n") +
+              kFaultHelp,
+      .examples = {"ztk-virtual-mixer serve -n 2",
+                   "sudo ztk-virtual-mixer serve --attach -- ztk "
+                   "status"},
       .run = RunServe};
-  command.text.options.push_back(
+  command.options.push_back(
       {.names = "--listen",
        .value = "ADDRESS:PORT",
-       .description = "Where clients connect; everybody who reaches it may "
+       .description = "Address to listen on; every client that reaches it can "
                       "attach the devices; 127.0.0.1:3240 when left out"});
-  command.text.options.push_back(
+  command.options.push_back(
       {.names = "--attach",
        .value = "",
        .description = "Attach to this machine's kernel instead (root; needs "
                       "the module vhci-hcd)"});
-  command.text.options.push_back(CommandText());
+  command.options.push_back(CommandText());
   return command;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/commands/autoapply.h"
+#include "ztk/commands/command_table.h"
 
 #include <unistd.h>
 
@@ -11,13 +11,14 @@ namespace ztk::program {
 
 namespace {
 
-// One for each mixer, so that two that come at the same time are both served.
+// One unit for each mixer, so that two mixers plugged in at the same time are
+// both served.
 constexpr char kUnit[] = "ztk-apply@.service";
 
 constexpr char kNoRule[] =
-    "nothing tells of a mixer that is plugged in: udev has no rule "
-    "71-ztk-apply.rules; install ztk from its package, or put the rule of your "
-    "build into /etc/udev/rules.d";
+    "the udev rule 71-ztk-apply.rules is missing, so nothing starts when a "
+    "mixer is plugged in; install ztk from its package, or copy the rule of "
+    "your build to /etc/udev/rules.d";
 
 std::string UnitFile() {
   std::string file = build::kDataDir;
@@ -32,10 +33,10 @@ Report Describe(bool on) {
   fields["on"] = on;
   fields["rule"] = rule.empty() ? Json() : Json(rule);
   report.fields["autoapply"] = fields;
-  report.text = on ? "On: when a mixer is plugged in, what is remembered is "
-                     "sent to it.\n"
-                   : "Off: what is remembered is sent when you run 'ztk "
-                     "apply'.\n";
+  report.text = on ? "On: the remembered settings are sent to each mixer that "
+                     "is plugged in.\n"
+                   : "Off: the remembered settings are sent when you run "
+                     "'ztk apply'.\n";
   if (on && rule.empty()) {
     report.warnings.emplace_back(kNoRule);
   }
@@ -47,8 +48,9 @@ Report TurnOn(const Arguments & /*arguments*/) {
   const std::string file = UnitFile();
   if (access(file.c_str(), F_OK) != 0) {
     throw Failure(ExitCode::Failed,
-                  "there is no " + file +
-                      ", which starts 'ztk apply'; install ztk first");
+                  "the file " + file +
+                      ", which starts 'ztk apply', is missing; install ztk "
+                      "first");
   }
   manager.Link(file);
   return Describe(manager.Knows(kUnit));
@@ -65,30 +67,29 @@ Report ShowState(const Arguments & /*arguments*/) {
   return Describe(manager.Knows(kUnit));
 }
 
-Command MakeCommand(const char *verb, const char *summary,
-                    Report (*run)(const Arguments &)) {
-  const std::string path = std::string("autoapply ") + verb;
-  return {.path = path,
-          .summary = summary,
-          .parameters = {},
-          .note = AutoapplyFact(),
-          .example = "ztk " + path,
-          .run = run};
+cli::Command MakeAutoapply(const char *verb, const char *summary,
+                           Report (*run)(const Arguments &)) {
+  cli::Command command =
+      MakeCommand(std::string("autoapply ") + verb, summary, run);
+  command.note = AutoapplyFact();
+  command.examples = {"ztk " + command.path};
+  return command;
 }
 
 }  // namespace
 
-Group AutoapplyGroup() {
+cli::Group AutoapplyGroup() {
   return {.name = "autoapply",
-          .summary = "Send what is remembered when a mixer is plugged in",
+          .summary = "Send the remembered settings when a mixer is plugged in",
           .note = AutoapplyFact(),
           .example = "ztk autoapply on"};
 }
 
-std::vector<Command> AutoapplyCommands() {
-  return {MakeCommand("on", "Turn it on, for every mixer from now on", TurnOn),
-          MakeCommand("off", "Turn it off", TurnOff),
-          MakeCommand("status", "Show whether it is on", ShowState)};
+std::vector<cli::Command> AutoapplyCommands() {
+  return {
+      MakeAutoapply("on", "Turn it on, for every mixer from now on", TurnOn),
+      MakeAutoapply("off", "Turn it off", TurnOff),
+      MakeAutoapply("status", "Show whether it is on", ShowState)};
 }
 
 }  // namespace ztk::program

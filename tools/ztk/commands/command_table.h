@@ -1,105 +1,61 @@
 // SPDX-License-Identifier: MIT
 //
-// Every command of the program, in one table: the parser, the help and
-// whatever else describes the program are made from it.
+// The names of the arguments of the commands, and the functions that the table
+// of commands is made of.
 #ifndef ZTK_TOOLS_ZTK_COMMANDS_COMMAND_TABLE_H_
 #define ZTK_TOOLS_ZTK_COMMANDS_COMMAND_TABLE_H_
 
-#include <cstdint>
 #include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
+#include "cli/program.h"
+#include "ztk/model/settings.h"
 #include "ztk/report.h"
 
 namespace ztk::program {
 
-// What can follow the name of a command. Named after what users read.
-enum class Parameter : std::uint8_t {
-  Channel,    // N
-  Choice,     // CHOICE, one word or several
-  High,       // HIGH
-  Source,     // SOURCE
-  Product,    // --product MODEL
-  OfChannel,  // --channel N
-  Language,   // --language L
-  DryRun,     // --dry-run
-  File,       // FILE
-  ReportFile  // --report FILE
+using cli::Arguments;
+
+// The names under which Arguments has the values.
+struct Parameter {
+  static constexpr char Channel[] = "CHANNEL";
+  static constexpr char Choice[] = "CHOICE";  // one word or several
+  static constexpr char High[] = "HIGH";
+  static constexpr char Source[] = "SOURCE";
+  static constexpr char File[] = "FILE";
+  static constexpr char Product[] = "--product";
+  static constexpr char OfChannel[] = "--channel";
+  static constexpr char Language[] = "--language";
+  static constexpr char ReportFile[] = "--report";
+  static constexpr char DryRun[] = "--dry-run";
+  static constexpr char Json[] = "--json";
+  static constexpr char Quiet[] = "--quiet";
 };
 
-// A parameter as one command has it.
-struct ParameterUse {
-  Parameter parameter;
-  bool required;
-  std::string description;
-};
+// A command of the table. Its function returns a report, or throws a Failure;
+// both are printed in the form that the user asked for.
+cli::Command MakeCommand(std::string path, std::string summary,
+                         std::function<Report(const Arguments &)> run);
 
-// The words of one call. The words of a choice are joined by single spaces.
-struct Arguments {
-  std::map<Parameter, std::string> given;
-  bool json = false;
+cli::Option ProductOption(const std::string &otherwise);
+cli::Option DryRunOption();
 
-  // Null when it was left out.
-  const std::string *Find(Parameter parameter) const {
-    const auto found = given.find(parameter);
-    return found == given.end() ? nullptr : &found->second;
-  }
-  // For what is either said or not.
-  bool Has(Parameter parameter) const {
-    const std::string *word = Find(parameter);
-    return word != nullptr && *word == "true";
-  }
-};
+// What completions offer for an argument.
+std::vector<cli::Value> ChannelValues(const Setting &setting,
+                                      std::uint32_t count);
+std::vector<cli::Value> ChoiceValues(const Setting &setting,
+                                     const Arguments &before,
+                                     const std::string &begun);
+std::vector<cli::Value> ProductValues();
+std::vector<cli::Value> LanguageValues();
 
-struct Command {
-  std::string path;  // "status", "input set"
-  std::string summary;
-  std::vector<ParameterUse> parameters;
-  std::string note;  // sentences below the options
-  std::string example;
-  std::function<Report(const Arguments &)> run;
-};
-
-// What the first word of a path with two stands for.
-struct Group {
-  std::string name;
-  std::string summary;
-  std::string note;
-  std::string example;
-};
-
-// An option that every command takes.
-struct OptionForAll {
-  const char *names;
-  const char *description;
-};
-
-// What the program is, in a few sentences.
-inline constexpr char kAbout[] =
-    "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
-    "Channels and choices count from 1, as they are listed.";
-
-inline constexpr OptionForAll kHelpOption{.names = "-h,--help",
-                                          .description =
-                                              "Show this help, as ztk help "
-                                              "[COMMAND] does"};
-inline constexpr OptionForAll kJsonOption{.names = "--json",
-                                          .description = "Answer in JSON"};
-// Of the program alone.
-inline constexpr OptionForAll kVersionOption{.names = "--version",
-                                             .description = "Show the version"};
-
-const std::vector<Command> &Commands();
-const std::vector<Group> &Groups();
-
-// True where no word follows the name.
-bool IsFlag(Parameter parameter);
-// "N", "CHOICE", "--product"
-const char *ParameterName(Parameter parameter);
-// "MODEL" for "--product"; empty for what stands without a name.
-const char *ParameterValueName(Parameter parameter);
+// Parts of the table that have a source of their own.
+std::vector<cli::Command> SettingCommands(const Setting &setting);
+cli::Group AutoapplyGroup();
+std::vector<cli::Command> AutoapplyCommands();
+std::vector<cli::Section> ManualIntroduction();
+std::vector<cli::Section> ManualSections();
 
 }  // namespace ztk::program
 

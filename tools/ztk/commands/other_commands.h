@@ -25,6 +25,11 @@ Report Diagnose(const Arguments &arguments);
 
 Report ShowVersions(const Arguments &arguments);
 
+Report ShowModels(const Arguments &arguments);
+
+// The attached mixers, the current choices, and what to type next.
+Report ShowOverview(const Arguments &arguments);
+
 // The library's sentence for a 101.
 Report ShowWarning(const Arguments &arguments);
 

@@ -4,10 +4,13 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <functional>
 #include <optional>
 
 #include "cli/strings.h"
+#include "cli/suggest.h"
 #include "cli/terminal.h"
+#include "ztk/commands/setting_parts.h"
 #include "ztk/output.h"
 #include "ztk/progress.h"
 #include "ztk/report.h"
@@ -17,7 +20,7 @@ namespace ztk::program {
 
 namespace {
 
-// A line that the terminal hands over, as it was edited there; none at its end.
+// The next line of the terminal; none at the end of the input.
 std::optional<std::string> ReadLine() {
   std::string line;
   while (true) {
@@ -33,7 +36,7 @@ std::optional<std::string> ReadLine() {
   }
 }
 
-// What to say to an answer that names no choice.
+// The message for an answer that names no choice.
 std::string Complaint(const std::string &answer, const Match &match,
                       const std::vector<Choice> &choices) {
   if (!match.candidates.empty()) {
@@ -44,6 +47,30 @@ std::string Complaint(const std::string &answer, const Match &match,
          "\n";
 }
 
+// Asks until the function accepts the answer. It returns the message for an
+// answer that it does not accept.
+void AskUntilAccepted(
+    const std::string &place, const std::string &list,
+    const std::string &prompt,
+    const std::function<std::string(const std::string &answer)> &accept) {
+  const cli::Layout layout{.columns = cli::Columns(STDOUT_FILENO),
+                           .emphasis = cli::ShowsEmphasis(STDOUT_FILENO)};
+  WriteOutput(cli::LaidOut(list, layout));
+  const Asking asking;
+  while (true) {
+    WriteOutput(prompt);
+    const std::optional<std::string> answer = ReadLine();
+    if (!answer) WriteOutput("\n");
+    if (!answer || answer->find_first_not_of(' ') == std::string::npos) {
+      throw Failure(ExitCode::Usage,
+                    "nothing was chosen for " + place + "; nothing was sent");
+    }
+    const std::string complaint = accept(*answer);
+    if (complaint.empty()) return;
+    WriteOutput(cli::LaidOut(complaint, layout));
+  }
+}
+
 }  // namespace
 
 bool CanPick() {
@@ -52,22 +79,38 @@ bool CanPick() {
 
 Choice Pick(const std::string &place, const std::string &list,
             const std::vector<Choice> &choices) {
-  const cli::Layout layout{.columns = cli::Columns(STDOUT_FILENO),
-                           .standsOut = cli::MayStandOut(STDOUT_FILENO)};
-  WriteOutput(cli::LaidOut(list, layout));
-  const Asking asking;
-  while (true) {
-    WriteOutput(place + ", number or text: ");
-    const std::optional<std::string> answer = ReadLine();
-    if (!answer) WriteOutput("\n");
-    if (!answer || answer->find_first_not_of(' ') == std::string::npos) {
-      throw Failure(ExitCode::Usage,
-                    "nothing was chosen for " + place + "; nothing was sent");
-    }
-    const Match match = FindChoice(choices, *answer);
-    if (match.choice) return *match.choice;
-    WriteOutput(cli::LaidOut(Complaint(*answer, match, choices), layout));
+  Choice picked{};
+  AskUntilAccepted(place, list, place + ", number or text: ",
+                   [&](const std::string &answer) {
+                     const Match match = FindChoice(choices, answer);
+                     if (!match.choice) {
+                       return Complaint(answer, match, choices);
+                     }
+                     picked = *match.choice;
+                     return std::string();
+                   });
+  return picked;
+}
+
+std::uint32_t PickChannel(const Setting &setting) {
+  std::string list;
+  for (std::uint32_t channel = 0; channel < setting.channels; ++channel) {
+    list += "  " + std::to_string(channel + 1) + "  " +
+            PlaceName(setting, channel) + "\n";
   }
+  std::uint32_t picked = 0;
+  AskUntilAccepted(
+      setting.title, list, std::string(setting.title) + ", channel: ",
+      [&](const std::string &answer) {
+        const auto channel = ParseChannel(setting, answer);
+        if (!channel) {
+          return "no channel " + cli::Quoted(answer) +
+                 cli::NearestAndAccepted(answer, 1, setting.channels) + "\n";
+        }
+        picked = *channel;
+        return std::string();
+      });
+  return picked;
 }
 
 }  // namespace ztk::program

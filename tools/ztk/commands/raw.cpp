@@ -15,20 +15,17 @@ namespace {
 constexpr char kAcceptedSources[] = " (SOURCE: 0 to 15)";
 
 // HIGH or SOURCE.
-std::uint32_t RawNumber(const Arguments &arguments, Parameter parameter) {
-  const std::string *word = arguments.Find(parameter);
-  const auto number = cli::ParseDecimalOrHex(word == nullptr ? "" : *word);
+std::uint32_t RawNumber(const Arguments &arguments, const char *name) {
+  const std::string &word = *arguments.Find(name);
+  const auto number = cli::ParseDecimalOrHex(word);
   if (number) return *number;
-  throw Failure(
-      ExitCode::Usage,
-      std::string(ParameterName(parameter)) +
-          (word == nullptr ? std::string(" is missing")
-                           : " is not a number: " + cli::Quoted(*word)) +
-          "; accepted: decimal, or hexadecimal after 0x" +
-          SeeHelp(kInput, "raw"));
+  throw Failure(ExitCode::Usage,
+                std::string(name) + " is not a number: " + cli::Quoted(word) +
+                    "; accepted: decimal, or hexadecimal after 0x" +
+                    SeeHelp(kInput, "raw"));
 }
 
-// What is sent without being a choice.
+// A value that is no choice.
 struct RawValue {
   std::uint32_t channel;
   std::uint32_t high;

@@ -18,7 +18,7 @@ Choice Choose(const Setting &setting, std::uint32_t product,
   const std::string place = PlaceName(setting, channel);
   const std::vector<Choice> choices = ServedChoices(setting, product, channel);
   const std::string *words = arguments.Find(Parameter::Choice);
-  if (words == nullptr && !arguments.json && CanPick()) {
+  if (words == nullptr && !arguments.Has(Parameter::Json) && CanPick()) {
     Report list;
     AddChoiceList(setting, product, channel, &list);
     return Pick(place, list.text, choices);

@@ -3,6 +3,7 @@
 
 #include "cli/strings.h"
 #include "cli/suggest.h"
+#include "ztk/commands/pick.h"
 #include "ztk/model/products.h"
 
 namespace ztk::program {
@@ -16,14 +17,20 @@ std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments) {
   return word == nullptr ? setting.product : ParseProduct(*word);
 }
 
+std::optional<std::uint32_t> ParseChannel(const Setting &setting,
+                                          const std::string &word) {
+  const bool named = cli::LowerCase(word).starts_with("ch");
+  const auto number =
+      cli::ParseNumber(named ? word.substr(2) : word, 1, setting.channels);
+  if (!number) return std::nullopt;
+  return *number - 1;
+}
+
 std::optional<std::uint32_t> ChannelFor(const Setting &setting,
                                         const Arguments &arguments) {
   const std::string *word = arguments.Find(Parameter::Channel);
   if (word == nullptr) return std::nullopt;
-  const std::optional<std::uint32_t> number = cli::ParseNumber(*word);
-  if (number && *number >= 1 && *number <= setting.channels) {
-    return *number - 1;
-  }
+  if (const auto channel = ParseChannel(setting, *word)) return channel;
   throw Failure(ExitCode::Usage,
                 std::string(setting.title) + " has no channel " +
                     cli::Quoted(*word) +
@@ -45,7 +52,8 @@ std::uint32_t RequiredChannel(const Setting &setting,
                               const Arguments &arguments, const char *verb) {
   if (const auto channel = ChannelFor(setting, arguments)) return *channel;
   if (setting.channels == 0) return 0;
-  throw Failure(ExitCode::Usage, "N is missing: a channel from 1 to " +
+  if (!arguments.Has(Parameter::Json) && CanPick()) return PickChannel(setting);
+  throw Failure(ExitCode::Usage, "a CHANNEL is missing; accepted: 1 to " +
                                      std::to_string(setting.channels) +
                                      SeeHelp(setting, verb));
 }

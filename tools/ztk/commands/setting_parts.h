@@ -15,18 +15,25 @@
 
 namespace ztk::program {
 
-// The model that is meant: --product, or the setting's own.
+// The model of --product, or the one that the setting belongs to.
 std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments);
 
-// N, from 0; none when it was left out. Throws where it is not a channel.
+// A channel as people type it, "2" or "CH2", from 0; none when there is no such
+// channel.
+std::optional<std::uint32_t> ParseChannel(const Setting &setting,
+                                          const std::string &word);
+
+// The channel that was given, from 0; none when it was left out. Throws when
+// there is no such channel.
 std::optional<std::uint32_t> ChannelFor(const Setting &setting,
                                         const Arguments &arguments);
 
-// The channels that are meant: N, or all.
+// The channel that was given, or all.
 std::vector<std::uint32_t> ChannelsFor(const Setting &setting,
                                        const Arguments &arguments);
 
-// N where the setting has channels. Throws where it was left out.
+// The channel that was given; 0 for a setting without channels. When it was
+// left out, asks for it in a terminal, and throws elsewhere.
 std::uint32_t RequiredChannel(const Setting &setting,
                               const Arguments &arguments, const char *verb);
 

@@ -16,6 +16,31 @@ const Product *Find(std::uint32_t id) {
   return nullptr;
 }
 
+// Letters and digits in lower case: "VRM-B5", "vrm b5" and "vrmb5" are the
+// same.
+std::string Folded(const std::string &name) {
+  std::string folded;
+  for (const char character : cli::LowerCase(name)) {
+    const bool letter = character >= 'a' && character <= 'z';
+    const bool digit = character >= '0' && character <= '9';
+    if (letter || digit) folded += character;
+  }
+  return folded;
+}
+
+// A model by its name, or by the part behind the dash.
+const Product *FindTyped(const std::string &word) {
+  const std::string typed = Folded(word);
+  for (const Product &product : Products()) {
+    const std::size_t dash = product.name.find('-');
+    if (typed == Folded(product.name) ||
+        typed == Folded(product.name.substr(dash + 1))) {
+      return &product;
+    }
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 const std::vector<Product> &Products() {
@@ -32,6 +57,7 @@ const std::vector<Product> &Products() {
 std::optional<std::uint32_t> FindProduct(const std::string &word) {
   const auto number = cli::ParseNumber(word);
   if (number && Find(*number) != nullptr) return number;
+  if (const Product *product = FindTyped(word)) return product->id;
   std::uint32_t id = 0;
   const ZTKResult result = WithText(
       word, [&id](ZTKTextRef name) { return ZTK_GetProductId(name, &id); });

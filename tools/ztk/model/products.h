@@ -24,8 +24,9 @@ struct Product {
 // In the order of their numbers.
 const std::vector<Product> &Products();
 
-// The number of a model from a word of the user: its number, or a name in which
-// the library finds one. None where it is neither.
+// The number of a model from a word of the user: its number, its name as people
+// type it ("vrm b5", "b5"), or a name in which the library finds one. None
+// where it is neither.
 std::optional<std::uint32_t> FindProduct(const std::string &word);
 
 // The name of a model; its number where there is no such model.

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+//
+// Words in the forms in which people type them.
+#include "cli_world.h"
+
+namespace ztk::test {
+namespace {
+
+class TypedWords : public CliWorld {};
+
+TEST_F(TypedWords, NameAChannelAsStatusCallsIt) {
+  const Result result = OneMixer(
+      "ztk input set CH2 mic > /dev/null && ztk input get ch2; "
+      "ztk input get CH6; echo $?; ztk input get CH; echo $?");
+  EXPECT_EQ(result.out,
+            "USB input audio belongs to the VRM-D6.\n"
+            "USB input 2  6 MIC\n2\n2\n");
+  EXPECT_THAT(result.err, HasSubstr("has no channel \"CH6\""));
+}
+
+TEST_F(TypedWords, NameAModelInAnyForm) {
+  for (const char *model : {"8", "VRM-B5", "b5", "'VRM B5'", "vrmb5"}) {
+    SCOPED_TRACE(model);
+    const Result result =
+        NoMixer(std::string("ztk output get 1 --json --product ") + model);
+    EXPECT_EQ(OneObject(result.out)["product"], "VRM-B5");
+  }
+  EXPECT_EQ(NoMixer("ztk output get --product b6").status, 2);
+}
+
+TEST_F(TypedWords, ListTheModels) {
+  const Result result = NoMixer("ztk models");
+  EXPECT_THAT(result.out, HasSubstr("8   VRM-B5    USB output audio\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("10  VRM-D6    USB input audio, Boost level\n"));
+}
+
+TEST_F(TypedWords, AskForTheVersionInEveryForm) {
+  for (const char *words : {"--version", "-V", "version"}) {
+    SCOPED_TRACE(words);
+    const Result result = NoMixer(std::string("ztk ") + words);
+    EXPECT_EQ(result.out, "ztk " ZTK_PROGRAM_VERSION "\n");
+    EXPECT_EQ(result.status, 0);
+  }
+}
+
+TEST_F(TypedWords, AskForNoOutput) {
+  for (const char *option : {"-q", "--quiet"}) {
+    SCOPED_TRACE(option);
+    const Result result = OneMixer(std::string("ztk boost set 1 ") + option);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.status, 0);
+  }
+  const Result wrong = NoMixer("ztk boost set 9 -q");
+  EXPECT_THAT(wrong.err, StartsWith("ztk: Boost level has no choice"));
+  EXPECT_EQ(NoMixer("ztk watch -q").status, 2);
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: MIT
+#include "cli/parser.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cctype>
+#include <deque>
+#include <utility>
+
+#include "cli/completion.h"
+#include "cli/help.h"
+#include "cli/strings.h"
+#include "cli/suggest.h"
+
+namespace ztk::cli {
+
+namespace {
+
+constexpr char kEndOfOptions[] = "--";
+constexpr char kVersionWord[] = "version";  // the same as --version
+
+bool IsOptionWord(const std::string &word) {
+  return word.size() > 1 && word.front() == '-';
+}
+
+bool HasName(const std::vector<Option> &options, const std::string &word) {
+  const std::string name = word.substr(0, word.find('='));
+  return std::any_of(options.begin(), options.end(), [&](const Option &option) {
+    const std::vector<std::string> names = NamesOf(option);
+    return std::find(names.begin(), names.end(), name) != names.end();
+  });
+}
+
+bool TakesCommand(const Command &command) {
+  return std::any_of(
+      command.options.begin(), command.options.end(),
+      [](const Option &option) { return option.fill == Fill::Command; });
+}
+
+std::vector<std::string> LongNames(const std::vector<Option> &options) {
+  std::vector<std::string> names;
+  for (const Option &option : options) {
+    if (!IsPositional(option)) names.push_back(KeyOf(option));
+  }
+  return names;
+}
+
+std::vector<std::string> WordsOf(const std::vector<Value> &values) {
+  std::vector<std::string> words;
+  for (const Value &value : values) words.push_back(value.word);
+  return words;
+}
+
+// Finds the command by its words; what remains are its arguments.
+class CommandLine {
+ public:
+  CommandLine(const Program &program, std::vector<std::string> words)
+      : program_(program), words_(std::move(words)) {}
+
+  Invocation Parse() {
+    FindPath();
+    Invocation call{.path = path_, .arguments = {}, .text = ""};
+    const Command *command = FindCommand(program_, path_);
+    if (command != nullptr) {
+      ReadArguments(*command, &call.arguments);
+    } else {
+      for (const std::string &word : words_) {
+        for (const Option &option : common_) {
+          if (HasName({option}, word)) {
+            call.arguments.given[KeyOf(option)] = {"true"};
+          }
+        }
+      }
+    }
+    if (asksForHelp_ || call.arguments.Has(kHelpName)) {
+      call.kind = Invocation::Kind::Help;
+      call.text = Help(program_, path_);
+    } else if (asksForVersion_ || call.arguments.Has(kVersionName)) {
+      call.kind = Invocation::Kind::Version;
+      call.text = program_.name + " " + program_.version + "\n";
+    } else if (command == nullptr) {
+      Fail("a command is missing" + Place() +
+           "; accepted: " + Listed(WordsOf(NextWords(program_, path_))));
+    } else {
+      CheckRequired(*command, call.arguments);
+      call.command = command;
+    }
+    return call;
+  }
+
+ private:
+  [[noreturn]] void Fail(const std::string &message) const {
+    throw UsageError(message + "; see " + program_.name +
+                         (path_.empty() ? "" : " " + path_) + " --help",
+                     path_);
+  }
+
+  std::string Place() const {
+    return path_.empty() ? "" : " after \"" + path_ + "\"";
+  }
+
+  [[noreturn]] void FailOption(const std::string &word,
+                               const std::vector<Option> &accepted) const {
+    Fail("no option " + Quoted(word) + Place() +
+         NearestAndAccepted(word, LongNames(accepted)));
+  }
+
+  // CLI11's message begins with the name of the option and a colon.
+  [[noreturn]] void FailValue(const std::string &message,
+                              const std::vector<Option> &options) const {
+    const std::string name = message.substr(0, message.find(':'));
+    std::string accepted;
+    for (const Option &option : options) {
+      if (HasName({option}, name))
+        accepted = "; accepted: " + option.description;
+    }
+    Fail("exactly one value has to follow " + name + accepted);
+  }
+
+  // Takes the words of the path, and "help", out of the words.
+  void FindPath() {
+    auto word = words_.begin();
+    while (word != words_.end() && *word != kEndOfOptions &&
+           FindCommand(program_, path_) == nullptr) {
+      if (IsOptionWord(*word)) {
+        if (!HasName(common_, *word)) FailOption(*word, common_);
+        ++word;
+        continue;
+      }
+      if (path_.empty() && !asksForHelp_ && *word == kHelpWord) {
+        asksForHelp_ = true;
+      } else if (path_.empty() && *word == kVersionWord) {
+        asksForVersion_ = true;
+      } else {
+        AddToPath(*word);
+      }
+      word = words_.erase(word);
+    }
+  }
+
+  void AddToPath(const std::string &word) {
+    const std::string path = path_.empty() ? word : path_ + " " + word;
+    if (FindCommand(program_, path) == nullptr &&
+        (!path_.empty() || FindGroup(program_, word) == nullptr)) {
+      Fail("no command " + Quoted(word) + Place() + NearestCommand(word));
+    }
+    path_ = path;
+  }
+
+  // A second word that was typed alone is nearer than any that is similar.
+  std::string NearestCommand(const std::string &word) const {
+    const std::vector<std::string> accepted =
+        WordsOf(NextWords(program_, path_));
+    std::vector<std::string> whole;
+    for (const Command &command : program_.commands) {
+      if (command.path.ends_with(" " + word)) whole.push_back(command.path);
+    }
+    if (whole.empty() || !path_.empty()) {
+      return NearestAndAccepted(word, accepted);
+    }
+    return "; nearest: " + Listed(whole) + "; accepted: " + Listed(accepted);
+  }
+
+  // The only use of CLI11: it splits the words into options, their values and
+  // positional arguments. Nothing is required of it and extra words are let
+  // through, because the messages here say more.
+  void ReadArguments(const Command &command, Arguments *arguments) {
+    std::vector<Option> options = command.options;
+    options.insert(options.end(), common_.begin(), common_.end());
+    if (TakesCommand(command)) {
+      const auto end = std::find(words_.begin(), words_.end(), kEndOfOptions);
+      if (end != words_.end()) arguments->command.assign(end + 1, words_.end());
+      words_.erase(end, words_.end());
+    }
+    CLI::App app;
+    app.set_help_flag();
+    app.allow_extras();
+    std::deque<std::pair<const Option *, CLI::Option *>> added;
+    std::deque<std::vector<std::string>> unused;
+    for (const Option &option : options) {
+      if (option.fill == Fill::Command) continue;
+      CLI::Option *const made = Add(option, &unused.emplace_back(), &app);
+      added.emplace_back(&option, made);
+    }
+    try {
+      std::reverse(words_.begin(), words_.end());
+      app.parse(words_);
+    } catch (const CLI::ArgumentMismatch &error) {
+      FailValue(error.what(), options);
+    } catch (const CLI::ParseError &error) {
+      Fail(OneLine(error.what()));
+    }
+    for (const auto &[option, made] : added) {
+      if (made->count() > 0) Take(*option, made->results(), arguments);
+    }
+    if (!asksForHelp_ && !arguments->Has(kHelpName)) {
+      CheckExtras(command, options, app.remaining());
+    }
+  }
+
+  static CLI::Option *Add(const Option &option,
+                          std::vector<std::string> *unused, CLI::App *app) {
+    if (IsFlag(option)) {
+      return app->add_flag(option.names)
+          ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    }
+    CLI::Option *const made = app->add_option(option.names, *unused);
+    if (!option.repeats) made->expected(1);
+    if (!option.repeats || !IsPositional(option)) made->allow_extra_args(false);
+    return made;
+  }
+
+  static void Take(const Option &option, const std::vector<std::string> &words,
+                   Arguments *arguments) {
+    if (IsFlag(option)) {
+      if (words.back() == "true") arguments->given[KeyOf(option)] = {"true"};
+      return;
+    }
+    std::vector<std::string> &values = arguments->given[KeyOf(option)];
+    for (const std::string &word : words) {
+      if (IsPositional(option) && !values.empty()) {
+        values.front() += " " + word;
+      } else {
+        values.push_back(word);
+      }
+    }
+  }
+
+  // Fails when words are left over. An option is named before others, because
+  // the word that follows it may have been its value.
+  void CheckExtras(const Command &command, const std::vector<Option> &options,
+                   std::vector<std::string> extras) const {
+    std::erase(extras, kEndOfOptions);
+    if (extras.empty()) return;
+    const auto found = std::find_if(extras.begin(), extras.end(), IsOptionWord);
+    if (found != extras.end()) FailOption(*found, options);
+    // It may be an option without its dashes.
+    const std::string nearest = Nearest(extras.front(), LongNames(options));
+    Fail("one word too many" + Place() + ": " + Quoted(extras.front()) +
+         (TakesCommand(command) ? "; put \"--\" before the command"
+          : nearest.empty()     ? ""
+                                : "; nearest: " + nearest));
+  }
+
+  void CheckRequired(const Command &command, const Arguments &arguments) const {
+    for (const Option &option : command.options) {
+      if (!option.required || arguments.Has(KeyOf(option))) continue;
+      Fail(KeyOf(option) + " is missing" + Place() +
+           "; accepted: " + option.description);
+    }
+  }
+
+  const Program &program_;
+  const std::vector<Option> common_ = CommonOptions(program_);
+  std::vector<std::string> words_;
+  std::string path_;
+  bool asksForHelp_ = false;
+  bool asksForVersion_ = false;
+};
+
+}  // namespace
+
+Invocation Parse(const Program &program,
+                 const std::vector<std::string> &words) {
+  if (!words.empty() && words.front() == kCompletionCall) {
+    return {.kind = Invocation::Kind::Completion,
+            .path = "",
+            .arguments = {},
+            .text = Completions(program, {words.begin() + 1, words.end()})};
+  }
+  return CommandLine(program, words).Parse();
+}
+
+}  // namespace ztk::cli

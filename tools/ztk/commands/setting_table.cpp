@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+//
+// The part of the table that each setting has: list, get, set, apply and what
+// only one of the settings has.
+#include "ztk/commands/command_table.h"
+#include "ztk/commands/setting_commands.h"
+#include "ztk/report/setting_report.h"
+
+namespace ztk::program {
+
+namespace {
+
+using SettingFunction = Report (*)(const Setting &setting,
+                                   const Arguments &arguments);
+
+// Added where the setting has channels.
+void AddChannel(const Setting &setting, const std::string &otherwise,
+                std::vector<cli::Option> *options) {
+  if (setting.channels == 0) return;
+  options->push_back(cli::Offering(
+      {.names = Parameter::Channel,
+       .value = "",
+       .description =
+           "Channel, 1 to " + std::to_string(setting.channels) + otherwise,
+       .required = otherwise.empty()},
+      [&setting] { return ChannelValues(setting, setting.channels); }));
+}
+
+cli::Command MakeSettingCommand(const Setting &setting, const char *verb,
+                                const std::string &summary,
+                                const std::string &words,
+                                SettingFunction function) {
+  cli::Command command =
+      MakeCommand(std::string(setting.name) + " " + verb, summary,
+                  [&setting, function](const Arguments &arguments) {
+                    return function(setting, arguments);
+                  });
+  command.note = Note(setting);
+  command.examples = {"ztk " + command.path + (words.empty() ? "" : " ") +
+                      words};
+  return command;
+}
+
+// list, get, default and apply differ only in their functions.
+cli::Command MakePlain(const Setting &setting, const char *verb,
+                       const std::string &summary, SettingFunction function) {
+  cli::Command command = MakeSettingCommand(
+      setting, verb, summary, setting.channels == 0 ? "" : "1", function);
+  AddChannel(setting, "; all when left out", &command.options);
+  command.options.push_back(ProductOption(ModelName(setting)));
+  return command;
+}
+
+cli::Command MakeSending(const Setting &setting, const char *verb,
+                         const std::string &summary, SettingFunction function) {
+  cli::Command command = MakePlain(setting, verb, summary, function);
+  command.options.push_back(DryRunOption());
+  return command;
+}
+
+cli::Command MakeSet(const Setting &setting) {
+  cli::Command command = MakeSettingCommand(
+      setting, "set", "Choose a value: send it to every mixer and remember it",
+      setting.example, SetChoice);
+  AddChannel(setting, "; in a terminal, ztk asks when left out",
+             &command.options);
+  command.options.push_back(
+      {.names = Parameter::Choice,
+       .value = "",
+       .description = "Number as listed, text, or the beginning of the text; "
+                      "in a terminal, ztk asks when left out",
+       .repeats = true,
+       .fill = cli::Fill::Values,
+       .values = [&setting](const Arguments &before, const std::string &begun) {
+         return ChoiceValues(setting, before, begun);
+       }});
+  command.options.push_back(ProductOption(ModelName(setting)));
+  command.options.push_back(DryRunOption());
+  return command;
+}
+
+cli::Command MakeRaw() {
+  cli::Command command = MakeSettingCommand(
+      kInput, "raw", "Send a raw routing value; it is not remembered", "2 0 3",
+      SendRaw);
+  AddChannel(kInput, "", &command.options);
+  command.options.push_back(
+      {.names = Parameter::High,
+       .value = "",
+       .description = "Number whose successor (number + 1) is sent in the top "
+                      "four bits of the value; decimal, or hexadecimal after "
+                      "0x",
+       .required = true});
+  command.options.push_back({.names = Parameter::Source,
+                             .value = "",
+                             .description = "Source code, 0 to 15",
+                             .required = true});
+  command.options.push_back(ProductOption(ModelName(kInput)));
+  command.options.push_back(DryRunOption());
+  return command;
+}
+
+}  // namespace
+
+cli::Option ProductOption(const std::string &otherwise) {
+  return cli::Offering({.names = Parameter::Product,
+                        .value = "MODEL",
+                        .description = "Model, by name or number; " +
+                                       otherwise + " when left out"},
+                       ProductValues);
+}
+
+cli::Option DryRunOption() {
+  return {.names = Parameter::DryRun,
+          .value = "",
+          .description = "Show what would be done, and do nothing"};
+}
+
+std::vector<cli::Command> SettingCommands(const Setting &setting) {
+  std::vector<cli::Command> commands{
+      MakePlain(setting, "list", "List the choices with their numbers",
+                ListChoices),
+      MakePlain(setting, "get", "Show the current choice", GetRemembered),
+      MakeSet(setting)};
+  if (&setting == &kOutput) {
+    commands.push_back(MakeSending(setting, "default",
+                                   "Send the default; it is not remembered",
+                                   SendDefault));
+  }
+  commands.push_back(MakeSending(
+      setting, "apply", "Send the remembered choice again", ApplySetting));
+  if (&setting == &kInput) commands.push_back(MakeRaw());
+  return commands;
+}
+
+}  // namespace ztk::program

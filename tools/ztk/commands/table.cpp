@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+//
+// The table of ztk.
+#include <utility>
+
+#include "build_config.h"
+#include "ztk/command_line.h"
+#include "ztk/commands/command_table.h"
+#include "ztk/commands/other_commands.h"
+#include "ztk/commands/setting_commands.h"
+#include "ztk/commands/warning.h"
+#include "ztk/report/setting_report.h"
+
+namespace ztk::program {
+
+namespace {
+
+// A command without a setting.
+cli::Command MakeOther(const char *path, const char *summary, const char *note,
+                       const char *example,
+                       Report (*run)(const Arguments &arguments)) {
+  cli::Command command = MakeCommand(path, summary, run);
+  command.note = note;
+  command.examples = {example};
+  return command;
+}
+
+cli::Command MakeUndo() {
+  cli::Command command = MakeOther(
+      "undo", "Undo the last change",
+      "Each further undo goes one command back, at most 100. A setting that\n"
+      "another program has changed since is left alone. Where nothing was\n"
+      "remembered before, the default is sent and remembered, because the\n"
+      "library cannot forget a setting. Only remembered settings can be\n"
+      "undone: raw values, defaults and apply cannot.",
+      "ztk undo", Undo);
+  command.options = {DryRunOption()};
+  return command;
+}
+
+cli::Command MakeImport() {
+  cli::Command command = MakeOther(
+      "import", "Restore the settings in a file written by ztk export",
+      "The whole file is checked before anything is changed. Settings that\n"
+      "are not in the file are left alone.",
+      "ztk import club.json --dry-run", Import);
+  command.options = {{.names = Parameter::File,
+                      .value = "",
+                      .description = "File that ztk export has written, or - "
+                                     "for the standard input",
+                      .required = true,
+                      .fill = cli::Fill::File},
+                     DryRunOption()};
+  return command;
+}
+
+cli::Command MakeApply() {
+  cli::Command command = MakeOther(
+      "apply", "Send all remembered settings of a model again",
+      "Settings without a remembered value are not sent. The model VRM-B5\n"
+      "has the USB output audio, the VRM-K2 the MIDI channel, the VRM-D6 all\n"
+      "other settings. Without --product, ztk names the models whose\n"
+      "remembered settings it has not sent.",
+      "ztk apply", ApplyAll);
+  command.options = {ProductOption("VRM-D6"), DryRunOption()};
+  return command;
+}
+
+cli::Command MakeWarning() {
+  cli::Command command = MakeOther(
+      "warning", "Show the text that explains why a channel is silent",
+      "Without a mixer the text is always in your own language.",
+      "ztk warning --language de", ShowWarning);
+  command.options = {
+      cli::Offering({.names = Parameter::OfChannel,
+                     .value = "N",
+                     .description = "Channel, 1 to 4; 1 when left out"},
+                    [] { return ChannelValues(kInput, kWarningChannels); }),
+      cli::Offering({.names = Parameter::Language,
+                     .value = "L",
+                     .description = "German, de or 3, for example; your own "
+                                    "language when left out"},
+                    LanguageValues)};
+  return command;
+}
+
+cli::Command MakeDoctor() {
+  cli::Command command = MakeOther(
+      "doctor", "Find out why something does not work, and what to do",
+      "Checks the mixers, the settings files, the session's message bus and\n"
+      "the warning texts. Nothing is changed; each mixer receives one query.\n"
+      "The exit status is 1 when a problem is found; a note is not a problem.",
+      "ztk doctor", Diagnose);
+  command.options = {{.names = Parameter::ReportFile,
+                      .value = "FILE",
+                      .description =
+                          "Also write a report for a maintainer to this file: "
+                          "mixers, versions and findings, without private data",
+                      .fill = cli::Fill::File}};
+  return command;
+}
+
+std::vector<cli::Command> MakeCommands() {
+  std::vector<cli::Command> commands;
+  commands.push_back(MakeOther("status",
+                               "Show the mixers and the remembered settings",
+                               "Mixers are numbered in the order of the bus.",
+                               "ztk status", ShowStatus));
+  for (const Setting *setting : AllSettings()) {
+    for (cli::Command &command : SettingCommands(*setting)) {
+      commands.push_back(std::move(command));
+    }
+  }
+  commands.push_back(MakeApply());
+  for (cli::Command &command : AutoapplyCommands()) {
+    commands.push_back(std::move(command));
+  }
+  commands.push_back(MakeUndo());
+  commands.push_back(
+      MakeOther("export", "Write all remembered settings as text",
+                "As JSON, by model, setting and channel; ztk import reads it.",
+                "ztk export > club.json", Export));
+  commands.push_back(MakeImport());
+  commands.push_back(MakeOther(
+      "watch", "Show changes made by any program, until interrupted",
+      "Shows the changes that all programs of your session make. Ctrl-C ends\n"
+      "it, with exit status 0.",
+      "ztk watch --json", Watch));
+  commands.push_back(MakeWarning());
+  commands.push_back(MakeDoctor());
+  commands.push_back(MakeOther(
+      "models", "List the models with their numbers and settings",
+      "--product takes the name of a model in any form, as b5 for VRM-B5, or\n"
+      "its number.",
+      "ztk models", ShowModels));
+  commands.push_back(MakeOther("versions",
+                               "Show the versions of ztk and of what it uses",
+                               "The installed parts belong to the VRM-D6.",
+                               "ztk versions", ShowVersions));
+  return commands;
+}
+
+std::vector<cli::Group> MakeGroups() {
+  std::vector<cli::Group> groups;
+  for (const Setting *setting : AllSettings()) {
+    groups.push_back({.name = setting->name,
+                      .summary = Summary(*setting),
+                      .note = Note(*setting),
+                      .example = std::string("ztk ") + setting->name + " set " +
+                                 setting->example});
+  }
+  groups.push_back(AutoapplyGroup());
+  return groups;
+}
+
+std::vector<cli::Term> MakeExitStatuses() {
+  std::vector<cli::Term> terms;
+  for (const ExitMeaning &meaning : ExitMeanings()) {
+    terms.push_back({.name = std::to_string(static_cast<int>(meaning.exit)),
+                     .meaning = meaning.text});
+  }
+  return terms;
+}
+
+}  // namespace
+
+cli::Command MakeCommand(std::string path, std::string summary,
+                         std::function<Report(const Arguments &)> run) {
+  cli::Command command{.path = std::move(path),
+                       .summary = std::move(summary),
+                       .options = {},
+                       .note = "",
+                       .examples = {},
+                       .run = nullptr};
+  command.run = [path = command.path,
+                 run = std::move(run)](const Arguments &arguments) {
+    return RunCommand(path, run, arguments);
+  };
+  return command;
+}
+
+}  // namespace ztk::program
+
+const ztk::cli::Program &ztk::cli::ThisProgram() {
+  using namespace ztk::program;
+  static const Program program{
+      .name = "ztk",
+      .version = build::kVersion,
+      .summary = "settings of the USB DJ mixer VRM-D6",
+      .about =
+          "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
+          "Channels and choices are numbered from 1, in the order in "
+          "which they are listed.",
+      .examples = {"ztk status", "ztk input list 2",
+                   "ztk input set 2 \"post ch2 fader\"",
+                   "ztk input set 2 mic --dry-run", "ztk undo"},
+      .options = {{.names = Parameter::Json,
+                   .value = "",
+                   .description = "Write the answer as JSON"},
+                  {.names = std::string("-q,") + Parameter::Quiet,
+                   .value = "",
+                   .description = "Write only warnings and errors"}},
+      .groups = MakeGroups(),
+      .commands = MakeCommands(),
+      .exitStatuses = MakeExitStatuses(),
+      .introduction = ManualIntroduction,
+      .sections = ManualSections,
+      .seeAlso = {"ztk-virtual-mixer(1)", "ZTKFunc(3)"}};
+  return program;
+}
