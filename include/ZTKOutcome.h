@@ -95,7 +95,11 @@ typedef struct ZTKMixerOutcome {
 #define ZTK_FILE_NO_HOME 3u
 /** The folder of the file does not exist and cannot be made. */
 #define ZTK_FILE_NO_FOLDER 4u
-/** This user has no permission. */
+/**
+ * This user has no permission. A function that stores a value keeps a file that
+ * this user may not read under another name and starts a new one: read.result
+ * then has this value, and store.result is ZTK_FILE_OK.
+ */
 #define ZTK_FILE_NOT_PERMITTED 5u
 /** The file system is read-only. */
 #define ZTK_FILE_READ_ONLY 6u

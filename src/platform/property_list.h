@@ -4,6 +4,7 @@
 #ifndef ZTK_PLATFORM_PROPERTY_LIST_H_
 #define ZTK_PLATFORM_PROPERTY_LIST_H_
 
+#include <cerrno>
 #include <cstdint>
 
 #include "ZTKFunc.h"
@@ -19,7 +20,7 @@ enum class ReadState {
   Absent,  // There is no file.
   // There is a file, and it could not be read: no permission, no descriptor or
   // memory left, an error of the disk, no regular file, or another program was
-  // writing to it all the time. It may hold settings, so it is not replaced.
+  // writing to it all the time. It may hold settings: see MayBeReplaced().
   Unavailable,
   // The file was read in full, twice with the same bytes, and its root is not a
   // dictionary, or the reader refuses it. It may be replaced.
@@ -34,6 +35,14 @@ struct ReadResult {
 
   bool operator==(const ReadResult &) const = default;
 };
+
+// Whether a file may be replaced after it was read with this result. One that
+// cannot be read now may hold settings, which would be lost. A missing
+// permission does not pass by itself, though, and nothing could be stored any
+// more: such a file is kept under another name, like a damaged one.
+constexpr bool MayBeReplaced(const ReadResult &result) {
+  return result.state != ReadState::Unavailable || result.error == EACCES;
+}
 
 // Reads a file. Writes the dictionary to *dictionary when the state is Read,
 // else null; it goes back through Release(). Never creates anything.

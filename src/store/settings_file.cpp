@@ -26,7 +26,7 @@ bool Merge(ZTKTextRef path, ZTKTextRef key, std::int32_t value) {
   int error = 0;
   bool written = false;
   // A file that cannot be read now may hold settings: writing would lose them.
-  if (read.state != plist::ReadState::Unavailable) {
+  if (plist::MayBeReplaced(read)) {
     plist::SetInteger(settings, key, value);
     written = plist::WriteAtomically(settings, path, &error);
   }

@@ -150,6 +150,13 @@ TEST_F(Write, LeavesAFileAloneThatCannotBeReadNow) {
   EXPECT_EQ(TheWorld().held, Held{});
 }
 
+TEST_F(Write, ReplacesAFileThatMayNotBeRead) {
+  TheWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
+                                      .error = EACCES};
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
+  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
+}
+
 TEST_F(Write, IsDoneAgainWhenAnotherProcessHasReplacedTheFile) {
   TheWorld().canWrite = false;
   TheWorld().writeError = ESTALE;

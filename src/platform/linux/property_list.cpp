@@ -167,7 +167,7 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
   *reason = EINVAL;
   if (dictionary == nullptr || path == nullptr) return false;
   const bool sameFile = dictionary->addedFrom == path;
-  if (sameFile && dictionary->added.state == ReadState::Unavailable) {
+  if (sameFile && !MayBeReplaced(dictionary->added)) {
     *reason = dictionary->added.error;
     return false;
   }
@@ -185,6 +185,7 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
   }
   const bool keepOld =
       sameFile && (dictionary->added.state == ReadState::Damaged ||
+                   dictionary->added.state == ReadState::Unavailable ||
                    dictionary->addedIncomplete);
   const bool hasStatus = sameFile && dictionary->addedStatus;
   return ReplaceFile(path, xml, keepOld, reason,

@@ -167,9 +167,10 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
   @autoreleasepool {
     NSDictionary *old = nil;
     const ReadResult result = ReadEntries(path, &old);
+    const bool wasRead =
+        result.state == ReadState::Read || result.state == ReadState::Absent;
     const bool mayBeReplaced =
-        result.state != ReadState::Unavailable &&
-        (result.state != ReadState::Damaged || KeepAside(PathOf(path)));
+        MayBeReplaced(result) && (wasRead || KeepAside(PathOf(path)));
     if (!mayBeReplaced) {
       if (error != nullptr) *error = result.error;
       return false;
