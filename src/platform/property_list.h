@@ -54,9 +54,9 @@ Dictionary *ReadFile(ZTKTextRef path);
 // read, and then replaced or left as it is. Other processes that change a file
 // of the same folder wait meanwhile. The wait is short; it ends without the
 // lock where the folder cannot be locked or another process keeps it too long.
-// Creates the folder of the file where it is missing. Changes are not nested,
-// and one thread begins, uses and ends each of them. Goes back through
-// EndChange().
+// Where the port creates a missing folder when it writes a file, this creates
+// it. Changes are not nested, and one thread begins, uses and ends each of
+// them. Goes back through EndChange().
 Change *BeginChange(ZTKTextRef path);
 // Null is allowed.
 void EndChange(Change *change);

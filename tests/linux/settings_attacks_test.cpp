@@ -29,6 +29,7 @@ using plist::ReadState;
 using testing::ElementsAre;
 using ztk::platform::FileChange;
 using ztk::platform::LockExclusively;
+using ztk::platform::MissingFolders;
 using ztk::platform::ReplaceFile;
 using ztk::test::ContentOf;
 using ztk::test::ExitCodeOf;
@@ -114,14 +115,15 @@ TEST_F(Locking, EndsThoughAChildProcessHasACopyOfTheDescriptor) {
 TEST_F(Locking, IsOnTheFolderOfTheFileThatALinkNames) {
   Put(folder_ / "real/b.plist", old_);
   std::filesystem::create_symlink("real/b.plist", path_);
-  const FileChange change(path_);
+  const FileChange change(path_, MissingFolders::Create);
   EXPECT_TRUE(change.locked());
   EXPECT_TRUE(FolderIsLocked(folder_ / "real"));
   EXPECT_FALSE(FolderIsLocked(folder_.path()));
 }
 
 TEST_F(Locking, CreatesTheFolderForTheFirstChange) {
-  const FileChange change(folder_ / "maker/Preferences/a.plist");
+  const FileChange change(folder_ / "maker/Preferences/a.plist",
+                          MissingFolders::Create);
   EXPECT_TRUE(change.locked());
   EXPECT_TRUE(FolderIsLocked(folder_ / "maker/Preferences"));
 }

@@ -29,10 +29,11 @@ bool LockExclusively(int descriptor, std::chrono::milliseconds patience) {
   return false;
 }
 
-FileChange::FileChange(const std::string &path) : identity_(path) {
+FileChange::FileChange(const std::string &path, MissingFolders missing)
+    : identity_(path) {
   constexpr std::chrono::milliseconds kPatience{1000};
   if (!identity_.good()) return;
-  MakeFolders(path, kMaxMissingFolders);
+  if (missing == MissingFolders::Create) MakeFolders(path, kMaxMissingFolders);
   // Two paths may lead to one file: the folder of the file itself is locked.
   const std::optional<std::string> file = FollowLinks(path);
   if (!file) return;

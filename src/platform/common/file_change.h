@@ -15,6 +15,9 @@ namespace ztk::platform {
 // process still holds the lock (EWOULDBLOCK) or the file system has no locks.
 bool LockExclusively(int descriptor, std::chrono::milliseconds patience);
 
+// What becomes of a folder of the file that does not exist.
+enum class MissingFolders { Create, Leave };
+
 // While it lives, other processes that change a file of the same folder wait:
 // it holds a lock on the folder itself, so no file is left behind, and the lock
 // ends with the process. It also takes the identity of the folder's owner
@@ -24,7 +27,7 @@ bool LockExclusively(int descriptor, std::chrono::milliseconds patience);
 // second, does not prevent the change: it goes on without the lock.
 class FileChange {
  public:
-  explicit FileChange(const std::string &path);
+  FileChange(const std::string &path, MissingFolders missing);
   ~FileChange();
   FileChange(const FileChange &) = delete;
   FileChange &operator=(const FileChange &) = delete;

@@ -81,7 +81,9 @@ Dictionary *ReadFile(ZTKTextRef path) {
 }
 
 Change *BeginChange(ZTKTextRef path) try {
-  return path == nullptr ? nullptr : new Change{.change = FileChange(path)};
+  return path == nullptr
+             ? nullptr
+             : new Change{.change = FileChange(path, MissingFolders::Create)};
 } catch (const std::bad_alloc &) {
   return nullptr;
 }

@@ -110,7 +110,8 @@ Dictionary *ReadFile(ZTKTextRef path) {
 
 Change *BeginChange(ZTKTextRef path) {
   if (path == nullptr) return nullptr;
-  return new Change{.change = FileChange(PathOf(path))};
+  // The system creates this folder for each user: writing fails without it.
+  return new Change{.change = FileChange(PathOf(path), MissingFolders::Leave)};
 }
 
 void EndChange(Change *change) { delete change; }
