@@ -13,6 +13,8 @@ endif()
 
 file(STRINGS "${manifest}" files)
 file(STRINGS "${record}" existing)
+# The first line names the prefix, whether it existed or not.
+list(POP_FRONT existing)
 foreach(file IN LISTS files)
   set(file "$ENV{DESTDIR}${file}")
   file(REMOVE "${file}")
