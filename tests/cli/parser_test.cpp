@@ -170,6 +170,15 @@ TEST(Parse, KnowsThePathOfAnError) {
   }
 }
 
+TEST(FirstWord, LeadsToTheCommandWhereItAloneDecides) {
+  EXPECT_EQ(cli::FirstWord({"input", "set"}), "input");
+  EXPECT_EQ(cli::FirstWord({"--json", "show"}), "show");
+  for (const Words &words : {Words{}, Words{"--help"}, Words{"help", "show"},
+                             Words{"__complete", "sh"}}) {
+    EXPECT_EQ(cli::FirstWord(words), "");
+  }
+}
+
 TEST(Parse, AnswersCompletions) {
   const Invocation call = Parsed({"__complete", "sh"});
   EXPECT_EQ(call.kind, Invocation::Kind::Completion);

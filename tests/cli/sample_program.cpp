@@ -18,6 +18,11 @@ std::vector<cli::Section> Sections() {
   return {{.title = "FILES", .text = "No files.", .terms = {}}};
 }
 
+std::vector<cli::Term> ExitStatuses() {
+  return {{.name = "0", .meaning = "done"},
+          {.name = "126, 127", .meaning = "cannot run"}};
+}
+
 cli::Command Show() {
   return {.path = "show",
           .summary = "Show the mixers",
@@ -92,8 +97,7 @@ cli::Program SampleProgram() {
                       .note = "Inputs are inputs.",
                       .example = "mix input set 1 mic"}},
           .commands = {Show(), InputSet(), Run()},
-          .exitStatuses = {{.name = "0", .meaning = "done"},
-                           {.name = "126, 127", .meaning = "cannot run"}},
+          .exitStatuses = ExitStatuses,
           .introduction = Introduction,
           .sections = Sections,
           .seeAlso = {"other(1)"}};

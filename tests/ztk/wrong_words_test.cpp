@@ -95,7 +95,8 @@ class WrongWords : public CliWorld {
   }
 
   std::string Line() {
-    const cli::Command &command = OneOf(cli::ThisProgram().commands);
+    static const cli::Program program = cli::ThisProgram();
+    const cli::Command &command = OneOf(program.commands);
     switch (Below(6)) {
       case 0:  // a command that there is not
         return Garbage() + " " + command.path;

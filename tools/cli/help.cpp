@@ -95,7 +95,7 @@ std::string OfCommand(const Program &program, const Command &command) {
 std::string OfProgram(const Program &program) {
   constexpr std::size_t kStatusColumn = 7;
   std::string statuses;
-  for (const Term &status : program.exitStatuses) {
+  for (const Term &status : program.exitStatuses()) {
     const std::size_t width = status.name.size();
     statuses +=
         Row((width < 3 ? std::string(3 - width, ' ') : "") + status.name,

@@ -170,7 +170,7 @@ std::string ManPage(const Program &program, const std::string &date,
   AddTerms(CommonOptions(program), &page);
   AddCommands(program, &page);
   AddSections(
-      {{.title = "EXIT STATUS", .text = "", .terms = program.exitStatuses}},
+      {{.title = "EXIT STATUS", .text = "", .terms = program.exitStatuses()}},
       &page);
   AddSections(program.sections(), &page);
   page.Section("SEE ALSO");

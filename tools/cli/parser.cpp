@@ -260,6 +260,14 @@ class CommandLine {
 
 }  // namespace
 
+std::string FirstWord(const std::vector<std::string> &words) {
+  for (const std::string &word : words) {
+    if (IsOptionWord(word)) continue;
+    return word == kHelpWord || word == kCompletionCall ? "" : word;
+  }
+  return "";
+}
+
 Invocation Parse(const Program &program,
                  const std::vector<std::string> &words) {
   if (!words.empty() && words.front() == kCompletionCall) {

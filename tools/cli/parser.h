@@ -38,6 +38,10 @@ struct Invocation {
   std::string text;
 };
 
+// The word that leads to the command, for ThisProgram(); empty when all
+// commands are needed.
+std::string FirstWord(const std::vector<std::string> &words);
+
 // Parses the words that follow the name of the program. Throws UsageError.
 Invocation Parse(const Program &program, const std::vector<std::string> &words);
 

@@ -107,15 +107,16 @@ struct Program {
   std::vector<Option> options;  // of every command
   std::vector<Group> groups;
   std::vector<Command> commands;
-  std::vector<Term> exitStatuses;
-  // Of the manual page, which alone needs them: before its commands and after.
+  std::vector<Term> (*exitStatuses)();
+  // Sections of the manual page before its commands, and after them.
   std::vector<Section> (*introduction)();
   std::vector<Section> (*sections)();
   std::vector<std::string> seeAlso;  // "ztk-virtual-mixer(1)"
 };
 
-// Defined by each program: the table of the program that is linked.
-const Program &ThisProgram();
+// Defined by each program: its table. With the first word of a command line,
+// the table may lack the commands that begin with another word, to save time.
+Program ThisProgram(const std::string &firstWord = "");
 
 inline constexpr char kHelpName[] = "--help";
 inline constexpr char kVersionName[] = "--version";

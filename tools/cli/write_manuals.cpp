@@ -29,7 +29,7 @@ int main(int argc, char **argv) {
     return 2;
   }
   const std::string folder = std::string(argv[1]) + "/";
-  const Program &program = ThisProgram();
+  const Program program = ThisProgram();
   const std::string &name = program.name;
   const bool written =
       Write(folder + name + ".1", ManPage(program, argv[2], argv[3])) &&

@@ -14,18 +14,18 @@
 namespace {
 
 using ztk::cli::Invocation;
-using ztk::cli::ThisProgram;
 
 constexpr int kFailed = 1;
 constexpr int kUsage = 2;
 
 int Complain(const std::string &message, int status) {
-  std::cerr << ztk::cli::MessageLine(ThisProgram().name, message);
+  std::cerr << ztk::cli::MessageLine("ztk-virtual-mixer", message);
   return status;
 }
 
 int Run(const std::vector<std::string> &words) {
-  const Invocation call = ztk::cli::Parse(ThisProgram(), words);
+  const ztk::cli::Program program = ztk::cli::ThisProgram();
+  const Invocation call = ztk::cli::Parse(program, words);
   if (call.command != nullptr) return call.command->run(call.arguments);
   if (call.kind == Invocation::Kind::Help) {
     std::cout << ztk::cli::LaidOut(

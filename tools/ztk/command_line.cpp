@@ -66,7 +66,8 @@ int RunCommandLine(const std::vector<std::string> &words) {
   }
   const bool json = AsksForJson(words);
   try {
-    const cli::Invocation call = cli::Parse(cli::ThisProgram(), words);
+    const cli::Program program = cli::ThisProgram(cli::FirstWord(words));
+    const cli::Invocation call = cli::Parse(program, words);
     if (call.command != nullptr) return call.command->run(call.arguments);
     const bool isCompletion = call.kind == cli::Invocation::Kind::Completion;
     return Print(call.path, Shown(call), {.json = json && !isCompletion});

@@ -12,6 +12,7 @@
 namespace ztk::virtual_mixer {
 namespace {
 
+using ::testing::ContainsRegex;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
@@ -208,7 +209,8 @@ TEST_F(Control, HasHelpWithAnExampleForEachCommand) {
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(
         result.out,
-        HasSubstr(std::string("Example: ztk-virtual-mixer ") + command));
+        ContainsRegex(std::string("Examples?:[[:space:]]+ztk-virtual-mixer ") +
+                      command));
   }
   EXPECT_THAT(Tool({"turn", "--help"}).out,
               HasSubstr("turn [OPTIONS] CHANNEL POSITION\n"));

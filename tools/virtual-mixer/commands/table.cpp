@@ -21,6 +21,15 @@ std::vector<cli::Command> MakeCommands() {
   return commands;
 }
 
+std::vector<cli::Term> ExitStatuses() {
+  return {{.name = "0", .meaning = "done"},
+          {.name = "1", .meaning = "failed; see the message"},
+          {.name = "2", .meaning = "invalid command line"},
+          {.name = "126, 127",
+           .meaning = "the command of run or serve cannot be run, "
+                      "or is not found"}};
+}
+
 std::vector<cli::Section> ManualIntroduction() { return {}; }
 
 std::vector<cli::Section> ManualSections() {
@@ -74,31 +83,24 @@ std::vector<cli::Value> FaultKinds() {
 
 }  // namespace ztk::virtual_mixer
 
-const ztk::cli::Program &ztk::cli::ThisProgram() {
+ztk::cli::Program ztk::cli::ThisProgram(const std::string & /*firstWord*/) {
   using namespace ztk::virtual_mixer;
-  static const Program program{
-      .name = "ztk-virtual-mixer",
-      .version = build::kVersion,
-      .summary = "run programs with virtual VRM-D6 mixers",
-      .about =
-          "Virtual VRM-D6 mixers for any program, no hardware needed.\n"
-          "\n"
-          "run and serve start the mixers; the other commands, inside, "
-          "change them. The\nlibrary inside is the real one, only the "
-          "devices are virtual. They remember what\nthey were sent until "
-          "the command ends.",
-      .examples = {"ztk-virtual-mixer run -n 2 -- ztk status"},
-      .options = {},
-      .groups = {},
-      .commands = MakeCommands(),
-      .exitStatuses = {{.name = "0", .meaning = "done"},
-                       {.name = "1", .meaning = "failed; see the message"},
-                       {.name = "2", .meaning = "invalid command line"},
-                       {.name = "126, 127",
-                        .meaning = "the command of run or serve cannot be run, "
-                                   "or is not found"}},
-      .introduction = ManualIntroduction,
-      .sections = ManualSections,
-      .seeAlso = {"ztk(1)", "ZTKFunc(3)"}};
-  return program;
+  return {.name = "ztk-virtual-mixer",
+          .version = build::kVersion,
+          .summary = "run programs with virtual VRM-D6 mixers",
+          .about =
+              "Virtual VRM-D6 mixers for any program, no hardware needed.\n"
+              "\n"
+              "run and serve start the mixers; the other commands, inside, "
+              "change them. The\nlibrary inside is the real one, only the "
+              "devices are virtual. They remember what\nthey were sent until "
+              "the command ends.",
+          .examples = {"ztk-virtual-mixer run -n 2 -- ztk status"},
+          .options = {},
+          .groups = {},
+          .commands = MakeCommands(),
+          .exitStatuses = ExitStatuses,
+          .introduction = ManualIntroduction,
+          .sections = ManualSections,
+          .seeAlso = {"ztk(1)", "ZTKFunc(3)"}};
 }

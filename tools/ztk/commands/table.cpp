@@ -100,49 +100,77 @@ cli::Command MakeDoctor() {
   return command;
 }
 
-std::vector<cli::Command> MakeCommands() {
-  std::vector<cli::Command> commands;
-  commands.push_back(MakeOther("status",
-                               "Show the mixers and the remembered settings",
-                               "Mixers are numbered in the order of the bus.",
-                               "ztk status", ShowStatus));
-  for (const Setting *setting : AllSettings()) {
-    for (cli::Command &command : SettingCommands(*setting)) {
-      commands.push_back(std::move(command));
-    }
-  }
-  commands.push_back(MakeApply());
-  for (cli::Command &command : AutoapplyCommands()) {
-    commands.push_back(std::move(command));
-  }
-  commands.push_back(MakeUndo());
-  commands.push_back(
-      MakeOther("export", "Write all remembered settings as text",
-                "As JSON, by model, setting and channel; ztk import reads it.",
-                "ztk export > club.json", Export));
-  commands.push_back(MakeImport());
-  commands.push_back(MakeOther(
+cli::Command MakeStatus() {
+  return MakeOther("status", "Show the mixers and the remembered settings",
+                   "Mixers are numbered in the order of the bus.", "ztk status",
+                   ShowStatus);
+}
+
+cli::Command MakeExport() {
+  return MakeOther(
+      "export", "Write all remembered settings as text",
+      "As JSON, by model, setting and channel; ztk import reads it.",
+      "ztk export > club.json", Export);
+}
+
+cli::Command MakeWatch() {
+  return MakeOther(
       "watch", "Show changes made by any program, until interrupted",
       "Shows the changes that all programs of your session make. Ctrl-C ends\n"
       "it, with exit status 0.",
-      "ztk watch --json", Watch));
-  commands.push_back(MakeWarning());
-  commands.push_back(MakeDoctor());
-  commands.push_back(MakeOther(
+      "ztk watch --json", Watch);
+}
+
+cli::Command MakeModels() {
+  return MakeOther(
       "models", "List the models with their numbers and settings",
       "--product takes the name of a model in any form, as b5 for VRM-B5, or\n"
       "its number.",
-      "ztk models", ShowModels));
-  commands.push_back(MakeOther("versions",
-                               "Show the versions of ztk and of what it uses",
-                               "The installed parts belong to the VRM-D6.",
-                               "ztk versions", ShowVersions));
+      "ztk models", ShowModels);
+}
+
+cli::Command MakeVersions() {
+  return MakeOther("versions", "Show the versions of ztk and of what it uses",
+                   "The installed parts belong to the VRM-D6.", "ztk versions",
+                   ShowVersions);
+}
+
+void Append(cli::Command command, std::vector<cli::Command> *commands) {
+  commands->push_back(std::move(command));
+}
+
+void Append(std::vector<cli::Command> more,
+            std::vector<cli::Command> *commands) {
+  for (cli::Command &command : more) commands->push_back(std::move(command));
+}
+
+// The commands that begin with the word; all when it is empty.
+std::vector<cli::Command> MakeCommands(const std::string &firstWord) {
+  std::vector<cli::Command> commands;
+  const auto add = [&](const char *word, const auto &make) {
+    if (firstWord.empty() || firstWord == word) Append(make(), &commands);
+  };
+  add("status", MakeStatus);
+  for (const Setting *setting : AllSettings()) {
+    add(setting->name, [setting] { return SettingCommands(*setting); });
+  }
+  add("apply", MakeApply);
+  add("autoapply", AutoapplyCommands);
+  add("undo", MakeUndo);
+  add("export", MakeExport);
+  add("import", MakeImport);
+  add("watch", MakeWatch);
+  add("warning", MakeWarning);
+  add("doctor", MakeDoctor);
+  add("models", MakeModels);
+  add("versions", MakeVersions);
   return commands;
 }
 
-std::vector<cli::Group> MakeGroups() {
+std::vector<cli::Group> MakeGroups(const std::string &firstWord) {
   std::vector<cli::Group> groups;
   for (const Setting *setting : AllSettings()) {
+    if (!firstWord.empty() && firstWord != setting->name) continue;
     groups.push_back({.name = setting->name,
                       .summary = Summary(*setting),
                       .note = Note(*setting),
@@ -181,30 +209,32 @@ cli::Command MakeCommand(std::string path, std::string summary,
 
 }  // namespace ztk::program
 
-const ztk::cli::Program &ztk::cli::ThisProgram() {
+ztk::cli::Program ztk::cli::ThisProgram(const std::string &firstWord) {
   using namespace ztk::program;
-  static const Program program{
-      .name = "ztk",
-      .version = build::kVersion,
-      .summary = "settings of the USB DJ mixer VRM-D6",
-      .about =
-          "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
-          "Channels and choices are numbered from 1, in the order in "
-          "which they are listed.",
-      .examples = {"ztk status", "ztk input list 2",
-                   "ztk input set 2 \"post ch2 fader\"",
-                   "ztk input set 2 mic --dry-run", "ztk undo"},
-      .options = {{.names = Parameter::Json,
-                   .value = "",
-                   .description = "Write the answer as JSON"},
-                  {.names = std::string("-q,") + Parameter::Quiet,
-                   .value = "",
-                   .description = "Write only warnings and errors"}},
-      .groups = MakeGroups(),
-      .commands = MakeCommands(),
-      .exitStatuses = MakeExitStatuses(),
-      .introduction = ManualIntroduction,
-      .sections = ManualSections,
-      .seeAlso = {"ztk-virtual-mixer(1)", "ZTKFunc(3)"}};
-  return program;
+  // An unknown word is explained with all commands.
+  std::vector<Command> commands = MakeCommands(firstWord);
+  const std::string word = commands.empty() ? "" : firstWord;
+  if (commands.empty()) commands = MakeCommands(word);
+  return {.name = "ztk",
+          .version = build::kVersion,
+          .summary = "settings of the USB DJ mixer VRM-D6",
+          .about =
+              "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
+              "Channels and choices are numbered from 1, in the order in "
+              "which they are listed.",
+          .examples = {"ztk status", "ztk input list 2",
+                       "ztk input set 2 \"post ch2 fader\"",
+                       "ztk input set 2 mic --dry-run", "ztk undo"},
+          .options = {{.names = Parameter::Json,
+                       .value = "",
+                       .description = "Write the answer as JSON"},
+                      {.names = std::string("-q,") + Parameter::Quiet,
+                       .value = "",
+                       .description = "Write only warnings and errors"}},
+          .groups = MakeGroups(word),
+          .commands = std::move(commands),
+          .exitStatuses = MakeExitStatuses,
+          .introduction = ManualIntroduction,
+          .sections = ManualSections,
+          .seeAlso = {"ztk-virtual-mixer(1)", "ZTKFunc(3)"}};
 }
