@@ -190,5 +190,36 @@ TEST_F(Import, ShowsInADryRunWhatItWouldDo) {
   EXPECT_FALSE(HasSettings("VRM-D6"));
 }
 
+TEST_F(Export, FailsForAFileThatCannotBeRead) {
+  std::filesystem::create_directories(home_.SettingsFile("VRM-D6"));
+  const Result result = NoMixer("ztk export");
+  EXPECT_EQ(result.status, 5);
+  EXPECT_EQ(result.out, "");
+  EXPECT_THAT(result.err, StartsWith("ztk: nothing is exported: cannot read " +
+                                     home_.SettingsFile("VRM-D6").string()));
+}
+
+TEST_F(Import, ShowsTheFirstErrorsAndTheirNumber) {
+  std::string text = R"({"version":1,"settings":{"VRM-D6":{"input":{)";
+  for (int i = 0; i < 50000; ++i) {
+    text += (i == 0 ? "" : ",") + ('"' + std::to_string(100 + i) + R"(":"x")");
+  }
+  WriteAll(home_.path() / "many.json", text + "}}}}");
+  const Result result = NoMixer("ztk import $DIR/many.json --json");
+  EXPECT_EQ(result.status, 2);
+  const Json json = OneObject(result.out);
+  EXPECT_EQ(json.value("errorCount", 0), 50000);
+  EXPECT_EQ(json.value("errors", Json()).size(), 20U);
+  EXPECT_THAT(LastLine(result.err),
+              HasSubstr("50000 errors, of which the first 20 are shown,"));
+}
+
+TEST_F(Import, RefusesANumberThatIsTooLarge) {
+  WriteAll(home_.path() / "huge.json", R"({"version":1e999,"settings":{}})");
+  const Result result = NoMixer("ztk import $DIR/huge.json");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(Line(result.err, 0), HasSubstr("a number in it is too large"));
+}
+
 }  // namespace
 }  // namespace ztk::test

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <filesystem>
+
 #include "cli_world.h"
 
 namespace ztk::test {
@@ -148,6 +150,23 @@ TEST_F(Versions, ShowsWhatIs) {
                     {"-n", "0"}, "ztk versions");
   if (result.status == kCannotPlant) GTEST_SKIP() << "no mount namespace here";
   EXPECT_THAT(result.out, StartsWith("Package  2.0.1\nDriver   not"));
+}
+
+// Another file than one that is missing: it may hold settings.
+TEST_F(Status, NamesAFileThatCannotBeRead) {
+  std::filesystem::create_directories(home_.SettingsFile("VRM-D6"));
+  const Result result = NoMixer(
+      "ztk status; ztk boost get; ztk boost apply; echo $?; ztk apply;"
+      "echo $?");
+  EXPECT_THAT(result.out, HasSubstr("What is remembered cannot be read\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("(default; the file cannot be read)\n5\n5"));
+  const std::string file = home_.SettingsFile("VRM-D6").string();
+  const std::vector<std::string> lines = SplitLines(result.err);
+  ASSERT_EQ(lines.size(), 4U);
+  for (const std::string &line : lines) {
+    EXPECT_THAT(line, HasSubstr("cannot read " + file + ": "));
+  }
 }
 
 }  // namespace

@@ -214,5 +214,66 @@ TEST_F(Undo, GoesBackAHundredStepsAndNoFurther) {
   EXPECT_LE(SplitLines(ReadAll(History())).size(), 100U);
 }
 
+// A second program may be stopped while it holds the lock.
+TEST_F(Undo, NamesTheProcessThatHoldsTheLockAndDoesNothing) {
+  const Result result = OneMixer(
+      "ztk boost set 1 > /dev/null 2>&1\n"
+      "exec 9<> $HOME/.local/state/tarvix/ztk.lock; flock 9\n"
+      "echo 4711 > $HOME/.local/state/tarvix/ztk.lock\n"
+      "ztk boost set 2 9>&-; echo $?");
+  EXPECT_EQ(LastLine(result.out), "5");
+  EXPECT_THAT(result.err,
+              HasSubstr("ztk: nothing was done: another ztk, process 4711, is "
+                        "at work"));
+  EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")),
+              HasSubstr("<integer>0</integer>"));
+  EXPECT_EQ(Writes().size(), 1U);
+}
+
+// Root may read every file: a link and a folder cannot be read by anybody.
+TEST_F(Undo, NeverReplacesAHistoryThatCannotBeRead) {
+  const std::filesystem::path folder = home_.path() / ".local/state/tarvix";
+  std::filesystem::create_directories(folder);
+  WriteAll(home_.path() / "other", "other\n");
+  std::filesystem::create_symlink(home_.path() / "other", History());
+  const Result result = OneMixer("ztk boost set 2; echo $?; ztk undo; echo $?");
+  EXPECT_EQ(Line(result.out, 1), "0");
+  EXPECT_EQ(Line(result.out, 2), "5");
+  EXPECT_THAT(Line(result.err, 0),
+              HasSubstr("ztk undo will not know of this: " +
+                        History().string() + ": it is a symbolic link"));
+  EXPECT_THAT(Line(result.err, 1), HasSubstr("nothing can be undone: "));
+  EXPECT_TRUE(std::filesystem::is_symlink(History()));
+  EXPECT_EQ(File("other"), "other\n");
+}
+
+TEST_F(Undo, KeepsItsStepsWhenASettingsFileCannotBeRead) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  OneMixer("ztk boost set 2");
+  const std::string history = ReadAll(History());
+  std::filesystem::remove(home_.SettingsFile("VRM-D6"));
+  std::filesystem::create_directory(home_.SettingsFile("VRM-D6"));
+  const Result result = OneMixer("ztk undo; echo $?");
+  EXPECT_EQ(result.out, "5\n");
+  EXPECT_THAT(result.err, HasSubstr("nothing can be undone: cannot read " +
+                                    home_.SettingsFile("VRM-D6").string()));
+  EXPECT_EQ(ReadAll(History()), history);
+}
+
+TEST_F(Undo, DoesNotOpenALockThatIsALinkOrAPipe) {
+  const std::filesystem::path folder = home_.path() / ".local/state/tarvix";
+  std::filesystem::create_directories(folder);
+  WriteAll(home_.path() / "other", "other\n");
+  std::filesystem::create_symlink(home_.path() / "other", folder / "ztk.lock");
+  EXPECT_THAT(OneMixer("ztk boost set 2").err,
+              HasSubstr("ztk.lock: it is a symbolic link"));
+  EXPECT_EQ(File("other"), "other\n");
+  std::filesystem::remove(folder / "ztk.lock");
+  EXPECT_THAT(OneMixer("mkfifo $HOME/.local/state/tarvix/ztk.lock;"
+                       "ztk boost set 2")
+                  .err,
+              HasSubstr("ztk.lock: it is not a regular file"));
+}
+
 }  // namespace
 }  // namespace ztk::test

@@ -28,8 +28,9 @@ std::optional<std::uint32_t> ParseDecimalOrHex(std::string_view word);
 // Hexadecimal digits and nothing else.
 std::optional<std::uint32_t> ParseHex(std::string_view word);
 
-// Replaces control characters by spaces. Text of the library and of the user is
-// shown in a terminal only after this.
+// Replaces control characters and characters that change the direction of text
+// by spaces, and bytes that are not UTF-8 by U+FFFD. Text of the library and of
+// the user is shown in a terminal only after this.
 std::string OneLine(const std::string &text);
 
 // A word in quotation marks, on one line, cut when it is long.

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/paths.h"
 
-#include <pwd.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <cerrno>
-#include <cstdlib>
 #include <new>
 #include <string>
-#include <vector>
 
+#include "platform/common/file_access.h"
+#include "platform/common/user_home.h"
 #include "platform/text.h"
 
 namespace ztk::platform::paths {
@@ -23,35 +20,11 @@ bool IsFolder(const std::string &path) {
   return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-// The environment's value, or nothing unless it is an absolute path: a
-// relative one would put the settings wherever the program happens to run.
-std::string AbsoluteFromEnvironment(const char *name) {
-  const char *value = std::getenv(name);
-  return value != nullptr && value[0] == '/' ? value : "";
-}
-
-// Home of the user as the password database has it; empty without an entry.
-std::string HomeFromPasswordDatabase() {
-  constexpr std::size_t kLargestEntry = std::size_t{1} << 20;
-  for (std::size_t size = 1024; size <= kLargestEntry; size *= 2) {
-    std::vector<char> buffer(size);
-    struct passwd entry = {};
-    struct passwd *found = nullptr;
-    const int error =
-        getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found);
-    if (error == ERANGE) continue;
-    if (error != 0 || found == nullptr || found->pw_dir == nullptr) return "";
-    return found->pw_dir[0] == '/' ? found->pw_dir : "";
-  }
-  return "";
-}
-
 }  // namespace
 
 ZTKTextRef UserLibrary() try {
-  std::string home = AbsoluteFromEnvironment("HOME");
-  if (home.empty()) home = HomeFromPasswordDatabase();
-  std::string config = AbsoluteFromEnvironment("XDG_CONFIG_HOME");
+  const std::string home = UserHome();
+  std::string config = AbsolutePathFromEnvironment("XDG_CONFIG_HOME");
   if (config.empty() && !home.empty()) config = home + "/.config";
   if (config.empty()) return nullptr;
 

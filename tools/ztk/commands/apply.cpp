@@ -7,6 +7,7 @@
 #include "ztk/commands/setting_commands.h"
 #include "ztk/commands/setting_parts.h"
 #include "ztk/model/products.h"
+#include "ztk/model/remembered.h"
 #include "ztk/model/resend.h"
 #include "ztk/progress.h"
 #include "ztk/report/change_report.h"
@@ -127,6 +128,13 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
   return report;
 }
 
+// Nothing can be sent that cannot be read.
+void RequireReadable(const Setting &setting) {
+  const std::string why = WhyUnreadable(setting);
+  if (why.empty()) return;
+  throw Failure(ExitCode::Failed, "nothing was sent: cannot read " + why);
+}
+
 }  // namespace
 
 Report ApplySetting(const Setting &setting, const Arguments &arguments) {
@@ -139,6 +147,7 @@ Report ApplySetting(const Setting &setting, const Arguments &arguments) {
                   "nothing is remembered for the " + ProductName(product) +
                       ": " + Belonging(setting) + " Leave --product out");
   }
+  RequireReadable(setting);
   return Apply(StoredValues(setting, channels),
                channels.size() == 1 ? PlaceName(setting, channels.front())
                                     : setting.title,
@@ -161,6 +170,7 @@ Report ApplyAll(const Arguments &arguments) {
       continue;
     }
     known = true;
+    RequireReadable(*setting);
     for (const StoredValue &value :
          StoredValues(*setting, ChannelsFor(*setting, {}))) {
       settings.push_back(value);

@@ -23,10 +23,11 @@ void AddFinding(const char *part, const Finding &finding, Report *report) {
        {"cause", finding.cause},
        {"command", finding.command}});
   report->text += cli::Padded(part, kColumn) +
-                  (finding.isNote ? "note: " : "") + finding.what + "\n" +
-                  cli::Padded("", kColumn) + "cause: " + finding.cause + "\n" +
-                  cli::kWhole + cli::Padded("", kColumn) +
-                  "type:  " + finding.command + "\n";
+                  (finding.isNote ? "note: " : "") +
+                  cli::OneLine(finding.what) + "\n" + cli::Padded("", kColumn) +
+                  "cause: " + cli::OneLine(finding.cause) + "\n" + cli::kWhole +
+                  cli::Padded("", kColumn) +
+                  "type:  " + cli::OneLine(finding.command) + "\n";
 }
 
 void AddMixerReport(const std::string &file, Report *report) {

@@ -6,7 +6,11 @@ namespace ztk::program {
 
 Report Export(const Arguments & /*arguments*/) {
   Report report;
-  const auto [text, leftOut] = ExportSettings();
+  const auto [text, leftOut, unreadable] = ExportSettings();
+  if (!unreadable.empty()) {
+    throw Failure(ExitCode::Failed,
+                  "nothing is exported: cannot read " + unreadable.front());
+  }
   report.text = text;
   report.fields = Json::parse(text);
   for (const std::string &value : leftOut) {

@@ -13,6 +13,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
   AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
   report.text = Belonging(setting) + "\n";
+  const std::string why = WarnOfUnreadable(setting, &report);
   for (const std::uint32_t channel : ChannelsFor(setting, arguments)) {
     const auto index = CurrentIndex(setting, product, channel);
     if (!index) {
@@ -27,7 +28,9 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
     report.fields["channels"].push_back(std::move(fields));
     report.text += PlaceName(setting, channel) + "  " +
                    DescribedValue(setting, channel, *index) +
-                   (remembered ? "\n" : " (default; nothing remembered)\n");
+                   (remembered    ? "\n"
+                    : why.empty() ? " (default; nothing remembered)\n"
+                                  : " (default; the file cannot be read)\n");
   }
   return report;
 }

@@ -55,6 +55,7 @@ Report ListChoices(const Setting &setting, const Arguments &arguments) {
   AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
   report.text = Belonging(setting) + " * marks the current choice.\n";
+  WarnOfUnreadable(setting, &report);
   for (const std::uint32_t channel : ChannelsFor(setting, arguments)) {
     AddChoiceList(setting, product, channel, &report);
   }

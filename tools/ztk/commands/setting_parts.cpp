@@ -5,6 +5,7 @@
 #include "cli/suggest.h"
 #include "ztk/commands/pick.h"
 #include "ztk/model/products.h"
+#include "ztk/model/remembered.h"
 
 namespace ztk::program {
 
@@ -77,6 +78,12 @@ void AddSettingNames(const Setting &setting, std::uint32_t product,
   report->fields["setting"] = setting.name;
   report->fields["model"] = ModelName(setting);
   report->fields["product"] = ProductName(product);
+}
+
+std::string WarnOfUnreadable(const Setting &setting, Report *report) {
+  std::string why = WhyUnreadable(setting);
+  if (!why.empty()) report->warnings.push_back("cannot read " + why);
+  return why;
 }
 
 DeliveryTexts NeverRemembered(const std::string &what,

@@ -52,6 +52,10 @@ void CheckServed(const Setting &setting, std::uint32_t product,
 void AddSettingNames(const Setting &setting, std::uint32_t product,
                      Report *report);
 
+// Adds a warning where the settings file cannot be read. Answers the file and
+// the reason, or nothing.
+std::string WarnOfUnreadable(const Setting &setting, Report *report);
+
 // The sentences for something that is sent and never remembered.
 DeliveryTexts NeverRemembered(const std::string &what,
                               const std::string &command);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <array>
 #include <cstdio>
+#include <set>
 
 #include "api/status.h"
 #include "cli/strings.h"
@@ -215,7 +216,12 @@ void AddRemembered(Report *report) {
   SettingsSnapshot settings;
   Json list = Json::array();
   std::string text;
+  std::set<std::string> unreadable;
   for (const Setting *setting : AllSettings()) {
+    const std::string &why = settings.WhyUnreadable(*setting);
+    if (!why.empty() && unreadable.insert(why).second) {
+      report->warnings.push_back("cannot read " + why);
+    }
     for (std::uint32_t channel = 0; channel < ChannelsToWalk(*setting);
          ++channel) {
       const auto index = settings.Remembered(*setting, channel);
@@ -229,8 +235,13 @@ void AddRemembered(Report *report) {
     }
   }
   report->fields["remembered"] = std::move(list);
-  report->text +=
-      text.empty() ? "Nothing is remembered\n" : "Remembered\n" + text;
+  if (!text.empty()) {
+    report->text += "Remembered\n" + text;
+  } else if (unreadable.empty()) {
+    report->text += "Nothing is remembered\n";
+  } else {
+    report->text += "What is remembered cannot be read\n";
+  }
 }
 
 }  // namespace

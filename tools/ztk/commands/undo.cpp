@@ -201,8 +201,15 @@ Report Undo(const Arguments &arguments) {
     throw Failure(ExitCode::Failed,
                   "nothing can be undone: " + history.reason());
   }
-  // A step that came to nothing, because it was interrupted.
-  while (!history.steps().empty() && IsVoid(history.steps().back())) {
+  while (!history.steps().empty()) {
+    const Step &last = history.steps().back();
+    const std::string why = WhyUnreadable(last);
+    if (!why.empty()) {
+      throw Failure(ExitCode::Failed,
+                    "nothing can be undone: cannot read " + why);
+    }
+    // A step that came to nothing, because it was interrupted.
+    if (!IsVoid(last)) break;
     history.DropLast();
   }
   Report report;

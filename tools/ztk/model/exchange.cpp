@@ -207,6 +207,8 @@ ExportedSettings ExportSettings() {
   Json settings = Json::object();
   SettingsSnapshot remembered;
   for (const Setting *setting : AllSettings()) {
+    const std::string &why = remembered.WhyUnreadable(*setting);
+    if (!why.empty()) result.unreadable.push_back(why);
     for (std::uint32_t channel = 0; channel < ChannelsToWalk(*setting);
          ++channel) {
       const auto index = remembered.Remembered(*setting, channel);

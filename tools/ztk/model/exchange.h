@@ -17,6 +17,9 @@ struct ExportedSettings {
   // Remembered numbers that are no choice, so that no text stands for them:
   // "USB input 2: 77, which is not a choice".
   std::vector<std::string> leftOut;
+  // Files that could not be read, with the reason: their settings are missing
+  // in the text.
+  std::vector<std::string> unreadable;
 };
 ExportedSettings ExportSettings();
 

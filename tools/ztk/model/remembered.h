@@ -21,16 +21,23 @@ class SettingsSnapshot {
   std::optional<std::uint32_t> Remembered(const Setting &setting,
                                           std::uint32_t channel);
 
+  // The file of the setting and why it cannot be read, as a part of a sentence.
+  // Empty where the file was read, and where there is none.
+  const std::string &WhyUnreadable(const Setting &setting);
+
  private:
   struct Releaser {
     void operator()(platform::property_list::Dictionary *dictionary) const {
       platform::property_list::Release(dictionary);
     }
   };
-  using File = std::unique_ptr<platform::property_list::Dictionary, Releaser>;
+  struct File {
+    // Null for a file that was not read.
+    std::unique_ptr<platform::property_list::Dictionary, Releaser> entries;
+    std::string whyUnreadable;
+  };
 
-  // Null when there is none.
-  const platform::property_list::Dictionary *FileOf(const Setting &setting);
+  const File &FileOf(const Setting &setting);
 
   std::map<std::string, File> files_;  // by model
 };
@@ -38,6 +45,9 @@ class SettingsSnapshot {
 // What is remembered now.
 std::optional<std::uint32_t> Remembered(const Setting &setting,
                                         std::uint32_t channel);
+
+// Why it cannot be read now: see SettingsSnapshot.
+std::string WhyUnreadable(const Setting &setting);
 
 }  // namespace ztk::model
 

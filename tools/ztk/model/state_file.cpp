@@ -2,45 +2,26 @@
 #include "ztk/model/state_file.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
 #include <cstring>
-#include <thread>
 
-#include "platform/common/descriptor.h"
+#include "platform/common/file_access.h"
+#include "platform/common/file_change.h"
+#include "platform/common/owner_identity.h"
 #include "platform/common/replace_file.h"
+#include "platform/common/user_home.h"
 
 namespace ztk::model {
 
 namespace {
 
-using std::chrono::milliseconds;
-using std::chrono::seconds;
-using std::chrono::steady_clock;
-
-constexpr seconds kLongestWait{5};
-constexpr milliseconds kPause{5};
+constexpr std::chrono::milliseconds kLongestWait{5000};
 constexpr std::size_t kLargest = std::size_t{1} << 20;  // bytes
-
-std::string AbsoluteVariable(const char *name) {
-  const char *value = std::getenv(name);
-  return value != nullptr && value[0] == '/' ? value : "";
-}
-
-// All but the first; what fails shows when a file is made.
-void MakeFolders(const std::string &path) {
-  for (std::size_t slash = path.find('/', 1); slash != std::string::npos;
-       slash = path.find('/', slash + 1)) {
-    mkdir(path.substr(0, slash).c_str(), 0700);
-  }
-  mkdir(path.c_str(), 0700);
-}
 
 bool IsRegularFile(int file) {
   struct stat status {};
@@ -48,8 +29,16 @@ bool IsRegularFile(int file) {
 }
 
 std::string ErrorText(const std::string &path, int error) {
-  return path + ": " +
-         (error == ELOOP ? "it is a symbolic link" : std::strerror(error));
+  switch (error) {
+    case ELOOP:
+      return path + ": it is a symbolic link";
+    case EINVAL:
+      return path + ": it is not a regular file";
+    case EFBIG:
+      return path + ": it is larger than 1 MiB";
+    default:
+      return path + ": " + std::strerror(error);
+  }
 }
 
 // The process that holds the lock has written its number into the file.
@@ -78,9 +67,9 @@ void WriteProcessNumber(int file) {
 }  // namespace
 
 std::string StateFolder() {
-  std::string state = AbsoluteVariable("XDG_STATE_HOME");
+  std::string state = platform::AbsolutePathFromEnvironment("XDG_STATE_HOME");
   if (state.empty()) {
-    const std::string home = AbsoluteVariable("HOME");
+    const std::string home = platform::UserHome();
     if (home.empty()) return "";
     state = home + "/.local/state";
   }
@@ -89,11 +78,17 @@ std::string StateFolder() {
 
 StateLock::StateLock(const std::string &folder) {
   if (folder.empty()) {
-    reason_ = "HOME is not set";
+    reason_ = "you have no home folder";
     return;
   }
-  MakeFolders(folder);
   const std::string path = folder + "/ztk.lock";
+  // Root makes the file as the user to whom the folder belongs.
+  const platform::OwnerIdentity identity(path);
+  if (!identity.good()) {
+    reason_ = path + ": the system does not let root act as its owner";
+    return;
+  }
+  platform::MakeFolders(path, platform::kMaxMissingFolders);
   Open(path);
   if (file_ >= 0) Wait(path);
 }
@@ -116,45 +111,31 @@ void StateLock::Open(const std::string &path) {
 }
 
 void StateLock::Wait(const std::string &path) {
-  const auto end = steady_clock::now() + kLongestWait;
-  while (flock(file_, LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK && errno != EINTR) {
-      reason_ = ErrorText(path, errno);
-      return;
-    }
-    if (steady_clock::now() >= end) {
-      result_ = Result::Busy;
-      reason_ = OtherProcess(file_) +
-                " is at work and has not finished within " +
-                std::to_string(kLongestWait.count()) + " s";
-      return;
-    }
-    std::this_thread::sleep_for(kPause);
+  if (platform::LockExclusively(file_, kLongestWait)) {
+    result_ = Result::Held;
+    WriteProcessNumber(file_);
+  } else if (errno == EWOULDBLOCK) {
+    result_ = Result::Busy;
+    reason_ =
+        OtherProcess(file_) + " is at work and has not finished within 5 s";
+  } else {
+    reason_ = ErrorText(path, errno);
   }
-  result_ = Result::Held;
-  WriteProcessNumber(file_);
 }
 
 StateFileContent ReadStateFile(const std::string &path) {
+  const platform::OwnerIdentity identity(path);
   StateFileContent content;
-  const platform::Descriptor file(
-      open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW));
-  if (!file.valid()) {
-    if (errno != ENOENT) content.reason = ErrorText(path, errno);
-    return content;
+  const int error = identity.good()
+                        ? platform::ReadRegularFile(path.c_str(), kLargest,
+                                                    &content.text, O_NOFOLLOW)
+                        : EPERM;
+  if (error == 0) return content;
+  content.text.clear();
+  if (error != ENOENT && error != ENOTDIR) {
+    content.reason = ErrorText(path, error);
   }
-  if (!IsRegularFile(file.get())) {
-    return {.text = {}, .reason = path + ": it is not a regular file"};
-  }
-  std::array<char, 4096> part{};
-  while (content.text.size() <= kLargest) {
-    const ssize_t length = read(file.get(), part.data(), part.size());
-    if (length == 0) return content;
-    if (length < 0 && errno == EINTR) continue;
-    if (length < 0) return {.text = {}, .reason = ErrorText(path, errno)};
-    content.text.append(part.data(), static_cast<std::size_t>(length));
-  }
-  return {.text = {}, .reason = path + ": it is larger than 1 MiB"};
+  return content;
 }
 
 bool ReplaceStateFile(const std::string &path, const std::string &text,

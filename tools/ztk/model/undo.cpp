@@ -22,6 +22,14 @@ std::uint32_t FormerIndex(const PastChange &change) {
   return change.before.value_or(change.setting->defaultIndex(change.channel));
 }
 
+std::string WhyUnreadable(const Step &step) {
+  for (const PastChange &change : step.changes) {
+    std::string why = WhyUnreadable(*change.setting);
+    if (!why.empty()) return why;
+  }
+  return "";
+}
+
 std::vector<UndoItem> PlanUndo(const Step &step) {
   std::vector<UndoItem> items;
   for (auto change = step.changes.rbegin(); change != step.changes.rend();

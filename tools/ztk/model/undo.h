@@ -5,6 +5,7 @@
 #define ZTK_TOOLS_ZTK_MODEL_UNDO_H_
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "ztk/model/history.h"
@@ -24,6 +25,10 @@ struct UndoItem {
 // The value before the change. The library cannot remove a setting from its
 // file: where nothing was remembered, this is the default.
 std::uint32_t FormerIndex(const PastChange &change);
+
+// The settings file of the step that cannot be read, and why; empty where all
+// can be. Without it nothing is known of what is in effect.
+std::string WhyUnreadable(const Step &step);
 
 // The last change first.
 std::vector<UndoItem> PlanUndo(const Step &step);

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdio>
 
+#include "cli/strings.h"
+
 namespace ztk::program {
 
 namespace {
@@ -54,7 +56,8 @@ void AddWrites(const Plan &plan, Report *report) {
     const std::string after =
         std::to_string(static_cast<std::int32_t>(change.index));
     report->text +=
-        "  file  " + write.file + "\n        " + write.key + ": " +
+        "  file  " + cli::OneLine(write.file) + "\n        " + write.key +
+        ": " +
         (before == after ? after + ", unchanged" : before + " -> " + after) +
         " (" + DescribedValue(*change.setting, change.channel, change.index) +
         ")\n";

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/user_manager.h"
 
-#include <stdexcept>
-
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <stdexcept>
 
 #include "cli/strings.h"
 #include "platform/linux/bus_connection.h"
@@ -16,9 +15,9 @@ namespace {
 
 namespace center = platform::notification_center;
 
-// The bus is started by the first who asks, and systemd reads all its units
-// anew: more than the library waits for a bus, in microseconds.
-constexpr std::uint64_t kPatience = 10'000'000;
+// For all calls of a command together, in microseconds: a bus that does not
+// answer must not hold up the user for longer.
+constexpr std::uint64_t kPatience = 5'000'000;
 
 constexpr char kService[] = "org.freedesktop.systemd1";
 constexpr char kObject[] = "/org/freedesktop/systemd1";
@@ -61,11 +60,15 @@ class Answer {
 }  // namespace
 
 struct UserManager::Connection {
-  center::OwnedBus bus = center::ConnectToSessionBus(center::Now() + kPatience);
+  const std::uint64_t deadline = center::Now() + kPatience;
+  center::OwnedBus bus = center::ConnectToSessionBus(deadline);
 
   template <typename... Arguments>
   int Call(const char *method, Answer *answer, const char *types,
            Arguments... arguments) const {
+    const std::uint64_t now = center::Now();
+    if (now >= deadline) return -ETIMEDOUT;
+    center::sd_bus_set_method_call_timeout(bus.get(), deadline - now);
     return center::sd_bus_call_method(bus.get(), kService, kObject, kInterface,
                                       method, answer->error(),
                                       answer->message(), types, arguments...);
@@ -81,7 +84,6 @@ struct UserManager::Connection {
 
 UserManager::UserManager() : connection_(std::make_unique<Connection>()) {
   if (connection_->bus == nullptr) Refuse("there is no session message bus");
-  center::sd_bus_set_method_call_timeout(connection_->bus.get(), kPatience);
 }
 
 UserManager::~UserManager() = default;

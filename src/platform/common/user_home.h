@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_PLATFORM_COMMON_USER_HOME_H_
+#define ZTK_PLATFORM_COMMON_USER_HOME_H_
+
+#include <string>
+
+namespace ztk::platform {
+
+// The home folder of the user: HOME if it is an absolute path, else the one in
+// the password database. Empty where there is none.
+std::string UserHome();
+
+}  // namespace ztk::platform
+
+#endif  // ZTK_PLATFORM_COMMON_USER_HOME_H_
