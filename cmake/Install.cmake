@@ -8,6 +8,7 @@
 #   development    headers, their manual page, the CMake package, the .pc file
 #   runtime        ztk and its files (installed by tools/); the default component
 #   virtual-mixer  ztk-virtual-mixer and its files
+#   python         the Python package, where ZTK_PYTHON_DIR names a folder
 #   documents      README, docs/, changelog and licence
 include(CMakePackageConfigHelpers)
 
@@ -105,3 +106,15 @@ install(FILES
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs
   DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents
   FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.json)
+
+# The folder from which Python loads packages depends on the distribution.
+set(ZTK_PYTHON_DIR "" CACHE STRING
+    "Folder for the Python package, such as lib/python3/dist-packages; empty: none")
+if(ZTK_PYTHON_DIR)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/bindings/python/ztkfunc
+    DESTINATION ${ZTK_PYTHON_DIR} COMPONENT python
+    PATTERN __pycache__ EXCLUDE)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/bindings/python/examples
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/python3-ztkfunc COMPONENT python
+    USE_SOURCE_PERMISSIONS PATTERN __pycache__ EXCLUDE)
+endif()

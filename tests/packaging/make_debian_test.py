@@ -144,8 +144,8 @@ License: Expat
 
     def test_what_to_build_with_is_the_projects_list(self):
         control = self.made("control")
-        self.assertIn("Build-Depends:\n debhelper-compat (= 13),\n doxygen,\n"
-                      " apt,\n"
+        self.assertIn("Build-Depends:\n debhelper-compat (= 13),\n"
+                      " doxygen,\n dh-python,\n python3,\n apt,\n"
                       " cmake\nStandards", control)
         self.assertFalse((self.target / "debian/control.in").exists())
 

@@ -1,0 +1,126 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Switches between saved settings at a key or at a MIDI note.
+
+Usage: scene_switcher.py [--midi DEVICE] KEY=FILE...
+
+Each FILE is a file that ``ztk export`` has written. With --midi, KEY is the
+number of a MIDI note, 0 to 127, and DEVICE is the raw MIDI device of a
+controller, such as /dev/snd/midiC1D0. Without it, KEY is a word to type,
+followed by Enter.
+
+    ztk export > club.json
+    scene_switcher.py 1=club.json 2=home.json
+    scene_switcher.py --midi /dev/snd/midiC1D0 60=club.json 62=home.json
+
+Ends at the end of its input.
+"""
+from __future__ import annotations
+
+import argparse
+import json
+import sys
+import warnings
+from collections.abc import Iterator
+from typing import BinaryIO, TextIO
+
+import ztkfunc
+
+Scene = dict[str, dict[str, object]]
+
+
+def load(path: str) -> Scene:
+    """Reads a file of ``ztk export``; raises ValueError if it is not one."""
+    with open(path, encoding="utf-8") as file:
+        data = json.load(file)
+    if not isinstance(data, dict) or data.get("version") != 1:
+        raise ValueError(f"{path} is not a file that ztk export has written")
+    settings = data.get("settings")
+    if not isinstance(settings, dict):
+        raise ValueError(f'{path} has no "settings"')
+    return settings
+
+
+def apply(scene: Scene) -> None:
+    """Sets everything that the scene holds, model by model."""
+    for model, settings in scene.items():
+        mixer = ztkfunc.Mixer(model)
+        for name, value in settings.items():
+            if isinstance(value, dict):
+                channels = getattr(mixer, name)
+                for channel, choice in value.items():
+                    channels[int(channel)] = choice
+            else:
+                setattr(mixer, name, value)
+
+
+def notes(device: BinaryIO) -> Iterator[int]:
+    """The numbers of the notes that are struck, from a stream of MIDI bytes."""
+    status = 0
+    data: list[int] = []
+    while byte := device.read(1):
+        value = byte[0]
+        if value >= 0xF8:  # real-time messages may stand anywhere
+            continue
+        if value & 0x80:
+            status, data = value, []
+            continue
+        data.append(value)
+        if len(data) == 2:
+            # A note-on with velocity 0 ends a note. The status byte may be left
+            # out of the messages that follow (running status).
+            if status & 0xF0 == 0x90 and data[1] > 0:
+                yield data[0]
+            data = []
+
+
+def keys(stream: TextIO) -> Iterator[str]:
+    """The words that are typed, one on each line."""
+    for line in stream:
+        if line.strip():
+            yield line.strip()
+
+
+def show_warning(message: Warning | str, *_rest: object, **_more: object) -> None:
+    print(f"  {message}", file=sys.stderr)
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=(__doc__ or "").split("\n")[0])
+    parser.add_argument("--midi", metavar="DEVICE", help="raw MIDI device to read")
+    parser.add_argument("scenes", metavar="KEY=FILE", nargs="+")
+    options = parser.parse_args()
+    scenes: dict[str, Scene] = {}
+    for argument in options.scenes:
+        key, separator, path = argument.partition("=")
+        if not separator:
+            parser.error(f"{argument!r} is not KEY=FILE")
+        try:
+            scenes[key] = load(path)
+        except (OSError, ValueError) as error:
+            parser.error(str(error))
+    warnings.showwarning = show_warning
+    warnings.simplefilter("always")
+
+    pressed: Iterator[str]
+    if options.midi:
+        pressed = (str(note) for note in notes(open(options.midi, "rb", buffering=0)))
+    else:
+        pressed = keys(sys.stdin)
+    for key in pressed:
+        scene = scenes.get(key)
+        if scene is None:
+            if not options.midi:
+                print(f"no scene {key!r}; there are: {', '.join(scenes)}")
+            continue
+        try:
+            apply(scene)
+        except (ztkfunc.Rejected, ValueError, KeyError, AttributeError) as error:
+            print(f"scene {key}: {error}", file=sys.stderr)
+            continue
+        print(f"scene {key} is set", flush=True)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

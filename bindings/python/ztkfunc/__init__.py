@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: MIT
+"""Settings of the USB DJ mixer VRM-D6 and its sister models.
+
+    import ztkfunc
+
+    mixer = ztkfunc.Mixer()
+    mixer.input[2] = "Post CH2 Fader"
+
+The package calls the installed shared library ZTKFunc. :mod:`ztkfunc.mixer` has
+the settings as objects, :mod:`ztkfunc.changes` tells of changes as they happen,
+:mod:`ztkfunc.outcome` says what the last call did, and
+:mod:`ztkfunc.functions` has the functions of the C headers as they are.
+"""
+from ._library import LibraryMissingError
+from ._version import VERSION as __version__
+from .changes import Change, Changes, Subscription, changes, subscribe, use_glib_main_loop
+from .mixer import (
+    ChannelSetting,
+    Inaudible,
+    Mixer,
+    NotSent,
+    NotStored,
+    Rejected,
+    Selectors,
+    warning_text,
+)
+from .outcome import Outcome, last_outcome
+
+__all__ = [
+    "Change",
+    "Changes",
+    "ChannelSetting",
+    "Inaudible",
+    "LibraryMissingError",
+    "Mixer",
+    "NotSent",
+    "NotStored",
+    "Outcome",
+    "Rejected",
+    "Selectors",
+    "Subscription",
+    "__version__",
+    "changes",
+    "last_outcome",
+    "subscribe",
+    "use_glib_main_loop",
+    "warning_text",
+]

@@ -1,0 +1,398 @@
+# SPDX-License-Identifier: MIT
+"""The settings as objects: channels and choices count from 1, as ``ztk`` has them.
+
+    mixer = Mixer()
+    mixer.input[2] = "Post CH2 Fader"
+    mixer.boost = "-10 dB"
+
+A setting reaches every attached mixer, is stored for the user and announced to
+every program of the session. What is refused raises :class:`Rejected` or
+:class:`ValueError`, and nothing is sent. What was set but did not arrive
+everywhere is a warning of Python's :mod:`warnings`:
+
+- :class:`NotSent`: not every attached mixer has taken the value, or none is
+  attached. The value is stored; :meth:`Mixer.apply` sends it again.
+- :class:`NotStored`: the settings file does not hold the value.
+- :class:`Inaudible`: the input selector of the channel makes the routing silent.
+
+``warnings.simplefilter("error", ztkfunc.NotSent)`` makes an exception of one.
+"""
+from __future__ import annotations
+
+import warnings
+from collections.abc import Callable, Iterator, Mapping, MutableMapping
+
+from . import functions
+from .outcome import Outcome, last_outcome
+
+_MODEL_NAMES = {
+    0: "VRM-Q8X",
+    1: "VRM-K2",
+    2: "VRM-Q8S",
+    3: "VRC-H7",
+    4: "VRM-Q9",
+    5: "VRM-L4",
+    6: "VRM-E3",
+    8: "VRM-B5",
+    10: "VRM-D6",
+}
+_USERS_OWN_LANGUAGE = 99
+# A position that no mixer can report, to see that nothing was reported.
+_NO_POSITION = 0xFFFFFFFF
+
+
+class Rejected(Exception):
+    """The library refused the call: the model does not have the setting, or a
+    stored value is not one that can be sent. Nothing was sent."""
+
+
+class NotSent(UserWarning):
+    """Not every attached mixer has taken the value, or no mixer is attached."""
+
+
+class NotStored(UserWarning):
+    """The settings file does not hold the value that was sent."""
+
+
+class Inaudible(UserWarning):
+    """The input selector of the channel makes the new routing silent."""
+
+
+def _folded(text: str) -> str:
+    return "".join(text.split()).casefold()
+
+
+def _index_of(choice: str | int, choices: tuple[str, ...], place: str) -> int:
+    """Finds a choice by its text or by its number from 1."""
+    accepted = ", ".join(f"{n} {text}" for n, text in enumerate(choices, 1))
+    if isinstance(choice, bool) or not isinstance(choice, (str, int)):
+        raise TypeError(f"{place} takes a text or a number; accepted: {accepted}")
+    if isinstance(choice, int):
+        if 1 <= choice <= len(choices):
+            return choice - 1
+    else:
+        for index, text in enumerate(choices):
+            if _folded(text) == _folded(choice):
+                return index
+    raise ValueError(f"{choice!r} is not a choice of {place}; accepted: {accepted}")
+
+
+def _warn(text: str, category: type[Warning]) -> None:
+    # The line that assigned the value: this function, its caller, the setting,
+    # the property or item.
+    warnings.warn(text, category, stacklevel=5)
+
+
+def _report(place: str, outcome: Outcome, stores: bool) -> None:
+    """Warns of what the last call did not do."""
+    if outcome.mixers_found == 0:
+        _warn(f"{place}: no mixer is attached", NotSent)
+    else:
+        failed = [mixer for mixer in outcome.mixers if not mixer.accepted]
+        if failed:
+            reasons = "; ".join(mixer.describe() for mixer in failed)
+            _warn(f"{place}: {reasons}", NotSent)
+    if stores and not outcome.stored:
+        _warn(f"{place}: {outcome.store.describe()}", NotStored)
+
+
+class ChannelSetting(MutableMapping[int, "str | None"]):
+    """A setting with channels: a mapping from the channel, from 1, to a text.
+
+    Reading gives the stored choice, or the default if none is stored; None if
+    the settings file holds a number that is no choice. Assigning takes a text
+    or the number of a choice, from 1, and sends it to every mixer.
+    """
+
+    def __init__(
+        self,
+        title: str,
+        model: int,
+        channels: int,
+        count: Callable[[int, int], tuple[int, int | None]],
+        text: Callable[[int, int, int], tuple[int, str | None]],
+        current: Callable[[int, int], tuple[int, int | None]],
+        assign: Callable[[int, int, int], int],
+        apply: Callable[[int, int], int],
+    ) -> None:
+        self._title = title
+        self._model = model
+        self._channels = channels
+        self._count = count
+        self._text = text
+        self._current = current
+        self._assign = assign
+        self._apply = apply
+
+    def _check(self, channel: int) -> int:
+        if isinstance(channel, bool) or not isinstance(channel, int):
+            raise TypeError(f"a channel of {self._title} is a number, not {channel!r}")
+        if not 1 <= channel <= self._channels:
+            raise KeyError(
+                f"{self._title} has no channel {channel}; accepted: 1 to {self._channels}"
+            )
+        return channel - 1
+
+    def choices(self, channel: int) -> tuple[str, ...]:
+        """The texts of the choices of a channel, in the order of their numbers."""
+        number = self._check(channel)
+        count = self._count(self._model, number)[1]
+        assert count is not None
+        texts = (self._text(self._model, number, index)[1] for index in range(count))
+        return tuple(text for text in texts if text is not None)
+
+    def __getitem__(self, channel: int) -> str | None:
+        number = self._check(channel)
+        index = self._current(self._model, number)[1]
+        choices = self.choices(channel)
+        if index is None or index >= len(choices):
+            return None
+        return choices[index]
+
+    def __setitem__(self, channel: int, choice: str | int | None) -> None:
+        number = self._check(channel)
+        place = f"{self._title} {channel}"
+        if choice is None:
+            raise TypeError(f"{place} cannot be set to None")
+        index = _index_of(choice, self.choices(channel), place)
+        result = self._assign(self._model, number, index)
+        outcome = last_outcome()
+        if result == functions.ZTK_REJECTED:
+            raise Rejected(f"{place}: the library refused index {index}")
+        _report(place, outcome, stores=True)
+        # USB channel 5 has no input selector: its warning tells nothing.
+        if (
+            result == functions.ZTK_WARNING
+            and outcome.mixers_found > 0
+            and channel in Selectors()
+        ):
+            sentence = warning_text(channel) or "the routing cannot be heard"
+            _warn(f"{place}: {sentence}", Inaudible)
+
+    def __delitem__(self, channel: int) -> None:
+        raise TypeError(f"a channel of {self._title} always has a choice")
+
+    def __iter__(self) -> Iterator[int]:
+        return iter(range(1, self._channels + 1))
+
+    def __len__(self) -> int:
+        return self._channels
+
+    def apply(self, channel: int | None = None) -> None:
+        """Sends the stored choice of one channel, or of all, again.
+
+        A channel without a stored choice sends its default.
+        """
+        for each in list(self) if channel is None else [channel]:
+            number = self._check(each)
+            place = f"{self._title} {each}"
+            result = self._apply(self._model, number)
+            outcome = last_outcome()
+            if result == functions.ZTK_REJECTED:
+                raise Rejected(f"{place}: the stored value cannot be sent")
+            _report(place, outcome, stores=False)
+
+
+class Selectors(Mapping[int, "int | None"]):
+    """Where the input selectors of the mixer stand: channels 1 to 4.
+
+    Each access asks the mixers. None if no mixer answers.
+    """
+
+    def __getitem__(self, channel: int) -> int | None:
+        if channel not in (1, 2, 3, 4):
+            raise KeyError(f"there is no input selector {channel}; accepted: 1 to 4")
+        result, position = functions.ZTK_GetMixerInputSelectorStatus(
+            10, channel - 1, _NO_POSITION
+        )
+        if result != functions.ZTK_SUCCESS or not last_outcome().answered:
+            return None
+        return position
+
+    def __iter__(self) -> Iterator[int]:
+        return iter(range(1, 5))
+
+    def __len__(self) -> int:
+        return 4
+
+
+def warning_text(channel: int, language: int = _USERS_OWN_LANGUAGE) -> str | None:
+    """The library's sentence for a routing that cannot be heard.
+
+    Channel 1 to 4; for the languages see
+    :func:`ztkfunc.functions.ZTK_GetWarningTextForSetUSBAudioInput`. None for
+    channel 5 and when the texts are not installed.
+    """
+    return functions.ZTK_GetWarningTextForSetUSBAudioInput(
+        10, channel - 1, functions.ZTK_WARNING, language
+    )[1]
+
+
+class Mixer:
+    """The settings of one model, VRM-D6 unless another one is named.
+
+    All attached mixers are served at once: the library does not tell them
+    apart. Objects of this class hold nothing open and can be made freely.
+    """
+
+    def __init__(self, model: str | int = "VRM-D6") -> None:
+        if isinstance(model, str):
+            number = functions.ZTK_GetProductId(model)[1]
+        else:
+            number = model if model in _MODEL_NAMES else None
+        if number is None:
+            names = ", ".join(_MODEL_NAMES.values())
+            raise ValueError(f"{model!r} is not a model; accepted: {names}")
+        #: The number of the model in the library.
+        self.product_id: int = number
+        #: The name of the model.
+        self.model: str = _MODEL_NAMES[number]
+
+    def _require(self, owner: int, setting: str) -> None:
+        if self.product_id != owner:
+            raise Rejected(
+                f"the {self.model} has no {setting}; it belongs to the {_MODEL_NAMES[owner]}"
+            )
+
+    @property
+    def connected(self) -> bool:
+        """Whether at least one mixer is attached, of whatever model."""
+        return functions.ZTK_IsUSBConnection(self.product_id) == functions.ZTK_CONNECTED
+
+    @property
+    def input(self) -> ChannelSetting:
+        """What is recorded on each of the USB channels 1 to 5 (VRM-D6)."""
+        self._require(10, "USB input routing")
+        return ChannelSetting(
+            "USB input",
+            10,
+            5,
+            functions.ZTK_GetNumOfInputAudioIndex,
+            functions.ZTK_GetUSBInputAudioText,
+            functions.ZTK_GetCurrentUSBInputAudioIndex,
+            functions.ZTK_SetUSBInputAudio,
+            functions.ZTK_SetCurrentUSBInputAudio,
+        )
+
+    @property
+    def output(self) -> ChannelSetting:
+        """Where each of the playback channels 1 to 3 goes (VRM-B5)."""
+        self._require(8, "USB output routing")
+        return ChannelSetting(
+            "USB output",
+            8,
+            3,
+            functions.ZTK_GetNumOfOutputAudioIndex,
+            functions.ZTK_GetUSBOutputAudioText,
+            functions.ZTK_GetCurrentUSBOutputAudioIndex,
+            functions.ZTK_SetUSBOutputAudio,
+            functions.ZTK_SetCurrentUSBOutputAudio,
+        )
+
+    @property
+    def boost_choices(self) -> tuple[str, ...]:
+        """The texts of the boost levels."""
+        self._require(10, "boost level")
+        texts = (functions.ZTK_GetBoostLevelText(10, index)[1] for index in range(4))
+        return tuple(text for text in texts if text is not None)
+
+    @property
+    def boost(self) -> str | None:
+        """The boost level, which is the level of the USB output (VRM-D6).
+
+        Reading gives the stored level, or "-19 dB" if none is stored; None if
+        the settings file holds a number that is no level. Assigning takes a
+        text, or the number of a level from 1.
+        """
+        choices = self.boost_choices
+        index = functions.ZTK_GetCurrentBoostLevelIndex(10)[1]
+        return choices[index] if index is not None and index < len(choices) else None
+
+    @boost.setter
+    def boost(self, choice: str | int) -> None:
+        index = _index_of(choice, self.boost_choices, "boost level")
+        _single("boost level", functions.ZTK_SetBoostLevelIndex(10, index), stores=True)
+
+    @property
+    def midi_choices(self) -> tuple[str, ...]:
+        """The texts of the MIDI channels."""
+        self._require(1, "MIDI channel")
+        texts = (functions.ZTK_GetMidiChannelText(1, index)[1] for index in range(16))
+        return tuple(text for text in texts if text is not None)
+
+    @property
+    def midi(self) -> str | None:
+        """The MIDI channel that the controls of the mixer send on (VRM-K2).
+
+        Reading gives the stored channel, or "CH 1" if none is stored. Assigning
+        takes a text, or a number from 1 to 16.
+        """
+        choices = self.midi_choices
+        index = functions.ZTK_GetCurrentMidiChannelIndex(1)[1]
+        return choices[index] if index is not None and index < len(choices) else None
+
+    @midi.setter
+    def midi(self, choice: str | int) -> None:
+        index = _index_of(choice, self.midi_choices, "MIDI channel")
+        _single("MIDI channel", functions.ZTK_SetMidiChannelIndex(1, index), stores=True)
+
+    def apply(self) -> None:
+        """Sends all stored settings of the model again, after the mixer was off.
+
+        A setting that is not stored sends its default. Raises
+        :class:`Rejected` for a stored value that cannot be sent, such as a MIDI
+        channel above 4.
+        """
+        if self.product_id == 10:
+            self.input.apply()
+            result = functions.ZTK_SetCurrentBoostLevelIndex(10)
+            _single("boost level", result, stores=False)
+        elif self.product_id == 8:
+            self.output.apply()
+        elif self.product_id == 1:
+            result = functions.ZTK_SetCurrentMidiChannelIndex(1)
+            _single("MIDI channel", result, stores=False)
+        else:
+            raise Rejected(f"the {self.model} has no settings")
+
+    @property
+    def firmware(self) -> str | None:
+        """The firmware version of the first mixer, such as "4.36".
+
+        None if it does not answer.
+        """
+        self._require(10, "firmware query")
+        version = functions.ZTK_GetFirmwareVersionIndex(10)[1]
+        if not version or not last_outcome().answered:
+            return None
+        # The number is binary-coded decimal: 0x0436 is 4.36.
+        return f"{version >> 8:x}.{version & 0xFF:02x}"
+
+    @property
+    def certification(self) -> int | None:
+        """The certification level; None if no mixer answers."""
+        self._require(10, "certification query")
+        level = functions.ZTK_GetMixerCertifyLevel(10)[1]
+        return level if last_outcome().answered else None
+
+    @property
+    def selectors(self) -> Selectors:
+        """Where the input selectors of channels 1 to 4 stand."""
+        self._require(10, "selector query")
+        return Selectors()
+
+    @property
+    def serato_active(self) -> bool | None:
+        """Whether the Serato DJ software is active; None if no mixer answers."""
+        self._require(10, "Serato query")
+        result, active = functions.ZTK_GetMixerSeratoActiveStatus(10, _NO_POSITION)
+        if result != functions.ZTK_SUCCESS or active == _NO_POSITION:
+            return None
+        return active == 1
+
+
+def _single(place: str, result: int, *, stores: bool) -> None:
+    outcome = last_outcome()
+    if result == functions.ZTK_REJECTED:
+        raise Rejected(f"{place}: the value cannot be sent")
+    _report(place, outcome, stores=stores)
