@@ -51,13 +51,10 @@ TEST_F(KernelFaults, AfterAStallTheNextRequestIsFine) {
                                      "mixer 2: 40 03 0200 8003 0000"));
 }
 
-TEST_F(KernelFaults, ASilentMixerIsGivenUpAfterFiveSecondsAndTheNextServed) {
+TEST_F(KernelFaults, ASilentMixerIsGivenUpAndTheNextServed) {
   PlugMixers(2);
   Inject(1, "silence*1");
-  const auto before = std::chrono::steady_clock::now();
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 0), 100u);
-  const auto took = std::chrono::steady_clock::now() - before;
-  EXPECT_GE(took, std::chrono::milliseconds(4900));
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 1: 40 03 0300 8003 0000 -> silence",
                                      "mixer 2: 40 03 0300 8003 0000"));
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
