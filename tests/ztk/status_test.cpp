@@ -131,15 +131,22 @@ TEST_F(Status, DoesNotTrustRepliesThatAreTooShortOrTooLarge) {
 TEST_F(Versions, SaysWhatIsNotInstalled) {
   const Result result = NoMixer("ztk versions; ztk versions --json");
   EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.out, StartsWith("Package  not installed\n"
-                                     "Driver   not installed\n"
-                                     "Utility  not installed\n"
-                                     "Library  not installed\n"
-                                     "ztk      " ZTK_PROGRAM_VERSION "\n"));
-  EXPECT_EQ(OneObject(LastLine(result.out) + "\n")["versions"],
-            Json::parse(R"({"package":null,"driver":null,"utility":null,
-                            "library":null,"ztk":")" ZTK_PROGRAM_VERSION
-                        R"("})"));
+  for (const char *part :
+       {"Package  ", "Driver   ", "Utility  ", "Library  "}) {
+    EXPECT_THAT(result.out,
+                HasSubstr(part + std::string("not installed (part of the macOS "
+                                             "package)\n")));
+  }
+  EXPECT_THAT(result.out, HasSubstr("\nztk      " ZTK_PROGRAM_VERSION "\n"));
+  const Json versions = OneObject(LastLine(result.out) + "\n")["versions"];
+  for (const char *part : {"package", "driver", "utility", "library"}) {
+    EXPECT_EQ(versions[part], nullptr);
+  }
+  EXPECT_EQ(versions["ztk"], ZTK_PROGRAM_VERSION);
+  EXPECT_THAT(versions["loadedLibrary"].get<std::string>(),
+              HasSubstr("/libZTKFunc.so." ZTK_PROGRAM_VERSION));
+  EXPECT_THAT(result.out,
+              HasSubstr("\nLoaded   libZTKFunc.so." ZTK_PROGRAM_VERSION "\n"));
 }
 
 TEST_F(Versions, ShowsWhatIs) {

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <dlfcn.h>
+
+#include <cstdlib>
+#include <memory>
+
 #include "build_config.h"
 #include "cli/strings.h"
 #include "ztk/commands/other_commands.h"
@@ -28,6 +33,21 @@ constexpr Piece kPieces[] = {
 
 constexpr std::size_t kColumn = 9;
 
+// The package and its parts are installed on macOS only.
+constexpr char kNotInstalled[] = "not installed (part of the macOS package)";
+
+// The file of the library that ztk has loaded; on Linux its name ends with the
+// version. Empty when it is not known.
+std::string LoadedLibrary() {
+  Dl_info info{};
+  const auto *const function =
+      reinterpret_cast<const void *>(&ZTK_GetProductId);
+  if (dladdr(function, &info) == 0 || info.dli_fname == nullptr) return "";
+  const std::unique_ptr<char, decltype(&std::free)> path(
+      realpath(info.dli_fname, nullptr), &std::free);
+  return path == nullptr ? info.dli_fname : path.get();
+}
+
 }  // namespace
 
 Report ShowVersions(const Arguments & /*arguments*/) {
@@ -38,10 +58,17 @@ Report ShowVersions(const Arguments & /*arguments*/) {
     const bool found = piece.version(kOwnProduct, &text) == ZTK_SUCCESS;
     versions[piece.name] = found ? Json(Utf8(text)) : Json();
     report.text += cli::Padded(piece.title, kColumn) +
-                   (found ? cli::OneLine(Utf8(text)) : "not installed") + "\n";
+                   (found ? cli::OneLine(Utf8(text)) : kNotInstalled) + "\n";
   }
   const std::string why = WhyInstalledIsNotFound();
   if (!why.empty()) report.warnings.push_back(why);
+  const std::string loaded = LoadedLibrary();
+  versions["loadedLibrary"] = loaded.empty() ? Json() : Json(loaded);
+  report.text +=
+      cli::Padded("Loaded", kColumn) +
+      (loaded.empty() ? "unknown"
+                      : cli::OneLine(loaded.substr(loaded.rfind('/') + 1))) +
+      "\n";
   versions["ztk"] = build::kVersion;
   report.text += cli::Padded("ztk", kColumn) + build::kVersion + "\n";
   report.fields["versions"] = versions;
