@@ -107,7 +107,7 @@ expect "without the rule root alone reaches the mixers" "2 0 0" \
 install --mode 644 "$rules" /lib/udev/rules.d/
 ask_doctor guest
 expect "the doctor sees that the rule came too late" \
-  "the rule that lets you in came after the mixer was plugged in; this does \
+  "the rule that grants you access came after the mixer was plugged in; this does \
 what plugging it in again does" "$cause"
 type_command
 expect "and the one command lets the user set both mixers" \
@@ -120,7 +120,7 @@ udevadm settle
 
 ask_doctor guest
 expect "the doctor sees that the rule is missing" \
-  "only root may open it, as no rule lets you" "$cause"
+  "only root may open it, as no rule grants you access" "$cause"
 type_command
 expect "and the one command lets the user set both mixers" \
   "mixer 1: 40 03 0108 8002 0000
@@ -157,12 +157,13 @@ expect "who has logged out reaches no mixer" 0 "$(reachable guest)"
 # The same user from elsewhere: over ssh, and in a service of the system.
 ask_doctor guest SSH_CONNECTION="::1 9 ::1 22"
 expect "the doctor sees that the user came over ssh" \
-  "the rule lets in who sits at this machine, and you came over ssh; this lets \
-guest in from everywhere" "$cause"
+  "the rule grants access to the user who is logged in at this seat, and you are \
+logged in over ssh; this grants guest access from everywhere" "$cause"
 ask_doctor guest
 expect "the doctor sees that it runs in a service" \
-  "the rule lets in who sits at this machine, and guest-command.service sits \
-nowhere; this lets guest in from everywhere" "$cause"
+  "the rule grants access to the user who is logged in at this seat, and \
+guest-command.service belongs to no seat; this grants guest access from \
+everywhere" "$cause"
 type_command
 expect "and the one command lets the user set both mixers" \
   "mixer 1: 40 03 010a 8002 0000

@@ -129,7 +129,7 @@ TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
         "id -un; USER=dj SSH_CONNECTION='::1 1 ::1 22' ztk doctor --json");
   Json finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
-  EXPECT_THAT(Word(finding, "cause"), HasSubstr("you came over ssh"));
+  EXPECT_THAT(Word(finding, "cause"), HasSubstr("you are logged in over ssh"));
   EXPECT_THAT(Word(finding, "command"),
               HasSubstr(", OWNER=\"" + Line(result_.out, 0) +
                         "\"' | sudo tee "

@@ -75,6 +75,25 @@ std::string LineOf(const Step &step) {
 
 }  // namespace
 
+ParsedHistory ParseHistory(const std::string &text) {
+  ParsedHistory parsed;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    if (auto step = ParseStep(line)) {
+      parsed.steps.push_back(std::move(*step));
+    } else {
+      parsed.damaged = true;
+    }
+  }
+  return parsed;
+}
+
+std::string HistoryText(const std::vector<Step> &steps) {
+  std::string text;
+  for (const Step &step : steps) text += LineOf(step);
+  return text;
+}
+
 History::History() : path_(StateFolder() + kFile), lock_(StateFolder()) {
   switch (lock_.result()) {
     case StateLock::Result::Held:
@@ -98,14 +117,9 @@ void History::Load() {
     return;
   }
   state_ = State::Usable;
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) {
-    if (auto step = ParseStep(line)) {
-      steps_.push_back(std::move(*step));
-    } else {
-      damaged_ = true;
-    }
-  }
+  ParsedHistory parsed = ParseHistory(text);
+  steps_ = std::move(parsed.steps);
+  damaged_ = parsed.damaged;
 }
 
 void History::Add(Step step) {
@@ -116,9 +130,7 @@ void History::Add(Step step) {
 }
 
 bool History::Save() {
-  std::string text;
-  for (const Step &step : steps_) text += LineOf(step);
-  const bool saved = ReplaceStateFile(path_, text, damaged_);
+  const bool saved = ReplaceStateFile(path_, HistoryText(steps_), damaged_);
   // What was damaged stands beside it now.
   if (saved) damaged_ = false;
   return saved;

@@ -29,6 +29,15 @@ struct Step {
   std::vector<PastChange> changes;
 };
 
+// The steps of a file, one in each line of JSON, and whether it has lines that
+// are no steps.
+struct ParsedHistory {
+  std::vector<Step> steps;
+  bool damaged = false;
+};
+ParsedHistory ParseHistory(const std::string &text);
+std::string HistoryText(const std::vector<Step> &steps);
+
 // While it lives, no other program of this kind changes anything, so that two
 // of them do not lose each other's steps.
 class History {

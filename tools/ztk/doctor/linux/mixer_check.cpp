@@ -16,6 +16,7 @@
 #include "udev_rule.h"
 #include "usb/USB.h"
 #include "ztk/doctor/finding.h"
+#include "ztk/system/linux/udev_rules.h"
 #include "ztk/system/places.h"
 
 namespace ztk::model {
@@ -25,10 +26,6 @@ namespace {
 constexpr char kRuleName[] = "70-tarvix-mixer.rules";
 constexpr char kOwnRule[] = "/etc/udev/rules.d/70-tarvix-mixer.rules";
 constexpr char kOwnersRule[] = "/etc/udev/rules.d/71-tarvix-mixer-owner.rules";
-// Where udev looks; the first file of a name hides the others.
-constexpr const char *kRuleFolders[] = {
-    "/etc/udev/rules.d/", "/run/udev/rules.d/", "/usr/local/lib/udev/rules.d/",
-    "/usr/lib/udev/rules.d/", "/lib/udev/rules.d/"};
 // What the rule leaves on a device that it was applied to.
 constexpr char kSeatTag[] = "uaccess";
 
@@ -143,13 +140,10 @@ struct Rule {
 };
 
 Rule FindRule() {
-  for (const char *folder : kRuleFolders) {
-    const std::string path = std::string(folder) + kRuleName;
-    if (!Exists(path)) continue;
-    return {.path = path,
-            .fits = Contents(path).find(kMixerMatch) != std::string::npos};
-  }
-  return {};
+  const std::string path = FindUdevRules(kRuleName);
+  if (path.empty()) return {};
+  return {.path = path,
+          .fits = Contents(path).find(kMixerMatch) != std::string::npos};
 }
 
 // Whether udev has applied the rule to the device that is plugged in now.
@@ -172,20 +166,20 @@ std::string UserName() {
 
 Finding NoSeat(const std::string &what) {
   std::string cause =
-      "the rule lets in who sits at this machine, and your session is not the "
-      "active one there";
+      "the rule grants access to the user who is logged in at this seat, and ";
   if (!Variable("SSH_CONNECTION").empty() || !Variable("SSH_TTY").empty()) {
-    cause = "the rule lets in who sits at this machine, and you came over ssh";
+    cause += "you are logged in over ssh";
   } else if (const std::string service = Service(); !service.empty()) {
-    cause = "the rule lets in who sits at this machine, and " + service +
-            " sits nowhere";
+    cause += service + " belongs to no seat";
+  } else {
+    cause += "your session is not the active one there";
   }
   const std::string user = UserName();
   std::string rule = kMixerMatch;
   rule += ", OWNER=\"" + user + "\"";
   return {.id = "no-seat",
           .what = what,
-          .cause = cause + "; this lets " + user + " in from everywhere",
+          .cause = cause + "; this grants " + user + " access from everywhere",
           .command = InstallRule(rule, kOwnersRule)};
 }
 
@@ -194,21 +188,23 @@ Finding NotPermitted(const std::string &what, const std::string &place) {
   if (rule.path.empty()) {
     return {.id = "rule-missing",
             .what = what,
-            .cause = "only root may open it, as no rule lets you",
+            .cause = "only root may open it, as no rule grants you access",
             .command = InstallRule(kUdevRule, kOwnRule)};
   }
   if (!rule.fits) {
-    return {.id = "rule-disabled",
-            .what = what,
-            .cause = "only root may open it: " + rule.path +
-                     " hides the rule that lets you, or is for another mixer",
-            .command = InstallRule(kUdevRule, kOwnRule)};
+    return {
+        .id = "rule-disabled",
+        .what = what,
+        .cause = "only root may open it: " + rule.path +
+                 " hides the rule that grants you access, or is for another "
+                 "mixer",
+        .command = InstallRule(kUdevRule, kOwnRule)};
   }
   if (!IsTagged(place)) {
     return {.id = "rule-not-applied",
             .what = what,
             .cause =
-                "the rule that lets you in came after the mixer was "
+                "the rule that grants you access came after the mixer was "
                 "plugged in; this does what plugging it in again does",
             .command = Replug()};
   }
@@ -222,7 +218,7 @@ Finding NoNode(const std::string &what, const std::string &node) {
                   .command = Replug()};
   if (const auto container = AroundUs()) {
     finding.cause =
-        "this is " + container->name + ", into which " + node + " was not let";
+        "this is " + container->name + ", which has no access to " + node;
     finding.command = container->command;
   }
   return finding;

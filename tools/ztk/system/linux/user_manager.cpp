@@ -3,11 +3,11 @@
 
 #include <cerrno>
 #include <cstring>
-#include <filesystem>
 #include <stdexcept>
 
 #include "cli/strings.h"
 #include "platform/linux/bus_connection.h"
+#include "ztk/system/linux/udev_rules.h"
 
 namespace ztk::model {
 
@@ -23,10 +23,6 @@ constexpr char kService[] = "org.freedesktop.systemd1";
 constexpr char kObject[] = "/org/freedesktop/systemd1";
 constexpr char kInterface[] = "org.freedesktop.systemd1.Manager";
 
-// Where udev looks, the first first.
-constexpr const char *kRuleFolders[] = {
-    "/etc/udev/rules.d", "/run/udev/rules.d", "/usr/local/lib/udev/rules.d",
-    "/usr/lib/udev/rules.d", "/lib/udev/rules.d"};
 constexpr char kRule[] = "71-ztk-apply.rules";
 
 // The answer to a call, or why there is none.
@@ -110,13 +106,6 @@ void UserManager::Unlink(const std::string &unit) {
   connection_->Do("Reload", "");
 }
 
-std::string PlugInRule() {
-  for (const char *folder : kRuleFolders) {
-    const std::filesystem::path file = std::filesystem::path(folder) / kRule;
-    std::error_code ignored;
-    if (std::filesystem::exists(file, ignored)) return file;
-  }
-  return "";
-}
+std::string PlugInRule() { return FindUdevRules(kRule); }
 
 }  // namespace ztk::model
