@@ -48,6 +48,16 @@ TEST_F(Apply, LeavesEverythingAloneWhenNothingIsRemembered) {
   }
 }
 
+TEST_F(Apply, TellsOfEachSettingWhetherTheMixerHasAcceptedIt) {
+  Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 2}});
+  const Result result =
+      Inside({"-n", "1", "--fault", "stall@w8003"}, "ztk apply");
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.out,
+            "USB input 2: 3 Post CH2 Fader, sent\n"
+            "Boost level: 1 -5 dB, refused by the mixer\n");
+}
+
 TEST_F(Apply, TakesAnotherModelsFamily) {
   Remember("VRM-D6", {{"Output1", 2}});
   Remember("VRM-B5", {{"Input1", 2}});

@@ -158,6 +158,13 @@ TEST_F(Reach, TellsWhichMixerWasUnpluggedByTheNumberThatItHad) {
   EXPECT_EQ(Told(OneObject(result.out)), "0/3 1:gone 2:busy 3:refused");
 }
 
+TEST_F(Reach, SaysNothingOfASelectorThatWasNotRead) {
+  const Result result =
+      Inside({"-n", "1", "--fault", "stall@r8002"}, "ztk input set 2 1");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.err, Not(HasSubstr("selector")));
+}
+
 TEST_F(Reach, SaysThatTheMixerRefusedTheValue) {
   const Result result = Inside({"-n", "1", "--fault", "stall"},
                                "ztk boost set 2; ztk boost apply");

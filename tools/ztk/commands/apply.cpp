@@ -24,8 +24,8 @@ std::string NamedValue(const StoredValue &value) {
 }
 
 // How many mixers there were is told once, at the end.
-std::string SentOrNot(const Reach &reach) {
-  return reach.answered() > 0 ? "sent" : Described(reach);
+std::string SentOrNot(const StoredValue &value, const Reach &reach) {
+  return value.accepted > 0 ? "sent" : Described(reach);
 }
 
 void AddSettingFields(const StoredValue &value, Report *report) {
@@ -40,7 +40,7 @@ void AddSettingFields(const StoredValue &value, Report *report) {
 void AddSetting(const StoredValue &value, const Reach &reach, Report *report) {
   AddSettingFields(value, report);
   report->text += NamedValue(value) + ", " +
-                  (value.refused ? "refused" : SentOrNot(reach)) + "\n";
+                  (value.refused ? "refused" : SentOrNot(value, reach)) + "\n";
 }
 
 // What to do about one that was refused.

@@ -87,9 +87,11 @@ Report SetChoice(const Setting &setting, const Arguments &arguments) {
   report.text = place + ": " + Described(choice) + ", " +
                 Described(change, made.reach) + "\n" +
                 NoteOnSendingAgain(wanted);
-  // The sentence for no mixer says that the setting has been saved.
-  if (change.result == ZTK_WARNING &&
-      (change.remembered || made.reach.found() > 0)) {
+  // The sentence for no mixer says that the setting has been saved, the other
+  // one where the selector is: each is shown only where that is known.
+  const bool known =
+      made.reach.found() == 0 ? change.remembered : change.selectorsKnown;
+  if (change.result == ZTK_WARNING && known) {
     ExplainWarning(channel, made.reach, &report);
   }
   return report;

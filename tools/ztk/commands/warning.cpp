@@ -123,7 +123,7 @@ void ExplainWarnings(const MadeChanges &made, Report *report) {
   // Without a mixer the error says it for all of them.
   if (made.reach.found() == 0) return;
   for (const MadeChange &one : made.changes) {
-    if (one.result != ZTK_WARNING) continue;
+    if (one.result != ZTK_WARNING || !one.selectorsKnown) continue;
     const std::uint32_t channel = one.change.channel;
     report->warnings.push_back(
         Explanation(channel, made.reach, PlaceName(kInput, channel) + ": "));

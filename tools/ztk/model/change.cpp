@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/change.h"
 
+#include <algorithm>
+
 namespace ztk::model {
 
 namespace {
@@ -40,6 +42,12 @@ MadeChanges MakeChanges(const std::vector<Change> &changes) {
     });
     if (one.result != ZTK_REJECTED) {
       const ZTKOutcome &outcome = calls.last();
+      one.accepted = calls.acceptedLast();
+      one.selectorsKnown =
+          std::any_of(outcome.mixers, outcome.mixers + outcome.mixersListed,
+                      [](const ZTKMixerOutcome &mixer) {
+                        return mixer.read.result == ZTK_REQUEST_ACCEPTED;
+                      });
       one.remembered = outcome.store.result == ZTK_FILE_OK;
       if (!one.remembered) one.notStored = WhyNotStored(outcome.store);
       one.replacedDamaged =

@@ -5,6 +5,7 @@
 #ifndef ZTK_TOOLS_ZTK_MODEL_CHANGE_H_
 #define ZTK_TOOLS_ZTK_MODEL_CHANGE_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -25,8 +26,11 @@ struct Change {
 struct MadeChange {
   Change change;
   ZTKResult result = ZTK_REJECTED;
-  bool remembered = false;  // it is stored in the settings file
-  bool announced = false;   // the message bus has taken the announcement
+  std::size_t accepted = 0;  // mixers that have accepted the value
+  bool remembered = false;   // it is stored in the settings file
+  bool announced = false;    // the message bus has taken the announcement
+  // A mixer has told where its input selectors are.
+  bool selectorsKnown = false;
   // Why it is not stored, as a part of a sentence; else empty.
   std::string notStored = {};
   // The settings file was damaged. It is kept under another name, and a new one

@@ -143,6 +143,15 @@ std::size_t Reach::opened() const {
       [](const Mixer &mixer) { return mixer.state != MixerState::NotOpened; }));
 }
 
+std::size_t RecordedCalls::acceptedLast() const {
+  return static_cast<std::size_t>(
+      std::count_if(last_.mixers, last_.mixers + last_.mixersListed,
+                    [](const ZTKMixerOutcome &mixer) {
+                      return mixer.write.opened != 0 &&
+                             StateOf(mixer.write) == MixerState::Answered;
+                    }));
+}
+
 void RecordedCalls::Collect(ZTKResult result,
                             const std::vector<std::string> &places) {
   last_ = {};

@@ -60,6 +60,8 @@ class RecordedCalls {
 
   // The record of the last call.
   const ZTKOutcome &last() const { return last_; }
+  // How many mixers have accepted the value of the last call.
+  std::size_t acceptedLast() const;
   // All mixers that were attached to any of the calls. One that did not accept
   // a value counts as not answered, also where it accepted others.
   const Reach &reach() const { return reach_; }

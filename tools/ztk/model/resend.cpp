@@ -40,6 +40,7 @@ Reach SendAgain(std::vector<StoredValue> *values) {
     value.refused = !BelongsToItsChannel(value) || calls.Call([&] {
       return setting.sendAgain(setting.product, value.channel);
     }) != ZTK_SUCCESS;
+    if (!value.refused) value.accepted = calls.acceptedLast();
   }
   return calls.reach();
 }

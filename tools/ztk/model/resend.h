@@ -4,6 +4,7 @@
 #ifndef ZTK_TOOLS_ZTK_MODEL_RESEND_H_
 #define ZTK_TOOLS_ZTK_MODEL_RESEND_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -17,7 +18,8 @@ struct StoredValue {
   const Setting *setting;
   std::uint32_t channel;
   std::uint32_t index;
-  bool refused = false;  // by the library, or because it is no choice
+  bool refused = false;      // by the library, or because it is no choice
+  std::size_t accepted = 0;  // mixers that have accepted the value
 };
 
 // The values that are remembered for these channels. A setting without one is

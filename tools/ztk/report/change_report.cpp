@@ -165,8 +165,11 @@ std::string NoteOnSendingAgain(const Change &change) {
 }
 
 std::string Described(const MadeChange &change, const Reach &reach) {
-  return Described(reach) +
-         (change.remembered ? ", remembered" : ", not remembered");
+  const std::string sent =
+      change.accepted > 0
+          ? "sent to " + InNumbers(change.accepted, reach.found())
+          : Described(reach);
+  return sent + (change.remembered ? ", remembered" : ", not remembered");
 }
 
 void WarnOfMissingBus(Report *report) {
