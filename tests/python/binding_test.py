@@ -157,9 +157,31 @@ class MixerTest(BindingTest):
 
     def test_a_routing_that_cannot_be_heard_is_a_warning(self) -> None:
         control("turn", "1", "0")
-        with self.assertWarns(ztkfunc.Inaudible):
+        with self.assertWarnsRegex(ztkfunc.Inaudible, "CH1 is turned to position 4"):
             ztkfunc.Mixer().input[1] = 1
+        outcome = ztkfunc.last_outcome()
+        self.assertEqual(outcome.mixers[0].write.result, Request.ACCEPTED)
+        self.assertTrue(outcome.stored)
         self.assertEqual(ztkfunc.Mixer().input[1], "CH1 Control Tone PHONO")
+
+    def test_nothing_is_said_of_a_selector_that_was_not_read(self) -> None:
+        control("fault", "stall@r8002")
+        ztkfunc.Mixer().input[1] = 1
+        self.assertEqual(ztkfunc.Mixer().input[1], "CH1 Control Tone PHONO")
+
+    def test_a_warning_names_the_line_of_the_program(self) -> None:
+        control("fault", "stall@w8003")
+        control("fault", "stall@w8002")
+        mixer = ztkfunc.Mixer()
+        for statement in ("mixer.boost = 1", "mixer.input[1] = 6", "mixer.input.apply(1)"):
+            with warnings.catch_warnings(record=True) as caught:
+                warnings.simplefilter("always")
+                exec(compile(statement, "program.py", "exec"), {"mixer": mixer})
+            self.assertEqual([each.filename for each in caught], ["program.py"])
+
+    def test_a_mistyped_setting_is_an_error(self) -> None:
+        with self.assertRaises(AttributeError):
+            ztkfunc.Mixer().boots = 3  # type: ignore[attr-defined]
 
     def test_a_refused_value_is_a_warning_and_stays_stored(self) -> None:
         control("fault", "stall@w8003")

@@ -68,6 +68,21 @@ class SceneSwitcher(unittest.TestCase):
         self.assertEqual(run.returncode, 2)
         self.assertIn("is not a file that ztk export has written", run.stderr)
 
+    def test_a_refusing_mixer_is_not_called_set(self) -> None:
+        subprocess.run(["ztk-virtual-mixer", "fault", "stall@w8003"], check=True, stdout=subprocess.DEVNULL)
+        self.addCleanup(
+            subprocess.run,
+            ["ztk-virtual-mixer", "fault", "none"],
+            stdout=subprocess.DEVNULL,
+        )
+        run = self.run_switcher(f"1={self.folder}/club.json", keys="1\n")
+        self.assertEqual(run.stdout, "scene 1 was not sent completely\n")
+        self.assertIn("refused", run.stderr)
+
+    def test_a_missing_device_is_one_line(self) -> None:
+        run = self.run_switcher("--midi", "/nonexistent", f"60={self.folder}/club.json")
+        self.assertEqual((run.returncode, len(run.stderr.splitlines())), (1, 1))
+
     def test_an_unknown_key_is_answered(self) -> None:
         run = self.run_switcher(f"1={self.folder}/club.json", keys="7\n")
         self.assertEqual(run.stdout, "no scene '7'; there are: 1\n")

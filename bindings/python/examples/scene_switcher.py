@@ -27,17 +27,25 @@ from typing import BinaryIO, TextIO
 import ztkfunc
 
 Scene = dict[str, dict[str, object]]
+SETTINGS = {"input", "output", "boost", "midi"}
 
 
 def load(path: str) -> Scene:
     """Reads a file of ``ztk export``; raises ValueError if it is not one."""
     with open(path, encoding="utf-8") as file:
-        data = json.load(file)
+        try:
+            data = json.load(file)
+        except ValueError as error:
+            raise ValueError(f"{path} is not JSON: {error}") from error
     if not isinstance(data, dict) or data.get("version") != 1:
         raise ValueError(f"{path} is not a file that ztk export has written")
     settings = data.get("settings")
-    if not isinstance(settings, dict):
-        raise ValueError(f'{path} has no "settings"')
+    if not isinstance(settings, dict) or not settings:
+        raise ValueError(f"{path} contains no settings")
+    for model, values in settings.items():
+        unknown = set(values) - SETTINGS
+        if unknown:
+            raise ValueError(f"{path}: unknown setting {unknown.pop()!r} of {model}")
     return settings
 
 
@@ -81,8 +89,28 @@ def keys(stream: TextIO) -> Iterator[str]:
             yield line.strip()
 
 
-def show_warning(message: Warning | str, *_rest: object, **_more: object) -> None:
-    print(f"  {message}", file=sys.stderr)
+def switch(key: str, scene: Scene) -> None:
+    """Sets the scene and says what became of it."""
+    with warnings.catch_warnings(record=True) as caught:
+        warnings.simplefilter("always")
+        try:
+            apply(scene)
+        except (ztkfunc.Rejected, ValueError, LookupError) as error:
+            print(f"scene {key}: {error.args[0]}", file=sys.stderr)
+            return
+    for warning in caught:
+        print(f"  {warning.message}", file=sys.stderr)
+    missed = any(issubclass(warning.category, ztkfunc.NotSent) for warning in caught)
+    print(f"scene {key} {'was not sent completely' if missed else 'is set'}", flush=True)
+
+
+def pressed_keys(device: str | None) -> Iterator[str]:
+    if device is None:
+        yield from keys(sys.stdin)
+        return
+    with open(device, "rb", buffering=0) as stream:
+        for note in notes(stream):
+            yield str(note)
 
 
 def main() -> int:
@@ -99,26 +127,19 @@ def main() -> int:
             scenes[key] = load(path)
         except (OSError, ValueError) as error:
             parser.error(str(error))
-    warnings.showwarning = show_warning
-    warnings.simplefilter("always")
-
-    pressed: Iterator[str]
-    if options.midi:
-        pressed = (str(note) for note in notes(open(options.midi, "rb", buffering=0)))
-    else:
-        pressed = keys(sys.stdin)
-    for key in pressed:
-        scene = scenes.get(key)
-        if scene is None:
-            if not options.midi:
+        if options.midi and not (key.isdecimal() and int(key) <= 127):
+            parser.error(f"{key!r} is not a MIDI note, 0 to 127")
+    try:
+        for key in pressed_keys(options.midi):
+            if key in scenes:
+                switch(key, scenes[key])
+            elif not options.midi:
                 print(f"no scene {key!r}; there are: {', '.join(scenes)}")
-            continue
-        try:
-            apply(scene)
-        except (ztkfunc.Rejected, ValueError, KeyError, AttributeError) as error:
-            print(f"scene {key}: {error}", file=sys.stderr)
-            continue
-        print(f"scene {key} is set", flush=True)
+    except OSError as error:
+        print(f"scene_switcher.py: {error}", file=sys.stderr)
+        return 1
+    except KeyboardInterrupt:
+        pass
     return 0
 
 

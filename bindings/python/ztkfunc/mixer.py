@@ -19,8 +19,10 @@ everywhere is a warning of Python's :mod:`warnings`:
 """
 from __future__ import annotations
 
+import sys
 import warnings
 from collections.abc import Callable, Iterator, Mapping, MutableMapping
+from types import FrameType
 
 from . import functions
 from .outcome import Outcome, last_outcome
@@ -39,6 +41,8 @@ _MODEL_NAMES = {
 _USERS_OWN_LANGUAGE = 99
 # A position that no mixer can report, to see that nothing was reported.
 _NO_POSITION = 0xFFFFFFFF
+# Channels with an input selector.
+_SELECTORS = range(1, 5)
 
 
 class Rejected(Exception):
@@ -78,9 +82,13 @@ def _index_of(choice: str | int, choices: tuple[str, ...], place: str) -> int:
 
 
 def _warn(text: str, category: type[Warning]) -> None:
-    # The line that assigned the value: this function, its caller, the setting,
-    # the property or item.
-    warnings.warn(text, category, stacklevel=5)
+    """Warns at the line of the program that called the package."""
+    level = 1
+    frame: FrameType | None = sys._getframe()
+    while frame is not None and frame.f_globals.get("__name__") == __name__:
+        frame = frame.f_back
+        level += 1
+    warnings.warn(text, category, stacklevel=level)
 
 
 def _report(place: str, outcome: Outcome, stores: bool) -> None:
@@ -160,14 +168,18 @@ class ChannelSetting(MutableMapping[int, "str | None"]):
         if result == functions.ZTK_REJECTED:
             raise Rejected(f"{place}: the library refused index {index}")
         _report(place, outcome, stores=True)
-        # USB channel 5 has no input selector: its warning tells nothing.
+        # USB channel 5 has no input selector, and a mixer that did not answer has
+        # not told the position of any: nothing can be said then.
         if (
             result == functions.ZTK_WARNING
-            and outcome.mixers_found > 0
-            and channel in Selectors()
+            and outcome.answered
+            and channel in _SELECTORS
         ):
-            sentence = warning_text(channel) or "the routing cannot be heard"
-            _warn(f"{place}: {sentence}", Inaudible)
+            _warn(
+                f"{place}: cannot be heard until the input selector of CH{channel} "
+                "is turned to position 4",
+                Inaudible,
+            )
 
     def __delitem__(self, channel: int) -> None:
         raise TypeError(f"a channel of {self._title} always has a choice")
@@ -200,7 +212,7 @@ class Selectors(Mapping[int, "int | None"]):
     """
 
     def __getitem__(self, channel: int) -> int | None:
-        if channel not in (1, 2, 3, 4):
+        if channel not in _SELECTORS:
             raise KeyError(f"there is no input selector {channel}; accepted: 1 to 4")
         result, position = functions.ZTK_GetMixerInputSelectorStatus(
             10, channel - 1, _NO_POSITION
@@ -210,10 +222,10 @@ class Selectors(Mapping[int, "int | None"]):
         return position
 
     def __iter__(self) -> Iterator[int]:
-        return iter(range(1, 5))
+        return iter(_SELECTORS)
 
     def __len__(self) -> int:
-        return 4
+        return len(_SELECTORS)
 
 
 def warning_text(channel: int, language: int = _USERS_OWN_LANGUAGE) -> str | None:
@@ -235,6 +247,14 @@ class Mixer:
     apart. Objects of this class hold nothing open and can be made freely.
     """
 
+    # A mistyped name of a setting must not be taken for a new attribute.
+    __slots__ = ("model", "product_id")
+
+    #: The name of the model.
+    model: str
+    #: The number of the model in the library.
+    product_id: int
+
     def __init__(self, model: str | int = "VRM-D6") -> None:
         if isinstance(model, str):
             number = functions.ZTK_GetProductId(model)[1]
@@ -243,10 +263,8 @@ class Mixer:
         if number is None:
             names = ", ".join(_MODEL_NAMES.values())
             raise ValueError(f"{model!r} is not a model; accepted: {names}")
-        #: The number of the model in the library.
-        self.product_id: int = number
-        #: The name of the model.
-        self.model: str = _MODEL_NAMES[number]
+        self.product_id = number
+        self.model = _MODEL_NAMES[number]
 
     def _require(self, owner: int, setting: str) -> None:
         if self.product_id != owner:
@@ -262,7 +280,7 @@ class Mixer:
     @property
     def input(self) -> ChannelSetting:
         """What is recorded on each of the USB channels 1 to 5 (VRM-D6)."""
-        self._require(10, "USB input routing")
+        self._require(10, "USB input audio")
         return ChannelSetting(
             "USB input",
             10,
@@ -277,7 +295,7 @@ class Mixer:
     @property
     def output(self) -> ChannelSetting:
         """Where each of the playback channels 1 to 3 goes (VRM-B5)."""
-        self._require(8, "USB output routing")
+        self._require(8, "USB output audio")
         return ChannelSetting(
             "USB output",
             8,
