@@ -160,7 +160,7 @@ TEST_F(Write, ReplacesAFileThatMayNotBeRead) {
 TEST_F(Write, IsDoneAgainWhenAnotherProcessHasReplacedTheFile) {
   TheWorld().canWrite = false;
   TheWorld().writeError = ESTALE;
-  store::Write(kD6, "MaxLevel", 2);
+  store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   const std::vector<std::string> calls = TakeCalls();
   EXPECT_EQ(std::count(calls.begin(), calls.end(),
                        std::string("add entries of ") + kD6File),

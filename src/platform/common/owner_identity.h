@@ -33,8 +33,8 @@ class OwnerIdentity {
  private:
   bool good_ = true;
   bool changed_ = false;
-  uid_t formerUser_ = 0;
-  gid_t formerGroup_ = 0;
+  [[maybe_unused]] uid_t formerUser_ = 0;
+  [[maybe_unused]] gid_t formerGroup_ = 0;
   std::vector<gid_t> formerGroups_;
 };
 

@@ -339,6 +339,13 @@ int darwin_statfs(const char * /*path*/, void *to) {
   std::memcpy(static_cast<char *>(to) + kMountPoint, "/", 2);
   return 0;
 }
+char **darwin_words;
+char ***darwin__NSGetArgv() { return &darwin_words; }
+int *darwin__NSGetArgc() {
+  static int count;
+  for (count = 0; darwin_words[count] != nullptr;) ++count;
+  return &count;
+}
 void darwin_dyld_stub_binder() { ztk::loader::Fail("a name was not bound"); }
 
 }  // extern "C"

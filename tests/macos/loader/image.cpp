@@ -351,11 +351,15 @@ void *Resolve(const std::string &name) {
   const auto found = known.find(name);
   if (found != known.end()) return found->second;
   void *address = nullptr;
+  // Types are compared by the address of their description. dyld makes one of
+  // all copies; here that of the C++ library is taken, which cannot be changed.
+  if (name.starts_with("__ZTI"))
+    address = dlsym(RTLD_DEFAULT, name.c_str() + 1);
   for (const Image *image : theImages) {
+    if (address != nullptr) break;
     const auto definition = image->exports.find(name);
     if (definition != image->exports.end()) {
       address = definition->second;
-      break;
     }
   }
   if (address == nullptr) address = ClassNamed(name);

@@ -6,6 +6,9 @@
 
 #include "image.h"
 
+// What a program asks for by _NSGetArgv().
+extern "C" char **darwin_words;
+
 int main(int count, char **arguments, char **environment) {
   using namespace ztk::loader;
   if (count < 2) Fail("name a program of macOS, and what it is given");
@@ -13,6 +16,7 @@ int main(int count, char **arguments, char **environment) {
   const std::vector<Image *> images = Load(arguments[1]);
   ++arguments;
   --count;
+  darwin_words = arguments;
   using Code = void (*)(int, char **, char **, void *);
   // A library is ready before who uses it.
   for (auto image = images.rbegin(); image != images.rend(); ++image) {
