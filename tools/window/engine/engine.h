@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+//
+// All that the window does besides drawing: it keeps the state up to date and
+// makes changes, through the library and the model, in one worker thread.
+#ifndef ZTK_TOOLS_WINDOW_ENGINE_ENGINE_H_
+#define ZTK_TOOLS_WINDOW_ENGINE_ENGINE_H_
+
+#include <QObject>
+#include <memory>
+
+#include "window/engine/state.h"
+
+namespace ztk::window {
+
+// Lives in the thread of the user interface. No function of it waits for a
+// mixer, a file or the message bus.
+class Engine : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit Engine(QObject *parent = nullptr);
+  ~Engine() override;
+
+  // Registers for changes of other programs, then starts the worker. Called
+  // once, from the thread that runs the event loop.
+  void start();
+
+  const State &state() const { return state_; }
+
+  // Sends, stores and announces a choice. A newer wish for the same channel
+  // replaces one that still waits.
+  void choose(const model::Setting &setting, std::uint32_t channel,
+              std::uint32_t index);
+  // Takes back the last step of the history that `ztk undo` uses too.
+  void undo();
+  // Sends all that is remembered, for every model, to the mixers again.
+  void resendAll();
+  // Sends the settings again to each mixer that is plugged in, as
+  // `ztk autoapply` does.
+  void setAutoapply(bool on);
+  // Looks for mixers and asks them at once.
+  void checkNow();
+  // Selectors are read while the window is visible.
+  void setVisible(bool visible);
+
+  // Clubs are files of `ztk export` in one folder. The answer to previewClub()
+  // is the signal clubPreviewed().
+  void previewClub(const QString &path);
+  void applyClub(const QString &path);
+  void saveClub(const QString &name);
+
+ signals:
+  // Some part of state() is different now.
+  void stateChanged();
+  void clubPreviewed(const ClubPreview &preview);
+  // A sentence about something that was asked for and failed, or that ended
+  // otherwise than the user may expect.
+  void reported(const QString &message);
+
+ private:
+  class Private;
+  friend class Private;
+
+  State state_;
+  std::unique_ptr<Private> private_;
+};
+
+}  // namespace ztk::window
+
+#endif  // ZTK_TOOLS_WINDOW_ENGINE_ENGINE_H_
