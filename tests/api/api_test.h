@@ -23,8 +23,13 @@ using testing::ElementsAreArray;
 using Bus = std::vector<Device>;
 using Steps = std::vector<std::string>;
 
+// Where the version of macOS is read.
+inline constexpr char kSystemFile[] =
+    "/System/Library/CoreServices/SystemVersion.plist";
+
 // What outputs hold before a call that must not write them.
 inline constexpr std::uint32_t kUntouched = 0xA5A5A5A5;
+inline constexpr std::int32_t kLowest = -2147483647 - 1;
 inline const ZTKTextRef kUntouchedText = ZTK_TEXT("untouched");
 
 // A mixer that is counted and does not open.

@@ -4,8 +4,6 @@
 namespace ztk::test {
 namespace {
 
-constexpr std::int32_t kLowest = -2147483647 - 1;
-
 class GetNumOfBoostLevelIndex : public ApiTest {};
 
 TEST_F(GetNumOfBoostLevelIndex, IsFour) {

@@ -6,8 +6,6 @@
 namespace ztk::test {
 namespace {
 
-constexpr std::int32_t kLowest = -2147483647 - 1;
-
 class GetCurrentUSBInputAudioIndex : public ApiTest {
  protected:
   static std::uint32_t IndexOf(std::int32_t channel) {

@@ -4,8 +4,7 @@
 namespace ztk::test {
 namespace {
 
-constexpr std::int32_t kLowest = -2147483647 - 1;
-constexpr char kReadSelectors[] = "c0 00 0000 8002 0004 -> 00 04 04 04";
+constexpr char kReadOutputSelectors[] = "c0 00 0000 8002 0004 -> 00 04 04 04";
 
 class GetNumOfOutputAudioIndex : public ApiTest {};
 
@@ -80,7 +79,7 @@ TEST_F(SetUSBOutputAudio, SendsToEveryMixerThatOpens) {
                    .then = {Written(kB5File, "Input1=2"),
                             "post VRM-B5 OutputAudio Change "
                             "{ProductID=8, Channel=1, Index=2} immediately"},
-                   .secondRequest = kReadSelectors},
+                   .secondRequest = kReadOutputSelectors},
                   [] { return ZTK_SetUSBOutputAudio(8, 1, 2); });
 }
 
@@ -124,16 +123,16 @@ TEST_F(SetUSBOutputAudio, TakesTwoMoreChannelsAndSendsNothingForThem) {
                                       "post VRM-B5 OutputAudio Change "
                                       "{ProductID=8, Channel=3, Index=0} "
                                       "immediately"},
-                                     Visit(1, kReadSelectors),
-                                     Visit(2, kReadSelectors)})));
+                                     Visit(1, kReadOutputSelectors),
+                                     Visit(2, kReadOutputSelectors)})));
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 4, 2), 100u);
   EXPECT_THAT(
       TakeSteps(),
       ElementsAreArray(Join({{"count", Written(kB5File, "Input3=0, Input4=2"),
                               "post VRM-B5 OutputAudio Change "
                               "{ProductID=8, Channel=4, Index=2} immediately"},
-                             Visit(1, kReadSelectors),
-                             Visit(2, kReadSelectors)})));
+                             Visit(1, kReadOutputSelectors),
+                             Visit(2, kReadOutputSelectors)})));
 }
 
 TEST_F(SetUSBOutputAudio, RejectsAFourthChoiceAChannelFiveAndOtherProducts) {
@@ -191,7 +190,7 @@ TEST_F(SetUSBOutputAudioDefault, SendsToEveryMixerThatOpens) {
   ExpectEveryWalk({.request = "40 03 0201 8016 0000",
                    .then = {"post VRM-B5 OutputAudio Change "
                             "{ProductID=8, Channel=1, Index=1} immediately"},
-                   .secondRequest = kReadSelectors},
+                   .secondRequest = kReadOutputSelectors},
                   [] { return ZTK_SetUSBOutputAudioDefault(8, 1); });
 }
 
@@ -214,11 +213,11 @@ TEST_F(SetUSBOutputAudioDefault, PostsTheChannelAsIndexWhereNothingIsSent) {
       ElementsAreArray(Join({{"count",
                               "post VRM-B5 OutputAudio Change "
                               "{ProductID=8, Channel=3, Index=3} immediately"},
-                             Visit(1, kReadSelectors),
+                             Visit(1, kReadOutputSelectors),
                              {"count",
                               "post VRM-B5 OutputAudio Change "
                               "{ProductID=8, Channel=4, Index=4} immediately"},
-                             Visit(1, kReadSelectors)})));
+                             Visit(1, kReadOutputSelectors)})));
   EXPECT_THAT(TheWorld().files, IsEmpty());
 }
 

@@ -89,9 +89,6 @@ inline std::int32_t Signed(std::uint32_t channel) {
   return static_cast<std::int32_t>(channel);
 }
 
-inline void OnChannel(std::int32_t, std::int32_t, void *) {}
-inline void OnIndex(std::int32_t, void *) {}
-
 // Columns: name, products, channels and indexes, output, call.
 // clang-format off
 inline const Gate kGates[] = {

@@ -4,8 +4,6 @@
 namespace ztk::test {
 namespace {
 
-constexpr char kSystemFile[] =
-    "/System/Library/CoreServices/SystemVersion.plist";
 constexpr char kPkgFile[] =
     "/private/var/db/receipts/com.tarvix.VRM-D6.pkg.plist";
 constexpr char kUtilityFile[] =

@@ -4,8 +4,6 @@
 namespace ztk::test {
 namespace {
 
-constexpr char kSystemFile[] =
-    "/System/Library/CoreServices/SystemVersion.plist";
 constexpr char kNewBundle[] = "/Library/Frameworks/VRM-D6Setup.framework";
 constexpr char kOldBundle[] =
     "/System/Library/Frameworks/VRM-D6Setup.framework";

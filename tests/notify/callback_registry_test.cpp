@@ -11,9 +11,7 @@
 namespace ztk::test {
 namespace {
 
-void OnChannel(std::int32_t, std::int32_t, void *) {}
 void OnChannelToo(std::int32_t, std::int32_t, void *) {}
-void OnIndex(std::int32_t, void *) {}
 void OnIndexToo(std::int32_t, void *) {}
 
 // One family, its two shapes of callback made alike.

@@ -22,9 +22,6 @@ struct Poster {
   std::function<ZTKResult()> registerAgain;
 };
 
-void OnChannel(std::int32_t, std::int32_t, void *) {}
-void OnIndex(std::int32_t, void *) {}
-
 const Poster kPosters[] = {
     {.name = "input audio",
      .lastInfo = &inputAudioInfo,

@@ -48,6 +48,10 @@ inline constexpr char kB5File[] =
 inline constexpr char kK2File[] =
     "/Users/dj/Library/Preferences/com.tarvix.VRM-K2autosetup.plist";
 
+// Callbacks that do nothing.
+inline void OnChannel(std::int32_t, std::int32_t, void *) {}
+inline void OnIndex(std::int32_t, void *) {}
+
 class CoreTest : public testing::Test {
  protected:
   CoreTest() {

@@ -11,7 +11,7 @@ namespace ztk::test {
 namespace {
 
 constexpr char kUnitFile[] = ZTK_DATA_DIR "/ztk/ztk-apply@.service";
-constexpr char kRule[] = "/usr/local/lib/udev/rules.d/71-ztk-apply.rules";
+constexpr char kPlugInRule[] = "/usr/local/lib/udev/rules.d/71-ztk-apply.rules";
 
 class Autoapply : public CliWorld {
  protected:
@@ -57,7 +57,7 @@ TEST_F(Autoapply, IsOffUntilAskedFor) {
 
 TEST_F(Autoapply, MakesTheUnitKnownForGood) {
   Remember("VRM-D6", {{"Output1", 2}});
-  const Result result = WithFiles({kUnitFile, kRule}, "ztk autoapply on");
+  const Result result = WithFiles({kUnitFile, kPlugInRule}, "ztk autoapply on");
   SKIP_WITHOUT_NAMESPACE(result);
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(
@@ -97,9 +97,9 @@ TEST_F(Autoapply, TellsProgramsWhetherItIsOn) {
 
 TEST_F(Autoapply, NamesTheRuleThatStartsIt) {
   manager_->KnowUnit(true);
-  const Result result = WithFiles({kRule}, "ztk autoapply status --json");
+  const Result result = WithFiles({kPlugInRule}, "ztk autoapply status --json");
   SKIP_WITHOUT_NAMESPACE(result);
-  EXPECT_EQ(OneObject(result.out)["autoapply"]["rule"], kRule);
+  EXPECT_EQ(OneObject(result.out)["autoapply"]["rule"], kPlugInRule);
 }
 
 TEST_F(Autoapply, SaysThatNothingStartsItWithoutTheRule) {
@@ -114,7 +114,7 @@ TEST_F(Autoapply, SaysThatNothingStartsItWithoutTheRule) {
 }
 
 TEST_F(Autoapply, NeedsAnInstalledUnit) {
-  const Result result = WithFiles({kRule}, "ztk autoapply on");
+  const Result result = WithFiles({kPlugInRule}, "ztk autoapply on");
   SKIP_WITHOUT_NAMESPACE(result);
   EXPECT_EQ(result.status, 5);
   EXPECT_EQ(result.out, "");
@@ -127,8 +127,8 @@ TEST_F(Autoapply, SaysWhyItIsRefused) {
   manager_->RefuseWith("Not while the moon is up");
   for (const char *verb : {"on", "off", "status"}) {
     SCOPED_TRACE(verb);
-    const Result result =
-        WithFiles({kUnitFile, kRule}, std::string("ztk autoapply ") + verb);
+    const Result result = WithFiles({kUnitFile, kPlugInRule},
+                                    std::string("ztk autoapply ") + verb);
     SKIP_WITHOUT_NAMESPACE(result);
     EXPECT_EQ(result.status, 5);
     EXPECT_EQ(result.out, "");

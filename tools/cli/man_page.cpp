@@ -44,7 +44,7 @@ std::string Synopsis(const Program &program, const Command &command) {
   return synopsis;
 }
 
-std::string Examples(const std::vector<std::string> &examples) {
+std::string ExampleLines(const std::vector<std::string> &examples) {
   std::string lines;
   for (const std::string &example : examples) lines += "  " + example + "\n";
   return lines;
@@ -81,7 +81,7 @@ void AddCommand(const Program &program, const Command &command, Page *page) {
   page->Text("\n" + command.summary + ".");
   AddTerms(command.options, page);
   if (!command.note.empty()) page->Text("\n" + command.note);
-  page->Text("\nExample:\n" + Examples(command.examples));
+  page->Text("\nExample:\n" + ExampleLines(command.examples));
 }
 
 // What its commands share stands here once.
@@ -104,7 +104,7 @@ void AddGroup(const Program &program, const Group &group, Page *page) {
   const std::vector<Option> options = OptionsOf(commands);
   if (!options.empty()) page->Text("\nArguments and options:");
   AddTerms(options, page);
-  page->Text("\nExamples:\n" + Examples(examples));
+  page->Text("\nExamples:\n" + ExampleLines(examples));
 }
 
 void AddCommands(const Program &program, Page *page) {
@@ -161,7 +161,7 @@ std::string ManPage(const Program &program, const std::string &date,
   page.Line(Bold(program.name) + " " + Italic("COMMAND") + " [" +
             Italic("OPTION") + "]...");
   page.Section("EXAMPLES");
-  page.Text(Examples(program.examples));
+  page.Text(ExampleLines(program.examples));
   page.Section("DESCRIPTION");
   page.Text(program.about);
   AddSections(program.introduction(), &page);

@@ -46,7 +46,7 @@ class MixerReader {
     const usb::Code code = read(mixer_, reply->bytes, length);
     if (code == platform::usb::kSuccess) return "";
     silent_ = code == platform::usb::kTimeout;
-    return Described(code);
+    return model::Described(code);
   }
 
  private:

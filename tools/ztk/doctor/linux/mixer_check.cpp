@@ -43,7 +43,7 @@ std::string Contents(const std::string &path) {
 
 bool Exists(const std::string &path) { return access(path.c_str(), F_OK) == 0; }
 
-std::string Variable(const char *name) {
+std::string VariableOrEmpty(const char *name) {
   const char *value = std::getenv(name);
   return value == nullptr ? "" : value;
 }
@@ -77,7 +77,7 @@ std::optional<Container> AroundUs() {
                      .command = "flatpak override --user --device=all " +
                                 ShellQuoted(ValueIn(info, "name="))};
   }
-  if (const std::string snap = Variable("SNAP_NAME"); !snap.empty()) {
+  if (const std::string snap = VariableOrEmpty("SNAP_NAME"); !snap.empty()) {
     return Container{
         .name = "a snap",
         .command = "sudo snap connect " + ShellQuoted(snap) + ":raw-usb"};
@@ -167,7 +167,8 @@ std::string UserName() {
 Finding NoSeat(const std::string &what) {
   std::string cause =
       "the rule grants access to the user who is logged in at this seat, and ";
-  if (!Variable("SSH_CONNECTION").empty() || !Variable("SSH_TTY").empty()) {
+  if (!VariableOrEmpty("SSH_CONNECTION").empty() ||
+      !VariableOrEmpty("SSH_TTY").empty()) {
     cause += "you are logged in over ssh";
   } else if (const std::string service = Service(); !service.empty()) {
     cause += service + " belongs to no seat";
