@@ -9,7 +9,7 @@
 #include "build_config.h"
 #include "cli/parser.h"
 #include "cli/terminal.h"
-#include "ztk/commands/command_table.h"
+#include "ztk/commands/command.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/output.h"
 #include "ztk/progress.h"

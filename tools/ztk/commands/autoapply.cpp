@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/commands/command_table.h"
-
 #include <unistd.h>
 
 #include "build_config.h"
+#include "ztk/commands/other_commands.h"
 #include "ztk/system/facts.h"
 #include "ztk/system/user_manager.h"
 
@@ -43,7 +42,9 @@ Report Describe(bool on) {
   return report;
 }
 
-Report TurnOn(const Arguments & /*arguments*/) {
+}  // namespace
+
+Report TurnAutoapplyOn(const Arguments & /*arguments*/) {
   UserManager manager;
   const std::string file = UnitFile();
   if (access(file.c_str(), F_OK) != 0) {
@@ -56,40 +57,15 @@ Report TurnOn(const Arguments & /*arguments*/) {
   return Describe(manager.Knows(kUnit));
 }
 
-Report TurnOff(const Arguments & /*arguments*/) {
+Report TurnAutoapplyOff(const Arguments & /*arguments*/) {
   UserManager manager;
   manager.Unlink(kUnit);
   return Describe(manager.Knows(kUnit));
 }
 
-Report ShowState(const Arguments & /*arguments*/) {
+Report ShowAutoapply(const Arguments & /*arguments*/) {
   UserManager manager;
   return Describe(manager.Knows(kUnit));
-}
-
-cli::Command MakeAutoapply(const char *verb, const char *summary,
-                           Report (*run)(const Arguments &)) {
-  cli::Command command =
-      MakeCommand(std::string("autoapply ") + verb, summary, run);
-  command.note = AutoapplyFact();
-  command.examples = {"ztk " + command.path};
-  return command;
-}
-
-}  // namespace
-
-cli::Group AutoapplyGroup() {
-  return {.name = "autoapply",
-          .summary = "Send the remembered settings when a mixer is plugged in",
-          .note = AutoapplyFact(),
-          .example = "ztk autoapply on"};
-}
-
-std::vector<cli::Command> AutoapplyCommands() {
-  return {
-      MakeAutoapply("on", "Turn it on, for every mixer from now on", TurnOn),
-      MakeAutoapply("off", "Turn it off", TurnOff),
-      MakeAutoapply("status", "Show whether it is on", ShowState)};
 }
 
 }  // namespace ztk::program

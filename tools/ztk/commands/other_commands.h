@@ -4,7 +4,7 @@
 #ifndef ZTK_TOOLS_ZTK_COMMANDS_OTHER_COMMANDS_H_
 #define ZTK_TOOLS_ZTK_COMMANDS_OTHER_COMMANDS_H_
 
-#include "ztk/commands/command_table.h"
+#include "ztk/commands/command.h"
 #include "ztk/report.h"
 
 namespace ztk::program {
@@ -32,6 +32,11 @@ Report ShowOverview(const Arguments &arguments);
 
 // The library's sentence for a 101.
 Report ShowWarning(const Arguments &arguments);
+
+// Whether the remembered settings are sent when a mixer is plugged in.
+Report TurnAutoapplyOn(const Arguments &arguments);
+Report TurnAutoapplyOff(const Arguments &arguments);
+Report ShowAutoapply(const Arguments &arguments);
 
 // Writes a line for each change, as it comes, until it is interrupted.
 Report Watch(const Arguments &arguments);

@@ -3,7 +3,7 @@
 // The answer to `ztk` without a command, in a terminal.
 #include "cli/strings.h"
 #include "ztk/commands/other_commands.h"
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/model/mixers.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"

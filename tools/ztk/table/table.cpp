@@ -5,11 +5,12 @@
 
 #include "build_config.h"
 #include "ztk/command_line.h"
-#include "ztk/commands/command_table.h"
 #include "ztk/commands/other_commands.h"
-#include "ztk/commands/setting_commands.h"
+#include "ztk/commands/setting/setting_commands.h"
 #include "ztk/commands/warning.h"
 #include "ztk/report/setting_report.h"
+#include "ztk/system/facts.h"
+#include "ztk/table/table_parts.h"
 
 namespace ztk::program {
 
@@ -135,6 +136,29 @@ cli::Command MakeVersions() {
                    ShowVersions);
 }
 
+cli::Command MakeAutoapply(const char *verb, const char *summary,
+                           Report (*run)(const Arguments &)) {
+  cli::Command command =
+      MakeCommand(std::string("autoapply ") + verb, summary, run);
+  command.note = AutoapplyFact();
+  command.examples = {"ztk " + command.path};
+  return command;
+}
+
+cli::Group MakeAutoapplyGroup() {
+  return {.name = "autoapply",
+          .summary = "Send the remembered settings when a mixer is plugged in",
+          .note = AutoapplyFact(),
+          .example = "ztk autoapply on"};
+}
+
+std::vector<cli::Command> MakeAutoapplyCommands() {
+  return {MakeAutoapply("on", "Turn it on, for every mixer from now on",
+                        TurnAutoapplyOn),
+          MakeAutoapply("off", "Turn it off", TurnAutoapplyOff),
+          MakeAutoapply("status", "Show whether it is on", ShowAutoapply)};
+}
+
 void Append(cli::Command command, std::vector<cli::Command> *commands) {
   commands->push_back(std::move(command));
 }
@@ -155,7 +179,7 @@ std::vector<cli::Command> MakeCommands(const std::string &firstWord) {
     add(setting->name, [setting] { return SettingCommands(*setting); });
   }
   add("apply", MakeApply);
-  add("autoapply", AutoapplyCommands);
+  add("autoapply", MakeAutoapplyCommands);
   add("undo", MakeUndo);
   add("export", MakeExport);
   add("import", MakeImport);
@@ -177,7 +201,7 @@ std::vector<cli::Group> MakeGroups(const std::string &firstWord) {
                       .example = std::string("ztk ") + setting->name + " set " +
                                  setting->example});
   }
-  groups.push_back(AutoapplyGroup());
+  groups.push_back(MakeAutoapplyGroup());
   return groups;
 }
 

@@ -2,9 +2,9 @@
 //
 // The part of the table that each setting has: list, get, set, apply and what
 // only one of the settings has.
-#include "ztk/commands/command_table.h"
-#include "ztk/commands/setting_commands.h"
+#include "ztk/commands/setting/setting_commands.h"
 #include "ztk/report/setting_report.h"
+#include "ztk/table/table_parts.h"
 
 namespace ztk::program {
 

@@ -3,8 +3,8 @@
 // The sections of the manual page that are not made from the commands.
 #include <algorithm>
 
-#include "ztk/commands/command_table.h"
 #include "ztk/system/facts.h"
+#include "ztk/table/table_parts.h"
 
 namespace ztk::program {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/commands/setting_commands.h"
+#include "ztk/commands/setting/setting_commands.h"
 
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
 // What the commands of a setting share.
-#ifndef ZTK_TOOLS_ZTK_COMMANDS_SETTING_PARTS_H_
-#define ZTK_TOOLS_ZTK_COMMANDS_SETTING_PARTS_H_
+#ifndef ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_PARTS_H_
+#define ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_PARTS_H_
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "ztk/commands/command_table.h"
+#include "ztk/commands/command.h"
 #include "ztk/report/change_report.h"
 #include "ztk/report/setting_report.h"
 
@@ -62,4 +62,4 @@ DeliveryTexts NeverRemembered(const std::string &what,
 
 }  // namespace ztk::program
 
-#endif  // ZTK_TOOLS_ZTK_COMMANDS_SETTING_PARTS_H_
+#endif  // ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_PARTS_H_

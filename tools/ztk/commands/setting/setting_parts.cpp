@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/setting_parts.h"
 
 #include "cli/strings.h"
 #include "cli/suggest.h"
-#include "ztk/commands/pick.h"
+#include "ztk/commands/setting/pick.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/commands/setting_commands.h"
+#include "ztk/commands/setting/setting_commands.h"
 
 #include "cli/terminal.h"
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/model/remembered.h"
 
 namespace ztk::program {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/commands/setting_commands.h"
+#include "ztk/commands/setting/setting_commands.h"
 
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/progress.h"
 #include "ztk/report/dry_run_report.h"
 

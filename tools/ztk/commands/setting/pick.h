@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef ZTK_TOOLS_ZTK_COMMANDS_PICK_H_
-#define ZTK_TOOLS_ZTK_COMMANDS_PICK_H_
+#ifndef ZTK_TOOLS_ZTK_COMMANDS_SETTING_PICK_H_
+#define ZTK_TOOLS_ZTK_COMMANDS_SETTING_PICK_H_
 
 #include <cstdint>
 #include <string>
@@ -25,4 +25,4 @@ std::uint32_t PickChannel(const Setting &setting);
 
 }  // namespace ztk::program
 
-#endif  // ZTK_TOOLS_ZTK_COMMANDS_PICK_H_
+#endif  // ZTK_TOOLS_ZTK_COMMANDS_SETTING_PICK_H_

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/commands/setting_commands.h"
+#include "ztk/commands/setting/setting_commands.h"
 
 #include "cli/strings.h"
-#include "ztk/commands/pick.h"
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/pick.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/commands/warning.h"
 #include "ztk/report/dry_run_report.h"
 

@@ -2,11 +2,11 @@
 //
 // The words that completions offer for the arguments.
 #include "cli/strings.h"
-#include "ztk/commands/command_table.h"
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/commands/warning.h"
 #include "ztk/model/choice.h"
 #include "ztk/model/products.h"
+#include "ztk/table/table_parts.h"
 
 namespace ztk::program {
 

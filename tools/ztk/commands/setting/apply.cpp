@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "cli/strings.h"
-#include "ztk/commands/setting_commands.h"
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/setting_commands.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/resend.h"

@@ -2,10 +2,10 @@
 //
 // What can be done with a setting. Each throws a Failure when the words are
 // wrong or the library refuses; nothing was sent then.
-#ifndef ZTK_TOOLS_ZTK_COMMANDS_SETTING_COMMANDS_H_
-#define ZTK_TOOLS_ZTK_COMMANDS_SETTING_COMMANDS_H_
+#ifndef ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_COMMANDS_H_
+#define ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_COMMANDS_H_
 
-#include "ztk/commands/command_table.h"
+#include "ztk/commands/command.h"
 #include "ztk/model/settings.h"
 #include "ztk/report.h"
 
@@ -31,4 +31,4 @@ void AddChoiceList(const Setting &setting, std::uint32_t product,
 
 }  // namespace ztk::program
 
-#endif  // ZTK_TOOLS_ZTK_COMMANDS_SETTING_COMMANDS_H_
+#endif  // ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_COMMANDS_H_

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/commands/pick.h"
+#include "ztk/commands/setting/pick.h"
 
 #include <unistd.h>
 
@@ -10,7 +10,7 @@
 #include "cli/strings.h"
 #include "cli/suggest.h"
 #include "cli/terminal.h"
-#include "ztk/commands/setting_parts.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/output.h"
 #include "ztk/progress.h"
 #include "ztk/report.h"
