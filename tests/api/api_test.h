@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "support/core_test.h"
-#include "support/text.h"
+#include "support/plain_text.h"
 
 namespace ztk::test {
 

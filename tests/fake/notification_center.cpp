@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "fake/world.h"
-#include "support/text.h"
+#include "support/plain_text.h"
 
 namespace ztk::platform::notification_center {
 

@@ -3,7 +3,7 @@
 
 #include "fake/world.h"
 #include "platform/text.h"
-#include "support/text.h"
+#include "support/plain_text.h"
 
 namespace ztk::platform::paths {
 

@@ -5,7 +5,7 @@
 
 #include "fake/world.h"
 #include "platform/common/number_rules.h"
-#include "support/text.h"
+#include "support/plain_text.h"
 
 namespace ztk::platform::property_list {
 

@@ -8,7 +8,7 @@
 #include <thread>
 
 #include "support/core_test.h"
-#include "support/text.h"
+#include "support/plain_text.h"
 
 namespace ztk::test {
 namespace {

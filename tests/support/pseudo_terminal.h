@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // A user at a terminal: sees what a program shows and types when it is time.
-#ifndef ZTK_TESTS_CLI_PSEUDO_TERMINAL_H_
-#define ZTK_TESTS_CLI_PSEUDO_TERMINAL_H_
+#ifndef ZTK_TESTS_SUPPORT_PSEUDO_TERMINAL_H_
+#define ZTK_TESTS_SUPPORT_PSEUDO_TERMINAL_H_
 
 #include <sys/types.h>
 
@@ -43,4 +43,4 @@ class PseudoTerminal {
 
 }  // namespace ztk::test
 
-#endif  // ZTK_TESTS_CLI_PSEUDO_TERMINAL_H_
+#endif  // ZTK_TESTS_SUPPORT_PSEUDO_TERMINAL_H_

@@ -2,8 +2,8 @@
 //
 // Runs ztk as a user does: in a sandbox with virtual mixers, with a message
 // bus and a home of the test's own.
-#ifndef ZTK_TESTS_CLI_CLI_WORLD_H_
-#define ZTK_TESTS_CLI_CLI_WORLD_H_
+#ifndef ZTK_TESTS_ZTK_CLI_WORLD_H_
+#define ZTK_TESTS_ZTK_CLI_WORLD_H_
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -85,4 +85,4 @@ Json OneObject(const std::string &out);
 
 }  // namespace ztk::test
 
-#endif  // ZTK_TESTS_CLI_CLI_WORLD_H_
+#endif  // ZTK_TESTS_ZTK_CLI_WORLD_H_

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // What ztk doctor finds, by part, with what it says.
-#ifndef ZTK_TESTS_CLI_DOCTOR_WORLD_H_
-#define ZTK_TESTS_CLI_DOCTOR_WORLD_H_
+#ifndef ZTK_TESTS_ZTK_DOCTOR_WORLD_H_
+#define ZTK_TESTS_ZTK_DOCTOR_WORLD_H_
 
 #include <unistd.h>
 
@@ -45,4 +45,4 @@ class DoctorWorld : public CliWorld {
 
 }  // namespace ztk::test
 
-#endif  // ZTK_TESTS_CLI_DOCTOR_WORLD_H_
+#endif  // ZTK_TESTS_ZTK_DOCTOR_WORLD_H_

@@ -2,8 +2,8 @@
 //
 // Stands on a message bus in place of the systemd of a user's session, and
 // writes down what it is asked to change.
-#ifndef ZTK_TESTS_CLI_FAKE_USER_MANAGER_H_
-#define ZTK_TESTS_CLI_FAKE_USER_MANAGER_H_
+#ifndef ZTK_TESTS_ZTK_FAKE_USER_MANAGER_H_
+#define ZTK_TESTS_ZTK_FAKE_USER_MANAGER_H_
 
 #include <atomic>
 #include <string>
@@ -42,4 +42,4 @@ class FakeUserManager {
 
 }  // namespace ztk::test
 
-#endif  // ZTK_TESTS_CLI_FAKE_USER_MANAGER_H_
+#endif  // ZTK_TESTS_ZTK_FAKE_USER_MANAGER_H_

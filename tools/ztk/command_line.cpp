@@ -22,7 +22,7 @@ namespace {
 // command line is parsed.
 bool AsksForJson(const std::vector<std::string> &words) {
   const auto end = std::find(words.begin(), words.end(), "--");
-  return std::find(words.begin(), end, Parameter::Json) != end;
+  return std::find(words.begin(), end, Parameter::kJson) != end;
 }
 
 Report Interrupted() {
@@ -83,8 +83,8 @@ int RunCommandLine(const std::vector<std::string> &words) {
 int RunCommand(const std::string &path,
                const std::function<Report(const cli::Arguments &)> &run,
                const cli::Arguments &arguments) {
-  const Form form{.json = arguments.Has(Parameter::Json),
-                  .quiet = arguments.Has(Parameter::Quiet)};
+  const Form form{.json = arguments.Has(Parameter::kJson),
+                  .quiet = arguments.Has(Parameter::kQuiet)};
   EndOnInterrupt(form.json ? JsonLine(path, Interrupted()) + "\n" : "");
   Report report;
   try {

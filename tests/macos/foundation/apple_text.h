@@ -2,8 +2,8 @@
 //
 // Read before everything else in each source: has the public header give the
 // text type of macOS, and leaves all other headers believe that this is Linux.
-#ifndef ZTK_TESTS_MACOS_APPLE_TEXT_H_
-#define ZTK_TESTS_MACOS_APPLE_TEXT_H_
+#ifndef ZTK_TESTS_MACOS_FOUNDATION_APPLE_TEXT_H_
+#define ZTK_TESTS_MACOS_FOUNDATION_APPLE_TEXT_H_
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <stdint.h>
@@ -12,4 +12,4 @@
 #include "ZTKFunc.h"
 #undef __APPLE__
 
-#endif  // ZTK_TESTS_MACOS_APPLE_TEXT_H_
+#endif  // ZTK_TESTS_MACOS_FOUNDATION_APPLE_TEXT_H_

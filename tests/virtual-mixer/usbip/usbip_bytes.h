@@ -2,8 +2,8 @@
 //
 // USB/IP as a client writes it, from the protocol's documentation and by
 // nothing else.
-#ifndef ZTK_TESTS_VIRTUAL_MIXER_USBIP_BYTES_H_
-#define ZTK_TESTS_VIRTUAL_MIXER_USBIP_BYTES_H_
+#ifndef ZTK_TESTS_VIRTUAL_MIXER_USBIP_USBIP_BYTES_H_
+#define ZTK_TESTS_VIRTUAL_MIXER_USBIP_USBIP_BYTES_H_
 
 #include <cstdint>
 #include <initializer_list>
@@ -110,4 +110,4 @@ inline Bytes MixerRecord(int number) {
 
 }  // namespace ztk::test
 
-#endif  // ZTK_TESTS_VIRTUAL_MIXER_USBIP_BYTES_H_
+#endif  // ZTK_TESTS_VIRTUAL_MIXER_USBIP_USBIP_BYTES_H_

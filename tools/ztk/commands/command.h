@@ -12,18 +12,18 @@ using cli::Arguments;
 
 // The names under which Arguments has the values.
 struct Parameter {
-  static constexpr char Channel[] = "CHANNEL";
-  static constexpr char Choice[] = "CHOICE";  // one word or several
-  static constexpr char High[] = "HIGH";
-  static constexpr char Source[] = "SOURCE";
-  static constexpr char File[] = "FILE";
-  static constexpr char Product[] = "--product";
-  static constexpr char OfChannel[] = "--channel";
-  static constexpr char Language[] = "--language";
-  static constexpr char ReportFile[] = "--report";
-  static constexpr char DryRun[] = "--dry-run";
-  static constexpr char Json[] = "--json";
-  static constexpr char Quiet[] = "--quiet";
+  static constexpr char kChannel[] = "CHANNEL";
+  static constexpr char kChoice[] = "CHOICE";  // one word or several
+  static constexpr char kHigh[] = "HIGH";
+  static constexpr char kSource[] = "SOURCE";
+  static constexpr char kFile[] = "FILE";
+  static constexpr char kProduct[] = "--product";
+  static constexpr char kOfChannel[] = "--channel";
+  static constexpr char kLanguage[] = "--language";
+  static constexpr char kReportFile[] = "--report";
+  static constexpr char kDryRun[] = "--dry-run";
+  static constexpr char kJson[] = "--json";
+  static constexpr char kQuiet[] = "--quiet";
 };
 
 }  // namespace ztk::program

@@ -65,7 +65,7 @@ Report Diagnose(const Arguments &arguments) {
       if (!finding.isNote) ++problems;
     }
   }
-  if (const std::string *file = arguments.Find(Parameter::ReportFile)) {
+  if (const std::string *file = arguments.Find(Parameter::kReportFile)) {
     AddMixerReport(*file, &report);
   }
   if (problems > 0) {

@@ -83,7 +83,7 @@ void AddImported(const MadeChange &one, const Reach &reach, Report *report) {
 }  // namespace
 
 Report Import(const Arguments &arguments) {
-  const std::string *file = arguments.Find(Parameter::File);
+  const std::string *file = arguments.Find(Parameter::kFile);
   if (file == nullptr) {
     throw Failure(ExitCode::Usage,
                   "FILE is missing: one that ztk export has written, or - for "
@@ -94,7 +94,7 @@ Report Import(const Arguments &arguments) {
   const std::vector<Change> &changes = import.changes;
 
   Report report;
-  if (arguments.Has(Parameter::DryRun)) {
+  if (arguments.Has(Parameter::kDryRun)) {
     Plan plan;
     for (const Change &change : changes) plan.AddChange(change);
     ReportDryRun(plan, &report);

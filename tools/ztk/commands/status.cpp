@@ -7,7 +7,7 @@
 #include "cli/strings.h"
 #include "usb/mixers.h"
 #include "ztk/commands/other_commands.h"
-#include "ztk/model/mixers.h"
+#include "ztk/model/reach.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"
 #include "ztk/progress.h"

@@ -218,7 +218,7 @@ Report Undo(const Arguments &arguments) {
         "the history is damaged; what can be read of it is used");
   }
   if (!history.steps().empty()) {
-    UndoLast(arguments.Has(Parameter::DryRun), &history, &report);
+    UndoLast(arguments.Has(Parameter::kDryRun), &history, &report);
     return report;
   }
   report.fields["settings"] = Json::array();

@@ -9,7 +9,7 @@
 #include "ztk/commands/other_commands.h"
 #include "ztk/model/products.h"
 #include "ztk/system/facts.h"
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::program {
 

@@ -11,7 +11,7 @@
 #include "ztk/progress.h"
 #include "ztk/report/change_report.h"
 #include "ztk/system/facts.h"
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::program {
 
@@ -141,7 +141,7 @@ std::vector<std::string> LanguageNames() {
 
 Report ShowWarning(const Arguments &arguments) {
   std::uint32_t channel = 0;
-  if (const std::string *word = arguments.Find(Parameter::OfChannel)) {
+  if (const std::string *word = arguments.Find(Parameter::kOfChannel)) {
     const auto number = cli::ParseNumber(*word);
     if (!number || *number < 1 || *number > kInput.channels) {
       throw Failure(ExitCode::Usage,
@@ -151,7 +151,7 @@ Report ShowWarning(const Arguments &arguments) {
     channel = *number - 1;
   }
   std::uint32_t language = kUsersLanguage;
-  if (const std::string *word = arguments.Find(Parameter::Language)) {
+  if (const std::string *word = arguments.Find(Parameter::kLanguage)) {
     language = ParseLanguage(*word);
   }
   ZTKTextRef text = nullptr;

@@ -76,12 +76,12 @@ void SayReady() { WriteError("watching for changes; Ctrl-C ends"); }
 }  // namespace
 
 Report Watch(const Arguments &arguments) {
-  if (arguments.Has(Parameter::Quiet)) {
+  if (arguments.Has(Parameter::kQuiet)) {
     throw Failure(ExitCode::Usage,
                   "--quiet would hide the changes that ztk watch shows; leave "
                   "it out");
   }
-  Watcher watcher{.json = arguments.Has(Parameter::Json), .writeError = 0};
+  Watcher watcher{.json = arguments.Has(Parameter::kJson), .writeError = 0};
   Listener input{.watcher = &watcher, .setting = &kInput};
   Listener output{.watcher = &watcher, .setting = &kOutput};
   Listener boost{.watcher = &watcher, .setting = &kBoost};

@@ -14,7 +14,7 @@
 #include "platform/text.h"
 #include "store/settings_path.h"
 #include "ztk/doctor/finding.h"
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::model {
 

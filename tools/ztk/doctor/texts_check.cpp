@@ -6,7 +6,7 @@
 #include "platform/text.h"
 #include "ztk/doctor/finding.h"
 #include "ztk/system/facts.h"
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::model {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/diagnosis.h"
 
-#include "ztk/model/mixers.h"
+#include "ztk/model/reach.h"
 #include "ztk/model/settings.h"
 
 namespace ztk::model {

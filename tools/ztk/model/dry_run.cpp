@@ -6,8 +6,8 @@
 #include "store/settings_path.h"
 #include "usb/USB.h"
 #include "ztk/model/remembered.h"
+#include "ztk/system/library_text.h"
 #include "ztk/system/places.h"
-#include "ztk/system/text.h"
 
 namespace ztk::model {
 

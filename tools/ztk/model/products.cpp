@@ -3,7 +3,7 @@
 
 #include "api/product.h"
 #include "cli/strings.h"
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::model {
 

@@ -7,7 +7,7 @@
 #include "api/input_audio.h"
 #include "api/midi.h"
 #include "api/output_audio.h"
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::model {
 

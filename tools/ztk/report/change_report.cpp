@@ -6,7 +6,7 @@
 #include "platform/paths.h"
 #include "platform/text.h"
 #include "ztk/progress.h"
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::program {
 

@@ -21,8 +21,8 @@
 #include "cli/strings.h"
 #include "usb/USB.h"
 #include "usb/mixers.h"
+#include "ztk/system/library_text.h"
 #include "ztk/system/places.h"
-#include "ztk/system/text.h"
 #include "ztk/system/usb_devices.h"
 
 namespace ztk::program {

@@ -25,7 +25,7 @@ std::string Rest(const std::string &text, const std::string &words) {
 // None where the word before is not a channel.
 std::optional<std::uint32_t> ChannelBefore(const Setting &setting,
                                            const Arguments &before) {
-  const std::string *word = before.Find(Parameter::Channel);
+  const std::string *word = before.Find(Parameter::kChannel);
   return word == nullptr ? 0 : ParseChannel(setting, *word);
 }
 
@@ -48,7 +48,7 @@ std::vector<cli::Value> ChoiceValues(const Setting &setting,
                                      const std::string &begun) {
   const auto channel = ChannelBefore(setting, before);
   if (!channel) return {};
-  const std::string *words = before.Find(Parameter::Choice);
+  const std::string *words = before.Find(Parameter::kChoice);
   const std::string known = words == nullptr ? "" : *words;
   const bool number =
       !begun.empty() && begun.front() >= '0' && begun.front() <= '9';

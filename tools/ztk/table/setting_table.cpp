@@ -18,7 +18,7 @@ void AddChannel(const Setting &setting, const std::string &otherwise,
                 std::vector<cli::Option> *options) {
   if (setting.channels == 0) return;
   options->push_back(cli::Offering(
-      {.names = Parameter::Channel,
+      {.names = Parameter::kChannel,
        .value = "",
        .description =
            "Channel, 1 to " + std::to_string(setting.channels) + otherwise,
@@ -65,7 +65,7 @@ cli::Command MakeSet(const Setting &setting) {
   AddChannel(setting, "; in a terminal, ztk asks when left out",
              &command.options);
   command.options.push_back(
-      {.names = Parameter::Choice,
+      {.names = Parameter::kChoice,
        .value = "",
        .description = "Number as listed, text, or the beginning of the text; "
                       "in a terminal, ztk asks when left out",
@@ -85,13 +85,13 @@ cli::Command MakeRaw() {
       SendRaw);
   AddChannel(kInput, "", &command.options);
   command.options.push_back(
-      {.names = Parameter::High,
+      {.names = Parameter::kHigh,
        .value = "",
        .description = "Number whose successor (number + 1) is sent in the top "
                       "four bits of the value; decimal, or hexadecimal after "
                       "0x",
        .required = true});
-  command.options.push_back({.names = Parameter::Source,
+  command.options.push_back({.names = Parameter::kSource,
                              .value = "",
                              .description = "Source code, 0 to 15",
                              .required = true});
@@ -103,7 +103,7 @@ cli::Command MakeRaw() {
 }  // namespace
 
 cli::Option ProductOption(const std::string &otherwise) {
-  return cli::Offering({.names = Parameter::Product,
+  return cli::Offering({.names = Parameter::kProduct,
                         .value = "MODEL",
                         .description = "Model, by name or number; " +
                                        otherwise + " when left out"},
@@ -111,7 +111,7 @@ cli::Option ProductOption(const std::string &otherwise) {
 }
 
 cli::Option DryRunOption() {
-  return {.names = Parameter::DryRun,
+  return {.names = Parameter::kDryRun,
           .value = "",
           .description = "Show what would be done, and do nothing"};
 }

@@ -45,7 +45,7 @@ cli::Command MakeImport() {
       "The whole file is checked before anything is changed. Settings that\n"
       "are not in the file are left alone.",
       "ztk import club.json --dry-run", Import);
-  command.options = {{.names = Parameter::File,
+  command.options = {{.names = Parameter::kFile,
                       .value = "",
                       .description = "File that ztk export has written, or - "
                                      "for the standard input",
@@ -73,11 +73,11 @@ cli::Command MakeWarning() {
       "Without a mixer the text is always in your own language.",
       "ztk warning --language de", ShowWarning);
   command.options = {
-      cli::Offering({.names = Parameter::OfChannel,
+      cli::Offering({.names = Parameter::kOfChannel,
                      .value = "N",
                      .description = "Channel, 1 to 4; 1 when left out"},
                     [] { return ChannelValues(kInput, kWarningChannels); }),
-      cli::Offering({.names = Parameter::Language,
+      cli::Offering({.names = Parameter::kLanguage,
                      .value = "L",
                      .description = "German, de or 3, for example; your own "
                                     "language when left out"},
@@ -92,7 +92,7 @@ cli::Command MakeDoctor() {
       "the warning texts. Nothing is changed; each mixer receives one query.\n"
       "The exit status is 1 when a problem is found; a note is not a problem.",
       "ztk doctor", Diagnose);
-  command.options = {{.names = Parameter::ReportFile,
+  command.options = {{.names = Parameter::kReportFile,
                       .value = "FILE",
                       .description =
                           "Also write a report for a maintainer to this file: "
@@ -249,10 +249,10 @@ ztk::cli::Program ztk::cli::ThisProgram(const std::string &firstWord) {
           .examples = {"ztk status", "ztk input list 2",
                        "ztk input set 2 \"post ch2 fader\"",
                        "ztk input set 2 mic --dry-run", "ztk undo"},
-          .options = {{.names = Parameter::Json,
+          .options = {{.names = Parameter::kJson,
                        .value = "",
                        .description = "Write the answer as JSON"},
-                      {.names = std::string("-q,") + Parameter::Quiet,
+                      {.names = std::string("-q,") + Parameter::kQuiet,
                        .value = "",
                        .description = "Write only warnings and errors"}},
           .groups = MakeGroups(word),

@@ -104,7 +104,7 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
     report.text = "Nothing is remembered for " + what + ": nothing to send.\n";
     return report;
   }
-  if (arguments.Has(Parameter::DryRun)) return PlanOfApply(settings);
+  if (arguments.Has(Parameter::kDryRun)) return PlanOfApply(settings);
 
   const Reach reach = [&settings] {
     const Progress progress(kWaitingForMixer);
@@ -155,7 +155,7 @@ Report ApplySetting(const Setting &setting, const Arguments &arguments) {
 }
 
 Report ApplyAll(const Arguments &arguments) {
-  const std::string *word = arguments.Find(Parameter::Product);
+  const std::string *word = arguments.Find(Parameter::kProduct);
   const std::uint32_t product =
       word == nullptr ? kOwnProduct : ParseProduct(*word);
   std::vector<StoredValue> settings;

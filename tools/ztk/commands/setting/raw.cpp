@@ -64,9 +64,9 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
   const std::uint32_t product = ProductFor(setting, arguments);
   const std::uint32_t channel = RequiredChannel(setting, arguments, "raw");
   const RawValue raw{.channel = channel,
-                     .high = RawNumber(arguments, Parameter::High),
-                     .source = RawNumber(arguments, Parameter::Source)};
-  if (arguments.Has(Parameter::DryRun)) {
+                     .high = RawNumber(arguments, Parameter::kHigh),
+                     .source = RawNumber(arguments, Parameter::kSource)};
+  if (arguments.Has(Parameter::kDryRun)) {
     return PlanOfRaw(setting, product, raw);
   }
   RecordedCalls calls;

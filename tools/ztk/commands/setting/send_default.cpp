@@ -30,7 +30,7 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
   AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
   const std::vector<std::uint32_t> channels = ChannelsFor(setting, arguments);
-  if (arguments.Has(Parameter::DryRun)) {
+  if (arguments.Has(Parameter::kDryRun)) {
     return PlanOfDefault(setting, product, channels);
   }
   RecordedCalls calls;

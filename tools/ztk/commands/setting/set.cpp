@@ -17,8 +17,8 @@ Choice Choose(const Setting &setting, std::uint32_t product,
               std::uint32_t channel, const Arguments &arguments) {
   const std::string place = PlaceName(setting, channel);
   const std::vector<Choice> choices = ServedChoices(setting, product, channel);
-  const std::string *words = arguments.Find(Parameter::Choice);
-  if (words == nullptr && !arguments.Has(Parameter::Json) && CanPick()) {
+  const std::string *words = arguments.Find(Parameter::kChoice);
+  if (words == nullptr && !arguments.Has(Parameter::kJson) && CanPick()) {
     Report list;
     AddChoiceList(setting, product, channel, &list);
     return Pick(place, list.text, choices);
@@ -65,7 +65,7 @@ Report SetChoice(const Setting &setting, const Arguments &arguments) {
                       .product = product,
                       .channel = channel,
                       .index = choice.number - 1};
-  if (arguments.Has(Parameter::DryRun)) return PlanOfSet(wanted, choice);
+  if (arguments.Has(Parameter::kDryRun)) return PlanOfSet(wanted, choice);
 
   Report report;
   const MadeChanges made =

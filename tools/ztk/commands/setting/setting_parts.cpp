@@ -14,7 +14,7 @@ std::string SeeHelp(const Setting &setting, const char *verb) {
 }
 
 std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments) {
-  const std::string *word = arguments.Find(Parameter::Product);
+  const std::string *word = arguments.Find(Parameter::kProduct);
   return word == nullptr ? setting.product : ParseProduct(*word);
 }
 
@@ -29,7 +29,7 @@ std::optional<std::uint32_t> ParseChannel(const Setting &setting,
 
 std::optional<std::uint32_t> ChannelFor(const Setting &setting,
                                         const Arguments &arguments) {
-  const std::string *word = arguments.Find(Parameter::Channel);
+  const std::string *word = arguments.Find(Parameter::kChannel);
   if (word == nullptr) return std::nullopt;
   if (const auto channel = ParseChannel(setting, *word)) return channel;
   throw Failure(ExitCode::Usage,
@@ -53,7 +53,8 @@ std::uint32_t RequiredChannel(const Setting &setting,
                               const Arguments &arguments, const char *verb) {
   if (const auto channel = ChannelFor(setting, arguments)) return *channel;
   if (setting.channels == 0) return 0;
-  if (!arguments.Has(Parameter::Json) && CanPick()) return PickChannel(setting);
+  if (!arguments.Has(Parameter::kJson) && CanPick())
+    return PickChannel(setting);
   throw Failure(ExitCode::Usage, "a CHANNEL is missing; accepted: 1 to " +
                                      std::to_string(setting.channels) +
                                      SeeHelp(setting, verb));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/mixers.h"
+#include "ztk/model/reach.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Which mixers were reached, and why others were not.
-#ifndef ZTK_TOOLS_ZTK_MODEL_MIXERS_H_
-#define ZTK_TOOLS_ZTK_MODEL_MIXERS_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_REACH_H_
+#define ZTK_TOOLS_ZTK_MODEL_REACH_H_
 
 #include <cstdint>
 #include <string>
@@ -81,4 +81,4 @@ std::string Described(usb::Code code);
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_MIXERS_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_REACH_H_

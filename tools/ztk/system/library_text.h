@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Between the library's texts and this program's, which are UTF-8.
-#ifndef ZTK_TOOLS_ZTK_SYSTEM_TEXT_H_
-#define ZTK_TOOLS_ZTK_SYSTEM_TEXT_H_
+#ifndef ZTK_TOOLS_ZTK_SYSTEM_LIBRARY_TEXT_H_
+#define ZTK_TOOLS_ZTK_SYSTEM_LIBRARY_TEXT_H_
 
 #include <string>
 
@@ -36,4 +36,4 @@ auto WithText(const std::string &text, Function function) {
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_SYSTEM_TEXT_H_
+#endif  // ZTK_TOOLS_ZTK_SYSTEM_LIBRARY_TEXT_H_

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::model {
 

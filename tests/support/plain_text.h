@@ -2,8 +2,8 @@
 //
 // Between the library's texts and those of a test, which are UTF-8. The one
 // place of the tests that knows what a text is on each system.
-#ifndef ZTK_TESTS_SUPPORT_TEXT_H_
-#define ZTK_TESTS_SUPPORT_TEXT_H_
+#ifndef ZTK_TESTS_SUPPORT_PLAIN_TEXT_H_
+#define ZTK_TESTS_SUPPORT_PLAIN_TEXT_H_
 
 #include <cstddef>
 #include <string>
@@ -50,4 +50,4 @@ inline ZTKTextRef Lasting(const std::string &text) {
 
 }  // namespace ztk::test
 
-#endif  // ZTK_TESTS_SUPPORT_TEXT_H_
+#endif  // ZTK_TESTS_SUPPORT_PLAIN_TEXT_H_

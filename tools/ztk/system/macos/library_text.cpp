@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <CoreFoundation/CoreFoundation.h>
 
-#include "ztk/system/text.h"
+#include "ztk/system/library_text.h"
 
 namespace ztk::model {
 
