@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <unistd.h>
-
-#include "build_config.h"
+#include "ztk/model/autoapply.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/system/facts.h"
 #include "ztk/system/user_manager.h"
@@ -10,20 +8,10 @@ namespace ztk::program {
 
 namespace {
 
-// One unit for each mixer, so that two mixers plugged in at the same time are
-// both served.
-constexpr char kUnit[] = "ztk-apply@.service";
-
 constexpr char kNoRule[] =
     "the udev rule 71-ztk-apply.rules is missing, so nothing starts when a "
     "mixer is plugged in; install ztk from its package, or copy the rule of "
     "your build to /etc/udev/rules.d";
-
-std::string UnitFile() {
-  std::string file = build::kDataDir;
-  file.append("/ztk/").append(kUnit);
-  return file;
-}
 
 Report Describe(bool on) {
   Report report;
@@ -45,27 +33,17 @@ Report Describe(bool on) {
 }  // namespace
 
 Report TurnAutoapplyOn(const Arguments & /*arguments*/) {
-  UserManager manager;
-  const std::string file = UnitFile();
-  if (access(file.c_str(), F_OK) != 0) {
-    throw Failure(ExitCode::Failed,
-                  "the file " + file +
-                      ", which starts 'ztk apply', is missing; install ztk "
-                      "first");
-  }
-  manager.Link(file);
-  return Describe(manager.Knows(kUnit));
+  SetAutoapply(true);
+  return Describe(IsAutoapplyOn());
 }
 
 Report TurnAutoapplyOff(const Arguments & /*arguments*/) {
-  UserManager manager;
-  manager.Unlink(kUnit);
-  return Describe(manager.Knows(kUnit));
+  SetAutoapply(false);
+  return Describe(IsAutoapplyOn());
 }
 
 Report ShowAutoapply(const Arguments & /*arguments*/) {
-  UserManager manager;
-  return Describe(manager.Knows(kUnit));
+  return Describe(IsAutoapplyOn());
 }
 
 }  // namespace ztk::program
