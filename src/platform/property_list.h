@@ -68,8 +68,9 @@ ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path);
 // Sets an integer, replacing what stood under the key.
 void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value);
 
-// Reads an entry as a 32-bit integer: an integer's low 32 bits; a real
-// towards zero, held at the 32-bit limits, NaN as 0; a boolean as 0 or 1; a
+// Reads an entry as a 32-bit integer: an integer's low 32 bits; a real towards
+// zero, the lowest integer for NaN and what is out of range (on Apple silicon
+// Foundation answers the nearest limit, and 0 for NaN); a boolean as 0 or 1; a
 // text by its leading number, held at the limits, 0 without one. False, with
 // *value untouched, for an absent key or any other kind of entry.
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,

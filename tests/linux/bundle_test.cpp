@@ -4,7 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -13,6 +15,7 @@
 #include "platform/linux/bundle_search.h"
 #include "platform/linux/languages.h"
 #include "platform/text.h"
+#include "support/language_rows.h"
 
 namespace {
 
@@ -125,6 +128,20 @@ TEST(FolderNames, GoFromTheExactToTheGeneral) {
   for (const auto &row : rows) {
     SCOPED_TRACE(row.locale);
     EXPECT_EQ(FolderNames(row.locale), row.expected);
+  }
+}
+
+TEST(FolderNames, LeadToTheFolderThatMacOSTakes) {
+  const std::span<const char *const> folders = ztk::test::kLanguageFolders;
+  for (const ztk::test::LanguageRow &row : ztk::test::kLanguageRows) {
+    SCOPED_TRACE(row.language);
+    std::string first;
+    for (const std::string &name : FolderNames(row.language)) {
+      const bool exists =
+          std::find(folders.begin(), folders.end(), name) != folders.end();
+      if (first.empty() && exists) first = name;
+    }
+    EXPECT_EQ(first, row.folder);
   }
 }
 

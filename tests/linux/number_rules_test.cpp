@@ -21,7 +21,7 @@ TEST(IntegerFromInteger, TakesTheLowHalf) {
   EXPECT_EQ(IntegerFromInteger(0x100000007U), 7);
 }
 
-TEST(IntegerFromReal, CutsTowardsZeroAndHoldsAtTheLimits) {
+TEST(IntegerFromReal, CutsTowardsZeroAndIsTheLowestOutOfRange) {
   const struct {
     double real;
     std::int32_t expected;
@@ -31,13 +31,14 @@ TEST(IntegerFromReal, CutsTowardsZeroAndHoldsAtTheLimits) {
       {-0.0, 0},
       {2147483646.9, 2147483646},
       {2147483647.0, 2147483647},
-      {2147483648.0, 2147483647},
+      {2147483647.9, 2147483647},
+      {2147483648.0, -2147483647 - 1},
       {-2147483648.9, -2147483647 - 1},
-      {1e300, 2147483647},
+      {1e300, -2147483647 - 1},
       {-1e300, -2147483647 - 1},
-      {std::numeric_limits<double>::infinity(), 2147483647},
+      {std::numeric_limits<double>::infinity(), -2147483647 - 1},
       {-std::numeric_limits<double>::infinity(), -2147483647 - 1},
-      {std::numeric_limits<double>::quiet_NaN(), 0},
+      {std::numeric_limits<double>::quiet_NaN(), -2147483647 - 1},
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.real);

@@ -16,6 +16,8 @@
 
 #include "linux/plist_files.h"
 #include "linux/temp_folder.h"
+#include "support/number_rows.h"
+#include "support/plist_rows.h"
 
 namespace {
 
@@ -88,8 +90,8 @@ TEST_F(IntegerValue, ConvertsEveryKindOfEntry) {
       {"zeros only", Xml("<key>a</key><integer>000</integer>"), "0"},
       {"hexadecimal", Xml("<key>a</key><integer>0x10</integer>"), "16"},
       {"real", Xml("<key>a</key><real>-2.75</real>"), "-2"},
-      {"huge real", Xml("<key>a</key><real>1e40</real>"), "2147483647"},
-      {"nan", Xml("<key>a</key><real>nan</real>"), "0"},
+      {"huge real", Xml("<key>a</key><real>1e40</real>"), "-2147483648"},
+      {"nan", Xml("<key>a</key><real>nan</real>"), "-2147483648"},
       {"true", Xml("<key>a</key><true/>"), "1"},
       {"false", Xml("<key>a</key><false/>"), "0"},
       {"text", Xml("<key>a</key><string>5</string>"), "5"},
@@ -122,6 +124,16 @@ TEST_F(IntegerValue, ConvertsEveryKindOfEntry) {
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(IntegerOf(row.content), row.expected);
+  }
+}
+
+TEST_F(IntegerValue, FollowsTheTableOfBothPorts) {
+  for (const ztk::test::EntryRow &row : ztk::test::kEntryRows) {
+    SCOPED_TRACE(row.element);
+    const std::string content = Xml(std::string("<key>a</key>") + row.element);
+    EXPECT_EQ(IntegerOf(content), row.expected == ztk::test::kUnreadable
+                                      ? "unread"
+                                      : std::to_string(row.expected));
   }
 }
 
@@ -201,6 +213,15 @@ TEST_F(ReadFile, TakesOrdinaryVariationsOfXml) {
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(IntegerOf(row.content), "4");
+  }
+}
+
+// What differs is stricter or more tolerant than Foundation on purpose.
+TEST_F(ReadFile, TakesTheFormsThatFoundationTakes) {
+  for (const ztk::test::FormRow &row : ztk::test::FormRows()) {
+    SCOPED_TRACE(row.name);
+    const bool expected = row.read != row.differsOnLinux;
+    EXPECT_EQ(IntegerOf(row.bytes), expected ? "5" : "unread");
   }
 }
 

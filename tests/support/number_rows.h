@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What integer a text of a property list is read as. Both ports are tested with
-// this one table; the answers are those of Apple's Foundation.
+// What integer an entry of a property list is read as. Both ports are tested
+// with these tables, and so is Apple's CoreFoundation where it is installed:
+// the answers are its answers.
 #ifndef ZTK_TESTS_SUPPORT_NUMBER_ROWS_H_
 #define ZTK_TESTS_SUPPORT_NUMBER_ROWS_H_
 
@@ -16,6 +17,7 @@ struct NumberRow {
   bool onAppleOnly = false;
 };
 
+// The value of a text.
 inline constexpr NumberRow kNumberRows[] = {
     {"5", 5},
     {"5x", 5},
@@ -25,6 +27,7 @@ inline constexpr NumberRow kNumberRows[] = {
     {"- 7", -7, true},
     {" - 5", -5, true},
     {"--7", 0},
+    {"+-5", 0},
     {"007", 7},
     {"0x10", 0},
     {"3.9", 3},
@@ -38,12 +41,90 @@ inline constexpr NumberRow kNumberRows[] = {
     {"\u200B5", 5, true},
     {"\u200C5", 0},
     {"\u20285", 0},
+    {"\u06655", 0},
     {"2147483647", 2147483647},
     {"2147483648", 2147483647, true},
     {"-2147483648", -2147483647 - 1},
     {"-2147483649", -2147483647 - 1, true},
     {"99999999999999999999999999", 2147483647, true},
     {"-99999999999999999999999999", -2147483647 - 1, true},
+};
+
+// No row expects this value.
+inline constexpr std::int32_t kUnreadable = 0x5EADF11E;
+
+struct EntryRow {
+  const char *element;
+  // kUnreadable when the whole file is.
+  std::int32_t expected;
+};
+
+// The value of an element of an XML file.
+inline constexpr EntryRow kEntryRows[] = {
+    {"<integer>5</integer>", 5},
+    {"<integer>-5</integer>", -5},
+    {"<integer>+5</integer>", 5},
+    {"<integer>- 5</integer>", -5},
+    {"<integer>\n 5</integer>", 5},
+    {"<integer a=\"1\">5</integer >", 5},
+    {"<integer>007</integer>", 7},
+    {"<integer>-0099</integer>", -99},
+    {"<integer>00000000000000000000000005</integer>", 5},
+    {"<integer>000</integer>", 0},
+    {"<integer>0x10</integer>", 16},
+    {"<integer>-0X1f</integer>", -31},
+    // The low 32 bits of what takes more.
+    {"<integer>2147483648</integer>", -2147483647 - 1},
+    {"<integer>4294967301</integer>", 5},
+    {"<integer>-9223372036854775808</integer>", 0},
+    {"<integer>18446744073709551615</integer>", -1},
+    // Whatever is no integer, or takes more than 64 bits.
+    {"<integer>18446744073709551616</integer>", kUnreadable},
+    {"<integer>99999999999999999999</integer>", kUnreadable},
+    {"<integer>-9223372036854775809</integer>", kUnreadable},
+    {"<integer>0x10000000000000000</integer>", kUnreadable},
+    {"<integer>5x</integer>", kUnreadable},
+    {"<integer>5 </integer>", kUnreadable},
+    {"<integer>5.5</integer>", kUnreadable},
+    {"<integer>1e3</integer>", kUnreadable},
+    {"<integer>0x</integer>", kUnreadable},
+    {"<integer>abc</integer>", kUnreadable},
+    {"<integer>--5</integer>", kUnreadable},
+    {"<integer>-</integer>", kUnreadable},
+    {"<integer></integer>", kUnreadable},
+    {"<integer/>", kUnreadable},
+    {"<integer>&#53;</integer>", kUnreadable},
+    {"<integer>5<!-- a comment --></integer>", kUnreadable},
+    {"<real>2.9</real>", 2},
+    {"<real> -2.9</real>", -2},
+    {"<real>.5</real>", 0},
+    {"<real>5.</real>", 5},
+    {"<real>1e3</real>", 1000},
+    {"<real>2147483647.5</real>", 2147483647},
+    // Any real that is out of range is the least integer, on Intel processors.
+    {"<real>2147483648</real>", -2147483647 - 1},
+    {"<real>-2147483649</real>", -2147483647 - 1},
+    {"<real>4294967301.0</real>", -2147483647 - 1},
+    {"<real>1e300</real>", -2147483647 - 1},
+    {"<real>1e999</real>", -2147483647 - 1},
+    {"<real>-1e300</real>", -2147483647 - 1},
+    {"<real>nan</real>", -2147483647 - 1},
+    {"<real>+infinity</real>", -2147483647 - 1},
+    {"<real>INF</real>", -2147483647 - 1},
+    {"<real>5x</real>", kUnreadable},
+    {"<real>5 </real>", kUnreadable},
+    {"<real>1,5</real>", kUnreadable},
+    {"<real>0x10</real>", kUnreadable},
+    {"<real></real>", kUnreadable},
+    {"<real/>", kUnreadable},
+    {"<true/>", 1},
+    {"<false/>", 0},
+    {"<string>5x</string>", 5},
+    {"<string><![CDATA[5]]></string>", 5},
+    // Of two entries with one key the later one counts.
+    {"<integer>1</integer><key>a</key><integer>5</integer>", 5},
+    {"<string>1</string><key>b</key><true/><key>a</key><integer>5</integer>",
+     5},
 };
 
 }  // namespace ztk::test

@@ -2,7 +2,6 @@
 #include "platform/common/number_rules.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <limits>
 
@@ -54,11 +53,12 @@ std::int32_t IntegerFromInteger(std::uint64_t bits) {
 }
 
 std::int32_t IntegerFromReal(double real) {
-  if (std::isnan(real)) return 0;
-  // Converting a real outside the range is undefined, so it is tested first.
-  if (real <= kLowest) return kLowest;
-  if (real >= kHighest) return kHighest;
-  return static_cast<std::int32_t>(real);
+  // Converting a real outside the range is undefined, so it is tested first. No
+  // comparison with NaN is true.
+  constexpr double kBelow = double{kLowest} - 1;
+  constexpr double kAbove = double{kHighest} + 1;
+  const bool fits = real > kBelow && real < kAbove;
+  return fits ? static_cast<std::int32_t>(real) : kLowest;
 }
 
 std::int32_t IntegerFromBoolean(bool boolean) { return boolean ? 1 : 0; }

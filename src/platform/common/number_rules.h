@@ -13,7 +13,8 @@ namespace ztk::platform::common {
 // The low 32 bits, read as signed; the upper ones are cut off.
 std::int32_t IntegerFromInteger(std::uint64_t bits);
 
-// Towards zero, held at the 32-bit limits; NaN is 0.
+// Towards zero. NaN and what is out of range are the lowest integer: so Apple's
+// Foundation answers on Intel processors.
 std::int32_t IntegerFromReal(double real);
 
 // 0 or 1.

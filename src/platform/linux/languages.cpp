@@ -45,15 +45,22 @@ string_view MessagesLocale() {
   return "C";
 }
 
+bool IsChinese(string_view language) {
+  return language == "zh" || language == "yue";
+}
+
 // The folder for a form of Chinese: by script, else by where it is written.
-string_view ChineseFolder(string_view rest) {
+// Cantonese ("yue") is written in traditional characters.
+string_view ChineseFolder(string_view language, string_view rest) {
   constexpr std::array<string_view, 5> kTraditionalForms = {"Hant", "hant",
                                                             "TW", "HK", "MO"};
   const bool simplified = rest.starts_with("Hans") || rest.starts_with("hans");
   const bool traditional =
       !simplified &&
-      std::any_of(kTraditionalForms.begin(), kTraditionalForms.end(),
-                  [rest](string_view form) { return rest.starts_with(form); });
+      (language == "yue" ||
+       std::any_of(
+           kTraditionalForms.begin(), kTraditionalForms.end(),
+           [rest](string_view form) { return rest.starts_with(form); }));
   return traditional ? kTraditional : kSimplified;
 }
 
@@ -99,9 +106,10 @@ std::vector<std::string> FolderNames(string_view locale) {
 
   const std::string language = full.substr(0, full.find('_'));
   std::vector<std::string> names = {full};
-  if (language == "zh") {
+  if (IsChinese(language)) {
     const string_view rest = string_view(full).substr(language.size());
-    AddOnce(ChineseFolder(rest.empty() ? rest : rest.substr(1)), &names);
+    AddOnce(ChineseFolder(language, rest.empty() ? rest : rest.substr(1)),
+            &names);
   }
   AddOnce(language, &names);
   for (const OlderName &older : kOlderNames) {

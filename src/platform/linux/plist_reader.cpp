@@ -13,14 +13,20 @@
 #include "platform/linux/c_locale.h"
 #include "platform/linux/clean_text.h"
 #include "platform/linux/plist_guards.h"
+#include "platform/linux/plist_xml_numbers.h"
 #include "platform/linux/plist_xml_text.h"
 
 namespace ztk::platform::property_list {
 namespace {
 
+// Which of two entries with one key stays.
+enum class SameKey { First, Last };
+
 // Copies a tree and cleans its texts and keys.
 class CleanCopy {
  public:
+  explicit CleanCopy(SameKey sameKey) : sameKey_(sameKey) {}
+
   // The guards bound the depth of this recursion.
   plist_t Of(plist_t node) {
     switch (plist_get_node_type(node)) {
@@ -60,7 +66,7 @@ class CleanCopy {
     return copy;
   }
 
-  // Of two keys that are the same once cleaned, the later one stays.
+  // Two keys can be the same also because they have been cleaned.
   plist_t OfDictionary(plist_t dictionary) {
     plist_t copy = plist_new_dict();
     plist_dict_iter position = nullptr;
@@ -70,13 +76,17 @@ class CleanCopy {
       plist_t value = nullptr;
       plist_dict_next_item(dictionary, position, &key, &value);
       if (key == nullptr) break;
-      plist_dict_set_item(copy, Clean(key).c_str(), Of(value));
+      const std::string clean = Clean(key);
       std::free(key);
+      const bool there = plist_dict_get_item(copy, clean.c_str()) != nullptr;
+      if (there && sameKey_ == SameKey::First) continue;
+      plist_dict_set_item(copy, clean.c_str(), Of(value));
     }
     std::free(position);
     return copy;
   }
 
+  const SameKey sameKey_;
   bool incomplete_ = false;
 };
 
@@ -91,8 +101,7 @@ plist_t Parse(std::string_view bytes) {
     return root;
   }
   std::optional<std::string> xml = Utf8Xml(bytes);
-  if (!xml || !IsSafeXml(*xml)) return nullptr;
-  MakeIntegersDecimal(&*xml);
+  if (!xml || !IsSafeXml(*xml) || !NormalizeNumbers(&*xml)) return nullptr;
   plist_from_xml(xml->data(), static_cast<std::uint32_t>(xml->size()), &root);
   return root;
 }
@@ -104,7 +113,8 @@ FileContent ContentOf(std::string_view bytes) {
   errno = 0;
   plist_t parsed = Parse(bytes);
   if (plist_get_node_type(parsed) == PLIST_DICT) {
-    CleanCopy copy;
+    // As Foundation does it in the two forms.
+    CleanCopy copy(IsBinary(bytes) ? SameKey::First : SameKey::Last);
     content.result.state = ReadState::Read;
     content.root = copy.Of(parsed);
     content.incomplete = copy.incomplete();

@@ -13,8 +13,6 @@ namespace {
 
 using std::string_view;
 
-constexpr string_view kWhiteSpace = " \t\r\n";
-
 // What editors write property lists in. Only these are given to iconv(), whose
 // other converters have had faults that a file could use.
 struct Encoding {
@@ -77,18 +75,6 @@ std::string DeclaredEncoding(string_view bytes) {
   return name;
 }
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-// The number of zeros to remove from the front of a number, and where they
-// begin. The last digit stays.
-std::size_t LeadingZeros(string_view text, std::size_t *begin) {
-  std::size_t at = std::min(text.find_first_not_of(kWhiteSpace), text.size());
-  if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
-  *begin = at;
-  while (at + 1 < text.size() && text[at] == '0' && IsDigit(text[at + 1])) ++at;
-  return at - *begin;
-}
-
 }  // namespace
 
 std::optional<std::string> Utf8Xml(string_view bytes) {
@@ -113,28 +99,6 @@ std::optional<std::string> Utf8Xml(string_view bytes) {
     }
   }
   return std::nullopt;
-}
-
-void MakeIntegersDecimal(std::string *xml) {
-  constexpr string_view kSections[][2] = {{"<!--", "-->"},
-                                          {"<![CDATA[", "]]>"}};
-  constexpr string_view kElement = "<integer";
-  std::size_t at = 0;
-  while ((at = xml->find('<', at)) != std::string::npos) {
-    const string_view rest = string_view(*xml).substr(at);
-    std::size_t length = 1;
-    for (const auto &[open, close] : kSections) {
-      if (rest.starts_with(open)) length = rest.find(close, open.size());
-    }
-    const std::size_t end = rest.find('>');
-    if (rest.starts_with(kElement) && end != string_view::npos) {
-      const string_view number = rest.substr(end + 1);
-      std::size_t begin = 0;
-      const std::size_t zeros = LeadingZeros(number, &begin);
-      xml->erase(at + end + 1 + begin, zeros);
-    }
-    at += length;
-  }
 }
 
 }  // namespace ztk::platform::property_list

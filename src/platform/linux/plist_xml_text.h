@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // XML property lists before they are given to libplist, which takes every file
-// for UTF-8 and a number with a leading zero for an octal one.
+// for UTF-8.
 #ifndef ZTK_PLATFORM_LINUX_PLIST_XML_TEXT_H_
 #define ZTK_PLATFORM_LINUX_PLIST_XML_TEXT_H_
 
@@ -16,10 +16,6 @@ namespace ztk::platform::property_list {
 // declared encoding is not a known one, or the bytes are not text in it. Text
 // in UTF-8 is not checked.
 std::optional<std::string> Utf8Xml(std::string_view bytes);
-
-// Removes leading zeros from the content of all <integer> elements. The text
-// has passed IsSafeXml().
-void MakeIntegersDecimal(std::string *xml);
 
 }  // namespace ztk::platform::property_list
 

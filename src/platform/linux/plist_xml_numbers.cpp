@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/plist_xml_numbers.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+namespace ztk::platform::property_list {
+namespace {
+
+using std::string_view;
+
+bool IsSpace(char c) { return c > 0 && c <= ' '; }
+
+void SkipSpace(string_view *text) {
+  const auto *end = std::find_if_not(text->begin(), text->end(), IsSpace);
+  text->remove_prefix(static_cast<std::size_t>(end - text->begin()));
+}
+
+// Takes a sign off the front. True for a minus.
+bool TakeSign(string_view *text) {
+  const char sign = text->empty() ? '\0' : text->front();
+  if (sign == '-' || sign == '+') text->remove_prefix(1);
+  return sign == '-';
+}
+
+// The digits of an integer in decimal form, or nothing: space, a sign, space,
+// digits, where "0x" makes the digits hexadecimal. No more than 64 bits.
+std::optional<std::string> DecimalInteger(string_view text) {
+  SkipSpace(&text);
+  const bool negative = TakeSign(&text);
+  SkipSpace(&text);
+  const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
+  if (hexadecimal) text.remove_prefix(2);
+  std::uint64_t value = 0;
+  const char *end = text.data() + text.size();
+  const auto result =
+      std::from_chars(text.data(), end, value, hexadecimal ? 16 : 10);
+  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+  constexpr std::uint64_t kLowest = std::uint64_t{1} << 63U;
+  if (negative && value > kLowest) return std::nullopt;
+  return (negative ? "-" : "") + std::to_string(value);
+}
+
+std::size_t TakeDigits(string_view *text) {
+  const std::size_t count =
+      std::min(text->find_first_not_of("0123456789"), text->size());
+  text->remove_prefix(count);
+  return count;
+}
+
+bool IsInfinityOrNan(string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  });
+  return lower == "nan" || lower == "inf" || lower == "infinity";
+}
+
+// Space, a sign, digits with or without a point, an exponent.
+bool IsReal(string_view text) {
+  SkipSpace(&text);
+  TakeSign(&text);
+  if (IsInfinityOrNan(text)) return true;
+  std::size_t digits = TakeDigits(&text);
+  if (text.starts_with('.')) {
+    text.remove_prefix(1);
+    digits += TakeDigits(&text);
+  }
+  if (digits == 0) return false;
+  if (text.starts_with('e') || text.starts_with('E')) {
+    text.remove_prefix(1);
+    TakeSign(&text);
+    if (TakeDigits(&text) == 0) return false;
+  }
+  return text.empty();
+}
+
+// Where a comment or a character section that begins at `at` ends; `at` itself
+// when none begins there.
+std::size_t EndOfSection(string_view xml, std::size_t at) {
+  constexpr string_view kSections[][2] = {{"<!--", "-->"},
+                                          {"<![CDATA[", "]]>"}};
+  for (const auto &[open, close] : kSections) {
+    if (xml.substr(at).starts_with(open)) {
+      return xml.find(close, at + open.size()) + close.size();
+    }
+  }
+  return at;
+}
+
+bool IsElement(string_view tag, string_view name) {
+  const string_view rest = tag.substr(std::min(name.size(), tag.size()));
+  return tag.starts_with(name) &&
+         (rest.empty() || IsSpace(rest.front()) || rest.front() == '/');
+}
+
+}  // namespace
+
+bool NormalizeNumbers(std::string *xml) {
+  std::size_t at = 0;
+  while ((at = xml->find('<', at)) != std::string::npos) {
+    const std::size_t after = EndOfSection(*xml, at);
+    if (after != at) {
+      at = after;
+      continue;
+    }
+    const std::size_t end = xml->find('>', at);
+    const string_view tag = string_view(*xml).substr(at + 1, end - at - 1);
+    const bool integer = IsElement(tag, "integer");
+    at = end;
+    if (!integer && !IsElement(tag, "real")) continue;
+
+    const std::size_t begin = end + 1;
+    const std::size_t size = xml->find('<', begin) - begin;
+    const string_view content = string_view(*xml).substr(begin, size);
+    // Nothing else may stand in the element, not even a comment.
+    const bool closed = xml->compare(begin + size, 2, "</") == 0;
+    if (tag.ends_with('/') || !closed) return false;
+    if (!integer) {
+      if (!IsReal(content)) return false;
+      continue;
+    }
+    const std::optional<std::string> decimal = DecimalInteger(content);
+    if (!decimal) return false;
+    xml->replace(begin, size, *decimal);
+  }
+  return true;
+}
+
+}  // namespace ztk::platform::property_list

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+//
+// Asks Apple's own code what the ports' tests expect.
+#include "apple_library.h"
+#include "support/language_rows.h"
+#include "support/number_rows.h"
+#include "support/plist_rows.h"
+
+namespace ztk::test {
+namespace {
+
+class AppleCoreFoundation : public AppleLibrary {};
+
+TEST_F(AppleCoreFoundation, ReadsTextsByTheTableOfBothPorts) {
+  for (const NumberRow &row : kNumberRows) {
+    SCOPED_TRACE(row.text);
+    EXPECT_EQ(IntegerOfText(row.text), row.expected);
+  }
+}
+
+TEST_F(AppleCoreFoundation, ReadsEntriesByTheTableOfBothPorts) {
+#if !defined(__x86_64__)
+  GTEST_SKIP() << "reals out of range are converted as the processor does it";
+#endif
+  for (const EntryRow &row : kEntryRows) {
+    SCOPED_TRACE(row.element);
+    const auto value = ValueIn(
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<plist version=\"1.0\"><dict><key>a</key>" +
+        std::string(row.element) + "</dict></plist>\n");
+    EXPECT_EQ(value.value_or(kUnreadable), row.expected);
+  }
+}
+
+TEST_F(AppleCoreFoundation, ReadsTheFormsOfTheTable) {
+  for (const FormRow &row : FormRows()) {
+    SCOPED_TRACE(row.name);
+    const auto value = ValueIn(row.bytes);
+    EXPECT_EQ(value.has_value(), row.read);
+    if (value) {
+      EXPECT_EQ(*value, 5);
+    }
+  }
+}
+
+TEST_F(AppleCoreFoundation, ChoosesTheFoldersOfTheTable) {
+  for (const LanguageRow &row : kLanguageRows) {
+    SCOPED_TRACE(row.language);
+    EXPECT_EQ(FolderFor(row.language), row.folder);
+  }
+}
+
+}  // namespace
+}  // namespace ztk::test
