@@ -18,12 +18,32 @@ fail() {
   exit 1
 }
 
-# Prints the packages of the named lists in scripts/packages/, one per line.
+# Prints the packages of the named lists in scripts/packages/, one per line. A
+# line "a | b" stands for the first one that this release of Debian offers.
 packages_of() {
-  local list
+  local list line
   for list in "$@"; do
     sed 's/#.*//; s/[[:space:]]*$//; /^$/d' "scripts/packages/$list.txt"
+  done | while IFS= read -r line; do
+    [[ $line != *" | "* ]] || line=$(first_offered "$line")
+    printf '%s\n' "$line"
   done
+}
+
+# Prints the first of the packages that apt-get can install, or else the last.
+first_offered() {  # "a | b"
+  local package packages
+  IFS=' |' read -ra packages <<<"$1"
+  for package in "${packages[@]}"; do
+    ! is_offered "$package" || break
+  done
+  printf '%s\n' "$package"
+}
+
+is_offered() {  # package
+  local policy
+  policy=$(LC_ALL=C apt-cache policy "$1" 2>/dev/null) || true
+  [[ $policy =~ Candidate:\ [^\(] ]]
 }
 
 # Prints those of the packages that are not installed.
@@ -134,12 +154,11 @@ install_packages() {
 # Installs those missing packages of the named lists that this release of Debian
 # offers, if that is possible. The tests that need the others are skipped.
 want_packages() {
-  local packages package policy missing=()
+  local packages package missing=()
   mapfile -t packages < <(packages_of "$@")
   mapfile -t packages < <(missing_packages "${packages[@]}")
   for package in "${packages[@]}"; do
-    policy=$(LC_ALL=C apt-cache policy "$package" 2>/dev/null) || true
-    [[ ! $policy =~ Candidate:\ [^\(] ]] || missing+=("$package")
+    ! is_offered "$package" || missing+=("$package")
   done
   [[ ${#missing[@]} == 0 ]] || (install_packages "${missing[@]}") ||
     say "The tests that need these packages are skipped."
