@@ -201,17 +201,17 @@ TEST_F(Export, FailsForAFileThatCannotBeRead) {
 
 TEST_F(Import, ShowsTheFirstErrorsAndTheirNumber) {
   std::string text = R"({"version":1,"settings":{"VRM-D6":{"input":{)";
-  for (int i = 0; i < 50000; ++i) {
+  for (int i = 0; i < 2000; ++i) {
     text += (i == 0 ? "" : ",") + ('"' + std::to_string(100 + i) + R"(":"x")");
   }
   WriteAll(home_.path() / "many.json", text + "}}}}");
   const Result result = NoMixer("ztk import $DIR/many.json --json");
   EXPECT_EQ(result.status, 2);
   const Json json = OneObject(result.out);
-  EXPECT_EQ(json.value("errorCount", 0), 50000);
+  EXPECT_EQ(json.value("errorCount", 0), 2000);
   EXPECT_EQ(json.value("errors", Json()).size(), 20U);
   EXPECT_THAT(LastLine(result.err),
-              HasSubstr("50000 errors, of which the first 20 are shown,"));
+              HasSubstr("2000 errors, of which the first 20 are shown,"));
 }
 
 TEST_F(Import, RefusesANumberThatIsTooLarge) {
