@@ -31,7 +31,7 @@ constexpr Piece kPieces[] = {
      .title = "Library",
      .version = ZTK_GetLibraryVersionText}};
 
-constexpr std::size_t kColumn = 9;
+constexpr std::size_t kTitleColumn = 9;
 
 // The package and its parts are installed on macOS only.
 constexpr char kNotInstalled[] = "not installed (part of the macOS package)";
@@ -57,7 +57,7 @@ Report ShowVersions(const Arguments & /*arguments*/) {
     ZTKTextRef text = nullptr;
     const bool found = piece.version(kOwnProduct, &text) == ZTK_SUCCESS;
     versions[piece.name] = found ? Json(Utf8(text)) : Json();
-    report.text += cli::Padded(piece.title, kColumn) +
+    report.text += cli::Padded(piece.title, kTitleColumn) +
                    (found ? cli::OneLine(Utf8(text)) : kNotInstalled) + "\n";
   }
   const std::string why = WhyInstalledIsNotFound();
@@ -65,12 +65,12 @@ Report ShowVersions(const Arguments & /*arguments*/) {
   const std::string loaded = LoadedLibrary();
   versions["loadedLibrary"] = loaded.empty() ? Json() : Json(loaded);
   report.text +=
-      cli::Padded("Loaded", kColumn) +
+      cli::Padded("Loaded", kTitleColumn) +
       (loaded.empty() ? "unknown"
                       : cli::OneLine(loaded.substr(loaded.rfind('/') + 1))) +
       "\n";
   versions["ztk"] = build::kVersion;
-  report.text += cli::Padded("ztk", kColumn) + build::kVersion + "\n";
+  report.text += cli::Padded("ztk", kTitleColumn) + build::kVersion + "\n";
   report.fields["versions"] = versions;
   return report;
 }
