@@ -20,7 +20,7 @@ namespace {
 // What a reply is preset to, as a read does not tell how much came.
 constexpr std::uint8_t kUntouched = 0xFF;
 
-constexpr std::size_t kColumn = 15;
+constexpr std::size_t kValueColumn = 15;
 
 // One fact: a value for programs, and words for people.
 struct Fact {
@@ -130,7 +130,7 @@ Fact Serato(MixerReader *reader) {
 }
 
 std::string Row(const std::string &title, const std::string &words) {
-  return cli::Padded("  " + title, kColumn) + " " + words + "\n";
+  return cli::Padded("  " + title, kValueColumn) + " " + words + "\n";
 }
 
 // A fact whose value is null carries its words, which say why.
