@@ -45,6 +45,12 @@ std::optional<std::string> FollowLinks(std::string path) {
   return std::nullopt;
 }
 
+bool IsSameFile(const struct stat &first, const struct stat &second) {
+  return first.st_dev == second.st_dev && first.st_ino == second.st_ino &&
+         first.st_size == second.st_size && first.st_mtime == second.st_mtime &&
+         first.st_ctime == second.st_ctime;
+}
+
 void MakeFolders(std::string_view path, int levels) {
   constexpr mode_t kOwnerOnly = 0700;
   std::string folder = FolderOf(path);

@@ -34,6 +34,11 @@ std::optional<std::string> FollowLinks(std::string path);
 // above these and is never created.
 inline constexpr int kMaxMissingFolders = 3;
 
+// True when both describe one and the same content of a file. A file that has
+// been replaced has another inode, or, where the number is used again, another
+// time.
+bool IsSameFile(const struct stat &first, const struct stat &second);
+
 // Creates the folder that the path lies in, for its owner only, together with
 // missing folders above it, at most `levels` folders in all. Does not report a
 // failure: creating a file in the folder fails then.

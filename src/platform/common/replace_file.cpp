@@ -106,13 +106,10 @@ int LookAtOldFile(const std::string &file, std::optional<struct stat> *old) {
   return 0;
 }
 
-// True when the file is still the one that `expected` describes. A replaced one
-// has another inode, or, where the number is used again, another time.
+// True when the file is still the one that `expected` describes.
 bool IsStill(const struct stat &expected, const std::string &file) {
   struct stat now = {};
-  return lstat(file.c_str(), &now) == 0 && now.st_dev == expected.st_dev &&
-         now.st_ino == expected.st_ino && now.st_size == expected.st_size &&
-         now.st_mtime == expected.st_mtime && now.st_ctime == expected.st_ctime;
+  return lstat(file.c_str(), &now) == 0 && IsSameFile(expected, now);
 }
 
 // Answers 0 or the error number.

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-//
-// A Dictionary is an NSDictionary, a made one an NSMutableDictionary.
 #include "platform/property_list.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -13,6 +12,7 @@
 #include "platform/common/file_access.h"
 #include "platform/common/file_change.h"
 #include "platform/common/pause.h"
+#include "platform/macos/dictionary.h"
 #include "platform/macos/foundation.h"
 
 namespace ztk::platform::property_list {
@@ -26,12 +26,14 @@ namespace {
 using macos::StringOf;
 using macos::TextOf;
 
-NSDictionary *DictionaryOf(const Dictionary *dictionary) {
-  return (NSDictionary *)dictionary;
+// The value of an entry; nil also without a dictionary or a key.
+id Entry(const Dictionary *dictionary, ZTKTextRef key) {
+  if (dictionary == nullptr || key == nullptr) return nil;
+  return [dictionary->entries valueForKey:StringOf(key)];
 }
 
-NSMutableDictionary *FilledOf(Dictionary *dictionary) {
-  return (NSMutableDictionary *)dictionary;
+void Add(Dictionary *dictionary, NSDictionary *entries) {
+  [(NSMutableDictionary *)dictionary->entries addEntriesFromDictionary:entries];
 }
 
 std::string PathOf(ZTKTextRef path) {
@@ -89,16 +91,50 @@ ReadResult ReadEntries(ZTKTextRef path, NSDictionary **entries) {
   return result;
 }
 
+// Nothing when there is no such file.
+std::optional<struct stat> StatusOf(const std::string &file) {
+  struct stat status = {};
+  if (stat(file.c_str(), &status) != 0) return std::nullopt;
+  return status;
+}
+
+// True when the file that the entries were added from may be replaced now. One
+// that could not be read is kept beside the new one.
+bool PrepareToReplace(const Dictionary &dictionary, int *error) {
+  const ReadResult &added = dictionary.added;
+  if (!MayBeReplaced(added)) {
+    *error = added.error;
+    return false;
+  }
+  const std::string &file = dictionary.addedFrom;
+  const std::optional<struct stat> now = StatusOf(file);
+  const bool changed = now ? !dictionary.addedStatus ||
+                                 !IsSameFile(*dictionary.addedStatus, *now)
+                           : dictionary.addedStatus.has_value();
+  if (changed) {
+    *error = ESTALE;
+    return false;
+  }
+  const bool wasRead =
+      added.state == ReadState::Read || added.state == ReadState::Absent;
+  if (wasRead || KeepAside(file)) return true;
+  *error = errno;
+  return false;
+}
+
 }  // namespace
 
-// Held twice: by the caller until Release(), and by the autorelease pool, so
-// that texts taken from it stay valid until the pool drains.
+// Foundation's dictionary is held twice: until Release(), and by the
+// autorelease pool, so that texts taken from it stay valid until the pool
+// drains.
 ReadResult Read(ZTKTextRef path, Dictionary **dictionary) {
   *dictionary = nullptr;
   if (path == nullptr) return {};
   NSDictionary *entries = nil;
   const ReadResult result = ReadEntries(path, &entries);
-  *dictionary = (Dictionary *)[entries retain];
+  if (entries != nil) {
+    *dictionary = new Dictionary{.entries = [entries retain]};
+  }
   return result;
 }
 
@@ -117,36 +153,40 @@ Change *BeginChange(ZTKTextRef path) {
 void EndChange(Change *change) { delete change; }
 
 Dictionary *MakeDictionary() {
-  return (Dictionary *)[[NSMutableDictionary alloc] initWithCapacity:1];
+  return new Dictionary{.entries =
+                            [[NSMutableDictionary alloc] initWithCapacity:1]};
 }
 
+// The file is described before it is read: if another process replaces it
+// between the two, it is no longer the one described.
 ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
-  if (path == nullptr) return {};
+  if (dictionary == nullptr || path == nullptr) return {};
   @autoreleasepool {
+    dictionary->addedFrom = PathOf(path);
+    dictionary->addedStatus = StatusOf(dictionary->addedFrom);
     NSDictionary *entries = nil;
-    const ReadResult result = ReadEntries(path, &entries);
-    if (entries != nil) [FilledOf(dictionary) addEntriesFromDictionary:entries];
-    return result;
+    dictionary->added = ReadEntries(path, &entries);
+    if (entries != nil) Add(dictionary, entries);
+    return dictionary->added;
   }
 }
 
 void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value) {
-  if (key == nullptr) return;
+  if (dictionary == nullptr || key == nullptr) return;
   @autoreleasepool {
     const id number = [NSNumber numberWithInt:value];
     const id name = StringOf(key);
     NSDictionary *entry = [[NSDictionary alloc] initWithObjects:&number
                                                         forKeys:&name
                                                           count:1];
-    [FilledOf(dictionary) addEntriesFromDictionary:entry];
+    Add(dictionary, entry);
     [entry release];
   }
 }
 
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
                   std::int32_t *value) {
-  if (key == nullptr) return false;
-  const id entry = [DictionaryOf(dictionary) valueForKey:StringOf(key)];
+  const id entry = Entry(dictionary, key);
   // Dates, data, arrays and dictionaries have no number in them.
   if (![entry respondsToSelector:@selector(intValue)]) return false;
   *value = [entry intValue];
@@ -154,32 +194,31 @@ bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
 }
 
 ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key) {
-  if (key == nullptr) return nullptr;
-  const id entry = [DictionaryOf(dictionary) valueForKey:StringOf(key)];
+  const id entry = Entry(dictionary, key);
   if (![entry isKindOfClass:[NSString class]]) return nullptr;
   return TextOf(entry);
 }
 
 bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
                      int *error) {
-  // Foundation does not say why it could not write.
-  if (error != nullptr) *error = 0;
-  if (path == nullptr) return false;
+  int ignored = 0;
+  int *reason = error != nullptr ? error : &ignored;
+  *reason = EINVAL;
+  if (dictionary == nullptr || path == nullptr) return false;
   @autoreleasepool {
-    NSDictionary *old = nil;
-    const ReadResult result = ReadEntries(path, &old);
-    const bool wasRead =
-        result.state == ReadState::Read || result.state == ReadState::Absent;
-    const bool mayBeReplaced =
-        MayBeReplaced(result) && (wasRead || KeepAside(PathOf(path)));
-    if (!mayBeReplaced) {
-      if (error != nullptr) *error = result.error;
-      return false;
-    }
-    return [DictionaryOf(dictionary) writeToFile:StringOf(path) atomically:YES];
+    const std::string file = PathOf(path);
+    const bool sameFile = dictionary->addedFrom == file;
+    if (sameFile && !PrepareToReplace(*dictionary, reason)) return false;
+    // Foundation does not say why it could not write.
+    *reason = 0;
+    return [dictionary->entries writeToFile:StringOf(path) atomically:YES];
   }
 }
 
-void Release(Dictionary *dictionary) { [DictionaryOf(dictionary) release]; }
+void Release(Dictionary *dictionary) {
+  if (dictionary == nullptr) return;
+  [dictionary->entries release];
+  delete dictionary;
+}
 
 }  // namespace ztk::platform::property_list

@@ -6,6 +6,7 @@
 #include <objc/runtime.h>
 
 #include "foundation_test.h"
+#include "platform/macos/dictionary.h"
 #include "platform/notification_center.h"
 #include "platform/paths.h"
 #include "platform/property_list.h"
@@ -180,9 +181,9 @@ TEST_F(MacCallsOfFoundation, WriteAFileAtomically) {
 TEST_F(MacCallsOfFoundation, ReadAnIntegerByItsIntValue) {
   NSMutableDictionary *list = [NSMutableDictionary dictionary];
   [list setObject:[[[ZTKTwoIntegers alloc] init] autorelease] forKey:@"key"];
+  const plist::Dictionary dictionary{.entries = list};
   std::int32_t value = 0;
-  EXPECT_TRUE(
-      plist::IntegerValue((plist::Dictionary *)list, ZTK_TEXT("key"), &value));
+  EXPECT_TRUE(plist::IntegerValue(&dictionary, ZTK_TEXT("key"), &value));
   EXPECT_EQ(value, 5);
   EXPECT_EQ(center::ReadNumber((center::UserInfo *)list, ZTK_TEXT("key")), 5);
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/property_list.h"
 
+#include <cerrno>
 #include <filesystem>
 
 #include "foundation_test.h"
+#include "platform/macos/dictionary.h"
 #include "support/number_rows.h"
 #include "support/temp_home.h"
 
@@ -68,8 +70,8 @@ TEST_F(MacPropertyList, ReadsTextsByTheTableOfBothPorts) {
     SCOPED_TRACE(row.text);
     [list setObject:ObjectOf(row.text) forKey:@"key"];
     std::int32_t value = 99;
-    EXPECT_TRUE(plist::IntegerValue((plist::Dictionary *)list, ZTK_TEXT("key"),
-                                    &value));
+    const plist::Dictionary dictionary{.entries = list};
+    EXPECT_TRUE(plist::IntegerValue(&dictionary, ZTK_TEXT("key"), &value));
     EXPECT_EQ(value, row.expected);
   }
 }
@@ -108,9 +110,10 @@ TEST_F(MacPropertyList, KeepsItsTextsAfterItsRelease) {
   WriteAll(File(), PropertyList("<key>a</key><string>a text</string>"));
   plist::Dictionary *list = plist::ReadFile(TextOf(File()));
   const ZTKTextRef text = plist::TextValue(list, ZTK_TEXT("a"));
-  EXPECT_EQ([(NSDictionary *)list retainCount], 2u);
+  NSDictionary *entries = list->entries;
+  EXPECT_EQ([entries retainCount], 2u);
   plist::Release(list);
-  EXPECT_EQ([(NSDictionary *)list retainCount], 1u);
+  EXPECT_EQ([entries retainCount], 1u);
   EXPECT_EQ(StringOf(text), "a text");
 }
 
@@ -120,8 +123,11 @@ TEST_F(MacPropertyList, ThatIsMadeBelongsToTheCallerAlone) {
     list = plist::MakeDictionary();
     plist::SetInteger(list, ZTK_TEXT("a"), 1);
   }
-  EXPECT_EQ([(NSDictionary *)list retainCount], 1u);
+  NSDictionary *entries = [list->entries retain];
+  EXPECT_EQ([entries retainCount], 2u);
   plist::Release(list);
+  EXPECT_EQ([entries retainCount], 1u);
+  [entries release];
   plist::Release(nullptr);
 }
 
@@ -144,6 +150,47 @@ TEST_F(MacPropertyList, IsMergedWithAFile) {
   EXPECT_EQ([[written objectForKey:@"a"] intValue], -2147483647 - 1);
   EXPECT_TRUE([[written objectForKey:@"b"] isEqual:@"kept"]);
   EXPECT_EQ(ReadAll(File()).substr(0, 5), "<?xml");
+}
+
+// What another process does between reading and writing, without the lock.
+class MacChangedMeanwhile : public MacPropertyList {
+ protected:
+  // How writing ends when this happens to the file after it has been read.
+  static int ErrorAfter(void (*happens)()) {
+    plist::Dictionary *list = plist::MakeDictionary();
+    plist::AddEntriesOfFile(list, TextOf(File()));
+    plist::SetInteger(list, ZTK_TEXT("a"), 1);
+    happens();
+    int error = -1;
+    EXPECT_FALSE(plist::WriteAtomically(list, TextOf(File()), &error));
+    plist::Release(list);
+    return error;
+  }
+  static void Replace() {
+    WriteAll(File() + ".new", Other());
+    std::filesystem::rename(File() + ".new", File());
+  }
+  static std::string Other() {
+    return PropertyList("<key>b</key><integer>2</integer>");
+  }
+};
+
+TEST_F(MacChangedMeanwhile, IsNotReplaced) {
+  WriteAll(File(), PropertyList("<key>a</key><integer>7</integer>"));
+  EXPECT_EQ(ErrorAfter(Replace), ESTALE);
+  EXPECT_EQ(ReadAll(File()), Other());
+  std::filesystem::remove(File());
+  EXPECT_EQ(ErrorAfter(Replace), ESTALE);
+  EXPECT_EQ(ReadAll(File()), Other());
+  EXPECT_EQ(ErrorAfter([] { std::filesystem::remove(File()); }), ESTALE);
+  EXPECT_FALSE(std::filesystem::exists(File()));
+}
+
+TEST_F(MacChangedMeanwhile, IsNotKeptAsideWhenItWasDamaged) {
+  WriteAll(File(), "not a property list <");
+  EXPECT_EQ(ErrorAfter(Replace), ESTALE);
+  EXPECT_EQ(ReadAll(File()), Other());
+  EXPECT_FALSE(std::filesystem::exists(File() + ".unreadable-1"));
 }
 
 TEST_F(MacPropertyList, IsNotWrittenWhereThereIsNoFolder) {
