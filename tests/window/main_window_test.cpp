@@ -1,9 +1,27 @@
 // SPDX-License-Identifier: MIT
+//
+// What the window shows of a state, and what it asks for.
 #include "window/main_window.h"
 
-#include <QtTest>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
 
+#include "window/pages/club_dialog.h"
+#include "window/pages/routing_page.h"
+#include "window/pages/rows_page.h"
+#include "window/picture/picture.h"
 #include "window/registry.h"
+#include "window/rows/choice_row.h"
+#include "window/states.h"
 
 namespace ztk::window {
 
@@ -11,12 +29,355 @@ class MainWindowTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void HasATitle();
+  void init();
+  void cleanup();
+  void ShowsWhatEachChannelRecords();
+  void TellsWhichSelectorToTurn();
+  void NamesTheMixerWhereThereAreTwo();
+  void TellsWhatBecameOfAChange_data();
+  void TellsWhatBecameOfAChange();
+  void DashesWhatNoMixerHas();
+  void ShowsANumberThatIsNoChoice();
+  void AChoiceInARowIsWanted();
+  void EachArrowKeyIsAChoice();
+  void TheWheelChangesNothing();
+  void ATapChoosesForTheRowWithTheFocus();
+  void LabelsBelongToTheirBoxes();
+  void WithoutAMixerEverythingStaysUsable();
+  void ShowsFindingsWithACommandToCopy();
+  void SaysThatOtherProgramsAreNotHeard();
+  void OffersUndoWithWhatItTakesBack();
+  void SendsAllAgain();
+  void SwitchesAutoapply();
+  void ListsClubsAndAppliesAfterAPreview();
+  void DoesNotApplyABrokenClub();
+  void TheSisterModelsHaveTheirOwnPages();
+  void ClosingHidesAtOnce();
+  void TellsWhetherItIsVisible();
+
+ private:
+  ChoiceRow *InputRow(int channel) const {
+    return window_->routingPage()->rows()[channel];
+  }
+  QAction *Action(const QString &text) const;
+  QString TextOf(const char *name) const {
+    const auto *label = window_->findChild<QLabel *>(QLatin1String(name));
+    return label == nullptr ? QString() : label->text();
+  }
+
+  std::unique_ptr<MainWindow> window_;
+  State state_;
 };
 
-void MainWindowTest::HasATitle() {
-  const MainWindow window;
-  QCOMPARE(window.windowTitle(), QStringLiteral("VRM-D6 settings"));
+void MainWindowTest::init() {
+  window_ = std::make_unique<MainWindow>();
+  state_ = UsualState();
+  window_->showState(state_);
+  window_->show();
+  QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+}
+
+void MainWindowTest::cleanup() { window_.reset(); }
+
+// The one whose text, without its mnemonic, starts so.
+QAction *MainWindowTest::Action(const QString &text) const {
+  for (QAction *action : window_->findChildren<QAction *>()) {
+    if (action->text().remove(QLatin1Char('&')).startsWith(text)) return action;
+  }
+  return nullptr;
+}
+
+void MainWindowTest::ShowsWhatEachChannelRecords() {
+  QCOMPARE(InputRow(0)->box()->currentText(), QStringLiteral("Post CH1 Fader"));
+  QCOMPARE(InputRow(1)->box()->currentText(),
+           QStringLiteral("CH2 Control Tone LINE"));
+  QCOMPARE(InputRow(4)->box()->currentText(), QStringLiteral("REC OUT"));
+  QCOMPARE(InputRow(5)->box()->currentText(), QStringLiteral("-5 dB"));
+  QCOMPARE(TextOf("mixers"),
+           QStringLiteral("Mixer 1 answers · firmware 1078 · certified level 1 "
+                          "· Serato is not active"));
+  QCOMPARE(window_->routingPage()->picture()->wires().size(), 5);
+}
+
+void MainWindowTest::TellsWhichSelectorToTurn() {
+  state_.mixers[0].selectors[1] = 1;
+  window_->showState(state_);
+  QCOMPARE(InputRow(1)->text(),
+           QStringLiteral("Turn the selector of CH2 from 1 to 4. Remembered."));
+  QCOMPARE(InputRow(3)->text(), QStringLiteral("Remembered."));
+  const PictureState picture = PictureOf(state_);
+  QCOMPARE(picture.selectors[1].position, QStringLiteral("1"));
+  QVERIFY(picture.selectors[1].silences);
+  QVERIFY(!picture.selectors[3].silences);
+}
+
+void MainWindowTest::NamesTheMixerWhereThereAreTwo() {
+  state_.mixers.append(AnsweringMixer(2));
+  state_.mixers[1].selectors[3] = 2;
+  window_->showState(state_);
+  QCOMPARE(InputRow(3)->text(),
+           QStringLiteral("Turn the selector of CH4 on mixer 2 from 2 to 4. "
+                          "Remembered."));
+  QCOMPARE(PictureOf(state_).selectors[3].position, QStringLiteral("4/2"));
+}
+
+void MainWindowTest::TellsWhatBecameOfAChange_data() {
+  QTest::addColumn<int>("delivery");
+  QTest::addColumn<int>("accepted");
+  QTest::addColumn<QString>("reason");
+  QTest::addColumn<QString>("expected");
+  const auto row = [](const char *name, Delivery delivery, int accepted,
+                      const char *reason, const char *expected) {
+    QTest::newRow(name) << static_cast<int>(delivery) << accepted
+                        << QString::fromUtf8(reason)
+                        << QString::fromUtf8(expected);
+  };
+  row("idle", Delivery::Idle, 0, "", "Remembered.");
+  row("sending", Delivery::Sending, 0, "", "Sending…");
+  row("sent", Delivery::Sent, 1, "", "Sent to the mixer, and remembered.");
+  row("sent to two", Delivery::Sent, 2, "",
+      "Sent to 2 mixers, and remembered.");
+  row("no answer", Delivery::RememberedOnly, 0, "Mixer 1 does not answer.",
+      "Remembered only. Mixer 1 does not answer.");
+  row("one of two", Delivery::RememberedOnly, 1, "Mixer 2 does not answer.",
+      "Sent to the mixer, and remembered. Mixer 2 does not answer.");
+  row("not stored", Delivery::Failed, 0, "The disk is full.",
+      "Not stored. The disk is full.");
+}
+
+void MainWindowTest::TellsWhatBecameOfAChange() {
+  QFETCH(const int, delivery);
+  QFETCH(const int, accepted);
+  QFETCH(const QString, reason);
+  QFETCH(const QString, expected);
+  RowState &row = RowOf(&state_, model::kInput, 0);
+  row.delivery = static_cast<Delivery>(delivery);
+  row.accepted = accepted;
+  row.reason = reason;
+  window_->showState(state_);
+  QCOMPARE(InputRow(0)->text(), expected);
+  QCOMPARE(InputRow(0)->box()->accessibleDescription(), expected);
+}
+
+void MainWindowTest::DashesWhatNoMixerHas() {
+  QVERIFY(!PictureOf(state_).channels[0].onlyRemembered);
+  RowOf(&state_, model::kInput, 0).delivery = Delivery::RememberedOnly;
+  QVERIFY(PictureOf(state_).channels[0].onlyRemembered);
+  QVERIFY(!PictureOf(state_).channels[1].onlyRemembered);
+  state_.mixers[0].answer = MixerAnswer::Silent;
+  QVERIFY(PictureOf(state_).channels[1].onlyRemembered);
+  state_.mixers.clear();
+  QVERIFY(PictureOf(state_).channels[1].onlyRemembered);
+}
+
+void MainWindowTest::ShowsANumberThatIsNoChoice() {
+  RowState &row = RowOf(&state_, model::kInput, 2);
+  row.stored = 77;
+  row.shown = 77;
+  window_->showState(state_);
+  QCOMPARE(InputRow(2)->box()->currentIndex(), -1);
+  QCOMPARE(InputRow(2)->box()->placeholderText(),
+           QStringLiteral("77, which is not a choice"));
+  QCOMPARE(window_->routingPage()->picture()->wires().size(), 4);
+}
+
+void MainWindowTest::AChoiceInARowIsWanted() {
+  QSignalSpy chosen(window_.get(), &MainWindow::chosen);
+  QComboBox *box = InputRow(1)->box();
+  box->showPopup();
+  box->setCurrentIndex(2);
+  emit box->activated(2);
+  box->hidePopup();
+  QCOMPARE(chosen.size(), 1);
+  QCOMPARE(chosen[0][1].toUInt(), 1U);
+  QCOMPARE(chosen[0][2].toUInt(), 2U);
+}
+
+void MainWindowTest::EachArrowKeyIsAChoice() {
+  QSignalSpy chosen(window_.get(), &MainWindow::chosen);
+  QComboBox *box = InputRow(0)->box();
+  box->setFocus();
+  QTest::keyClick(box, Qt::Key_Down);
+  QTest::keyClick(box, Qt::Key_Down);
+  QCOMPARE(chosen.size(), 2);
+  QCOMPARE(chosen[0][2].toUInt(), 3U);
+  QCOMPARE(chosen[1][2].toUInt(), 4U);
+}
+
+void MainWindowTest::TheWheelChangesNothing() {
+  QSignalSpy chosen(window_.get(), &MainWindow::chosen);
+  QComboBox *box = InputRow(0)->box();
+  box->setFocus();
+  QWheelEvent event(QPointF(3, 3), box->mapToGlobal(QPointF(3, 3)), {},
+                    QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QApplication::sendEvent(box, &event);
+  QCOMPARE(box->currentIndex(), 2);
+  QCOMPARE(chosen.size(), 0);
+}
+
+void MainWindowTest::ATapChoosesForTheRowWithTheFocus() {
+  QSignalSpy chosen(window_.get(), &MainWindow::chosen);
+  InputRow(3)->box()->setFocus();
+  Picture *picture = window_->routingPage()->picture();
+  QCOMPARE(picture->activeChannel(), 3);
+  const auto place =
+      picture->parts().Spot({.source = model::Source::RecOut})->centre;
+  QTest::mouseClick(picture, Qt::LeftButton, {}, place.toPoint());
+  QCOMPARE(chosen.size(), 1);
+  QCOMPARE(chosen[0][1].toUInt(), 3U);
+  QCOMPARE(chosen[0][2].toUInt(), 6U);
+}
+
+void MainWindowTest::LabelsBelongToTheirBoxes() {
+  QStringList texts;
+  for (QLabel *label : window_->routingPage()->findChildren<QLabel *>()) {
+    if (label->buddy() != nullptr) texts.append(label->text());
+  }
+  QCOMPARE(texts, (QStringList{"USB &1 records:", "USB &2 records:",
+                               "USB &3 records:", "USB &4 records:",
+                               "USB &5 records:", "USB output &level:"}));
+}
+
+void MainWindowTest::WithoutAMixerEverythingStaysUsable() {
+  state_.mixers.clear();
+  window_->showState(state_);
+  QVERIFY(TextOf("mixers").startsWith(QLatin1String("No mixer is attached.")));
+  QCOMPARE(InputRow(0)->text(), QStringLiteral("Remembered; no mixer has it."));
+  QSignalSpy chosen(window_.get(), &MainWindow::chosen);
+  InputRow(0)->box()->setFocus();
+  QTest::keyClick(InputRow(0)->box(), Qt::Key_Up);
+  QCOMPARE(chosen.size(), 1);
+}
+
+void MainWindowTest::ShowsFindingsWithACommandToCopy() {
+  state_.findings = {{.id = "rule-missing",
+                      .what = "Mixer 1 cannot be opened.",
+                      .cause = "You have no right to.",
+                      .command = "sudo chmod a+rw /dev/bus/usb/001/002"}};
+  window_->showState(state_);
+  QCOMPARE(TextOf("command"),
+           QStringLiteral("sudo chmod a+rw /dev/bus/usb/001/002"));
+  for (QPushButton *button : window_->findChildren<QPushButton *>()) {
+    if (button->text() == QLatin1String("Copy")) button->click();
+  }
+  QCOMPARE(QApplication::clipboard()->text(),
+           QStringLiteral("sudo chmod a+rw /dev/bus/usb/001/002"));
+  state_.findings.clear();
+  window_->showState(state_);
+  QCOMPARE(TextOf("command"), QString());
+}
+
+void MainWindowTest::SaysThatOtherProgramsAreNotHeard() {
+  state_.hearsOthers = false;
+  state_.whyNotHeard = "QT_NO_GLIB is set.";
+  window_->showState(state_);
+  QStringList texts;
+  for (QLabel *label : window_->findChildren<QLabel *>()) {
+    texts.append(label->text());
+  }
+  QVERIFY(texts.contains("Changes of other programs are not shown here."));
+  QVERIFY(texts.contains("QT_NO_GLIB is set."));
+}
+
+void MainWindowTest::OffersUndoWithWhatItTakesBack() {
+  QSignalSpy undo(window_.get(), &MainWindow::undoWanted);
+  QVERIFY(!Action("Undo")->isEnabled());
+  state_.canUndo = true;
+  state_.undoes = "USB input 2";
+  window_->showState(state_);
+  QCOMPARE(Action("Undo")->text(), QStringLiteral("&Undo: USB input 2"));
+  QCOMPARE(Action("Undo")->shortcut(), QKeySequence("Ctrl+Z"));
+  QTest::keyClick(window_.get(), Qt::Key_Z, Qt::ControlModifier);
+  QCOMPARE(undo.size(), 1);
+}
+
+void MainWindowTest::SendsAllAgain() {
+  QSignalSpy resend(window_.get(), &MainWindow::resendWanted);
+  window_->showMessage("Something failed.");
+  QCOMPARE(TextOf("message"), QStringLiteral("Something failed."));
+  Action("Send all again")->trigger();
+  QCOMPARE(resend.size(), 1);
+  QCOMPARE(TextOf("message"), QString());
+}
+
+void MainWindowTest::SwitchesAutoapply() {
+  QSignalSpy wanted(window_.get(), &MainWindow::autoapplyWanted);
+  QAction *action = Action("Send all at each plug-in");
+  QVERIFY(!action->isEnabled());
+  state_.autoapply = Autoapply::Off;
+  window_->showState(state_);
+  QVERIFY(action->isEnabled());
+  action->trigger();
+  QCOMPARE(wanted.size(), 1);
+  QCOMPARE(wanted[0][0].toBool(), true);
+  state_.autoapply = Autoapply::On;
+  window_->showState(state_);
+  QVERIFY(action->isChecked());
+}
+
+void MainWindowTest::ListsClubsAndAppliesAfterAPreview() {
+  QSignalSpy preview(window_.get(), &MainWindow::previewWanted);
+  QSignalSpy apply(window_.get(), &MainWindow::applyWanted);
+  state_.clubs = {{.name = "Friday", .path = "/clubs/Friday.json"}};
+  window_->showState(state_);
+  Action("Friday")->trigger();
+  QCOMPARE(preview.size(), 1);
+  QCOMPARE(preview[0][0].toString(), QStringLiteral("/clubs/Friday.json"));
+  window_->showPreview({.club = state_.clubs[0],
+                        .changes = {{.place = "USB input 2",
+                                     .before = "REC OUT",
+                                     .after = "Post CH2 Fader"}},
+                        .error = {}});
+  auto *dialog = window_->findChild<ClubDialog *>();
+  QVERIFY(dialog != nullptr);
+  QStringList texts;
+  for (QLabel *label : dialog->findChildren<QLabel *>()) {
+    texts.append(label->text());
+  }
+  QVERIFY(texts.contains("Post CH2 Fader"));
+  QCOMPARE(apply.size(), 0);
+  dialog->accept();
+  QCOMPARE(apply.size(), 1);
+  QCOMPARE(apply[0][0].toString(), QStringLiteral("/clubs/Friday.json"));
+}
+
+void MainWindowTest::DoesNotApplyABrokenClub() {
+  window_->showPreview({.club = {.name = "Friday", .path = "/f"},
+                        .changes = {},
+                        .error = "The file is empty."});
+  auto *dialog = window_->findChild<ClubDialog *>();
+  auto *buttons = dialog->findChild<QDialogButtonBox *>();
+  QCOMPARE(buttons->buttons().size(), 1);
+  QCOMPARE(buttons->standardButton(buttons->buttons()[0]),
+           QDialogButtonBox::Close);
+}
+
+void MainWindowTest::TheSisterModelsHaveTheirOwnPages() {
+  QStringList labels;
+  QStringList boxes;
+  for (const RowsPage *page : window_->otherPages()) {
+    for (const ChoiceRow *row : page->rows()) {
+      labels.append(row->findChild<QLabel *>()->text());
+      boxes.append(row->box()->currentText());
+    }
+  }
+  QCOMPARE(labels, (QStringList{"USB &1 plays on:", "USB &2 plays on:",
+                                "USB &3 plays on:", "MIDI &channel:"}));
+  QCOMPARE(boxes, (QStringList{"CH1", "CH1", "CH1", "CH 1"}));
+}
+
+void MainWindowTest::ClosingHidesAtOnce() {
+  window_->close();
+  QVERIFY(!window_->isVisible());
+}
+
+void MainWindowTest::TellsWhetherItIsVisible() {
+  QSignalSpy visible(window_.get(), &MainWindow::visibilityChanged);
+  window_->hide();
+  QCOMPARE(visible.last()[0].toBool(), false);
+  window_->show();
+  QCOMPARE(visible.last()[0].toBool(), true);
 }
 
 namespace {

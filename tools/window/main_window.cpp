@@ -1,8 +1,232 @@
 // SPDX-License-Identifier: MIT
 #include "window/main_window.h"
 
+#include <QAccessible>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "window/pages/club_dialog.h"
+#include "window/pages/notices.h"
+#include "window/pages/routing_page.h"
+#include "window/pages/rows_page.h"
+
 namespace ztk::window {
 
-MainWindow::MainWindow() { setWindowTitle(tr("VRM-D6 settings")); }
+namespace {
+
+// Of one model, in the order of the settings.
+QList<const model::Setting *> SettingsOf(const std::string &modelName) {
+  QList<const model::Setting *> settings;
+  for (const model::Setting *setting : model::AllSettings()) {
+    if (model::ModelName(*setting) == modelName) settings.append(setting);
+  }
+  return settings;
+}
+
+}  // namespace
+
+MainWindow::MainWindow() {
+  setWindowTitle(tr("Mixer settings"));
+  notices_ = new Notices(this);
+  auto *tabs = new QTabWidget(this);
+  tabs->setDocumentMode(true);
+  AddPages(tabs);
+  MakeMenus();
+
+  auto *whole = new QWidget(this);
+  auto *layout = new QVBoxLayout(whole);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(notices_);
+  layout->addWidget(tabs, 1);
+  layout->addWidget(MakeLowerBar());
+  // Nothing is cut on a small screen or with large letters.
+  auto *scroll = new QScrollArea(this);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidget(whole);
+  setCentralWidget(scroll);
+  TakeSpaceFor(*whole);
+}
+
+// All of it without scrolling, as far as the screen is large enough.
+void MainWindow::TakeSpaceFor(const QWidget &content) {
+  const QSize whole =
+      content.sizeHint() + QSize(0, menuBar()->sizeHint().height());
+  resize(whole.boundedTo(screen()->availableSize() * 0.95));
+}
+
+void MainWindow::AddPages(QTabWidget *tabs) {
+  const std::string own = model::ModelName(model::kInput);
+  for (const std::string &name : model::ModelNames()) {
+    const QString title = QString::fromStdString(name);
+    if (name == own) {
+      routing_ = new RoutingPage(tabs);
+      connect(routing_, &RoutingPage::chosen, this, &MainWindow::chosen);
+      tabs->addTab(routing_, title);
+      continue;
+    }
+    auto *page = new RowsPage(SettingsOf(name), tabs);
+    connect(page, &RowsPage::chosen, this, &MainWindow::chosen);
+    tabs->addTab(page, title);
+    otherPages_.append(page);
+  }
+  connect(this, &MainWindow::chosen, this, [this] { showMessage({}); });
+}
+
+QAction *MainWindow::AddAction(QMenu *menu, const QString &text,
+                               const QKeySequence &shortcut) {
+  QAction *action = menu->addAction(text);
+  action->setShortcut(shortcut);
+  connect(action, &QAction::triggered, this, [this] { showMessage({}); });
+  return action;
+}
+
+void MainWindow::MakeMenus() {
+  QMenu *file = menuBar()->addMenu(tr("&File"));
+  QAction *quit = AddAction(file, tr("&Quit"), QKeySequence::Quit);
+  quit->setMenuRole(QAction::QuitRole);
+  connect(quit, &QAction::triggered, this, &MainWindow::close);
+
+  QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+  undo_ = AddAction(edit, tr("&Undo"), QKeySequence::Undo);
+  connect(undo_, &QAction::triggered, this, &MainWindow::undoWanted);
+
+  QMenu *mixer = menuBar()->addMenu(tr("&Mixer"));
+  resend_ = AddAction(mixer, tr("&Send all again"), tr("Ctrl+R"));
+  connect(resend_, &QAction::triggered, this, &MainWindow::resendWanted);
+  autoapply_ =
+      AddAction(mixer, tr("Send all at each &plug-in"), QKeySequence());
+  autoapply_->setCheckable(true);
+  connect(autoapply_, &QAction::triggered, this, &MainWindow::autoapplyWanted);
+  mixer->addSeparator();
+  QAction *check = AddAction(mixer, tr("&Check again"), QKeySequence::Refresh);
+  connect(check, &QAction::triggered, this, &MainWindow::checkWanted);
+
+  clubMenu_ = menuBar()->addMenu(tr("&Clubs"));
+  clubMenu_->setToolTipsVisible(true);
+  ShowClubs({});
+}
+
+QWidget *MainWindow::MakeLowerBar() {
+  auto *bar = new QWidget(this);
+  message_ = new QLabel(bar);
+  message_->setWordWrap(true);
+  message_->setTextFormat(Qt::PlainText);
+  message_->setObjectName(QStringLiteral("message"));
+  undoButton_ = new QPushButton(bar);
+  connect(undoButton_, &QPushButton::clicked, undo_, &QAction::trigger);
+  auto *resend = new QPushButton(resend_->text(), bar);
+  resend->setToolTip(
+      tr("Sends what is remembered to the mixers; changes nothing."));
+  connect(resend, &QPushButton::clicked, resend_, &QAction::trigger);
+  auto *layout = new QHBoxLayout(bar);
+  const int unit = bar->fontMetrics().height();
+  layout->setContentsMargins(unit, 0, unit, unit / 2);
+  layout->addWidget(message_, 1);
+  layout->addWidget(undoButton_);
+  layout->addWidget(resend);
+  return bar;
+}
+
+void MainWindow::showState(const State &state) {
+  notices_->showState(state);
+  routing_->showState(state);
+  for (RowsPage *page : otherPages_) page->showState(state);
+  ShowUndo(state);
+  ShowAutoapply(state);
+  if (state.clubs != clubs_) ShowClubs(state.clubs);
+}
+
+void MainWindow::ShowUndo(const State &state) {
+  undo_->setEnabled(state.canUndo);
+  undo_->setText(state.canUndo ? tr("&Undo: %1").arg(state.undoes)
+                               : tr("&Undo"));
+  undoButton_->setEnabled(state.canUndo);
+  undoButton_->setText(undo_->text());
+}
+
+void MainWindow::ShowAutoapply(const State &state) {
+  autoapply_->setEnabled(state.autoapply != Autoapply::Unavailable);
+  autoapply_->setChecked(state.autoapply == Autoapply::On);
+  autoapply_->setToolTip(state.whyNoAutoapply);
+}
+
+void MainWindow::ShowClubs(const QList<ClubState> &clubs) {
+  clubs_ = clubs;
+  clubMenu_->clear();
+  for (const ClubState &club : clubs) {
+    QAction *action = AddAction(clubMenu_, club.name, QKeySequence());
+    connect(action, &QAction::triggered, this,
+            [this, path = club.path] { emit previewWanted(path); });
+  }
+  if (!clubs.isEmpty()) clubMenu_->addSeparator();
+  QAction *save =
+      AddAction(clubMenu_, tr("&Save as a club…"), QKeySequence::Save);
+  connect(save, &QAction::triggered, this, &MainWindow::AskForName);
+}
+
+void MainWindow::AskForName() {
+  auto *dialog = new QInputDialog(this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setWindowTitle(tr("Save as a club"));
+  dialog->setLabelText(
+      tr("Name of the club; all remembered settings are "
+         "saved under it:"));
+  connect(dialog, &QInputDialog::textValueSelected, this,
+          [this](const QString &name) {
+            if (!name.trimmed().isEmpty()) emit saveWanted(name.trimmed());
+          });
+  dialog->open();
+}
+
+void MainWindow::showPreview(const ClubPreview &preview) {
+  auto *dialog = new ClubDialog(preview, this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &ClubDialog::accepted, this,
+          [this, path = preview.club.path] { emit applyWanted(path); });
+  dialog->open();
+}
+
+void MainWindow::showMessage(const QString &message) {
+  if (message_->text() == message) return;
+  message_->setText(message);
+  if (message.isEmpty()) return;
+  QAccessibleEvent event(message_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
+}
+
+void MainWindow::TellVisibility() {
+  emit visibilityChanged(isVisible() && !isMinimized());
+}
+
+void MainWindow::changeEvent(QEvent *event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) TellVisibility();
+}
+
+// Hidden at once; what still runs ends without the window.
+void MainWindow::closeEvent(QCloseEvent *event) {
+  hide();
+  event->accept();
+}
+
+void MainWindow::hideEvent(QHideEvent *event) {
+  QMainWindow::hideEvent(event);
+  TellVisibility();
+}
+
+void MainWindow::showEvent(QShowEvent *event) {
+  QMainWindow::showEvent(event);
+  TellVisibility();
+}
 
 }  // namespace ztk::window

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_TOOLS_WINDOW_PAGES_ROWS_PAGE_H_
+#define ZTK_TOOLS_WINDOW_PAGES_ROWS_PAGE_H_
+
+#include <QList>
+#include <QWidget>
+
+#include "window/engine/state.h"
+
+namespace ztk::window {
+
+class ChoiceRow;
+
+// The page of a model whose settings are shown as rows alone.
+class RowsPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit RowsPage(const QList<const model::Setting *> &settings,
+                    QWidget *parent = nullptr);
+
+  void showState(const State &state);
+  const QList<ChoiceRow *> &rows() const { return rows_; }
+
+ signals:
+  void chosen(const ztk::model::Setting &setting, std::uint32_t channel,
+              std::uint32_t index);
+
+ private:
+  QList<ChoiceRow *> rows_;
+};
+
+}  // namespace ztk::window
+
+#endif  // ZTK_TOOLS_WINDOW_PAGES_ROWS_PAGE_H_

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_TOOLS_WINDOW_PICTURE_PICTURE_STATE_H_
+#define ZTK_TOOLS_WINDOW_PICTURE_PICTURE_STATE_H_
+
+#include <QString>
+#include <array>
+#include <optional>
+
+#include "window/picture/wires.h"
+#include "ztk/model/routing.h"
+
+namespace ztk::window {
+
+// What the picture shows.
+struct PictureState {
+  struct Channel {
+    // What is recorded; none where the stored number is no choice.
+    std::optional<model::Tap> tap;
+    bool onlyRemembered = false;  // no mixer has it
+    bool operator==(const Channel &) const = default;
+  };
+  struct Selector {
+    QString position;  // empty where no mixer has told it
+    bool silences = false;
+    bool operator==(const Selector &) const = default;
+  };
+  std::array<Channel, kWires> channels;
+  std::array<Selector, model::kLanes> selectors;
+  bool operator==(const PictureState &) const = default;
+};
+
+}  // namespace ztk::window
+
+#endif  // ZTK_TOOLS_WINDOW_PICTURE_PICTURE_STATE_H_

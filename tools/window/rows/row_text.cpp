@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "window/rows/row_text.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <algorithm>
+
+#include "ztk/model/routing.h"
+
+namespace ztk::window {
+
+namespace {
+
+struct Row {
+  Q_DECLARE_TR_FUNCTIONS(Row)
+};
+
+std::optional<std::uint32_t> SelectorOf(const RowState &row) {
+  if (row.setting != &model::kInput) return std::nullopt;
+  return model::DecidingSelector(row.channel, row.shown);
+}
+
+// "Turn the selector of CH2 from 1 to 4", once for each mixer.
+QStringList Turns(const RowState &row, const State &state) {
+  QStringList turns;
+  for (const MixerState *mixer : SilencingMixers(row, state)) {
+    const std::uint32_t lane = *SelectorOf(row);
+    const int position = *mixer->selectors[lane];
+    turns.append(
+        state.mixers.size() == 1
+            ? Row::tr("Turn the selector of CH%1 from %2 to %3.")
+                  .arg(lane + 1)
+                  .arg(position)
+                  .arg(model::kAudiblePosition)
+            : Row::tr("Turn the selector of CH%1 on mixer %4 from %2 to %3.")
+                  .arg(lane + 1)
+                  .arg(position)
+                  .arg(model::kAudiblePosition)
+                  .arg(mixer->number));
+  }
+  return turns;
+}
+
+QString SentText(const RowState &row) {
+  if (row.accepted == 1) return Row::tr("Sent to the mixer, and remembered.");
+  return Row::tr("Sent to %n mixers, and remembered.", nullptr, row.accepted);
+}
+
+QString IdleText(const RowState &row, const State &state) {
+  if (!row.stored)
+    return Row::tr("Nothing is remembered; this is the default.");
+  if (IsOnlyRemembered(row, state)) {
+    return Row::tr("Remembered; no mixer has it.");
+  }
+  return Row::tr("Remembered.");
+}
+
+QString DeliveryText(const RowState &row, const State &state) {
+  switch (row.delivery) {
+    case Delivery::Idle:
+      return IdleText(row, state);
+    case Delivery::Sending:
+      return Row::tr("Sending…");
+    case Delivery::Sent:
+      return SentText(row);
+    case Delivery::RememberedOnly:
+      if (row.accepted > 0) {
+        return SentText(row) + QLatin1Char(' ') + row.reason;
+      }
+      return Row::tr("Remembered only.") + QLatin1Char(' ') + row.reason;
+    case Delivery::Failed:
+      break;
+  }
+  return Row::tr("Not stored.") + QLatin1Char(' ') + row.reason;
+}
+
+}  // namespace
+
+QString RowLabel(const model::Setting &setting, std::uint32_t channel) {
+  if (&setting == &model::kInput) {
+    return Row::tr("USB &%1 records:").arg(channel + 1);
+  }
+  if (&setting == &model::kOutput) {
+    return Row::tr("USB &%1 plays on:").arg(channel + 1);
+  }
+  if (&setting == &model::kBoost) return Row::tr("USB output &level:");
+  return Row::tr("MIDI &channel:");
+}
+
+QList<const MixerState *> SilencingMixers(const RowState &row,
+                                          const State &state) {
+  QList<const MixerState *> silencing;
+  const auto lane = SelectorOf(row);
+  if (!lane) return silencing;
+  for (const MixerState &mixer : state.mixers) {
+    const auto &position = mixer.selectors[*lane];
+    if (position && *position != model::kAudiblePosition) {
+      silencing.append(&mixer);
+    }
+  }
+  return silencing;
+}
+
+bool IsOnlyRemembered(const RowState &row, const State &state) {
+  if (row.delivery == Delivery::RememberedOnly) return row.accepted == 0;
+  return state.known &&
+         std::none_of(state.mixers.begin(), state.mixers.end(),
+                      [](const MixerState &mixer) {
+                        return mixer.answer == MixerAnswer::Answers;
+                      });
+}
+
+RowText TextOf(const RowState &row, const State &state) {
+  if (!row.unreadable.isEmpty()) {
+    return {.text = row.unreadable, .needsAttention = true};
+  }
+  const QStringList turns = Turns(row, state);
+  QStringList sentences(DeliveryText(row, state).trimmed());
+  if (!turns.isEmpty()) {
+    sentences = turns + sentences;
+  } else if (!row.warning.isEmpty()) {
+    sentences.prepend(row.warning);
+  }
+  return {.text = sentences.join(QLatin1Char(' ')),
+          .needsAttention = !turns.isEmpty() || !row.warning.isEmpty() ||
+                            row.delivery == Delivery::RememberedOnly ||
+                            row.delivery == Delivery::Failed};
+}
+
+}  // namespace ztk::window
