@@ -155,6 +155,8 @@ class PictureTest : public QObject {
   void DraggingTheNumberChoosesForItsChannel();
   void DraggingTheArrowChoosesForItsChannel();
   void ADragThatEndsNowhereChoosesNothing();
+  void AClickOnAnArrowMakesItsChannelActive();
+  void AClickOnANumberThatIsOutOfReachMakesItsChannelActive();
   void TheKeyboardReachesEveryTap();
   void DigitsNameTheActiveChannel();
   void DescribesTheTapWithTheFocus();
@@ -345,6 +347,30 @@ void PictureTest::ADragThatEndsNowhereChoosesNothing() {
   QSignalSpy chosen(picture_.get(), &Picture::tapChosen);
   Drag(WireOf(3).points.front().toPoint(), QPoint(2, 2));
   QCOMPARE(chosen.size(), 0);
+}
+
+void PictureTest::AClickOnAnArrowMakesItsChannelActive() {
+  QSignalSpy active(picture_.get(), &Picture::activeChannelChanged);
+  QSignalSpy chosen(picture_.get(), &Picture::tapChosen);
+  QTest::mouseClick(picture_.get(), Qt::LeftButton, {},
+                    WireOf(2).points.back().toPoint() - QPoint(3, 0));
+  QCOMPARE(active.size(), 1);
+  QCOMPARE(active[0][0].toInt(), 2);
+  QCOMPARE(chosen.size(), 0);
+}
+
+void PictureTest::AClickOnANumberThatIsOutOfReachMakesItsChannelActive() {
+  QSignalSpy active(picture_.get(), &Picture::activeChannelChanged);
+  QSignalSpy chosen(picture_.get(), &Picture::tapChosen);
+  QTest::mouseClick(picture_.get(), Qt::LeftButton, {},
+                    PlaceOf({.source = Source::Line, .lane = 1}));
+  QCOMPARE(active.size(), 1);
+  QCOMPARE(active[0][0].toInt(), 1);
+  // REC OUT, where the number 5 stands, can be recorded on channel 1 too.
+  QTest::mouseClick(picture_.get(), Qt::LeftButton, {},
+                    PlaceOf({.source = Source::RecOut}));
+  QCOMPARE(chosen.size(), 1);
+  QCOMPARE(chosen[0][0].toInt(), 0);
 }
 
 void PictureTest::TheKeyboardReachesEveryTap() {

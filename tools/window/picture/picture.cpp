@@ -9,6 +9,7 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "window/picture/picture_painter.h"
 
@@ -262,12 +263,15 @@ void Picture::mouseMoveEvent(QMouseEvent *event) {
 void Picture::mouseReleaseEvent(QMouseEvent *event) {
   if (event->button() != Qt::LeftButton) return;
   const TapSpot *spot = SpotAt(event->position());
-  const int channel = drag_ && drag_->moved ? drag_->channel : active_;
-  drag_.reset();
+  const std::optional<Drag> drag = std::exchange(drag_, std::nullopt);
   update();
+  if (drag && !drag->moved && (spot == nullptr || !CanBeChosen(*spot))) {
+    emit activeChannelChanged(drag->channel);
+    return;
+  }
   if (spot == nullptr) return;
   focus_ = spot->tap;
-  Choose(channel, spot->tap);
+  Choose(drag && drag->moved ? drag->channel : active_, spot->tap);
   Describe();
 }
 

@@ -39,7 +39,8 @@ class Picture : public QWidget {
 
  signals:
   void tapChosen(int channel, const ztk::model::Tap &tap);
-  // A number key chose another channel, or a wire was grasped.
+  // A number key named another channel, or one end of its wire was grasped, or
+  // clicked where the active channel can choose nothing.
   void activeChannelChanged(int channel);
 
  protected:

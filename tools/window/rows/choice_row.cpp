@@ -26,6 +26,7 @@ ChoiceRow::ChoiceRow(const model::Setting &setting, std::uint32_t channel,
        model::ChoicesOf(setting, setting.product, channel)) {
     box_->addItem(QString::fromStdString(choice.text));
   }
+  box_->setCurrentIndex(-1);  // nothing is known yet
   box_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   box_->installEventFilter(this);
   box_->setObjectName(QStringLiteral("%1 %2").arg(
