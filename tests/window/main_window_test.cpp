@@ -15,6 +15,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include "window/cut_texts.h"
 #include "window/pages/club_dialog.h"
 #include "window/pages/routing_page.h"
 #include "window/pages/rows_page.h"
@@ -52,6 +53,8 @@ class MainWindowTest : public QObject {
   void ListsClubsAndAppliesAfterAPreview();
   void DoesNotApplyABrokenClub();
   void TheSisterModelsHaveTheirOwnPages();
+  void NoTextIsCut_data();
+  void NoTextIsCut();
   void ClosingHidesAtOnce();
   void TellsWhetherItIsVisible();
 
@@ -365,6 +368,46 @@ void MainWindowTest::TheSisterModelsHaveTheirOwnPages() {
   QCOMPARE(labels, (QStringList{"USB &1 plays on:", "USB &2 plays on:",
                                 "USB &3 plays on:", "MIDI &channel:"}));
   QCOMPARE(boxes, (QStringList{"CH1", "CH1", "CH1", "CH 1"}));
+}
+
+void MainWindowTest::NoTextIsCut_data() {
+  QTest::addColumn<qreal>("scale");
+  QTest::addColumn<int>("width");
+  QTest::newRow("usual letters") << 1.0 << 900;
+  QTest::newRow("usual letters, narrow") << 1.0 << 300;
+  QTest::newRow("large letters") << 2.0 << 1600;
+  QTest::newRow("large letters, narrow") << 2.0 << 600;
+}
+
+void MainWindowTest::NoTextIsCut() {
+  QFETCH(const qreal, scale);
+  QFETCH(const int, width);
+  const QFont usual = QApplication::font();
+  QFont font = usual;
+  font.setPointSizeF(usual.pointSizeF() * scale);
+  QApplication::setFont(font);
+  MainWindow window;
+  RowState &row = RowOf(&state_, model::kInput, 1);
+  row.delivery = Delivery::RememberedOnly;
+  row.reason =
+      "Mixer 1 is attached, but it does not answer: the request has ended "
+      "after 1000 ms, and nothing is known of what became of it.";
+  state_.findings = {
+      {.id = "silent",
+       .what = "Mixer 1 does not answer what it is asked, again and again.",
+       .cause = "The mixer may hang. Switching it off and on again helps then, "
+                "and so does another cable or another port.",
+       .command = "echo 0 | sudo tee /sys/bus/usb/devices/1-2/authorized; "
+                  "sleep 1; echo 1 | sudo tee "
+                  "/sys/bus/usb/devices/1-2/authorized"}};
+  window.showState(state_);
+  window.showMessage("The club “Friday” could not be saved: the disk is full.");
+  window.resize(width, width * 3 / 4);
+  window.show();
+  SettleLayouts();
+  const QStringList cut = CutTexts(window);
+  QApplication::setFont(usual);
+  QCOMPARE(cut, QStringList());
 }
 
 void MainWindowTest::ClosingHidesAtOnce() {
