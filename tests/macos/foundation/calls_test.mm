@@ -171,7 +171,7 @@ TEST_F(MacCallsOfFoundation, WriteAFileAtomically) {
   {
     const Replaced write(class_getInstanceMethod([NSDictionary class], @selector
                                                  (writeToFile:atomically:)),
-                         (IMP)RecordWrite);
+                         (IMP)(void (*)(void))RecordWrite);
     EXPECT_TRUE(plist::WriteAtomically(list, TextOf(SettingsFile("VRM-D6"))));
   }
   EXPECT_THAT(theCalls, ElementsAre("write atomically"));
