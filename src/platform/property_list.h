@@ -22,8 +22,8 @@ enum class ReadState {
   // memory left, an error of the disk, no regular file, or another program was
   // writing to it all the time. It may hold settings: see MayBeReplaced().
   Unavailable,
-  // The file was read in full, twice with the same bytes, and its root is not a
-  // dictionary, or the reader refuses it. It may be replaced.
+  // The file was read in full, and its root is not a dictionary, or the reader
+  // refuses it. It did not change for a while. It may be replaced.
   Damaged,
 };
 

@@ -13,12 +13,14 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <string>
 
 #include "linux/plist_files.h"
 #include "linux/temp_folder.h"
 #include "platform/common/file_change.h"
+#include "platform/common/pause.h"
 #include "platform/common/replace_file.h"
 #include "platform/property_list.h"
 
@@ -149,6 +151,24 @@ TEST_F(Locking, IsNotAllThatKeepsAnotherProcessesValue) {
   plist::Release(dictionary);
   EXPECT_EQ(ContentOf(path_), both_);
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
+}
+
+// As `cp` does it: the file keeps its inode and, here, its size.
+TEST_F(Reading, NoticesThatAFileWasWrittenOverAfterwards) {
+  for (const std::string &before : {old_, std::string(old_.size(), 'x')}) {
+    Put(path_, before);
+    plist::Dictionary *dictionary = plist::MakeDictionary();
+    plist::AddEntriesOfFile(dictionary, path_.c_str());
+    // The clock of a file system may go on in steps of 10 ms.
+    ztk::platform::Pause(std::chrono::milliseconds(20));
+    Put(path_, old_);
+    int error = 0;
+    EXPECT_FALSE(plist::WriteAtomically(dictionary, path_.c_str(), &error));
+    EXPECT_EQ(error, ESTALE);
+    plist::Release(dictionary);
+    EXPECT_EQ(ContentOf(path_), old_);
+    EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
+  }
 }
 
 TEST_F(Reading, TellsAbsentUnavailableAndDamagedFilesApart) {

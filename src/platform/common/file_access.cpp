@@ -45,9 +45,20 @@ std::optional<std::string> FollowLinks(std::string path) {
   return std::nullopt;
 }
 
+std::chrono::nanoseconds ModificationTime(const struct stat &status) {
+#if defined(__APPLE__)
+  const timespec &time = status.st_mtimespec;
+#else
+  const timespec &time = status.st_mtim;
+#endif
+  return std::chrono::seconds(time.tv_sec) +
+         std::chrono::nanoseconds(time.tv_nsec);
+}
+
 bool IsSameFile(const struct stat &first, const struct stat &second) {
   return first.st_dev == second.st_dev && first.st_ino == second.st_ino &&
-         first.st_size == second.st_size && first.st_mtime == second.st_mtime &&
+         first.st_size == second.st_size &&
+         ModificationTime(first) == ModificationTime(second) &&
          first.st_ctime == second.st_ctime;
 }
 

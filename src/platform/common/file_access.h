@@ -6,6 +6,7 @@
 
 #include <sys/stat.h>
 
+#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -34,9 +35,12 @@ std::optional<std::string> FollowLinks(std::string path);
 // above these and is never created.
 inline constexpr int kMaxMissingFolders = 3;
 
+// When the content of a file was last changed, counted from 1970.
+std::chrono::nanoseconds ModificationTime(const struct stat &status);
+
 // True when both describe one and the same content of a file. A file that has
 // been replaced has another inode, or, where the number is used again, another
-// time.
+// time. One that was written over has another time, to the nanosecond.
 bool IsSameFile(const struct stat &first, const struct stat &second);
 
 // Creates the folder that the path lies in, for its owner only, together with

@@ -34,8 +34,8 @@ namespace ztk::platform {
 // killed for it (SIGXFSZ).
 //
 // `expected` may describe the file that the content was made from. If another
-// one is there by now, because another process has replaced it, the file is not
-// replaced, and the error number is ESTALE.
+// process has replaced it or written over it since, the file is not replaced,
+// and the error number is ESTALE.
 bool ReplaceFile(const std::string &path, std::string_view content,
                  bool keepOld, int *error = nullptr,
                  const struct stat *expected = nullptr);

@@ -2,14 +2,13 @@
 #include "platform/linux/plist_reader.h"
 
 #include <cerrno>
-#include <chrono>
 #include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/common/file_access.h"
-#include "platform/common/pause.h"
+#include "platform/common/file_watch.h"
 #include "platform/linux/c_locale.h"
 #include "platform/linux/clean_text.h"
 #include "platform/linux/plist_guards.h"
@@ -141,29 +140,26 @@ ReadResult ResultOf(int error) {
 }  // namespace
 
 FileContent ReadContent(const char *path) {
-  constexpr int kAttempts = 4;
-  constexpr std::chrono::milliseconds kPause{8};
+  FileWatch watch;
   std::string bytes;
-  std::optional<std::string> before;
-  bool same = false;
-  for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    if (attempt > 0) Pause(kPause);
+  std::optional<std::string> damaged;
+  for (;;) {
     struct stat status = {};
     const int error = ReadRegularFile(path, kMaxFileSize, &bytes, 0, &status);
-    if (error == EBUSY) {
-      before.reset();
-      same = false;
-      continue;
+    if (error != 0 && error != EBUSY) return {.result = ResultOf(error)};
+    const bool same = error == 0 && damaged == bytes;
+    if (error == 0 && !same) {
+      FileContent content = ContentOf(bytes);
+      content.status = status;
+      if (content.result.state != ReadState::Damaged) return content;
     }
-    if (error != 0) return {.result = ResultOf(error)};
-    FileContent content = ContentOf(bytes);
-    content.status = status;
-    if (content.result.state != ReadState::Damaged) return content;
-    same = before == bytes;
-    before = bytes;
+    if (same && watch.IsSettled(status)) {
+      return {.result = {.state = ReadState::Damaged}, .status = status};
+    }
+    if (watch.IsOver()) return {.result = ResultOf(EBUSY)};
+    damaged = error == 0 ? std::optional(bytes) : std::nullopt;
+    watch.Wait(same);
   }
-  return {.result =
-              same ? ReadResult{.state = ReadState::Damaged} : ResultOf(EBUSY)};
 }
 
 }  // namespace ztk::platform::property_list

@@ -24,8 +24,10 @@ struct FileContent {
 };
 
 // Reads a file. One that does not parse may be a file that another program is
-// just writing over; it is read again after short pauses, and counts as damaged
-// only when the last two readings gave the same bytes.
+// just copying over. It is read again after short pauses, and counts as damaged
+// when two readings gave the same bytes and its last change is at least a
+// quarter of a second ago. One that still changes after half a second is
+// unavailable (EBUSY).
 FileContent ReadContent(const char *path);
 
 }  // namespace ztk::platform::property_list
