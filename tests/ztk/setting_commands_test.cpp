@@ -27,6 +27,38 @@ TEST_F(InputSet, SendsRemembersAndReadsTheSelector) {
               HasSubstr("<key>Output1</key>"));
 }
 
+TEST_F(BoostSet, TellsWhereADamagedSettingsFileIsKept) {
+  WriteAll(home_.SettingsFile("VRM-D6"), "broken");
+  const Result result = OneMixer("ztk boost set 1");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.err,
+            "ztk: warning: the settings file was damaged; it is kept in " +
+                home_.path().string() +
+                "/.config/tarvix/Preferences under a name with "
+                "\".unreadable\"\n");
+  EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6").string() + ".unreadable-1"),
+            "broken");
+}
+
+TEST_F(BoostSet, TellsWhereAFileIsKeptThatTheUserMayNotRead) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can be two users";
+  const Result result = NoMixer(
+      "run=\"setpriv --reuid 65534 --clear-groups env HOME=$DIR/home\"\n"
+      "$run ztk --version > /dev/null || exit 97\n"
+      "chmod 755 $DIR; folder=$DIR/home/.config/tarvix/Preferences\n"
+      "mkdir -p $folder; echo old > $folder/com.tarvix.VRM-D6autosetup.plist\n"
+      "chmod 0 $folder/*; chown -R 65534 $DIR/home\n"
+      "$run ztk boost set 1; ls $folder");
+  if (result.status == 97)
+    GTEST_SKIP() << "the program cannot be run by others";
+  EXPECT_THAT(result.err,
+              HasSubstr("ztk: warning: the settings file could not be read, as "
+                        "you have no permission; it is kept in "));
+  EXPECT_THAT(result.out, HasSubstr("com.tarvix.VRM-D6autosetup.plist\n"
+                                    "com.tarvix.VRM-D6autosetup.plist."
+                                    "unreadable-1\n"));
+}
+
 TEST_F(InputSet, FindsTheChoiceByNumberTextAndBeginning) {
   const Result result = OneMixer(
       "ztk input set 1 'post ch1 fader' && ztk input set 1 cross fader b &&"

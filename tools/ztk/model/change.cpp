@@ -30,6 +30,17 @@ std::string WhyNotStored(const ZTKFileOutcome &store) {
                                : SystemErrorText(store.systemCode);
 }
 
+std::string WhyOldFileKept(const ZTKFileOutcome &read) {
+  switch (read.result) {
+    case ZTK_FILE_DAMAGED:
+      return "was damaged";
+    case ZTK_FILE_NOT_PERMITTED:
+      return "could not be read, as you have no permission";
+    default:
+      return "";
+  }
+}
+
 }  // namespace
 
 MadeChanges MakeChanges(const std::vector<Change> &changes) {
@@ -50,8 +61,7 @@ MadeChanges MakeChanges(const std::vector<Change> &changes) {
                       });
       one.remembered = outcome.store.result == ZTK_FILE_OK;
       if (!one.remembered) one.notStored = WhyNotStored(outcome.store);
-      one.replacedDamaged =
-          one.remembered && outcome.read.result == ZTK_FILE_DAMAGED;
+      if (one.remembered) one.oldFileKept = WhyOldFileKept(outcome.read);
       one.announced = outcome.announcement.result == ZTK_ANNOUNCEMENT_SENT;
     }
     made.changes.push_back(std::move(one));

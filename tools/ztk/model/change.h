@@ -33,9 +33,9 @@ struct MadeChange {
   bool selectorsKnown = false;
   // Why it is not stored, as a part of a sentence; else empty.
   std::string notStored = {};
-  // The settings file was damaged. It is kept under another name, and a new one
-  // holds the value.
-  bool replacedDamaged = false;
+  // Why the old settings file could not be used, as a part of a sentence; else
+  // empty. It is kept under another name, and a new one holds the value.
+  std::string oldFileKept = {};
 };
 
 struct MadeChanges {

@@ -149,12 +149,12 @@ void ReportOutcome(const MadeChanges &made, const std::string &what,
       std::all_of(made.changes.begin(), made.changes.end(),
                   [](const MadeChange &change) { return change.announced; });
   if (!announced) WarnOfMissingBus(report);
-  const bool replaced = std::any_of(
+  const auto replaced = std::find_if(
       made.changes.begin(), made.changes.end(),
-      [](const MadeChange &change) { return change.replacedDamaged; });
-  if (replaced) {
-    report->warnings.push_back("the settings file was damaged; it is kept in " +
-                               SettingsFolder() +
+      [](const MadeChange &change) { return !change.oldFileKept.empty(); });
+  if (replaced != made.changes.end()) {
+    report->warnings.push_back("the settings file " + replaced->oldFileKept +
+                               "; it is kept in " + SettingsFolder() +
                                " under a name with \".unreadable\"");
   }
 }
