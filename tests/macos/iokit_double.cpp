@@ -111,7 +111,10 @@ void LogMisuse(std::string what) {
 
 using namespace ztk::iokit;
 
+// A macro on macOS, which names a variable.
+#ifndef mach_task_self
 task_t mach_task_self() { return kTask; }
+#endif
 
 // Asking again gives the same name and one more reference on it.
 kern_return_t IOMasterPort(mach_port_t /*bootstrapPort*/,
@@ -134,7 +137,8 @@ kern_return_t IOMasterPort(mach_port_t /*bootstrapPort*/,
 
 kern_return_t mach_port_deallocate(task_t task, mach_port_t name) {
   LogCall("mach_port_deallocate");
-  if (task != kTask) LogMisuse("mach_port_deallocate in another task");
+  if (task != mach_task_self())
+    LogMisuse("mach_port_deallocate in another task");
   Named *port = At(name, "mach_port_deallocate", kPort);
   if (port == nullptr) return KERN_INVALID_NAME;
   port->references.Remove();

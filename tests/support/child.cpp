@@ -9,11 +9,22 @@
 
 namespace ztk::test {
 
+namespace {
+
+// A pipe whose ends no other program gets. Not every system has pipe2().
+bool MakePipe(int *ends) {
+  if (pipe(ends) != 0) return false;
+  return fcntl(ends[0], F_SETFD, FD_CLOEXEC) == 0 &&
+         fcntl(ends[1], F_SETFD, FD_CLOEXEC) == 0;
+}
+
+}  // namespace
+
 ChildProcess::ChildProcess(const std::vector<std::string> &words,
                            const std::function<std::string()> &prepare) {
   int in[2];
   int out[2];
-  if (pipe2(in, O_CLOEXEC) != 0 || pipe2(out, O_CLOEXEC) != 0) {
+  if (!MakePipe(in) || !MakePipe(out)) {
     throw std::runtime_error("no pipe");
   }
   std::vector<char *> line;

@@ -57,7 +57,16 @@ struct EntryRow {
   const char *element;
   // kUnreadable when the whole file is.
   std::int32_t expected;
+  // Foundation converts such a number as the processor does: on Apple silicon
+  // the answer is the nearest limit, and 0 for NaN.
+  bool onIntel = false;
 };
+
+#if defined(__x86_64__)
+inline constexpr bool kIsIntel = true;
+#else
+inline constexpr bool kIsIntel = false;
+#endif
 
 // The value of an element of an XML file.
 inline constexpr EntryRow kEntryRows[] = {
@@ -101,16 +110,16 @@ inline constexpr EntryRow kEntryRows[] = {
     {"<real>5.</real>", 5},
     {"<real>1e3</real>", 1000},
     {"<real>2147483647.5</real>", 2147483647},
-    // Any real that is out of range is the least integer, on Intel processors.
-    {"<real>2147483648</real>", -2147483647 - 1},
-    {"<real>-2147483649</real>", -2147483647 - 1},
-    {"<real>4294967301.0</real>", -2147483647 - 1},
-    {"<real>1e300</real>", -2147483647 - 1},
-    {"<real>1e999</real>", -2147483647 - 1},
-    {"<real>-1e300</real>", -2147483647 - 1},
-    {"<real>nan</real>", -2147483647 - 1},
-    {"<real>+infinity</real>", -2147483647 - 1},
-    {"<real>INF</real>", -2147483647 - 1},
+    // Any real that is out of range is the lowest integer.
+    {"<real>2147483648</real>", -2147483647 - 1, true},
+    {"<real>-2147483649</real>", -2147483647 - 1, true},
+    {"<real>4294967301.0</real>", -2147483647 - 1, true},
+    {"<real>1e300</real>", -2147483647 - 1, true},
+    {"<real>1e999</real>", -2147483647 - 1, true},
+    {"<real>-1e300</real>", -2147483647 - 1, true},
+    {"<real>nan</real>", -2147483647 - 1, true},
+    {"<real>+infinity</real>", -2147483647 - 1, true},
+    {"<real>INF</real>", -2147483647 - 1, true},
     {"<real>5x</real>", kUnreadable},
     {"<real>5 </real>", kUnreadable},
     {"<real>1,5</real>", kUnreadable},

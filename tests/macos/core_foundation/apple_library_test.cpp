@@ -19,10 +19,8 @@ TEST_F(AppleCoreFoundation, ReadsTextsByTheTableOfBothPorts) {
 }
 
 TEST_F(AppleCoreFoundation, ReadsEntriesByTheTableOfBothPorts) {
-#if !defined(__x86_64__)
-  GTEST_SKIP() << "reals out of range are converted as the processor does it";
-#endif
   for (const EntryRow &row : kEntryRows) {
+    if (row.onIntel && !kIsIntel) continue;
     SCOPED_TRACE(row.element);
     const auto value = ValueIn(
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"

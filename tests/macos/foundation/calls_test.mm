@@ -81,14 +81,18 @@ BOOL RecordWrite(id /*dictionary*/, SEL /*name*/, NSString * /*path*/,
 
 }  // namespace
 
+// Foundations declare the kind of the elements or leave it out.
+using Folders = decltype(NSSearchPathForDirectoriesInDomains(
+    NSLibraryDirectory, NSUserDomainMask, YES));
+
 // In place of Foundation's function, which is called after it is recorded.
-extern "C" NSArray *NSSearchPathForDirectoriesInDomains(
+extern "C" Folders NSSearchPathForDirectoriesInDomains(
     NSSearchPathDirectory folder, NSSearchPathDomainMask domain, BOOL expand) {
   theCalls.push_back("search " + std::to_string(folder) + " " +
                      std::to_string(domain) +
                      (expand ? " with the home folder" : " with a tilde"));
   using Function =
-      NSArray *(*)(NSSearchPathDirectory, NSSearchPathDomainMask, BOOL);
+      Folders (*)(NSSearchPathDirectory, NSSearchPathDomainMask, BOOL);
   const auto next = reinterpret_cast<Function>(
       dlsym(RTLD_NEXT, "NSSearchPathForDirectoriesInDomains"));
   return next(folder, domain, expand);

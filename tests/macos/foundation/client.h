@@ -7,7 +7,12 @@
 #ifndef ZTK_TESTS_MACOS_FOUNDATION_CLIENT_H_
 #define ZTK_TESTS_MACOS_FOUNDATION_CLIENT_H_
 
+#include <string>
+
 namespace ztk::test {
+
+// The path of this program, to run it once more.
+std::string OwnProgram();
 
 // The first argument of a client.
 inline constexpr char kClient[] = "--client";

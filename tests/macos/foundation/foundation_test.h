@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The fixture of the tests on GNUstep's Foundation. main() has given the
-// process a home, a root and a notification center of its own.
+// The fixture of the tests on Foundation: GNUstep's, or Apple's on a Mac.
+// main() has given the process a home of its own and, on Linux, a root and a
+// notification center.
 #ifndef ZTK_TESTS_MACOS_FOUNDATION_FOUNDATION_TEST_H_
 #define ZTK_TESTS_MACOS_FOUNDATION_FOUNDATION_TEST_H_
 
@@ -13,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "ZTKFunc.h"
 #include "iokit_double.h"
 #include "support/child.h"
 
@@ -38,6 +40,14 @@ class PlantedRootTest : public FoundationTest {
  protected:
   void SetUp() override;
 };
+
+// Whether the Foundation in use is GNUstep's, which answers some questions
+// differently.
+#ifdef GNUSTEP
+inline constexpr bool kOnGNUstep = true;
+#else
+inline constexpr bool kOnGNUstep = false;
+#endif
 
 // Whether main() could make the root.
 inline constexpr char kNoRoot[] = "ZTK_TEST_NO_ROOT";

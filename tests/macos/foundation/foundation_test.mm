@@ -39,7 +39,7 @@ void PlantedRootTest::SetUp() {
 
 Client::Client(const std::vector<std::string> &words)
     : ChildProcess([&words] {
-        std::vector<std::string> line{"/proc/self/exe", kClient};
+        std::vector<std::string> line{OwnProgram(), kClient};
         line.insert(line.end(), words.begin(), words.end());
         return line;
       }()) {}

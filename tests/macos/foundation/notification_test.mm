@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The observer, and what reaches it from other processes.
+#include <objc/runtime.h>
+
 #include <filesystem>
 #include <memory>
 #include <string>

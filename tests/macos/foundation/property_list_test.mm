@@ -7,6 +7,7 @@
 #include "foundation_test.h"
 #include "platform/macos/dictionary.h"
 #include "support/number_rows.h"
+#include "support/plist_rows.h"
 #include "support/temp_home.h"
 
 namespace ztk::test {
@@ -66,13 +67,41 @@ TEST_F(MacPropertyList, GivesIntegersOfWhateverHasANumber) {
 TEST_F(MacPropertyList, ReadsTextsByTheTableOfBothPorts) {
   NSMutableDictionary *list = [NSMutableDictionary dictionary];
   for (const NumberRow &row : kNumberRows) {
-    if (row.onAppleOnly) continue;
+    if (kOnGNUstep && row.onAppleOnly) continue;
     SCOPED_TRACE(row.text);
     [list setObject:ObjectOf(row.text) forKey:@"key"];
     std::int32_t value = 99;
     const plist::Dictionary dictionary{.entries = list};
     EXPECT_TRUE(plist::IntegerValue(&dictionary, ZTK_TEXT("key"), &value));
     EXPECT_EQ(value, row.expected);
+  }
+}
+
+TEST_F(MacPropertyList, ReadsEntriesByTheTableOfBothPorts) {
+  if (kOnGNUstep) GTEST_SKIP() << "GNUstep reads numbers by other rules";
+  for (const EntryRow &row : kEntryRows) {
+    if (row.onIntel && !kIsIntel) continue;
+    SCOPED_TRACE(row.element);
+    WriteAll(File(), PropertyList(std::string("<key>a</key>") + row.element));
+    plist::Dictionary *list = plist::ReadFile(TextOf(File()));
+    std::int32_t value = kUnreadable;
+    plist::IntegerValue(list, ZTK_TEXT("a"), &value);
+    EXPECT_EQ(value, row.expected);
+    plist::Release(list);
+  }
+}
+
+TEST_F(MacPropertyList, ReadsTheFormsOfTheTable) {
+  if (kOnGNUstep) GTEST_SKIP() << "GNUstep reads other forms";
+  for (const FormRow &row : FormRows()) {
+    SCOPED_TRACE(row.name);
+    WriteAll(File(), row.bytes);
+    plist::Dictionary *list = plist::ReadFile(TextOf(File()));
+    EXPECT_EQ(list != nullptr, row.read);
+    std::int32_t value = 0;
+    EXPECT_EQ(plist::IntegerValue(list, ZTK_TEXT("a"), &value), row.read);
+    EXPECT_EQ(value, row.read ? 5 : 0);
+    plist::Release(list);
   }
 }
 

@@ -13,41 +13,6 @@
 
 #include "iokit_double_objects.h"
 
-namespace ztk::iokit {
-
-CFMutableDictionaryRef MakeMatching(const char *className) {
-  // A bus of that many mixers, in a program that does not describe one.
-  const char *mixers = std::getenv("MACHO_RUN_MIXERS");
-  TheWorld().bus.assign(
-      static_cast<std::size_t>(mixers == nullptr ? 0 : std::atoi(mixers)),
-      Mixer());
-  NSMutableDictionary *made = [[NSMutableDictionary alloc] init];
-  [made setObject:[NSString stringWithUTF8String:className] forKey:@"class"];
-  return (CFMutableDictionaryRef)made;
-}
-
-std::optional<Matching> ConsumeMatching(CFDictionaryRef dictionary) {
-  NSMutableDictionary *object = (NSMutableDictionary *)dictionary;
-  const auto number = [object](NSString *key) -> std::optional<std::int32_t> {
-    NSNumber *found = [object objectForKey:key];
-    if (found == nil) return std::nullopt;
-    return [found intValue];
-  };
-  Matching matching{.className = [[object objectForKey:@"class"] UTF8String],
-                    .vendor = number(@"idVendor"),
-                    .product = number(@"idProduct")};
-  [object release];
-  return matching;
-}
-
-void ForgetObjects() {}
-
-bool SameUuid(const CFUUIDBytes &first, const CFUUIDBytes &second) {
-  return std::memcmp(&first, &second, sizeof first) == 0;
-}
-
-}  // namespace ztk::iokit
-
 namespace {
 
 volatile sig_atomic_t theSignals;  // a bit for each that came

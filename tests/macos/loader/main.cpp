@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "image.h"
+#include "iokit_double.h"
 
 // What a program asks for by _NSGetArgv().
 extern "C" char **darwin_words;
@@ -13,6 +14,12 @@ int main(int count, char **arguments, char **environment) {
   using namespace ztk::loader;
   if (count < 2) Fail("name a program of macOS, and what it is given");
   PrepareFoundation();
+  // The bus of a program that does not describe one.
+  const char *mixers = std::getenv("MACHO_RUN_MIXERS");
+  if (mixers != nullptr) {
+    ztk::iokit::TheWorld().bus.assign(
+        static_cast<std::size_t>(std::atoi(mixers)), ztk::iokit::Mixer());
+  }
   const std::vector<Image *> images = Load(arguments[1]);
   ++arguments;
   --count;

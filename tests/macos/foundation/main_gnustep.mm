@@ -21,6 +21,12 @@
 #include "support/planted_root.h"
 #include "support/temp_home.h"
 
+namespace ztk::test {
+
+std::string OwnProgram() { return "/proc/self/exe"; }
+
+}  // namespace ztk::test
+
 namespace {
 
 using namespace ztk::test;
@@ -85,7 +91,7 @@ int RunInside(char **arguments) {
     return 1;
   }
   int status = 0;
-  waitpid(Start("/proc/self/exe", arguments), &status, 0);
+  waitpid(Start(OwnProgram().c_str(), arguments), &status, 0);
   kill(center, SIGTERM);
   waitpid(center, nullptr, 0);
   return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
