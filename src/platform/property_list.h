@@ -67,6 +67,8 @@ Dictionary *MakeDictionary();
 ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path);
 // Sets an integer, replacing what stood under the key.
 void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value);
+// Removes an entry; does nothing where there is none.
+void RemoveEntry(Dictionary *dictionary, ZTKTextRef key);
 
 // Reads an entry as a 32-bit integer: an integer's low 32 bits; a real towards
 // zero, the lowest integer for NaN and what is out of range (on Apple silicon

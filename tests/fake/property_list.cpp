@@ -96,6 +96,11 @@ void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value) {
   dictionary->entries[Plain(key)] = value;
 }
 
+void RemoveEntry(Dictionary *dictionary, ZTKTextRef key) {
+  LogCall(std::string("remove ") + Plain(key));
+  dictionary->entries.erase(Plain(key));
+}
+
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
                   std::int32_t *value) {
   const auto entry = dictionary->entries.find(Plain(key));

@@ -72,6 +72,7 @@ class IntegerValue : public File {};
 class TextValue : public File {};
 class ReadFile : public File {};
 class SetInteger : public File {};
+class RemoveEntry : public File {};
 class Rewriting : public File {};
 
 TEST_F(IntegerValue, ConvertsEveryKindOfEntry) {
@@ -246,6 +247,18 @@ TEST_F(SetInteger, ReplacesWhateverStoodThere) {
       EXPECT_EQ(IntegerOf(ContentOf(path_)), std::to_string(value));
     }
   }
+}
+
+TEST_F(RemoveEntry, LeavesTheOthersAlone) {
+  Put(path_, Xml("<key>a</key><integer>1</integer>"
+                 "<key>b</key><string>kept</string>"));
+  const Dictionary dictionary = Read();
+  plist::RemoveEntry(dictionary.get(), "a");
+  plist::RemoveEntry(dictionary.get(), "missing");
+  plist::RemoveEntry(dictionary.get(), nullptr);
+  ASSERT_TRUE(plist::WriteAtomically(dictionary.get(), path_.c_str()));
+  EXPECT_EQ(IntegerOf(ContentOf(path_)), "none");
+  EXPECT_NE(ContentOf(path_).find("kept"), std::string::npos);
 }
 
 TEST_F(Rewriting, KeepsEntriesOfEveryKind) {

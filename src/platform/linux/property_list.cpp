@@ -126,6 +126,13 @@ void SetInteger(Dictionary *dictionary, ZTKTextRef key,
   dictionary->lacksMemory = true;
 }
 
+void RemoveEntry(Dictionary *dictionary, ZTKTextRef key) try {
+  if (dictionary == nullptr || key == nullptr) return;
+  plist_dict_remove_item(dictionary->root, CleanText(key).c_str());
+} catch (const std::bad_alloc &) {
+  dictionary->lacksMemory = true;
+}
+
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
                   std::int32_t *value) {
   plist_t entry = Entry(dictionary, key);

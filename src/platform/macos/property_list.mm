@@ -184,6 +184,13 @@ void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value) {
   }
 }
 
+void RemoveEntry(Dictionary *dictionary, ZTKTextRef key) {
+  if (key == nullptr) return;
+  @autoreleasepool {
+    [FilledOf(dictionary) removeObjectForKey:StringOf(key)];
+  }
+}
+
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
                   std::int32_t *value) {
   const id entry = Entry(dictionary, key);

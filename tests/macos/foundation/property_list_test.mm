@@ -222,6 +222,19 @@ TEST_F(MacChangedMeanwhile, IsNotKeptAsideWhenItWasDamaged) {
   EXPECT_FALSE(std::filesystem::exists(File() + ".unreadable-1"));
 }
 
+TEST_F(MacPropertyList, LosesOnlyTheEntryThatIsRemoved) {
+  plist::Dictionary *list = plist::MakeDictionary();
+  plist::SetInteger(list, ZTK_TEXT("a"), 1);
+  plist::SetInteger(list, ZTK_TEXT("b"), 2);
+  plist::RemoveEntry(list, ZTK_TEXT("a"));
+  plist::RemoveEntry(list, ZTK_TEXT("missing"));
+  plist::RemoveEntry(list, nullptr);
+  std::int32_t value = 0;
+  EXPECT_FALSE(plist::IntegerValue(list, ZTK_TEXT("a"), &value));
+  EXPECT_TRUE(plist::IntegerValue(list, ZTK_TEXT("b"), &value));
+  plist::Release(list);
+}
+
 TEST_F(MacPropertyList, IsNotWrittenWhereThereIsNoFolder) {
   plist::Dictionary *list = plist::MakeDictionary();
   plist::SetInteger(list, ZTK_TEXT("a"), 1);

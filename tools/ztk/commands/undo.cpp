@@ -60,16 +60,18 @@ void AddUndone(const MadeChange &one, const PastChange &past,
   const Setting &setting = *past.setting;
   Json fields{{"setting", setting.name}, {"model", ModelName(setting)}};
   AddValueFields(setting, past.channel, one.change.index, &fields);
-  fields["undoneValue"] = static_cast<std::int32_t>(past.after);
+  fields["undoneValue"] =
+      past.after ? Json(static_cast<std::int32_t>(*past.after)) : Json();
   fields["wasRemembered"] = past.before.has_value();
   fields["result"] = one.result;
   fields["remembered"] = one.remembered;
   fields["announced"] = one.announced;
   report->fields["settings"].push_back(std::move(fields));
-  report->text += PlaceName(setting, past.channel) + ": " +
-                  DescribedValue(setting, past.channel, past.after) +
-                  " undone, " +
-                  DescribedValue(setting, past.channel, one.change.index);
+  report->text +=
+      PlaceName(setting, past.channel) + ": " +
+      (past.after ? DescribedValue(setting, past.channel, *past.after)
+                  : "reset") +
+      " undone, " + DescribedValue(setting, past.channel, one.change.index);
   if (one.result == ZTK_REJECTED) {
     report->text += " refused\n";
     return;
@@ -160,7 +162,8 @@ bool UndoStep(const std::vector<UndoItem> &undoings, Report *report) {
   bool done = true;
   for (const MadeChange &one : made.changes) {
     AddUndone(one, PastOf(one.change, undoings), made.reach, report);
-    done = done && (one.remembered || one.result == ZTK_REJECTED);
+    done =
+        done && (one.remembered || one.forgotten || one.result == ZTK_REJECTED);
   }
   const MadeChanges accepted = Accepted(made);
   if (!accepted.changes.empty()) {
@@ -174,7 +177,7 @@ bool UndoStep(const std::vector<UndoItem> &undoings, Report *report) {
 
 void UndoLast(bool dryRun, History *history, Report *report) {
   const Step step = history->steps().back();
-  const std::vector<UndoItem> undoings = PlanUndo(step);
+  const std::vector<UndoItem> undoings = PlanUndo(history->steps());
   const std::vector<std::string> foreign = ForeignOnes(undoings);
   const std::vector<Change> changes = ChangesOf(undoings);
   if (dryRun) {

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "ztk/model/forget.h"
+
 namespace ztk::model {
 
 namespace {
@@ -41,6 +43,29 @@ std::string WhyOldFileKept(const ZTKFileOutcome &read) {
   }
 }
 
+// What the library has recorded of a change that it has accepted.
+void AddOutcome(const RecordedCalls &calls, MadeChange *one) {
+  const ZTKOutcome &outcome = calls.last();
+  one->accepted = calls.acceptedLast();
+  one->selectorsKnown =
+      std::any_of(outcome.mixers, outcome.mixers + outcome.mixersListed,
+                  [](const ZTKMixerOutcome &mixer) {
+                    return mixer.read.result == ZTK_REQUEST_ACCEPTED;
+                  });
+  one->remembered = outcome.store.result == ZTK_FILE_OK;
+  if (!one->remembered) one->notStored = WhyNotStored(outcome.store);
+  if (one->remembered) one->oldFileKept = WhyOldFileKept(outcome.read);
+  one->announced = outcome.announcement.result == ZTK_ANNOUNCEMENT_SENT;
+  one->announcementFailed =
+      outcome.announcement.result == ZTK_ANNOUNCEMENT_FAILED;
+}
+
+void Forget(MadeChange *one) {
+  one->notStored = RemoveRemembered(*one->change.setting, one->change.channel);
+  one->forgotten = one->notStored.empty();
+  one->remembered = false;
+}
+
 }  // namespace
 
 MadeChanges MakeChanges(const std::vector<Change> &changes) {
@@ -51,19 +76,8 @@ MadeChanges MakeChanges(const std::vector<Change> &changes) {
     one.result = calls.Call([&change] {
       return change.setting->set(change.product, change.channel, change.index);
     });
-    if (one.result != ZTK_REJECTED) {
-      const ZTKOutcome &outcome = calls.last();
-      one.accepted = calls.acceptedLast();
-      one.selectorsKnown =
-          std::any_of(outcome.mixers, outcome.mixers + outcome.mixersListed,
-                      [](const ZTKMixerOutcome &mixer) {
-                        return mixer.read.result == ZTK_REQUEST_ACCEPTED;
-                      });
-      one.remembered = outcome.store.result == ZTK_FILE_OK;
-      if (!one.remembered) one.notStored = WhyNotStored(outcome.store);
-      if (one.remembered) one.oldFileKept = WhyOldFileKept(outcome.read);
-      one.announced = outcome.announcement.result == ZTK_ANNOUNCEMENT_SENT;
-    }
+    if (one.result != ZTK_REJECTED) AddOutcome(calls, &one);
+    if (one.remembered && change.forgets) Forget(&one);
     made.changes.push_back(std::move(one));
   }
   made.reach = calls.reach();

@@ -21,6 +21,9 @@ struct Change {
   std::uint32_t product;
   std::uint32_t channel;
   std::uint32_t index;
+  // The value is sent and announced, and afterwards nothing is remembered: a
+  // default that stands for the time before the first choice.
+  bool forgets = false;
 };
 
 struct MadeChange {
@@ -29,6 +32,9 @@ struct MadeChange {
   std::size_t accepted = 0;  // mixers that have accepted the value
   bool remembered = false;   // it is stored in the settings file
   bool announced = false;    // the message bus has taken the announcement
+  // There is a message bus, and it did not take the announcement.
+  bool announcementFailed = false;
+  bool forgotten = false;  // nothing is remembered, as was asked for
   // A mixer has told where its input selectors are.
   bool selectorsKnown = false;
   // Why it is not stored, as a part of a sentence; else empty.

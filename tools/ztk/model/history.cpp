@@ -28,16 +28,18 @@ std::optional<PastChange> ParseChange(const Json &json) {
                                : "";
   for (const Setting *setting : AllSettings()) {
     if (name != setting->name) continue;
-    const auto after = Number(json.value("after", Json()));
+    const Json afterwards = json.value("after", Json(false));
+    const auto after = Number(afterwards);
     const std::uint32_t channel =
         setting->channels == 0
             ? 0
             : Number(json.value("channel", Json())).value_or(0) - 1;
-    if (!after || channel >= ChannelsToWalk(*setting)) return std::nullopt;
+    if (!after && !afterwards.is_null()) return std::nullopt;
+    if (channel >= ChannelsToWalk(*setting)) return std::nullopt;
     return PastChange{.setting = setting,
                       .channel = channel,
                       .before = Number(json.value("before", Json())),
-                      .after = *after};
+                      .after = after};
   }
   return std::nullopt;
 }
@@ -58,6 +60,10 @@ std::optional<Step> ParseStep(const std::string &line) {
   return step;
 }
 
+Json NumberOrNull(const std::optional<std::uint32_t> &number) {
+  return number ? Json(static_cast<std::int32_t>(*number)) : Json();
+}
+
 std::string LineOf(const Step &step) {
   Json json{{"command", step.command}, {"changes", Json::array()}};
   for (const PastChange &change : step.changes) {
@@ -65,10 +71,8 @@ std::string LineOf(const Step &step) {
         {{"setting", change.setting->name},
          {"channel",
           change.setting->channels == 0 ? Json() : Json(change.channel + 1)},
-         {"before", change.before
-                        ? Json(static_cast<std::int32_t>(*change.before))
-                        : Json()},
-         {"after", static_cast<std::int32_t>(change.after)}});
+         {"before", NumberOrNull(change.before)},
+         {"after", NumberOrNull(change.after)}});
   }
   return json.dump() + "\n";
 }
@@ -136,38 +140,44 @@ bool History::Save() {
   return saved;
 }
 
+RecordedStep::RecordedStep(Step step, History *history) : history_(history) {
+  if (history->state() != History::State::Usable) {
+    notRecorded_ = history->reason();
+  } else if (!step.changes.empty()) {
+    history->Add(std::move(step));
+    recorded_ = history->Save();
+    if (!recorded_) {
+      notRecorded_ = "nothing can be written to " + StateFolder();
+    }
+  }
+}
+
+void RecordedStep::TakeBack() const {
+  if (!recorded_) return;
+  history_->DropLast();
+  history_->Save();
+}
+
 MadeStep MakeStep(const std::string &command,
                   const std::vector<Change> &changes, History *history) {
   Step step{.command = command, .changes = {}};
   for (const Change &change : changes) {
     const auto before = Remembered(*change.setting, change.channel);
-    if (before == change.index) continue;
+    const auto after =
+        change.forgets ? std::nullopt : std::optional(change.index);
+    if (before == after) continue;
     step.changes.push_back({.setting = change.setting,
                             .channel = change.channel,
                             .before = before,
-                            .after = change.index});
+                            .after = after});
   }
-  MadeStep result;
-  // The step is written before the change. If this program is ended in between,
-  // the history holds a step that did not happen, which undo recognises.
-  bool recorded = false;
-  if (history->state() != History::State::Usable) {
-    result.notRecorded = history->reason();
-  } else if (!step.changes.empty()) {
-    history->Add(step);
-    recorded = history->Save();
-    if (!recorded) {
-      result.notRecorded = "nothing can be written to " + StateFolder();
-    }
-  }
-  result.made = MakeChanges(changes);
-  const bool kept =
-      std::any_of(result.made.changes.begin(), result.made.changes.end(),
-                  [](const MadeChange &one) { return one.remembered; });
-  if (recorded && !kept) {
-    history->DropLast();
-    history->Save();
-  }
+  const RecordedStep recorded(std::move(step), history);
+  MadeStep result{.made = MakeChanges(changes),
+                  .notRecorded = recorded.notRecorded()};
+  const bool kept = std::any_of(
+      result.made.changes.begin(), result.made.changes.end(),
+      [](const MadeChange &one) { return one.remembered || one.forgotten; });
+  if (!kept) recorded.TakeBack();
   return result;
 }
 

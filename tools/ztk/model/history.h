@@ -19,8 +19,9 @@ namespace ztk::model {
 struct PastChange {
   const Setting *setting;
   std::uint32_t channel;
-  std::optional<std::uint32_t> before;  // none: nothing was remembered
-  std::uint32_t after;
+  // None: nothing was remembered.
+  std::optional<std::uint32_t> before;
+  std::optional<std::uint32_t> after;
 };
 
 // What one command has changed.
@@ -58,7 +59,7 @@ class History {
 
   const std::vector<Step> &steps() const { return steps_; }
   void Add(Step step);
-  void DropLast() { steps_.pop_back(); }
+  void DropLast(std::size_t count = 1) { steps_.resize(steps_.size() - count); }
   // Only for a usable history. False when it could not be written.
   bool Save();
 
@@ -71,6 +72,24 @@ class History {
   std::string reason_;
   std::vector<Step> steps_;
   bool damaged_ = false;
+};
+
+// Adds a step before its changes are made. If this program is ended in between,
+// the history holds a step that did not happen, which undo recognises.
+class RecordedStep {
+ public:
+  RecordedStep(Step step, History *history);
+
+  // Why the history does not hold the step; empty when it does, or when the
+  // step has no changes.
+  const std::string &notRecorded() const { return notRecorded_; }
+  // Removes it again: nothing has changed.
+  void TakeBack() const;
+
+ private:
+  History *history_;
+  bool recorded_ = false;
+  std::string notRecorded_;
 };
 
 struct MadeStep {

@@ -7,6 +7,7 @@
 
 #include "api/status.h"
 #include "usb/mixers.h"
+#include "ztk/model/in_parallel.h"
 
 namespace ztk::model {
 
@@ -79,16 +80,6 @@ std::string Sentence(int number, MixerState state) {
   return "";
 }
 
-Mixer Unopened(int number, const std::string &place) {
-  const Access access = TryToOpen(place);
-  return {.number = number,
-          .state = access.obstacle == Obstacle::Vanished
-                       ? MixerState::Gone
-                       : MixerState::NotOpened,
-          .reason = Word(access.obstacle),
-          .message = Named(number) + " " + Explained(access)};
-}
-
 // What became of the request that sets a value.
 Mixer AfterWrite(int number, const ZTKRequestOutcome &write) {
   Mixer mixer{
@@ -109,16 +100,19 @@ Mixer AfterWrite(int number, const ZTKRequestOutcome &write) {
   return mixer;
 }
 
-// Its number is what it was called before; its position may have changed.
-Mixer AskMixer(int number, const std::string &place) {
-  const std::vector<std::string> now = MixerPlaces();
-  const auto found = std::find(now.begin(), now.end(), place);
-  if (found == now.end()) return Unopened(number, place);
-  const usb::OpenMixer mixer(static_cast<std::int32_t>(found - now.begin()));
-  if (!mixer) return Unopened(number, place);
-  usb::Reply reply;
-  const usb::Code code = GetFirmwareVersionNumber(
-      mixer.connection(), reply.bytes, status::kFirmwareVersionLength);
+}  // namespace
+
+Mixer Unopened(int number, const std::string &place) {
+  const Access access = TryToOpen(place);
+  return {.number = number,
+          .state = access.obstacle == Obstacle::Vanished
+                       ? MixerState::Gone
+                       : MixerState::NotOpened,
+          .reason = Word(access.obstacle),
+          .message = Named(number) + " " + Explained(access)};
+}
+
+Mixer Unanswering(int number, usb::Code code) {
   const MixerState state = StateOf(code);
   return {
       .number = number,
@@ -128,8 +122,6 @@ Mixer AskMixer(int number, const std::string &place) {
                      ? "the request to " + Named(number) + " " + Described(code)
                      : Sentence(number, state)};
 }
-
-}  // namespace
 
 std::size_t Reach::answered() const {
   return static_cast<std::size_t>(std::count_if(
@@ -203,12 +195,30 @@ Mixer &RecordedCalls::MixerAt(const std::string &place) {
                                           .message = {}});
 }
 
+namespace {
+
+// Its number is what it was called before; its position may have changed.
+Mixer AskMixer(int number, const std::string &place) {
+  const std::vector<std::string> now = MixerPlaces();
+  const auto found = std::find(now.begin(), now.end(), place);
+  if (found == now.end()) return Unopened(number, place);
+  const usb::OpenMixer mixer(static_cast<std::int32_t>(found - now.begin()));
+  if (!mixer) return Unopened(number, place);
+  usb::Reply reply;
+  return Unanswering(number,
+                     GetFirmwareVersionNumber(mixer.connection(), reply.bytes,
+                                              status::kFirmwareVersionLength));
+}
+
+}  // namespace
+
 Reach AskMixers(const std::vector<std::string> &places) {
   Reach reach;
-  int number = 0;
-  for (const std::string &place : places) {
-    reach.mixers.push_back(AskMixer(++number, place));
-  }
+  reach.mixers.resize(places.size());
+  InParallel(places.size(), [&](std::size_t position) {
+    reach.mixers[position] =
+        AskMixer(static_cast<int>(position) + 1, places[position]);
+  });
   return reach;
 }
 

@@ -26,8 +26,8 @@ enum class MixerState : std::uint8_t {
 };
 
 struct Mixer {
-  int number;  // from 1, in the order of the bus
-  MixerState state;
+  int number = 0;  // from 1, in the order of the bus
+  MixerState state = MixerState::Failed;
   std::string reason;   // a word for programs: "silent", "not-permitted", ...
   std::string message;  // a sentence, empty when it answered
 };
@@ -41,7 +41,12 @@ struct Reach {
   std::size_t opened() const;
 };
 
-// Asks each mixer at these places something harmless.
+// The mixer at the place could not be opened.
+Mixer Unopened(int number, const std::string &place);
+// The mixer was opened, and its last request ended with this code.
+Mixer Unanswering(int number, usb::Code code);
+
+// Asks the mixers at these places something harmless, all at the same time.
 Reach AskMixers(const std::vector<std::string> &places);
 
 // Calls functions of the library one after the other, and collects from the

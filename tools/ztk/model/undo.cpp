@@ -1,19 +1,56 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/undo.h"
 
+#include <algorithm>
+
 #include "ztk/model/remembered.h"
 
 namespace ztk::model {
 
 namespace {
 
-UndoItem::Action ActionFor(const PastChange &change) {
-  const auto now = Remembered(*change.setting, change.channel);
-  if (now == change.after) return UndoItem::Action::PutBack;
+using Action = UndoItem::Action;
+
+// What undo does about a change while the value is `now`.
+Action ActionFor(const PastChange &change, std::optional<std::uint32_t> now) {
+  if (now == change.after) return Action::PutBack;
+  // Before settings could be forgotten, undo remembered the default.
   if (now == change.before || now == FormerIndex(change)) {
-    return UndoItem::Action::Nothing;
+    return Action::Nothing;
   }
-  return UndoItem::Action::LeaveAlone;
+  return Action::LeaveAlone;
+}
+
+bool IsSamePlace(const UndoItem &item, const PastChange &change) {
+  return item.past.setting == change.setting &&
+         item.past.channel == change.channel;
+}
+
+// Takes a change back, after those that were made later.
+void TakeBack(const PastChange &change, std::vector<UndoItem> *items) {
+  const auto later = std::find_if(
+      items->rbegin(), items->rend(),
+      [&](const UndoItem &item) { return IsSamePlace(item, change); });
+  if (later == items->rend()) {
+    const auto now = Remembered(*change.setting, change.channel);
+    items->push_back({.past = change, .action = ActionFor(change, now)});
+    return;
+  }
+  // Somebody else's value stays, whatever was before it.
+  if (later->action == Action::LeaveAlone) return;
+  switch (ActionFor(change, later->past.before)) {
+    case Action::PutBack:
+      // Where the later change is void, this one is in effect.
+      if (later->action == Action::Nothing) later->past.after = change.after;
+      later->past.before = change.before;
+      later->action = Action::PutBack;
+      break;
+    case Action::Nothing:
+      break;
+    case Action::LeaveAlone:
+      items->push_back({.past = change, .action = Action::LeaveAlone});
+      break;
+  }
 }
 
 }  // namespace
@@ -30,30 +67,45 @@ std::string WhyUnreadable(const Step &step) {
   return "";
 }
 
-std::vector<UndoItem> PlanUndo(const Step &step) {
+std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
+                               std::size_t count) {
   std::vector<UndoItem> items;
-  for (auto change = step.changes.rbegin(); change != step.changes.rend();
-       ++change) {
-    items.push_back({.past = *change, .action = ActionFor(*change)});
+  for (std::size_t i = 0; i < count && i < steps.size(); ++i) {
+    const Step &step = steps[steps.size() - 1 - i];
+    for (auto change = step.changes.rbegin(); change != step.changes.rend();
+         ++change) {
+      TakeBack(*change, &items);
+    }
   }
   return items;
 }
 
 bool IsVoid(const Step &step) {
-  for (const PastChange &change : step.changes) {
-    if (ActionFor(change) != UndoItem::Action::Nothing) return false;
+  return std::all_of(
+      step.changes.begin(), step.changes.end(), [](const PastChange &change) {
+        const auto now = Remembered(*change.setting, change.channel);
+        return ActionFor(change, now) == Action::Nothing;
+      });
+}
+
+std::size_t DropVoidSteps(History *history) {
+  std::size_t dropped = 0;
+  while (!history->steps().empty() && IsVoid(history->steps().back())) {
+    history->DropLast();
+    ++dropped;
   }
-  return true;
+  return dropped;
 }
 
 std::vector<Change> ChangesOf(const std::vector<UndoItem> &items) {
   std::vector<Change> changes;
   for (const auto &[past, action] : items) {
-    if (action != UndoItem::Action::PutBack) continue;
+    if (action != Action::PutBack) continue;
     changes.push_back({.setting = past.setting,
                        .product = past.setting->product,
                        .channel = past.channel,
-                       .index = FormerIndex(past)});
+                       .index = FormerIndex(past),
+                       .forgets = !past.before.has_value()});
   }
   return changes;
 }

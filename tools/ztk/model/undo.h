@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// How the changes of a step are taken back.
+// How the changes of the last steps are taken back.
 #ifndef ZTK_TOOLS_ZTK_MODEL_UNDO_H_
 #define ZTK_TOOLS_ZTK_MODEL_UNDO_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -12,7 +13,9 @@
 
 namespace ztk::model {
 
-// One change of a step, and what undo does about it.
+// What undo does about one channel of a setting. Where several steps have
+// changed it, `past` goes from the value before the first of them to the value
+// after the last one.
 struct UndoItem {
   PastChange past;
   enum class Action : std::uint8_t {
@@ -22,22 +25,27 @@ struct UndoItem {
   } action;
 };
 
-// The value before the change. The library cannot remove a setting from its
-// file: where nothing was remembered, this is the default.
+// What is set to put a change back: the value before it; the default where
+// nothing was remembered.
 std::uint32_t FormerIndex(const PastChange &change);
 
 // The settings file of the step that cannot be read, and why; empty where all
 // can be. Without it nothing is known of what is in effect.
 std::string WhyUnreadable(const Step &step);
 
-// The last change first.
-std::vector<UndoItem> PlanUndo(const Step &step);
+// What taking back the last `count` steps does, the last change first.
+std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
+                               std::size_t count = 1);
 
 // Whether no change of the step is in effect, because its command was
 // interrupted or somebody has put all of it back.
 bool IsVoid(const Step &step);
 
-// The changes that put back what is to be put back.
+// Removes the last steps of the history that are void. Returns how many.
+std::size_t DropVoidSteps(History *history);
+
+// The changes that put back what is to be put back. Where nothing was
+// remembered before, the default is sent and nothing is remembered again.
 std::vector<Change> ChangesOf(const std::vector<UndoItem> &items);
 
 }  // namespace ztk::model

@@ -131,9 +131,10 @@ std::string Described(const Reach &reach) {
 
 void ReportOutcome(const MadeChanges &made, const std::string &what,
                    const std::string &again, Report *report) {
-  const bool kept =
-      std::all_of(made.changes.begin(), made.changes.end(),
-                  [](const MadeChange &change) { return change.remembered; });
+  const bool kept = std::all_of(made.changes.begin(), made.changes.end(),
+                                [](const MadeChange &change) {
+                                  return change.remembered || change.forgotten;
+                                });
   if (kept) {
     ReportReach(
         made.reach,
@@ -169,7 +170,9 @@ std::string Described(const MadeChange &change, const Reach &reach) {
       change.accepted > 0
           ? "sent to " + InNumbers(change.accepted, reach.found())
           : Described(reach);
-  return sent + (change.remembered ? ", remembered" : ", not remembered");
+  return sent + (change.forgotten    ? ""
+                 : change.remembered ? ", remembered"
+                                     : ", not remembered");
 }
 
 void WarnOfMissingBus(Report *report) {

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "ztk/model/forget.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "platform/property_list.h"
+#include "platform/text.h"
+#include "store/settings_path.h"
+
+namespace ztk::model {
+
+namespace plist = platform::property_list;
+using platform::text::Made;
+
+namespace {
+
+// One try: an errno value, 0 where the file does not hold the key.
+int TryToRemove(ZTKTextRef path, ZTKTextRef key) {
+  plist::Dictionary *settings = plist::MakeDictionary();
+  const plist::ReadResult read = plist::AddEntriesOfFile(settings, path);
+  int error = 0;
+  std::int32_t value = 0;
+  if (read.state == plist::ReadState::Unavailable) {
+    error = read.error == 0 ? EIO : read.error;
+  } else if (plist::IntegerValue(settings, key, &value)) {
+    plist::RemoveEntry(settings, key);
+    if (!plist::WriteAtomically(settings, path, &error) && error == 0) {
+      error = EIO;
+    }
+  }
+  plist::Release(settings);
+  return error;
+}
+
+}  // namespace
+
+std::string RemoveRemembered(const Setting &setting, std::uint32_t channel) {
+  const Made path(store::MakePath(setting.model));
+  if (path.get() == nullptr) return "you have no home folder";
+  // A key without a channel has no place to put it in.
+  const Made key(
+      platform::text::Format(setting.key, static_cast<std::int32_t>(channel)));
+  plist::Change *change = plist::BeginChange(path.get());
+  // Another program may replace the file in between where it cannot be locked.
+  constexpr int kAttempts = 20;
+  int error = ESTALE;
+  for (int left = kAttempts; left > 0 && error == ESTALE; --left) {
+    error = TryToRemove(path.get(), key.get());
+  }
+  plist::EndChange(change);
+  return error == 0 ? "" : std::strerror(error);
+}
+
+ForgottenStep ForgetValues(const std::string &command,
+                           const std::vector<StoredValue> &values,
+                           History *history) {
+  ForgottenStep result;
+  Step step{.command = command, .changes = {}};
+  for (const StoredValue &value : values) {
+    step.changes.push_back({.setting = value.setting,
+                            .channel = value.channel,
+                            .before = value.index,
+                            .after = std::nullopt});
+  }
+  const RecordedStep recorded(std::move(step), history);
+  result.notRecorded = recorded.notRecorded();
+  for (const StoredValue &value : values) {
+    result.values.push_back(
+        {.value = value,
+         .notForgotten = RemoveRemembered(*value.setting, value.channel)});
+  }
+  const bool anyDone = std::any_of(
+      result.values.begin(), result.values.end(),
+      [](const ForgottenValue &one) { return one.notForgotten.empty(); });
+  if (!anyDone) recorded.TakeBack();
+  return result;
+}
+
+}  // namespace ztk::model

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+//
+// Why nothing is recorded on a USB channel.
+#ifndef ZTK_TOOLS_ZTK_MODEL_SILENCE_H_
+#define ZTK_TOOLS_ZTK_MODEL_SILENCE_H_
+
+#include <cstdint>
+#include <vector>
+
+#include "ztk/model/mixer_status.h"
+
+namespace ztk::model {
+
+// A channel of USB input audio whose current choice can only be heard with the
+// input selector in another position.
+struct SilentRouting {
+  int mixer;              // its number
+  std::uint32_t channel;  // from 0
+  std::uint32_t index;    // the choice: what is remembered, or the default
+  std::uint8_t position;  // of the input selector
+};
+
+// In the order of the mixers and channels. Mixers that have not told their
+// selectors are passed over.
+std::vector<SilentRouting> FindSilentRoutings(
+    const std::vector<MixerStatus> &mixers);
+
+// Whether the choice depends on the input selector of its channel.
+bool NeedsSelector(std::uint32_t channel, std::uint32_t index);
+
+}  // namespace ztk::model
+
+#endif  // ZTK_TOOLS_ZTK_MODEL_SILENCE_H_
