@@ -12,13 +12,14 @@ TEST_F(Apply, SendsWhatIsRememberedAndNothingElse) {
   Remember("VRM-K2", {{"MidiChannel", 1}});
   const Result result = OneMixer("ztk apply");
   EXPECT_EQ(result.status, 0) << result.err;
-  EXPECT_EQ(result.out,
-            "USB input 2: 3 Post CH2 Fader, sent\n"
-            "USB input 5: 8 MIC, sent\n"
-            "Not sent: what is remembered for the VRM-B5; ztk apply --product "
-            "VRM-B5 sends it\n"
-            "Not sent: what is remembered for the VRM-K2; ztk apply --product "
-            "VRM-K2 sends it\n");
+  EXPECT_EQ(
+      result.out,
+      "USB input 2: 3 Post CH2 Fader, sent\n"
+      "USB input 5: 8 MIC, sent\n"
+      "Not sent: what is remembered for the VRM-B5; ztk apply --all sends "
+      "it too\n"
+      "Not sent: what is remembered for the VRM-K2; ztk apply --all sends "
+      "it too\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0206 8002 0000",
                                     "mixer 1: 40 03 0509 8002 0000"));
 }
@@ -55,7 +56,7 @@ TEST_F(Apply, TellsOfEachSettingWhetherTheMixerHasAcceptedIt) {
   EXPECT_EQ(result.status, 3);
   EXPECT_EQ(result.out,
             "USB input 2: 3 Post CH2 Fader, sent\n"
-            "Boost level: 1 -5 dB, refused by the mixer\n");
+            "Boost level: 1 -5 dB, not accepted\n");
 }
 
 TEST_F(Apply, TakesAnotherModelsFamily) {
@@ -79,13 +80,22 @@ TEST_F(Apply, NamesTheModelsThatItLeavesOut) {
     EXPECT_EQ(json["leftOut"], Json({"VRM-K2"}));
   }
   Remember("VRM-D6", {});
-  EXPECT_EQ(OneMixer("ztk apply").out,
-            "Nothing is remembered for the VRM-D6: nothing to send.\n"
-            "Not sent: what is remembered for the VRM-K2; ztk apply --product "
-            "VRM-K2 sends it\n");
+  EXPECT_EQ(OneMixer("ztk apply").out, "MIDI channel: 4 CH 4, sent\n");
   // Who names a model knows what is left out.
   EXPECT_EQ(OneMixer("ztk apply --product VRM-D6").out,
             "Nothing is remembered for the VRM-D6: nothing to send.\n");
+}
+
+TEST_F(Apply, SendsWhatIsRememberedForEveryModelWhenToldSo) {
+  Remember("VRM-D6", {{"Output1", 2}});
+  Remember("VRM-B5", {{"Input1", 2}});
+  const Result result = OneMixer("ztk apply --all; echo $?");
+  EXPECT_EQ(result.out,
+            "USB input 2: 3 Post CH2 Fader, sent\nUSB output 2: 3 AUX, sent\n"
+            "0\n");
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0206 8002 0000",
+                                    "mixer 1: 40 03 0204 8016 0000"));
+  EXPECT_EQ(OneMixer("ztk apply --all --product VRM-B5").status, 2);
 }
 
 TEST_F(Apply, SendsOneChannelWhenToldSo) {
@@ -105,14 +115,14 @@ TEST_F(Apply, ReportsAValueThatTheLibraryRefuses) {
   EXPECT_EQ(json["error"]["code"], "rejected");
   EXPECT_THAT(result.err, HasSubstr("MIDI channel: 10 CH 10"));
   EXPECT_THAT(result.err,
-              HasSubstr("; only choices 1 to 4 can be sent again; to send this "
-                        "one, set it once more: ztk midi set 10\n"));
+              HasSubstr("; apply can only re-send channels 1 to 4; for 5 to 16 "
+                        "use set again: ztk midi set 10\n"));
   EXPECT_THAT(Writes(), IsEmpty());
 }
 
 TEST_F(Apply, IsNotPromisedForAHighMidiChannel) {
   const std::string note =
-      "  ztk apply cannot send this one again; set it once more instead\n";
+      "  apply can only re-send channels 1 to 4; for 5 to 16 use set again\n";
   WriteAll(home_.path() / "file",
            R"({"version":1,"settings":{"VRM-K2":{"midi":"CH 5"}}})");
   EXPECT_EQ(
@@ -121,9 +131,9 @@ TEST_F(Apply, IsNotPromisedForAHighMidiChannel) {
       "MIDI channel: 5 CH 5, sent to 1 mixer, remembered\n" +
           note + "MIDI channel: 5 CH 5, sent to 1 mixer, remembered\n" + note);
   EXPECT_THAT(NoMixer("ztk midi set 4").err,
-              testing::EndsWith("once a mixer answers, run: ztk midi apply\n"));
+              testing::EndsWith("once one is, run: ztk midi apply\n"));
   EXPECT_THAT(NoMixer("ztk midi set 5").err,
-              testing::EndsWith("once a mixer answers, run: ztk midi set 5\n"));
+              testing::EndsWith("once one is, run: ztk midi set 5\n"));
 }
 
 TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {
@@ -159,7 +169,7 @@ TEST_F(Apply, IsThreeWithoutAMixerAndStillReportsARefusedValue) {
   Remember("VRM-D6", {{"Output0", 5}});
   const Result result = NoMixer("ztk apply");
   EXPECT_EQ(result.status, 3);
-  EXPECT_EQ(result.out, "USB input 1: 6 MIC, not sent\n");
+  EXPECT_EQ(result.out, "USB input 1: 6 MIC\n");
   Remember("VRM-D6", {{"Output0", 5}, {"MaxLevel", 4}});
   EXPECT_EQ(NoMixer("ztk apply").status, 4);
 }

@@ -89,10 +89,50 @@ TEST_F(Doctor, TellsNoMixerFromNoUsb) {
   EXPECT_EQ(Word(finding, "id"), "no-usb");
 }
 
+TEST_F(Doctor, NamesTheCommandOfTheVirtualMixerInItsSandbox) {
+  Json finding = OnlyOneIn(
+      "mixers", Inside({"-n", "2", "--forbid", "2"}, "ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "forbidden-in-sandbox");
+  EXPECT_EQ(Word(finding, "command"), "ztk-virtual-mixer allow 2");
+  EXPECT_TRUE(Helps(finding, "mixers", {"-n", "2", "--forbid", "2"}));
+  finding = OnlyOneIn(
+      "mixers", Inside({"-n", "1", "--fault", "silence"}, "ztk doctor --json"));
+  EXPECT_TRUE(Helps(finding, "mixers", {"-n", "1", "--fault", "silence"}));
+}
+
+TEST_F(Doctor, SaysWhyAChannelIsSilentAndThatIsNoProblem) {
+  const Result result =
+      Inside({"-n", "1", "--selector", "1=3"}, "ztk doctor; ztk doctor --json");
+  EXPECT_THAT(result.out,
+              StartsWith("mixers    ok: 1 mixer is attached and answers\n"
+                         "mixers    note: USB input 1 is silent: the input "
+                         "selector for CH1 is in position 3, and 1 CH1 Control "
+                         "Tone PHONO needs position 4\n"));
+  const Json finding = OnlyOneIn("mixers", result);
+  EXPECT_EQ(Word(finding, "id"), "channel-silent");
+  EXPECT_EQ(Word(finding, "severity"), "note");
+  EXPECT_TRUE(Helps(finding, "mixers", {"-n", "1", "--selector", "1=3"}));
+}
+
+TEST_F(Doctor, TellsProblemsAndCommandsWhenQuiet) {
+  const Result result = NoMixer("ztk doctor --quiet");
+  EXPECT_EQ(result.out, "");
+  EXPECT_THAT(result.err, StartsWith("ztk: mixers: no mixer is attached\n"
+                                     "ztk: cause: the system sees none"));
+  EXPECT_THAT(result.err, HasSubstr("\nztk: type:  ztk doctor\n"));
+}
+
+TEST_F(Doctor, WritesAReportToFilesOnly) {
+  const Result result = NoMixer("ztk doctor --report -; echo $?");
+  EXPECT_EQ(result.out, "2\n");
+  EXPECT_THAT(result.err, StartsWith("ztk: --report takes the name of a file"));
+}
+
 TEST_F(Doctor, FindsThatTheRuleIsMissing) {
   if (RuleIsInstalled()) GTEST_SKIP() << "the rule is installed here";
   const Json finding = OnlyOneIn(
-      "mixers", Inside({"-n", "1", "--forbid", "1"}, "ztk doctor --json"));
+      "mixers", Inside({"-n", "1", "--forbid", "1"},
+                       kAsOnARealSystem + std::string("ztk doctor --json")));
   EXPECT_EQ(Word(finding, "id"), "rule-missing");
   EXPECT_EQ(Word(finding, "finding"),
             "mixer 1 is attached, but you cannot open it");
@@ -105,7 +145,7 @@ TEST_F(Doctor, FindsThatTheRuleIsDisabledOrForAnotherMixer) {
   for (const char *contents :
        {"", "ATTR{idVendor}==\"1234\", ATTR{idProduct}==\"001b\""}) {
     Plant({{kRule, contents}}, {"-n", "1", "--forbid", "1"},
-          "ztk doctor --json");
+          kAsOnARealSystem + std::string("ztk doctor --json"));
     const Json finding = OnlyOneIn("mixers", result_);
     EXPECT_EQ(Word(finding, "id"), "rule-disabled");
     EXPECT_THAT(Word(finding, "cause"), HasSubstr(kRule));
@@ -115,7 +155,8 @@ TEST_F(Doctor, FindsThatTheRuleIsDisabledOrForAnotherMixer) {
 TEST_F(Doctor, FindsThatTheRuleCameAfterTheMixer) {
   Plant(
       {{kRule, kGoodRule}, {"/run/udev/data/c189:1", "I:12345\nG:seat\nV:1\n"}},
-      {"-n", "1", "--forbid", "1"}, "ztk doctor --json");
+      {"-n", "1", "--forbid", "1"},
+      kAsOnARealSystem + std::string("ztk doctor --json"));
   const Json finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "rule-not-applied");
   EXPECT_EQ(Word(finding, "command"), kReplug);
@@ -126,7 +167,8 @@ TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
       {"/usr/lib/udev/rules.d/70-tarvix-mixer.rules", kGoodRule},
       {"/run/udev/data/c189:1", "I:12345\nG:uaccess\nQ:uaccess\nV:1\n"}};
   Plant(files, {"-n", "1", "--forbid", "1"},
-        "id -un; USER=dj SSH_CONNECTION='::1 1 ::1 22' ztk doctor --json");
+        kAsOnARealSystem + std::string("id -un; USER=dj SSH_CONNECTION='::1 1 "
+                                       "::1 22' ztk doctor --json"));
   Json finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
   EXPECT_THAT(Word(finding, "cause"), HasSubstr("you are logged in over ssh"));
@@ -135,7 +177,8 @@ TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
                         "\"' | sudo tee "
                         "/etc/udev/rules.d/71-tarvix-mixer-owner.rules && "));
   Plant(files, {"-n", "1", "--forbid", "1"},
-        "unset SSH_CONNECTION SSH_TTY; ztk doctor --json");
+        kAsOnARealSystem +
+            std::string("unset SSH_CONNECTION SSH_TTY; ztk doctor --json"));
   finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
   EXPECT_THAT(Word(finding, "cause"), Not(HasSubstr("ssh")));
@@ -201,7 +244,7 @@ TEST_F(Doctor, FindsAMixerThatDoesNotAnswer) {
     SCOPED_TRACE(row.fault);
     const Json finding = OnlyOneIn(
         "mixers", Inside({"-n", "2", "--fault", std::string("2:") + row.fault},
-                         "ztk doctor --json"));
+                         kAsOnARealSystem + std::string("ztk doctor --json")));
     EXPECT_EQ(Word(finding, "id"), row.id);
     EXPECT_THAT(Word(finding, "finding"), StartsWith("mixer 2 "));
     EXPECT_EQ(Word(finding, "command"), row.command);
@@ -212,6 +255,7 @@ TEST_F(Doctor, FindsThatTheBusIsGone) {
   bus_.Stop();
   const Json finding = OnlyOneIn("bus", NoMixer("ztk doctor --json"));
   EXPECT_EQ(Word(finding, "id"), "no-bus");
+  EXPECT_EQ(Word(finding, "severity"), "note");
   EXPECT_THAT(Word(finding, "cause"), HasSubstr("DBUS_SESSION_BUS_ADDRESS"));
   const Result after = NoMixer(
       "dbus-run-session -- ztk doctor --json 2> $DIR/noise | tee $DIR/answer;"

@@ -13,6 +13,9 @@ namespace ztk::test {
 // A script ends with it when this system does not let it set the scene.
 inline constexpr int kCannotSet = 97;
 
+// The script runs as if the mixers were none of the sandbox.
+inline constexpr char kAsOnARealSystem[] = "unset ZTK_VIRTUAL_MIXER_CONTROL;";
+
 class DoctorWorld : public CliWorld {
  protected:
   // The findings of one part in the answer on the last line.

@@ -124,16 +124,17 @@ TEST_F(DryRun, ShowsRequestsFileAndAnnouncement) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out,
             "Dry run: nothing is sent or stored. This would happen:\n"
-            "  mixer 1  type 0x40  request 3  value 0x0206  index 0x8002  "
+            "  mixer 1  USB input 2: 3 Post CH2 Fader\n"
+            "           type 0x40  request 3  value 0x0206  index 0x8002  "
             "length 0\n"
-            "  mixer 1  type 0xC0  request 0  value 0x0000  index 0x8002  "
+            "  mixer 1  read the input selectors\n"
+            "           type 0xC0  request 0  value 0x0000  index 0x8002  "
             "length 5\n"
             "  file  " +
                 home_.SettingsFile("VRM-D6").string() +
                 "\n"
-                "        Output1: 4 -> 2 (3 Post CH2 Fader)\n"
-                "  bus   \"VRM-D6 InputAudio Change\"  ProductID 10  Channel 1"
-                "  Index 2\n");
+                "        USB input 2: 5 Cross Fader B -> 3 Post CH2 Fader\n"
+                "  bus   USB input 2: 3 Post CH2 Fader\n");
   EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6")), before);
   EXPECT_THAT(Requests(), IsEmpty());
   const Json json = OneObject(OneMixer("ztk midi set 2 --dry-run --json").out);
@@ -153,9 +154,10 @@ TEST_F(DryRun, TellsAValueThatStaysFromOneThatChanges) {
   const Result result = OneMixer(
       "ztk export > $DIR/club.json; ztk input set 1 1 > /dev/null;"
       "ztk import $DIR/club.json --dry-run");
-  EXPECT_THAT(result.out, HasSubstr("  Output0: 0 -> 6 (7 REC OUT)\n"));
+  EXPECT_THAT(result.out, HasSubstr("  USB input 1: 1 CH1 Control Tone PHONO "
+                                    "-> 7 REC OUT\n"));
   EXPECT_THAT(result.out,
-              HasSubstr("  Output1: 4, unchanged (5 Cross Fader B)\n"));
+              HasSubstr("  USB input 2: 5 Cross Fader B, unchanged\n"));
 }
 
 TEST_F(DryRun, LeavesOutMixersThatCannotBeOpened) {
@@ -165,6 +167,18 @@ TEST_F(DryRun, LeavesOutMixersThatCannotBeOpened) {
             std::vector<std::string>({"mixer 2: 40 03 0300 8003 0000"}));
   EXPECT_THAT(NoMixer("ztk boost set 1 --dry-run").out,
               HasSubstr("no request, as no mixer is attached"));
+}
+
+TEST_F(DryRun, SaysThatNothingWouldBeSent) {
+  Remember("VRM-D6", {{"Output0", 2}});
+  EXPECT_THAT(OneMixer("ztk reset --dry-run").out,
+              HasSubstr("happen:\n  no request\n  file "));
+  OneMixer("ztk boost set 1; ztk boost set 2");
+  Remember("VRM-D6", {{"MaxLevel", 3}});
+  EXPECT_THAT(OneMixer("ztk undo --dry-run").out, HasSubstr("  no request\n"));
+  EXPECT_THAT(
+      Inside({"-n", "1", "--forbid", "1"}, "ztk boost set 1 --dry-run").out,
+      HasSubstr("  no request, as no mixer can be opened\n"));
 }
 
 TEST_F(DryRun, AnnouncesNothing) {

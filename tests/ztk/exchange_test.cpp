@@ -146,14 +146,11 @@ TEST_F(Import, ChecksAllOfItBeforeItChangesAnything) {
 }
 
 TEST_F(Import, RefusesWhatIsNoExport) {
-  EXPECT_THAT(Errors(""), ElementsAre(StartsWith("this is not JSON")));
-  EXPECT_THAT(Errors("{\"version\":1,"),
-              ElementsAre("this is not JSON, at byte 14"));
+  EXPECT_THAT(Errors(""), ElementsAre(StartsWith("not JSON (byte ")));
+  EXPECT_THAT(Errors("{\"version\":1,"), ElementsAre("not JSON (byte 14)"));
   EXPECT_THAT(Errors("[]"), ElementsAre(StartsWith("there are no settings")));
   EXPECT_THAT(Errors("{\"settings\":{}}"),
               ElementsAre("version: it is missing"));
-  EXPECT_THAT(Errors("{\"version\":1,\"settings\":{}}"),
-              ElementsAre("settings: there is none"));
   EXPECT_THAT(Errors(R"({"version":1,"settings":{"VRM-D6":{
                          "boost":"-5 dB","boost":"-10 dB"}}})"),
               ElementsAre("\"boost\" stands twice"));
@@ -185,9 +182,54 @@ TEST_F(Import, ShowsInADryRunWhatItWouldDo) {
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
   const Result result = OneMixer("ztk import $DIR/file --dry-run");
   EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.out, HasSubstr("MaxLevel: nothing -> 0 (1 -5 dB)"));
+  EXPECT_THAT(result.out, HasSubstr("Boost level: nothing -> 1 -5 dB\n"));
   EXPECT_THAT(Requests(), IsEmpty());
   EXPECT_FALSE(HasSettings("VRM-D6"));
+}
+
+TEST_F(Export, OfNothingCanBeImported) {
+  const Result result =
+      OneMixer("ztk export > $DIR/file; ztk import $DIR/file; echo $?");
+  EXPECT_EQ(result.out, "The file contains no settings: nothing to set.\n0\n");
+  EXPECT_THAT(result.err, StartsWith("ztk: warning: nothing is remembered"));
+  EXPECT_THAT(Writes(), IsEmpty());
+}
+
+TEST_F(Import, NamesWhatItKeeps) {
+  Remember("VRM-D6", {{"Output1", 5}, {"MaxLevel", 1}});
+  WriteAll(home_.path() / "file",
+           R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
+  EXPECT_EQ(OneMixer("ztk import $DIR/file").out,
+            "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n"
+            "Kept, as the file does not name it: USB input 2: 6 MIC (import "
+            "--only forgets it)\n");
+  const Json json = OneObject(OneMixer("ztk import $DIR/file --json").out);
+  EXPECT_EQ(json["kept"], Json::parse(R"([{"setting":"input","model":"VRM-D6",
+      "channel":2,"number":6,"text":"MIC","value":5}])"));
+  EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output1"));
+}
+
+TEST_F(Import, ForgetsTheRestWhenToldSo) {
+  Remember("VRM-D6", {{"Output1", 5}, {"MaxLevel", 1}});
+  WriteAll(home_.path() / "file",
+           R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
+  EXPECT_EQ(
+      OneMixer("ztk import --only $DIR/file").out,
+      "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n"
+      "USB input 2: forgotten, default 1 CH2 Control Tone PHONO, sent to 1 "
+      "mixer\n");
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000",
+                                    "mixer 1: 40 03 0203 8002 0000"));
+  EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), Not(HasSubstr("Output1")));
+  OneMixer("ztk undo");
+  EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")),
+              HasSubstr("<key>Output1</key>\n\t<integer>5<"));
+}
+
+TEST_F(Import, NamesTheStandardInput) {
+  EXPECT_EQ(NoMixer("printf x | ztk import -").err,
+            "ztk: standard input: not JSON (byte 1)\n"
+            "ztk: nothing was changed: 1 error in the standard input\n");
 }
 
 TEST_F(Export, FailsForAFileThatCannotBeRead) {

@@ -61,7 +61,10 @@ SCENES = (
     (("--fault", "unplug"), "ztk boost set 1 --json"),
     (("--fault", "short:1"), "ztk status --json; ztk input set 1 1 --json"),
     (("--reply", "8004=0700"), "ztk status --json"),
-    (("--selector", "1=3"), "ztk input set 1 1 --json"),
+    (("--selector", "1=3"), "ztk input set 1 1 --json; ztk status --json;"
+     "ztk input get --json; ztk doctor --json"),
+    (("-n", "3", "--fault", "2:silence"),
+     "ztk status --json --verbose; ztk apply --all --json"),
     # Without a user's systemd.
     (ONE, "for word in on off status; do ztk autoapply $word --json; done"),
     # Values that are no choices, in the settings file.
@@ -95,6 +98,18 @@ SCENES = (
           >$HOME/bad.json
         ztk import $HOME/bad.json --json; ztk import --json
         ztk import /nonexistent --json; echo '[' | ztk import - --json
+        """),
+    # What is forgotten, listed, kept by an import, or taken away by it.
+    (ONE, """
+        ztk export --json; ztk export >$HOME/empty.json; ztk input set 2 mic
+        ztk undo --list --json; ztk export >$HOME/club.json; ztk boost set 1
+        ztk import $HOME/club.json --json; ztk midi set 2
+        ztk import $HOME/club.json --dry-run --json
+        ztk import --only $HOME/club.json --json
+        ztk import $HOME/empty.json --json
+        ztk reset --dry-run --json; ztk reset --json; ztk reset --json
+        ztk undo --list --json; ztk undo --json; ztk undo 2 --dry-run --json
+        ztk undo 2 --json; ztk undo 99 --json; ztk reset nonsense --json
         """),
     # A setting that another program has changed.
     (ONE, """
@@ -142,6 +157,10 @@ SCENES = (
           /com/tarvix/DistributedNotificationCenter \
           com.tarvix.DistributedNotificationCenter.Notification || true
         until [ $(wc -l <$HOME/seen) -ge 4 ]; do sleep 0.01; done
+        ztk-virtual-mixer unplug 1
+        until [ $(wc -l <$HOME/seen) -ge 5 ]; do sleep 0.01; done
+        ztk-virtual-mixer plug 1
+        until [ $(wc -l <$HOME/seen) -ge 6 ]; do sleep 0.01; done
         kill -INT $watcher; wait $watcher
         exec >&3; cat $HOME/seen
         """),

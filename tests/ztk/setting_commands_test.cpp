@@ -212,7 +212,7 @@ TEST_F(MidiSet, BelongsToTheK2) {
   EXPECT_EQ(
       result.out,
       "MIDI channel: 10 CH 10, sent to 1 mixer, remembered\n"
-      "  ztk apply cannot send this one again; set it once more instead\n");
+      "  apply can only re-send channels 1 to 4; for 5 to 16 use set again\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0900 8004 0000"));
   EXPECT_TRUE(HasSettings("VRM-K2"));
 }

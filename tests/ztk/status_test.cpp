@@ -17,7 +17,7 @@ TEST_F(Status, ShowsTheMixerAndWhatIsRemembered) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out,
             "Mixer 1 is reachable\n"
-            "  firmware      1078 (0x0436, read as 4.36)\n"
+            "  firmware      4.36\n"
             "  certified     level 1\n"
             "  selectors     CH1 4   CH2 3   CH3 4   CH4 4\n"
             "  Serato        active\n"
@@ -37,7 +37,7 @@ TEST_F(Status, TellsTheSameInJson) {
   EXPECT_EQ(json["found"], 1);
   EXPECT_EQ(json["reached"], 1);
   EXPECT_EQ(json["mixers"], Json::parse(R"([{
-      "position":1,"reachable":true,
+      "position":1,"reachable":true,"answers":true,"port":"1-1",
       "firmware":{"number":1078,"hex":"0x0436","derived":"4.36"},
       "certificationLevel":16909060,"selectors":[4,4,4,4],
       "serato":"inactive"}])"));
@@ -50,7 +50,11 @@ TEST_F(Status, SaysThatNoMixerIsAttached) {
   const Result result =
       Inside({"-n", "0", "--other-devices", "4"}, "ztk status");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.out, "No mixer is attached\nNothing is remembered\n");
+  EXPECT_EQ(
+      result.out,
+      "No mixer is attached\nNothing is remembered\n"
+      "Next: plug the mixer in and switch it on; ztk doctor tells what is "
+      "missing\n");
   const Json json = OneObject(NoMixer("ztk status --json").out);
   EXPECT_EQ(json["connected"], false);
   EXPECT_EQ(json["found"], 0);
@@ -62,8 +66,9 @@ TEST_F(Status, ExplainsAMixerThatMayNotBeOpened) {
   const Result result =
       Inside({"-n", "2", "--forbid", "1"}, "ztk status; ztk status --json");
   EXPECT_THAT(result.out,
-              StartsWith("Mixer 1 is attached but cannot be opened\n"
-                         "Mixer 2 is reachable\n"));
+              StartsWith("2 mixers are attached, 1 is reachable\n"
+                         "Mixer 1, port 1-1, is attached but cannot be opened\n"
+                         "Mixer 2, port 1-2, is reachable, firmware 4.36\n"));
   const Json json = OneObject(LastLine(result.out) + "\n");
   EXPECT_EQ(json["found"], 2);
   EXPECT_EQ(json["reached"], 1);
@@ -114,9 +119,65 @@ TEST_F(Status, ShowsNothingOfAMixerThatGoesWhileItIsAsked) {
 
 TEST_F(Status, AsksASilentMixerOnlyOnce) {
   const Result result = Inside({"-n", "1", "--fault", "silence"}, "ztk status");
-  EXPECT_THAT(result.out, HasSubstr("  firmware      no answer\n"
-                                    "  certified     not asked\n"));
+  EXPECT_EQ(result.out,
+            "Mixer 1 does not answer\n"
+            "Nothing is remembered\n"
+            "Next: switch the mixer that does not answer off and on again; ztk "
+            "doctor tells more\n");
   EXPECT_EQ(Requests().size(), 1U);
+  const Json json = OneObject(
+      Inside({"-n", "1", "--fault", "silence@8007"}, "ztk status --json").out);
+  EXPECT_EQ(json["mixers"][0]["answers"], false);
+  EXPECT_EQ(json["mixers"][0]["unanswered"]["certificationLevel"], "no answer");
+  EXPECT_EQ(json["mixers"][0]["unanswered"]["selectors"], "not asked");
+}
+
+// Each of them is waited for one second; together they take hardly more.
+TEST_F(Status, AsksManyMixersAtTheSameTime) {
+  const Result result =
+      Inside({"-n", "9", "--fault", "silence"},
+             "ztk-virtual-mixer fault --mixer 9 none; ztk status --json");
+  EXPECT_EQ(Requests().size(), 12U);
+  const Json json = OneObject(LastLine(result.out) + "\n");
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(json["mixers"][i]["answers"], false);
+  EXPECT_EQ(json["mixers"][8]["answers"], true);
+}
+
+TEST_F(Status, ShowsAllOfSeveralMixersWhenToldSo) {
+  EXPECT_EQ(
+      Inside({"-n", "2", "--fault", "2:silence"}, "ztk status --verbose").out,
+      "2 mixers are attached, 1 is reachable\n"
+      "Mixer 1, port 1-1, is reachable\n"
+      "  firmware      4.36\n"
+      "  certified     level 1\n"
+      "  selectors     CH1 4   CH2 4   CH3 4   CH4 4\n"
+      "  Serato        not active\n"
+      "Mixer 2, port 1-2, does not answer\n"
+      "Nothing is remembered\n"
+      "Next: switch the mixer that does not answer off and on again; ztk "
+      "doctor tells more\n");
+}
+
+TEST_F(Status, SaysWhyAChannelIsSilent) {
+  Remember("VRM-D6", {{"Output1", 2}});
+  const Result result = Inside(
+      {"-n", "1", "--selector", "1=3", "--selector", "2=0"},
+      "ztk status | tail -n 1; ztk input get 1 | tail -n 1; ztk input get 2;"
+      "ztk status --json");
+  const char *const silent =
+      "USB input 1 is silent: the input selector for CH1 is in position 3, and "
+      "1 CH1 Control Tone PHONO needs position 4";
+  EXPECT_EQ(Line(result.out, 0), silent);
+  EXPECT_EQ(Line(result.out, 1), silent);
+  EXPECT_EQ(Line(result.out, 3), "USB input 2  3 Post CH2 Fader");
+  EXPECT_EQ(
+      OneObject(LastLine(result.out) + "\n")["silent"],
+      Json::parse(R"([{"mixer":1,"channel":1,"position":3,"needed":4}])"));
+  const Result two =
+      Inside({"-n", "2", "--selector", "2:1=3"}, "ztk input get 1 | tail -n 1");
+  EXPECT_THAT(two.out,
+              StartsWith("USB input 1 is silent: the input selector of "
+                         "mixer 2 for CH1 is in position 3"));
 }
 
 TEST_F(Status, DoesNotTrustRepliesThatAreTooShortOrTooLarge) {

@@ -107,21 +107,31 @@ TEST_F(Terminal, ShowsHelpInANarrowWidth) {
 TEST_F(Terminal, NeverBreaksACommandThatIsToBeTyped) {
   const std::string shown = Shown(
       "ztk-virtual-mixer unplug; ztk-virtual-mixer plug; "
-      "ztk-virtual-mixer fault silence@r8001; ztk doctor",
+      "ztk-virtual-mixer fault silence@r8001;"
+      "unset ZTK_VIRTUAL_MIXER_CONTROL; ztk doctor",
       40);
   EXPECT_THAT(shown, HasSubstr("\n          type:  for on in 0 1; do echo $on "
                                "| sudo tee /sys/bus/usb/devices/1-1/authorized;"
                                " done\n"));
 }
 
-TEST_F(Terminal, ShowsThatItWaitsForASilentMixer) {
+TEST_F(Terminal, ShowsThatItWaitsForSilentMixers) {
   PseudoTerminal terminal(
-      Sandbox({"-n", "2", "--fault", "delay:1900@8001*1"}, "ztk status"), 80);
-  EXPECT_TRUE(terminal.WaitFor("\r\033[KWaiting for a mixer; Ctrl-C ends"));
-  EXPECT_TRUE(terminal.WaitFor("\r\033[KWaiting for a mixer, 1 s; Ctrl-C"));
-  EXPECT_EQ(terminal.End(), 0);
+      Sandbox({"-n", "3", "--fault", "silence"}, "ztk boost set 1"), 80);
+  EXPECT_TRUE(terminal.WaitFor("ztk: sending to 3 mixers\n"));
+  EXPECT_TRUE(terminal.WaitFor(
+      "\r\033[KWaiting for 3 mixers, at most 3 s; Ctrl-C ends"));
+  EXPECT_TRUE(terminal.WaitFor(
+      "\r\033[KWaiting for 3 mixers, 1 of at most 3 s; Ctrl-C"));
+  EXPECT_EQ(terminal.End(), 3);
   // It has gone before the answer is shown.
-  EXPECT_THAT(terminal.shown(), HasSubstr("ends\r\033[KMixer 1 is reachable"));
+  EXPECT_THAT(terminal.shown(), HasSubstr("\r\033[KBoost level: 1 -5 dB"));
+}
+
+TEST_F(Terminal, ShortensWhatIsWaitedForInANarrowTerminal) {
+  PseudoTerminal terminal(Sandbox({"--fault", "silence"}, "ztk status"), 40);
+  EXPECT_TRUE(terminal.WaitFor("\r\033[KWaiting for a mixer; Ctrl-C ends"));
+  EXPECT_EQ(terminal.End(), 0);
 }
 
 TEST_F(Terminal, ShowsOnADumbTerminalOnceThatItWaits) {
@@ -129,7 +139,8 @@ TEST_F(Terminal, ShowsOnADumbTerminalOnceThatItWaits) {
       Sandbox({"--fault", "delay:1000@8001*1"}, "TERM=dumb ztk status"), 80);
   EXPECT_EQ(terminal.End(), 0);
   EXPECT_THAT(terminal.shown(),
-              StartsWith("Waiting for a mixer; Ctrl-C ends\nMixer 1 is"));
+              StartsWith("Waiting for a mixer, at most 2 s; Ctrl-C ends\nMixer "
+                         "1 does not answer"));
 }
 
 TEST_F(Terminal, SaysNothingOfWaitingElsewhere) {

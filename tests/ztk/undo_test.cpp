@@ -20,16 +20,17 @@ TEST_F(Undo, PutsBackStepByStepLikeASetter) {
       "ztk input set 2 mic > /dev/null; : > $DIR/seen\n"
       "ztk undo; echo $?; ztk undo; echo $?; ztk undo; echo $?;"
       "ztk undo; echo $?");
-  EXPECT_THAT(SplitLines(result.out),
-              ElementsAre("USB input 2: 6 MIC undone, 3 Post CH2 Fader sent to "
-                          "1 mixer, remembered",
-                          "0",
-                          "Boost level: 2 -10 dB undone, 1 -5 dB sent to 1 "
-                          "mixer, remembered",
-                          "0",
-                          "USB input 2: 3 Post CH2 Fader undone, 5 Cross Fader "
-                          "B sent to 1 mixer, remembered",
-                          "0", "Nothing to undo.", "0"));
+  EXPECT_THAT(
+      SplitLines(result.out),
+      ElementsAre("USB input 2: 6 MIC undone, 3 Post CH2 Fader, sent to "
+                  "1 mixer, remembered",
+                  "0",
+                  "Boost level: 2 -10 dB undone, 1 -5 dB, sent to 1 "
+                  "mixer, remembered",
+                  "0",
+                  "USB input 2: 3 Post CH2 Fader undone, 5 Cross Fader "
+                  "B, sent to 1 mixer, remembered",
+                  "0", "Nothing to undo.", "0"));
   const std::vector<std::string> writes = Writes();
   ASSERT_EQ(writes.size(), 6U);
   EXPECT_EQ(writes[3], "mixer 1: 40 03 0206 8002 0000");
@@ -56,20 +57,22 @@ TEST_F(Undo, PutsTheDefaultBackWhereNothingWasRemembered) {
       "ztk boost set 1 > /dev/null; ztk midi set 7 > /dev/null;"
       "ztk undo; ztk undo; ztk undo; ztk undo");
   const std::string note =
-      "  nothing was remembered before: this is the default";
-  EXPECT_THAT(SplitLines(result.out),
-              ElementsAre("MIDI channel: 7 CH 7 undone, 1 CH 1 sent to 1 "
-                          "mixer, remembered",
-                          note,
-                          "Boost level: 1 -5 dB undone, 4 -19 dB sent to 1 "
-                          "mixer, remembered",
-                          note,
-                          "USB output 2: 3 AUX undone, 2 CH2 sent to 1 mixer, "
-                          "remembered",
-                          note,
-                          "USB input 1: 6 MIC undone, 1 CH1 Control Tone PHONO "
-                          "sent to 1 mixer, remembered",
-                          note));
+      "  nothing was remembered before, and nothing is now";
+  EXPECT_THAT(
+      SplitLines(result.out),
+      ElementsAre("MIDI channel: 7 CH 7 undone, default 1 CH 1, sent to "
+                  "1 mixer",
+                  note,
+                  "Boost level: 1 -5 dB undone, default 4 -19 dB, sent "
+                  "to 1 mixer",
+                  note,
+                  "USB output 2: 3 AUX undone, default 2 CH2, sent to 1 "
+                  "mixer",
+                  note,
+                  "USB input 1: 6 MIC undone, default 1 CH1 Control Tone "
+                  "PHONO, sent to 1 mixer",
+                  note));
+  EXPECT_EQ(OneMixer("ztk status | tail -n 1").out, "Nothing is remembered\n");
 }
 
 TEST_F(Undo, LeavesAloneWhatAnotherProgramHasChangedSince) {
@@ -96,7 +99,7 @@ TEST_F(Undo, DoesNotCountWhatChangedNothing) {
       "ztk output default > /dev/null; ztk boost set 3 --dry-run > /dev/null;"
       "ztk undo; ztk undo");
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 2 -10 dB undone, 1 -5 dB sent to 1 mixer, "
+            "Boost level: 2 -10 dB undone, 1 -5 dB, sent to 1 mixer, "
             "remembered");
   EXPECT_EQ(Line(result.out, 1), "Nothing to undo.");
 }
@@ -120,17 +123,17 @@ TEST_F(Undo, IsThreeWithoutAMixerAndStillPutsBack) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   const Result result =
       NoMixer("ztk boost set 2 2> /dev/null; ztk undo; echo $?; ztk boost get");
-  EXPECT_EQ(Line(result.out, 1),
-            "Boost level: 2 -10 dB undone, 1 -5 dB not sent, remembered");
+  EXPECT_EQ(Line(result.out, 1), "Boost level: 2 -10 dB undone, 1 -5 dB");
   EXPECT_EQ(Line(result.out, 2), "3");
   EXPECT_EQ(LastLine(result.out), "Boost level  1 -5 dB");
 }
 
 TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
-  EXPECT_THAT(NoMixer("ztk output set 1 2; ztk undo").err,
-              HasSubstr("ztk: what was put back is remembered, but not sent: "
-                        "no mixer is attached; once a mixer answers, run: "
-                        "ztk apply --product VRM-B5\n"));
+  EXPECT_THAT(
+      NoMixer("ztk output set 1 2; ztk undo").err,
+      HasSubstr(
+          "ztk: what was put back is saved, but not sent: no "
+          "mixer is attached; once one is, run: ztk apply --product VRM-B5\n"));
   WriteAll(home_.path() / "both.json",
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB","input":)"
            R"({"1":"MIC"}},"VRM-K2":{"midi":"CH 3"}}})");
@@ -148,17 +151,123 @@ TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
 TEST_F(Undo, TellsToSetAHighMidiChannelOnceMore) {
   Remember("VRM-K2", {{"MidiChannel", 9}});
   EXPECT_THAT(LastLine(NoMixer("ztk midi set 1; ztk undo").err),
-              testing::EndsWith("once a mixer answers, run: ztk midi set 10"));
+              testing::EndsWith("once one is, run: ztk midi set 10"));
 }
 
 TEST_F(Undo, ShowsInADryRunWhatItWouldDo) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   OneMixer("ztk boost set 2");
   const Result result = OneMixer("ztk undo --dry-run; ztk boost get");
-  EXPECT_THAT(result.out, HasSubstr("MaxLevel: 1 -> 0 (1 -5 dB)"));
+  EXPECT_THAT(result.out, HasSubstr("Boost level: 2 -10 dB -> 1 -5 dB\n"));
   EXPECT_EQ(LastLine(result.out), "Boost level  2 -10 dB");
   EXPECT_THAT(Requests(), IsEmpty());
   EXPECT_THAT(OneMixer("ztk undo").out, StartsWith("Boost level: 2 -10 dB "));
+}
+
+TEST_F(Undo, ListsWhatCanBeUndone) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  const Result result = OneMixer(
+      "ztk boost set 2 > /dev/null; ztk input set 1 mic > /dev/null\n"
+      "ztk reset input > /dev/null; ztk undo --list");
+  EXPECT_EQ(result.out,
+            "The last change is number 1; ztk undo N takes back changes 1 to "
+            "N.\n"
+            "  1   reset        USB input 1: reset, before 6 MIC\n"
+            "  2   input set    USB input 1: 6 MIC, before nothing remembered\n"
+            "  3   boost set    Boost level: 2 -10 dB, before 1 -5 dB\n");
+  EXPECT_EQ(NoMixer("ztk undo 3 --dry-run | grep -c -e '->'").out, "1\n");
+}
+
+TEST_F(Undo, TakesBackSeveralChangesAtOnce) {
+  Remember("VRM-D6", {{"MaxLevel", 0}, {"Output0", 5}});
+  const Result result = OneMixer(
+      "ztk input set 1 3 > /dev/null; ztk boost set 2 > /dev/null\n"
+      "ztk boost set 3 > /dev/null; ztk undo 2; ztk undo --list | tail -n +2\n"
+      "ztk undo 2; echo $?; ztk undo 0; echo $?");
+  EXPECT_EQ(result.out,
+            "Boost level: 3 -15 dB undone, 1 -5 dB, sent to 1 mixer, "
+            "remembered\n"
+            "  1   input set    USB input 1: 3 Post CH1 Fader, before 6 MIC\n"
+            "2\n2\n");
+  EXPECT_THAT(Line(result.err, 0),
+              StartsWith("ztk: no change \"2\" to undo; nearest: 1; "));
+  EXPECT_EQ(Writes().back(), "mixer 1: 40 03 0300 8003 0000");
+}
+
+TEST_F(Undo, StopsAtAValueOfAnotherProgram) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  OneMixer("ztk boost set 2");
+  Remember("VRM-D6", {{"MaxLevel", 2}});
+  const Result result =
+      OneMixer("ztk boost set 4 > /dev/null; ztk undo 2; echo $?");
+  EXPECT_EQ(Line(result.out, 0),
+            "Boost level: 4 -19 dB undone, 3 -15 dB, sent to 1 mixer, "
+            "remembered");
+  EXPECT_EQ(Line(result.out, 1), "4");
+}
+
+TEST_F(Undo, SaysWhenTheSettingsAreGone) {
+  OneMixer("ztk boost set 2; rm -r $HOME/.config/tarvix");
+  EXPECT_EQ(
+      OneMixer("ztk undo").out,
+      "Nothing to undo: what ztk has changed is not in the settings files "
+      "any more.\n");
+}
+
+class Reset : public CliWorld {};
+
+TEST_F(Reset, ForgetsEverythingAndSendsNothing) {
+  Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 5}, {"Other", 7}});
+  Remember("VRM-B5", {{"Input1", 2}});
+  const Result result = OneMixer("ztk reset; echo $?; ztk export 2>&1 | wc -l");
+  EXPECT_EQ(
+      result.out,
+      "USB input 2: 6 MIC, forgotten\n"
+      "USB output 2: 3 AUX, forgotten\n"
+      "Boost level: 1 -5 dB, forgotten\n"
+      "Nothing was sent: the mixer keeps its settings until it is switched "
+      "off.\n"
+      "ztk undo brings back what was forgotten.\n"
+      "0\n5\n");
+  EXPECT_THAT(Requests(), IsEmpty());
+  const std::string file = ReadAll(home_.SettingsFile("VRM-D6"));
+  EXPECT_THAT(file, Not(HasSubstr("MaxLevel")));
+  EXPECT_THAT(file, HasSubstr("<key>Other</key>\n\t<integer>7<"));
+}
+
+TEST_F(Reset, ForgetsWhatIsNamed) {
+  Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 5}, {"Output2", 5}});
+  const Result result = OneMixer(
+      "ztk reset input ch2 | head -n 1; ztk reset boost | head -n 1;"
+      "ztk reset boost; ztk reset boost 1; echo $?; ztk reset inptu; echo $?");
+  EXPECT_EQ(result.out,
+            "USB input 2: 6 MIC, forgotten\n"
+            "Boost level: 1 -5 dB, forgotten\n"
+            "Nothing is remembered: nothing to forget.\n2\n2\n");
+  EXPECT_THAT(result.err, HasSubstr("no setting \"inptu\"; nearest: input"));
+  EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output2"));
+}
+
+TEST_F(Reset, IsUndone) {
+  Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 5}});
+  const std::string before = ReadAll(home_.SettingsFile("VRM-D6"));
+  EXPECT_EQ(OneMixer("ztk reset > /dev/null; ztk undo").out,
+            "Boost level: reset undone, 1 -5 dB, sent to 1 mixer, remembered\n"
+            "USB input 2: reset undone, 6 MIC, sent to 1 mixer, remembered\n");
+  EXPECT_EQ(OneMixer("ztk status | tail -n 2").out,
+            "  USB input 2   6 MIC  (VRM-D6)\n"
+            "  Boost level   1 -5 dB  (VRM-D6)\n");
+}
+
+TEST_F(Reset, SaysWhatItCannotForget) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  const Result result = OneMixer(
+      "folder=$HOME/.config/tarvix/Preferences; chattr +i $folder || exit 97\n"
+      "trap 'chattr -i $folder' EXIT; ztk reset; echo $?");
+  if (result.status == 97) GTEST_SKIP() << "no file can be protected here";
+  EXPECT_EQ(Line(result.out, 0), "Boost level: 1 -5 dB, still remembered");
+  EXPECT_EQ(LastLine(result.out), "5");
+  EXPECT_THAT(result.err, HasSubstr("not everything is forgotten: "));
 }
 
 TEST_F(Undo, UsesWhatCanBeReadOfADamagedHistory) {
@@ -173,7 +282,7 @@ TEST_F(Undo, UsesWhatCanBeReadOfADamagedHistory) {
   WriteAll(History(), damage);
   const Result result = OneMixer("ztk undo; echo $?; ztk undo");
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 2 -10 dB undone, 1 -5 dB sent to 1 mixer, "
+            "Boost level: 2 -10 dB undone, 1 -5 dB, sent to 1 mixer, "
             "remembered");
   EXPECT_EQ(Line(result.out, 1), "0");
   EXPECT_EQ(Line(result.out, 2), "Nothing to undo.");

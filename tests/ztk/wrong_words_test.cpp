@@ -161,11 +161,13 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
   } rows[] = {
       {"inptu",
        "ztk: no command \"inptu\"; nearest: input; accepted: status, input, "
-       "output, boost, midi, apply, autoapply, undo, export, import, watch, "
+       "output, boost, midi, apply, autoapply, undo, reset, export, import, "
+       "watch, "
        "warning, doctor, models, versions; see ztk --help\n"},
       {"",
        "ztk: a command is missing; accepted: status, input, output, boost, "
-       "midi, apply, autoapply, undo, export, import, watch, warning, doctor, "
+       "midi, apply, autoapply, undo, reset, export, import, watch, warning, "
+       "doctor, "
        "models, versions; see ztk --help\n"},
       {"input",
        "ztk: a command is missing after \"input\"; accepted: list, get, set, "
@@ -184,7 +186,7 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
        "ztk: one word too many after \"status\": \"now\"; see ztk status "
        "--help\n"},
       {"status --all",
-       "ztk: no option \"--all\" after \"status\"; accepted: "
+       "ztk: no option \"--all\" after \"status\"; accepted: --verbose, "
        "--json, --quiet, --help, --version; see ztk status --help\n"},
       {"apply --product VRM-Z1",
        "ztk: no model \"VRM-Z1\"; accepted, by number or "

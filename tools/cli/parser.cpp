@@ -105,16 +105,39 @@ class CommandLine {
          NearestAndAccepted(word, LongNames(accepted)));
   }
 
+  // The words that an option takes; its value as the help names it where any
+  // word may be right.
+  static std::string AcceptedBy(const Option &option) {
+    if (option.fill != Fill::Values) {
+      return IsPositional(option) ? option.description : option.value;
+    }
+    std::vector<std::string> words;
+    for (const Value &value : option.values({}, "")) {
+      words.push_back(value.word);
+    }
+    return Listed(words);
+  }
+
   // CLI11's message begins with the name of the option and a colon.
   [[noreturn]] void FailValue(const std::string &message,
                               const std::vector<Option> &options) const {
     const std::string name = message.substr(0, message.find(':'));
     std::string accepted;
     for (const Option &option : options) {
-      if (HasName({option}, name))
-        accepted = "; accepted: " + option.description;
+      if (!HasName({option}, name)) continue;
+      accepted = "; accepted: " + AcceptedBy(option);
     }
     Fail("exactly one value has to follow " + name + accepted);
+  }
+
+  // An option of a command that stands before its command.
+  [[noreturn]] void FailEarlyOption(const std::string &word) const {
+    for (const Command &command : program_.commands) {
+      if (HasName(command.options, word)) {
+        Fail("the option " + Quoted(word) + " goes behind the command");
+      }
+    }
+    FailOption(word, common_);
   }
 
   // Takes the words of the path, and "help", out of the words.
@@ -123,7 +146,7 @@ class CommandLine {
     while (word != words_.end() && *word != kEndOfOptions &&
            FindCommand(program_, path_) == nullptr) {
       if (IsOptionWord(*word)) {
-        if (!HasName(common_, *word)) FailOption(*word, common_);
+        if (!HasName(common_, *word)) FailEarlyOption(*word);
         ++word;
         continue;
       }
@@ -246,7 +269,8 @@ class CommandLine {
     for (const Option &option : command.options) {
       if (!option.required || arguments.Has(KeyOf(option))) continue;
       Fail(KeyOf(option) + " is missing" + Place() +
-           "; accepted: " + option.description);
+           (option.fill == Fill::Values ? "; accepted: " + AcceptedBy(option)
+                                        : ": " + option.description));
     }
   }
 

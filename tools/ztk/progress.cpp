@@ -63,13 +63,24 @@ bool InterruptWaits() {
   return sigpending(&pending) == 0 && sigismember(&pending, SIGINT) == 1;
 }
 
-void ShowWaiting(const std::string &what, int waited) {
-  std::string line = what;
-  if (waited > 0) line += ", " + std::to_string(waited) + " s";
-  line += InterruptWaits() ? kEnding : kHowToEnd;
+// ", 1 of at most 6 s"
+std::string Waited(int waited, int longest) {
+  if (longest == 0) {
+    return waited == 0 ? "" : ", " + std::to_string(waited) + " s";
+  }
+  return (waited == 0 ? ", " : ", " + std::to_string(waited) + " of ") +
+         std::string("at most ") + std::to_string(longest) + " s";
+}
+
+void ShowWaiting(const std::string &what, int waited, int longest) {
   const std::size_t columns = cli::Columns(STDERR_FILENO);
+  const std::string end = InterruptWaits() ? kEnding : kHowToEnd;
+  std::string line = what + Waited(waited, longest) + end;
   // A line that the terminal had to break could not be cleared.
-  if (columns > 0 && line.size() >= columns) line.resize(columns - 1);
+  if (columns > 0 && line.size() >= columns) {
+    line = what + Waited(waited, 0) + end;
+    if (line.size() >= columns) line.resize(columns - 1);
+  }
   theLineStands = true;
   WriteNow(STDERR_FILENO, kClearLine);
   WriteNow(STDERR_FILENO, line);
@@ -77,8 +88,10 @@ void ShowWaiting(const std::string &what, int waited) {
 
 }  // namespace
 
-Progress::Progress(std::string what)
-    : what_(std::move(what)), hasCursor_(cli::HasCursor(STDERR_FILENO)) {
+Progress::Progress(std::string what, int longest)
+    : what_(std::move(what)),
+      longest_(longest),
+      hasCursor_(cli::HasCursor(STDERR_FILENO)) {
   if (!cli::IsTerminal(STDERR_FILENO)) return;
   // The signals of the program are the main thread's, which alone knows when
   // they have to wait.
@@ -107,9 +120,10 @@ void Progress::Tell() {
   for (int tick = 0; !end_.wait_until(lock, next, [this] { return ended_; });
        ++tick) {
     if (hasCursor_) {
-      ShowWaiting(what_, tick);
+      ShowWaiting(what_, tick, longest_);
     } else if (tick == 0) {
-      WriteNow(STDERR_FILENO, what_ + kHowToEnd + "\n");
+      WriteNow(STDERR_FILENO,
+               what_ + Waited(tick, longest_) + kHowToEnd + "\n");
     }
     next += kStep;
   }

@@ -21,6 +21,9 @@ inline constexpr char kInterrupted[] =
 inline constexpr char kInterruptedAsking[] = "interrupted; nothing was changed";
 
 inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
+// Mixers are asked at the same time, and no more once one is silent: one second
+// for the request, one for a mixer that comes or goes meanwhile.
+inline constexpr int kLongestQuestion = 2;
 
 // While it lives, tells on the error stream what is waited for and for how
 // long. Nothing where that is no terminal, and nothing in the first half
@@ -30,8 +33,9 @@ inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
 // A thread of its own, because a request to a mixer cannot be interrupted.
 class Progress {
  public:
-  // `what` as in kWaitingForMixer.
-  explicit Progress(std::string what);
+  // `what` as in kWaitingForMixer; it takes at most so many seconds, 0 where
+  // that is not known.
+  explicit Progress(std::string what, int longest = 0);
   ~Progress();
   Progress(const Progress &) = delete;
   Progress &operator=(const Progress &) = delete;
@@ -40,6 +44,7 @@ class Progress {
   void Tell();
 
   std::string what_;
+  int longest_;
   bool hasCursor_ = false;
   std::mutex mutex_;
   std::condition_variable end_;

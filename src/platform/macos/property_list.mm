@@ -184,10 +184,12 @@ void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value) {
   }
 }
 
+// Of MakeDictionary(), as for Add().
 void RemoveEntry(Dictionary *dictionary, ZTKTextRef key) {
-  if (key == nullptr) return;
+  if (dictionary == nullptr || key == nullptr) return;
   @autoreleasepool {
-    [FilledOf(dictionary) removeObjectForKey:StringOf(key)];
+    [(NSMutableDictionary *)dictionary->entries
+        removeObjectForKey:StringOf(key)];
   }
 }
 

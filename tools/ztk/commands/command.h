@@ -22,6 +22,12 @@ struct Parameter {
   static constexpr char kLanguage[] = "--language";
   static constexpr char kReportFile[] = "--report";
   static constexpr char kDryRun[] = "--dry-run";
+  static constexpr char kOnly[] = "--only";
+  static constexpr char kAll[] = "--all";
+  static constexpr char kList[] = "--list";
+  static constexpr char kVerbose[] = "--verbose";
+  static constexpr char kSteps[] = "N";
+  static constexpr char kSetting[] = "SETTING";
   static constexpr char kJson[] = "--json";
   static constexpr char kQuiet[] = "--quiet";
 };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <optional>
 
 #include "cli/strings.h"
@@ -40,42 +41,62 @@ void AddMixerReport(const std::string &file, Report *report) {
                   cli::OneLine(file) + "\n";
 }
 
+// Without the text, the errors have to say it.
+void AddErrors(const char *part, const Finding &finding, Report *report) {
+  report->errors.push_back(std::string(part) + ": " + finding.what);
+  report->errors.push_back("cause: " + finding.cause);
+  report->errors.push_back("type:  " + finding.command);
+}
+
+// Returns how many problems the check has found; notes are none.
+std::size_t AddCheck(const CheckedPart &part, bool quiet, Report *report) {
+  std::string good;
+  const Findings findings = [&] {
+    std::optional<Progress> progress;
+    if (part.asksMixers) progress.emplace(kWaitingForMixer, kLongestQuestion);
+    return part.check(&good);
+  }();
+  const auto problems = static_cast<std::size_t>(
+      std::count_if(findings.begin(), findings.end(),
+                    [](const Finding &finding) { return !finding.isNote; }));
+  report->fields["checks"].push_back(
+      {{"part", part.name},
+       {"ok", problems == 0},
+       {"message", problems == 0 ? Json(good) : Json()}});
+  if (findings.empty() || (problems == 0 && part.asksMixers)) {
+    report->text += cli::Padded(part.name, kColumn) + "ok: " + good + "\n";
+  }
+  for (const Finding &finding : findings) {
+    AddFinding(part.name, finding, report);
+    if (quiet && !finding.isNote) AddErrors(part.name, finding, report);
+  }
+  return problems;
+}
+
 }  // namespace
 
 Report Diagnose(const Arguments &arguments) {
+  const std::string *file = arguments.Find(Parameter::kReportFile);
+  if (file != nullptr && (*file == "-" || file->empty())) {
+    throw Failure(ExitCode::Usage, "--report takes the name of a file, and " +
+                                       cli::Quoted(*file) + " is none");
+  }
   Report report;
   report.fields["checks"] = Json::array();
   report.fields["findings"] = Json::array();
   std::size_t problems = 0;
   for (const CheckedPart &part : CheckedParts()) {
-    std::optional<Progress> progress;
-    if (part.asksMixers) progress.emplace(kWaitingForMixer);
-    std::string good;
-    const Findings findings = part.check(&good);
-    progress.reset();
-    report.fields["checks"].push_back(
-        {{"part", part.name},
-         {"ok", findings.empty()},
-         {"message", findings.empty() ? Json(good) : Json()}});
-    if (findings.empty()) {
-      report.text += cli::Padded(part.name, kColumn) + "ok: " + good + "\n";
-    }
-    for (const Finding &finding : findings) {
-      AddFinding(part.name, finding, &report);
-      if (!finding.isNote) ++problems;
-    }
+    problems += AddCheck(part, arguments.Has(Parameter::kQuiet), &report);
   }
-  if (const std::string *file = arguments.Find(Parameter::kReportFile)) {
-    AddMixerReport(*file, &report);
-  }
+  if (file != nullptr) AddMixerReport(*file, &report);
   if (problems > 0) {
     report.problem = {
         .exit = ExitCode::Found,
         .message = problems == 1
-                       ? "1 problem found; type what stands below its cause"
+                       ? "1 problem found; run the command above"
                        : std::to_string(problems) +
-                             " problems found; type what stands below each "
-                             "cause, the first one first"};
+                             " problems found; run the commands above, from "
+                             "top to bottom"};
   }
   return report;
 }

@@ -17,6 +17,10 @@ Report Export(const Arguments & /*arguments*/) {
     report.warnings.push_back("left out, as there are no words for it: " +
                               value);
   }
+  if (report.fields["settings"].empty()) {
+    report.warnings.emplace_back(
+        "nothing is remembered: ztk import of this sets nothing");
+  }
   return report;
 }
 

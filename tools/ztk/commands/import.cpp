@@ -13,6 +13,7 @@
 #include "ztk/report/change_report.h"
 #include "ztk/report/dry_run_report.h"
 #include "ztk/report/setting_report.h"
+#include "ztk/system/places.h"
 
 namespace ztk::program {
 
@@ -49,7 +50,8 @@ Report Refused(const std::string &file, const ImportedSettings &import) {
   Report report;
   report.fields["errors"] = Json::array();
   for (const std::string &line : import.errors) {
-    report.errors.push_back(cli::OneLine(file + ": " + line));
+    report.errors.push_back(
+        cli::OneLine((file == "-" ? "standard input" : file) + ": " + line));
     report.fields["errors"].push_back(line);
   }
   const std::size_t count = import.errorCount;
@@ -60,24 +62,74 @@ Report Refused(const std::string &file, const ImportedSettings &import) {
                " are shown,";
   }
   report.fields["errorCount"] = count;
-  report.problem = {.exit = ExitCode::Usage,
-                    .message = "nothing was changed: " + counted + " in " +
-                               cli::Quoted(file)};
+  report.problem = {
+      .exit = ExitCode::Usage,
+      .message = "nothing was changed: " + counted + " in " +
+                 (file == "-" ? "the standard input" : cli::Quoted(file))};
   return report;
 }
 
-void AddImported(const MadeChange &one, const Reach &reach, Report *report) {
+void AddImported(const MadeChange &one, const MadeChanges &made,
+                 Report *report) {
   const Change &change = one.change;
   const Setting &setting = *change.setting;
   Json fields{{"setting", setting.name}, {"model", ModelName(setting)}};
   AddValueFields(setting, change.channel, change.index, &fields);
   fields["result"] = one.result;
   fields["remembered"] = one.remembered;
+  if (one.forgotten) fields["forgotten"] = true;
   fields["announced"] = one.announced;
   report->fields["settings"].push_back(std::move(fields));
   report->text += PlaceName(setting, change.channel) + ": " +
-                  DescribedValue(setting, change.channel, change.index) + ", " +
-                  Described(one, reach) + "\n" + NoteOnSendingAgain(change);
+                  (change.forgets ? "forgotten, default " : "") +
+                  DescribedValue(setting, change.channel, change.index) +
+                  Described(one, made) + "\n" + NoteOnSendingAgain(change);
+}
+
+// What is remembered and not in the file stays, or is forgotten with --only.
+void AddKept(const std::vector<StoredValue> &kept, Report *report) {
+  report->fields["kept"] = Json::array();
+  std::vector<std::string> names;
+  for (const StoredValue &value : kept) {
+    Json fields{{"setting", value.setting->name},
+                {"model", ModelName(*value.setting)}};
+    AddValueFields(*value.setting, value.channel, value.index, &fields);
+    report->fields["kept"].push_back(std::move(fields));
+    names.push_back(PlaceName(*value.setting, value.channel) + ": " +
+                    DescribedValue(*value.setting, value.channel, value.index));
+  }
+  if (kept.empty()) return;
+  report->text += "Kept, as the file does not name it: " + cli::Listed(names) +
+                  " (import --only forgets it)\n";
+}
+
+Report PlanOfImport(const std::vector<Change> &changes) {
+  Report report;
+  Plan plan;
+  for (const Change &change : changes) plan.AddChange(change);
+  ReportDryRun(plan, &report);
+  return report;
+}
+
+Report NothingToImport() {
+  Report report;
+  report.text = "The file contains no settings: nothing to set.\n";
+  report.fields["settings"] = Json::array();
+  report.fields["mixers"] = {{"found", MixerPlaces().size()},
+                             {"answered", 0},
+                             {"unanswered", Json::array()}};
+  return report;
+}
+
+Report MakeImported(const std::vector<Change> &changes,
+                    const std::string &command, bool quiet) {
+  Report report;
+  report.fields["settings"] = Json::array();
+  const MadeChanges made = RunStep("import", changes, quiet, &report);
+  for (const MadeChange &one : made.changes) AddImported(one, made, &report);
+  ReportOutcome(made, "what the file holds", command, &report);
+  ExplainWarnings(made, &report);
+  return report;
 }
 
 }  // namespace
@@ -89,24 +141,26 @@ Report Import(const Arguments &arguments) {
                   "FILE is missing: one that ztk export has written, or - for "
                   "the input; see ztk import --help");
   }
-  const ImportedSettings import = ParseImport(Contents(*file));
+  ImportedSettings import = ParseImport(Contents(*file));
   if (import.errorCount > 0) return Refused(*file, import);
-  const std::vector<Change> &changes = import.changes;
-
+  std::vector<Change> &changes = import.changes;
+  std::vector<StoredValue> kept = ValuesBeside(changes);
+  const bool only = arguments.Has(Parameter::kOnly);
+  if (only) {
+    for (const StoredValue &value : kept) changes.push_back(Forgetting(value));
+    kept.clear();
+  }
   Report report;
   if (arguments.Has(Parameter::kDryRun)) {
-    Plan plan;
-    for (const Change &change : changes) plan.AddChange(change);
-    ReportDryRun(plan, &report);
-    return report;
+    report = PlanOfImport(changes);
+  } else if (changes.empty()) {
+    report = NothingToImport();
+  } else {
+    report = MakeImported(
+        changes, std::string("ztk import ") + (only ? "--only " : "") + *file,
+        arguments.Has(Parameter::kQuiet));
   }
-  report.fields["settings"] = Json::array();
-  const MadeChanges made = RunStep("import", changes, &report);
-  for (const MadeChange &one : made.changes) {
-    AddImported(one, made.reach, &report);
-  }
-  ReportOutcome(made, "what stands in it", "ztk import " + *file, &report);
-  ExplainWarnings(made, &report);
+  AddKept(kept, &report);
   return report;
 }
 

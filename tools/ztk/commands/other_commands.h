@@ -16,6 +16,9 @@ Report ShowStatus(const Arguments &arguments);
 // Puts back what this program has changed last.
 Report Undo(const Arguments &arguments);
 
+// Forgets what is remembered, and sends nothing.
+Report Reset(const Arguments &arguments);
+
 // All that is remembered, in words, and such words read again: all or nothing.
 Report Export(const Arguments &arguments);
 Report Import(const Arguments &arguments);

@@ -1,28 +1,28 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <set>
 
-#include "api/status.h"
 #include "cli/strings.h"
-#include "usb/mixers.h"
 #include "ztk/commands/other_commands.h"
-#include "ztk/model/reach.h"
+#include "ztk/model/mixer_status.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"
+#include "ztk/model/silence.h"
 #include "ztk/progress.h"
 #include "ztk/report/setting_report.h"
+#include "ztk/report/silence_report.h"
 
 namespace ztk::program {
 
 namespace {
 
-// What a reply is preset to, as a read does not tell how much came.
-constexpr std::uint8_t kUntouched = 0xFF;
-
 constexpr std::size_t kValueColumn = 15;
 
-// One fact: a value for programs, and words for people.
+using Mixers = std::vector<MixerStatus>;
+
+// What a fact is called, its value for programs and its words for people.
 struct Fact {
   const char *name;
   const char *title;
@@ -30,102 +30,63 @@ struct Fact {
   std::string words;
 };
 
-using Read = usb::Code (*)(usb::Connection device, std::uint8_t *buffer,
-                           std::uint16_t length);
-
-// Asks one mixer. After a request without an answer the others are not sent:
-// each would be waited for as long.
-class MixerReader {
- public:
-  explicit MixerReader(usb::Connection mixer) : mixer_(mixer) {}
-
-  // Empty when it answered; else why not.
-  std::string Ask(Read read, usb::Reply *reply, std::uint16_t length) {
-    for (std::uint16_t i = 0; i < length; ++i) reply->bytes[i] = kUntouched;
-    if (silent_) return "not asked";
-    const usb::Code code = read(mixer_, reply->bytes, length);
-    if (code == platform::usb::kSuccess) return "";
-    silent_ = code == platform::usb::kTimeout;
-    return model::Described(code);
-  }
-
- private:
-  usb::Connection mixer_;
-  bool silent_ = false;
-};
-
-std::string Formatted(const char *format, unsigned first, unsigned second = 0) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), format, first, second);
+std::string Hex(unsigned number) {
+  std::array<char, 16> text{};
+  std::snprintf(text.data(), text.size(), "0x%04X", number);
   return text.data();
 }
 
-Fact Firmware(MixerReader *reader) {
-  Fact fact{.name = "firmware", .title = "firmware", .value = {}, .words = {}};
-  usb::Reply reply;
-  fact.words = reader->Ask(GetFirmwareVersionNumber, &reply,
-                           status::kFirmwareVersionLength);
-  if (!fact.words.empty()) return fact;
-  const unsigned low = reply.bytes[0];
-  const unsigned high = reply.bytes[1];
-  const unsigned number = low | high << 8;
-  const std::string hex = Formatted("0x%04X", number);
+Fact Firmware(const MixerStatus &mixer) {
+  Fact fact{.name = "firmware",
+            .title = "firmware",
+            .value = {},
+            .words = mixer.firmware.why};
+  if (!mixer.firmware.value) return fact;
+  const std::uint16_t number = *mixer.firmware.value;
   // Only the number is the mixer's; the version is read from its bytes.
-  const std::string version = Formatted("%x.%02x", high, low);
-  fact.value = {{"number", number}, {"hex", hex}, {"derived", version}};
-  fact.words =
-      std::to_string(number) + " (" + hex + ", read as " + version + ")";
+  fact.words = FirmwareVersion(number);
+  fact.value = {
+      {"number", number}, {"hex", Hex(number)}, {"derived", fact.words}};
   return fact;
 }
 
-Fact CertificationLevel(MixerReader *reader) {
+Fact CertificationLevel(const MixerStatus &mixer) {
   Fact fact{.name = "certificationLevel",
             .title = "certified",
             .value = {},
-            .words = {}};
-  usb::Reply reply;
-  fact.words =
-      reader->Ask(GetCertifyLevel, &reply, status::kCertifyLevelLength);
-  if (!fact.words.empty()) return fact;
-  const std::uint32_t level = status::BigEndian32(reply.bytes);
-  fact.value = level;
-  fact.words = "level " + std::to_string(level);
+            .words = mixer.certificationLevel.why};
+  if (!mixer.certificationLevel.value) return fact;
+  fact.value = *mixer.certificationLevel.value;
+  fact.words = "level " + std::to_string(*mixer.certificationLevel.value);
   return fact;
 }
 
-Fact Selectors(MixerReader *reader) {
-  Fact fact{
-      .name = "selectors", .title = "selectors", .value = {}, .words = {}};
-  usb::Reply reply;
-  fact.words =
-      reader->Ask(GetInputSelectorInfo, &reply, status::kSelectorInfoLength);
-  if (!fact.words.empty()) return fact;
+Fact Selectors(const MixerStatus &mixer) {
+  Fact fact{.name = "selectors",
+            .title = "selectors",
+            .value = {},
+            .words = mixer.selectors.why};
+  if (!mixer.selectors.value) return fact;
   fact.value = Json::array();
-  for (int channel = 0; channel < status::kSelectors; ++channel) {
-    // The first byte has no meaning here.
-    const std::uint8_t position = reply.bytes[channel + 1];
-    const bool known = position < status::kSelectorPositions;
-    fact.value.push_back(known ? Json(position) : Json());
+  int channel = 0;
+  for (const auto &position : *mixer.selectors.value) {
+    fact.value.push_back(position ? Json(*position) : Json());
     if (channel > 0) fact.words += "   ";
-    fact.words += "CH" + std::to_string(channel + 1) + " " +
-                  (known ? std::to_string(position) : "unknown");
+    fact.words += "CH" + std::to_string(++channel) + " " +
+                  (position ? std::to_string(*position) : "unknown");
   }
   return fact;
 }
 
-Fact Serato(MixerReader *reader) {
-  Fact fact{.name = "serato", .title = "Serato", .value = {}, .words = {}};
-  usb::Reply reply;
-  fact.words =
-      reader->Ask(GetSeratoActiveInfo, &reply, status::kSeratoActiveLength);
-  if (!fact.words.empty()) return fact;
-  const std::uint8_t state = reply.bytes[0];
-  if (state > 1) {
-    fact.words = "unknown";
-    return fact;
-  }
-  fact.value = state == 1 ? "active" : "inactive";
-  fact.words = state == 1 ? "active" : "not active";
+Fact Serato(const MixerStatus &mixer) {
+  Fact fact{.name = "serato",
+            .title = "Serato",
+            .value = {},
+            .words = mixer.seratoActive.why};
+  if (!mixer.seratoActive.value) return fact;
+  const bool active = *mixer.seratoActive.value;
+  fact.value = active ? "active" : "inactive";
+  fact.words = active ? "active" : "not active";
   return fact;
 }
 
@@ -133,83 +94,129 @@ std::string Row(const std::string &title, const std::string &words) {
   return cli::Padded("  " + title, kValueColumn) + " " + words + "\n";
 }
 
-// A fact whose value is null carries its words, which say why.
-void AddFact(Fact fact, Json *fields, std::string *text) {
-  if (fact.value.is_null()) {
-    (*fields)["unanswered"][fact.name] = fact.words;
-  }
-  (*fields)[fact.name] = std::move(fact.value);
-  *text += Row(fact.title, fact.words);
+bool IsOpened(const MixerStatus &mixer) {
+  return mixer.mixer.state != MixerState::NotOpened &&
+         mixer.mixer.state != MixerState::Gone;
 }
 
-// What the mixers of one listing told.
-struct Listing {
-  Json mixers = Json::array();
-  std::string text;
-  std::vector<std::string> warnings;
+// Behind "mixer 1": "is reachable", "does not answer", ...
+std::string StateWords(const MixerStatus &mixer) {
+  switch (mixer.mixer.state) {
+    case MixerState::Answered:
+      return "is reachable";
+    case MixerState::Silent:
+      return "does not answer";
+    case MixerState::Gone:
+      return "is gone: it was unplugged or switched off";
+    case MixerState::NotOpened:
+      return "is attached but cannot be opened";
+    case MixerState::Refused:
+    case MixerState::Failed:
+      break;
+  }
+  return "cannot be asked";
+}
+
+std::vector<Fact> FactsOf(const MixerStatus &mixer) {
+  return {Firmware(mixer), CertificationLevel(mixer), Selectors(mixer),
+          Serato(mixer)};
+}
+
+Json FieldsOf(const MixerStatus &mixer) {
+  Json fields{{"position", mixer.mixer.number},
+              {"reachable", IsOpened(mixer)},
+              {"answers", mixer.answers()},
+              {"port", mixer.place}};
+  if (!IsOpened(mixer)) {
+    fields["reason"] = mixer.mixer.message;
+    return fields;
+  }
+  for (Fact &fact : FactsOf(mixer)) {
+    // A fact whose value is null carries its words, which say why.
+    if (fact.value.is_null()) fields["unanswered"][fact.name] = fact.words;
+    fields[fact.name] = std::move(fact.value);
+  }
+  return fields;
+}
+
+// All that a mixer tells, on several lines.
+std::string Details(const MixerStatus &mixer, bool isOnly) {
+  std::string text = "Mixer " + std::to_string(mixer.mixer.number) +
+                     (isOnly ? " " : ", port " + mixer.place + ", ") +
+                     StateWords(mixer) + "\n";
+  if (!mixer.answers()) return text;
+  for (const Fact &fact : FactsOf(mixer)) text += Row(fact.title, fact.words);
+  return text;
+}
+
+// One of several mixers, on one line.
+std::string Line(const MixerStatus &mixer) {
+  return "Mixer " + std::to_string(mixer.mixer.number) + ", port " +
+         mixer.place + ", " + StateWords(mixer) +
+         (mixer.firmware.value ? ", firmware " + Firmware(mixer).words : "") +
+         "\n";
+}
+
+std::string Summary(const Mixers &mixers) {
+  const auto answering = static_cast<std::size_t>(
+      std::count_if(mixers.begin(), mixers.end(),
+                    [](const MixerStatus &mixer) { return mixer.answers(); }));
+  const std::string count = std::to_string(mixers.size());
+  if (answering == mixers.size()) return count + " mixers are reachable\n";
+  return count + " mixers are attached, " + std::to_string(answering) +
+         (answering == 1 ? " is reachable\n" : " are reachable\n");
+}
+
+std::string TextOf(const Mixers &mixers, bool verbose) {
+  if (mixers.empty()) return "No mixer is attached\n";
+  if (mixers.size() == 1) return Details(mixers.front(), true);
+  std::string text = Summary(mixers);
+  for (const MixerStatus &mixer : mixers) {
+    text += verbose ? Details(mixer, false) : Line(mixer);
+  }
+  return text;
+}
+
+// What to do next where something is missing; empty where nothing is.
+std::string NextStep(const Mixers &mixers) {
+  const auto any = [&mixers](MixerState state) {
+    return std::any_of(mixers.begin(), mixers.end(),
+                       [state](const MixerStatus &mixer) {
+                         return mixer.mixer.state == state;
+                       });
+  };
+  if (mixers.empty()) {
+    return "Next: plug the mixer in and switch it on; ztk doctor tells what "
+           "is missing\n";
+  }
+  if (any(MixerState::Silent)) {
+    return "Next: switch the mixer that does not answer off and on again; ztk "
+           "doctor tells more\n";
+  }
+  const bool allWork =
+      std::all_of(mixers.begin(), mixers.end(),
+                  [](const MixerStatus &mixer) { return mixer.works(); });
+  return allWork ? "" : "Next: ztk doctor tells why, and what to do\n";
+}
+
+Mixers AddMixers(bool verbose, Report *report) {
+  Mixers mixers = [] {
+    const Progress progress(kWaitingForMixer, kLongestQuestion);
+    return AskEveryMixer();
+  }();
   int reached = 0;
-  bool everythingAnswered = true;
-};
-
-void AddMixer(int position, const std::string &place, Listing *listing) {
-  const usb::OpenMixer mixer(position);
-  Json fields{{"position", position + 1},
-              {"reachable", static_cast<bool>(mixer)}};
-  std::string *text = &listing->text;
-  const std::string number = std::to_string(position + 1);
-  if (mixer) {
-    *text += "Mixer " + number + " is reachable\n";
-    MixerReader reader(mixer.connection());
-    AddFact(Firmware(&reader), &fields, text);
-    AddFact(CertificationLevel(&reader), &fields, text);
-    AddFact(Selectors(&reader), &fields, text);
-    AddFact(Serato(&reader), &fields, text);
-    ++listing->reached;
-  } else {
-    const std::string reason =
-        "mixer " + number + " " + Explained(TryToOpen(place));
-    *text += "Mixer " + number + " is attached but cannot be opened\n";
-    fields["reason"] = reason;
-    listing->warnings.push_back(reason);
+  Json list = Json::array();
+  for (const MixerStatus &mixer : mixers) {
+    list.push_back(FieldsOf(mixer));
+    if (IsOpened(mixer)) ++reached;
+    if (!IsOpened(mixer)) report->warnings.push_back(mixer.mixer.message);
   }
-  if (!mixer || fields.contains("unanswered")) {
-    listing->everythingAnswered = false;
-  }
-  listing->mixers.push_back(std::move(fields));
-}
-
-Listing AskEach(const std::vector<std::string> &places) {
-  Listing listing;
-  int position = 0;
-  for (const std::string &place : places) AddMixer(position++, place, &listing);
-  return listing;
-}
-
-// Mixers are opened by their position, which is another one's as soon as a
-// mixer before it has gone. So when something was not told, and by now other
-// mixers are attached, all are asked again.
-Listing AskAll() {
-  constexpr int kTries = 3;
-  std::vector<std::string> places = MixerPlaces();
-  for (int tries = 1;; ++tries) {
-    Listing listing = AskEach(places);
-    if (listing.everythingAnswered || tries == kTries) return listing;
-    std::vector<std::string> now = MixerPlaces();
-    if (now == places) return listing;
-    places = std::move(now);
-  }
-}
-
-void AddMixers(Report *report) {
-  const Progress progress(kWaitingForMixer);
-  Listing listing = AskAll();
-  const std::size_t found = listing.mixers.size();
-  report->fields["connected"] = found > 0;
-  report->fields["found"] = found;
-  report->fields["reached"] = listing.reached;
-  report->fields["mixers"] = std::move(listing.mixers);
-  report->text = found == 0 ? "No mixer is attached\n" : listing.text;
-  report->warnings = std::move(listing.warnings);
+  report->fields["connected"] = !mixers.empty();
+  report->fields["found"] = mixers.size();
+  report->fields["reached"] = reached;
+  report->fields["mixers"] = std::move(list);
+  report->text = TextOf(mixers, verbose);
+  return mixers;
 }
 
 void AddRemembered(Report *report) {
@@ -246,10 +253,12 @@ void AddRemembered(Report *report) {
 
 }  // namespace
 
-Report ShowStatus(const Arguments & /*arguments*/) {
+Report ShowStatus(const Arguments &arguments) {
   Report report;
-  AddMixers(&report);
+  const Mixers mixers = AddMixers(arguments.Has(Parameter::kVerbose), &report);
   AddRemembered(&report);
+  AddSilence(FindSilentRoutings(mixers), mixers.size() > 1, &report);
+  report.text += NextStep(mixers);
   return report;
 }
 

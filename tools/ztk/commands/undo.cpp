@@ -2,21 +2,28 @@
 #include <algorithm>
 
 #include "cli/strings.h"
+#include "cli/suggest.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/commands/warning.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/undo.h"
-#include "ztk/progress.h"
 #include "ztk/report/change_report.h"
 #include "ztk/report/dry_run_report.h"
 #include "ztk/report/setting_report.h"
+#include "ztk/system/places.h"
 
 namespace ztk::program {
 
 namespace {
 
-// Values that somebody else has set since are his.
+// A value of the history: where nothing was remembered, it was reset.
+std::string ValueWords(const Setting &setting, std::uint32_t channel,
+                       const std::optional<std::uint32_t> &value) {
+  return value ? DescribedValue(setting, channel, *value) : "reset";
+}
+
+// Values that another program has set since stay.
 std::vector<std::string> ForeignOnes(const std::vector<UndoItem> &undoings) {
   std::vector<std::string> foreign;
   for (const UndoItem &undoing : undoings) {
@@ -56,7 +63,7 @@ const PastChange &PastOf(const Change &change,
 }
 
 void AddUndone(const MadeChange &one, const PastChange &past,
-               const Reach &reach, Report *report) {
+               const MadeChanges &made, Report *report) {
   const Setting &setting = *past.setting;
   Json fields{{"setting", setting.name}, {"model", ModelName(setting)}};
   AddValueFields(setting, past.channel, one.change.index, &fields);
@@ -65,20 +72,20 @@ void AddUndone(const MadeChange &one, const PastChange &past,
   fields["wasRemembered"] = past.before.has_value();
   fields["result"] = one.result;
   fields["remembered"] = one.remembered;
+  if (one.forgotten) fields["forgotten"] = true;
   fields["announced"] = one.announced;
   report->fields["settings"].push_back(std::move(fields));
-  report->text +=
-      PlaceName(setting, past.channel) + ": " +
-      (past.after ? DescribedValue(setting, past.channel, *past.after)
-                  : "reset") +
-      " undone, " + DescribedValue(setting, past.channel, one.change.index);
+  report->text += PlaceName(setting, past.channel) + ": " +
+                  ValueWords(setting, past.channel, past.after) + " undone, " +
+                  (past.before ? "" : "default ") +
+                  DescribedValue(setting, past.channel, one.change.index);
   if (one.result == ZTK_REJECTED) {
     report->text += " refused\n";
     return;
   }
-  report->text += " " + Described(one, reach) + "\n";
+  report->text += Described(one, made) + "\n";
   if (!past.before) {
-    report->text += "  nothing was remembered before: this is the default\n";
+    report->text += "  nothing was remembered before, and nothing is now\n";
   }
 }
 
@@ -156,12 +163,13 @@ std::string SendingAgain(const MadeChanges &made) {
 // True where the step is done with, for better or worse.
 bool UndoStep(const std::vector<UndoItem> &undoings, Report *report) {
   const MadeChanges made = [&undoings] {
-    const Progress progress(kWaitingForMixer);
-    return MakeChanges(ChangesOf(undoings));
+    const std::vector<Change> changes = ChangesOf(undoings);
+    const Progress progress = WaitForChanges(changes, MixerPlaces().size());
+    return MakeChanges(changes);
   }();
   bool done = true;
   for (const MadeChange &one : made.changes) {
-    AddUndone(one, PastOf(one.change, undoings), made.reach, report);
+    AddUndone(one, PastOf(one.change, undoings), made, report);
     done =
         done && (one.remembered || one.forgotten || one.result == ZTK_REJECTED);
   }
@@ -175,24 +183,103 @@ bool UndoStep(const std::vector<UndoItem> &undoings, Report *report) {
   return done;
 }
 
-void UndoLast(bool dryRun, History *history, Report *report) {
-  const Step step = history->steps().back();
-  const std::vector<UndoItem> undoings = PlanUndo(history->steps());
+void UndoLast(std::size_t count, bool dryRun, History *history,
+              Report *report) {
+  const std::vector<Step> &steps = history->steps();
+  const std::vector<UndoItem> undoings = PlanUndo(steps, count);
   const std::vector<std::string> foreign = ForeignOnes(undoings);
   const std::vector<Change> changes = ChangesOf(undoings);
   if (dryRun) {
     ReportPlan(changes, report);
     return AddLeftAlone(foreign, report);
   }
-  report->fields["undone"] = step.command;
+  report->fields["undone"] = steps.back().command;
+  report->fields["undoneSteps"] = Json::array();
+  for (std::size_t i = 0; i < count; ++i) {
+    report->fields["undoneSteps"].push_back(
+        steps[steps.size() - 1 - i].command);
+  }
   report->fields["settings"] = Json::array();
-  if (changes.empty() || UndoStep(undoings, report)) history->DropLast();
+  if (changes.empty() || UndoStep(undoings, report)) history->DropLast(count);
   if (!history->Save()) {
     report->warnings.push_back("the history cannot be written to " +
                                StateFolder());
   }
   AddLeftAlone(foreign, report);
   report->fields["stepsLeft"] = history->steps().size();
+}
+
+// "input set  USB input 2: 6 MIC, before 1 CH2 Control Tone PHONO"
+std::string ListedStep(std::size_t number, const Step &step) {
+  constexpr std::size_t kNumberColumn = 5;
+  constexpr std::size_t kCommandColumn = 18;
+  std::string begin =
+      cli::Padded("  " + std::to_string(number), kNumberColumn) + " ";
+  begin = cli::Padded(begin + step.command, kCommandColumn) + " ";
+  std::string text;
+  for (const PastChange &change : step.changes) {
+    const Setting &setting = *change.setting;
+    text +=
+        begin + PlaceName(setting, change.channel) + ": " +
+        ValueWords(setting, change.channel, change.after) + ", before " +
+        (change.before ? DescribedValue(setting, change.channel, *change.before)
+                       : "nothing remembered") +
+        "\n";
+    begin = std::string(kCommandColumn + 1, ' ');
+  }
+  return text;
+}
+
+Json FieldsOf(std::size_t number, const Step &step) {
+  const auto valueOf = [](const std::optional<std::uint32_t> &value) {
+    return value ? Json(static_cast<std::int32_t>(*value)) : Json();
+  };
+  Json fields{{"number", number},
+              {"command", step.command},
+              {"changes", Json::array()}};
+  for (const PastChange &change : step.changes) {
+    fields["changes"].push_back(
+        {{"setting", change.setting->name},
+         {"model", ModelName(*change.setting)},
+         {"channel", ChannelField(*change.setting, change.channel)},
+         {"before", valueOf(change.before)},
+         {"after", valueOf(change.after)}});
+  }
+  return fields;
+}
+
+void ListSteps(const std::vector<Step> &steps, Report *report) {
+  report->fields["steps"] = Json::array();
+  std::size_t number = 0;
+  for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
+    report->fields["steps"].push_back(FieldsOf(++number, *step));
+    report->text += ListedStep(number, *step);
+  }
+  report->text = steps.empty()
+                     ? "Nothing to undo.\n"
+                     : "The last change is number 1; ztk undo N takes back "
+                       "changes 1 to N.\n" +
+                           report->text;
+}
+
+// How many steps to take back: the number that was given, or one.
+std::size_t StepsFor(const Arguments &arguments, std::uint32_t known) {
+  const std::string *word = arguments.Find(Parameter::kSteps);
+  if (word == nullptr) return 1;
+  if (const auto number = cli::ParseNumber(*word, 1, known)) return *number;
+  throw Failure(ExitCode::Usage, "no change " + cli::Quoted(*word) +
+                                     " to undo" +
+                                     cli::NearestAndAccepted(*word, 1, known) +
+                                     "; ztk undo --list shows them");
+}
+
+void RequireReadable(const std::vector<Step> &steps, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::string why = WhyUnreadable(steps[steps.size() - 1 - i]);
+    if (why.empty()) continue;
+    throw Failure(ExitCode::Failed,
+                  "nothing can be undone: cannot read " + why);
+  }
 }
 
 }  // namespace
@@ -204,29 +291,28 @@ Report Undo(const Arguments &arguments) {
     throw Failure(ExitCode::Failed,
                   "nothing can be undone: " + history.reason());
   }
-  while (!history.steps().empty()) {
-    const Step &last = history.steps().back();
-    const std::string why = WhyUnreadable(last);
-    if (!why.empty()) {
-      throw Failure(ExitCode::Failed,
-                    "nothing can be undone: cannot read " + why);
-    }
-    // A step that came to nothing, because it was interrupted.
-    if (!IsVoid(last)) break;
-    history.DropLast();
-  }
+  const std::size_t dropped = DropVoidSteps(&history);
   Report report;
   if (history.damaged()) {
     report.warnings.emplace_back(
         "the history is damaged; what can be read of it is used");
   }
+  if (arguments.Has(Parameter::kList)) {
+    ListSteps(history.steps(), &report);
+    return report;
+  }
   if (!history.steps().empty()) {
-    UndoLast(arguments.Has(Parameter::kDryRun), &history, &report);
+    const std::size_t count =
+        StepsFor(arguments, static_cast<std::uint32_t>(history.steps().size()));
+    RequireReadable(history.steps(), count);
+    UndoLast(count, arguments.Has(Parameter::kDryRun), &history, &report);
     return report;
   }
   report.fields["settings"] = Json::array();
   report.fields["stepsLeft"] = 0;
-  report.text = "Nothing to undo.\n";
+  report.text = dropped == 0 ? "Nothing to undo.\n"
+                             : "Nothing to undo: what ztk has changed is not "
+                               "in the settings files any more.\n";
   return report;
 }
 

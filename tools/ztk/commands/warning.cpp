@@ -2,10 +2,13 @@
 #include "ztk/commands/warning.h"
 
 #include <algorithm>
+#include <optional>
 
+#include "api/input_audio.h"
 #include "cli/strings.h"
 #include "cli/suggest.h"
 #include "ztk/commands/other_commands.h"
+#include "ztk/model/mixer_status.h"
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 #include "ztk/progress.h"
@@ -86,47 +89,69 @@ ZTKResult Sentence(std::uint32_t channel, std::uint32_t language,
                                                ZTK_WARNING, language, text);
 }
 
-std::string PlainSentence(const Reach &reach, const std::string &place) {
-  if (reach.found() == 0)
-    return "no mixer is attached: " + place + " is silent";
+std::string PlainSentence(const std::string &place) {
+  const std::string why = WhyInstalledIsNotFound();
   return "the mixer's input selector does not stand where " + place +
          " can be heard; position 4 is needed, ztk status shows where it "
-         "stands";
+         "stands (the translated text is missing: " +
+         (why.empty() ? "install VRM-D6Setup.framework" : why) + ")";
 }
 
 // The library's sentence names no channel; `before` goes in front of it.
-std::string Explanation(std::uint32_t channel, const Reach &reach,
-                        const std::string &before) {
+std::string Explanation(std::uint32_t channel, const std::string &before) {
   ZTKTextRef text = nullptr;
-  const std::string place = PlaceName(kInput, channel);
-  if (Sentence(channel, kUsersLanguage, &text) != ZTK_SUCCESS) {
-    // The fifth channel: no selector belongs to it.
-    return reach.found() == 0
-               ? PlainSentence(reach, place)
-               : place +
-                     " has no input selector, so the mixer cannot tell "
-                     "whether this routing can be heard";
+  Sentence(channel, kUsersLanguage, &text);
+  return before + (text != nullptr ? Utf8(text)
+                                   : PlainSentence(PlaceName(kInput, channel)));
+}
+
+// "mixer 2: ", "mixers 2, 3: ": those of several whose selector stands wrong.
+// Asks them. None where no selector stands wrong: a mixer that does not answer
+// counts for the library as one.
+std::optional<std::string> MixersWithWrongSelector(std::uint32_t channel) {
+  const Progress progress(kWaitingForMixer, kLongestQuestion);
+  std::vector<std::string> numbers;
+  for (const MixerStatus &mixer : AskForSelectors()) {
+    if (!mixer.selectors.value) continue;
+    const auto position = (*mixer.selectors.value)[channel];
+    if (position == input_audio::kAudiblePosition) continue;
+    numbers.push_back(std::to_string(mixer.mixer.number));
   }
-  if (text != nullptr) return before + Utf8(text);
-  const std::string why = WhyInstalledIsNotFound();
-  return PlainSentence(reach, place) + " (the translated text is missing: " +
-         (why.empty() ? "install VRM-D6Setup.framework" : why) + ")";
+  if (numbers.empty()) return std::nullopt;
+  return (numbers.size() == 1 ? "mixer " : "mixers ") + cli::Listed(numbers) +
+         ": ";
+}
+
+void AddExplanation(std::uint32_t channel, const Reach &reach,
+                    const std::string &place, Report *report) {
+  std::optional<std::string> mixers = "";
+  if (reach.found() > 1) mixers = MixersWithWrongSelector(channel);
+  if (!mixers) return;
+  report->warnings.push_back(Explanation(channel, *mixers + place));
+}
+
+// Without a mixer the error says what became of the choice. The fifth channel
+// has no selector: nobody can do anything about its warning.
+bool CanBeActedOn(std::uint32_t channel, const Reach &reach) {
+  return reach.found() > 0 && channel < kWarningChannels;
 }
 
 }  // namespace
 
 void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
-  report->warnings.push_back(Explanation(channel, reach, ""));
+  if (!CanBeActedOn(channel, reach)) return;
+  AddExplanation(channel, reach, "", report);
 }
 
 void ExplainWarnings(const MadeChanges &made, Report *report) {
-  // Without a mixer the error says it for all of them.
-  if (made.reach.found() == 0) return;
   for (const MadeChange &one : made.changes) {
-    if (one.result != ZTK_WARNING || !one.selectorsKnown) continue;
     const std::uint32_t channel = one.change.channel;
-    report->warnings.push_back(
-        Explanation(channel, made.reach, PlaceName(kInput, channel) + ": "));
+    if (one.result != ZTK_WARNING || !one.selectorsKnown ||
+        !CanBeActedOn(channel, made.reach)) {
+      continue;
+    }
+    AddExplanation(channel, made.reach, PlaceName(kInput, channel) + ": ",
+                   report);
   }
 }
 

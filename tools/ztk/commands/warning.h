@@ -13,11 +13,12 @@ namespace ztk::program {
 
 // Adds to the warnings what a 101 for a channel of USB input audio means: the
 // library's sentence in the user's language, or one of this program where the
-// library has none. May ask the first mixer for the state of its port.
+// library has none. Of several mixers it names those that are meant. Nothing is
+// added without a mixer, and for a channel without a selector. May ask the
+// mixers for the state of their ports and selectors.
 void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
 
-// The same for each of the changes that was answered so; nothing without a
-// mixer.
+// The same for each of the changes that was answered so.
 void ExplainWarnings(const MadeChanges &made, Report *report);
 
 // The channels that have a selector, and so a warning: the first ones.

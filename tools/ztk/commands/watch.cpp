@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -6,6 +7,7 @@
 
 #include "cli/terminal.h"
 #include "ztk/commands/other_commands.h"
+#include "ztk/model/plugged_mixers.h"
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 #include "ztk/output.h"
@@ -19,7 +21,49 @@ namespace {
 struct Watcher {
   bool json = false;
   int writeError = 0;
+  PluggedMixers mixers;
 };
+Watcher *theWatcher = nullptr;
+
+// Nobody reads the other end of the pipe any more.
+void EndWith(int error) {
+  theWatcher->writeError = error;
+  StopLoop();
+}
+
+std::string PluggingLine(const Plugging &plugging) {
+  const std::size_t count = theWatcher->mixers.count();
+  if (!theWatcher->json) {
+    return "Mixer at port " + plugging.place +
+           (plugging.attached ? ": plugged in, " : ": gone, ") +
+           std::to_string(count) +
+           (count == 1 ? " mixer is attached\n" : " mixers are attached\n");
+  }
+  Report report;
+  report.fields["event"] = plugging.attached ? "attached" : "gone";
+  report.fields["port"] = plugging.place;
+  report.fields["found"] = count;
+  // A reader of changes finds that none of its settings has changed.
+  for (const char *name :
+       {"setting", "model", "channel", "number", "text", "value"}) {
+    report.fields[name] = nullptr;
+  }
+  return JsonLine("watch", report) + "\n";
+}
+
+// A closed pipe is only noticed when something is written; here it is asked
+// for.
+bool OutputIsClosed() {
+  pollfd output{.fd = STDOUT_FILENO, .events = 0, .revents = 0};
+  return poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;
+}
+
+void LookAtMixers() {
+  for (const Plugging &plugging : theWatcher->mixers.Look()) {
+    if (!WriteOutput(PluggingLine(plugging))) return EndWith(errno);
+  }
+  if (OutputIsClosed()) EndWith(EPIPE);
+}
 
 // One for each setting: the context of its callback.
 struct Listener {
@@ -62,9 +106,7 @@ std::string ChangeLine(const Listener &listener, std::int32_t channel,
 void OnChange(std::int32_t channel, std::int32_t index,
               void *context) noexcept {
   const auto *listener = static_cast<const Listener *>(context);
-  if (WriteOutput(ChangeLine(*listener, channel, index))) return;
-  listener->watcher->writeError = errno;
-  StopLoop();
+  if (!WriteOutput(ChangeLine(*listener, channel, index))) EndWith(errno);
 }
 
 void OnIndexChange(std::int32_t index, void *context) noexcept {
@@ -81,7 +123,9 @@ Report Watch(const Arguments &arguments) {
                   "--quiet would hide the changes that ztk watch shows; leave "
                   "it out");
   }
-  Watcher watcher{.json = arguments.Has(Parameter::kJson), .writeError = 0};
+  Watcher watcher{
+      .json = arguments.Has(Parameter::kJson), .writeError = 0, .mixers = {}};
+  theWatcher = &watcher;
   Listener input{.watcher = &watcher, .setting = &kInput};
   Listener output{.watcher = &watcher, .setting = &kOutput};
   Listener boost{.watcher = &watcher, .setting = &kBoost};
@@ -91,7 +135,7 @@ Report Watch(const Arguments &arguments) {
   ZTK_RegisterBoostLevelChangedCallback(kBoost.product, OnIndexChange, &boost);
   ZTK_RegisterMidiChannelChangedCallback(kMidi.product, OnIndexChange, &midi);
 
-  const LoopEnd end = RunLoop(SayReady);
+  const LoopEnd end = RunLoop(SayReady, LookAtMixers);
   Report report;
   report.written = true;
   if (end == LoopEnd::Interrupted && cli::IsTerminal(STDERR_FILENO)) {
@@ -109,7 +153,7 @@ Report Watch(const Arguments &arguments) {
                       .message =
                           "a library that hears changes cannot be "
                           "loaded; ztk doctor tells which"};
-  } else if (end == LoopEnd::Stopped) {
+  } else if (end == LoopEnd::Stopped && watcher.writeError != EPIPE) {
     report.problem = {.exit = ExitCode::Failed,
                       .message = std::string("cannot write the output: ") +
                                  std::strerror(watcher.writeError)};

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/diagnosis.h"
 
-#include "ztk/model/reach.h"
+#include <algorithm>
+
+#include "ztk/model/mixer_status.h"
 #include "ztk/model/settings.h"
+#include "ztk/model/silence.h"
 
 namespace ztk::model {
 
@@ -18,33 +21,62 @@ Finding ExplainUnanswered(const Mixer &mixer, const std::string &place) {
   const bool silent = mixer.state == MixerState::Silent;
   return {.id = silent ? "silent" : "refusing",
           .what = mixer.message,
-          .cause = silent ? "it is attached and may be opened, but it is still "
-                            "starting or hangs; this starts it anew, as "
-                            "switching it off and on does"
-                          : "it is attached and may be opened, but something "
-                            "in it fails; this starts it anew, as switching "
-                            "it off and on does",
+          .cause = std::string("it is attached and may be opened, but ") +
+                   (silent ? "it is still starting or hangs"
+                           : "something in it fails") +
+                   "; switch it off and on again, or type what does the same",
           .command = RestartCommand(place)};
+}
+
+Finding ExplainSilence(const SilentRouting &routing, bool namesMixer) {
+  // The signal behind the fader does not depend on the selector.
+  constexpr int kBehindFader = 3;
+  return {.id = "channel-silent",
+          .what = Described(routing, namesMixer),
+          .cause =
+              "turn the selector on the mixer to that position, or record "
+              "the signal after the fader",
+          .command = "ztk input set " + std::to_string(routing.channel + 1) +
+                     " " + std::to_string(kBehindFader),
+          .isNote = true};
+}
+
+// Mixers that were attached and are not any more.
+Findings FindGone(const std::vector<std::string> &places,
+                  const std::vector<MixerStatus> &mixers) {
+  Findings findings;
+  int number = 0;
+  for (const std::string &place : places) {
+    ++number;
+    const bool isHere = std::any_of(
+        mixers.begin(), mixers.end(),
+        [&place](const MixerStatus &mixer) { return mixer.place == place; });
+    if (isHere) continue;
+    findings.push_back(ExplainUnanswered(
+        Unanswering(number, platform::usb::kNoDevice), place));
+  }
+  return findings;
 }
 
 // Asks every mixer that can be opened.
 Findings CheckMixers(std::string *good) {
   const std::vector<std::string> places = MixerPlaces();
   if (places.empty()) return {ExplainNoMixer()};
-  Findings findings;
-  const Reach reach = AskMixers(places);
-  for (const Mixer &mixer : reach.mixers) {
-    const std::string &place =
-        places[static_cast<std::size_t>(mixer.number - 1)];
-    if (mixer.state == MixerState::Answered) continue;
-    findings.push_back(mixer.state == MixerState::NotOpened
-                           ? ExplainUnopened(mixer.number, place)
-                           : ExplainUnanswered(mixer, place));
+  const std::vector<MixerStatus> mixers = AskEveryMixer();
+  Findings findings = FindGone(places, mixers);
+  for (const MixerStatus &one : mixers) {
+    if (one.mixer.state == MixerState::NotOpened) {
+      findings.push_back(ExplainUnopened(one.mixer.number, one.place));
+    } else if (!one.works() && one.failure) {
+      findings.push_back(ExplainUnanswered(*one.failure, one.place));
+    }
   }
-  const std::size_t count = reach.found();
-  *good = count == 1
-              ? "1 mixer is attached and answers"
-              : std::to_string(count) + " mixers are attached and answer";
+  for (const SilentRouting &routing : FindSilentRoutings(mixers)) {
+    findings.push_back(ExplainSilence(routing, mixers.size() > 1));
+  }
+  *good = mixers.size() == 1 ? "1 mixer is attached and answers"
+                             : std::to_string(mixers.size()) +
+                                   " mixers are attached and answer";
   return findings;
 }
 

@@ -43,6 +43,13 @@ std::string KeyOf(const Setting &setting, std::uint32_t channel) {
   return Utf8(key.get());
 }
 
+// "USB input 2: 3 Post CH2 Fader"
+std::string Named(const Setting &setting, std::uint32_t channel,
+                  std::uint32_t index) {
+  return PlaceName(setting, channel) + ": " +
+         DescribedValue(setting, channel, index);
+}
+
 }  // namespace
 
 Plan::Plan() {
@@ -54,16 +61,16 @@ Plan::Plan() {
   }
 }
 
-void Plan::AddToEach(const Setup &setup) {
+void Plan::AddToEach(const Setup &setup, const std::string &meaning) {
   for (const int mixer : mixers_) {
-    requests_.push_back({.mixer = mixer, .setup = setup});
+    requests_.push_back({.mixer = mixer, .setup = setup, .meaning = meaning});
   }
 }
 
 void Plan::AddWriteRequest(const Setting &setting, std::uint32_t channel,
                            std::uint32_t index) {
-  AddToEach(
-      Writing(setting.writeRegister, setting.deviceValue(channel, index)));
+  AddToEach(Writing(setting.writeRegister, setting.deviceValue(channel, index)),
+            Named(setting, channel, index));
 }
 
 // The last channel has no selector: where a choice needs one, the library stops
@@ -72,16 +79,21 @@ void Plan::AddSelectors(const Setting &setting, bool stops) {
   if (setting.selectorLength == 0) return;
   const Setup setup =
       Reading(usb::kInputSelectorRegister, setting.selectorLength);
-  if (!stops) return AddToEach(setup);
+  constexpr char kMeaning[] = "read the input selectors";
+  if (!stops) return AddToEach(setup, kMeaning);
   if (mixers_.empty()) return;
-  requests_.push_back({.mixer = mixers_.front(), .setup = setup});
+  requests_.push_back(
+      {.mixer = mixers_.front(), .setup = setup, .meaning = kMeaning});
 }
 
 void Plan::AddAnnouncement(const Change &change) {
   const notify::AnnouncedSetting &notice = *change.setting->notice;
   const Made name(
       platform::text::Format(notice.nameFormat, notice.postedModel));
-  PlannedAnnouncement planned{.name = Utf8(name.get()), .numbers = {}};
+  PlannedAnnouncement planned{
+      .name = Utf8(name.get()),
+      .numbers = {},
+      .meaning = Named(*change.setting, change.channel, change.index)};
   planned.numbers.emplace_back(Utf8(notify::kProductKey), change.product);
   if (change.setting->channels != 0) {
     planned.numbers.emplace_back(Utf8(notify::kChannelKey), change.channel);
@@ -90,19 +102,31 @@ void Plan::AddAnnouncement(const Change &change) {
   announcements_.push_back(std::move(planned));
 }
 
+void Plan::AddWrite(const Setting &setting, std::uint32_t channel,
+                    std::optional<std::uint32_t> after) {
+  const Made file(store::MakePath(setting.model));
+  writes_.push_back({.file = Utf8(file.get()),
+                     .key = KeyOf(setting, channel),
+                     .setting = &setting,
+                     .channel = channel,
+                     .before = Remembered(setting, channel),
+                     .after = after});
+}
+
 void Plan::AddChange(const Change &change) {
   const Setting &setting = *change.setting;
   AddWriteRequest(setting, change.channel, change.index);
-  const Made file(store::MakePath(setting.model));
-  writes_.push_back({.file = Utf8(file.get()),
-                     .key = KeyOf(setting, change.channel),
-                     .before = Remembered(setting, change.channel),
-                     .change = change});
+  AddWrite(setting, change.channel,
+           change.forgets ? std::nullopt : std::optional(change.index));
   AddAnnouncement(change);
   AddSelectors(setting,
                &setting == &kInput &&
                    change.channel == input_audio::kLastChannel &&
                    change.index < input_audio::kIndexWarnsBelow.withMixer);
+}
+
+void Plan::AddForgetting(const Setting &setting, std::uint32_t channel) {
+  AddWrite(setting, channel, std::nullopt);
 }
 
 void Plan::AddSendingAgain(const Setting &setting, std::uint32_t channel,
@@ -122,7 +146,8 @@ void Plan::AddDefault(const Setting &setting, std::uint32_t channel) {
 void Plan::AddRaw(std::uint32_t channel, std::uint32_t high,
                   std::uint32_t source) {
   AddToEach(Writing(kInput.writeRegister,
-                    input_audio::DirectValue(channel, high, source)));
+                    input_audio::DirectValue(channel, high, source)),
+            PlaceName(kInput, channel) + ": a raw value");
   AddSelectors(kInput, channel == input_audio::kLastChannel &&
                            source < input_audio::kSourceWarnsBelow.withMixer);
 }

@@ -29,18 +29,22 @@ struct Setup {
 struct PlannedRequest {
   int mixer;  // counts from 1
   Setup setup;
+  std::string meaning;  // in the words of the settings
 };
 
 struct PlannedWrite {
   std::string file;
   std::string key;
+  const Setting *setting;
+  std::uint32_t channel;
   std::optional<std::uint32_t> before;
-  Change change;
+  std::optional<std::uint32_t> after;  // none: the key is removed
 };
 
 struct PlannedAnnouncement {
   std::string name;
   std::vector<std::pair<std::string, std::uint32_t>> numbers;
+  std::string meaning;  // in the words of the settings
 };
 
 class Plan {
@@ -50,6 +54,8 @@ class Plan {
 
   // A setter: sends, remembers, announces, and reads the selectors.
   void AddChange(const Change &change);
+  // Removes a value from its file.
+  void AddForgetting(const Setting &setting, std::uint32_t channel);
   // Sends a value again.
   void AddSendingAgain(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
@@ -68,7 +74,9 @@ class Plan {
   }
 
  private:
-  void AddToEach(const Setup &setup);
+  void AddToEach(const Setup &setup, const std::string &meaning);
+  void AddWrite(const Setting &setting, std::uint32_t channel,
+                std::optional<std::uint32_t> after);
   void AddWriteRequest(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
   void AddAnnouncement(const Change &change);

@@ -89,7 +89,7 @@ class ImportReader {
       return Json::parse(text, watch);
     } catch (const Json::parse_error &error) {
       AddError("", [&error] {
-        return "this is not JSON, at byte " + std::to_string(error.byte);
+        return "not JSON (byte " + std::to_string(error.byte) + ")";
       });
     } catch (const Json::exception &) {
       AddError("", "a number in it is too large");
@@ -105,9 +105,6 @@ class ImportReader {
     }
     for (const auto &[name, value] : json.items()) ReadEntry(name, value);
     if (!json.contains("version")) AddError("version", "it is missing");
-    if (import_.changes.empty() && import_.errorCount == 0) {
-      AddError("settings", "there is none");
-    }
   }
 
   void ReadEntry(const std::string &name, const Json &value) {
@@ -234,6 +231,26 @@ ExportedSettings ExportSettings() {
 
 ImportedSettings ParseImport(const std::string &text) {
   return ImportReader().Read(text);
+}
+
+std::vector<StoredValue> ValuesBeside(const std::vector<Change> &changes) {
+  std::vector<StoredValue> beside = AllStoredValues();
+  std::erase_if(beside, [&changes](const StoredValue &value) {
+    return std::any_of(changes.begin(), changes.end(),
+                       [&value](const Change &change) {
+                         return change.setting == value.setting &&
+                                change.channel == value.channel;
+                       });
+  });
+  return beside;
+}
+
+Change Forgetting(const StoredValue &value) {
+  return {.setting = value.setting,
+          .product = value.setting->product,
+          .channel = value.channel,
+          .index = value.setting->defaultIndex(value.channel),
+          .forgets = true};
 }
 
 }  // namespace ztk::model

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ztk/model/change.h"
+#include "ztk/model/resend.h"
 
 namespace ztk::model {
 
@@ -35,6 +36,13 @@ struct ImportedSettings {
 
 // Reads what ExportSettings() writes, and checks all of it. Sets nothing.
 ImportedSettings ParseImport(const std::string &text);
+
+// What is remembered and not named by the changes: an import leaves it as it
+// is.
+std::vector<StoredValue> ValuesBeside(const std::vector<Change> &changes);
+
+// The change that takes a value back to the time before its first choice.
+Change Forgetting(const StoredValue &value);
 
 }  // namespace ztk::model
 

@@ -41,8 +41,11 @@ class MixerReader {
       return;
     }
     fact->why = Described(code);
-    if (code == platform::usb::kTimeout || code == platform::usb::kNoDevice) {
-      status_->mixer = Unanswering(status_->mixer.number, code);
+    const Mixer failure = Unanswering(status_->mixer.number, code);
+    if (!status_->failure) status_->failure = failure;
+    if (failure.state == MixerState::Silent ||
+        failure.state == MixerState::Gone) {
+      status_->mixer = failure;
     }
   }
 
@@ -93,6 +96,7 @@ MixerStatus AskMixer(std::size_t position, const std::string &place,
                                .state = MixerState::Answered,
                                .reason = {},
                                .message = {}},
+                     .failure = std::nullopt,
                      .place = place,
                      .firmware = {},
                      .certificationLevel = {},
@@ -101,6 +105,7 @@ MixerStatus AskMixer(std::size_t position, const std::string &place,
   const usb::OpenMixer mixer(static_cast<std::int32_t>(position));
   if (!mixer) {
     status.mixer = Unopened(number, place);
+    status.failure = status.mixer;
     return status;
   }
   MixerReader reader(mixer.connection(), &status);

@@ -31,6 +31,8 @@ struct MixerStatus {
   // Answered unless it could not be opened, has gone or did not answer; a mixer
   // that refuses a single question counts as answering.
   Mixer mixer;
+  // The first question that failed, and how; none where all were answered.
+  std::optional<Mixer> failure;
   std::string place;  // the system's name of the port, as "1-2"
   MixerFact<std::uint16_t> firmware;
   MixerFact<std::uint32_t> certificationLevel;
@@ -38,6 +40,9 @@ struct MixerStatus {
   MixerFact<bool> seratoActive;
 
   bool answers() const { return mixer.state == MixerState::Answered; }
+  // Whether it answers what every mixer answers. Single questions may be
+  // unknown to it.
+  bool works() const { return answers() && firmware.value.has_value(); }
 };
 
 // All mixers that are attached, in the order of the bus, asked at the same

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/products.h"
 
+#include <algorithm>
+
 #include "api/product.h"
 #include "cli/strings.h"
 #include "ztk/system/library_text.h"
+#include "ztk/system/places.h"
+#include "ztk/system/usb_devices.h"
 
 namespace ztk::model {
 
@@ -63,6 +67,23 @@ std::optional<std::uint32_t> FindProduct(const std::string &word) {
       word, [&id](ZTKTextRef name) { return ZTK_GetProductId(name, &id); });
   if (result != ZTK_SUCCESS) return std::nullopt;
   return id;
+}
+
+std::vector<std::uint32_t> AttachedProducts() {
+  const std::vector<std::string> places = MixerPlaces();
+  std::vector<std::uint32_t> products;
+  if (places.empty()) return products;
+  for (const UsbDevice &device : UsbDevices()) {
+    if (std::find(places.begin(), places.end(), device.place) == places.end()) {
+      continue;
+    }
+    const Product *product = FindTyped(device.product);
+    if (product != nullptr && std::find(products.begin(), products.end(),
+                                        product->id) == products.end()) {
+      products.push_back(product->id);
+    }
+  }
+  return products;
 }
 
 std::string ProductName(std::uint32_t product) {

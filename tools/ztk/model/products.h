@@ -29,6 +29,10 @@ const std::vector<Product> &Products();
 // where it is neither.
 std::optional<std::uint32_t> FindProduct(const std::string &word);
 
+// The models that the attached mixers call themselves, each once. A mixer that
+// does not name a model that the library knows is left out.
+std::vector<std::uint32_t> AttachedProducts();
+
 // The name of a model; its number where there is no such model.
 std::string ProductName(std::uint32_t product);
 

@@ -19,11 +19,23 @@ bool BelongsToItsChannel(const StoredValue &value) {
 std::vector<StoredValue> StoredValues(
     const Setting &setting, const std::vector<std::uint32_t> &channels) {
   std::vector<StoredValue> values;
+  SettingsSnapshot remembered;
   for (const std::uint32_t channel : channels) {
-    const auto index = Remembered(setting, channel);
+    const auto index = remembered.Remembered(setting, channel);
     if (!index) continue;
     values.push_back(
         {.setting = &setting, .channel = channel, .index = *index});
+  }
+  return values;
+}
+
+std::vector<StoredValue> AllStoredValues() {
+  std::vector<StoredValue> values;
+  for (const Setting *setting : AllSettings()) {
+    for (const StoredValue &value :
+         StoredValues(*setting, AllChannels(*setting))) {
+      values.push_back(value);
+    }
   }
   return values;
 }

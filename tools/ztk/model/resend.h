@@ -27,6 +27,9 @@ struct StoredValue {
 std::vector<StoredValue> StoredValues(
     const Setting &setting, const std::vector<std::uint32_t> &channels);
 
+// Every value that is remembered, for all models.
+std::vector<StoredValue> AllStoredValues();
+
 // Whether the library would refuse to send it. Sends nothing.
 bool WouldBeRefused(const StoredValue &value);
 

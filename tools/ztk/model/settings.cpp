@@ -182,6 +182,15 @@ std::uint32_t ChannelsToWalk(const Setting &setting) {
   return setting.channels == 0 ? 1 : setting.channels;
 }
 
+std::vector<std::uint32_t> AllChannels(const Setting &setting) {
+  std::vector<std::uint32_t> all;
+  for (std::uint32_t channel = 0; channel < ChannelsToWalk(setting);
+       ++channel) {
+    all.push_back(channel);
+  }
+  return all;
+}
+
 std::string ModelName(const Setting &setting) { return Utf8(setting.model); }
 
 std::vector<std::string> ModelNames() {

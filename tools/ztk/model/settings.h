@@ -69,6 +69,9 @@ std::span<const Setting *const> AllSettings();
 // The channels to walk: one, 0, where the setting has none.
 std::uint32_t ChannelsToWalk(const Setting &setting);
 
+// The same as a list, from 0.
+std::vector<std::uint32_t> AllChannels(const Setting &setting);
+
 // "VRM-B5": the model that the setting belongs to.
 std::string ModelName(const Setting &setting);
 

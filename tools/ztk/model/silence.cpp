@@ -32,4 +32,14 @@ std::vector<SilentRouting> FindSilentRoutings(
   return silent;
 }
 
+std::string Described(const SilentRouting &routing, bool namesMixer) {
+  const std::string needed = std::to_string(input_audio::kAudiblePosition);
+  return PlaceName(kInput, routing.channel) + " is silent: the input selector" +
+         (namesMixer ? " of mixer " + std::to_string(routing.mixer) : "") +
+         " for CH" + std::to_string(routing.channel + 1) + " is in position " +
+         std::to_string(routing.position) + ", and " +
+         DescribedValue(kInput, routing.channel, routing.index) +
+         " needs position " + needed;
+}
+
 }  // namespace ztk::model

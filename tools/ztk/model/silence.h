@@ -5,6 +5,7 @@
 #define ZTK_TOOLS_ZTK_MODEL_SILENCE_H_
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "ztk/model/mixer_status.h"
@@ -24,6 +25,11 @@ struct SilentRouting {
 // selectors are passed over.
 std::vector<SilentRouting> FindSilentRoutings(
     const std::vector<MixerStatus> &mixers);
+
+// "USB input 1 is silent: the input selector for CH1 is in position 3, and 1
+// CH1 Control Tone PHONO needs position 4". Names the mixer where there are
+// others.
+std::string Described(const SilentRouting &routing, bool namesMixer);
 
 // Whether the choice depends on the input selector of its channel.
 bool NeedsSelector(std::uint32_t channel, std::uint32_t index);

@@ -90,7 +90,9 @@ bool IsVoid(const Step &step) {
 
 std::size_t DropVoidSteps(History *history) {
   std::size_t dropped = 0;
-  while (!history->steps().empty() && IsVoid(history->steps().back())) {
+  while (!history->steps().empty() &&
+         WhyUnreadable(history->steps().back()).empty() &&
+         IsVoid(history->steps().back())) {
     history->DropLast();
     ++dropped;
   }

@@ -41,7 +41,8 @@ std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
 // interrupted or somebody has put all of it back.
 bool IsVoid(const Step &step);
 
-// Removes the last steps of the history that are void. Returns how many.
+// Removes the last steps of the history that are void, as far as the settings
+// files can be read. Returns how many.
 std::size_t DropVoidSteps(History *history);
 
 // The changes that put back what is to be put back. Where nothing was

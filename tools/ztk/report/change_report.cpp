@@ -1,16 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/report/change_report.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 
+#include "cli/terminal.h"
 #include "platform/paths.h"
 #include "platform/text.h"
-#include "ztk/progress.h"
+#include "ztk/output.h"
+#include "ztk/report/setting_report.h"
 #include "ztk/system/library_text.h"
 
 namespace ztk::program {
 
 namespace {
+
+constexpr char kSwitchOffAndOn[] = "switch it off and on again, then ";
 
 std::string InNumbers(std::size_t part, std::size_t all) {
   if (part == all)
@@ -18,10 +24,48 @@ std::string InNumbers(std::size_t part, std::size_t all) {
   return std::to_string(part) + " of " + std::to_string(all) + " mixers";
 }
 
-bool AllRefused(const Reach &reach) {
+bool All(const Reach &reach, MixerState state) {
   return std::all_of(
       reach.mixers.begin(), reach.mixers.end(),
-      [](const Mixer &mixer) { return mixer.state == MixerState::Refused; });
+      [state](const Mixer &mixer) { return mixer.state == state; });
+}
+
+// Why nothing has arrived, as the rest of a sentence, and what to do first.
+struct Obstruction {
+  std::string why;
+  std::string remedy;
+};
+
+Obstruction ObstructionOf(const Mixer &mixer) {
+  switch (mixer.state) {
+    case MixerState::Silent:
+      return {.why = "the mixer did not answer", .remedy = kSwitchOffAndOn};
+    case MixerState::Refused:
+      return {.why = "the mixer refused it", .remedy = kSwitchOffAndOn};
+    case MixerState::Gone:
+      return {.why = "the mixer was unplugged or switched off",
+              .remedy = "once it is back, "};
+    case MixerState::NotOpened:
+      return {.why = "not sent: " + mixer.message, .remedy = "then "};
+    case MixerState::Answered:
+    case MixerState::Failed:
+      break;
+  }
+  return {.why = mixer.message, .remedy = ""};
+}
+
+Obstruction ObstructionOf(const Reach &reach) {
+  if (reach.found() == 0) {
+    return {.why = "not sent: no mixer is attached", .remedy = "once one is, "};
+  }
+  if (reach.found() == 1) return ObstructionOf(reach.mixers.front());
+  const std::string none =
+      "none of " + std::to_string(reach.found()) + " mixers ";
+  if (All(reach, MixerState::Refused)) {
+    return {.why = none + "accepted it", .remedy = "once they do, "};
+  }
+  return {.why = (reach.opened() == 0 ? "not sent: " : "") + none + "answered",
+          .remedy = "once they do, "};
 }
 
 // Why the first change that is not stored is not.
@@ -44,32 +88,59 @@ void ReportForgotten(const MadeChanges &made, const std::string &what,
   const std::string remedy = WhyNotStored(made) +
                              "; make sure that you can write to " +
                              SettingsFolder();
-  ReportReach(made.reach,
-              {.notSent = what + " is neither sent nor remembered",
-               .notAnswered = what + " is sent, but not answered, and not "
-                                     "remembered",
-               .remedy = remedy,
-               .someMissing = "once the others do, set it again"},
-              report);
+  ReportReach(made.reach, {.before = "", .again = "set it again"}, report);
   if (made.reach.answered() == 0) {
-    report->problem->exit = ExitCode::Failed;
+    report->problem = {.exit = ExitCode::Failed,
+                       .message = what + " is not remembered: " + remedy +
+                                  "; and " + ObstructionOf(made.reach).why};
     return;
   }
   if (report->problem) report->warnings.push_back(report->problem->message);
-  const bool none =
-      std::none_of(made.changes.begin(), made.changes.end(),
-                   [](const MadeChange &change) { return change.remembered; });
-  report->problem = {.exit = ExitCode::NotRemembered,
-                     .message = what + " is " + Described(made.reach) +
-                                (none ? ", but not remembered: "
-                                      : ", but not all is remembered: ") +
-                                remedy};
+  const bool none = std::none_of(made.changes.begin(), made.changes.end(),
+                                 [](const MadeChange &change) {
+                                   return change.remembered || change.forgotten;
+                                 });
+  report->problem = {
+      .exit = ExitCode::NotRemembered,
+      .message = what +
+                 (none ? " is not remembered: " : ": not all is remembered: ") +
+                 remedy};
+}
+
+void ReportAnnouncements(const MadeChanges &made, Report *report) {
+  const bool failed = std::any_of(
+      made.changes.begin(), made.changes.end(),
+      [](const MadeChange &change) { return change.announcementFailed; });
+  if (failed) WarnOfFailedAnnouncement(report);
+}
+
+void ReportReplacedFile(const MadeChanges &made, Report *report) {
+  const auto replaced = std::find_if(
+      made.changes.begin(), made.changes.end(),
+      [](const MadeChange &change) { return !change.oldFileKept.empty(); });
+  if (replaced == made.changes.end()) return;
+  report->warnings.push_back("the settings file " + replaced->oldFileKept +
+                             "; it is kept in " + SettingsFolder() +
+                             " under a name with \".unreadable\"");
 }
 
 }  // namespace
 
+Progress WaitForChanges(const std::vector<Change> &changes,
+                        std::size_t mixers) {
+  // Each request has a second; after some changes the selectors are read.
+  std::size_t requests = 0;
+  for (const Change &change : changes) {
+    requests += change.setting->selectorLength == 0 ? 1 : 2;
+  }
+  return Progress(mixers < 2
+                      ? kWaitingForMixer
+                      : "Waiting for " + std::to_string(mixers) + " mixers",
+                  static_cast<int>(requests * mixers));
+}
+
 SharedHistory::SharedHistory() {
-  const Progress progress("Waiting for another ztk");
+  const Progress progress("Waiting for another ztk", 5);
   history_.emplace();
   if (history_->state() == History::State::Busy) {
     throw Failure(ExitCode::Failed, "nothing was done: " + history_->reason() +
@@ -78,9 +149,14 @@ SharedHistory::SharedHistory() {
 }
 
 MadeChanges RunStep(const std::string &command,
-                    const std::vector<Change> &changes, Report *report) {
+                    const std::vector<Change> &changes, bool quiet,
+                    Report *report) {
   SharedHistory history;
-  const Progress progress(kWaitingForMixer);
+  const std::size_t mixers = MixerPlaces().size();
+  if (mixers > 1 && !quiet && cli::IsTerminal(STDERR_FILENO)) {
+    WriteError("sending to " + std::to_string(mixers) + " mixers");
+  }
+  const Progress progress = WaitForChanges(changes, mixers);
   MadeStep step = MakeStep(command, changes, history.get());
   if (!step.notRecorded.empty()) {
     report->warnings.push_back("ztk undo will not know of this: " +
@@ -108,25 +184,19 @@ void ReportReach(const Reach &reach, const DeliveryTexts &texts,
   if (answered > 0) {
     report->problem = {.exit = ExitCode::SomeMixers,
                        .message = "only " + InNumbers(answered, reach.found()) +
-                                  " answered; " + texts.someMissing};
+                                  " answered; once the others do, " +
+                                  texts.again};
     return;
   }
-  std::string why = "no mixer is attached";
-  if (reach.found() == 1) why = reach.mixers.front().message;
-  if (reach.found() > 1) {
-    why = "none of " + std::to_string(reach.found()) + " mixers answered";
-  }
-  const bool sent = reach.opened() > 0;
+  const Obstruction obstruction = ObstructionOf(reach);
   report->problem = {.exit = ExitCode::NoMixer,
-                     .message = (sent ? texts.notAnswered : texts.notSent) +
-                                ": " + why + "; " + texts.remedy};
+                     .message = texts.before + obstruction.why + "; " +
+                                obstruction.remedy + texts.again};
 }
 
-std::string Described(const Reach &reach) {
-  const std::size_t answered = reach.answered();
-  if (answered > 0) return "sent to " + InNumbers(answered, reach.found());
-  if (reach.opened() == 0) return "not sent";
-  return AllRefused(reach) ? "refused by the mixer" : "sent, but not answered";
+std::string Sent(std::size_t accepted, const Reach &reach, bool others) {
+  if (accepted > 0) return ", sent to " + InNumbers(accepted, reach.found());
+  return others ? ", not accepted" : "";
 }
 
 void ReportOutcome(const MadeChanges &made, const std::string &what,
@@ -136,48 +206,35 @@ void ReportOutcome(const MadeChanges &made, const std::string &what,
                                   return change.remembered || change.forgotten;
                                 });
   if (kept) {
-    ReportReach(
-        made.reach,
-        {.notSent = what + " is remembered, but not sent",
-         .notAnswered = what + " is remembered and sent, but not answered",
-         .remedy = "once a mixer answers, run: " + again,
-         .someMissing = "once the others do, run: " + again},
-        report);
+    ReportReach(made.reach,
+                {.before = what + " is saved, but ", .again = "run: " + again},
+                report);
   } else {
     ReportForgotten(made, what, report);
   }
-  const bool announced =
-      std::all_of(made.changes.begin(), made.changes.end(),
-                  [](const MadeChange &change) { return change.announced; });
-  if (!announced) WarnOfMissingBus(report);
-  const auto replaced = std::find_if(
-      made.changes.begin(), made.changes.end(),
-      [](const MadeChange &change) { return !change.oldFileKept.empty(); });
-  if (replaced != made.changes.end()) {
-    report->warnings.push_back("the settings file " + replaced->oldFileKept +
-                               "; it is kept in " + SettingsFolder() +
-                               " under a name with \".unreadable\"");
-  }
+  ReportAnnouncements(made, report);
+  ReportReplacedFile(made, report);
 }
 
 std::string NoteOnSendingAgain(const Change &change) {
   if (IsSentAgain(*change.setting, change.index)) return "";
-  return "  ztk apply cannot send this one again; set it once more instead\n";
+  return "  " + ResendLimit(*change.setting) + "\n";
 }
 
-std::string Described(const MadeChange &change, const Reach &reach) {
-  const std::string sent =
-      change.accepted > 0
-          ? "sent to " + InNumbers(change.accepted, reach.found())
-          : Described(reach);
-  return sent + (change.forgotten    ? ""
-                 : change.remembered ? ", remembered"
-                                     : ", not remembered");
+std::string Described(const MadeChange &change, const MadeChanges &made) {
+  const bool others =
+      std::any_of(made.changes.begin(), made.changes.end(),
+                  [](const MadeChange &other) { return other.accepted > 0; });
+  const std::string sent = Sent(change.accepted, made.reach, others);
+  // Otherwise the problem says why nothing was sent, and what is saved.
+  if (sent.empty() || change.forgotten) return sent;
+  return sent + (change.remembered ? ", remembered" : ", not remembered");
 }
 
-void WarnOfMissingBus(Report *report) {
+void WarnOfFailedAnnouncement(Report *report) {
   report->warnings.emplace_back(
-      "not announced, as there is no session bus; see ztk doctor");
+      "not announced: the session's message bus does not answer; see ztk "
+      "doctor");
 }
 
 }  // namespace ztk::program

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ztk/model/history.h"
+#include "ztk/progress.h"
 #include "ztk/report.h"
 
 namespace ztk::program {
@@ -24,17 +25,22 @@ class SharedHistory {
   std::optional<History> history_;
 };
 
-// Makes the changes as one step of the history, and shows when a mixer has to
-// be waited for. Adds a warning where undo will not know of the step.
-MadeChanges RunStep(const std::string &command,
-                    const std::vector<Change> &changes, Report *report);
+// Shows while it lives what is waited for, and how long at most.
+Progress WaitForChanges(const std::vector<Change> &changes, std::size_t mixers);
 
-// What became of a setting, as parts of a sentence.
+// Makes the changes as one step of the history, and shows when a mixer has to
+// be waited for. Of several mixers it says in a terminal how many they are,
+// unless `quiet`. Adds a warning where undo will not know of the step.
+MadeChanges RunStep(const std::string &command,
+                    const std::vector<Change> &changes, bool quiet,
+                    Report *report);
+
+// What is said where not every mixer has accepted what was sent, as parts of a
+// sentence: "Boost level is saved, but" the mixer did not answer; switch it off
+// and on again, then "run: ztk boost apply".
 struct DeliveryTexts {
-  std::string notSent;      // where nothing could be sent
-  std::string notAnswered;  // where it was, but no mixer has answered
-  std::string remedy;       // what to do in both cases
-  std::string someMissing;  // what to do once the others are back
+  std::string before;  // what stands before the reason, with its space
+  std::string again;   // what to do to send it again
 };
 
 // Adds how many mixers were found and how many answered, a warning for each
@@ -51,15 +57,16 @@ void ReportOutcome(const MadeChanges &made, const std::string &what,
 // A line for a choice that the library will not send again, empty for others.
 std::string NoteOnSendingAgain(const Change &change);
 
-// "sent to 2 mixers", "sent to 1 of 2 mixers", "sent, but not answered",
-// "not sent"
-std::string Described(const Reach &reach);
+// ", sent to 2 mixers", ", sent to 1 of 2 mixers". Where no mixer has accepted
+// it: ", not accepted" if `others` were, else nothing, as the problem says why.
+std::string Sent(std::size_t accepted, const Reach &reach, bool others);
 
-// "sent to 1 mixer, remembered"
-std::string Described(const MadeChange &change, const Reach &reach);
+// ", sent to 1 mixer, remembered", of one of these changes.
+std::string Described(const MadeChange &change, const MadeChanges &made);
 
-// After an announcement that no program could receive.
-void WarnOfMissingBus(Report *report);
+// After an announcement that the message bus has not taken. Without a bus
+// nobody is there to hear it, which is worth no warning.
+void WarnOfFailedAnnouncement(Report *report);
 
 }  // namespace ztk::program
 

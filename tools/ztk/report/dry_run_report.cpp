@@ -26,16 +26,21 @@ Json Number(const std::optional<std::uint32_t> &value) {
   return value ? Json(static_cast<std::int32_t>(*value)) : Json();
 }
 
+// Nothing is to be sent, or nobody is there to receive it.
+std::string WhyNoRequest(const Plan &plan) {
+  if (plan.mixersFound() == 0) return "  no request, as no mixer is attached\n";
+  if (plan.mixersThatCanBeOpened() == 0) {
+    return "  no request, as no mixer can be opened\n";
+  }
+  return "  no request\n";
+}
+
 void AddRequests(const Plan &plan, Report *report) {
   Json list = Json::array();
-  if (plan.requests().empty()) {
-    report->text += plan.mixersFound() == 0
-                        ? "  no request, as no mixer is attached\n"
-                        : "  no request, as no mixer can be opened\n";
-  }
-  for (const auto &[mixer, setup] : plan.requests()) {
-    report->text +=
-        "  mixer " + std::to_string(mixer) + "  " + Fields(setup) + "\n";
+  if (plan.requests().empty()) report->text += WhyNoRequest(plan);
+  for (const auto &[mixer, setup, meaning] : plan.requests()) {
+    report->text += "  mixer " + std::to_string(mixer) + "  " + meaning +
+                    "\n           " + Fields(setup) + "\n";
     list.push_back({{"mixer", mixer},
                     {"requestType", setup.type},
                     {"request", setup.request},
@@ -46,25 +51,27 @@ void AddRequests(const Plan &plan, Report *report) {
   report->fields["requests"] = std::move(list);
 }
 
+// The words for a value in a settings file.
+std::string InFile(const PlannedWrite &write,
+                   const std::optional<std::uint32_t> &value) {
+  return value ? DescribedValue(*write.setting, write.channel, *value)
+               : "nothing";
+}
+
 void AddWrites(const Plan &plan, Report *report) {
   Json list = Json::array();
   for (const PlannedWrite &write : plan.writes()) {
-    const Change &change = write.change;
-    const std::string before =
-        write.before ? std::to_string(static_cast<std::int32_t>(*write.before))
-                     : "nothing";
-    const std::string after =
-        std::to_string(static_cast<std::int32_t>(change.index));
-    report->text +=
-        "  file  " + cli::OneLine(write.file) + "\n        " + write.key +
-        ": " +
-        (before == after ? after + ", unchanged" : before + " -> " + after) +
-        " (" + DescribedValue(*change.setting, change.channel, change.index) +
-        ")\n";
+    report->text += "  file  " + cli::OneLine(write.file) + "\n        " +
+                    PlaceName(*write.setting, write.channel) + ": " +
+                    (write.before == write.after
+                         ? InFile(write, write.after) + ", unchanged"
+                         : InFile(write, write.before) + " -> " +
+                               InFile(write, write.after)) +
+                    "\n";
     list.push_back({{"file", write.file},
                     {"key", write.key},
                     {"before", Number(write.before)},
-                    {"after", Number(change.index)}});
+                    {"after", Number(write.after)}});
   }
   report->fields["writes"] = std::move(list);
 }
@@ -72,13 +79,9 @@ void AddWrites(const Plan &plan, Report *report) {
 void AddAnnouncements(const Plan &plan, Report *report) {
   Json list = Json::array();
   for (const PlannedAnnouncement &announcement : plan.announcements()) {
-    report->text += "  bus   \"" + announcement.name + "\"";
+    report->text += "  bus   " + announcement.meaning + "\n";
     Json numbers = Json::object();
-    for (const auto &[key, value] : announcement.numbers) {
-      report->text += "  " + key + " " + std::to_string(value);
-      numbers[key] = value;
-    }
-    report->text += "\n";
+    for (const auto &[key, value] : announcement.numbers) numbers[key] = value;
     list.push_back(
         {{"name", announcement.name}, {"userInfo", std::move(numbers)}});
   }

@@ -21,6 +21,13 @@ const Choice &NearestNumber(const std::string &digits,
                                                     : choices.back();
 }
 
+// Whether one of the words of the text begins so.
+bool HasWord(const std::string &text, const std::string &beginning) {
+  if (beginning.empty()) return false;
+  return (" " + cli::LowerCase(text)).find(" " + cli::LowerCase(beginning)) !=
+         std::string::npos;
+}
+
 }  // namespace
 
 std::string Belonging(const Setting &setting) {
@@ -29,13 +36,17 @@ std::string Belonging(const Setting &setting) {
 }
 
 std::string Note(const Setting &setting) {
-  std::string note = Belonging(setting);
-  if (setting.sentAgainBelow != 0) {
-    note += " Of its choices, apply sends 1 to " +
-            std::to_string(setting.sentAgainBelow) +
-            "\nagain, and no other: set another one once more instead.";
-  }
-  return note;
+  const std::string limit = ResendLimit(setting);
+  return Belonging(setting) + (limit.empty() ? "" : "\n" + limit + ".");
+}
+
+std::string ResendLimit(const Setting &setting) {
+  const std::uint32_t below = setting.sentAgainBelow;
+  if (below == 0) return "";
+  const std::size_t count = ChoicesOf(setting, setting.product, 0).size();
+  return "apply can only re-send channels 1 to " + std::to_string(below) +
+         "; for " + std::to_string(below + 1) + " to " + std::to_string(count) +
+         " use set again";
 }
 
 std::string Summary(const Setting &setting) {
@@ -57,9 +68,14 @@ std::string NearestChoice(const std::string &words,
       words.find_first_not_of("0123456789") == std::string::npos) {
     return "; nearest: " + Described(NearestNumber(words, choices));
   }
+  // One word of several choices names them all, and prefers none.
+  std::vector<Choice> containing;
   std::vector<std::string> texts;
-  texts.reserve(choices.size());
-  for (const Choice &choice : choices) texts.push_back(choice.text);
+  for (const Choice &choice : choices) {
+    if (HasWord(choice.text, words)) containing.push_back(choice);
+    texts.push_back(choice.text);
+  }
+  if (!containing.empty()) return "; nearest: " + Described(containing);
   const std::string nearest = cli::Nearest(words, texts);
   for (const Choice &choice : choices) {
     if (choice.text == nearest) return "; nearest: " + Described(choice);

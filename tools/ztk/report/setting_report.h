@@ -19,6 +19,10 @@ std::string Belonging(const Setting &setting);
 // The same, and which choices are not sent again, where some are not.
 std::string Note(const Setting &setting);
 
+// "apply can only re-send channels 1 to 4; for 5 to 16 use set again"; empty
+// where apply sends every choice.
+std::string ResendLimit(const Setting &setting);
+
 // "USB output audio of the VRM-B5: where playback goes"
 std::string Summary(const Setting &setting);
 

@@ -22,8 +22,8 @@ enum class LoopEnd : std::uint8_t {
 };
 
 // Runs the loop that delivers changes. Calls `ready` once whatever was
-// registered before is being heard.
-LoopEnd RunLoop(void (*ready)());
+// registered before is being heard, and `everySecond` about once in a second.
+LoopEnd RunLoop(void (*ready)(), void (*everySecond)());
 
 // Ends the loop from within a callback.
 void StopLoop();

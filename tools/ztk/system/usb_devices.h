@@ -7,14 +7,16 @@
 
 namespace ztk::model {
 
-// A device on the bus, without anything that tells whose it is. Both are empty
-// where the system does not tell.
+// A device on the bus, without anything that tells whose it is. A text is empty
+// where the system does not tell it.
 struct UsbDevice {
   std::string place;  // as MixerPlaces() names places
   // Two hexadecimal digits; that of the first interface where the device
   // leaves it to its interfaces.
   std::string deviceClass;
   std::string speed;  // in Mbit/s
+  // What the device calls itself, where the system tells.
+  std::string product = {};
 };
 
 // All devices, hubs and mixers included, in the order of their places. Opens

@@ -74,6 +74,14 @@ std::vector<cli::Value> ProductValues() {
   return values;
 }
 
+std::vector<cli::Value> SettingValues() {
+  std::vector<cli::Value> values;
+  for (const Setting *setting : AllSettings()) {
+    values.push_back({.word = setting->name, .meaning = setting->title});
+  }
+  return values;
+}
+
 std::vector<cli::Value> LanguageValues() {
   std::vector<cli::Value> values;
   for (const std::string &name : LanguageNames()) {

@@ -29,41 +29,80 @@ cli::Command MakeOther(const char *path, const char *summary, const char *note,
 cli::Command MakeUndo() {
   cli::Command command = MakeOther(
       "undo", "Undo the last change",
-      "Each further undo goes one command back, at most 100. A setting that\n"
-      "another program has changed since is left alone. Where nothing was\n"
-      "remembered before, the default is sent and remembered, because the\n"
-      "library cannot forget a setting. Only remembered settings can be\n"
-      "undone: raw values, defaults and apply cannot.",
-      "ztk undo", Undo);
-  command.options = {DryRunOption()};
+      "ztk keeps the last 100 changes; --list numbers them from the last one\n"
+      "backwards. A setting that another program has changed since is left\n"
+      "alone. Where nothing was remembered before, the default is sent, and\n"
+      "nothing is remembered again. Raw values, defaults and apply cannot be\n"
+      "undone.",
+      "ztk undo --list", Undo);
+  command.options = {{.names = Parameter::kSteps,
+                      .value = "",
+                      .description = "Take back the changes 1 to N of --list; "
+                                     "the last one when left out"},
+                     {.names = Parameter::kList,
+                      .value = "",
+                      .description = "List what can be undone, and do nothing"},
+                     DryRunOption()};
+  return command;
+}
+
+cli::Command MakeReset() {
+  cli::Command command = MakeOther(
+      "reset", "Forget what is remembered",
+      "The settings file does not hold it any longer. Nothing is sent: the\n"
+      "mixer keeps its settings until it is switched off.",
+      "ztk reset input 2", Reset);
+  command.options = {
+      cli::Offering({.names = Parameter::kSetting,
+                     .value = "",
+                     .description = "input, output, boost or midi; all when "
+                                    "left out"},
+                    SettingValues),
+      {.names = Parameter::kChannel,
+       .value = "",
+       .description = "Channel; all of the setting when left out"},
+      DryRunOption()};
   return command;
 }
 
 cli::Command MakeImport() {
   cli::Command command = MakeOther(
       "import", "Restore the settings in a file written by ztk export",
-      "The whole file is checked before anything is changed. Settings that\n"
-      "are not in the file are left alone.",
+      "The whole file is checked before anything is changed. What is\n"
+      "remembered and not in the file is kept, and named.",
       "ztk import club.json --dry-run", Import);
-  command.options = {{.names = Parameter::kFile,
-                      .value = "",
-                      .description = "File that ztk export has written, or - "
-                                     "for the standard input",
-                      .required = true,
-                      .fill = cli::Fill::File},
-                     DryRunOption()};
+  command.options = {
+      {.names = Parameter::kFile,
+       .value = "",
+       .description = "File that ztk export has written, or - for the standard "
+                      "input",
+       .required = true,
+       .fill = cli::Fill::File},
+      {.names = Parameter::kOnly,
+       .value = "",
+       .description = "Forget what is not in the file, and send its default"},
+      DryRunOption()};
   return command;
 }
 
 cli::Command MakeApply() {
   cli::Command command = MakeOther(
-      "apply", "Send all remembered settings of a model again",
-      "Settings without a remembered value are not sent. The model VRM-B5\n"
-      "has the USB output audio, the VRM-K2 the MIDI channel, the VRM-D6 all\n"
-      "other settings. Without --product, ztk names the models whose\n"
-      "remembered settings it has not sent.",
+      "apply", "Send all remembered settings again",
+      "Sends what is remembered for the VRM-D6; where that is nothing, what\n"
+      "is remembered for its sister models. A setting without a remembered\n"
+      "value is not sent.",
       "ztk apply", ApplyAll);
-  command.options = {ProductOption("VRM-D6"), DryRunOption()};
+  command.options = {
+      {.names = Parameter::kProduct,
+       .value = "MODEL",
+       .description = "Only what is remembered for this model",
+       .fill = cli::Fill::Values,
+       .values = [](const Arguments &,
+                    const std::string &) { return ProductValues(); }},
+      {.names = Parameter::kAll,
+       .value = "",
+       .description = "What is remembered for every model"},
+      DryRunOption()};
   return command;
 }
 
@@ -102,9 +141,16 @@ cli::Command MakeDoctor() {
 }
 
 cli::Command MakeStatus() {
-  return MakeOther("status", "Show the mixers and the remembered settings",
-                   "Mixers are numbered in the order of the bus.", "ztk status",
-                   ShowStatus);
+  cli::Command command =
+      MakeOther("status", "Show the mixers and the remembered settings",
+                "Mixers are numbered in the order of the bus. Of several, each "
+                "has one\nline with its port.",
+                "ztk status", ShowStatus);
+  command.options = {{.names = Parameter::kVerbose,
+                      .value = "",
+                      .description = "Show of several mixers all that they "
+                                     "tell"}};
+  return command;
 }
 
 cli::Command MakeExport() {
@@ -116,9 +162,9 @@ cli::Command MakeExport() {
 
 cli::Command MakeWatch() {
   return MakeOther(
-      "watch", "Show changes made by any program, until interrupted",
-      "Shows the changes that all programs of your session make. Ctrl-C ends\n"
-      "it, with exit status 0.",
+      "watch", "Show changes by any program, and mixers that come and go",
+      "Shows the changes that all programs of your session make, and mixers\n"
+      "that are plugged in or unplugged. Ctrl-C ends it, with exit status 0.",
       "ztk watch --json", Watch);
 }
 
@@ -181,6 +227,7 @@ std::vector<cli::Command> MakeCommands(const std::string &firstWord) {
   add("apply", MakeApply);
   add("autoapply", MakeAutoapplyCommands);
   add("undo", MakeUndo);
+  add("reset", MakeReset);
   add("export", MakeExport);
   add("import", MakeImport);
   add("watch", MakeWatch);

@@ -30,6 +30,7 @@ std::vector<cli::Value> ChoiceValues(const Setting &setting,
                                      const Arguments &before,
                                      const std::string &begun);
 std::vector<cli::Value> ProductValues();
+std::vector<cli::Value> SettingValues();
 std::vector<cli::Value> LanguageValues();
 
 // Parts of the table that have a source of their own.

@@ -23,11 +23,6 @@ std::string NamedValue(const StoredValue &value) {
          DescribedValue(*value.setting, value.channel, value.index);
 }
 
-// How many mixers there were is told once, at the end.
-std::string SentOrNot(const StoredValue &value, const Reach &reach) {
-  return value.accepted > 0 ? "sent" : Described(reach);
-}
-
 void AddSettingFields(const StoredValue &value, Report *report) {
   Json fields;
   fields["setting"] = value.setting->name;
@@ -37,10 +32,14 @@ void AddSettingFields(const StoredValue &value, Report *report) {
   report->fields["settings"].push_back(std::move(fields));
 }
 
-void AddSetting(const StoredValue &value, const Reach &reach, Report *report) {
+void AddSetting(const StoredValue &value, const Reach &reach, bool others,
+                Report *report) {
   AddSettingFields(value, report);
-  report->text += NamedValue(value) + ", " +
-                  (value.refused ? "refused" : SentOrNot(value, reach)) + "\n";
+  std::string sent = Sent(value.accepted, reach, others);
+  // Of one mixer it goes without saying to how many.
+  if (value.accepted > 0 && reach.found() == 1) sent = ", sent";
+  report->text +=
+      NamedValue(value) + (value.refused ? ", refused" : sent) + "\n";
 }
 
 // What to do about one that was refused.
@@ -50,8 +49,7 @@ std::string Remedy(const StoredValue &value) {
       IsSentAgain(setting, value.index)) {
     return std::string("choose another one with: ztk ") + setting.name + " set";
   }
-  return "only choices 1 to " + std::to_string(setting.sentAgainBelow) +
-         " can be sent again; to send this one, set it once more: " +
+  return ResendLimit(setting) + ": " +
          SetCommand(setting, value.channel, value.index);
 }
 
@@ -91,13 +89,14 @@ Report PlanOfApply(std::vector<StoredValue> settings) {
 void AddLeftOut(const std::vector<std::string> &models, Report *report) {
   for (const std::string &model : models) {
     report->text += "Not sent: what is remembered for the " + model +
-                    "; ztk apply --product " + model + " sends it\n";
+                    "; ztk apply --all sends it too\n";
     report->fields["leftOut"].push_back(model);
   }
 }
 
+// `command` is what the user typed, in its shortest form.
 Report Apply(std::vector<StoredValue> settings, const std::string &what,
-             const Arguments &arguments) {
+             const std::string &command, const Arguments &arguments) {
   Report report;
   report.fields["settings"] = Json::array();
   if (settings.empty()) {
@@ -110,19 +109,20 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
     const Progress progress(kWaitingForMixer);
     return SendAgain(&settings);
   }();
+  const bool any =
+      std::any_of(settings.begin(), settings.end(),
+                  [](const StoredValue &value) { return value.accepted > 0; });
   for (const StoredValue &value : settings) {
-    AddSetting(value, reach, &report);
+    AddSetting(value, reach, any, &report);
   }
   const bool allRefused =
       std::all_of(settings.begin(), settings.end(),
                   [](const StoredValue &value) { return value.refused; });
   if (!allRefused) {
-    ReportReach(reach,
-                {.notSent = "nothing was sent",
-                 .notAnswered = "all was sent, but not answered",
-                 .remedy = "what is remembered stays so; try again",
-                 .someMissing = "once the others do, run this again"},
-                &report);
+    ReportReach(
+        reach,
+        {.before = any ? "sent in part: " : "", .again = "run: " + command},
+        &report);
   }
   AddRefused(settings, &report);
   return report;
@@ -151,39 +151,78 @@ Report ApplySetting(const Setting &setting, const Arguments &arguments) {
   return Apply(StoredValues(setting, channels),
                channels.size() == 1 ? PlaceName(setting, channels.front())
                                     : setting.title,
-               arguments);
+               std::string("ztk ") + setting.name + " apply", arguments);
 }
+
+namespace {
+
+// What is remembered for the model; for every model where none is named.
+std::vector<StoredValue> ValuesOf(std::optional<std::uint32_t> product) {
+  std::vector<StoredValue> values;
+  for (const Setting *setting : AllSettings()) {
+    if (product && setting->product != *product) continue;
+    RequireReadable(*setting);
+    for (const StoredValue &value :
+         StoredValues(*setting, AllChannels(*setting))) {
+      values.push_back(value);
+    }
+  }
+  return values;
+}
+
+// Without the name of a model: the values of the VRM-D6; where it has none,
+// those of its sister models, whose owners need not name them. The models that
+// are left out are added to the list.
+std::vector<StoredValue> UsualValues(std::vector<std::string> *leftOut) {
+  std::vector<StoredValue> values = ValuesOf(std::nullopt);
+  const auto isOwn = [](const StoredValue &value) {
+    return value.setting->product == kOwnProduct;
+  };
+  if (std::none_of(values.begin(), values.end(), isOwn)) return values;
+  std::erase_if(values, [&](const StoredValue &value) {
+    if (isOwn(value)) return false;
+    const std::string model = ModelName(*value.setting);
+    if (std::find(leftOut->begin(), leftOut->end(), model) == leftOut->end()) {
+      leftOut->push_back(model);
+    }
+    return true;
+  });
+  return values;
+}
+
+void RequireSettings(std::uint32_t product) {
+  const auto settings = AllSettings();
+  if (std::any_of(settings.begin(), settings.end(),
+                  [product](const Setting *setting) {
+                    return setting->product == product;
+                  })) {
+    return;
+  }
+  throw Failure(ExitCode::Rejected,
+                "no value belongs to the " + ProductName(product) +
+                    "; those of these models are remembered: " +
+                    cli::Listed(ModelNames()));
+}
+
+}  // namespace
 
 Report ApplyAll(const Arguments &arguments) {
   const std::string *word = arguments.Find(Parameter::kProduct);
-  const std::uint32_t product =
-      word == nullptr ? kOwnProduct : ParseProduct(*word);
-  std::vector<StoredValue> settings;
+  const bool all = arguments.Has(Parameter::kAll);
+  if (word != nullptr && all) {
+    throw Failure(ExitCode::Usage,
+                  "--all and --product exclude each other; leave one out");
+  }
+  if (word != nullptr) {
+    const std::uint32_t product = ParseProduct(*word);
+    RequireSettings(product);
+    return Apply(ValuesOf(product), "the " + ProductName(product),
+                 "ztk apply --product " + ProductName(product), arguments);
+  }
   std::vector<std::string> leftOut;
-  bool known = false;
-  for (const Setting *setting : AllSettings()) {
-    const std::string model = ModelName(*setting);
-    if (setting->product != product) {
-      if (word == nullptr &&
-          !StoredValues(*setting, ChannelsFor(*setting, {})).empty())
-        leftOut.push_back(model);
-      continue;
-    }
-    known = true;
-    RequireReadable(*setting);
-    for (const StoredValue &value :
-         StoredValues(*setting, ChannelsFor(*setting, {}))) {
-      settings.push_back(value);
-    }
-  }
-  if (!known) {
-    throw Failure(ExitCode::Rejected,
-                  "no value belongs to the " + ProductName(product) +
-                      "; those of these models are remembered: " +
-                      cli::Listed(ModelNames()));
-  }
   Report report =
-      Apply(std::move(settings), "the " + ProductName(product), arguments);
+      Apply(all ? ValuesOf(std::nullopt) : UsualValues(&leftOut), "any model",
+            all ? "ztk apply --all" : "ztk apply", arguments);
   AddLeftOut(leftOut, &report);
   return report;
 }

@@ -1,11 +1,43 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/commands/setting/setting_commands.h"
 
+#include <algorithm>
+
 #include "ztk/commands/setting/setting_parts.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
+#include "ztk/model/silence.h"
+#include "ztk/progress.h"
+#include "ztk/report/silence_report.h"
 
 namespace ztk::program {
+
+namespace {
+
+// Asks the mixers only where the answer depends on their input selectors.
+void AddSilenceOf(const std::vector<std::uint32_t> &channels, Report *report) {
+  const auto isAsked = [&channels](std::uint32_t channel) {
+    return std::find(channels.begin(), channels.end(), channel) !=
+           channels.end();
+  };
+  const bool depends =
+      std::any_of(channels.begin(), channels.end(), [](std::uint32_t channel) {
+        const auto index = CurrentIndex(kInput, kInput.product, channel);
+        return index && NeedsSelector(channel, *index);
+      });
+  std::vector<MixerStatus> mixers;
+  if (depends) {
+    const Progress progress(kWaitingForMixer, kLongestQuestion);
+    mixers = AskForSelectors();
+  }
+  std::vector<SilentRouting> silent = FindSilentRoutings(mixers);
+  std::erase_if(silent, [&isAsked](const SilentRouting &routing) {
+    return !isAsked(routing.channel);
+  });
+  AddSilence(silent, mixers.size() > 1, report);
+}
+
+}  // namespace
 
 Report GetRemembered(const Setting &setting, const Arguments &arguments) {
   const std::uint32_t product = ProductFor(setting, arguments);
@@ -14,7 +46,8 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
   report.fields["channels"] = Json::array();
   report.text = Belonging(setting) + "\n";
   const std::string why = WarnOfUnreadable(setting, &report);
-  for (const std::uint32_t channel : ChannelsFor(setting, arguments)) {
+  const std::vector<std::uint32_t> channels = ChannelsFor(setting, arguments);
+  for (const std::uint32_t channel : channels) {
     const auto index = CurrentIndex(setting, product, channel);
     if (!index) {
       throw Failure(ExitCode::Rejected,
@@ -32,6 +65,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
                     : why.empty() ? " (default; nothing remembered)\n"
                                   : " (default; the file cannot be read)\n");
   }
+  if (&setting == &kInput) AddSilenceOf(channels, &report);
   return report;
 }
 

@@ -83,14 +83,11 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
   AddSettingNames(setting, product, &report);
   AddRawFields(setting, raw, &report);
   report.fields["result"] = result;
-  report.text = PlaceName(setting, channel) + ": " + raw.InWords() + ", " +
-                Described(calls.reach()) + ", not remembered\n";
-  ReportReach(calls.reach(), NeverRemembered("the value", "ztk input raw"),
-              &report);
-  // The same sentence again; this value never is.
-  if (result == ZTK_WARNING && calls.reach().found() > 0) {
-    ExplainWarning(channel, calls.reach(), &report);
-  }
+  report.text = PlaceName(setting, channel) + ": " + raw.InWords() +
+                Sent(calls.acceptedLast(), calls.reach(), false) +
+                ", not remembered\n";
+  ReportReach(calls.reach(), NeverRemembered("ztk input raw"), &report);
+  if (result == ZTK_WARNING) ExplainWarning(channel, calls.reach(), &report);
   return report;
 }
 

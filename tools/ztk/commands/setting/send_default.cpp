@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/commands/setting/setting_commands.h"
 
+#include <algorithm>
+
 #include "ztk/commands/setting/setting_parts.h"
 #include "ztk/progress.h"
 #include "ztk/report/dry_run_report.h"
@@ -36,30 +38,38 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
   RecordedCalls calls;
   ZTKResult result = ZTK_SUCCESS;
   bool announced = true;
+  bool announcementFailed = false;
+  std::vector<std::size_t> accepted;
   {
     const Progress progress(kWaitingForMixer);
     for (const std::uint32_t channel : channels) {
       result = calls.Call(
           [&] { return ZTK_SetUSBOutputAudioDefault(product, channel); });
-      announced = announced &&
-                  calls.last().announcement.result == ZTK_ANNOUNCEMENT_SENT;
+      const std::uint32_t announcement = calls.last().announcement.result;
+      announced = announced && announcement == ZTK_ANNOUNCEMENT_SENT;
+      announcementFailed =
+          announcementFailed || announcement == ZTK_ANNOUNCEMENT_FAILED;
+      accepted.push_back(calls.acceptedLast());
     }
   }
   if (result != ZTK_SUCCESS) ThrowRejected(setting, product, "the default");
-  for (const std::uint32_t channel : channels) {
+  const bool any = std::any_of(accepted.begin(), accepted.end(),
+                               [](std::size_t count) { return count > 0; });
+  for (std::size_t i = 0; i < channels.size(); ++i) {
+    const std::uint32_t channel = channels[i];
     // The default of a channel is the choice with its own number.
     Json fields;
     AddValueFields(setting, channel, channel, &fields);
     report.fields["channels"].push_back(std::move(fields));
     report.text += PlaceName(setting, channel) + ": default " +
-                   DescribedValue(setting, channel, channel) + ", " +
-                   Described(calls.reach()) + ", not remembered\n";
+                   DescribedValue(setting, channel, channel) +
+                   Sent(accepted[i], calls.reach(), any) + ", not remembered\n";
   }
   report.fields["result"] = result;
   report.fields["announced"] = announced;
-  ReportReach(calls.reach(),
-              NeverRemembered("the default", "ztk output default"), &report);
-  if (!announced) WarnOfMissingBus(&report);
+  ReportReach(calls.reach(), NeverRemembered("ztk output default"), &report);
+  WarnOfOtherModel(setting, calls.reach(), &report);
+  if (announcementFailed) WarnOfFailedAnnouncement(&report);
   return report;
 }
 

@@ -68,8 +68,8 @@ Report SetChoice(const Setting &setting, const Arguments &arguments) {
   if (arguments.Has(Parameter::kDryRun)) return PlanOfSet(wanted, choice);
 
   Report report;
-  const MadeChanges made =
-      RunStep(std::string(setting.name) + " set", {wanted}, &report);
+  const MadeChanges made = RunStep(std::string(setting.name) + " set", {wanted},
+                                   arguments.Has(Parameter::kQuiet), &report);
   const MadeChange &change = made.changes.front();
   if (change.result == ZTK_REJECTED) {
     ThrowRejected(setting, product, cli::Quoted(choice.text));
@@ -84,14 +84,10 @@ Report SetChoice(const Setting &setting, const Arguments &arguments) {
                     ? std::string("ztk ") + setting.name + " apply"
                     : SetCommand(setting, channel, wanted.index),
                 &report);
-  report.text = place + ": " + Described(choice) + ", " +
-                Described(change, made.reach) + "\n" +
-                NoteOnSendingAgain(wanted);
-  // The sentence for no mixer says that the setting has been saved, the other
-  // one where the selector is: each is shown only where that is known.
-  const bool known =
-      made.reach.found() == 0 ? change.remembered : change.selectorsKnown;
-  if (change.result == ZTK_WARNING && known) {
+  report.text = place + ": " + Described(choice) + Described(change, made) +
+                "\n" + NoteOnSendingAgain(wanted);
+  WarnOfOtherModel(setting, made.reach, &report);
+  if (change.result == ZTK_WARNING && change.selectorsKnown) {
     ExplainWarning(channel, made.reach, &report);
   }
   return report;

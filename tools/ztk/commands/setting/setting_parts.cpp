@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/commands/setting/setting_parts.h"
 
+#include <algorithm>
+
 #include "cli/strings.h"
 #include "cli/suggest.h"
 #include "ztk/commands/setting/pick.h"
@@ -41,12 +43,7 @@ std::optional<std::uint32_t> ChannelFor(const Setting &setting,
 std::vector<std::uint32_t> ChannelsFor(const Setting &setting,
                                        const Arguments &arguments) {
   if (const auto channel = ChannelFor(setting, arguments)) return {*channel};
-  std::vector<std::uint32_t> all;
-  for (std::uint32_t channel = 0; channel < ChannelsToWalk(setting);
-       ++channel) {
-    all.push_back(channel);
-  }
-  return all;
+  return AllChannels(setting);
 }
 
 std::uint32_t RequiredChannel(const Setting &setting,
@@ -87,12 +84,24 @@ std::string WarnOfUnreadable(const Setting &setting, Report *report) {
   return why;
 }
 
-DeliveryTexts NeverRemembered(const std::string &what,
-                              const std::string &command) {
-  return {.notSent = what + " was not sent",
-          .notAnswered = what + " was sent, but not answered",
-          .remedy = "it is never remembered, so run " + command + " again",
-          .someMissing = "once the others do, run " + command + " again"};
+void WarnOfOtherModel(const Setting &setting, const Reach &reach,
+                      Report *report) {
+  if (setting.product == kOwnProduct || reach.answered() == 0) return;
+  const std::vector<std::uint32_t> attached = AttachedProducts();
+  if (attached.empty() || std::find(attached.begin(), attached.end(),
+                                    setting.product) != attached.end()) {
+    return;
+  }
+  std::vector<std::string> names;
+  for (const std::uint32_t product : attached) {
+    names.push_back(ProductName(product));
+  }
+  report->warnings.push_back(Belonging(setting) + " What is attached is a " +
+                             cli::Listed(names));
+}
+
+DeliveryTexts NeverRemembered(const std::string &command) {
+  return {.before = "", .again = "run " + command + " again"};
 }
 
 }  // namespace ztk::program

@@ -56,9 +56,13 @@ void AddSettingNames(const Setting &setting, std::uint32_t product,
 // the reason, or nothing.
 std::string WarnOfUnreadable(const Setting &setting, Report *report);
 
-// The sentences for something that is sent and never remembered.
-DeliveryTexts NeverRemembered(const std::string &what,
-                              const std::string &command);
+// Adds a warning where something was sent, and every attached mixer calls
+// itself another model than the one that the setting belongs to.
+void WarnOfOtherModel(const Setting &setting, const Reach &reach,
+                      Report *report);
+
+// The sentences for what is sent and never remembered.
+DeliveryTexts NeverRemembered(const std::string &command);
 
 }  // namespace ztk::program
 

@@ -56,23 +56,28 @@ Finding ExplainNoBus() {
   Finding finding{.id = "no-bus",
                   .what = "other programs do not hear of changes",
                   .cause =
-                      "there is no session message bus here; this starts "
-                      "a shell with one of its own",
-                  .command = "dbus-run-session -- \"$SHELL\""};
+                      "there is no session message bus here, as is usual over "
+                      "ssh and in a container; this starts a shell with one "
+                      "of its own",
+                  .command = "dbus-run-session -- \"$SHELL\"",
+                  .isNote = true};
   const std::string usual = UsualAddress();
   const char *const library = MissingBusLibrary();
   const std::optional<std::string> address = Variable(kAddress);
   if (library != nullptr) {
     BlameLibrary("reaches the message bus", library, PackageOf(library),
                  &finding);
+    finding.isNote = false;
   } else if (geteuid() == 0 && Variable("SUDO_USER")) {
     finding.cause =
         "this runs as root, whose programs are not yours; do "
         "without sudo";
     finding.command = "ztk doctor";
+    finding.isNote = false;
   } else if (address != usual && AnswersAt(usual)) {
     finding.cause = "the message bus of your session is not told to this shell";
     finding.command = "export DBUS_SESSION_BUS_ADDRESS=" + ShellQuoted(usual);
+    finding.isNote = false;
   } else if (address) {
     finding.cause =
         "nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this "

@@ -184,6 +184,20 @@ Finding NoSeat(const std::string &what) {
           .command = InstallRule(rule, kOwnersRule)};
 }
 
+// Inside the sandbox of the virtual mixer the rules and devices of the system
+// have nothing to do with the mixer.
+bool IsInSandbox() {
+  return !VariableOrEmpty("ZTK_VIRTUAL_MIXER_CONTROL").empty() &&
+         !VariableOrEmpty("UMOCKDEV_DIR").empty();
+}
+
+Finding ForbiddenInSandbox(int mixer, const std::string &what) {
+  return {.id = "forbidden-in-sandbox",
+          .what = what,
+          .cause = "this is a virtual mixer, and ztk-virtual-mixer forbids it",
+          .command = "ztk-virtual-mixer allow " + std::to_string(mixer)};
+}
+
 Finding NotPermitted(const std::string &what, const std::string &place) {
   const Rule rule = FindRule();
   if (rule.path.empty()) {
@@ -273,7 +287,8 @@ Finding ExplainUnopened(int mixer, const std::string &place) {
       "mixer " + std::to_string(mixer) + " is attached, but you cannot open it";
   switch (access.obstacle) {
     case Obstacle::NoRight:
-      return NotPermitted(what, place);
+      return IsInSandbox() ? ForbiddenInSandbox(mixer, what)
+                           : NotPermitted(what, place);
     case Obstacle::NoNode:
       return NoNode(what, access.node);
     case Obstacle::Forbidden:
@@ -294,6 +309,7 @@ Finding ExplainUnopened(int mixer, const std::string &place) {
 }
 
 std::string RestartCommand(const std::string &place) {
+  if (IsInSandbox()) return "ztk-virtual-mixer fault none";
   return "for on in 0 1; do echo $on | sudo tee " + SysFolder(place) +
          "/authorized; done";
 }
@@ -324,7 +340,8 @@ Findings FindOddLibrary(const std::string &library) {
 Finding ExplainTexts(bool found) {
   const std::string folder = build::kDataDir;
   return {.id = found ? "texts-broken" : "texts-missing",
-          .what = "warnings are not told in your language",
+          .what = found ? "the warning texts are incomplete"
+                        : "the warning texts are not installed",
           .cause = std::string("VRM-D6Setup.framework ") +
                    (found ? "has no texts in " : "is not in ") + folder +
                    "/tarvix",

@@ -59,13 +59,14 @@ Finding ExplainTexts(bool found) {
   const std::string why = WhyInstalledIsNotFound();
   if (!why.empty()) {
     return {.id = "texts-not-found",
-            .what = "warnings are not told in your language",
+            .what = "the warning texts are not found",
             .cause = why,
             .command = "ztk versions",
             .isNote = true};
   }
   return {.id = found ? "texts-broken" : "texts-missing",
-          .what = "warnings are not told in your language",
+          .what = found ? "the warning texts are incomplete"
+                        : "the warning texts are not installed",
           .cause = found ? "VRM-D6Setup.framework has no texts in "
                            "/Library/Frameworks"
                          : "VRM-D6Setup.framework is not in "

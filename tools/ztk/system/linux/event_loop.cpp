@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/event_loop.h"
 
-#include <csignal>
+#include <sys/timerfd.h>
+#include <unistd.h>
 
+#include <csignal>
+#include <cstdint>
+
+#include "common/file_descriptor.h"
 #include "notify/announced_settings.h"
 #include "platform/linux/bus_connection.h"
 #include "platform/linux/glib_library.h"
@@ -35,6 +40,26 @@ gboolean OnBusGone(gint /*descriptor*/, GIOCondition /*condition*/,
   return G_SOURCE_REMOVE;
 }
 
+void (*theTick)() = nullptr;
+
+gboolean OnSecond(gint descriptor, GIOCondition /*condition*/,
+                  gpointer /*data*/) {
+  std::uint64_t times = 0;
+  if (read(descriptor, &times, sizeof times) == sizeof times) theTick();
+  return G_SOURCE_CONTINUE;
+}
+
+// A descriptor that can be read once in a second. Without one the loop only
+// hears changes.
+FileDescriptor Seconds() {
+  FileDescriptor timer(
+      timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK));
+  const itimerspec every{.it_interval = {.tv_sec = 1, .tv_nsec = 0},
+                         .it_value = {.tv_sec = 1, .tv_nsec = 0}};
+  timerfd_settime(timer.Get(), 0, &every, nullptr);
+  return timer;
+}
+
 struct OutputObserver {
   OutputListener listener;
   void *context;
@@ -61,7 +86,7 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
       name.get());
 }
 
-LoopEnd RunLoop(void (*ready)()) {
+LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
   if (center::GLib() == nullptr || center::SdBus() == nullptr) {
     return LoopEnd::NoLibrary;
   }
@@ -73,11 +98,14 @@ LoopEnd RunLoop(void (*ready)()) {
 
   theLoop = {.loop = center::g_main_loop_new(nullptr, FALSE),
              .end = LoopEnd::Stopped};
+  theTick = everySecond;
+  const FileDescriptor seconds = Seconds();
   const guint sources[] = {
       center::g_unix_signal_add(SIGINT, OnSignal, nullptr),
       center::g_unix_signal_add(SIGTERM, OnSignal, nullptr),
       center::g_unix_fd_add(center::sd_bus_get_fd(bus.get()), G_IO_HUP,
-                            OnBusGone, nullptr)};
+                            OnBusGone, nullptr),
+      center::g_unix_fd_add(seconds.Get(), G_IO_IN, OnSecond, nullptr)};
   ready();
   center::g_main_loop_run(theLoop.loop);
   for (const guint source : sources) {

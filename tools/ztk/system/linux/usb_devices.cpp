@@ -23,6 +23,13 @@ std::string WordIn(const std::string &path) {
   return word;
 }
 
+std::string LineIn(const std::string &path) {
+  std::ifstream file(path);
+  std::string line;
+  std::getline(file, line);
+  return line;
+}
+
 std::vector<std::string> Entries() {
   std::vector<std::string> names;
   const std::unique_ptr<DIR, int (*)(DIR *)> folder(opendir(kFolder), closedir);
@@ -53,7 +60,8 @@ std::vector<UsbDevice> UsbDevices() {
     }
     devices.push_back({.place = name,
                        .deviceClass = deviceClass,
-                       .speed = WordIn(kFolder + name + "/speed")});
+                       .speed = WordIn(kFolder + name + "/speed"),
+                       .product = LineIn(kFolder + name + "/product")});
   }
   return devices;
 }

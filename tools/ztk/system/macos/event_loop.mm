@@ -60,6 +60,22 @@ dispatch_source_t WatchForSignal(int number) {
   return source;
 }
 
+// The callback that is to be called once in a second.
+void (*theTick)() = nullptr;
+
+void OnSecond(void * /*context*/) { theTick(); }
+
+dispatch_source_t EverySecond() {
+  dispatch_source_t source = dispatch_source_create(
+      DISPATCH_SOURCE_TYPE_TIMER, 0, 0, dispatch_get_main_queue());
+  dispatch_source_set_timer(source,
+                            dispatch_time(DISPATCH_TIME_NOW, NSEC_PER_SEC),
+                            NSEC_PER_SEC, NSEC_PER_SEC / 10);
+  dispatch_source_set_event_handler_f(source, OnSecond);
+  dispatch_resume(source);
+  return source;
+}
+
 }  // namespace
 
 void ListenToOutputAudio(OutputListener listener, void *context) {
@@ -75,11 +91,14 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
 
 // There is a center whenever the user is logged in, and no telling when there
 // is none: LoopEnd::NoBus does not happen here, nor does NoLibrary.
-LoopEnd RunLoop(void (*ready)()) {
+LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
   theEnd = LoopEnd::Stopped;
+  theTick = everySecond;
   for (const int number : kEndingSignals) WatchForSignal(number);
+  dispatch_source_t seconds = EverySecond();
   ready();
   CFRunLoopRun();
+  dispatch_source_cancel(seconds);
   for (const int number : kEndingSignals) std::signal(number, SIG_DFL);
   return theEnd;
 }

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "cli/strings.h"
+#include "cli/suggest.h"
+#include "ztk/commands/other_commands.h"
+#include "ztk/commands/setting/setting_parts.h"
+#include "ztk/model/forget.h"
+#include "ztk/model/remembered.h"
+#include "ztk/report/change_report.h"
+#include "ztk/report/dry_run_report.h"
+#include "ztk/report/setting_report.h"
+
+namespace ztk::program {
+
+namespace {
+
+const Setting &SettingNamed(const std::string &word) {
+  std::vector<std::string> names;
+  for (const Setting *setting : AllSettings()) {
+    if (cli::LowerCase(word) == setting->name) return *setting;
+    names.emplace_back(setting->name);
+  }
+  throw Failure(ExitCode::Usage, "no setting " + cli::Quoted(word) +
+                                     cli::NearestAndAccepted(word, names));
+}
+
+void RequireReadable(const Setting &setting) {
+  const std::string why = WhyUnreadable(setting);
+  if (why.empty()) return;
+  throw Failure(ExitCode::Failed, "nothing was forgotten: cannot read " + why);
+}
+
+// The values that the words name: of one channel, of one setting, or all.
+std::vector<StoredValue> ValuesFor(const Arguments &arguments) {
+  const std::string *word = arguments.Find(Parameter::kSetting);
+  if (word == nullptr) {
+    for (const Setting *setting : AllSettings()) RequireReadable(*setting);
+    return AllStoredValues();
+  }
+  const Setting &setting = SettingNamed(*word);
+  if (setting.channels == 0 && arguments.Has(Parameter::kChannel)) {
+    throw Failure(ExitCode::Usage,
+                  std::string(setting.title) + " has no channels; leave " +
+                      cli::Quoted(arguments.One(Parameter::kChannel)) + " out");
+  }
+  const std::vector<std::uint32_t> channels = ChannelsFor(setting, arguments);
+  RequireReadable(setting);
+  return StoredValues(setting, channels);
+}
+
+Json FieldsOf(const StoredValue &value) {
+  Json fields{{"setting", value.setting->name},
+              {"model", ModelName(*value.setting)}};
+  AddValueFields(*value.setting, value.channel, value.index, &fields);
+  return fields;
+}
+
+std::string LineOf(const StoredValue &value, const char *what) {
+  return PlaceName(*value.setting, value.channel) + ": " +
+         DescribedValue(*value.setting, value.channel, value.index) + what +
+         "\n";
+}
+
+Report PlanOfReset(const std::vector<StoredValue> &values) {
+  Report report;
+  Plan plan;
+  for (const StoredValue &value : values) {
+    plan.AddForgetting(*value.setting, value.channel);
+  }
+  ReportDryRun(plan, &report);
+  return report;
+}
+
+void AddForgotten(const ForgottenStep &step, Report *report) {
+  std::string why;
+  for (const ForgottenValue &one : step.values) {
+    Json fields = FieldsOf(one.value);
+    fields["forgotten"] = one.notForgotten.empty();
+    report->fields["settings"].push_back(std::move(fields));
+    if (one.notForgotten.empty()) {
+      report->text += LineOf(one.value, ", forgotten");
+    } else {
+      report->text += LineOf(one.value, ", still remembered");
+      why = one.notForgotten;
+    }
+  }
+  if (!why.empty()) {
+    report->problem = {.exit = ExitCode::Failed,
+                       .message = "not everything is forgotten: " + why +
+                                  "; ztk doctor tells what to do"};
+  }
+}
+
+}  // namespace
+
+Report Reset(const Arguments &arguments) {
+  const std::vector<StoredValue> values = ValuesFor(arguments);
+  if (arguments.Has(Parameter::kDryRun)) return PlanOfReset(values);
+  Report report;
+  report.fields["settings"] = Json::array();
+  if (values.empty()) {
+    report.text = "Nothing is remembered: nothing to forget.\n";
+    return report;
+  }
+  SharedHistory history;
+  const ForgottenStep step = ForgetValues("reset", values, history.get());
+  if (!step.notRecorded.empty()) {
+    report.warnings.push_back("ztk undo will not know of this: " +
+                              step.notRecorded);
+  }
+  AddForgotten(step, &report);
+  report.text +=
+      "Nothing was sent: the mixer keeps its settings until it is switched "
+      "off.\n";
+  if (step.notRecorded.empty()) {
+    report.text += "ztk undo brings back what was forgotten.\n";
+  }
+  return report;
+}
+
+}  // namespace ztk::program
