@@ -104,6 +104,7 @@ SCENES = (
         ztk export --json; ztk export >$HOME/empty.json; ztk input set 2 mic
         ztk undo --list --json; ztk export >$HOME/club.json; ztk boost set 1
         ztk import $HOME/club.json --json; ztk midi set 2
+        ztk apply --dry-run --json
         ztk import $HOME/club.json --dry-run --json
         ztk import --only $HOME/club.json --json
         ztk import $HOME/empty.json --json

@@ -147,5 +147,32 @@ TEST_F(Watch, IsFiveOnceItsOutputIsFull) {
   EXPECT_THAT(File("ready"), HasSubstr("cannot write the output: No space"));
 }
 
+TEST_F(Watch, ShowsMixersThatComeAndGo) {
+  const Result result =
+      OneMixer(std::string(kStart) +
+               "ztk watch > $DIR/seen 2> $DIR/ready & watcher=$!\n"
+               "await 'grep -q watching $DIR/ready'\n"
+               "ztk-virtual-mixer unplug 1 > /dev/null\n"
+               "await 'grep -q gone $DIR/seen'\n"
+               "ztk-virtual-mixer plug 1 > /dev/null\n"
+               "await 'grep -q plugged $DIR/seen'\n"
+               "kill -INT $watcher; wait $watcher; echo status $?");
+  EXPECT_EQ(result.out, "status 0\n");
+  EXPECT_THAT(
+      Lines("seen"),
+      ElementsAre("Mixer at port 1-1: gone, 0 mixers are attached",
+                  "Mixer at port 1-1: plugged in, 1 mixer is attached"));
+}
+
+// Nothing has to be written for it to notice.
+TEST_F(Watch, EndsWithoutAMessageWhenItsReaderHasGone) {
+  const Result result =
+      OneMixer(std::string(kStart) +
+               "{ ztk watch 2> $DIR/ready; echo $? > $DIR/status; } | true\n"
+               "await 'test -s $DIR/status'; cat $DIR/status");
+  EXPECT_EQ(result.out, "0\n");
+  EXPECT_EQ(SplitLines(File("ready")).size(), 1U) << File("ready");
+}
+
 }  // namespace
 }  // namespace ztk::test

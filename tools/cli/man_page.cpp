@@ -56,6 +56,41 @@ void AddTerms(const std::vector<Option> &options, Page *page) {
   }
 }
 
+bool AreSame(const Option &option, const Option &other) {
+  return option.names == other.names && option.description == other.description;
+}
+
+// The options that at least three commands have with the same description:
+// they are described once for all.
+std::vector<Option> SharedOptions(const Program &program) {
+  constexpr int kLeast = 3;
+  std::vector<Option> all;
+  for (const Command &command : program.commands) {
+    all.insert(all.end(), command.options.begin(), command.options.end());
+  }
+  std::vector<Option> shared;
+  for (const Option &option : all) {
+    const auto same = [&option](const Option &other) {
+      return AreSame(option, other);
+    };
+    if (std::count_if(all.begin(), all.end(), same) >= kLeast &&
+        std::none_of(shared.begin(), shared.end(), same)) {
+      shared.push_back(option);
+    }
+  }
+  return shared;
+}
+
+std::vector<Option> Without(std::vector<Option> options,
+                            const std::vector<Option> &others) {
+  std::erase_if(options, [&others](const Option &option) {
+    return std::any_of(
+        others.begin(), others.end(),
+        [&option](const Option &other) { return AreSame(option, other); });
+  });
+  return options;
+}
+
 // The options of several commands, each description once.
 std::vector<Option> OptionsOf(const std::vector<const Command *> &commands) {
   std::vector<Option> options;
@@ -75,17 +110,19 @@ std::vector<Option> OptionsOf(const std::vector<const Command *> &commands) {
   return options;
 }
 
-void AddCommand(const Program &program, const Command &command, Page *page) {
+void AddCommand(const Program &program, const Command &command,
+                const std::vector<Option> &shared, Page *page) {
   page->Subsection(command.path);
   page->Line(Synopsis(program, command));
   page->Text("\n" + command.summary + ".");
-  AddTerms(command.options, page);
+  AddTerms(Without(command.options, shared), page);
   if (!command.note.empty()) page->Text("\n" + command.note);
   page->Text("\nExample:\n" + ExampleLines(command.examples));
 }
 
 // What its commands share stands here once.
-void AddGroup(const Program &program, const Group &group, Page *page) {
+void AddGroup(const Program &program, const Group &group,
+              const std::vector<Option> &shared, Page *page) {
   std::vector<const Command *> commands;
   std::vector<std::string> examples;
   for (const Command &command : program.commands) {
@@ -97,26 +134,27 @@ void AddGroup(const Program &program, const Group &group, Page *page) {
   page->Subsection(group.name);
   page->Text(group.summary + ".\n" + group.note);
   for (const Command *command : commands) {
-    const std::string own =
-        command->note == group.note ? "" : "\n" + command->note;
-    page->Term(Synopsis(program, *command), command->summary + "." + own);
+    const bool isOwn = command->note != commands.front()->note;
+    page->Term(Synopsis(program, *command),
+               command->summary + "." + (isOwn ? "\n" + command->note : ""));
   }
-  const std::vector<Option> options = OptionsOf(commands);
+  const std::vector<Option> options = Without(OptionsOf(commands), shared);
   if (!options.empty()) page->Text("\nArguments and options:");
   AddTerms(options, page);
   page->Text("\nExamples:\n" + ExampleLines(examples));
 }
 
-void AddCommands(const Program &program, Page *page) {
+void AddCommands(const Program &program, const std::vector<Option> &shared,
+                 Page *page) {
   page->Section("COMMANDS");
   std::string last;
   for (const Command &command : program.commands) {
     const std::string first = command.path.substr(0, command.path.find(' '));
     const Group *group = FindGroup(program, first);
     if (group == nullptr || first == command.path) {
-      AddCommand(program, command, page);
+      AddCommand(program, command, shared, page);
     } else if (first != last) {
-      AddGroup(program, *group, page);
+      AddGroup(program, *group, shared, page);
     }
     last = first;
   }
@@ -168,7 +206,12 @@ std::string ManPage(const Program &program, const std::string &date,
   page.Section("OPTIONS");
   page.Text("These options are accepted with every command:");
   AddTerms(CommonOptions(program), &page);
-  AddCommands(program, &page);
+  const std::vector<Option> shared = SharedOptions(program);
+  if (!shared.empty()) {
+    page.Text("\nThese belong to several commands:");
+    AddTerms(shared, &page);
+  }
+  AddCommands(program, shared, &page);
   AddSections(
       {{.title = "EXIT STATUS", .text = "", .terms = program.exitStatuses()}},
       &page);

@@ -18,11 +18,9 @@ std::vector<SilentRouting> FindSilentRoutings(
     if (!mixer.selectors.value) continue;
     for (std::uint32_t channel = 0; channel < status::kSelectors; ++channel) {
       const auto position = (*mixer.selectors.value)[channel];
+      if (!position || *position == input_audio::kAudiblePosition) continue;
       const auto index = CurrentIndex(kInput, kInput.product, channel);
-      if (!position || *position == input_audio::kAudiblePosition || !index ||
-          !NeedsSelector(channel, *index)) {
-        continue;
-      }
+      if (!index || !NeedsSelector(channel, *index)) continue;
       silent.push_back({.mixer = mixer.mixer.number,
                         .channel = channel,
                         .index = *index,

@@ -35,9 +35,14 @@ std::string Belonging(const Setting &setting) {
          ".";
 }
 
-std::string Note(const Setting &setting) {
+std::string LimitSentence(const Setting &setting) {
   const std::string limit = ResendLimit(setting);
-  return Belonging(setting) + (limit.empty() ? "" : "\n" + limit + ".");
+  return limit.empty() ? "" : limit + ".";
+}
+
+std::string Note(const Setting &setting) {
+  const std::string limit = LimitSentence(setting);
+  return Belonging(setting) + (limit.empty() ? "" : "\n" + limit);
 }
 
 std::string ResendLimit(const Setting &setting) {

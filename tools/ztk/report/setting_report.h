@@ -16,7 +16,10 @@ namespace ztk::program {
 // "USB output audio belongs to the VRM-B5."
 std::string Belonging(const Setting &setting);
 
-// The same, and which choices are not sent again, where some are not.
+// Which choices are not sent again, as a sentence; empty where all are.
+std::string LimitSentence(const Setting &setting);
+
+// Both of these.
 std::string Note(const Setting &setting);
 
 // "apply can only re-send channels 1 to 4; for 5 to 16 use set again"; empty

@@ -83,15 +83,14 @@ cli::Section Files() {
 
 std::vector<cli::Section> ManualIntroduction() {
   return {{.title = "TERMS",
-           .text = "ztk tells what has happened to a choice in these words:",
+           .text = "What has happened to a choice:",
            .terms = {
                {.name = "sent",
-                .meaning = "Sent over USB to every attached mixer. ztk then "
-                           "sends each mixer a query;\n\"answered\" means that "
-                           "the mixer answered this query."},
+                .meaning = "A mixer has accepted it over USB. Every attached "
+                           "mixer is sent the same."},
                {.name = "remembered",
-                .meaning = "Stored in a settings file, see FILES. ztk apply "
-                           "sends what is remembered again."},
+                .meaning = "Saved in a settings file, see FILES. ztk apply "
+                           "sends it again, ztk reset forgets it."},
                {.name = "announced",
                 .meaning = "Reported on the message bus of your session, where "
                            "other programs and ztk watch\nreceive it."}}}};

@@ -47,7 +47,7 @@ cli::Command MakePlain(const Setting &setting, const char *verb,
   cli::Command command = MakeSettingCommand(
       setting, verb, summary, setting.channels == 0 ? "" : "1", function);
   AddChannel(setting, "; all when left out", &command.options);
-  command.options.push_back(ProductOption(ModelName(setting)));
+  command.options.push_back(ProductOption());
   return command;
 }
 
@@ -74,7 +74,7 @@ cli::Command MakeSet(const Setting &setting) {
        .values = [&setting](const Arguments &before, const std::string &begun) {
          return ChoiceValues(setting, before, begun);
        }});
-  command.options.push_back(ProductOption(ModelName(setting)));
+  command.options.push_back(ProductOption());
   command.options.push_back(DryRunOption());
   return command;
 }
@@ -95,18 +95,18 @@ cli::Command MakeRaw() {
                              .value = "",
                              .description = "Source code, 0 to 15",
                              .required = true});
-  command.options.push_back(ProductOption(ModelName(kInput)));
+  command.options.push_back(ProductOption());
   command.options.push_back(DryRunOption());
   return command;
 }
 
 }  // namespace
 
-cli::Option ProductOption(const std::string &otherwise) {
+cli::Option ProductOption() {
   return cli::Offering({.names = Parameter::kProduct,
                         .value = "MODEL",
-                        .description = "Model, by name or number; " +
-                                       otherwise + " when left out"},
+                        .description = "Model, by name or number; the one that "
+                                       "the setting belongs to when left out"},
                        ProductValues);
 }
 

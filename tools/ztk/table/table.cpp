@@ -244,7 +244,7 @@ std::vector<cli::Group> MakeGroups(const std::string &firstWord) {
     if (!firstWord.empty() && firstWord != setting->name) continue;
     groups.push_back({.name = setting->name,
                       .summary = Summary(*setting),
-                      .note = Note(*setting),
+                      .note = LimitSentence(*setting),
                       .example = std::string("ztk ") + setting->name + " set " +
                                  setting->example});
   }

@@ -20,7 +20,7 @@ namespace ztk::program {
 cli::Command MakeCommand(std::string path, std::string summary,
                          std::function<Report(const Arguments &)> run);
 
-cli::Option ProductOption(const std::string &otherwise);
+cli::Option ProductOption();
 cli::Option DryRunOption();
 
 // What completions offer for an argument.
