@@ -14,6 +14,8 @@ class Ztkfunc < Formula
   depends_on "cli11" => :build
   depends_on "cmake" => :build
   depends_on "nlohmann-json" => :build
+  # With it the formula also installs ztk-window.
+  depends_on "qt" => :optional
 
   def install
     system "cmake", "-S", ".", "-B", "build", *std_cmake_args,
