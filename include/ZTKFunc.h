@@ -24,12 +24,12 @@
  * request to a mixer is given up after 1 second. A setter makes one request to
  * each mixer, those of USB input and output audio two, a status query one. It
  * also waits up to 1 second while another program changes the same settings,
- * and up to 1 second for a message bus that does not respond. Setters and
- * getters wait up to half a second for a settings file that another program is
- * copying over, or that was damaged a moment ago. An input setter
- * with three mixers that do not answer therefore needs about 6 seconds; with
- * mixers that answer, a call needs some milliseconds. On macOS the system
- * decides how long a request may take.
+ * and again if that program was faster nevertheless; up to 1 second for a
+ * message bus that does not respond; and, like a getter, up to half a second
+ * for a settings file that another program is copying over or that was damaged
+ * a moment ago. An input setter with three mixers that do not answer therefore
+ * needs about 6 seconds; with mixers that answer, a call needs some
+ * milliseconds. On macOS the system decides how long a request may take.
  *
  * **Threads.** The library starts no threads and takes no locks. Functions
  * whose comment says so may be called from any thread at any time. Of all

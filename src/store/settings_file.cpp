@@ -64,13 +64,16 @@ void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value) {
     RecordStoringWithoutHome();
     return;
   }
-  plist::Change *change = plist::BeginChange(path.get());
   // The lock may be missing, on some file systems or after waiting too long.
+  // Each attempt waits for it anew: without it, a process that changes the file
+  // all the time would be faster each time.
   constexpr int kAttempts = 20;
-  for (int left = kAttempts; left > 0; --left) {
-    if (Merge(path.get(), key, static_cast<std::int32_t>(value))) break;
+  bool done = false;
+  for (int left = kAttempts; left > 0 && !done; --left) {
+    plist::Change *change = plist::BeginChange(path.get());
+    done = Merge(path.get(), key, static_cast<std::int32_t>(value));
+    plist::EndChange(change);
   }
-  plist::EndChange(change);
 }
 
 void WriteChannel(ZTKTextRef model, ZTKTextRef keyFormat, std::uint32_t channel,
