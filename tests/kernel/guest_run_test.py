@@ -102,6 +102,8 @@ class Ends(unittest.TestCase):
     def test_long_before_its_clock_says_so_if_that_counts_instructions(self):
         done = guest_run("--instruction-clock", "--timeout", "120", "bash",
                          "-c", "sleep 1000; ((SECONDS >= 1000)) && exit 5")
+        if done.returncode == 77:
+            self.skipTest(done.stderr)
         self.assertEqual(done.returncode, 5)
 
     def test_without_a_status_if_the_kernel_does(self):

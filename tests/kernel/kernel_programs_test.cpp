@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdio>
+#include <regex>
 #include <string>
 
 #include "kernel_world.h"
@@ -140,10 +141,13 @@ TEST_F(KernelPrograms, LsusbShowsTheMixerClean) {
         "  Self Powered\n"}) {
     EXPECT_THAT(output, HasSubstr(line));
   }
+  // Some versions name the class 0 "[unknown]", which is no complaint.
+  const std::string text =
+      std::regex_replace(output, std::regex(R"(\[unknown\])"), "");
   for (const char *complaint :
        {"can't", "Couldn't", "couldn't", "Warning", "error", "unrecognized",
         "unknown", "junk", "**", "UNRECOGNIZED", "invalid", "Invalid"}) {
-    EXPECT_THAT(output, Not(HasSubstr(complaint)));
+    EXPECT_THAT(text, Not(HasSubstr(complaint)));
   }
   EXPECT_THAT(output, EndsWith("status 0"));
 }

@@ -149,7 +149,8 @@ TEST_F(OnDyingBus, LetsTheLoopRestAndClosesTheConnection) {
   const auto descriptors = OpenDescriptors();
   Probe probe;
   probe.Observe(kName);
-  EXPECT_EQ(OpenDescriptors(), descriptors + 1);
+  // Later versions of libsystemd also hold a descriptor of the bus's process.
+  EXPECT_GT(OpenDescriptors(), descriptors);
   bus_.Stop();
   EXPECT_LT(TurnsOfAnIdleLoop(context_), kFewTurns);
   EXPECT_EQ(OpenDescriptors(), descriptors);

@@ -22,6 +22,9 @@ sys.path.insert(0, BENCH_FOLDER)
 
 import system_calls  # noqa: E402  (found through the argument)
 
+# Later versions of libsystemd make more calls when they connect to the bus.
+COUNTED_LIBSYSTEMD = "252"
+
 SKIPPED = 77  # what the build takes for "did not run"
 
 ONE_WALK_OF_THREE = [
@@ -37,6 +40,17 @@ def library_calls(operation, mixers=1, other_devices=0):
     case = ("library", operation)
     return system_calls.measure(BIN_FOLDER, [case], mixers,
                                 other_devices)[case]
+
+
+def is_counted_libsystemd():
+    done = subprocess.run(["pkg-config", "--modversion", "libsystemd"],
+                          capture_output=True, text=True, check=False)
+    return done.stdout.split(".")[0].strip() == COUNTED_LIBSYSTEMD
+
+
+only_counted_libsystemd = unittest.skipUnless(
+    is_counted_libsystemd(),
+    f"the calls are those of libsystemd {COUNTED_LIBSYSTEMD}")
 
 
 class Count(unittest.TestCase):
@@ -89,6 +103,7 @@ class Setter(unittest.TestCase):
         self.assertEqual(self.number("socket", "connect", "sendmsg"),
                          (1, 1, 3))
 
+    @only_counted_libsystemd
     def test_takes_204_calls_among_13_devices(self):
         self.assertEqual(len(self.calls), 204)
 
@@ -118,6 +133,9 @@ class Floor(unittest.TestCase):
         calls = system_calls.measure(BIN_FOLDER, cases, other_devices=3)
         for operation in system_calls.OPERATIONS:
             with self.subTest(operation):
+                if operation == "set" and not is_counted_libsystemd():
+                    self.skipTest(f"the floor is that of libsystemd "
+                                  f"{COUNTED_LIBSYSTEMD}")
                 self.assertEqual(calls["floor", operation],
                                  calls["library", operation])
 

@@ -165,10 +165,19 @@ TEST_F(Doctor, FindsThatTheRuleCameAfterTheMixer) {
 TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
   const Planted files{
       {"/usr/lib/udev/rules.d/70-tarvix-mixer.rules", kGoodRule},
-      {"/run/udev/data/c189:1", "I:12345\nG:uaccess\nQ:uaccess\nV:1\n"}};
+      {"/run/udev/data/c189:1", "I:12345\n"}};
+  // Written again from inside: later versions of umockdev look for these files
+  // in the sandbox.
+  const std::string tagged =
+      kAsOnARealSystem +
+      std::string(
+          "mkdir -p /run/udev/data && "
+          "printf 'I:12345\\nG:uaccess\\nQ:uaccess\\nV:1\\n' "
+          "> /run/udev/data/c189:1; ");
   Plant(files, {"-n", "1", "--forbid", "1"},
-        kAsOnARealSystem + std::string("id -un; USER=dj SSH_CONNECTION='::1 1 "
-                                       "::1 22' ztk doctor --json"));
+        tagged +
+            "id -un; USER=dj SSH_CONNECTION='::1 1 ::1 22' "
+            "ztk doctor --json");
   Json finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
   EXPECT_THAT(Word(finding, "cause"), HasSubstr("you are logged in over ssh"));
@@ -177,8 +186,7 @@ TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
                         "\"' | sudo tee "
                         "/etc/udev/rules.d/71-tarvix-mixer-owner.rules && "));
   Plant(files, {"-n", "1", "--forbid", "1"},
-        kAsOnARealSystem +
-            std::string("unset SSH_CONNECTION SSH_TTY; ztk doctor --json"));
+        tagged + "unset SSH_CONNECTION SSH_TTY; ztk doctor --json");
   finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
   EXPECT_THAT(Word(finding, "cause"), Not(HasSubstr("ssh")));
@@ -218,6 +226,7 @@ TEST_F(Doctor, FindsThatAServiceOrContainerMayNotUseTheDevice) {
         "chattr +i $node || exit 97\n"
         "trap 'chattr -i $node' EXIT\n"
         "ztk doctor --json; ztk boost set 1 2> /dev/null");
+  if (IsSkipped()) return;
   const Result first{
       .status = result_.status, .out = Line(result_.out, 0), .err = {}};
   const Json finding = OnlyOneIn("mixers", first);
