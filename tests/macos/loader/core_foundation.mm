@@ -51,18 +51,10 @@ void RunFor(double seconds) {
 extern "C" {
 
 const void *darwin_kCFAllocatorDefault;
-const void *darwin_kCFRunLoopDefaultMode;
 char darwin__dispatch_main_q[64];
 char darwin__dispatch_source_type_signal[64];
 
 void CFRelease(CFTypeRef object) { [(id)object release]; }
-CFTypeRef CFRetain(CFTypeRef object) { return [(id)object retain]; }
-bool CFEqual(CFTypeRef first, CFTypeRef second) {
-  return [(id)first isEqual:(id)second];
-}
-CFIndex CFGetRetainCount(CFTypeRef object) {
-  return static_cast<CFIndex>([(id)object retainCount]);
-}
 
 CFStringRef CFStringCreateWithCString(CFAllocatorRef /*allocator*/,
                                       const char *text,
@@ -83,9 +75,6 @@ Boolean CFStringGetCString(CFStringRef text, char *bytes, CFIndex size,
   if (fits) std::strcpy(bytes, from);
   [pool drain];
   return fits;
-}
-const char *CFStringGetCStringPtr(CFStringRef, CFStringEncoding) {
-  return nullptr;
 }
 
 CFNumberRef CFNumberCreate(CFAllocatorRef /*allocator*/, CFNumberType /*type*/,
@@ -140,20 +129,11 @@ kern_return_t IORegistryEntryGetRegistryEntryID(io_object_t,
   return 0;
 }
 
-double CFAbsoluteTimeGetCurrent() {
-  return [NSDate timeIntervalSinceReferenceDate];
-}
 void *CFRunLoopGetMain() { return &theLoopEnds; }
 void CFRunLoopStop(void * /*loop*/) { theLoopEnds = true; }
 void CFRunLoopRun() {
   theLoopEnds = false;
   while (!RunSources()) RunFor(0.02);
-}
-std::int32_t CFRunLoopRunInMode(CFStringRef, double seconds, bool) {
-  constexpr std::int32_t kTimedOut = 3;
-  constexpr double kStep = 0.02;
-  RunFor(seconds < kStep ? seconds : kStep);
-  return kTimedOut;
 }
 
 void *dispatch_source_create(const void *, std::uintptr_t number, unsigned long,

@@ -97,11 +97,11 @@ std::uint32_t BitsOf(const sigset_t &set) {
   return bits;
 }
 
-// What a lock, a condition or a flag for one call holds before its first use.
+// What a lock or a condition holds before its first use.
 void *Prepared(void *object, std::size_t size) {
   std::uint64_t mark = 0;
   std::memcpy(&mark, object, sizeof mark);
-  if (mark == 0x32AAABA7 || mark == 0x3CB0B1BB || mark == 0x30B1BCBA) {
+  if (mark == 0x32AAABA7 || mark == 0x3CB0B1BB) {
     std::memset(object, 0, size);
   }
   return object;
@@ -151,7 +151,6 @@ RuneTable darwin__DefaultRuneLocale = MakeTable();
 std::uintptr_t darwin___stack_chk_guard = 0x595E9FBD94FDA766;
 FILE *darwin___stdoutp = stdout;
 FILE *darwin___stderrp = stderr;
-FILE *darwin___stdinp = stdin;
 
 // The number is put right in its place: programs write there, too.
 int *darwin___error() {
@@ -259,11 +258,6 @@ int darwin_pthread_mutex_lock(void *lock) {
 int darwin_pthread_mutex_unlock(void *lock) {
   return pthread_mutex_unlock(static_cast<pthread_mutex_t *>(lock));
 }
-int darwin_pthread_once(void *once, void (*call)()) {
-  return pthread_once(
-      static_cast<pthread_once_t *>(Prepared(once, sizeof(std::uint64_t))),
-      call);
-}
 int darwin_pthread_key_create(unsigned long *key, void (*end)(void *)) {
   pthread_key_t made = 0;
   const int result = pthread_key_create(&made, end);
@@ -278,10 +272,6 @@ void darwin__ZNSt3__15mutex4lockEv(void *lock) {
 void darwin__ZNSt3__15mutexD1Ev(void * /*lock*/) {}
 void darwin__ZNSt3__118condition_variable10notify_oneEv(void *condition) {
   Next<void(void *)>("_ZNSt3__118condition_variable10notify_oneEv")(
-      Prepared(condition, sizeof(pthread_cond_t)));
-}
-void darwin__ZNSt3__118condition_variable10notify_allEv(void *condition) {
-  Next<void(void *)>("_ZNSt3__118condition_variable10notify_allEv")(
       Prepared(condition, sizeof(pthread_cond_t)));
 }
 void darwin__ZNSt3__118condition_variableD1Ev(void * /*condition*/) {}
@@ -327,11 +317,6 @@ int darwin___maskrune(int c, unsigned long kinds) {
 int darwin___tolower(int c) { return tolower(c); }
 int darwin___toupper(int c) { return toupper(c); }
 void darwin___bzero(void *at, std::size_t size) { std::memset(at, 0, size); }
-void darwin___assert_rtn(const char *function, const char *file, int line,
-                         const char *text) {
-  ztk::loader::Fail(std::string(file) + ":" + std::to_string(line) + " " +
-                    function + ": " + text);
-}
 int darwin_statfs(const char * /*path*/, void *to) {
   constexpr std::size_t kSize = 2168;
   constexpr std::size_t kMountPoint = 88;

@@ -124,32 +124,17 @@ class Opcodes {
   void Rebase() {
     while (at_ < end_) {
       const std::uint8_t low = Next();
-      switch (opcode_) {
-        case 0x20:
-          SetPlace(low);
-          break;
-        case 0x30:
-          place_ += Number();
-          break;
-        case 0x40:
-          place_ += low * std::uint64_t{8};
-          break;
-        case 0x50:
-          RebaseRow(low, 8);
-          break;
-        case 0x60:
-          RebaseRow(Number(), 8);
-          break;
-        case 0x70:
-          RebaseRow(1, 8 + Number());
-          break;
-        case 0x80: {
-          const std::uint64_t count = Number();
-          RebaseRow(count, 8 + Number());
-          break;
-        }
-        default:
-          break;
+      std::uint64_t count = 1;
+      std::uint64_t step = 8;
+      if (opcode_ == 0x20) SetPlace(low);
+      if (opcode_ == 0x30) place_ += Number();
+      if (opcode_ == 0x40) place_ += low * step;
+      if (opcode_ < 0x50) continue;
+      if (opcode_ == 0x50) count = low;
+      if (opcode_ == 0x60 || opcode_ == 0x80) count = Number();
+      if (opcode_ == 0x70 || opcode_ == 0x80) step += Number();
+      for (; count > 0; --count, place_ += step) {
+        *reinterpret_cast<std::int64_t *>(place_) += image_.slide;
       }
     }
   }
@@ -169,7 +154,6 @@ class Opcodes {
           // A definition that is not weak: what it overrides is named by
           // others.
           skip_ = weak && (low & 0x8) != 0;
-          optional_ = (low & 0x1) != 0;
           name_ = reinterpret_cast<const char *>(at_);
           at_ += name_.size() + 1;
           break;
@@ -236,12 +220,6 @@ class Opcodes {
              static_cast<std::uint64_t>(image_.slide) + Number();
   }
 
-  void RebaseRow(std::uint64_t count, std::uint64_t step) {
-    for (; count > 0; --count, place_ += step) {
-      *reinterpret_cast<std::int64_t *>(place_) += image_.slide;
-    }
-  }
-
   void BindOne(std::uint64_t step) {
     if (!skip_) {
       *reinterpret_cast<std::int64_t *>(place_) =
@@ -258,7 +236,6 @@ class Opcodes {
   std::int64_t addend_ = 0;
   std::string name_;
   bool skip_ = false;
-  bool optional_ = false;
 };
 
 void FixUp(const Image &image) {

@@ -117,42 +117,26 @@ extern "C" {
 
 void *darwin__objc_empty_cache;
 
-// As the compiler of macOS calls a method; the arguments stay where they are.
+// Changes no register but r11, so that the arguments of the message stay where
+// they are.
+__attribute__((preserve_all, used)) void ZTKFindMethod(id object, SEL name,
+                                                       IMP *method) {
+  *method = objc_msg_lookup(object, name);
+}
+
+// As the compiler of macOS calls a method.
 __attribute__((naked)) void darwin_objc_msgSend() {
-  asm volatile("push %rbp\n mov %rsp, %rbp\n sub $192, %rsp\n"
-               "mov %rdi, (%rsp)\n mov %rsi, 8(%rsp)\n mov %rdx, 16(%rsp)\n"
-               "mov %rcx, 24(%rsp)\n mov %r8, 32(%rsp)\n mov %r9, 40(%rsp)\n"
-               "mov %rax, 48(%rsp)\n"
-               "movups %xmm0, 64(%rsp)\n movups %xmm1, 80(%rsp)\n"
-               "movups %xmm2, 96(%rsp)\n movups %xmm3, 112(%rsp)\n"
-               "movups %xmm4, 128(%rsp)\n movups %xmm5, 144(%rsp)\n"
-               "movups %xmm6, 160(%rsp)\n movups %xmm7, 176(%rsp)\n"
-               "call objc_msg_lookup@PLT\n mov %rax, %r11\n"
-               "mov (%rsp), %rdi\n mov 8(%rsp), %rsi\n mov 16(%rsp), %rdx\n"
-               "mov 24(%rsp), %rcx\n mov 32(%rsp), %r8\n mov 40(%rsp), %r9\n"
-               "mov 48(%rsp), %rax\n"
-               "movups 64(%rsp), %xmm0\n movups 80(%rsp), %xmm1\n"
-               "movups 96(%rsp), %xmm2\n movups 112(%rsp), %xmm3\n"
-               "movups 128(%rsp), %xmm4\n movups 144(%rsp), %xmm5\n"
-               "movups 160(%rsp), %xmm6\n movups 176(%rsp), %xmm7\n"
-               "leave\n jmp *%r11\n");
+  asm volatile("push %rax\n push %rdx\n push %rdx\n mov %rsp, %rdx\n"
+               "call ZTKFindMethod@PLT\n"
+               "pop %r11\n pop %rdx\n pop %rax\n jmp *%r11\n");
 }
 
 id darwin_objc_alloc(Class of) { return [(id)of alloc]; }
-id darwin_objc_alloc_init(Class of) { return [[(id)of alloc] init]; }
 id darwin_objc_retain(id object) { return [object retain]; }
 void darwin_objc_release(id object) { [object release]; }
-id darwin_objc_autorelease(id object) { return [object autorelease]; }
 void *darwin_objc_autoreleasePoolPush() {
   return [[NSAutoreleasePool alloc] init];
 }
 void darwin_objc_autoreleasePoolPop(id pool) { [pool drain]; }
-bool darwin_objc_opt_isKindOfClass(id object, Class of) {
-  return [object isKindOfClass:of];
-}
-bool darwin_objc_opt_respondsToSelector(id object, SEL name) {
-  return [object respondsToSelector:name];
-}
-Class darwin_objc_opt_class(id object) { return [object class]; }
 
 }  // extern "C"

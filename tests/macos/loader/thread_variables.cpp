@@ -38,7 +38,9 @@ std::span<const char> FirstContent(const Image &image, std::size_t *size) {
 
 }  // namespace
 
-extern "C" void *ZTKAddressOf(const Variable *variable) {
+// Changes no register but r11.
+extern "C" __attribute__((preserve_all, used)) void ZTKFindAddress(
+    const Variable *variable, void **address) {
   thread_local std::map<const Image *, std::vector<char>> blocks;
   std::vector<char> &block = blocks[variable->image];
   if (block.empty()) {
@@ -47,26 +49,15 @@ extern "C" void *ZTKAddressOf(const Variable *variable) {
     block.assign(size, 0);
     std::copy(content.begin(), content.end(), block.begin());
   }
-  return block.data() + variable->offset;
+  *address = block.data() + variable->offset;
 }
 
 // Called with the description in rdi; changes no register but rax.
 extern "C" __attribute__((naked)) void ZTKAskForAddress() {
   asm volatile(
-      "push %rbp\n mov %rsp, %rbp\n"
-      "push %rdi\n push %rsi\n push %rdx\n push %rcx\n push %r8\n push %r9\n"
-      "push %r10\n push %r11\n sub $128, %rsp\n"
-      "movups %xmm0, (%rsp)\n movups %xmm1, 16(%rsp)\n"
-      "movups %xmm2, 32(%rsp)\n movups %xmm3, 48(%rsp)\n"
-      "movups %xmm4, 64(%rsp)\n movups %xmm5, 80(%rsp)\n"
-      "movups %xmm6, 96(%rsp)\n movups %xmm7, 112(%rsp)\n"
-      "call ZTKAddressOf@PLT\n"
-      "movups (%rsp), %xmm0\n movups 16(%rsp), %xmm1\n"
-      "movups 32(%rsp), %xmm2\n movups 48(%rsp), %xmm3\n"
-      "movups 64(%rsp), %xmm4\n movups 80(%rsp), %xmm5\n"
-      "movups 96(%rsp), %xmm6\n movups 112(%rsp), %xmm7\n"
-      "add $128, %rsp\n pop %r11\n pop %r10\n pop %r9\n pop %r8\n"
-      "pop %rcx\n pop %rdx\n pop %rsi\n pop %rdi\n pop %rbp\n ret\n");
+      "push %r11\n push %rsi\n push %rsi\n mov %rsp, %rsi\n"
+      "call ZTKFindAddress@PLT\n"
+      "pop %rax\n pop %rsi\n pop %r11\n ret\n");
 }
 
 void PrepareThreadVariables(const Image &image) {
