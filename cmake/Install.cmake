@@ -8,6 +8,7 @@
 #   development    headers, their manual page, the CMake package, the .pc file
 #   runtime        ztk and its files (installed by tools/); the default component
 #   virtual-mixer  ztk-virtual-mixer and its files
+#   window         ztk-window and its files
 #   python         the Python package, where ZTK_PYTHON_DIR names a folder
 #   documents      README, docs/, changelog and licence
 include(CMakePackageConfigHelpers)
@@ -34,6 +35,10 @@ if(TARGET ztk AND NOT APPLE)
   file(RELATIVE_PATH bin_to_lib
     ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
   set_target_properties(ztk PROPERTIES INSTALL_RPATH "$ORIGIN/${bin_to_lib}")
+  if(TARGET ztk-window)
+    set_target_properties(ztk-window PROPERTIES
+      INSTALL_RPATH "$ORIGIN/${bin_to_lib}")
+  endif()
 endif()
 
 install(EXPORT ZTKFuncTargets NAMESPACE ZTKFunc:: DESTINATION ${package_dir}

@@ -1,11 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
+#include <QIcon>
+#include <QLocale>
 
+#include "window/connect.h"
+#include "window/engine/engine.h"
 #include "window/main_window.h"
+#include "window/options.h"
+#include "window/translation.h"
 
 int main(int argc, char **argv) {
-  const QApplication application(argc, argv);
-  ztk::window::MainWindow window;
+  using namespace ztk::window;
+  if (const auto status = RunWithoutWindow(argc, argv)) return *status;
+  QApplication application(argc, argv);
+  if (const auto status = RefuseUnknown(argc, argv)) return *status;
+  const QString id = QStringLiteral("com.tarvix.ZtkWindow");
+  QGuiApplication::setDesktopFileName(id);
+  QGuiApplication::setWindowIcon(QIcon::fromTheme(id));
+  Translate(&application, QLocale());
+
+  Engine engine;
+  MainWindow window;
+  Connect(&window, &engine);
   window.show();
+  engine.start();
   return QApplication::exec();
 }

@@ -92,8 +92,10 @@ struct ClubState {
 enum class Autoapply : std::uint8_t { Unavailable, Off, On };
 
 struct State {
-  // False until the first answer of the system has arrived.
+  // False until the settings were read for the first time.
   bool known = false;
+  // False until the mixers were asked for the first time.
+  bool mixersKnown = false;
   QList<MixerState> mixers;
   // Every channel of every setting, in the order of model::AllSettings().
   QList<RowState> rows;

@@ -71,7 +71,7 @@ RoutingPage::RoutingPage(QWidget *parent)
   }
   AddRow(model::kBoost, 0);
   column->addWidget(rows_.last());
-  column->addStretch(1);
+  column->addStretch(8);
   picture_->installEventFilter(this);
   connect(picture_, &Picture::activeChannelChanged, this,
           &RoutingPage::SetActive);

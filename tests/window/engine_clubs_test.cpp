@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+//
+// Settings saved under a name.
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSignalSpy>
+#include <QtTest>
+#include <optional>
+
+#include "window/engine/engine.h"
+#include "window/engine_world.h"
+#include "window/registry.h"
+
+namespace ztk::window {
+
+using model::kBoost;
+using model::kInput;
+
+class EngineClubsTest : public EngineWorld {
+  Q_OBJECT
+
+ private slots:
+  void SavesAFileThatZtkImports();
+  void ShowsWhatAClubWouldChange();
+  void AppliesAClubAsOneStep();
+  void SaysWhyAFileIsNoClub_data();
+  void SaysWhyAFileIsNoClub();
+  void KeepsTheFileInItsFolder();
+  void AsksForAName();
+
+ private:
+  ClubPreview Preview(const QString &path);
+  QString PathOf(const QString &name) const;
+};
+
+ClubPreview EngineClubsTest::Preview(const QString &path) {
+  std::optional<ClubPreview> preview;
+  connect(&engine(), &Engine::clubPreviewed, this,
+          [&preview](const ClubPreview &one) { preview = one; });
+  engine().previewClub(path);
+  [&] { EVENTUALLY(preview.has_value()); }();
+  disconnect(&engine(), &Engine::clubPreviewed, this, nullptr);
+  return preview.value_or(ClubPreview{});
+}
+
+QString EngineClubsTest::PathOf(const QString &name) const {
+  return QString::fromStdString(home().path().string()) +
+         QStringLiteral("/.local/share/tarvix/clubs/") + name;
+}
+
+void EngineClubsTest::SavesAFileThatZtkImports() {
+  Ztk({"input", "set", "2", "3"});
+  StartEngine();
+  QVERIFY(state().clubs.isEmpty());
+  engine().saveClub(QStringLiteral("Blue Note"));
+  EVENTUALLY(state().clubs.size() == 1);
+  QCOMPARE(state().clubs[0].name, QStringLiteral("Blue Note"));
+  QCOMPARE(state().clubs[0].path, PathOf(QStringLiteral("Blue Note.json")));
+  QFile file(state().clubs[0].path);
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  QCOMPARE(QString::fromUtf8(file.readAll()), Ztk({"export"}));
+}
+
+void EngineClubsTest::ShowsWhatAClubWouldChange() {
+  Ztk({"input", "set", "2", "3"});
+  Ztk({"boost", "set", "1"});
+  StartEngine();
+  engine().saveClub(QStringLiteral("a"));
+  EVENTUALLY(state().clubs.size() == 1);
+  QVERIFY(Preview(state().clubs[0].path).changes.isEmpty());
+  Ztk({"input", "set", "2", "mic"});
+  const ClubPreview preview = Preview(state().clubs[0].path);
+  QCOMPARE(preview.club.name, QStringLiteral("a"));
+  QCOMPARE(preview.error, QString());
+  QCOMPARE(preview.changes.size(), 1);
+  QCOMPARE(preview.changes[0].place, QStringLiteral("USB input 2"));
+  QCOMPARE(preview.changes[0].before, QStringLiteral("MIC"));
+  QCOMPARE(preview.changes[0].after, QStringLiteral("Post CH2 Fader"));
+  EVENTUALLY(Row(kInput, 1).shown == 5);
+}
+
+void EngineClubsTest::AppliesAClubAsOneStep() {
+  Ztk({"input", "set", "2", "3"});
+  Ztk({"boost", "set", "1"});
+  StartEngine();
+  engine().saveClub(QStringLiteral("a"));
+  EVENTUALLY(state().clubs.size() == 1);
+  Ztk({"input", "set", "2", "mic"});
+  Ztk({"boost", "set", "2"});
+  EVENTUALLY(Row(kBoost, 0).shown == 1);
+  engine().applyClub(state().clubs[0].path);
+  EVENTUALLY(Row(kBoost, 0).delivery == Delivery::Sent);
+  QCOMPARE(Row(kBoost, 0).shown, 0U);
+  QCOMPARE(Row(kInput, 1).shown, 2U);
+  QCOMPARE(Row(kInput, 1).delivery, Delivery::Sent);
+  QCOMPARE(state().undoes, QStringLiteral("USB input 2, USB output level"));
+  engine().undo();
+  EVENTUALLY(Row(kBoost, 0).shown == 1);
+  QCOMPARE(Row(kInput, 1).shown, 5U);
+}
+
+void EngineClubsTest::SaysWhyAFileIsNoClub_data() {
+  QTest::addColumn<QString>("text");
+  QTest::newRow("empty") << "";
+  QTest::newRow("other") << "{\"version\":1,\"settings\":{\"VRM-D6\":7}}";
+}
+
+void EngineClubsTest::SaysWhyAFileIsNoClub() {
+  QFETCH(QString, text);
+  StartEngine();
+  const QString path = PathOf(QStringLiteral("x.json"));
+  QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+  test::WriteAll(path.toStdString(), text.toStdString());
+  QVERIFY(Preview(path).error.startsWith(
+      QStringLiteral("The file holds no valid settings: ")));
+  engine().applyClub(path);
+  EVENTUALLY(!reports().isEmpty());
+  QVERIFY(reports().front().startsWith(
+      QStringLiteral("The file holds no valid settings: ")));
+  QVERIFY(!state().canUndo);
+}
+
+void EngineClubsTest::KeepsTheFileInItsFolder() {
+  StartEngine();
+  engine().saveClub(QStringLiteral("../a/b"));
+  EVENTUALLY(state().clubs.size() == 1);
+  QCOMPARE(state().clubs[0].path, PathOf(QStringLiteral("-..-a-b.json")));
+}
+
+void EngineClubsTest::AsksForAName() {
+  StartEngine();
+  engine().saveClub(QStringLiteral("  "));
+  EVENTUALLY(!reports().isEmpty());
+  QCOMPARE(reports(), QStringList(QStringLiteral("The club needs a name.")));
+}
+
+namespace {
+const bool kClubsRegistered = Register<EngineClubsTest>("EngineClubsTest");
+}  // namespace
+
+}  // namespace ztk::window
+
+#include "engine_clubs_test.moc"

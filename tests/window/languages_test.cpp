@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+//
+// The window in the languages of the warning texts.
+#include <QLocale>
+#include <QPushButton>
+#include <QTranslator>
+#include <QtTest>
+#include <memory>
+
+#include "window/cut_texts.h"
+#include "window/engine/sentences.h"
+#include "window/main_window.h"
+#include "window/registry.h"
+#include "window/states.h"
+#include "window/translation.h"
+
+namespace ztk::window {
+
+class LanguagesTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void SpeakTheUsersLanguage_data();
+  void SpeakTheUsersLanguage();
+  void CutNoText_data();
+  void CutNoText();
+};
+
+namespace {
+
+// What is long: reasons, sentences about selectors, findings.
+State FullState() {
+  State state = UsualState();
+  state.mixersKnown = true;
+  state.mixers.append(AnsweringMixer(2));
+  state.mixers[0].selectors[1] = 1;
+  RowState &failed = RowOf(&state, model::kInput, 0);
+  failed.delivery = Delivery::RememberedOnly;
+  const model::Mixer silent{.number = 1,
+                            .state = model::MixerState::Silent,
+                            .reason = {},
+                            .message = {}};
+  failed.reason = WhyNotSent(0, {.mixers = {silent, silent}});
+  RowOf(&state, model::kInput, 3).delivery = Delivery::Sent;
+  RowOf(&state, model::kInput, 3).accepted = 2;
+  state.findings.append(Translated({.id = "silent",
+                                    .what = "mixer 1 does not answer",
+                                    .cause = "the rule that grants you access "
+                                             "came after the mixer was plugged "
+                                             "in; this does what plugging it "
+                                             "in again does",
+                                    .command = "ztk doctor"}));
+  state.canUndo = true;
+  state.undoes = PlaceText(model::kInput, 1);
+  return state;
+}
+
+void AddLanguages() {
+  QTest::addColumn<QString>("noMixer");
+  QTest::newRow("de") << "Es ist kein Mischpult angeschlossen.";
+  QTest::newRow("es") << "No hay ninguna mesa conectada.";
+  QTest::newRow("fr") << "Aucune table de mixage n’est connectée.";
+  QTest::newRow("it") << "Nessun mixer è collegato.";
+  QTest::newRow("ja") << "ミキサーが接続されていません。";
+  QTest::newRow("ko") << "믹서가 연결되어 있지 않습니다.";
+  QTest::newRow("nl") << "Er is geen mengpaneel aangesloten.";
+  QTest::newRow("pt") << "Nenhuma mesa está ligada.";
+  QTest::newRow("ru") << "Микшер не подключён.";
+  QTest::newRow("zh_CN") << "未连接混音台。";
+  QTest::newRow("zh_TW") << "未連接混音器。";
+}
+
+// Shows the application in the language of the row while it lives.
+class InLanguage {
+ public:
+  InLanguage() : texts_(std::make_unique<QObject>()) {
+    Translate(texts_.get(),
+              QLocale(QString::fromLatin1(QTest::currentDataTag())));
+  }
+
+ private:
+  std::unique_ptr<QObject> texts_;
+};
+
+}  // namespace
+
+void LanguagesTest::SpeakTheUsersLanguage_data() { AddLanguages(); }
+
+void LanguagesTest::SpeakTheUsersLanguage() {
+  QFETCH(QString, noMixer);
+  const InLanguage language;
+  QCOMPARE(WhyNotSent(0, {}), noMixer);
+  // Every text of the window is another one than in English.
+  const MainWindow window;
+  QVERIFY(window.windowTitle() != QStringLiteral("Mixer settings"));
+  const QString cancel =
+      QCoreApplication::translate("QPlatformTheme", "Cancel");
+  QVERIFY(cancel != QStringLiteral("Cancel"));
+}
+
+void LanguagesTest::CutNoText_data() { AddLanguages(); }
+
+void LanguagesTest::CutNoText() {
+  const InLanguage language;
+  MainWindow window;
+  window.showState(FullState());
+  window.show();
+  SettleLayouts();
+  QCOMPARE(CutTexts(window), QStringList());
+}
+
+namespace {
+const bool kLanguagesRegistered = Register<LanguagesTest>("LanguagesTest");
+}  // namespace
+
+}  // namespace ztk::window
+
+#include "languages_test.moc"

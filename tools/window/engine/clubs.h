@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+//
+// Settings that the user has saved under a name: files of `ztk export` in one
+// folder.
+#ifndef ZTK_TOOLS_WINDOW_ENGINE_CLUBS_H_
+#define ZTK_TOOLS_WINDOW_ENGINE_CLUBS_H_
+
+#include <QList>
+#include <QString>
+#include <vector>
+
+#include "window/engine/state.h"
+#include "ztk/model/change.h"
+
+namespace ztk::window {
+
+// By name. Empty where the folder does not exist.
+QList<ClubState> FindClubs();
+
+struct ClubFile {
+  std::vector<model::Change> changes;
+  QString error;  // why it cannot be applied; empty where it can
+};
+ClubFile ReadClub(const QString &path);
+
+// What applying it would change now.
+ClubPreview PreviewOf(const QString &path);
+
+// Saves what is stored now. Returns why it could not, or what is missing in the
+// file; empty where all is well.
+QString SaveClub(const QString &name);
+
+}  // namespace ztk::window
+
+#endif  // ZTK_TOOLS_WINDOW_ENGINE_CLUBS_H_

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "window/engine/sentences.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace ztk::window {
+
+namespace {
+
+struct Sentences {
+  Q_DECLARE_TR_FUNCTIONS(Engine)
+};
+
+// Sentences of the model that are always the same. Those that are not listed
+// here, because they name a file or a user, stay in English.
+// clang-format off
+[[maybe_unused]] constexpr const char *kModelSentences[] = {
+    QT_TRANSLATE_NOOP("Model", "you have no home folder"),
+    QT_TRANSLATE_NOOP("Model", "its folder does not exist and cannot be made"),
+    QT_TRANSLATE_NOOP("Model", "you have no permission"),
+    QT_TRANSLATE_NOOP("Model", "the file system is read-only"),
+    QT_TRANSLATE_NOOP("Model", "the file system or your quota is full"),
+    QT_TRANSLATE_NOOP("Model", "the settings file cannot be read at the moment"),
+    QT_TRANSLATE_NOOP("Model", "a folder or a device has the name of the settings file"),
+    QT_TRANSLATE_NOOP("Model", "the settings file cannot be written"),
+    QT_TRANSLATE_NOOP("Model", "no mixer is attached"),
+    QT_TRANSLATE_NOOP("Model", "no mixer can be found"),
+    QT_TRANSLATE_NOOP("Model", "the system sees none: its plug is out, or it is off; plug it in and switch it on"),
+    QT_TRANSLATE_NOOP("Model", "its plug or its power may be loose"),
+    QT_TRANSLATE_NOOP("Model", "it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same"),
+    QT_TRANSLATE_NOOP("Model", "it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same"),
+    QT_TRANSLATE_NOOP("Model", "only root may open it, as no rule grants you access"),
+    QT_TRANSLATE_NOOP("Model", "the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does"),
+    QT_TRANSLATE_NOOP("Model", "this is a virtual mixer, and ztk-virtual-mixer forbids it"),
+    QT_TRANSLATE_NOOP("Model", "other programs do not hear of changes"),
+    QT_TRANSLATE_NOOP("Model", "the warning texts are not installed"),
+    QT_TRANSLATE_NOOP("Model", "the warning texts are incomplete")};
+// clang-format on
+
+QString FromModel(const std::string &text) {
+  return QCoreApplication::translate("Model", text.c_str());
+}
+
+// As the model's sentences begin with a small letter.
+QString Sentence(QString text) {
+  if (!text.isEmpty()) text[0] = text[0].toUpper();
+  return text;
+}
+
+QString MixerSentence(const model::Mixer &mixer) {
+  switch (mixer.state) {
+    case model::MixerState::Answered:
+      return {};
+    case model::MixerState::Refused:
+      return Sentences::tr("Mixer %1 refuses the value.").arg(mixer.number);
+    case model::MixerState::Silent:
+      return Sentences::tr("Mixer %1 does not answer.").arg(mixer.number);
+    case model::MixerState::Gone:
+      return Sentences::tr("Mixer %1 was unplugged or switched off.")
+          .arg(mixer.number);
+    case model::MixerState::NotOpened:
+      return Sentences::tr("You have no permission to open mixer %1.")
+          .arg(mixer.number);
+    case model::MixerState::Failed:
+      break;
+  }
+  return Sentences::tr("The request to mixer %1 failed.").arg(mixer.number);
+}
+
+// "mixer 2 does not answer": the number is the only part that changes.
+struct Opening {
+  const char *id;
+  const char *sentence;
+};
+// clang-format off
+constexpr Opening kOpenings[] = {
+    {"silent", QT_TRANSLATE_NOOP("Engine", "Mixer %1 does not answer.")},
+    {"refusing", QT_TRANSLATE_NOOP("Engine", "Mixer %1 refuses what it is asked.")},
+    {"gone", QT_TRANSLATE_NOOP("Engine", "Mixer %1 was unplugged or switched off.")}};
+// clang-format on
+constexpr char kNotOpened[] =
+    QT_TRANSLATE_NOOP("Engine", "You have no permission to open mixer %1.");
+
+// The number in "mixer 2 is attached, but ..."; empty in other sentences.
+QString MixerNumber(const std::string &sentence) {
+  constexpr char kStart[] = "mixer ";
+  if (!sentence.starts_with(kStart)) return {};
+  const QString rest =
+      QString::fromStdString(sentence.substr(sizeof kStart - 1));
+  return rest.section(QLatin1Char(' '), 0, 0);
+}
+
+QString WhatFails(const model::Finding &finding) {
+  const QString number = MixerNumber(finding.what);
+  if (number.isEmpty()) return FromModel(finding.what);
+  for (const Opening &opening : kOpenings) {
+    if (finding.id == opening.id) {
+      return Sentences::tr(opening.sentence).arg(number);
+    }
+  }
+  return Sentences::tr(kNotOpened).arg(number);
+}
+
+}  // namespace
+
+QString WhyNotSent(std::size_t accepted, const model::Reach &reach) {
+  if (reach.found() == 0) return Sentences::tr("No mixer is attached.");
+  if (accepted == reach.found()) return {};
+  QStringList sentences;
+  for (const model::Mixer &mixer : reach.mixers) {
+    const QString sentence = MixerSentence(mixer);
+    if (!sentence.isEmpty()) sentences.append(sentence);
+  }
+  return sentences.join(QLatin1Char(' '));
+}
+
+QString WhyNotStored(const model::MadeChange &change) {
+  if (change.result == ZTK_REJECTED) {
+    return Sentences::tr("The mixer's library does not accept this choice.");
+  }
+  return Sentences::tr("Not stored: %1.").arg(FromModel(change.notStored));
+}
+
+QString PlaceText(const model::Setting &setting, std::uint32_t channel) {
+  if (&setting == &model::kInput) {
+    return Sentences::tr("USB input %1").arg(channel + 1);
+  }
+  if (&setting == &model::kOutput) {
+    return Sentences::tr("USB output %1").arg(channel + 1);
+  }
+  return &setting == &model::kBoost ? Sentences::tr("USB output level")
+                                    : Sentences::tr("MIDI channel");
+}
+
+QString ChoiceText(const model::Setting &setting, std::uint32_t channel,
+                   std::uint32_t index) {
+  const auto choice = model::ChoiceAt(setting, channel, index);
+  return choice ? QString::fromStdString(choice->text)
+                : Sentences::tr("%1, which is not a choice")
+                      .arg(static_cast<std::int32_t>(index));
+}
+
+FindingState Translated(const model::Finding &finding) {
+  return {.id = QString::fromStdString(finding.id),
+          .what = Sentence(WhatFails(finding)),
+          .cause = Sentence(FromModel(finding.cause)),
+          .command = QString::fromStdString(finding.command),
+          .isNote = finding.isNote};
+}
+
+}  // namespace ztk::window

@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+#include "window/engine/steps.h"
+
+#include <QCoreApplication>
+#include <vector>
+
+#include "window/engine/clubs.h"
+#include "window/engine/sentences.h"
+#include "ztk/model/resend.h"
+#include "ztk/model/undo.h"
+#include "ztk/system/library_text.h"
+
+namespace ztk::window {
+
+namespace {
+
+constexpr std::uint32_t kUsersLanguage = 99;
+
+struct Steps {
+  Q_DECLARE_TR_FUNCTIONS(Engine)
+};
+
+using model::Change;
+using model::History;
+using model::MadeChange;
+using model::MadeChanges;
+using model::Reach;
+
+// The library's sentence about a choice that cannot be heard.
+QString WarningText(const MadeChange &one, const Reach &reach) {
+  // Without a mixer the row says that already.
+  if (one.result != ZTK_WARNING || !one.selectorsKnown || reach.found() == 0) {
+    return {};
+  }
+  ZTKTextRef text = nullptr;
+  ZTK_GetWarningTextForSetUSBAudioInput(one.change.product, one.change.channel,
+                                        ZTK_WARNING, kUsersLanguage, &text);
+  if (text != nullptr) return QString::fromStdString(model::Utf8(text));
+  // The library's texts are not installed.
+  return Steps::tr(
+      "This cannot be heard: the input selector has another position.");
+}
+
+RowOutcome OutcomeOf(const MadeChange &one, const Reach &reach) {
+  RowOutcome row{.setting = one.change.setting,
+                 .channel = one.change.channel,
+                 .index = one.change.index,
+                 .delivery = Delivery::Failed,
+                 .accepted = static_cast<int>(one.accepted),
+                 .reason = {},
+                 .warning = {}};
+  if (!one.remembered && !one.forgotten) {
+    row.reason = WhyNotStored(one);
+    return row;
+  }
+  row.reason = WhyNotSent(one.accepted, reach);
+  row.delivery =
+      row.reason.isEmpty() ? Delivery::Sent : Delivery::RememberedOnly;
+  row.warning = WarningText(one, reach);
+  return row;
+}
+
+StepOutcome OutcomeOf(const MadeChanges &made) {
+  StepOutcome outcome;
+  for (const MadeChange &one : made.changes) {
+    outcome.rows.append(OutcomeOf(one, made.reach));
+  }
+  return outcome;
+}
+
+QString BusyText() {
+  return Steps::tr(
+      "Another program is changing the settings. Try again in a moment.");
+}
+
+StepOutcome Make(const char *command, const std::vector<Change> &changes) {
+  History history;
+  if (history.state() == History::State::Busy) {
+    StepOutcome outcome;
+    for (const Change &change : changes) {
+      outcome.rows.append({.setting = change.setting,
+                           .channel = change.channel,
+                           .index = change.index,
+                           .delivery = Delivery::Failed,
+                           .accepted = 0,
+                           .reason = BusyText(),
+                           .warning = {}});
+    }
+    return outcome;
+  }
+  const model::MadeStep step = model::MakeStep(command, changes, &history);
+  StepOutcome outcome = OutcomeOf(step.made);
+  if (!step.notRecorded.empty()) {
+    outcome.report = Steps::tr("This cannot be undone: %1.")
+                         .arg(QString::fromStdString(step.notRecorded));
+  }
+  return outcome;
+}
+
+// Names the values that undo leaves alone.
+QString LeftAloneText(const std::vector<model::UndoItem> &items) {
+  QStringList places;
+  for (const model::UndoItem &item : items) {
+    if (item.action == model::UndoItem::Action::LeaveAlone) {
+      places.append(PlaceText(*item.past.setting, item.past.channel));
+    }
+  }
+  if (places.isEmpty()) return {};
+  return Steps::tr(
+             "Left as it is, because another program has changed it "
+             "since: %1.")
+      .arg(places.join(QStringLiteral(", ")));
+}
+
+StepOutcome UndoIn(History *history) {
+  StepOutcome outcome;
+  model::DropVoidSteps(history);
+  if (history->steps().empty()) {
+    outcome.report = Steps::tr("There is nothing to undo.");
+    return outcome;
+  }
+  const std::string why = model::WhyUnreadable(history->steps().back());
+  if (!why.empty()) {
+    outcome.report = Steps::tr("The settings file cannot be read: %1.")
+                         .arg(QString::fromStdString(why));
+    return outcome;
+  }
+  const std::vector<model::UndoItem> items = model::PlanUndo(history->steps());
+  const MadeChanges made = model::MakeChanges(model::ChangesOf(items));
+  outcome = OutcomeOf(made);
+  outcome.report = LeftAloneText(items);
+  bool done = true;
+  for (const MadeChange &one : made.changes) {
+    done =
+        done && (one.remembered || one.forgotten || one.result == ZTK_REJECTED);
+  }
+  if (done) history->DropLast();
+  if (!history->Save()) {
+    outcome.report = Steps::tr(
+        "The history of changes cannot be written, so the same step "
+        "may be undone again.");
+  }
+  return outcome;
+}
+
+RowOutcome OutcomeOf(const model::StoredValue &value, const Reach &reach) {
+  RowOutcome row{.setting = value.setting,
+                 .channel = value.channel,
+                 .index = value.index,
+                 .delivery = Delivery::RememberedOnly,
+                 .accepted = static_cast<int>(value.accepted),
+                 .reason = {},
+                 .warning = {}};
+  if (value.refused) {
+    row.reason =
+        Steps::tr("This choice cannot be sent again. Choose it once more.");
+    return row;
+  }
+  row.reason = WhyNotSent(value.accepted, reach);
+  if (row.reason.isEmpty()) row.delivery = Delivery::Sent;
+  return row;
+}
+
+}  // namespace
+
+StepOutcome Choose(const model::Setting &setting, std::uint32_t channel,
+                   std::uint32_t index) {
+  const std::string command = std::string(setting.name) + " set";
+  StepOutcome outcome = Make(command.c_str(), {{.setting = &setting,
+                                                .product = setting.product,
+                                                .channel = channel,
+                                                .index = index}});
+  outcome.stored = ReadStored();
+  return outcome;
+}
+
+StepOutcome UndoLast() {
+  StepOutcome outcome;
+  {
+    History history;
+    switch (history.state()) {
+      case History::State::Usable:
+        outcome = UndoIn(&history);
+        break;
+      case History::State::Busy:
+        outcome.report = BusyText();
+        break;
+      case History::State::Unavailable:
+        outcome.report = Steps::tr("Nothing can be undone: %1.")
+                             .arg(QString::fromStdString(history.reason()));
+        break;
+    }
+  }
+  outcome.stored = ReadStored();
+  return outcome;
+}
+
+StepOutcome ResendAll() {
+  std::vector<model::StoredValue> values = model::AllStoredValues();
+  StepOutcome outcome;
+  if (values.empty()) {
+    outcome.report = Steps::tr("Nothing is remembered, so nothing was sent.");
+  } else {
+    const Reach reach = model::SendAgain(&values);
+    for (const model::StoredValue &value : values) {
+      outcome.rows.append(OutcomeOf(value, reach));
+    }
+  }
+  outcome.stored = ReadStored();
+  return outcome;
+}
+
+StepOutcome ApplyFile(const QString &path) {
+  const ClubFile file = ReadClub(path);
+  StepOutcome outcome;
+  if (file.error.isEmpty()) {
+    outcome = Make("import", file.changes);
+  } else {
+    outcome.report = file.error;
+  }
+  outcome.stored = ReadStored();
+  return outcome;
+}
+
+}  // namespace ztk::window

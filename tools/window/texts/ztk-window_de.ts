@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+    <context>
+        <name>ChoiceRow</name>
+        <message>
+            <source>%1, which is not a choice</source>
+            <translation>%1, keine gültige Wahl</translation>
+        </message>
+    </context>
+    <context>
+        <name>ClubDialog</name>
+        <message>
+            <source>“%1” cannot be applied. %2</source>
+            <translation>„%1“ kann nicht angewendet werden. %2</translation>
+        </message>
+        <message>
+            <source>“%1” changes nothing: all of its settings are remembered already.</source>
+            <translation>„%1“ ändert nichts: Alle Einstellungen darin sind schon gespeichert.</translation>
+        </message>
+        <message>
+            <source>“%1” changes these settings:</source>
+            <translation>„%1“ ändert diese Einstellungen:</translation>
+        </message>
+        <message>
+            <source>Apply a club</source>
+            <translation>Club anwenden</translation>
+        </message>
+        <message>
+            <source>&amp;Apply</source>
+            <translation>&amp;Anwenden</translation>
+        </message>
+    </context>
+    <context>
+        <name>Engine</name>
+        <message>
+            <source>The file cannot be read: %1.</source>
+            <translation>Die Datei kann nicht gelesen werden: %1.</translation>
+        </message>
+        <message>
+            <source>The file is too large to hold settings.</source>
+            <translation>Die Datei ist zu groß für Einstellungen.</translation>
+        </message>
+        <message>
+            <source>The file holds no valid settings: %1.</source>
+            <translation>Die Datei enthält keine gültigen Einstellungen: %1.</translation>
+        </message>
+        <message>
+            <source>The club needs a name.</source>
+            <translation>Der Club braucht einen Namen.</translation>
+        </message>
+        <message>
+            <source>The settings file cannot be read: %1.</source>
+            <translation>Die Einstellungsdatei kann nicht gelesen werden: %1.</translation>
+        </message>
+        <message>
+            <source>The club cannot be saved: %1.</source>
+            <translation>Der Club kann nicht gespeichert werden: %1.</translation>
+        </message>
+        <message>
+            <source>Saved without %1.</source>
+            <translation>Gespeichert ohne %1.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>Änderungen anderer Programme werden nicht angezeigt, weil QT_NO_GLIB gesetzt ist. Starten Sie das Fenster ohne diese Variable.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>Änderungen anderer Programme werden nicht angezeigt, weil der Nachrichtenbus der Sitzung fehlt oder beendet wurde. Starten Sie das Fenster neu, sobald es einen gibt.</translation>
+        </message>
+        <message>
+            <source>No mixer is attached.</source>
+            <translation>Es ist kein Mischpult angeschlossen.</translation>
+        </message>
+        <message>
+            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
+            <translation>Seitdem wurde ein Mischpult angeschlossen. Senden Sie alles erneut, damit es diese Wahl erhält.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses the value.</source>
+            <translation>Mischpult %1 lehnt den Wert ab.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 does not answer.</source>
+            <translation>Mischpult %1 antwortet nicht.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 was unplugged or switched off.</source>
+            <translation>Mischpult %1 wurde getrennt oder ausgeschaltet.</translation>
+        </message>
+        <message>
+            <source>You have no permission to open mixer %1.</source>
+            <translation>Sie dürfen Mischpult %1 nicht öffnen.</translation>
+        </message>
+        <message>
+            <source>The request to mixer %1 failed.</source>
+            <translation>Die Anfrage an Mischpult %1 ist gescheitert.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses what it is asked.</source>
+            <translation>Mischpult %1 lehnt Anfragen ab.</translation>
+        </message>
+        <message>
+            <source>The mixer's library does not accept this choice.</source>
+            <translation>Die Bibliothek des Mischpults nimmt diese Wahl nicht an.</translation>
+        </message>
+        <message>
+            <source>Not stored: %1.</source>
+            <translation>Nicht gespeichert: %1.</translation>
+        </message>
+        <message>
+            <source>USB input %1</source>
+            <translation>USB-Eingang %1</translation>
+        </message>
+        <message>
+            <source>USB output %1</source>
+            <translation>USB-Ausgang %1</translation>
+        </message>
+        <message>
+            <source>USB output level</source>
+            <translation>USB-Ausgangspegel</translation>
+        </message>
+        <message>
+            <source>MIDI channel</source>
+            <translation>MIDI-Kanal</translation>
+        </message>
+        <message>
+            <source>%1, which is not a choice</source>
+            <translation>%1, keine gültige Wahl</translation>
+        </message>
+        <message>
+            <source>This cannot be heard: the input selector has another position.</source>
+            <translation>Das ist nicht zu hören: Der Eingangswahlschalter steht anders.</translation>
+        </message>
+        <message>
+            <source>Another program is changing the settings. Try again in a moment.</source>
+            <translation>Ein anderes Programm ändert gerade die Einstellungen. Versuchen Sie es gleich noch einmal.</translation>
+        </message>
+        <message>
+            <source>This cannot be undone: %1.</source>
+            <translation>Das kann nicht rückgängig gemacht werden: %1.</translation>
+        </message>
+        <message>
+            <source>Left as it is, because another program has changed it since: %1.</source>
+            <translation>Unverändert gelassen, weil ein anderes Programm es seitdem geändert hat: %1.</translation>
+        </message>
+        <message>
+            <source>There is nothing to undo.</source>
+            <translation>Es gibt nichts rückgängig zu machen.</translation>
+        </message>
+        <message>
+            <source>The history of changes cannot be written, so the same step may be undone again.</source>
+            <translation>Der Verlauf der Änderungen kann nicht geschrieben werden; derselbe Schritt wird daher vielleicht noch einmal rückgängig gemacht.</translation>
+        </message>
+        <message>
+            <source>This choice cannot be sent again. Choose it once more.</source>
+            <translation>Diese Wahl kann nicht erneut gesendet werden. Wählen Sie sie noch einmal.</translation>
+        </message>
+        <message>
+            <source>Nothing can be undone: %1.</source>
+            <translation>Es kann nichts rückgängig gemacht werden: %1.</translation>
+        </message>
+        <message>
+            <source>Nothing is remembered, so nothing was sent.</source>
+            <translation>Es ist nichts gespeichert, daher wurde nichts gesendet.</translation>
+        </message>
+    </context>
+    <context>
+        <name>MainWindow</name>
+        <message>
+            <source>Mixer settings</source>
+            <translation>Mischpult-Einstellungen</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;Datei</translation>
+        </message>
+        <message>
+            <source>&amp;Quit</source>
+            <translation>&amp;Beenden</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>&amp;Bearbeiten</translation>
+        </message>
+        <message>
+            <source>&amp;Undo</source>
+            <translation>&amp;Rückgängig</translation>
+        </message>
+        <message>
+            <source>&amp;Mixer</source>
+            <translation>&amp;Mischpult</translation>
+        </message>
+        <message>
+            <source>&amp;Send all again</source>
+            <translation>Alles erneut &amp;senden</translation>
+        </message>
+        <message>
+            <source>Ctrl+R</source>
+            <translation>Ctrl+R</translation>
+        </message>
+        <message>
+            <source>Send all at each &amp;plug-in</source>
+            <translation>Beim &amp;Anschließen alles senden</translation>
+        </message>
+        <message>
+            <source>&amp;Check again</source>
+            <translation>Erneut &amp;prüfen</translation>
+        </message>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Clubs</translation>
+        </message>
+        <message>
+            <source>Sends what is remembered to the mixers; changes nothing.</source>
+            <translation>Sendet das Gespeicherte an die Mischpulte; ändert nichts.</translation>
+        </message>
+        <message>
+            <source>&amp;Undo: %1</source>
+            <translation>&amp;Rückgängig: %1</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>Als Club &amp;speichern …</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Als Club speichern</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Name des Clubs; alle gespeicherten Einstellungen werden darunter abgelegt:</translation>
+        </message>
+    </context>
+    <context>
+        <name>Model</name>
+        <message>
+            <source>you have no home folder</source>
+            <translation>Sie haben keinen persönlichen Ordner</translation>
+        </message>
+        <message>
+            <source>its folder does not exist and cannot be made</source>
+            <translation>der Ordner fehlt und kann nicht angelegt werden</translation>
+        </message>
+        <message>
+            <source>you have no permission</source>
+            <translation>Sie haben keine Berechtigung</translation>
+        </message>
+        <message>
+            <source>the file system is read-only</source>
+            <translation>das Dateisystem ist schreibgeschützt</translation>
+        </message>
+        <message>
+            <source>the file system or your quota is full</source>
+            <translation>das Dateisystem oder Ihr Kontingent ist voll</translation>
+        </message>
+        <message>
+            <source>the settings file cannot be read at the moment</source>
+            <translation>die Einstellungsdatei kann gerade nicht gelesen werden</translation>
+        </message>
+        <message>
+            <source>a folder or a device has the name of the settings file</source>
+            <translation>ein Ordner oder Gerät trägt den Namen der Einstellungsdatei</translation>
+        </message>
+        <message>
+            <source>the settings file cannot be written</source>
+            <translation>die Einstellungsdatei kann nicht geschrieben werden</translation>
+        </message>
+        <message>
+            <source>no mixer is attached</source>
+            <translation>es ist kein Mischpult angeschlossen</translation>
+        </message>
+        <message>
+            <source>no mixer can be found</source>
+            <translation>es ist kein Mischpult zu finden</translation>
+        </message>
+        <message>
+            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <translation>das System sieht keines: Der Stecker ist gezogen, oder es ist aus; schließen Sie es an und schalten Sie es ein</translation>
+        </message>
+        <message>
+            <source>its plug or its power may be loose</source>
+            <translation>der Stecker oder die Stromversorgung sitzt vielleicht lose</translation>
+        </message>
+        <message>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <translation>es ist angeschlossen und darf geöffnet werden, startet aber noch oder hängt; schalten Sie es aus und wieder ein, oder geben Sie den Befehl ein, der dasselbe tut</translation>
+        </message>
+        <message>
+            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <translation>es ist angeschlossen und darf geöffnet werden, aber etwas darin versagt; schalten Sie es aus und wieder ein, oder geben Sie den Befehl ein, der dasselbe tut</translation>
+        </message>
+        <message>
+            <source>only root may open it, as no rule grants you access</source>
+            <translation>nur root darf es öffnen, da Ihnen keine Regel Zugriff gewährt</translation>
+        </message>
+        <message>
+            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <translation>die Regel, die Ihnen Zugriff gewährt, kam erst nach dem Anschließen; dieser Befehl wirkt wie erneutes Anschließen</translation>
+        </message>
+        <message>
+            <source>this is a virtual mixer, and ztk-virtual-mixer forbids it</source>
+            <translation>dies ist ein virtuelles Mischpult, und ztk-virtual-mixer verbietet es</translation>
+        </message>
+        <message>
+            <source>other programs do not hear of changes</source>
+            <translation>andere Programme erfahren nichts von Änderungen</translation>
+        </message>
+        <message>
+            <source>the warning texts are not installed</source>
+            <translation>die Warntexte sind nicht installiert</translation>
+        </message>
+        <message>
+            <source>the warning texts are incomplete</source>
+            <translation>die Warntexte sind unvollständig</translation>
+        </message>
+    </context>
+    <context>
+        <name>Notices</name>
+        <message>
+            <source>Mixer %1 answers</source>
+            <translation>Mischpult %1 antwortet</translation>
+        </message>
+        <message>
+            <source>firmware %1</source>
+            <translation>Firmware %1</translation>
+        </message>
+        <message>
+            <source>certified level %1</source>
+            <translation>zertifizierte Stufe %1</translation>
+        </message>
+        <message>
+            <source>Serato is active</source>
+            <translation>Serato ist aktiv</translation>
+        </message>
+        <message>
+            <source>Serato is not active</source>
+            <translation>Serato ist nicht aktiv</translation>
+        </message>
+        <message>
+            <source>Mixer %1 is being asked…</source>
+            <translation>Mischpult %1 wird abgefragt …</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses what it is asked.</source>
+            <translation>Mischpult %1 lehnt Anfragen ab.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 does not answer.</source>
+            <translation>Mischpult %1 antwortet nicht.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 was unplugged or switched off.</source>
+            <translation>Mischpult %1 wurde getrennt oder ausgeschaltet.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 is attached, but you may not open it.</source>
+            <translation>Mischpult %1 ist angeschlossen, aber Sie dürfen es nicht öffnen.</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Kopieren</translation>
+        </message>
+        <message>
+            <source>Copy the command %1</source>
+            <translation>Befehl %1 kopieren</translation>
+        </message>
+        <message>
+            <source>Looking for mixers…</source>
+            <translation>Mischpulte werden gesucht …</translation>
+        </message>
+        <message>
+            <source>No mixer is attached. What you choose is remembered, and can be sent when a mixer is plugged in.</source>
+            <translation>Es ist kein Mischpult angeschlossen. Ihre Wahl wird gespeichert und kann gesendet werden, sobald eines angeschlossen ist.</translation>
+        </message>
+        <message>
+            <source>Changes of other programs are not shown here.</source>
+            <translation>Änderungen anderer Programme werden hier nicht angezeigt.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Picture</name>
+        <message>
+            <source>CH%1 after its fader</source>
+            <translation>CH%1 nach dem Fader</translation>
+        </message>
+        <message>
+            <source>Cross fader A</source>
+            <translation>Crossfader A</translation>
+        </message>
+        <message>
+            <source>Cross fader B</source>
+            <translation>Crossfader B</translation>
+        </message>
+        <message>
+            <source>Picture of the routing</source>
+            <translation>Bild der Signalwege</translation>
+        </message>
+        <message>
+            <source>Inputs</source>
+            <translation>Eingänge</translation>
+        </message>
+        <message>
+            <source>Selector</source>
+            <translation>Wahlschalter</translation>
+        </message>
+        <message>
+            <source>Fader</source>
+            <translation>Fader</translation>
+        </message>
+        <message>
+            <source>Cross fader</source>
+            <translation>Crossfader</translation>
+        </message>
+        <message>
+            <source>USB %1 cannot record %2.</source>
+            <translation>USB %1 kann %2 nicht aufnehmen.</translation>
+        </message>
+        <message>
+            <source>%1, recorded by %2</source>
+            <translation>%1, aufgenommen von %2</translation>
+        </message>
+        <message>
+            <source>%1. USB %2 cannot record it.</source>
+            <translation>%1. USB %2 kann das nicht aufnehmen.</translation>
+        </message>
+    </context>
+    <context>
+        <name>QPlatformTheme</name>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Speichern</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Abbrechen</translation>
+        </message>
+        <message>
+            <source>Close</source>
+            <translation>Schließen</translation>
+        </message>
+        <message>
+            <source>Apply</source>
+            <translation>Anwenden</translation>
+        </message>
+    </context>
+    <context>
+        <name>RoutingPage</name>
+        <message>
+            <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
+            <translation>Klicken Sie auf einen Kreis, um ihn auf USB %1 aufzunehmen, oder ziehen Sie eine Zahl auf einen anderen Kreis.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Row</name>
+        <message>
+            <source>Turn the selector of CH%1 from %2 to %3.</source>
+            <translation>Drehen Sie den Wahlschalter von CH%1 von %2 auf %3.</translation>
+        </message>
+        <message>
+            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
+            <translation>Drehen Sie am Mischpult %4 den Wahlschalter von CH%1 von %2 auf %3.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer, and remembered.</source>
+            <translation>An das Mischpult gesendet und gespeichert.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers, and remembered.</source>
+            <translation>
+                <numerusform>An %n Mischpult gesendet und gespeichert.</numerusform>
+                <numerusform>An %n Mischpulte gesendet und gespeichert.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Nothing is remembered; this is the default.</source>
+            <translation>Nichts gespeichert; dies ist die Vorgabe.</translation>
+        </message>
+        <message>
+            <source>Remembered; no mixer has it.</source>
+            <translation>Gespeichert; kein Mischpult hat es.</translation>
+        </message>
+        <message>
+            <source>Remembered.</source>
+            <translation>Gespeichert.</translation>
+        </message>
+        <message>
+            <source>Sending…</source>
+            <translation>Wird gesendet …</translation>
+        </message>
+        <message>
+            <source>Remembered only.</source>
+            <translation>Nur gespeichert.</translation>
+        </message>
+        <message>
+            <source>Not stored.</source>
+            <translation>Nicht gespeichert.</translation>
+        </message>
+        <message>
+            <source>USB &amp;%1 records:</source>
+            <translation>USB &amp;%1 nimmt auf:</translation>
+        </message>
+        <message>
+            <source>USB &amp;%1 plays on:</source>
+            <translation>USB &amp;%1 spielt auf:</translation>
+        </message>
+        <message>
+            <source>USB output &amp;level:</source>
+            <translation>USB-Ausgangs&amp;pegel:</translation>
+        </message>
+        <message>
+            <source>MIDI &amp;channel:</source>
+            <translation>MIDI-&amp;Kanal:</translation>
+        </message>
+    </context>
+</TS>

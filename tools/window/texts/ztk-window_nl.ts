@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl">
+    <context>
+        <name>ChoiceRow</name>
+        <message>
+            <source>%1, which is not a choice</source>
+            <translation>%1, geen geldige keuze</translation>
+        </message>
+    </context>
+    <context>
+        <name>ClubDialog</name>
+        <message>
+            <source>“%1” cannot be applied. %2</source>
+            <translation>‘%1’ kan niet worden toegepast. %2</translation>
+        </message>
+        <message>
+            <source>“%1” changes nothing: all of its settings are remembered already.</source>
+            <translation>‘%1’ verandert niets: alle instellingen ervan zijn al opgeslagen.</translation>
+        </message>
+        <message>
+            <source>“%1” changes these settings:</source>
+            <translation>‘%1’ verandert deze instellingen:</translation>
+        </message>
+        <message>
+            <source>Apply a club</source>
+            <translation>Club toepassen</translation>
+        </message>
+        <message>
+            <source>&amp;Apply</source>
+            <translation>&amp;Toepassen</translation>
+        </message>
+    </context>
+    <context>
+        <name>Engine</name>
+        <message>
+            <source>The file cannot be read: %1.</source>
+            <translation>Het bestand kan niet worden gelezen: %1.</translation>
+        </message>
+        <message>
+            <source>The file is too large to hold settings.</source>
+            <translation>Het bestand is te groot om instellingen te bevatten.</translation>
+        </message>
+        <message>
+            <source>The file holds no valid settings: %1.</source>
+            <translation>Het bestand bevat geen geldige instellingen: %1.</translation>
+        </message>
+        <message>
+            <source>The club needs a name.</source>
+            <translation>De club heeft een naam nodig.</translation>
+        </message>
+        <message>
+            <source>The settings file cannot be read: %1.</source>
+            <translation>Het instellingenbestand kan niet worden gelezen: %1.</translation>
+        </message>
+        <message>
+            <source>The club cannot be saved: %1.</source>
+            <translation>De club kan niet worden opgeslagen: %1.</translation>
+        </message>
+        <message>
+            <source>Saved without %1.</source>
+            <translation>Opgeslagen zonder %1.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>Wijzigingen door andere programma’s worden niet getoond, omdat QT_NO_GLIB is ingesteld. Start het venster zonder die variabele.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>Wijzigingen door andere programma’s worden niet getoond, omdat de berichtenbus van de sessie ontbreekt of is gestopt. Start het venster opnieuw zodra die er is.</translation>
+        </message>
+        <message>
+            <source>No mixer is attached.</source>
+            <translation>Er is geen mengpaneel aangesloten.</translation>
+        </message>
+        <message>
+            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
+            <translation>Sindsdien is een mengpaneel aangesloten. Stuur alles opnieuw, zodat het deze keuze krijgt.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses the value.</source>
+            <translation>Mengpaneel %1 weigert de waarde.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 does not answer.</source>
+            <translation>Mengpaneel %1 antwoordt niet.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 was unplugged or switched off.</source>
+            <translation>Mengpaneel %1 is losgekoppeld of uitgezet.</translation>
+        </message>
+        <message>
+            <source>You have no permission to open mixer %1.</source>
+            <translation>U mag mengpaneel %1 niet openen.</translation>
+        </message>
+        <message>
+            <source>The request to mixer %1 failed.</source>
+            <translation>De opdracht aan mengpaneel %1 is mislukt.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses what it is asked.</source>
+            <translation>Mengpaneel %1 weigert wat het wordt gevraagd.</translation>
+        </message>
+        <message>
+            <source>The mixer's library does not accept this choice.</source>
+            <translation>De bibliotheek van het mengpaneel aanvaardt deze keuze niet.</translation>
+        </message>
+        <message>
+            <source>Not stored: %1.</source>
+            <translation>Niet opgeslagen: %1.</translation>
+        </message>
+        <message>
+            <source>USB input %1</source>
+            <translation>USB-ingang %1</translation>
+        </message>
+        <message>
+            <source>USB output %1</source>
+            <translation>USB-uitgang %1</translation>
+        </message>
+        <message>
+            <source>USB output level</source>
+            <translation>USB-uitgangsniveau</translation>
+        </message>
+        <message>
+            <source>MIDI channel</source>
+            <translation>MIDI-kanaal</translation>
+        </message>
+        <message>
+            <source>%1, which is not a choice</source>
+            <translation>%1, geen geldige keuze</translation>
+        </message>
+        <message>
+            <source>This cannot be heard: the input selector has another position.</source>
+            <translation>Dit is niet te horen: de ingangskeuzeschakelaar staat anders.</translation>
+        </message>
+        <message>
+            <source>Another program is changing the settings. Try again in a moment.</source>
+            <translation>Een ander programma wijzigt de instellingen. Probeer het zo meteen opnieuw.</translation>
+        </message>
+        <message>
+            <source>This cannot be undone: %1.</source>
+            <translation>Dit kan niet ongedaan worden gemaakt: %1.</translation>
+        </message>
+        <message>
+            <source>Left as it is, because another program has changed it since: %1.</source>
+            <translation>Ongewijzigd gelaten, omdat een ander programma het sindsdien heeft gewijzigd: %1.</translation>
+        </message>
+        <message>
+            <source>There is nothing to undo.</source>
+            <translation>Er is niets ongedaan te maken.</translation>
+        </message>
+        <message>
+            <source>The history of changes cannot be written, so the same step may be undone again.</source>
+            <translation>De geschiedenis van wijzigingen kan niet worden geschreven; dezelfde stap wordt mogelijk nogmaals ongedaan gemaakt.</translation>
+        </message>
+        <message>
+            <source>This choice cannot be sent again. Choose it once more.</source>
+            <translation>Deze keuze kan niet opnieuw worden verzonden. Kies haar nog een keer.</translation>
+        </message>
+        <message>
+            <source>Nothing can be undone: %1.</source>
+            <translation>Er kan niets ongedaan worden gemaakt: %1.</translation>
+        </message>
+        <message>
+            <source>Nothing is remembered, so nothing was sent.</source>
+            <translation>Er is niets opgeslagen, dus er is niets verzonden.</translation>
+        </message>
+    </context>
+    <context>
+        <name>MainWindow</name>
+        <message>
+            <source>Mixer settings</source>
+            <translation>Mengpaneelinstellingen</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;Bestand</translation>
+        </message>
+        <message>
+            <source>&amp;Quit</source>
+            <translation>&amp;Afsluiten</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>Be&amp;werken</translation>
+        </message>
+        <message>
+            <source>&amp;Undo</source>
+            <translation>&amp;Ongedaan maken</translation>
+        </message>
+        <message>
+            <source>&amp;Mixer</source>
+            <translation>&amp;Mengpaneel</translation>
+        </message>
+        <message>
+            <source>&amp;Send all again</source>
+            <translation>Alles opnieuw &amp;verzenden</translation>
+        </message>
+        <message>
+            <source>Ctrl+R</source>
+            <translation>Ctrl+R</translation>
+        </message>
+        <message>
+            <source>Send all at each &amp;plug-in</source>
+            <translation>Alles verzenden bij &amp;aansluiten</translation>
+        </message>
+        <message>
+            <source>&amp;Check again</source>
+            <translation>Opnieuw &amp;controleren</translation>
+        </message>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Clubs</translation>
+        </message>
+        <message>
+            <source>Sends what is remembered to the mixers; changes nothing.</source>
+            <translation>Verzendt wat is opgeslagen naar de mengpanelen; verandert niets.</translation>
+        </message>
+        <message>
+            <source>&amp;Undo: %1</source>
+            <translation>&amp;Ongedaan maken: %1</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>Als club op&amp;slaan…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Als club opslaan</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Naam van de club; alle opgeslagen instellingen worden daaronder bewaard:</translation>
+        </message>
+    </context>
+    <context>
+        <name>Model</name>
+        <message>
+            <source>you have no home folder</source>
+            <translation>u hebt geen persoonlijke map</translation>
+        </message>
+        <message>
+            <source>its folder does not exist and cannot be made</source>
+            <translation>de map bestaat niet en kan niet worden gemaakt</translation>
+        </message>
+        <message>
+            <source>you have no permission</source>
+            <translation>u hebt geen toestemming</translation>
+        </message>
+        <message>
+            <source>the file system is read-only</source>
+            <translation>het bestandssysteem is alleen-lezen</translation>
+        </message>
+        <message>
+            <source>the file system or your quota is full</source>
+            <translation>het bestandssysteem of uw quotum is vol</translation>
+        </message>
+        <message>
+            <source>the settings file cannot be read at the moment</source>
+            <translation>het instellingenbestand kan op dit moment niet worden gelezen</translation>
+        </message>
+        <message>
+            <source>a folder or a device has the name of the settings file</source>
+            <translation>een map of apparaat heeft de naam van het instellingenbestand</translation>
+        </message>
+        <message>
+            <source>the settings file cannot be written</source>
+            <translation>het instellingenbestand kan niet worden geschreven</translation>
+        </message>
+        <message>
+            <source>no mixer is attached</source>
+            <translation>er is geen mengpaneel aangesloten</translation>
+        </message>
+        <message>
+            <source>no mixer can be found</source>
+            <translation>er is geen mengpaneel te vinden</translation>
+        </message>
+        <message>
+            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <translation>het systeem ziet er geen: de stekker is eruit of het staat uit; sluit het aan en zet het aan</translation>
+        </message>
+        <message>
+            <source>its plug or its power may be loose</source>
+            <translation>de stekker of de voeding zit misschien los</translation>
+        </message>
+        <message>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <translation>het is aangesloten en mag worden geopend, maar het start nog of hangt; zet het uit en weer aan, of typ de opdracht die hetzelfde doet</translation>
+        </message>
+        <message>
+            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <translation>het is aangesloten en mag worden geopend, maar er gaat iets in mis; zet het uit en weer aan, of typ de opdracht die hetzelfde doet</translation>
+        </message>
+        <message>
+            <source>only root may open it, as no rule grants you access</source>
+            <translation>alleen root mag het openen, omdat geen regel u toegang geeft</translation>
+        </message>
+        <message>
+            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <translation>de regel die u toegang geeft kwam na het aansluiten; dit doet hetzelfde als opnieuw aansluiten</translation>
+        </message>
+        <message>
+            <source>this is a virtual mixer, and ztk-virtual-mixer forbids it</source>
+            <translation>dit is een virtueel mengpaneel en ztk-virtual-mixer verbiedt het</translation>
+        </message>
+        <message>
+            <source>other programs do not hear of changes</source>
+            <translation>andere programma’s horen niet van wijzigingen</translation>
+        </message>
+        <message>
+            <source>the warning texts are not installed</source>
+            <translation>de waarschuwingsteksten zijn niet geïnstalleerd</translation>
+        </message>
+        <message>
+            <source>the warning texts are incomplete</source>
+            <translation>de waarschuwingsteksten zijn onvolledig</translation>
+        </message>
+    </context>
+    <context>
+        <name>Notices</name>
+        <message>
+            <source>Mixer %1 answers</source>
+            <translation>Mengpaneel %1 antwoordt</translation>
+        </message>
+        <message>
+            <source>firmware %1</source>
+            <translation>firmware %1</translation>
+        </message>
+        <message>
+            <source>certified level %1</source>
+            <translation>gecertificeerd niveau %1</translation>
+        </message>
+        <message>
+            <source>Serato is active</source>
+            <translation>Serato is actief</translation>
+        </message>
+        <message>
+            <source>Serato is not active</source>
+            <translation>Serato is niet actief</translation>
+        </message>
+        <message>
+            <source>Mixer %1 is being asked…</source>
+            <translation>Mengpaneel %1 wordt bevraagd…</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses what it is asked.</source>
+            <translation>Mengpaneel %1 weigert wat het wordt gevraagd.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 does not answer.</source>
+            <translation>Mengpaneel %1 antwoordt niet.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 was unplugged or switched off.</source>
+            <translation>Mengpaneel %1 is losgekoppeld of uitgezet.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 is attached, but you may not open it.</source>
+            <translation>Mengpaneel %1 is aangesloten, maar u mag het niet openen.</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Kopiëren</translation>
+        </message>
+        <message>
+            <source>Copy the command %1</source>
+            <translation>Opdracht %1 kopiëren</translation>
+        </message>
+        <message>
+            <source>Looking for mixers…</source>
+            <translation>Mengpanelen zoeken…</translation>
+        </message>
+        <message>
+            <source>No mixer is attached. What you choose is remembered, and can be sent when a mixer is plugged in.</source>
+            <translation>Er is geen mengpaneel aangesloten. Uw keuzes worden opgeslagen en kunnen worden verzonden zodra er een is aangesloten.</translation>
+        </message>
+        <message>
+            <source>Changes of other programs are not shown here.</source>
+            <translation>Wijzigingen door andere programma’s worden hier niet getoond.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Picture</name>
+        <message>
+            <source>CH%1 after its fader</source>
+            <translation>CH%1 na de fader</translation>
+        </message>
+        <message>
+            <source>Cross fader A</source>
+            <translation>Crossfader A</translation>
+        </message>
+        <message>
+            <source>Cross fader B</source>
+            <translation>Crossfader B</translation>
+        </message>
+        <message>
+            <source>Picture of the routing</source>
+            <translation>Afbeelding van de routing</translation>
+        </message>
+        <message>
+            <source>Inputs</source>
+            <translation>Ingangen</translation>
+        </message>
+        <message>
+            <source>Selector</source>
+            <translation>Schakelaar</translation>
+        </message>
+        <message>
+            <source>Fader</source>
+            <translation>Fader</translation>
+        </message>
+        <message>
+            <source>Cross fader</source>
+            <translation>Crossfader</translation>
+        </message>
+        <message>
+            <source>USB %1 cannot record %2.</source>
+            <translation>USB %1 kan %2 niet opnemen.</translation>
+        </message>
+        <message>
+            <source>%1, recorded by %2</source>
+            <translation>%1, opgenomen door %2</translation>
+        </message>
+        <message>
+            <source>%1. USB %2 cannot record it.</source>
+            <translation>%1. USB %2 kan dit niet opnemen.</translation>
+        </message>
+    </context>
+    <context>
+        <name>QPlatformTheme</name>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Opslaan</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuleren</translation>
+        </message>
+        <message>
+            <source>Close</source>
+            <translation>Sluiten</translation>
+        </message>
+        <message>
+            <source>Apply</source>
+            <translation>Toepassen</translation>
+        </message>
+    </context>
+    <context>
+        <name>RoutingPage</name>
+        <message>
+            <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
+            <translation>Klik op een cirkel om die op USB %1 op te nemen, of sleep een nummer naar een andere cirkel.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Row</name>
+        <message>
+            <source>Turn the selector of CH%1 from %2 to %3.</source>
+            <translation>Draai de schakelaar van CH%1 van %2 naar %3.</translation>
+        </message>
+        <message>
+            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
+            <translation>Draai op mengpaneel %4 de schakelaar van CH%1 van %2 naar %3.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer, and remembered.</source>
+            <translation>Naar het mengpaneel verzonden en opgeslagen.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers, and remembered.</source>
+            <translation>
+                <numerusform>Naar %n mengpaneel verzonden en opgeslagen.</numerusform>
+                <numerusform>Naar %n mengpanelen verzonden en opgeslagen.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Nothing is remembered; this is the default.</source>
+            <translation>Niets opgeslagen; dit is de standaardkeuze.</translation>
+        </message>
+        <message>
+            <source>Remembered; no mixer has it.</source>
+            <translation>Opgeslagen; geen mengpaneel heeft het.</translation>
+        </message>
+        <message>
+            <source>Remembered.</source>
+            <translation>Opgeslagen.</translation>
+        </message>
+        <message>
+            <source>Sending…</source>
+            <translation>Verzenden…</translation>
+        </message>
+        <message>
+            <source>Remembered only.</source>
+            <translation>Alleen opgeslagen.</translation>
+        </message>
+        <message>
+            <source>Not stored.</source>
+            <translation>Niet opgeslagen.</translation>
+        </message>
+        <message>
+            <source>USB &amp;%1 records:</source>
+            <translation>USB &amp;%1 neemt op:</translation>
+        </message>
+        <message>
+            <source>USB &amp;%1 plays on:</source>
+            <translation>USB &amp;%1 speelt op:</translation>
+        </message>
+        <message>
+            <source>USB output &amp;level:</source>
+            <translation>USB-uitgangs&amp;niveau:</translation>
+        </message>
+        <message>
+            <source>MIDI &amp;channel:</source>
+            <translation>MIDI-&amp;kanaal:</translation>
+        </message>
+    </context>
+</TS>

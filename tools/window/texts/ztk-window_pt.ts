@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt">
+    <context>
+        <name>ChoiceRow</name>
+        <message>
+            <source>%1, which is not a choice</source>
+            <translation>%1, que não é uma opção</translation>
+        </message>
+    </context>
+    <context>
+        <name>ClubDialog</name>
+        <message>
+            <source>“%1” cannot be applied. %2</source>
+            <translation>«%1» não pode ser aplicado. %2</translation>
+        </message>
+        <message>
+            <source>“%1” changes nothing: all of its settings are remembered already.</source>
+            <translation>«%1» não altera nada: todas as suas definições já estão guardadas.</translation>
+        </message>
+        <message>
+            <source>“%1” changes these settings:</source>
+            <translation>«%1» altera estas definições:</translation>
+        </message>
+        <message>
+            <source>Apply a club</source>
+            <translation>Aplicar um clube</translation>
+        </message>
+        <message>
+            <source>&amp;Apply</source>
+            <translation>&amp;Aplicar</translation>
+        </message>
+    </context>
+    <context>
+        <name>Engine</name>
+        <message>
+            <source>The file cannot be read: %1.</source>
+            <translation>O ficheiro não pode ser lido: %1.</translation>
+        </message>
+        <message>
+            <source>The file is too large to hold settings.</source>
+            <translation>O ficheiro é demasiado grande para conter definições.</translation>
+        </message>
+        <message>
+            <source>The file holds no valid settings: %1.</source>
+            <translation>O ficheiro não contém definições válidas: %1.</translation>
+        </message>
+        <message>
+            <source>The club needs a name.</source>
+            <translation>O clube precisa de um nome.</translation>
+        </message>
+        <message>
+            <source>The settings file cannot be read: %1.</source>
+            <translation>O ficheiro de definições não pode ser lido: %1.</translation>
+        </message>
+        <message>
+            <source>The club cannot be saved: %1.</source>
+            <translation>O clube não pode ser guardado: %1.</translation>
+        </message>
+        <message>
+            <source>Saved without %1.</source>
+            <translation>Guardado sem %1.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>As alterações de outros programas não são mostradas porque QT_NO_GLIB está definida. Inicie a janela sem ela.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>As alterações de outros programas não são mostradas porque o barramento de mensagens da sessão falta ou terminou. Quando existir um, inicie novamente a janela.</translation>
+        </message>
+        <message>
+            <source>No mixer is attached.</source>
+            <translation>Nenhuma mesa está ligada.</translation>
+        </message>
+        <message>
+            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
+            <translation>Entretanto foi ligada uma mesa. Envie tudo novamente para que receba esta opção.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses the value.</source>
+            <translation>A mesa %1 recusa o valor.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 does not answer.</source>
+            <translation>A mesa %1 não responde.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 was unplugged or switched off.</source>
+            <translation>A mesa %1 foi desligada ou retirada.</translation>
+        </message>
+        <message>
+            <source>You have no permission to open mixer %1.</source>
+            <translation>Não tem permissão para abrir a mesa %1.</translation>
+        </message>
+        <message>
+            <source>The request to mixer %1 failed.</source>
+            <translation>O pedido à mesa %1 falhou.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses what it is asked.</source>
+            <translation>A mesa %1 recusa o que lhe é pedido.</translation>
+        </message>
+        <message>
+            <source>The mixer's library does not accept this choice.</source>
+            <translation>A biblioteca da mesa não aceita esta opção.</translation>
+        </message>
+        <message>
+            <source>Not stored: %1.</source>
+            <translation>Não guardado: %1.</translation>
+        </message>
+        <message>
+            <source>USB input %1</source>
+            <translation>Entrada USB %1</translation>
+        </message>
+        <message>
+            <source>USB output %1</source>
+            <translation>Saída USB %1</translation>
+        </message>
+        <message>
+            <source>USB output level</source>
+            <translation>Nível de saída USB</translation>
+        </message>
+        <message>
+            <source>MIDI channel</source>
+            <translation>Canal MIDI</translation>
+        </message>
+        <message>
+            <source>%1, which is not a choice</source>
+            <translation>%1, que não é uma opção</translation>
+        </message>
+        <message>
+            <source>This cannot be heard: the input selector has another position.</source>
+            <translation>Isto não se ouve: o seletor de entrada está noutra posição.</translation>
+        </message>
+        <message>
+            <source>Another program is changing the settings. Try again in a moment.</source>
+            <translation>Outro programa está a alterar as definições. Tente novamente dentro de momentos.</translation>
+        </message>
+        <message>
+            <source>This cannot be undone: %1.</source>
+            <translation>Isto não pode ser anulado: %1.</translation>
+        </message>
+        <message>
+            <source>Left as it is, because another program has changed it since: %1.</source>
+            <translation>Deixado como está, porque entretanto outro programa o alterou: %1.</translation>
+        </message>
+        <message>
+            <source>There is nothing to undo.</source>
+            <translation>Não há nada para anular.</translation>
+        </message>
+        <message>
+            <source>The history of changes cannot be written, so the same step may be undone again.</source>
+            <translation>O histórico de alterações não pode ser escrito; o mesmo passo pode ser anulado outra vez.</translation>
+        </message>
+        <message>
+            <source>This choice cannot be sent again. Choose it once more.</source>
+            <translation>Esta opção não pode ser reenviada. Escolha-a mais uma vez.</translation>
+        </message>
+        <message>
+            <source>Nothing can be undone: %1.</source>
+            <translation>Nada pode ser anulado: %1.</translation>
+        </message>
+        <message>
+            <source>Nothing is remembered, so nothing was sent.</source>
+            <translation>Não há nada guardado, por isso nada foi enviado.</translation>
+        </message>
+    </context>
+    <context>
+        <name>MainWindow</name>
+        <message>
+            <source>Mixer settings</source>
+            <translation>Definições da mesa</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;Ficheiro</translation>
+        </message>
+        <message>
+            <source>&amp;Quit</source>
+            <translation>&amp;Sair</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>&amp;Editar</translation>
+        </message>
+        <message>
+            <source>&amp;Undo</source>
+            <translation>&amp;Anular</translation>
+        </message>
+        <message>
+            <source>&amp;Mixer</source>
+            <translation>&amp;Mesa</translation>
+        </message>
+        <message>
+            <source>&amp;Send all again</source>
+            <translation>&amp;Enviar tudo novamente</translation>
+        </message>
+        <message>
+            <source>Ctrl+R</source>
+            <translation>Ctrl+R</translation>
+        </message>
+        <message>
+            <source>Send all at each &amp;plug-in</source>
+            <translation>Enviar tudo ao &amp;ligar</translation>
+        </message>
+        <message>
+            <source>&amp;Check again</source>
+            <translation>&amp;Verificar novamente</translation>
+        </message>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Clubes</translation>
+        </message>
+        <message>
+            <source>Sends what is remembered to the mixers; changes nothing.</source>
+            <translation>Envia às mesas o que está guardado; não altera nada.</translation>
+        </message>
+        <message>
+            <source>&amp;Undo: %1</source>
+            <translation>&amp;Anular: %1</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>&amp;Guardar como clube…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Guardar como clube</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Nome do clube; todas as definições guardadas ficam com este nome:</translation>
+        </message>
+    </context>
+    <context>
+        <name>Model</name>
+        <message>
+            <source>you have no home folder</source>
+            <translation>não tem pasta pessoal</translation>
+        </message>
+        <message>
+            <source>its folder does not exist and cannot be made</source>
+            <translation>a pasta não existe e não pode ser criada</translation>
+        </message>
+        <message>
+            <source>you have no permission</source>
+            <translation>não tem permissão</translation>
+        </message>
+        <message>
+            <source>the file system is read-only</source>
+            <translation>o sistema de ficheiros é só de leitura</translation>
+        </message>
+        <message>
+            <source>the file system or your quota is full</source>
+            <translation>o sistema de ficheiros ou a sua quota está cheio</translation>
+        </message>
+        <message>
+            <source>the settings file cannot be read at the moment</source>
+            <translation>o ficheiro de definições não pode ser lido neste momento</translation>
+        </message>
+        <message>
+            <source>a folder or a device has the name of the settings file</source>
+            <translation>uma pasta ou um dispositivo tem o nome do ficheiro de definições</translation>
+        </message>
+        <message>
+            <source>the settings file cannot be written</source>
+            <translation>o ficheiro de definições não pode ser escrito</translation>
+        </message>
+        <message>
+            <source>no mixer is attached</source>
+            <translation>nenhuma mesa está ligada</translation>
+        </message>
+        <message>
+            <source>no mixer can be found</source>
+            <translation>não se encontra nenhuma mesa</translation>
+        </message>
+        <message>
+            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <translation>o sistema não vê nenhuma: está desligada ou sem cabo; ligue o cabo e ligue a mesa</translation>
+        </message>
+        <message>
+            <source>its plug or its power may be loose</source>
+            <translation>o cabo ou a alimentação pode estar solto</translation>
+        </message>
+        <message>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <translation>está ligada e pode ser aberta, mas ainda está a arrancar ou bloqueou; desligue-a e ligue-a, ou escreva o comando que faz o mesmo</translation>
+        </message>
+        <message>
+            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <translation>está ligada e pode ser aberta, mas algo nela falha; desligue-a e ligue-a, ou escreva o comando que faz o mesmo</translation>
+        </message>
+        <message>
+            <source>only root may open it, as no rule grants you access</source>
+            <translation>só o root a pode abrir, porque nenhuma regra lhe dá acesso</translation>
+        </message>
+        <message>
+            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <translation>a regra que lhe dá acesso chegou depois de ligar a mesa; isto faz o mesmo que ligá-la novamente</translation>
+        </message>
+        <message>
+            <source>this is a virtual mixer, and ztk-virtual-mixer forbids it</source>
+            <translation>esta é uma mesa virtual, e o ztk-virtual-mixer proíbe-o</translation>
+        </message>
+        <message>
+            <source>other programs do not hear of changes</source>
+            <translation>os outros programas não sabem das alterações</translation>
+        </message>
+        <message>
+            <source>the warning texts are not installed</source>
+            <translation>os textos de aviso não estão instalados</translation>
+        </message>
+        <message>
+            <source>the warning texts are incomplete</source>
+            <translation>os textos de aviso estão incompletos</translation>
+        </message>
+    </context>
+    <context>
+        <name>Notices</name>
+        <message>
+            <source>Mixer %1 answers</source>
+            <translation>A mesa %1 responde</translation>
+        </message>
+        <message>
+            <source>firmware %1</source>
+            <translation>firmware %1</translation>
+        </message>
+        <message>
+            <source>certified level %1</source>
+            <translation>nível certificado %1</translation>
+        </message>
+        <message>
+            <source>Serato is active</source>
+            <translation>O Serato está ativo</translation>
+        </message>
+        <message>
+            <source>Serato is not active</source>
+            <translation>O Serato não está ativo</translation>
+        </message>
+        <message>
+            <source>Mixer %1 is being asked…</source>
+            <translation>A consultar a mesa %1…</translation>
+        </message>
+        <message>
+            <source>Mixer %1 refuses what it is asked.</source>
+            <translation>A mesa %1 recusa o que lhe é pedido.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 does not answer.</source>
+            <translation>A mesa %1 não responde.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 was unplugged or switched off.</source>
+            <translation>A mesa %1 foi desligada ou retirada.</translation>
+        </message>
+        <message>
+            <source>Mixer %1 is attached, but you may not open it.</source>
+            <translation>A mesa %1 está ligada, mas não a pode abrir.</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Copiar</translation>
+        </message>
+        <message>
+            <source>Copy the command %1</source>
+            <translation>Copiar o comando %1</translation>
+        </message>
+        <message>
+            <source>Looking for mixers…</source>
+            <translation>À procura de mesas…</translation>
+        </message>
+        <message>
+            <source>No mixer is attached. What you choose is remembered, and can be sent when a mixer is plugged in.</source>
+            <translation>Nenhuma mesa está ligada. O que escolher fica guardado e pode ser enviado quando ligar uma.</translation>
+        </message>
+        <message>
+            <source>Changes of other programs are not shown here.</source>
+            <translation>As alterações de outros programas não são mostradas aqui.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Picture</name>
+        <message>
+            <source>CH%1 after its fader</source>
+            <translation>CH%1 depois do fader</translation>
+        </message>
+        <message>
+            <source>Cross fader A</source>
+            <translation>Crossfader A</translation>
+        </message>
+        <message>
+            <source>Cross fader B</source>
+            <translation>Crossfader B</translation>
+        </message>
+        <message>
+            <source>Picture of the routing</source>
+            <translation>Imagem do encaminhamento</translation>
+        </message>
+        <message>
+            <source>Inputs</source>
+            <translation>Entradas</translation>
+        </message>
+        <message>
+            <source>Selector</source>
+            <translation>Seletor</translation>
+        </message>
+        <message>
+            <source>Fader</source>
+            <translation>Fader</translation>
+        </message>
+        <message>
+            <source>Cross fader</source>
+            <translation>Crossfader</translation>
+        </message>
+        <message>
+            <source>USB %1 cannot record %2.</source>
+            <translation>USB %1 não pode gravar %2.</translation>
+        </message>
+        <message>
+            <source>%1, recorded by %2</source>
+            <translation>%1, gravado por %2</translation>
+        </message>
+        <message>
+            <source>%1. USB %2 cannot record it.</source>
+            <translation>%1. USB %2 não o pode gravar.</translation>
+        </message>
+    </context>
+    <context>
+        <name>QPlatformTheme</name>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+        <message>
+            <source>Close</source>
+            <translation>Fechar</translation>
+        </message>
+        <message>
+            <source>Apply</source>
+            <translation>Aplicar</translation>
+        </message>
+    </context>
+    <context>
+        <name>RoutingPage</name>
+        <message>
+            <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
+            <translation>Clique num círculo para o gravar em USB %1, ou arraste um número para outro círculo.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Row</name>
+        <message>
+            <source>Turn the selector of CH%1 from %2 to %3.</source>
+            <translation>Rode o seletor de CH%1 de %2 para %3.</translation>
+        </message>
+        <message>
+            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
+            <translation>Rode o seletor de CH%1 da mesa %4 de %2 para %3.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer, and remembered.</source>
+            <translation>Enviado à mesa e guardado.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers, and remembered.</source>
+            <translation>
+                <numerusform>Enviado a %n mesa e guardado.</numerusform>
+                <numerusform>Enviado a %n mesas e guardado.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Nothing is remembered; this is the default.</source>
+            <translation>Nada guardado; este é o valor predefinido.</translation>
+        </message>
+        <message>
+            <source>Remembered; no mixer has it.</source>
+            <translation>Guardado; nenhuma mesa o tem.</translation>
+        </message>
+        <message>
+            <source>Remembered.</source>
+            <translation>Guardado.</translation>
+        </message>
+        <message>
+            <source>Sending…</source>
+            <translation>A enviar…</translation>
+        </message>
+        <message>
+            <source>Remembered only.</source>
+            <translation>Apenas guardado.</translation>
+        </message>
+        <message>
+            <source>Not stored.</source>
+            <translation>Não guardado.</translation>
+        </message>
+        <message>
+            <source>USB &amp;%1 records:</source>
+            <translation>USB &amp;%1 grava:</translation>
+        </message>
+        <message>
+            <source>USB &amp;%1 plays on:</source>
+            <translation>USB &amp;%1 toca em:</translation>
+        </message>
+        <message>
+            <source>USB output &amp;level:</source>
+            <translation>&amp;Nível de saída USB:</translation>
+        </message>
+        <message>
+            <source>MIDI &amp;channel:</source>
+            <translation>&amp;Canal MIDI:</translation>
+        </message>
+    </context>
+</TS>

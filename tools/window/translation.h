@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZTK_TOOLS_WINDOW_TRANSLATION_H_
+#define ZTK_TOOLS_WINDOW_TRANSLATION_H_
+
+#include <QLocale>
+#include <QObject>
+
+namespace ztk::window {
+
+// Shows the texts of this program in this language, where there is a
+// translation, as long as the owner lives.
+void Translate(QObject *owner, const QLocale &locale);
+
+}  // namespace ztk::window
+
+#endif  // ZTK_TOOLS_WINDOW_TRANSLATION_H_
