@@ -4,7 +4,7 @@
 
 Takes packaging/debian as it is and fills in what the project knows already:
 the version (CMakeLists.txt), the changes (CHANGELOG.md), the licence (LICENSE)
-and the packages to build with (scripts/packages/build.txt).
+and the packages to build with (build.txt and window.txt in scripts/packages).
 
 Changes that have no release yet count as changes of the version in
 CMakeLists.txt, made on the day that SOURCE_DATE_EPOCH names.
@@ -112,7 +112,8 @@ def main(root, target):
     shutil.copytree(root / "packaging/debian", debian)
     build = sorted(
         {line.split("#")[0].strip()
-         for line in read("scripts/packages/build.txt").splitlines()}
+         for name in ("build", "window")
+         for line in read(f"scripts/packages/{name}.txt").splitlines()}
         - {""} - ALWAYS_THERE)
     control = (debian / "control.in").read_text().replace(
         "@build_packages@", ",\n".join(f" {package}" for package in build))

@@ -53,6 +53,7 @@ class Project(unittest.TestCase):
         self.write("LICENSE", LICENCE)
         self.write("scripts/packages/build.txt",
                    "# To build.\ncmake\ng++  # the compiler\n\napt\n")
+        self.write("scripts/packages/window.txt", "# The window.\nqt\n")
         shutil.copytree(ROOT / "packaging/debian",
                         self.root / "packaging/debian")
 
@@ -146,7 +147,7 @@ License: Expat
         control = self.made("control")
         self.assertIn("Build-Depends:\n debhelper-compat (= 13),\n"
                       " doxygen,\n dh-python,\n python3,\n apt,\n"
-                      " cmake\nStandards", control)
+                      " cmake,\n qt\nStandards", control)
         self.assertFalse((self.target / "debian/control.in").exists())
 
     def test_a_project_without_a_version_is_refused(self):
