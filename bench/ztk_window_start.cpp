@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+//
+// ztk-window, as its own main() starts it.
+#include <QApplication>
+#include <QLocale>
+
+#include "first_frame.h"
+#include "window/connect.h"
+#include "window/engine/engine.h"
+#include "window/main_window.h"
+#include "window/translation.h"
+
+int main(int argc, char **argv) {
+  using namespace ztk::window;
+  QApplication application(argc, argv);
+  Translate(&application, QLocale());
+  Engine engine;
+  MainWindow window;
+  Connect(&window, &engine);
+  window.show();
+  engine.start();
+  return ztk::bench::MeasureFirstFrame(&window);
+}
