@@ -110,7 +110,7 @@ install(FILES
   DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs
   DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents
-  FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.json)
+  FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.png PATTERN *.json)
 
 # The folder from which Python loads packages depends on the distribution.
 set(ZTK_PYTHON_DIR "" CACHE STRING

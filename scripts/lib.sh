@@ -204,3 +204,26 @@ copy_work_tree() {  # folder
 copy_known_files() {  # folder
   git ls-files -z | copy_files "$1"
 }
+
+# Runs a command that finds the texts of the bundle as if they were installed, in
+# a mount namespace of its own. Where the system allows none, ztk doctor reports
+# that the texts are missing.
+with_texts() {
+  local datadir namespace=(unshare --mount) as_oneself=()
+  datadir=$(sed -n 's/^CMAKE_INSTALL_PREFIX:[A-Z]*=//p' \
+    build/CMakeCache.txt)/share
+  if [[ $(id -u) != 0 ]]; then
+    # Mounting takes root, but the command runs as the user.
+    namespace+=(--map-root-user)
+    as_oneself=(unshare "--map-user=$(id -u)" "--map-group=$(id -g)")
+  fi
+  # shellcheck disable=SC2016  # expanded inside
+  local mount='mount --bind "$1" "$2" && shift 2 && exec "$@"'
+  if [[ ! -d $datadir/tarvix ]] && "${namespace[@]}" bash -c "$mount" bash \
+    "$root/build/share" "$datadir" "${as_oneself[@]}" true 2>/dev/null; then
+    "${namespace[@]}" bash -c "$mount" bash "$root/build/share" "$datadir" \
+      "${as_oneself[@]}" "$@"
+  else
+    "$@"
+  fi
+}

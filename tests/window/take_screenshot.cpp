@@ -64,13 +64,15 @@ int main(int argc, char **argv) {
       engine.choose(ztk::model::kInput, channel - 1, choice - 1);
     }
   }
+  // All of it, also where the screen is smaller: there is none to be seen on.
+  window.resize(QSize(880, 800) * window.logicalDpiX() / 96);
   window.show();
   engine.start();
 
   // The findings come after the mixers, and a silent mixer takes seconds.
   QTimer rest;
   rest.setSingleShot(true);
-  rest.setInterval(1500);
+  rest.setInterval(1200);
   QObject::connect(&engine, &Engine::stateChanged, &rest, [&] {
     if (IsSettled(engine.state())) rest.start();
   });
