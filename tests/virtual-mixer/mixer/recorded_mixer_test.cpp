@@ -98,6 +98,24 @@ TEST(ParseReport, TakesDelaysOnlyWhereTheyAreWanted) {
                           "unplug@r8007"));
 }
 
+// Only so can what ztk reports of such a mixer be replayed.
+TEST(ParseReport, TakesAReplyWithoutBytes) {
+  ReportText report;
+  report.registers = R"({"register": "8004", "length": 2, "result": "reply",
+                         "reply": "", "milliseconds": 1})";
+  const auto mixers = ParseReport(report.Whole(), Delays::Ignored);
+  EXPECT_THAT(mixers.at(0).replies, ElementsAre(std::pair(0x8004, Bytes{})));
+}
+
+TEST(ParseReport, RefusesTheReadsThatTheReportDoesNotHave) {
+  ReportText report;
+  report.registers = "";
+  const auto mixers = ParseReport(report.Whole(), Delays::Ignored);
+  EXPECT_THAT(FaultTexts(mixers.at(0)),
+              ElementsAre("stall@r8001", "stall@r8002", "stall@r8004",
+                          "stall@r8006", "stall@r8007"));
+}
+
 TEST(ParseReport, LeavesMixersOutThatCouldNotBeOpened) {
   ReportText denied;
   denied.access = R"("not-permitted")";
@@ -172,28 +190,57 @@ TEST(ParseReport, SaysInOneSentenceWhatIsWrong) {
        "the report's field mixers[0].registers[0].register is not a register "
        "that can be read: 8001, 8002, 8004, 8006, 8007"},
       {with([](ReportText *r) {
-         r->registers = R"({"register": "8001", "result": "reply",
-                            "milliseconds": -1, "reply": "00"})";
+         r->registers = R"({"register": "8001", "length": 2,
+                            "result": "reply", "milliseconds": -1, "reply": "00"})";
        }),
        "the report's field mixers[0].registers[0].milliseconds is not a number "
        "of milliseconds from 0 to 60000"},
       {with([](ReportText *r) {
-         r->registers = R"({"register": "8001", "result": "maybe",
+         r->registers = R"({"register": "8001", "length": 2,
+                            "result": "maybe",
                             "milliseconds": 1})";
        }),
        "the report's field mixers[0].registers[0].result is not one of: reply, "
        "refused, silent, gone, failed"},
       {with([](ReportText *r) {
-         r->registers = R"({"register": "8001", "result": "reply",
-                            "milliseconds": 1})";
+         r->registers = R"({"register": "8001", "length": 2,
+                            "result": "reply", "milliseconds": 1})";
        }),
        "the report has no field mixers[0].registers[0].reply"},
       {with([](ReportText *r) {
-         r->registers = R"({"register": "8001", "result": "reply",
-                            "milliseconds": 1, "reply": "xy"})";
+         r->registers = R"({"register": "8001", "length": 2,
+                            "result": "reply", "milliseconds": 1, "reply": "xy"})";
        }),
        "the report's field mixers[0].registers[0].reply is not at most 64 "
        "pairs of hexadecimal digits"},
+      {with([](ReportText *r) {
+         r->registers = R"({"register": "8001", "length": "two",
+                            "result": "reply", "milliseconds": 1,
+                            "reply": "00"})";
+       }),
+       "the report's field mixers[0].registers[0].length is not a number of "
+       "bytes from 1 to 64"},
+      {with([](ReportText *r) {
+         r->registers = R"({"register": "8001", "length": 0,
+                            "result": "refused", "milliseconds": 1})";
+       }),
+       "the report's field mixers[0].registers[0].length is not a number of "
+       "bytes from 1 to 64"},
+      {with([](ReportText *r) {
+         r->registers = R"({"register": "8001", "length": 2,
+                            "result": "reply", "milliseconds": 1,
+                            "reply": "00 01 02"})";
+       }),
+       "the report's field mixers[0].registers[0].reply is not a reply of at "
+       "most the length that was asked for"},
+      {with([](ReportText *r) {
+         r->registers = R"({"register": "8001", "length": 2,
+                            "result": "silent", "milliseconds": 1},
+                           {"register": "8001", "length": 2,
+                            "result": "silent", "milliseconds": 1})";
+       }),
+       "the report's field mixers[0].registers[1].register is not a register "
+       "that the list has only once"},
       {std::string(2 << 20, ' '),
        "it has more than 1 MiB, which no report has"},
   };
@@ -246,6 +293,14 @@ TEST(Replay, AnswersAsTheRecordedMixerDid) {
   EXPECT_EQ(ask({0x40, 3, 0x0100, 0x8004, 0}).status, TransferStatus::Ok);
   EXPECT_EQ(ask({0xC0, 0, 0, 0x8006, 2}).status, TransferStatus::Silence);
   EXPECT_EQ(ask({0xC0, 0, 0, 0x8007, 4}).status, TransferStatus::Gone);
+  bus.WithMixer(1, [](MixerModel &model) {
+    EXPECT_THAT(
+        model.Replies(),
+        ElementsAre(std::pair(0x8001, Bytes{0x21, 0x03}),
+                    std::pair(0x8002, Bytes{0, 1, 2}),
+                    std::pair(0x8004, Bytes{}), std::pair(0x8006, Bytes{}),
+                    std::pair(0x8007, Bytes{})));
+  });
 }
 
 }  // namespace

@@ -119,6 +119,11 @@ TEST_F(Reports, ThatCannotBeReplayedAreRefusedInOneLine) {
   }
   EXPECT_THAT(Tool({"run", "--device", "x", "-n", "2"}).err,
               HasSubstr("--device excludes --mixers"));
+  EXPECT_EQ(Tool({"run", "--device", "", "--", "true"}).status, 2);
+  EXPECT_THAT(Tool({"run", "--device", "", "--", "true"}).err,
+              HasSubstr("--device takes the name of a file, and \"\" is none"));
+  EXPECT_THAT(Tool({"run", "--log", "", "--", "true"}).err,
+              HasSubstr("--log takes the name of a file, and \"\" is none"));
   EXPECT_THAT(Tool({"run", "--delays"}).err,
               HasSubstr("--delays needs --device"));
 }

@@ -25,6 +25,16 @@ void TakeNumber(const Arguments &arguments, const char *name, const char *what,
   *number = static_cast<int>(Number(what, arguments.One(name), least, most));
 }
 
+// The name of a file; empty without the option.
+std::string FileName(const Arguments &arguments, const char *name) {
+  if (arguments.Has(name) && arguments.One(name).empty()) {
+    throw UsageError(std::string(name) +
+                     " takes the name of a file, and \"\" "
+                     "is none");
+  }
+  return arguments.One(name);
+}
+
 WorldOptions World(const Arguments &arguments) {
   WorldOptions options;
   TakeNumber(arguments, "--mixers", "number of mixers", 0, kMostMixers,
@@ -33,7 +43,7 @@ WorldOptions World(const Arguments &arguments) {
              kMostOthers, &options.otherDevices);
   TakeNumber(arguments, "--buses", "number of buses", 1, kMostBuses,
              &options.buses);
-  options.reportFile = arguments.One("--device");
+  options.reportFile = FileName(arguments, "--device");
   if (arguments.Has("--device") && arguments.Has("--mixers")) {
     throw UsageError(
         "--device excludes --mixers: the report tells how many there are");
@@ -48,7 +58,7 @@ WorldOptions World(const Arguments &arguments) {
   options.replies = arguments.All("--reply");
   options.faults = arguments.All("--fault");
   options.forbidden = arguments.All("--forbid");
-  options.logFile = arguments.One("--log");
+  options.logFile = FileName(arguments, "--log");
   return options;
 }
 

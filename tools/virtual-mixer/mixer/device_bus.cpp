@@ -43,13 +43,17 @@ void DeviceBus::AddDevice(const Placement &placement, int port) {
   devices_.push_back(std::move(device));
 }
 
-// Reports have no serial number; the mixer keeps that of a virtual mixer.
+// Reports have no serial number; the mixer keeps that of a virtual mixer. A
+// register without a known reply has an empty one.
 void DeviceBus::Replay(const RecordedMixer &recorded, Device *device) {
   const std::string serial = device->descriptors.strings[2];
   device->descriptors = recorded.descriptors;
   device->descriptors.strings[2] = serial;
-  for (const auto &[number, reply] : recorded.replies) {
-    device->model->SetReply(number, reply);
+  const MixerModel usual;
+  for (const auto &entry : usual.Replies()) {
+    const auto reply = recorded.replies.find(entry.first);
+    device->model->SetReply(
+        entry.first, reply != recorded.replies.end() ? reply->second : Bytes());
   }
   for (const Fault &fault : recorded.faults) device->model->AddFault(fault);
 }

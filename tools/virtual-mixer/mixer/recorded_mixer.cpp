@@ -89,6 +89,14 @@ class Field {
     return *bytes;
   }
 
+  // The number of bytes that a request asked for.
+  std::size_t RequestedLength() const {
+    const bool inRange =
+        value_.is_number_unsigned() && value_ >= 1 && value_ <= kLongestReply;
+    if (!inRange) RefuseAs("a number of bytes from 1 to 64");
+    return value_.get<std::size_t>();
+  }
+
   double Milliseconds() const {
     const double number = value_.is_number() ? value_.get<double>() : -1;
     if (!(number >= 0 && number <= kLongestDelay)) {
@@ -168,18 +176,36 @@ void AddRegister(const Field &field, Delays delays, RecordedMixer *mixer) {
   if (MixerModel().Replies().count(number) == 0) {
     name.RefuseAs("a register that can be read: 8001, 8002, 8004, 8006, 8007");
   }
+  if (!mixer->registers.insert(number).second) {
+    name.RefuseAs("a register that the list has only once");
+  }
+  const std::size_t length = field.Member("length").RequestedLength();
   const double milliseconds = field.Member("milliseconds").Milliseconds();
   const Field result = field.Member("result");
   if (result.Text() != "reply") {
     mixer->faults.push_back(ReadFault(number, KindOf(result)));
     return;
   }
-  mixer->replies[number] = field.Member("reply").HexDigits(kLongestReply);
+  const Field reply = field.Member("reply");
+  mixer->replies[number] = reply.HexDigits(kLongestReply);
+  // Deliberate: a mixer may reply with no byte at all, and ztk reports that.
+  if (mixer->replies[number].size() > length) {
+    reply.RefuseAs("a reply of at most the length that was asked for");
+  }
   const auto rounded = static_cast<std::uint32_t>(std::lround(milliseconds));
   if (delays == Delays::Ignored || rounded == 0) return;
   Fault delay = ReadFault(number, Fault::Kind::Delay);
   delay.amount = rounded;
   mixer->faults.push_back(delay);
+}
+
+// A register that the report leaves out has no known reply.
+void RefuseOtherRegisters(RecordedMixer *mixer) {
+  const MixerModel usual;
+  for (const auto &entry : usual.Replies()) {
+    if (mixer->registers.count(entry.first) > 0) continue;
+    mixer->faults.push_back(ReadFault(entry.first, Fault::Kind::Stall));
+  }
 }
 
 RecordedMixer ReadMixer(const Field &field, Delays delays) {
@@ -195,6 +221,7 @@ RecordedMixer ReadMixer(const Field &field, Delays delays) {
   for (const Field &one : field.Member("registers").Elements(16)) {
     AddRegister(one, delays, &mixer);
   }
+  RefuseOtherRegisters(&mixer);
   return mixer;
 }
 

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ struct RecordedMixer {
   Descriptors descriptors;
   // By register, of the registers that replied.
   std::map<std::uint16_t, Bytes> replies;
+  // The registers that the report has.
+  std::set<std::uint16_t> registers;
   // The reads that failed and, if delays are wanted, how late replies come.
   std::vector<Fault> faults;
 };
