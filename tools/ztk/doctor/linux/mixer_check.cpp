@@ -187,8 +187,8 @@ Finding NoSeat(const std::string &what) {
 // Inside the sandbox of the virtual mixer the rules and devices of the system
 // have nothing to do with the mixer.
 bool IsInSandbox() {
-  return !VariableOrEmpty("ZTK_VIRTUAL_MIXER_CONTROL").empty() &&
-         !VariableOrEmpty("UMOCKDEV_DIR").empty();
+  return !cli::Variable("ZTK_VIRTUAL_MIXER_CONTROL").empty() &&
+         !cli::Variable("UMOCKDEV_DIR").empty();
 }
 
 Finding ForbiddenInSandbox(int mixer, const std::string &what) {

@@ -7,8 +7,8 @@
 #include <csignal>
 #include <cstdint>
 
-#include "common/file_descriptor.h"
 #include "notify/announced_settings.h"
+#include "platform/common/file_descriptor.h"
 #include "platform/linux/bus_connection.h"
 #include "platform/linux/glib_library.h"
 #include "platform/linux/sd_bus_library.h"
@@ -51,12 +51,12 @@ gboolean OnSecond(gint descriptor, GIOCondition /*condition*/,
 
 // A descriptor that can be read once in a second. Without one the loop only
 // hears changes.
-FileDescriptor Seconds() {
-  FileDescriptor timer(
+platform::FileDescriptor Seconds() {
+  platform::FileDescriptor timer(
       timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK));
   const itimerspec every{.it_interval = {.tv_sec = 1, .tv_nsec = 0},
                          .it_value = {.tv_sec = 1, .tv_nsec = 0}};
-  timerfd_settime(timer.Get(), 0, &every, nullptr);
+  timerfd_settime(timer.get(), 0, &every, nullptr);
   return timer;
 }
 
@@ -99,13 +99,13 @@ LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
   theLoop = {.loop = center::g_main_loop_new(nullptr, FALSE),
              .end = LoopEnd::Stopped};
   theTick = everySecond;
-  const FileDescriptor seconds = Seconds();
+  const platform::FileDescriptor seconds = Seconds();
   const guint sources[] = {
       center::g_unix_signal_add(SIGINT, OnSignal, nullptr),
       center::g_unix_signal_add(SIGTERM, OnSignal, nullptr),
       center::g_unix_fd_add(center::sd_bus_get_fd(bus.get()), G_IO_HUP,
                             OnBusGone, nullptr),
-      center::g_unix_fd_add(seconds.Get(), G_IO_IN, OnSecond, nullptr)};
+      center::g_unix_fd_add(seconds.get(), G_IO_IN, OnSecond, nullptr)};
   ready();
   center::g_main_loop_run(theLoop.loop);
   for (const guint source : sources) {
