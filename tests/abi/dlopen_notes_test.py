@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Reads from the built library which libraries it loads on first use, and
-compares that with what the Debian packages depend on: dpkg of Debian 12 does
-not read these notes.
+"""Reads from the built binaries which libraries they load on first use, and
+compares that with the dependencies of their Debian packages. The section
+.note.dlopen names those libraries; systemd documents its format. dpkg of Debian
+12 does not read it, so packaging/debian/control.in names the packages by hand.
 
-Usage: dlopen_notes_test.py LIBRARY ROOT
+Usage: dlopen_notes_test.py CONTROL LIBRARY [PROGRAM]
 """
 
 import json
@@ -16,26 +17,25 @@ import sys
 import tempfile
 import unittest
 
+CONTROL = None
 LIBRARY = None
-ROOT = None
+BINARIES = {}  # by package
 
-# The Debian package of a soname, at its name in Debian 12.
-PACKAGES = {"libsystemd.so.0": "libsystemd0",
-            "libelogind.so.0": "libelogind0",
-            "libbasu.so.0": "libbasu0",
-            "libglib-2.0.so.0": "libglib2.0-0"}
+# The packages of a soname in Debian 12 and 13.
+PACKAGES = {"libglib-2.0.so.0": "libglib2.0-0 | libglib2.0-0t64",
+            "libsystemd.so.0": "libsystemd0"}
 
 
 def padded(size):
     return (size + 3) // 4 * 4
 
 
-def notes():
+def notes(binary):
     """The (owner, type, content) of each ELF note of the section."""
     with tempfile.TemporaryDirectory() as folder:
         section = pathlib.Path(folder) / "section"
         subprocess.run(["objcopy", "-O", "binary", "--only-section=.note.dlopen",
-                        LIBRARY, section], check=True, timeout=60)
+                        binary, section], check=True, timeout=60)
         data = section.read_bytes()
     found = []
     while data:
@@ -46,29 +46,27 @@ def notes():
     return found
 
 
-def libraries():
+def libraries(binary):
     """The entries of all notes, by soname."""
     entries = {}
-    for _, _, content in notes():
+    for _, _, content in notes(binary):
         for entry in json.loads(content.rstrip(b"\0")):
             for soname in entry["soname"]:
                 entries[soname] = entry
     return entries
 
 
-def depended_on(package):
-    """The words of the field Depends of a package."""
-    control = (ROOT / "packaging/debian/control.in").read_text()
-    paragraph = re.search(rf"^Package: {package}$.*?(?=^Package:|\Z)", control,
-                          re.DOTALL | re.MULTILINE).group()
-    field = re.search(r"^Depends:(.*(?:\n .*)*)", paragraph,
-                      re.MULTILINE).group(1)
-    return re.split(r"[\s,|]+", field)
+def dependencies(package):
+    """The entries of the field Depends of a package."""
+    control = pathlib.Path(CONTROL).read_text(encoding="utf-8")
+    paragraph = re.search(rf"^Package: {package}\n(?:.+\n)*", control, re.M)[0]
+    field = re.search(r"^Depends:((?:.*\n)(?:[ ].*\n)*)", paragraph, re.M)[1]
+    return {entry.strip() for entry in field.split(",")}
 
 
 class Notes(unittest.TestCase):
     def test_have_the_form_that_packaging_tools_read(self):
-        self.assertEqual([(owner, kind) for owner, kind, _ in notes()],
+        self.assertEqual([(owner, kind) for owner, kind, _ in notes(LIBRARY)],
                          [(b"FDO\0", 0x407C0C0A)] * 2)
         sections = subprocess.run(
             ["readelf", "-W", "-S", LIBRARY], check=True, text=True,
@@ -77,27 +75,29 @@ class Notes(unittest.TestCase):
 
     def test_name_the_bus_and_the_main_loop(self):
         features = {entry["feature"]: soname
-                    for soname, entry in libraries().items()}
+                    for soname, entry in libraries(LIBRARY).items()}
         self.assertIn(features.pop("announcements"),
                       ["libsystemd.so.0", "libelogind.so.0", "libbasu.so.0"])
         self.assertEqual(features, {"callbacks": "libglib-2.0.so.0"})
 
     def test_say_what_is_missing_without_the_library(self):
-        for soname, entry in libraries().items():
+        for soname, entry in libraries(LIBRARY).items():
             with self.subTest(library=soname):
                 self.assertEqual(entry["priority"], "recommended")
                 self.assertGreater(len(entry["description"].split()), 3)
 
-    def test_are_what_the_debian_packages_depend_on(self):
-        for package in ("libztkfunc1", "ztk"):
-            for soname in libraries():
-                with self.subTest(package=package, library=soname):
-                    if "systemd" not in soname and "glib" not in soname:
-                        self.skipTest("Debian's packages use systemd's library")
-                    self.assertIn(PACKAGES[soname], depended_on(package))
+    def test_name_what_the_debian_packages_depend_on(self):
+        for package, binary in BINARIES.items():
+            with self.subTest(package=package):
+                loaded = set(libraries(binary))
+                if "libsystemd.so.0" not in loaded:
+                    self.skipTest("Debian's packages use systemd's library")
+                self.assertEqual(
+                    dependencies(package) & set(PACKAGES.values()),
+                    {PACKAGES.get(soname, soname) for soname in loaded})
 
 
 if __name__ == "__main__":
-    LIBRARY = sys.argv[1]
-    ROOT = pathlib.Path(sys.argv[2])
+    CONTROL, LIBRARY = sys.argv[1:3]
+    BINARIES = dict(zip(("libztkfunc1", "ztk"), sys.argv[2:]))
     unittest.main(argv=[sys.argv[0], "-v"])

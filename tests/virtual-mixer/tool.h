@@ -9,13 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "support/run_program.h"
+
 namespace ztk::virtual_mixer {
 
-struct ToolResult {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
+using test::SplitLines;
+using ToolResult = test::ProgramResult;
 
 // Each test has a folder of its own, which is TMPDIR for what it runs.
 class ToolTest : public testing::Test {
@@ -38,10 +37,10 @@ class ToolTest : public testing::Test {
   std::vector<std::string> LeftBehind() const;
 
  private:
+  ToolResult Run(const std::vector<std::string> &words) const;
+
   std::string folder_;
 };
-
-std::vector<std::string> SplitLines(const std::string &text);
 
 }  // namespace ztk::virtual_mixer
 

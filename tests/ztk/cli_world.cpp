@@ -1,32 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli_world.h"
 
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <filesystem>
-#include <sstream>
 
 namespace ztk::test {
-
-namespace {
-
-void SendTo(const std::filesystem::path &file, int stream) {
-  const int opened =
-      open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-  dup2(opened, stream);
-}
-
-}  // namespace
-
-std::vector<std::string> SplitLines(const std::string &text) {
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line);
-  return lines;
-}
 
 std::string Line(const std::string &text, std::size_t position) {
   const std::vector<std::string> lines = SplitLines(text);
@@ -63,39 +41,16 @@ void CliWorld::SetUp() {
   if (!bus_.Start()) GTEST_SKIP() << "no dbus-daemon to run";
 }
 
-Result CliWorld::Run(const Planted &files,
-                     const std::vector<std::string> &words) {
-  std::vector<std::string> copies = words;
-  std::vector<char *> pointers;
-  for (std::string &word : copies) pointers.push_back(word.data());
-  pointers.push_back(nullptr);
-  const pid_t child = fork();
-  if (child == 0) {
-    SendTo(home_.path() / "out", STDOUT_FILENO);
-    SendTo(home_.path() / "err", STDERR_FILENO);
-    if (!files.empty()) {
-      const std::string reason = EnterPlantedRoot(files);
-      if (!reason.empty()) _exit(kCannotPlant);
-    }
-    execv(pointers.front(), pointers.data());
-    _exit(99);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  return {.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-          .out = File("out"),
-          .err = File("err")};
-}
-
 Result CliWorld::InPlantedRoot(const Planted &files,
                                const std::vector<std::string> &options,
                                const std::string &script) {
-  std::vector<std::string> words{ZTK_VIRTUAL_MIXER, "run", "--log",
-                                 (home_.path() / "requests").string()};
-  words.insert(words.end(), options.begin(), options.end());
-  for (const char *word : {"--", "sh", "-c"}) words.emplace_back(word);
-  words.push_back(script);
-  return Run(files, words);
+  std::vector<std::string> all{"--log", (home_.path() / "requests").string()};
+  all.insert(all.end(), options.begin(), options.end());
+  return RunProgram(SandboxWords(ZTK_VIRTUAL_MIXER, all, script), home_.path(),
+                    [&files] {
+                      if (files.empty()) return 0;
+                      return EnterPlantedRoot(files).empty() ? 0 : kCannotPlant;
+                    });
 }
 
 Result CliWorld::Inside(const std::vector<std::string> &options,

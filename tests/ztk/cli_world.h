@@ -14,6 +14,7 @@
 
 #include "support/planted_root.h"
 #include "support/private_bus.h"
+#include "support/run_program.h"
 #include "support/temp_home.h"
 
 namespace ztk::test {
@@ -25,11 +26,7 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-struct Result {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
+using Result = ProgramResult;
 
 class CliWorld : public testing::Test {
  protected:
@@ -70,12 +67,8 @@ class CliWorld : public testing::Test {
 
   TempHome home_;
   PrivateBus bus_;
-
- private:
-  Result Run(const Planted &files, const std::vector<std::string> &words);
 };
 
-std::vector<std::string> SplitLines(const std::string &text);
 // Empty where there is no such line; counts from 0.
 std::string Line(const std::string &text, std::size_t position);
 std::string LastLine(const std::string &text);

@@ -56,7 +56,7 @@ TEST_F(Doctor, FindsNothingWhereAllIsWell) {
             "settings  ok: they can be read and written in " +
                 home_.path().string() + "/.config/tarvix/Preferences");
   EXPECT_EQ(Line(result_.out, 2),
-            "bus       ok: other programs hear of changes");
+            "bus       ok: other programs receive changes");
   EXPECT_EQ(Line(result_.out, 3),
             "texts     ok: the warning texts are installed");
   EXPECT_EQ(Line(result_.out, 4), "0");
@@ -289,7 +289,7 @@ TEST_F(Doctor, FindsThatTheLibraryOfTheLoopIsBroken) {
       "bus", NoMixer("mkdir $DIR/lib; echo broken > $DIR/lib/libglib-2.0.so.0;"
                      "LD_LIBRARY_PATH=$DIR/lib ztk doctor --json"));
   EXPECT_EQ(Word(finding, "id"), "no-loop");
-  EXPECT_EQ(Word(finding, "finding"), "ztk watch does not hear of changes");
+  EXPECT_EQ(Word(finding, "finding"), "ztk watch does not receive changes");
   EXPECT_EQ(Word(finding, "cause"),
             "the library that delivers what is heard, libglib-2.0.so.0, cannot "
             "be loaded");

@@ -96,7 +96,7 @@ TEST_F(Watch, IsFiveWithoutABus) {
   EXPECT_EQ(OneObject(result.out)["error"]["code"], "failed");
 }
 
-TEST_F(Watch, IsFiveWithoutALibraryThatItHearsWith) {
+TEST_F(Watch, IsFiveWhenALibraryForReceivingChangesIsMissing) {
   for (const char *library : {"libglib-2.0.so.0", "libsystemd.so.0"}) {
     SCOPED_TRACE(library);
     const Result result = OneMixer(
@@ -105,8 +105,8 @@ TEST_F(Watch, IsFiveWithoutALibraryThatItHearsWith) {
         "rm -r $DIR/lib; exit $result");
     EXPECT_EQ(result.status, 5);
     EXPECT_EQ(result.err,
-              "ztk: a library that hears changes cannot be loaded; ztk doctor "
-              "tells which\n");
+              "ztk: a library that receives changes cannot be loaded; ztk "
+              "doctor names it\n");
   }
 }
 

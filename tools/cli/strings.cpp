@@ -2,6 +2,7 @@
 #include "cli/strings.h"
 
 #include <charconv>
+#include <cstdlib>
 
 namespace ztk::cli {
 
@@ -16,10 +17,6 @@ std::optional<std::uint32_t> ParseInBase(std::string_view word, int base) {
   if (error != std::errc{} || rest != end) return std::nullopt;
   return number;
 }
-
-}  // namespace
-
-namespace {
 
 constexpr char kReplacement[] = "\xEF\xBF\xBD";  // U+FFFD
 
@@ -62,6 +59,11 @@ bool ControlsATerminal(std::uint32_t code) {
 }
 
 }  // namespace
+
+std::string Variable(const char *name) {
+  const char *const value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
 
 char LowerCase(char character) {
   const bool upper = character >= 'A' && character <= 'Z';

@@ -12,6 +12,9 @@
 
 namespace ztk::cli {
 
+// The value of an environment variable; empty when it is not set.
+std::string Variable(const char *name);
+
 char LowerCase(char character);
 std::string LowerCase(std::string text);
 

@@ -4,7 +4,6 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <sstream>
 #include <string_view>
 #include <vector>
@@ -17,12 +16,6 @@ namespace {
 
 constexpr char kBold[] = "\033[1m";
 constexpr char kNormal[] = "\033[0m";
-
-// The value of an environment variable; empty when it is not set.
-std::string_view Variable(const char *name) {
-  const char *value = std::getenv(name);
-  return value == nullptr ? "" : value;
-}
 
 bool IsMark(char character) {
   return character == kStrong || character == kPlain || character == kWhole;
@@ -135,7 +128,7 @@ std::size_t Columns(int stream) {
 }
 
 bool HasCursor(int stream) {
-  const std::string_view kind = Variable("TERM");
+  const std::string kind = Variable("TERM");
   return IsTerminal(stream) && !kind.empty() && kind != "dumb";
 }
 

@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 
+#include "cli/strings.h"
 #include "virtual-mixer/command_runner.h"
 #include "virtual-mixer/control/control_commands.h"
 #include "virtual-mixer/control/control_socket.h"
@@ -26,7 +27,7 @@ constexpr char kPreloaded[] = "libumockdev-preload.so.0";
 // Makes the sandbox use /tmp when the path in TMPDIR is too long for it.
 class ShortTempDir {
  public:
-  ShortTempDir() : before_(Variable("TMPDIR")) {
+  ShortTempDir() : before_(cli::Variable("TMPDIR")) {
     tooLong_ = before_.size() > Sandbox::kLongestTempDir;
     if (tooLong_) setenv("TMPDIR", "/tmp", 1);
   }
@@ -61,7 +62,7 @@ std::string OwnSanitizer() {
 }
 
 std::string PreloadList() {
-  const std::string before = Variable("LD_PRELOAD");
+  const std::string before = cli::Variable("LD_PRELOAD");
   if (before.find("libasan") != std::string::npos) {
     return before + ":" + kPreloaded;
   }
@@ -133,14 +134,14 @@ void Greet(int mixers, bool privateSettings) {
 std::vector<std::string> CommandOrShell(const RunOptions &options, int mixers) {
   if (!options.command.empty()) return options.command;
   Greet(mixers, options.privateSettings);
-  const std::string shell = Variable("SHELL");
+  const std::string shell = cli::Variable("SHELL");
   return {shell.empty() ? "/bin/sh" : shell};
 }
 
 }  // namespace
 
 int Run(const RunOptions &options) {
-  if (!Variable(kControlVariable).empty()) {
+  if (!cli::Variable(kControlVariable).empty()) {
     throw std::runtime_error(
         "already inside a sandbox; leave it first, or use plug and unplug");
   }

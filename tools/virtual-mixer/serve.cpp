@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "cli/strings.h"
 #include "virtual-mixer/command_runner.h"
 #include "virtual-mixer/control/control_commands.h"
 #include "virtual-mixer/control/control_socket.h"
@@ -17,7 +18,7 @@ constexpr char kStandardPort[] = "3240";
 constexpr std::size_t kLongestParent = 70;
 
 std::string ParentOfControlFolder() {
-  const std::string folder = Variable("XDG_RUNTIME_DIR");
+  const std::string folder = cli::Variable("XDG_RUNTIME_DIR");
   return folder.empty() ? TemporaryParent(kLongestParent) : folder;
 }
 
@@ -72,7 +73,7 @@ void WaitForSignal(const SignalGuard &signals) {
 }  // namespace
 
 int Serve(const ServeOptions &options) {
-  if (!Variable("UMOCKDEV_DIR").empty()) {
+  if (!cli::Variable("UMOCKDEV_DIR").empty()) {
     throw std::runtime_error(
         "inside a sandbox there is no kernel to serve; leave it first");
   }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "virtual-mixer/temporary_folder.h"
+#include "cli/strings.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -45,9 +46,10 @@ bool IsOwnFolder(const std::string &path) {
 
 // Whether the folder is marked and no process holds the mark.
 bool IsAbandoned(const std::string &folder) {
-  const FileDescriptor mark(open((folder + kMarkName).c_str(),
-                                 O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-  return mark.IsOpen() && flock(mark.Get(), LOCK_EX | LOCK_NB) == 0;
+  const platform::FileDescriptor mark(
+      open((folder + kMarkName).c_str(),
+           O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  return mark.valid() && flock(mark.get(), LOCK_EX | LOCK_NB) == 0;
 }
 
 }  // namespace
@@ -57,9 +59,9 @@ bool IsAbandoned(const std::string &folder) {
 FolderMark::FolderMark(const std::string &folder) {
   const std::string path = folder + kMarkName;
   const std::string unlocked = path + ".new";
-  file_ = FileDescriptor(
+  file_ = platform::FileDescriptor(
       open(unlocked.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-  if (!file_.IsOpen() || flock(file_.Get(), LOCK_EX) != 0 ||
+  if (!file_.valid() || flock(file_.get(), LOCK_EX) != 0 ||
       rename(unlocked.c_str(), path.c_str()) != 0) {
     Fail(path);
   }
@@ -75,8 +77,7 @@ void RemoveAbandonedFolders(const std::string &parent) {
 }
 
 std::string TemporaryParent(std::size_t longest) {
-  const char *const variable = std::getenv("TMPDIR");
-  const std::string folder = variable == nullptr ? "" : variable;
+  const std::string folder = cli::Variable("TMPDIR");
   // Programs inside could take a relative path for another folder.
   const bool usable =
       fs::path(folder).is_absolute() && folder.size() <= longest;

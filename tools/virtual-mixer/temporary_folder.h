@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "common/file_descriptor.h"
+#include "platform/common/file_descriptor.h"
 
 namespace ztk::virtual_mixer {
 
@@ -19,7 +19,7 @@ class FolderMark {
   explicit FolderMark(const std::string &folder);
 
  private:
-  FileDescriptor file_;
+  platform::FileDescriptor file_;
 };
 
 // Removes the marked folders of this user in `parent` whose process has ended:

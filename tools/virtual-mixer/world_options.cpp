@@ -12,6 +12,7 @@
 #include <string_view>
 #include <utility>
 
+#include "cli/strings.h"
 #include "virtual-mixer/control/control_commands.h"
 
 namespace ztk::virtual_mixer {
@@ -52,7 +53,7 @@ void PrepareAssignment(MixerWorld *world, const char *option,
 // Writes a whole line with one call: a program that reads the file after its
 // request finds the line there.
 void WriteLine(int file, const std::string &line) {
-  WriteAll(line + '\n', [file](const char *data, std::size_t size) {
+  platform::WriteAll(line + '\n', [file](const char *data, std::size_t size) {
     return write(file, data, size);
   });
 }
@@ -104,18 +105,18 @@ void Prepare(MixerWorld *world, const WorldOptions &options) {
 
 LogFile::LogFile(const std::string &name) {
   if (name.empty()) return;
-  file_ = FileDescriptor(open(
+  file_ = platform::FileDescriptor(open(
       name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0666));
-  if (file_.Get() < 0) {
+  if (file_.get() < 0) {
     throw std::runtime_error("cannot write the log " + name + ": " +
                              std::strerror(errno));
   }
 }
 
 LogSink LogFile::Sink() const {
-  if (file_.Get() < 0) return nullptr;
+  if (file_.get() < 0) return nullptr;
   return
-      [file = file_.Get()](const std::string &line) { WriteLine(file, line); };
+      [file = file_.get()](const std::string &line) { WriteLine(file, line); };
 }
 
 void FillStandardStreams() {
@@ -131,7 +132,7 @@ void AddOwnFolderToPath() {
   const auto self = std::filesystem::read_symlink("/proc/self/exe", failure);
   if (failure) return;
   const std::string folder = self.parent_path();
-  const std::string path = Variable("PATH");
+  const std::string path = cli::Variable("PATH");
   if ((":" + path + ":").find(":" + folder + ":") != std::string::npos) return;
   setenv("PATH", (path.empty() ? folder : path + ":" + folder).c_str(), 1);
 }
@@ -147,11 +148,6 @@ std::vector<std::string> EnvironmentWith(std::vector<std::string> variables) {
     if (!replaced) variables.emplace_back(*variable);
   }
   return variables;
-}
-
-std::string Variable(const char *name) {
-  const char *const value = std::getenv(name);
-  return value == nullptr ? "" : value;
 }
 
 }  // namespace ztk::virtual_mixer

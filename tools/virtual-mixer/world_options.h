@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "cli/parser.h"
-#include "common/file_descriptor.h"
+#include "platform/common/file_descriptor.h"
 #include "virtual-mixer/mixer/mixer_world.h"
 
 namespace ztk::virtual_mixer {
@@ -51,7 +51,7 @@ class LogFile {
   LogSink Sink() const;
 
  private:
-  FileDescriptor file_;
+  platform::FileDescriptor file_;
 };
 
 // Opens /dev/null for each standard stream that is closed. Otherwise the next
@@ -64,9 +64,6 @@ void AddOwnFolderToPath();
 
 // The environment of this process, in which these "NAME=value" replace its own.
 std::vector<std::string> EnvironmentWith(std::vector<std::string> variables);
-
-// The value of an environment variable; empty when it is not set.
-std::string Variable(const char *name);
 
 }  // namespace ztk::virtual_mixer
 

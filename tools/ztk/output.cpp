@@ -10,31 +10,26 @@
 #include <cstring>
 
 #include "cli/terminal.h"
+#include "platform/common/file_descriptor.h"
 
 namespace ztk::program {
 
 namespace {
 
-// Waits until a stream that does not block can take more.
+// Waits until a non-blocking stream accepts more bytes.
 bool WaitUntilWritable(int stream) {
   pollfd polled{.fd = stream, .events = POLLOUT, .revents = 0};
   return poll(&polled, 1, -1) > 0 || errno == EINTR;
 }
 
-bool WriteAll(int stream, const std::string &text) {
-  std::size_t done = 0;
-  while (done < text.size()) {
-    const ssize_t written =
-        write(stream, text.data() + done, text.size() - done);
-    if (written >= 0) {
-      done += static_cast<std::size_t>(written);
-    } else if (errno == EAGAIN) {
-      if (!WaitUntilWritable(stream)) return false;
-    } else if (errno != EINTR) {
-      return false;
+bool WriteTo(int stream, const std::string &text) {
+  return platform::WriteAll(text, [stream](const char *data, std::size_t size) {
+    ssize_t written = write(stream, data, size);
+    while (written < 0 && errno == EAGAIN && WaitUntilWritable(stream)) {
+      written = write(stream, data, size);
     }
-  }
-  return true;
+    return written;
+  });
 }
 
 }  // namespace
@@ -43,21 +38,21 @@ void PrepareStreams() {
   std::signal(SIGPIPE, SIG_IGN);
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
     if (fcntl(stream, F_GETFD) >= 0 || errno != EBADF) continue;
-    // open() takes the lowest free number, which is this one. A folder can
-    // neither be read nor written, and this one always exists.
+    // open() uses the lowest free number, which is this one. A folder can be
+    // neither read nor written, and this one always exists.
     if (open("/", O_RDONLY | O_DIRECTORY) < 0) return;
   }
 }
 
 bool WriteOutput(const std::string &text) {
-  return WriteAll(STDOUT_FILENO, text);
+  return WriteTo(STDOUT_FILENO, text);
 }
 
 void WriteError(const std::string &line) {
-  WriteAll(STDERR_FILENO, cli::MessageLine("ztk", line));
+  WriteTo(STDERR_FILENO, cli::MessageLine("ztk", line));
 }
 
-void WriteLineEnd() { WriteAll(STDERR_FILENO, "\n"); }
+void WriteLineEnd() { WriteTo(STDERR_FILENO, "\n"); }
 
 int Print(const std::string &command, const Report &report, const Form &form) {
   bool written = true;

@@ -11,13 +11,13 @@
 
 namespace ztk::program {
 
-// To be called before anything is opened. A closed standard stream gets a
-// descriptor that cannot be written; otherwise a connection to a mixer or bus
-// would take its number and receive text. Writing to a pipe without a reader
-// becomes an error instead of a signal.
+// Must be called before the program opens anything. A closed standard stream
+// gets a descriptor that cannot be written; otherwise a connection to a mixer
+// or bus would get its number and receive text. Writing to a pipe without a
+// reader becomes an error instead of a signal.
 void PrepareStreams();
 
-// False when not all of it could be written.
+// False when a part of it could not be written.
 bool WriteOutput(const std::string &text);
 
 // Writes a message to the error stream, wrapped in a terminal. A failure is

@@ -31,11 +31,12 @@ std::atomic<bool> theLineStands = false;
 std::atomic<bool> theUserIsAsked = false;
 static_assert(std::atomic<bool>::is_always_lock_free);
 
-// Made before the signal can come, as nothing can be made when it does.
+// Made before the signal can arrive, because a signal handler must not allocate
+// memory.
 std::string_view theJsonLine;
 bool theErrorsAreShown = false;
 
-// Nobody is left to tell when it fails.
+// There is no stream left to report a failure on.
 void WriteNow(int stream, std::string_view text) {
   [[maybe_unused]] const ssize_t written =
       write(stream, text.data(), text.size());
@@ -45,7 +46,7 @@ void OnInterrupt(int /*signal*/) {
   if (theLineStands.load()) {
     WriteNow(STDERR_FILENO, kClearLine);
   } else if (theErrorsAreShown) {
-    // Behind the "^C" that the terminal shows.
+    // After the "^C" that the terminal shows.
     WriteNow(STDERR_FILENO, "\n");
   }
   WriteNow(STDOUT_FILENO, theJsonLine);
@@ -56,8 +57,8 @@ void OnInterrupt(int /*signal*/) {
   _exit(static_cast<int>(ExitCode::Interrupted));
 }
 
-// A request keeps the main thread from being interrupted until it has ended.
-// Only a thread that holds the signal back sees that it has come.
+// The main thread cannot be interrupted during a request. Only a thread that
+// blocks the signal can see that it is pending.
 bool InterruptWaits() {
   sigset_t pending;
   return sigpending(&pending) == 0 && sigismember(&pending, SIGINT) == 1;
@@ -76,7 +77,7 @@ void ShowWaiting(const std::string &what, int waited, int longest) {
   const std::size_t columns = cli::Columns(STDERR_FILENO);
   const std::string end = InterruptWaits() ? kEnding : kHowToEnd;
   std::string line = what + Waited(waited, longest) + end;
-  // A line that the terminal had to break could not be cleared.
+  // A line that is wider than the terminal could not be cleared.
   if (columns > 0 && line.size() >= columns) {
     line = what + Waited(waited, 0) + end;
     if (line.size() >= columns) line.resize(columns - 1);
@@ -93,8 +94,8 @@ Progress::Progress(std::string what, int longest)
       longest_(longest),
       hasCursor_(cli::HasCursor(STDERR_FILENO)) {
   if (!cli::IsTerminal(STDERR_FILENO)) return;
-  // The signals of the program are the main thread's, which alone knows when
-  // they have to wait.
+  // Only the main thread handles signals, because it alone knows when they have
+  // to wait.
   sigset_t all;
   sigset_t before;
   sigfillset(&all);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Showing that something is waited for, and ending when the user has waited
-// long enough.
+// Shows that the program waits for something, and ends the program when the
+// user presses Ctrl-C.
 #ifndef ZTK_TOOLS_ZTK_PROGRESS_H_
 #define ZTK_TOOLS_ZTK_PROGRESS_H_
 
@@ -12,12 +12,12 @@
 
 namespace ztk::program {
 
-// What is told after Ctrl-C.
+// The message after Ctrl-C.
 inline constexpr char kInterrupted[] =
     "interrupted; what was under way may have been done in part, ztk status "
     "shows what is remembered";
 
-// The same where the user was asked, and nothing was done before.
+// The same while the user is asked, before anything was done.
 inline constexpr char kInterruptedAsking[] = "interrupted; nothing was changed";
 
 inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
@@ -25,12 +25,14 @@ inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
 // for the request, one for a mixer that comes or goes meanwhile.
 inline constexpr int kLongestQuestion = 2;
 
-// While it lives, tells on the error stream what is waited for and for how
-// long. Nothing where that is no terminal, and nothing in the first half
-// second: most mixers answer within milliseconds. One at a time. What is
-// written to the terminal meanwhile may stand behind it.
+// While it exists, shows on the error stream what the program waits for and for
+// how long. Shows nothing when that stream is not a terminal, and nothing in
+// the first half second: most mixers answer within milliseconds. Only one may
+// exist at a time. Text that is written to the terminal meanwhile may appear on
+// the same line.
 //
-// A thread of its own, because a request to a mixer cannot be interrupted.
+// It has a thread of its own, because a request to a mixer cannot be
+// interrupted.
 class Progress {
  public:
   // `what` as in kWaitingForMixer; it takes at most so many seconds, 0 where
@@ -52,7 +54,7 @@ class Progress {
   std::thread thread_;
 };
 
-// While it lives the user is asked what to do, and nothing is under way.
+// Exists while the user is asked a question and nothing else is being done.
 class Asking {
  public:
   Asking();
@@ -61,10 +63,10 @@ class Asking {
   Asking &operator=(const Asking &) = delete;
 };
 
-// From now on Ctrl-C ends the program with status 130 and one line that says
-// so, and before it, where `jsonLine` is not empty, that line on the output.
-// A settings file that is being replaced is finished first: the library holds
-// the signal back. Nothing changes where the signal was ignored already.
+// From now on Ctrl-C ends the program with status 130 and a message;
+// `jsonLine`, if not empty, is written to the output before. While the library
+// replaces a settings file it blocks the signal, so the file is always
+// complete. Does nothing when the signal was ignored already.
 void EndOnInterrupt(const std::string &jsonLine);
 
 }  // namespace ztk::program

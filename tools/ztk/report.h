@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a command has to say, before it is known who reads it.
+// The result of a command, independent of its form: text or JSON.
 #ifndef ZTK_TOOLS_ZTK_REPORT_H_
 #define ZTK_TOOLS_ZTK_REPORT_H_
 
@@ -45,13 +45,13 @@ struct ExitMeaning {
 };
 std::span<const ExitMeaning> ExitMeanings();
 
-// Why a command did not do all that was asked. One line, for people.
+// Why a command did not do everything. The message is one line, for people.
 struct Problem {
   ExitCode exit;
   std::string message;
 };
 
-// Thrown where there is nothing to report but the problem.
+// Thrown when a command has nothing to report but a problem.
 class Failure : public std::runtime_error {
  public:
   Failure(ExitCode exit, const std::string &message)
@@ -66,17 +66,18 @@ struct Report {
   std::string text;              // for people: whole lines
   Json fields = Json::object();  // for programs
   std::vector<std::string> warnings;
-  // Several things that are wrong; the problem sums them up.
+  // Several errors, which the problem summarises.
   std::vector<std::string> errors;
   std::optional<Problem> problem;
-  // The command wrote its output as it went: only a problem is left to tell.
+  // The command has written its output already; only a problem is still to be
+  // reported.
   bool written = false;
 };
 
-// The one object that a program reads, as one line without its end.
+// The JSON object for programs, as one line without a line end.
 std::string JsonLine(const std::string &command, const Report &report);
 
-// The word that stands for the exit code in a JSON error.
+// The word for the exit code in a JSON error.
 const char *ErrorWord(ExitCode exit);
 
 }  // namespace ztk::program

@@ -21,10 +21,10 @@ std::string FolderOf(std::string_view path) {
   return std::string(path.substr(0, path.rfind('/') + 1));
 }
 
-Descriptor OpenFolderOf(const std::string &path) {
+FileDescriptor OpenFolderOf(const std::string &path) {
   const std::string folder = FolderOf(path);
-  return Descriptor(open(folder.empty() ? "." : folder.c_str(),
-                         O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  return FileDescriptor(open(folder.empty() ? "." : folder.c_str(),
+                             O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
 std::optional<std::string> FollowLinks(std::string path) {
@@ -74,19 +74,14 @@ void MakeFolders(std::string_view path, int levels) {
 }
 
 bool WriteAll(int descriptor, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t done = write(descriptor, content.data(), content.size());
-    if (done < 0 && errno == EINTR) continue;
-    if (done == 0) errno = EIO;
-    if (done <= 0) return false;
-    content.remove_prefix(static_cast<std::size_t>(done));
-  }
-  return true;
+  return WriteAll(content, [descriptor](const char *data, std::size_t size) {
+    return write(descriptor, data, size);
+  });
 }
 
 int ReadRegularFile(const char *path, std::size_t limit, std::string *content,
                     int flags, struct stat *found) {
-  const Descriptor file(
+  const FileDescriptor file(
       open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | flags));
   if (!file.valid()) return errno;
   struct stat status = {};

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/common/descriptor.h"
+#include "platform/common/file_descriptor.h"
 
 namespace ztk::platform {
 
@@ -24,7 +24,7 @@ std::string AbsolutePathFromEnvironment(const char *name);
 std::string FolderOf(std::string_view path);
 
 // Opens the folder part of a path for reading, for flock() and fsync().
-Descriptor OpenFolderOf(const std::string &path);
+FileDescriptor OpenFolderOf(const std::string &path);
 
 // Where the path leads when the symbolic links at its end are followed, even
 // when there is no file yet. Nothing, with errno set, for a loop of links.

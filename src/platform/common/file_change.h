@@ -5,7 +5,7 @@
 #include <chrono>
 #include <string>
 
-#include "platform/common/descriptor.h"
+#include "platform/common/file_descriptor.h"
 #include "platform/common/owner_identity.h"
 
 namespace ztk::platform {
@@ -36,7 +36,7 @@ class FileChange {
 
  private:
   const OwnerIdentity identity_;
-  Descriptor folder_;
+  FileDescriptor folder_;
   bool locked_ = false;
 };
 

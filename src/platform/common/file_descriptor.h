@@ -1,22 +1,25 @@
 // SPDX-License-Identifier: MIT
-#ifndef ZTK_PLATFORM_COMMON_DESCRIPTOR_H_
-#define ZTK_PLATFORM_COMMON_DESCRIPTOR_H_
+#ifndef ZTK_PLATFORM_COMMON_FILE_DESCRIPTOR_H_
+#define ZTK_PLATFORM_COMMON_FILE_DESCRIPTOR_H_
 
+#include <sys/types.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <string_view>
 #include <utility>
 
 namespace ztk::platform {
 
 // Owns a file descriptor and closes it. A number below 0 means that there is
 // none.
-class Descriptor {
+class FileDescriptor {
  public:
-  explicit Descriptor(int number = -1) : number_(number) {}
-  ~Descriptor() { Close(); }
-  Descriptor(Descriptor &&other) noexcept
+  explicit FileDescriptor(int number = -1) : number_(number) {}
+  ~FileDescriptor() { Close(); }
+  FileDescriptor(FileDescriptor &&other) noexcept
       : number_(std::exchange(other.number_, -1)) {}
-  Descriptor &operator=(Descriptor &&other) noexcept {
+  FileDescriptor &operator=(FileDescriptor &&other) noexcept {
     if (this != &other) {
       Close();
       number_ = std::exchange(other.number_, -1);
@@ -34,6 +37,20 @@ class Descriptor {
   int number_;
 };
 
+// Calls `write(data, size)`, for example write() or send(), until the whole
+// text is written. False, with errno set, on an error.
+template <typename Write>
+bool WriteAll(std::string_view text, Write write) {
+  while (!text.empty()) {
+    const ssize_t written = write(text.data(), text.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written == 0) errno = EIO;
+    if (written <= 0) return false;
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
 }  // namespace ztk::platform
 
-#endif  // ZTK_PLATFORM_COMMON_DESCRIPTOR_H_
+#endif  // ZTK_PLATFORM_COMMON_FILE_DESCRIPTOR_H_

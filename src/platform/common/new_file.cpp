@@ -12,8 +12,8 @@
 #include <ctime>
 #include <optional>
 
-#include "platform/common/descriptor.h"
 #include "platform/common/file_access.h"
+#include "platform/common/file_descriptor.h"
 
 namespace ztk::platform {
 namespace {
@@ -78,8 +78,8 @@ std::optional<int> WriteNamelessFile(const std::string &file,
                                      const NewFileModel &model,
                                      std::string *name) {
   const std::string folder = FolderOf(file);
-  const Descriptor made(open(folder.empty() ? "." : folder.c_str(),
-                             O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600));
+  const FileDescriptor made(open(folder.empty() ? "." : folder.c_str(),
+                                 O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600));
   if (!made.valid()) return std::nullopt;
   const int error = Fill(made.get(), content, model);
   if (error != 0) return error;
@@ -119,7 +119,7 @@ int WriteNewFile(const std::string &file, std::string_view content,
   if (nameless) return *nameless;
 
   *name = file + "." + std::string(kNameLetters, 'X');
-  const Descriptor made(mkostemp(name->data(), O_CLOEXEC));
+  const FileDescriptor made(mkostemp(name->data(), O_CLOEXEC));
   if (!made.valid()) return errno;
   const int error = Fill(made.get(), content, model);
   if (error != 0) unlink(name->c_str());

@@ -10,8 +10,8 @@
 #include <cstdio>
 #include <optional>
 
-#include "platform/common/descriptor.h"
 #include "platform/common/file_access.h"
+#include "platform/common/file_descriptor.h"
 #include "platform/common/new_file.h"
 #include "platform/common/owner_identity.h"
 #include "platform/common/signal_hold.h"
@@ -21,7 +21,7 @@ namespace {
 
 // Copies a regular file into a new one, of which nothing stays on failure.
 bool CopyFile(const std::string &from, const std::string &to) {
-  const Descriptor source(
+  const FileDescriptor source(
       open(from.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
   struct stat status = {};
   if (!source.valid() || fstat(source.get(), &status) != 0) return false;
@@ -29,7 +29,7 @@ bool CopyFile(const std::string &from, const std::string &to) {
     errno = EPERM;
     return false;
   }
-  const Descriptor copy(
+  const FileDescriptor copy(
       open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
   if (!copy.valid()) return false;
 

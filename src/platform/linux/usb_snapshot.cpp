@@ -12,7 +12,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "platform/common/descriptor.h"
+#include "platform/common/file_descriptor.h"
 
 namespace ztk::platform::usb {
 namespace {
@@ -36,7 +36,7 @@ std::size_t ReadAttribute(std::string_view entry, std::string_view attribute,
                           void *bytes, std::size_t size) {
   std::string path(kDevices);
   path.append("/").append(entry).append("/").append(attribute);
-  const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
   if (!file.valid()) return 0;
   const ssize_t got = read(file.get(), bytes, size);
   return got < 0 ? 0 : static_cast<std::size_t>(got);

@@ -39,12 +39,13 @@ class ControlSocket : public testing::Test {
   ~ControlSocket() override { std::filesystem::remove_all(folder_); }
 
   std::string Path() const { return folder_ + "/control"; }
-  FileDescriptor Connect() const {
-    FileDescriptor made(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  platform::FileDescriptor Connect() const {
+    platform::FileDescriptor made(
+        socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::strncpy(address.sun_path, Path().c_str(), sizeof address.sun_path - 1);
-    EXPECT_EQ(connect(made.Get(), reinterpret_cast<const sockaddr *>(&address),
+    EXPECT_EQ(connect(made.get(), reinterpret_cast<const sockaddr *>(&address),
                       sizeof address),
               0);
     return made;
@@ -85,10 +86,10 @@ TEST_F(ControlSocket, ServesOthersWhileAClientSendsByteAfterByte) {
   const ControlServer server(
       Path(), [](std::string_view line) { return std::string(line); },
       kPatience);
-  const FileDescriptor slow = Connect();
+  const platform::FileDescriptor slow = Connect();
   std::atomic<bool> asked = false;
   std::thread dripping([&] {
-    while (!asked && send(slow.Get(), "x", 1, MSG_NOSIGNAL) == 1) {
+    while (!asked && send(slow.get(), "x", 1, MSG_NOSIGNAL) == 1) {
       std::this_thread::sleep_for(milliseconds(10));
     }
   });
@@ -108,12 +109,12 @@ TEST_F(ControlSocket, StopsSendingToAClientThatReadsTooSlowly) {
   const std::string large(20 << 20, 'x');
   const ControlServer server(
       Path(), [&](auto) { return large; }, kPatience);
-  const FileDescriptor slow = Connect();
-  ASSERT_EQ(send(slow.Get(), "show\n", 5, MSG_NOSIGNAL), 5);
+  const platform::FileDescriptor slow = Connect();
+  ASSERT_EQ(send(slow.get(), "show\n", 5, MSG_NOSIGNAL), 5);
   std::size_t received = 0;
   std::array<char, 4096> part{};
   while (true) {
-    const ssize_t got = recv(slow.Get(), part.data(), part.size(), 0);
+    const ssize_t got = recv(slow.get(), part.data(), part.size(), 0);
     if (got <= 0) break;
     received += static_cast<std::size_t>(got);
     std::this_thread::sleep_for(milliseconds(5));
@@ -123,14 +124,15 @@ TEST_F(ControlSocket, StopsSendingToAClientThatReadsTooSlowly) {
 
 TEST_F(ControlSocket, AClientDoesNotWaitForEverForItsAnswer) {
   // Nobody accepts.
-  const FileDescriptor listener(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  const platform::FileDescriptor listener(
+      socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
   std::strncpy(address.sun_path, Path().c_str(), sizeof address.sun_path - 1);
-  ASSERT_EQ(bind(listener.Get(), reinterpret_cast<const sockaddr *>(&address),
+  ASSERT_EQ(bind(listener.get(), reinterpret_cast<const sockaddr *>(&address),
                  sizeof address),
             0);
-  ASSERT_EQ(listen(listener.Get(), 1), 0);
+  ASSERT_EQ(listen(listener.get(), 1), 0);
   EXPECT_THROW(AskControl(Path(), "show", milliseconds(50)),
                std::runtime_error);
 }

@@ -51,19 +51,19 @@ class Client {
     to.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     to.sin_port = htons(static_cast<std::uint16_t>(
         std::stoi(address.substr(address.rfind(':') + 1))));
-    EXPECT_EQ(connect(socket_.Get(), reinterpret_cast<const sockaddr *>(&to),
+    EXPECT_EQ(connect(socket_.get(), reinterpret_cast<const sockaddr *>(&to),
                       sizeof to),
               0);
   }
 
   void Say(const Bytes &bytes) const {
-    EXPECT_EQ(send(socket_.Get(), bytes.data(), bytes.size(), MSG_NOSIGNAL),
+    EXPECT_EQ(send(socket_.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL),
               static_cast<ssize_t>(bytes.size()));
   }
   // Waits for so many bytes; fewer when the server closes before.
   Bytes Hear(std::size_t count) const {
     Bytes heard(count);
-    const ssize_t got = recv(socket_.Get(), heard.data(), count, MSG_WAITALL);
+    const ssize_t got = recv(socket_.get(), heard.data(), count, MSG_WAITALL);
     heard.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
     return heard;
   }
@@ -81,7 +81,7 @@ class Client {
   }
 
  private:
-  FileDescriptor socket_;
+  platform::FileDescriptor socket_;
 };
 
 TEST(UsbipServer, ListsAndServesOverTheNetwork) {

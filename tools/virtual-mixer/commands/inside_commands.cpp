@@ -23,8 +23,8 @@ using cli::Value;
 using Values = std::vector<Value>;
 
 std::string Ask(const std::string &line) {
-  const char *const path = std::getenv(kControlVariable);
-  if (path == nullptr || *path == '\0') {
+  const std::string path = cli::Variable(kControlVariable);
+  if (path.empty()) {
     throw std::runtime_error(
         "no virtual mixers here; start some with: ztk-virtual-mixer run; or, "
         "for mixers that are served, export ZTK_VIRTUAL_MIXER_CONTROL as "

@@ -131,24 +131,32 @@ Option CommandText() {
           .fill = Fill::Command};
 }
 
+constexpr char kRunNote[] =
+    "A value after M: is for that mixer only. The command follows \"--\"; the\n"
+    "mixers exist until it and all processes that it started have ended. The "
+    "exit\n"
+    "status is that of the command. Programs of another user (sudo) do not "
+    "see\n"
+    "the mixers.\n\n"
+    "Settings that are changed inside are your own, and stay changed.\n"
+    "With --private-settings nothing is remembered at first, and all settings\n"
+    "are removed at the end; the configuration of other programs is "
+    "available\n"
+    "as usual. Changes are announced on your message bus in both cases.\n\n";
+
+constexpr char kServeNote[] =
+    "Serves until Ctrl-C or, with a command, until the command has ended; "
+    "the\n"
+    "exit status is then that of the command. A value after M: is for that\n"
+    "mixer only. With --attach, a mixer that was unplugged and plugged in is\n"
+    "attached again at once; otherwise the client has to attach it.\n\n";
+
 Command MakeRun() {
   Command command{
       .path = "run",
       .summary = "Run a command, or your shell, with virtual mixers",
       .options = WorldOptionTexts(),
-      .note = std::string("A value after M: is for that mixer only. The "
-                          "command follows \"--\"; the\nmixers exist until "
-                          "it and all processes that it started have ended. "
-                          "The exit\nstatus is that of the command. Programs "
-                          "of another user (sudo) do not see\nthe mixers."
-                          "\n\nSettings that are changed inside are your own, "
-                          "and stay changed.\nWith --private-settings "
-                          "nothing is remembered at first, and all settings"
-                          "\nare removed at the end; the configuration of "
-                          "other programs is available\nas usual. Changes "
-                          "are announced on your message bus in both cases."
-                          "\n\n") +
-              kFaultHelp,
+      .note = std::string(kRunNote) + kFaultHelp,
       .examples = {"ztk-virtual-mixer run --private-settings",
                    "ztk-virtual-mixer run -n 2 --fault 2:stall -- ztk "
                    "status"},
@@ -179,13 +187,7 @@ Command MakeServe() {
       .path = "serve",
       .summary = "Serve virtual mixers over USB/IP to a real kernel",
       .options = WorldOptionTexts(),
-      .note = std::string("Serves until Ctrl-C or, with a command, until the "
-                          "command has ended; the\nexit status is then that "
-                          "of the command. A value after M: is for that\n"
-                          "mixer only. With --attach, a mixer that was "
-                          "unplugged and plugged in is\nattached again at "
-                          "once; otherwise the client has to attach it.\n\n") +
-              kFaultHelp,
+      .note = std::string(kServeNote) + kFaultHelp,
       .examples = {"ztk-virtual-mixer serve -n 2",
                    "sudo ztk-virtual-mixer serve --attach -- ztk "
                    "status"},

@@ -35,9 +35,9 @@ sockaddr_un AddressOf(const std::string &path) {
   return address;
 }
 
-FileDescriptor MakeSocket() {
-  FileDescriptor made(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-  if (made.Get() < 0) throw std::runtime_error("cannot make a socket");
+platform::FileDescriptor MakeSocket() {
+  platform::FileDescriptor made(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  if (made.get() < 0) throw std::runtime_error("cannot make a socket");
   return made;
 }
 
@@ -63,13 +63,14 @@ bool WaitFor(int socket, short events, Clock::time_point deadline) {
 // False when the other side closes, or has not taken all by the deadline.
 bool SendLine(int connection, const std::string &line,
               Clock::time_point deadline) {
-  return WriteAll(line + '\n', [&](const char *data, std::size_t size) {
-    if (!WaitFor(connection, POLLOUT, deadline)) return ssize_t{0};
-    const ssize_t sent =
-        send(connection, data, size, MSG_NOSIGNAL | MSG_DONTWAIT);
-    if (sent < 0 && errno == EAGAIN) errno = EINTR;  // to be tried again
-    return sent;
-  });
+  return platform::WriteAll(
+      line + '\n', [&](const char *data, std::size_t size) {
+        if (!WaitFor(connection, POLLOUT, deadline)) return ssize_t{0};
+        const ssize_t sent =
+            send(connection, data, size, MSG_NOSIGNAL | MSG_DONTWAIT);
+        if (sent < 0 && errno == EAGAIN) errno = EINTR;  // to be tried again
+        return sent;
+      });
 }
 
 // Reads one line without its end. False when the other side stops before the
@@ -110,8 +111,8 @@ ControlServer::ControlServer(const std::string &path, Handler handler,
       patience_(patience),
       listener_(MakeSocket()),
       ended_(eventfd(0, EFD_CLOEXEC)) {
-  if (!ended_.IsOpen() || !BindPrivately(listener_.Get(), path) ||
-      listen(listener_.Get(), 16) != 0) {
+  if (!ended_.valid() || !BindPrivately(listener_.get(), path) ||
+      listen(listener_.get(), 16) != 0) {
     throw std::runtime_error("cannot listen at " + path + ": " +
                              std::strerror(errno));
   }
@@ -120,19 +121,19 @@ ControlServer::ControlServer(const std::string &path, Handler handler,
 
 ControlServer::~ControlServer() {
   const std::uint64_t one = 1;
-  if (write(ended_.Get(), &one, sizeof one) == sizeof one) thread_.join();
+  if (write(ended_.get(), &one, sizeof one) == sizeof one) thread_.join();
 }
 
 void ControlServer::Serve() {
   std::array<pollfd, 2> watched{
-      {{listener_.Get(), POLLIN, 0}, {ended_.Get(), POLLIN, 0}}};
+      {{listener_.get(), POLLIN, 0}, {ended_.get(), POLLIN, 0}}};
   while (true) {
     if (poll(watched.data(), watched.size(), -1) < 0) continue;
     if (watched[1].revents != 0) return;
     if (watched[0].revents == 0) continue;
-    const FileDescriptor connection(
-        accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC));
-    if (connection.Get() >= 0) Answer(connection.Get());
+    const platform::FileDescriptor connection(
+        accept4(listener_.get(), nullptr, nullptr, SOCK_CLOEXEC));
+    if (connection.get() >= 0) Answer(connection.get());
   }
 }
 
@@ -146,8 +147,8 @@ void ControlServer::Answer(int connection) {
 std::string AskControl(const std::string &path, const std::string &line,
                        std::chrono::milliseconds longest) {
   const sockaddr_un address = AddressOf(path);
-  const FileDescriptor connection = MakeSocket();
-  if (connect(connection.Get(), Generic(&address), sizeof address) != 0) {
+  const platform::FileDescriptor connection = MakeSocket();
+  if (connect(connection.get(), Generic(&address), sizeof address) != 0) {
     if (errno == EACCES) {
       throw std::runtime_error("the mixers at " + path +
                                " are another user's; only who started them, "
@@ -157,8 +158,8 @@ std::string AskControl(const std::string &path, const std::string &line,
   }
   const Clock::time_point deadline = Clock::now() + longest;
   std::string answer;
-  if (!SendLine(connection.Get(), line, deadline) ||
-      !ReceiveLine(connection.Get(), &answer, deadline)) {
+  if (!SendLine(connection.get(), line, deadline) ||
+      !ReceiveLine(connection.get(), &answer, deadline)) {
     throw std::runtime_error("the mixers do not answer");
   }
   return answer;

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <thread>
 
-#include "common/file_descriptor.h"
+#include "platform/common/file_descriptor.h"
 
 namespace ztk::virtual_mixer {
 
@@ -42,9 +42,9 @@ class ControlServer {
 
   const Handler handler_;
   const std::chrono::milliseconds patience_;
-  FileDescriptor listener_;
+  platform::FileDescriptor listener_;
   // Readable once the server is to end.
-  FileDescriptor ended_;
+  platform::FileDescriptor ended_;
   std::thread thread_;
 };
 

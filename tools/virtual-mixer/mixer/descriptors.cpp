@@ -40,45 +40,54 @@ std::uint16_t Word(const Bytes &bytes, std::size_t at) {
   return static_cast<std::uint16_t>(bytes[at] | (bytes[at + 1] << 8));
 }
 
+Bytes DeviceDescriptor(const Identity &id) {
+  return {18,
+          1,  // device descriptor
+          Low(id.usbVersion),
+          High(id.usbVersion),
+          id.deviceClass,
+          0,   // subclass
+          0,   // protocol
+          64,  // bytes in a packet of the default pipe
+          Low(id.vendor),
+          High(id.vendor),
+          Low(id.product),
+          High(id.product),
+          Low(id.release),
+          High(id.release),
+          1,   // string: manufacturer
+          2,   // string: product
+          3,   // string: serial number
+          1};  // configurations
+}
+
+// A configuration and its only interface.
+Bytes ConfigurationDescriptor(const Identity &id) {
+  return {9,
+          2,  // configuration descriptor
+          18,
+          0,     // total length in bytes: 18
+          1,     // interfaces
+          1,     // number of this configuration
+          0,     // no string
+          0xC0,  // self-powered
+          0,     // takes no current from the bus
+          9,
+          4,  // interface descriptor
+          0,  // number of this interface
+          0,  // alternate setting
+          0,  // endpoints besides the default pipe
+          id.interfaceClass,
+          0,   // subclass
+          0,   // protocol
+          0};  // no string
+}
+
 Descriptors Make(const Identity &id, std::array<std::string, 3> strings,
                  std::string speed) {
   Descriptors made;
-  made.device = {18,
-                 1,  // device descriptor
-                 Low(id.usbVersion),
-                 High(id.usbVersion),
-                 id.deviceClass,
-                 0,   // subclass
-                 0,   // protocol
-                 64,  // bytes in a packet of the default pipe
-                 Low(id.vendor),
-                 High(id.vendor),
-                 Low(id.product),
-                 High(id.product),
-                 Low(id.release),
-                 High(id.release),
-                 1,   // string: manufacturer
-                 2,   // string: product
-                 3,   // string: serial number
-                 1};  // configurations
-  made.configuration = {9,
-                        2,  // configuration descriptor
-                        18,
-                        0,     // bytes of all that follows, this included
-                        1,     // interfaces
-                        1,     // its number
-                        0,     // no string
-                        0xC0,  // has a power supply of its own
-                        0,     // takes no current from the bus
-                        9,
-                        4,  // interface descriptor
-                        0,  // its number
-                        0,  // alternate setting
-                        0,  // endpoints besides the default pipe
-                        id.interfaceClass,
-                        0,   // subclass
-                        0,   // protocol
-                        0};  // no string
+  made.device = DeviceDescriptor(id);
+  made.configuration = ConfigurationDescriptor(id);
   made.strings = std::move(strings);
   made.speed = std::move(speed);
   return made;

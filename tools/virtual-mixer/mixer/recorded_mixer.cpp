@@ -13,7 +13,7 @@
 #include <optional>
 #include <stdexcept>
 
-#include "common/file_descriptor.h"
+#include "platform/common/file_descriptor.h"
 #include "virtual-mixer/mixer/device_model.h"
 
 namespace ztk::virtual_mixer {
@@ -243,17 +243,17 @@ void CheckVersion(const Json &report) {
 }
 
 std::string FileContents(const std::string &name) {
-  const FileDescriptor file(
+  const platform::FileDescriptor file(
       open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat status {};
-  if (!file.IsOpen() || fstat(file.Get(), &status) != 0) {
+  if (!file.valid() || fstat(file.get(), &status) != 0) {
     Refuse(std::string("it cannot be read: ") + std::strerror(errno));
   }
   if (!S_ISREG(status.st_mode)) Refuse("it is not a regular file");
   std::string text;
   std::array<char, 65536> part{};
   while (text.size() <= kLongestReport) {
-    const ssize_t got = read(file.Get(), part.data(), part.size());
+    const ssize_t got = read(file.get(), part.data(), part.size());
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) {
       Refuse(std::string("it cannot be read: ") + std::strerror(errno));

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "cli/strings.h"
 #include "virtual-mixer/world_options.h"
 
 namespace ztk::virtual_mixer {
@@ -28,9 +29,9 @@ constexpr Place kPlaces[] = {
 
 // The user's own folder; empty when it is not known.
 fs::path OwnFolder(const Place &place) {
-  fs::path folder = Variable(place.variable);
+  fs::path folder = cli::Variable(place.variable);
   if (folder.is_absolute()) return folder;
-  const fs::path home = Variable("HOME");
+  const fs::path home = cli::Variable("HOME");
   return home.is_absolute() ? home / place.belowHome : fs::path();
 }
 

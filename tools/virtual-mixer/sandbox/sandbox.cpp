@@ -16,6 +16,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "cli/strings.h"
 #include "virtual-mixer/sandbox/uevent.h"
 
 namespace ztk::virtual_mixer {
@@ -26,16 +27,15 @@ constexpr char kReadOnlyForAll[] = "/proc/sys/kernel/ostype";
 
 // The testbed ends the whole program when it cannot make its folder.
 void CheckTempDir() {
-  const char *const variable = std::getenv("TMPDIR");
-  const bool isSet = variable != nullptr && *variable != '\0';
-  const char *const folder = isSet ? variable : "/tmp";
-  if (std::strlen(folder) > Sandbox::kLongestTempDir) {
+  std::string folder = cli::Variable("TMPDIR");
+  if (folder.empty()) folder = "/tmp";
+  if (folder.size() > Sandbox::kLongestTempDir) {
     throw std::runtime_error("the path in TMPDIR is too long for sockets");
   }
-  if (access(folder, W_OK | X_OK) == 0) return;
-  throw std::runtime_error(
-      std::string("no folder for the mixers can be made in ") + folder + ": " +
-      std::strerror(errno) + "; set TMPDIR to one that you may write to");
+  if (access(folder.c_str(), W_OK | X_OK) == 0) return;
+  throw std::runtime_error("no folder for the mixers can be made in " + folder +
+                           ": " + std::strerror(errno) +
+                           "; set TMPDIR to one that you may write to");
 }
 
 void AddRecord(UMockdevTestbed *testbed, const std::string &record) {

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "common/file_descriptor.h"
+#include "platform/common/file_descriptor.h"
 
 namespace ztk::virtual_mixer {
 namespace {
@@ -72,9 +72,9 @@ void SendTo(const std::string &path, const std::string &message) {
   address.sun_family = AF_UNIX;
   if (path.size() >= sizeof address.sun_path) return;
   std::memcpy(address.sun_path, path.c_str(), path.size() + 1);
-  const FileDescriptor sender(
+  const platform::FileDescriptor sender(
       socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-  sendto(sender.Get(), message.data(), message.size(), MSG_NOSIGNAL,
+  sendto(sender.get(), message.data(), message.size(), MSG_NOSIGNAL,
          reinterpret_cast<const sockaddr *>(&address), sizeof address);
 }
 

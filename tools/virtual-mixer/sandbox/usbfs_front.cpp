@@ -171,27 +171,32 @@ bool UsbfsFront::Control(_UMockdevIoctlClient *client,
   waiting.setup = setup;
   const Bytes sent = IsRead(setup) ? Bytes{} : BytesOf(buffer);
   waiting.answer = bus_.answer(connection, {.setup = setup, .data = sent});
+  FinishInTime(std::move(waiting), std::chrono::milliseconds(timeout));
+  return true;
+}
 
-  using std::chrono::milliseconds;
+// Sends the answer at once, or leaves it to the thread that sends it later. As
+// in the kernel, a request with a time-out of 0 has no time limit.
+void UsbfsFront::FinishInTime(Waiting waiting,
+                              std::chrono::milliseconds timeout) {
+  const bool limited = timeout.count() != 0;
   const bool silent = waiting.answer.status == TransferStatus::Silence;
-  if (!silent && waiting.answer.delay.count() == 0) {
+  std::chrono::milliseconds wait = silent ? timeout : waiting.answer.delay;
+  if (!silent && wait.count() == 0) {
     Finish(&waiting);
-    return true;
+    return;
   }
-  // As in the kernel, a time-out of 0 waits for ever.
-  milliseconds wait = silent ? milliseconds(timeout) : waiting.answer.delay;
-  if (!silent && timeout != 0 && wait >= milliseconds(timeout)) {
+  if (!silent && limited && wait >= timeout) {
     waiting.answer = {
         .status = TransferStatus::Silence, .data = {}, .delay = {}};
-    wait = milliseconds(timeout);
+    wait = timeout;
   }
-  if (!silent || timeout != 0) waiting.due = Clock::now() + wait;
+  if (!silent || limited) waiting.due = Clock::now() + wait;
   {
     const std::lock_guard lock(mutex_);
     waiting_.push_back(std::move(waiting));
   }
   changed_.notify_all();
-  return true;
 }
 
 // Sends the answer and releases everything that `waiting` owns.

@@ -25,9 +25,9 @@ namespace ztk::virtual_mixer {
 class UsbfsFront {
  public:
   // How the devices are reached. A connection belongs to an open node. The
-  // functions are called on umockdev's own thread; `log`, which is called
-  // before the sender of a request learns how it ended, also on the thread that
-  // waits for late answers.
+  // functions are called on a thread of umockdev. `log` is also called on the
+  // thread that sends late answers, always before the sender of the request
+  // learns how it ended.
   struct Bus {
     std::function<Connection(const std::string &node)> connect;
     std::function<bool(const Connection &)> isValid;
@@ -70,6 +70,7 @@ class UsbfsFront {
   static int OnIoctl(_UMockdevIoctlBase *, _UMockdevIoctlClient *client,
                      void *self);
   bool Control(_UMockdevIoctlClient *client, const Connection &connection);
+  void FinishInTime(Waiting waiting, std::chrono::milliseconds timeout);
   void Finish(Waiting *waiting);
   void RunTimer();
   std::list<Waiting> TakeDue(Clock::time_point now);

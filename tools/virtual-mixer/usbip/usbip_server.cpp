@@ -43,16 +43,16 @@ std::string BoundPort(int listener) {
 }
 
 // A listening socket; none, with errno set, when this address cannot be used.
-FileDescriptor ListenAt(const addrinfo &found) {
-  FileDescriptor made(socket(found.ai_family,
-                             found.ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK,
-                             found.ai_protocol));
-  if (made.Get() < 0) return made;
-  setsockopt(made.Get(), SOL_SOCKET, SO_REUSEADDR, &kOn, sizeof kOn);
-  if (bind(made.Get(), found.ai_addr, found.ai_addrlen) != 0 ||
-      listen(made.Get(), 16) != 0) {
+platform::FileDescriptor ListenAt(const addrinfo &found) {
+  platform::FileDescriptor made(
+      socket(found.ai_family, found.ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK,
+             found.ai_protocol));
+  if (made.get() < 0) return made;
+  setsockopt(made.get(), SOL_SOCKET, SO_REUSEADDR, &kOn, sizeof kOn);
+  if (bind(made.get(), found.ai_addr, found.ai_addrlen) != 0 ||
+      listen(made.get(), 16) != 0) {
     const int why = errno;
-    made = FileDescriptor();
+    made = platform::FileDescriptor();
     errno = why;
   }
   return made;
@@ -89,7 +89,7 @@ ListenAddress ParseListenAddress(const std::string &text) {
 
 Server::Server(Devices *devices)
     : devices_(devices), woken_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
-  if (woken_.Get() < 0) throw std::runtime_error("cannot make an event");
+  if (woken_.get() < 0) throw std::runtime_error("cannot make an event");
   thread_ = std::thread([this] { Serve(); });
 }
 
@@ -112,15 +112,15 @@ std::string Server::Listen(const ListenAddress &address) {
   const int failure =
       getaddrinfo(host.c_str(), address.port.c_str(), &wanted, &found);
   if (failure != 0) Refuse(address, gai_strerror(failure));
-  FileDescriptor made;
-  for (const addrinfo *one = found; one != nullptr && made.Get() < 0;
+  platform::FileDescriptor made;
+  for (const addrinfo *one = found; one != nullptr && made.get() < 0;
        one = one->ai_next) {
     made = ListenAt(*one);
   }
   const int why = errno;
   freeaddrinfo(found);
-  if (made.Get() < 0) Refuse(address, std::strerror(why));
-  const std::string bound = address.host + ":" + BoundPort(made.Get());
+  if (made.get() < 0) Refuse(address, std::strerror(why));
+  const std::string bound = address.host + ":" + BoundPort(made.get());
   {
     const std::lock_guard lock(mutex_);
     newListener_ = std::move(made);
@@ -129,7 +129,7 @@ std::string Server::Listen(const ListenAddress &address) {
   return bound;
 }
 
-void Server::Adopt(FileDescriptor socket, const Lease &lease) {
+void Server::Adopt(platform::FileDescriptor socket, const Lease &lease) {
   {
     const std::lock_guard lock(mutex_);
     newcomers_.push_back({.socket = std::move(socket),
@@ -144,23 +144,23 @@ void Server::Wake() {
   // It fails only when the count is at its limit, and then the thread wakes
   // anyway.
   [[maybe_unused]] const ssize_t written =
-      write(woken_.Get(), &one, sizeof one);
+      write(woken_.get(), &one, sizeof one);
 }
 
 void Server::Serve() {
   std::vector<pollfd> watched;
   while (true) {
     if (!TakeNewcomers()) break;
-    watched.assign({{woken_.Get(), POLLIN, 0}, {listener_.Get(), POLLIN, 0}});
+    watched.assign({{woken_.get(), POLLIN, 0}, {listener_.get(), POLLIN, 0}});
     for (const Client &client : clients_) {
       short events = client.session->WantsInput() ? POLLIN : 0;
       if (!client.session->Output().empty()) events |= POLLOUT;
-      watched.push_back({client.socket.Get(), events, 0});
+      watched.push_back({client.socket.get(), events, 0});
     }
     if (poll(watched.data(), watched.size(), PollTimeout()) < 0) continue;
     std::uint64_t count = 0;
     [[maybe_unused]] const ssize_t got =
-        read(woken_.Get(), &count, sizeof count);
+        read(woken_.get(), &count, sizeof count);
     const Clock::time_point now = Clock::now();
     std::size_t at = 2;
     for (Client &client : clients_) {
@@ -190,20 +190,20 @@ bool Server::TakeNewcomers() {
   const std::lock_guard lock(mutex_);
   for (Client &client : newcomers_) clients_.push_back(std::move(client));
   newcomers_.clear();
-  if (newListener_.Get() >= 0) listener_ = std::move(newListener_);
+  if (newListener_.get() >= 0) listener_ = std::move(newListener_);
   return !stopping_;
 }
 
 void Server::Accept() {
-  FileDescriptor socket(
-      accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC));
-  if (!socket.IsOpen()) return;
+  platform::FileDescriptor socket(
+      accept4(listener_.get(), nullptr, nullptr, SOCK_CLOEXEC));
+  if (!socket.valid()) return;
   // One too many is turned away, so that nobody can use all descriptors up.
   const auto withoutDevice = std::count_if(
       clients_.begin(), clients_.end(),
       [](const Client &client) { return !client.session->HasDevice(); });
   if (static_cast<std::size_t>(withoutDevice) >= kMostWithoutDevice) return;
-  PrepareClient(socket.Get());
+  PrepareClient(socket.get());
   clients_.push_back(
       {.socket = std::move(socket),
        .session = std::make_unique<Session>(devices_, Clock::now()),
@@ -214,7 +214,7 @@ void Server::Read(Client *client) {
   std::array<std::uint8_t, 16384> part{};
   if (!client->session->WantsInput()) return;
   const ssize_t got =
-      recv(client->socket.Get(), part.data(), part.size(), MSG_DONTWAIT);
+      recv(client->socket.get(), part.data(), part.size(), MSG_DONTWAIT);
   if (got > 0) {
     client->session->Receive(part.data(), static_cast<std::size_t>(got),
                              Clock::now());
@@ -227,7 +227,7 @@ void Server::Write(Client *client) {
   Session &session = *client->session;
   while (!session.Output().empty() && !client->closed) {
     const ssize_t sent =
-        send(client->socket.Get(), session.Output().data(),
+        send(client->socket.get(), session.Output().data(),
              session.Output().size(), MSG_NOSIGNAL | MSG_DONTWAIT);
     if (sent > 0) {
       session.Sent(static_cast<std::size_t>(sent));

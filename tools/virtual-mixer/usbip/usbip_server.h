@@ -11,7 +11,7 @@
 #include <thread>
 #include <vector>
 
-#include "common/file_descriptor.h"
+#include "platform/common/file_descriptor.h"
 #include "virtual-mixer/usbip/usbip_session.h"
 
 namespace ztk::virtual_mixer::usbip {
@@ -37,13 +37,13 @@ class Server {
   // called once.
   std::string Listen(const ListenAddress &address);
   // Serves a client that has its device already.
-  void Adopt(FileDescriptor socket, const Lease &lease);
+  void Adopt(platform::FileDescriptor socket, const Lease &lease);
   // Makes the thread check whether devices have gone.
   void Wake();
 
  private:
   struct Client {
-    FileDescriptor socket;
+    platform::FileDescriptor socket;
     std::unique_ptr<Session> session;
     bool closed = false;
   };
@@ -63,13 +63,13 @@ class Server {
   std::mutex mutex_;
   // Guarded by mutex_; the thread takes them over.
   std::vector<Client> newcomers_;
-  FileDescriptor newListener_;
+  platform::FileDescriptor newListener_;
   bool stopping_ = false;
   // Used by the thread only.
-  FileDescriptor listener_;
+  platform::FileDescriptor listener_;
   std::list<Client> clients_;
   // Readable when a guarded member has changed.
-  FileDescriptor woken_;
+  platform::FileDescriptor woken_;
   std::thread thread_;
 };
 

@@ -36,9 +36,9 @@ void UsbipWorld::AttachDevice(std::size_t device) {
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
     throw std::runtime_error("cannot make a pair of sockets");
   }
-  const FileDescriptor kernels(ends[1]);
-  server_.Adopt(FileDescriptor(ends[0]), lease);
-  usbip::AttachToKernel(vhciFolder_, devices_.Describe(device), kernels.Get());
+  const platform::FileDescriptor kernels(ends[1]);
+  server_.Adopt(platform::FileDescriptor(ends[0]), lease);
+  usbip::AttachToKernel(vhciFolder_, devices_.Describe(device), kernels.get());
 }
 
 void UsbipWorld::WaitUntilTaken(std::size_t device) const {

@@ -12,7 +12,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "common/file_descriptor.h"
+#include "platform/common/file_descriptor.h"
 
 namespace ztk::virtual_mixer::usbip {
 namespace {
@@ -63,15 +63,15 @@ void AttachToKernel(const std::string &vhciFolder, const Export &device,
         "this kernel has no virtual host controller (" + vhciFolder +
         " is missing); load it with: sudo modprobe vhci-hcd" + kOtherWay);
   }
-  const FileDescriptor attach(
+  const platform::FileDescriptor attach(
       open((folder / "attach").c_str(), O_WRONLY | O_CLOEXEC));
-  if (attach.Get() < 0 && (errno == EACCES || errno == EPERM)) {
+  if (attach.get() < 0 && (errno == EACCES || errno == EPERM)) {
     throw std::runtime_error(
         std::string("only root may attach devices to this kernel; start this "
                     "with sudo") +
         kOtherWay);
   }
-  if (attach.Get() < 0) {
+  if (attach.get() < 0) {
     throw std::runtime_error("cannot open " + vhciFolder +
                              "/attach: " + std::strerror(errno));
   }
@@ -85,7 +85,7 @@ void AttachToKernel(const std::string &vhciFolder, const Export &device,
                            std::to_string(socket) + " " +
                            std::to_string(DeviceId(device.address)) + " " +
                            std::to_string(SpeedNumber(*device.descriptors));
-  if (write(attach.Get(), line.data(), line.size()) < 0) {
+  if (write(attach.get(), line.data(), line.size()) < 0) {
     throw std::runtime_error("the kernel does not take the device at port " +
                              std::to_string(*port) + ": " +
                              std::strerror(errno));

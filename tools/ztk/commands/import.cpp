@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Restores settings from a file that `ztk export` has written: all or nothing.
+// Restores the settings in a file that `ztk export` has written: all of them,
+// or none if the file has an error.
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -30,7 +31,7 @@ std::string Contents(const std::string &file) {
   } else {
     errno = 0;
     std::ifstream stream(file, std::ios::binary);
-    // Opening a folder succeeds; reading it does not.
+    // A folder can be opened, but not read.
     if (stream) take(stream);
     if (!stream.is_open() || stream.bad() || (text.empty() && errno != 0)) {
       throw Failure(ExitCode::Usage, "cannot read " + cli::Quoted(file) + ": " +

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The commands that belong to no single setting.
+// The commands that are not for a single setting.
 #ifndef ZTK_TOOLS_ZTK_COMMANDS_OTHER_COMMANDS_H_
 #define ZTK_TOOLS_ZTK_COMMANDS_OTHER_COMMANDS_H_
 
@@ -9,39 +9,41 @@
 
 namespace ztk::program {
 
-// Each mixer in bus order with what it says of itself, and what is remembered
-// for every model.
+// Each mixer with its answers, in the order of the bus, and the remembered
+// settings of every model.
 Report ShowStatus(const Arguments &arguments);
 
-// Puts back what this program has changed last.
+// Takes back the last change that this program made.
 Report Undo(const Arguments &arguments);
 
 // Forgets what is remembered, and sends nothing.
 Report Reset(const Arguments &arguments);
 
-// All that is remembered, in words, and such words read again: all or nothing.
+// Writes all remembered settings as text, and reads such a text. An import sets
+// all of them, or none if the text has an error.
 Report Export(const Arguments &arguments);
 Report Import(const Arguments &arguments);
 
-// What is wrong, why, and what to type about it.
+// Shows what does not work, why, and the command that repairs it.
 Report Diagnose(const Arguments &arguments);
 
 Report ShowVersions(const Arguments &arguments);
 
 Report ShowModels(const Arguments &arguments);
 
-// The attached mixers, the current choices, and what to type next.
+// Shows the attached mixers, the current choices, and useful commands.
 Report ShowOverview(const Arguments &arguments);
 
-// The library's sentence for a 101.
+// Shows the sentence of the library for the result 101.
 Report ShowWarning(const Arguments &arguments);
 
-// Whether the remembered settings are sent when a mixer is plugged in.
+// Turns on, turns off or shows whether the remembered settings are sent when a
+// mixer is plugged in.
 Report TurnAutoapplyOn(const Arguments &arguments);
 Report TurnAutoapplyOff(const Arguments &arguments);
 Report ShowAutoapply(const Arguments &arguments);
 
-// Writes a line for each change, as it comes, until it is interrupted.
+// Writes a line for each change as it arrives, until the user interrupts it.
 Report Watch(const Arguments &arguments);
 
 }  // namespace ztk::program

@@ -43,7 +43,7 @@ Fact Firmware(const MixerStatus &mixer) {
             .words = mixer.firmware.why};
   if (!mixer.firmware.value) return fact;
   const std::uint16_t number = *mixer.firmware.value;
-  // Only the number is the mixer's; the version is read from its bytes.
+  // The mixer sends a number; the version is derived from its bytes.
   fact.words = FirmwareVersion(number);
   fact.value = {
       {"number", number}, {"hex", Hex(number)}, {"derived", fact.words}};
@@ -132,7 +132,7 @@ Json FieldsOf(const MixerStatus &mixer) {
     return fields;
   }
   for (Fact &fact : FactsOf(mixer)) {
-    // A fact whose value is null carries its words, which say why.
+    // When the value is null, the words give the reason.
     if (fact.value.is_null()) fields["unanswered"][fact.name] = fact.words;
     fields[fact.name] = std::move(fact.value);
   }

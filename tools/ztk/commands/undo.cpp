@@ -89,7 +89,7 @@ void AddUndone(const MadeChange &one, const PastChange &past,
   }
 }
 
-// What stood in the file may be a number that no setter takes.
+// The former value in the file may be a number that no setter accepts.
 void AddRefused(const MadeChanges &made, Report *report) {
   std::vector<std::string> refused;
   for (const MadeChange &one : made.changes) {
@@ -107,7 +107,8 @@ void AddRefused(const MadeChanges &made, Report *report) {
                  cli::Listed(refused)};
 }
 
-// The rest without those that were refused, of which nothing can be expected.
+// The remaining changes, without those that were rejected: a second try would
+// be rejected too.
 MadeChanges Accepted(const MadeChanges &made) {
   MadeChanges accepted{.changes = {}, .reach = made.reach};
   for (const MadeChange &one : made.changes) {
@@ -140,7 +141,7 @@ std::string SendingAgain(const Change &change) {
              : "ztk apply --product " + ProductName(setting.product);
 }
 
-// How to send again what was put back; each model is sent by itself.
+// The commands that send the restored values again, one for each model.
 std::string SendingAgain(const MadeChanges &made) {
   std::vector<std::string> commands;
   for (const Setting *setting : AllSettings()) {
@@ -160,7 +161,7 @@ std::string SendingAgain(const MadeChanges &made) {
   return joined;
 }
 
-// True where the step is done with, for better or worse.
+// True when undo has finished with the step, with or without success.
 bool UndoStep(const std::vector<UndoItem> &undoings, Report *report) {
   const MadeChanges made = [&undoings] {
     const std::vector<Change> changes = ChangesOf(undoings);

@@ -37,7 +37,7 @@ constexpr std::size_t kTitleColumn = 9;
 constexpr char kNotInstalled[] = "not installed (part of the macOS package)";
 
 // The file of the library that ztk has loaded; on Linux its name ends with the
-// version. Empty when it is not known.
+// version. Empty when the name is not known.
 std::string LoadedLibrary() {
   Dl_info info{};
   const auto *const function =

@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::uint32_t kUsersLanguage = 99;
 
-// The library's languages: its number, and what they are called.
+// The languages of the library: the number and the names of each.
 struct Language {
   std::uint32_t number;
   const char *name;
@@ -97,7 +97,8 @@ std::string PlainSentence(const std::string &place) {
          (why.empty() ? "install VRM-D6Setup.framework" : why) + ")";
 }
 
-// The library's sentence names no channel; `before` goes in front of it.
+// The sentence of the library does not name the channel, so `before` precedes
+// it.
 std::string Explanation(std::uint32_t channel, const std::string &before) {
   ZTKTextRef text = nullptr;
   Sentence(channel, kUsersLanguage, &text);

@@ -21,10 +21,11 @@ void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
 // The same for each of the changes that was answered so.
 void ExplainWarnings(const MadeChanges &made, Report *report);
 
-// The channels that have a selector, and so a warning: the first ones.
+// The first channels have a selector, and so a warning.
 inline constexpr std::uint32_t kWarningChannels = status::kSelectors;
 
-// What can follow --language: one word for each, its name if it is one.
+// The words for --language: one for each language, its name if that is one
+// word.
 std::vector<std::string> LanguageNames();
 
 }  // namespace ztk::program

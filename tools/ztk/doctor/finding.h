@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What does not work for a user, why, and the command that mends it.
+// A problem, its cause, and the command that repairs it.
 #ifndef ZTK_TOOLS_ZTK_DOCTOR_FINDING_H_
 #define ZTK_TOOLS_ZTK_DOCTOR_FINDING_H_
 
@@ -14,42 +14,43 @@ struct Finding {
   std::string what;     // what does not work
   std::string cause;    // why
   std::string command;  // what to type; nothing else is needed
-  // Worth knowing, but nothing fails because of it.
+  // A note: worth knowing, but nothing fails because of it.
   bool isNote = false;
 };
 
 using Findings = std::vector<Finding>;
 
-// Each of these checks one part of the system. *good is the sentence for the
-// case that nothing was found.
+// Each of these checks one part of the system. *good receives the sentence that
+// is shown when no problem was found.
 
-// Reads the settings files of these models and writes beside them, nothing into
-// them.
+// Reads the settings files of these models. To test the folder, makes and
+// removes another file in it; does not change the settings files.
 Findings CheckSettingsFiles(const std::vector<std::string> &models,
                             std::string *good);
-// Whether other programs hear of changes.
+// Whether announcements of changes reach other programs.
 Findings CheckBus(std::string *good);
 // Whether the translated warning texts are installed.
 Findings CheckTexts(std::string *good);
 
-// What depends on the system:
+// These depend on the system.
 
-// No mixer is attached.
+// Explains why no mixer is attached.
 Finding ExplainNoMixer();
-// A mixer is attached but cannot be opened.
+// Explains why an attached mixer cannot be opened.
 Finding ExplainUnopened(int mixer, const std::string &place);
-// A command that restarts the mixer, as unplugging it and plugging it in does.
+// A command that has the same effect as unplugging the mixer and plugging it
+// in.
 std::string RestartCommand(const std::string &place);
-// A command that gives the file another name, so that its own name is free.
+// A command that renames the file, so that its name can be used again.
 std::string MoveAwayCommand(const std::string &path);
 // A command that makes a read-only file system writable.
 std::string MakeWritableCommand(const std::string &folder);
-// What is worth knowing about the folder of the settings.
+// Notes about the folder of the settings.
 Findings FindOddLibrary(const std::string &library);
-// The bundle of texts is missing, or was found without any.
+// Explains that the bundle of texts is missing, or was found but has no text.
 Finding ExplainTexts(bool found);
 
-// The word in a form that a shell passes on unchanged.
+// Quotes the word for a shell.
 std::string ShellQuoted(const std::string &word);
 
 }  // namespace ztk::model

@@ -29,14 +29,15 @@ bool Exists(const std::string &path, struct stat *status) {
   return stat(path.c_str(), status) == 0;
 }
 
-// Where a link leads; the path itself where there is none.
+// The target of a symbolic link; the path itself when it is not a link.
 std::string Target(const std::string &path) {
   std::array<char, PATH_MAX> target{};
   return realpath(path.c_str(), target.data()) == nullptr ? path
                                                           : target.data();
 }
 
-// Gives the right to use what belongs to the user, or the thing itself.
+// A command that grants the user the right to use a file that belongs to the
+// user, or that makes the user its owner.
 std::string TakeOver(const std::string &path, const char *mode) {
   struct stat status {};
   const bool own = Exists(path, &status) && status.st_uid == geteuid();
@@ -46,7 +47,7 @@ std::string TakeOver(const std::string &path, const char *mode) {
 
 void FindUnreadable(const std::string &path, Findings *findings) {
   struct stat status {};
-  // Where a file stands on the way, that is the trouble.
+  // A file where a folder is needed is the problem.
   if (!Exists(path, &status) && (errno == ENOENT || errno == ENOTDIR)) return;
   platform::property_list::Dictionary *settings =
       WithText(path, platform::property_list::ReadFile);
@@ -66,7 +67,7 @@ void FindUnreadable(const std::string &path, Findings *findings) {
   findings->push_back(finding);
 }
 
-// What hinders a file from being made in the folder: an errno, 0 for nothing.
+// Why no file can be made in the folder: an error number, or 0.
 int TryToWrite(const std::string &folder) {
   std::string name = folder + "/.ztk-doctor-XXXXXX";
   const int file = mkostemp(name.data(), O_CLOEXEC);
@@ -109,12 +110,12 @@ Finding Unwritable(const std::string &folder, int error) {
   return finding;
 }
 
-// The folders on the way are made by the first setting that is remembered: the
-// last one that is there decides whether that can be done.
+// The first setter makes the missing folders of the path: the last existing
+// folder decides whether that is possible.
 void FindUnwritable(std::string folder, Findings *findings) {
   struct stat status {};
   while (folder != "/" && !Exists(folder, &status)) {
-    // A file on the way is found one step later.
+    // The next round finds a file in place of a folder.
     folder = FolderOf(folder);
   }
   if (!S_ISDIR(status.st_mode)) {
@@ -153,7 +154,7 @@ Findings CheckSettingsFiles(const std::vector<std::string> &models,
     const std::string path = Utf8(file.get());
     FindUnreadable(path, &findings);
     struct stat status {};
-    // A link is followed when it is written.
+    // The library follows a link when it writes the file.
     if (Exists(path, &status) && FolderOf(Target(path)) != Target(folder)) {
       FindUnwritable(FolderOf(Target(path)), &findings);
     }

@@ -17,7 +17,7 @@ bool HasTexts(const platform::bundle::Bundle *bundle) {
   const ZTKTextRef key = ZTK_TEXT("WARNING1");
   const ZTKTextRef text =
       platform::bundle::LocalizedText(bundle, key, ZTK_TEXT("Localizable"));
-  // The lookup answers the key where there is no sentence.
+  // The look-up returns the key when there is no sentence.
   return text != nullptr && Utf8(text) != Utf8(key);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Changes of settings, and what became of them: which mixers accepted the
-// value, whether it was stored and whether it was announced.
+// Changes of settings and their results: which mixers accepted the value,
+// whether it was stored and whether it was announced.
 #ifndef ZTK_TOOLS_ZTK_MODEL_CHANGE_H_
 #define ZTK_TOOLS_ZTK_MODEL_CHANGE_H_
 
@@ -15,7 +15,7 @@
 
 namespace ztk::model {
 
-// A setting and the library's index of what it shall be.
+// A setting and the index of its new choice in the library.
 struct Change {
   const Setting *setting;
   std::uint32_t product;
@@ -31,13 +31,13 @@ struct MadeChange {
   ZTKResult result = ZTK_REJECTED;
   std::size_t accepted = 0;  // mixers that have accepted the value
   bool remembered = false;   // it is stored in the settings file
-  bool announced = false;    // the message bus has taken the announcement
+  bool announced = false;    // the message bus has accepted the announcement
   // There is a message bus, and it did not take the announcement.
   bool announcementFailed = false;
   bool forgotten = false;  // nothing is remembered, as was asked for
-  // A mixer has told where its input selectors are.
+  // A mixer has answered with the positions of its input selectors.
   bool selectorsKnown = false;
-  // Why it is not stored, as a part of a sentence; else empty.
+  // Why it is not stored, as a part of a sentence; empty when it is.
   std::string notStored = {};
   // Why the old settings file could not be used, as a part of a sentence; else
   // empty. It is kept under another name, and a new one holds the value.
@@ -49,9 +49,9 @@ struct MadeChanges {
   Reach reach;
 };
 
-// Makes them with the library's setters, in this order, and takes what became
-// of them from the library's record. A change that the library rejects has sent
-// and stored nothing.
+// Calls the setters of the library in this order, and takes the results from
+// the record of each call. A change that the library rejects is neither sent
+// nor stored.
 MadeChanges MakeChanges(const std::vector<Change> &changes);
 
 }  // namespace ztk::model

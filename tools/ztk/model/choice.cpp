@@ -11,8 +11,8 @@ bool IsSpace(char character) {
   return character == ' ' || (character >= '\t' && character <= '\r');
 }
 
-// What is compared: lower case, no spaces. ASCII letters only, whatever the
-// locale; that is all that the choices have.
+// The form that is compared: lower case without spaces. Only ASCII letters are
+// converted, in every locale: the choices have no others.
 std::string Folded(const std::string &text) {
   std::string folded;
   for (const char character : text) {
@@ -52,7 +52,7 @@ Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
     if (number == choice.number) return {.choice = choice, .candidates = {}};
   }
   std::vector<Choice> found = BeginningWith(choices, wanted, false);
-  // A bare number is the number of a choice, and of no other thing.
+  // A word that is only a number is always the number of a choice.
   if (found.empty() && !IsDigits(wanted)) {
     found = BeginningWith(choices, wanted, true);
   }

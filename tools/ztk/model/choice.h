@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Finding the choice that the words of a user name.
+// Finds the choice that the words of a user name.
 #ifndef ZTK_TOOLS_ZTK_MODEL_CHOICE_H_
 #define ZTK_TOOLS_ZTK_MODEL_CHOICE_H_
 
@@ -19,7 +19,7 @@ struct Choice {
 
 struct Match {
   std::optional<Choice> choice;
-  // When none was found: those that the words could mean, if any.
+  // When none was found: the choices that the words could mean, if any.
   std::vector<Choice> candidates;
 };
 

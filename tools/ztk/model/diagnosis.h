@@ -14,10 +14,10 @@ namespace ztk::model {
 // One part of the system that is checked.
 struct CheckedPart {
   const char *name;  // for people and programs
-  // Whether a mixer is asked, which can take seconds.
+  // Whether the check asks a mixer, which can take seconds.
   bool asksMixers;
-  // Finds what does not work; *good is the sentence for the case that nothing
-  // was found.
+  // Finds problems. *good receives the sentence that is shown when there is
+  // none.
   Findings (*check)(std::string *good);
 };
 

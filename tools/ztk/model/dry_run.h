@@ -49,7 +49,7 @@ struct PlannedAnnouncement {
 
 class Plan {
  public:
-  // Looks which mixers are attached, and sends nothing to them.
+  // Finds the attached mixers, and sends nothing to them.
   Plan();
 
   // A setter: sends, remembers, announces, and reads the selectors.
@@ -80,7 +80,7 @@ class Plan {
   void AddWriteRequest(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
   void AddAnnouncement(const Change &change);
-  // `stops` where the library reads only the first mixer.
+  // `stops` is true when the library reads only the first mixer.
   void AddSelectors(const Setting &setting, bool stops);
 
   std::size_t found_ = 0;

@@ -17,11 +17,11 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 constexpr int kVersion = 1;
-// More would only hide the first ones, which a user mends first.
+// More errors would only hide the first ones, which a user corrects first.
 constexpr std::size_t kMostErrors = 20;
 
-// What the answer of "ztk export --json" has besides, so that it can be
-// imported too.
+// Other keys of the output of "ztk export --json", so that it can be imported
+// too.
 constexpr const char *kEnvelope[] = {"schema", "command", "ok", "warnings"};
 
 std::vector<std::string> SettingNames(const std::string &model) {
@@ -39,7 +39,7 @@ const Setting *FindSetting(const std::string &model, const std::string &name) {
   return nullptr;
 }
 
-// The channel that a name in the file means, from 0.
+// The channel, counted from 0, that a name in the file means.
 std::optional<std::uint32_t> ChannelNamed(const Setting &setting,
                                           const std::string &name) {
   for (std::uint32_t channel = 0; channel < setting.channels; ++channel) {
@@ -48,7 +48,7 @@ std::optional<std::uint32_t> ChannelNamed(const Setting &setting,
   return std::nullopt;
 }
 
-// Reads a text and collects what is wrong with it.
+// Reads a text and collects its errors.
 class ImportReader {
  public:
   ImportedSettings Read(const std::string &text) {
@@ -59,8 +59,8 @@ class ImportReader {
   }
 
  private:
-  // `what` makes the text of the error: that is slow, and needed for the first
-  // ones only.
+  // `what` makes the text of the error. It is called for the first errors only,
+  // because it is slow.
   template <typename Text>
   void AddError(const std::string &place, Text what) {
     if (++import_.errorCount > kMostErrors) return;
@@ -70,7 +70,8 @@ class ImportReader {
     AddError(place, [what] { return std::string(what); });
   }
 
-  // A name that stands twice would silently win over the other one.
+  // Without this error, the second of two equal names would replace the first
+  // without a message.
   Json Parse(const std::string &text) {
     std::vector<std::set<std::string>> names;
     const auto watch = [&](int /*depth*/, Json::parse_event_t event,

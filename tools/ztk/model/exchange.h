@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// All remembered settings as a text, and such a text read again.
+// Writes all remembered settings as a text, and reads such a text.
 #ifndef ZTK_TOOLS_ZTK_MODEL_EXCHANGE_H_
 #define ZTK_TOOLS_ZTK_MODEL_EXCHANGE_H_
 
@@ -15,8 +15,8 @@ namespace ztk::model {
 
 struct ExportedSettings {
   std::string text;  // in JSON: by model, setting and channel
-  // Remembered numbers that are no choice, so that no text stands for them:
-  // "USB input 2: 77, which is not a choice".
+  // Remembered numbers that are not choices and so have no text: "USB input 2:
+  // 77, which is not a choice".
   std::vector<std::string> leftOut;
   // Files that could not be read, with the reason: their settings are missing
   // in the text.
@@ -28,7 +28,7 @@ ExportedSettings ExportSettings();
 inline constexpr std::size_t kLargestImport = std::size_t{1} << 20;
 
 struct ImportedSettings {
-  std::vector<Change> changes;  // none where there are errors
+  std::vector<Change> changes;  // empty when there are errors
   // The first errors, each with the place in the text: "settings.VRM-D6: ...".
   std::vector<std::string> errors;
   std::size_t errorCount = 0;  // of all errors

@@ -135,7 +135,7 @@ void History::Add(Step step) {
 
 bool History::Save() {
   const bool saved = ReplaceStateFile(path_, HistoryText(steps_), damaged_);
-  // What was damaged stands beside it now.
+  // The damaged file is kept under another name.
   if (saved) damaged_ = false;
   return saved;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What this program has changed, so that it can be put back. No other program
-// reads or writes the file, and the settings files contain nothing of it.
+// The changes that this program has made, for undo. No other program reads or
+// writes this file, and the settings files do not contain it.
 #ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_H_
 #define ZTK_TOOLS_ZTK_MODEL_HISTORY_H_
 
@@ -24,14 +24,14 @@ struct PastChange {
   std::optional<std::uint32_t> after;
 };
 
-// What one command has changed.
+// The changes of one command.
 struct Step {
   std::string command;
   std::vector<PastChange> changes;
 };
 
-// The steps of a file, one in each line of JSON, and whether it has lines that
-// are no steps.
+// The steps in a file, one line of JSON for each, and whether the file has
+// other lines.
 struct ParsedHistory {
   std::vector<Step> steps;
   bool damaged = false;
@@ -39,22 +39,22 @@ struct ParsedHistory {
 ParsedHistory ParseHistory(const std::string &text);
 std::string HistoryText(const std::vector<Step> &steps);
 
-// While it lives, no other program of this kind changes anything, so that two
-// of them do not lose each other's steps.
+// While it exists, no other ztk changes anything: two of them at once could
+// lose a step.
 class History {
  public:
-  // Waits for another program of this kind: see StateLock.
+  // Waits for another ztk: see StateLock.
   History();
 
   enum class State : std::uint8_t {
     Usable,
-    Busy,        // another program of this kind is at work
-    Unavailable  // nothing can be recorded, or what is recorded cannot be read
+    Busy,        // another ztk has the lock
+    Unavailable  // the history can be neither written nor read
   };
   State state() const { return state_; }
   // Why it is not usable, as a part of a sentence.
   const std::string &reason() const { return reason_; }
-  // Some lines of the file were no steps; they are left out.
+  // Some lines of the file are not steps; they are left out.
   bool damaged() const { return damaged_; }
 
   const std::vector<Step> &steps() const { return steps_; }
@@ -94,13 +94,13 @@ class RecordedStep {
 
 struct MadeStep {
   MadeChanges made;
-  // Why the history does not hold this step; empty when it does, or when
+  // Why the history does not contain this step; empty when it does, or when
   // nothing has changed.
   std::string notRecorded;
 };
 
-// Makes the changes as one step of the history, which is not busy. `command` as
-// in "input set".
+// Makes the changes as one step of the history, which must not be busy.
+// `command` is its path, such as "input set".
 MadeStep MakeStep(const std::string &command,
                   const std::vector<Change> &changes, History *history);
 

@@ -32,7 +32,7 @@ std::string Folded(const std::string &name) {
   return folded;
 }
 
-// A model by its name, or by the part behind the dash.
+// Finds a model by its name, or by the part after the dash.
 const Product *FindTyped(const std::string &word) {
   const std::string typed = Folded(word);
   for (const Product &product : Products()) {

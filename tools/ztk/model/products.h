@@ -13,7 +13,7 @@
 
 namespace ztk::model {
 
-// The model that is meant where no other is named.
+// The model that a command uses when the user names none.
 inline constexpr std::uint32_t kOwnProduct = ZTK_PRODUCT_VRM_D6;
 
 struct Product {
@@ -25,8 +25,8 @@ struct Product {
 const std::vector<Product> &Products();
 
 // The number of a model from a word of the user: its number, its name as people
-// type it ("vrm b5", "b5"), or a name in which the library finds one. None
-// where it is neither.
+// type it ("vrm b5", "b5"), or a name in which the library finds one. None when
+// it is neither.
 std::optional<std::uint32_t> FindProduct(const std::string &word);
 
 // The models that the attached mixers call themselves, each once. A mixer that

@@ -63,7 +63,7 @@ MixerState StateOf(const ZTKRequestOutcome &request) {
   }
 }
 
-// About a mixer that was opened.
+// The sentence about a mixer that was opened.
 std::string Sentence(int number, MixerState state) {
   switch (state) {
     case MixerState::Refused:
@@ -151,8 +151,9 @@ void RecordedCalls::Collect(ZTKResult result,
   last_.size = sizeof last_;
   ZTK_GetLastOutcome(&last_);
   for (const std::string &place : places) MixerAt(place);
-  // The library opens mixers by their position. When one is unplugged, those
-  // behind it move up, and the next one is passed over.
+  // The library opens mixers by their position. When one is unplugged, the
+  // positions of the mixers after it change, and the library misses the next
+  // one.
   std::size_t unplugged = 0;
   std::vector<bool> served(places.size());
   for (std::size_t i = 0; i < last_.mixersListed; ++i) {
@@ -197,7 +198,7 @@ Mixer &RecordedCalls::MixerAt(const std::string &place) {
 
 namespace {
 
-// Its number is what it was called before; its position may have changed.
+// Its number stays the same, although its position may have changed.
 Mixer AskMixer(int number, const std::string &place) {
   const std::vector<std::string> now = MixerPlaces();
   const auto found = std::find(now.begin(), now.end(), place);

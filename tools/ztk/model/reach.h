@@ -15,12 +15,12 @@
 
 namespace ztk::model {
 
-// What became of a mixer that was asked something.
+// The result of a request to a mixer.
 enum class MixerState : std::uint8_t {
   Answered,
   Refused,    // it answered that it does not accept the request
   Silent,     // it did not answer in time
-  Gone,       // it was unplugged or switched off meanwhile
+  Gone,       // it was unplugged or switched off during the request
   NotOpened,  // nothing could be sent to it
   Failed
 };
@@ -37,7 +37,7 @@ struct Reach {
 
   std::size_t found() const { return mixers.size(); }
   std::size_t answered() const;
-  // To how many something could be sent.
+  // The number of mixers that a request could be sent to.
   std::size_t opened() const;
 };
 
@@ -49,12 +49,11 @@ Mixer Unanswering(int number, usb::Code code);
 // Asks the mixers at these places something harmless, all at the same time.
 Reach AskMixers(const std::vector<std::string> &places);
 
-// Calls functions of the library one after the other, and collects from the
-// record of each call what became of its requests.
+// Calls functions of the library one after the other, and collects the results
+// of their requests from the record of each call.
 class RecordedCalls {
  public:
-  // Calls the function and answers its result. A call that was rejected has
-  // sent nothing.
+  // Calls the function and returns its result. A rejected call sends nothing.
   template <typename Function>
   ZTKResult Call(Function function) {
     const std::vector<std::string> places = MixerPlaces();
@@ -65,15 +64,15 @@ class RecordedCalls {
 
   // The record of the last call.
   const ZTKOutcome &last() const { return last_; }
-  // How many mixers have accepted the value of the last call.
+  // The number of mixers that accepted the value of the last call.
   std::size_t acceptedLast() const;
-  // All mixers that were attached to any of the calls. One that did not accept
-  // a value counts as not answered, also where it accepted others.
+  // All mixers that were attached to any of the calls. A mixer that did not
+  // accept one of the values does not count as answered.
   const Reach &reach() const { return reach_; }
 
  private:
   void Collect(ZTKResult result, const std::vector<std::string> &places);
-  // The mixer that is plugged in there, which may be new.
+  // The mixer that is plugged in at the place; adds it when it is new.
   Mixer &MixerAt(const std::string &place);
 
   ZTKOutcome last_{};

@@ -13,16 +13,16 @@
 
 namespace ztk::model {
 
-// What is remembered, each file as it was when it was first asked for.
+// The remembered values. Each file is read once, when it is first needed.
 class SettingsSnapshot {
  public:
-  // The integer in the settings file; none when it holds none. The library's
-  // own getter would answer a default then.
+  // The integer in the settings file; none when it is missing, for which a
+  // getter of the library would return a default.
   std::optional<std::uint32_t> Remembered(const Setting &setting,
                                           std::uint32_t channel);
 
   // The file of the setting and why it cannot be read, as a part of a sentence.
-  // Empty where the file was read, and where there is none.
+  // Empty when the file was read, and when there is none.
   const std::string &WhyUnreadable(const Setting &setting);
 
  private:
@@ -42,7 +42,7 @@ class SettingsSnapshot {
   std::map<std::string, File> files_;  // by model
 };
 
-// What is remembered now.
+// The value that is remembered now.
 std::optional<std::uint32_t> Remembered(const Setting &setting,
                                         std::uint32_t channel);
 

@@ -7,9 +7,8 @@ namespace ztk::model {
 
 namespace {
 
-// The library addresses its values across the channels: a remembered number
-// behind a channel's choices would send a value of another channel, which is
-// not what was remembered.
+// The library has one table of values for all channels: a remembered number
+// beyond the choices of a channel would send a value of another channel.
 bool BelongsToItsChannel(const StoredValue &value) {
   return CanBeSet(*value.setting, value.channel, value.index);
 }

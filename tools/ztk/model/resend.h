@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Sending remembered values to the mixers again.
+// Sends remembered values to the mixers again.
 #ifndef ZTK_TOOLS_ZTK_MODEL_RESEND_H_
 #define ZTK_TOOLS_ZTK_MODEL_RESEND_H_
 
@@ -33,7 +33,7 @@ std::vector<StoredValue> AllStoredValues();
 // Whether the library would refuse to send it. Sends nothing.
 bool WouldBeRefused(const StoredValue &value);
 
-// Sends each of them, and marks those that are refused.
+// Sends each value, and marks those that are refused.
 Reach SendAgain(std::vector<StoredValue> *values);
 
 }  // namespace ztk::model

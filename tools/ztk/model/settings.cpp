@@ -171,7 +171,7 @@ const Setting kMidi{
 
 namespace {
 
-// In the order in which people are told of them.
+// In the order in which they are listed for users.
 constexpr const Setting *kSettings[] = {&kInput, &kOutput, &kBoost, &kMidi};
 
 }  // namespace

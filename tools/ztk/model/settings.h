@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The settings, as data: list, get, set and apply are made from it.
+// The settings as data. The commands list, get, set and apply use this table.
 #ifndef ZTK_TOOLS_ZTK_MODEL_SETTINGS_H_
 #define ZTK_TOOLS_ZTK_MODEL_SETTINGS_H_
 
@@ -18,34 +18,36 @@ namespace ztk::model {
 
 struct Setting {
   const char *name;     // the word on the command line
-  const char *title;    // what it is called
-  const char *place;    // what one channel of it is called
+  const char *title;    // its name in messages
+  const char *place;    // the name of one channel in messages
   const char *idea;     // half a sentence for the help
   const char *example;  // CHOICE, and N before it where there are channels
 
-  // The model that it belongs to: who is served, and whose file remembers it.
+  // The model that it belongs to, and in whose settings file it is stored.
   std::uint32_t product;
   ZTKTextRef model;
-  // In that file; with channels, a format that takes the channel from 0.
+  // The key in that file; with channels, a format for the channel, counted from
+  // 0.
   ZTKTextRef key;
   // How its changes are announced.
   const notify::AnnouncedSetting *notice;
 
-  // What a mixer is sent for a choice: where to, and the value.
+  // The register and the value that a mixer receives for a choice.
   std::uint16_t writeRegister;
   std::uint16_t (*deviceValue)(std::uint32_t channel, std::uint32_t index);
-  // How much of its selectors is read after a change, in bytes; 0 for nothing.
+  // The number of bytes that the library reads of the selectors after a change;
+  // 0 when it reads nothing.
   std::uint16_t selectorLength;
 
-  std::uint32_t channels;  // 0 where the setting has none
-  // Indexes behind the choices that the library sets and sends again although
-  // they are no choices.
+  std::uint32_t channels;  // 0 when the setting has none
+  // The number of indexes after the choices that the library accepts although
+  // they are not choices.
   std::uint32_t placeholders;
-  // What the library takes where nothing is remembered.
+  // The index that the library uses when nothing is remembered.
   std::uint32_t (*defaultIndex)(std::uint32_t channel);
 
-  // The library's functions; those of a setting without channels leave the
-  // channel out.
+  // The functions of the library; for a setting without channels they ignore
+  // the channel.
   ZTKResult (*count)(std::uint32_t product, std::uint32_t channel,
                      std::uint32_t *outCount);
   ZTKResult (*text)(std::uint32_t product, std::uint32_t channel,
@@ -54,7 +56,8 @@ struct Setting {
                    std::uint32_t index);
   ZTKResult (*current)(std::uint32_t product, std::uint32_t channel,
                        std::uint32_t *outIndex);
-  // The library sends only such indexes again; 0 where the choices decide.
+  // The library sends only smaller indexes again; 0 when it sends all choices
+  // again.
   std::uint32_t sentAgainBelow;
   ZTKResult (*sendAgain)(std::uint32_t product, std::uint32_t channel);
 };
@@ -66,7 +69,7 @@ extern const Setting kMidi;
 
 std::span<const Setting *const> AllSettings();
 
-// The channels to walk: one, 0, where the setting has none.
+// The number of channels; 1 for a setting without channels.
 std::uint32_t ChannelsToWalk(const Setting &setting);
 
 // The same as a list, from 0.
@@ -84,22 +87,22 @@ std::string PlaceName(const Setting &setting, std::uint32_t channel);
 // Whether the library would send this index again.
 bool IsSentAgain(const Setting &setting, std::uint32_t index);
 
-// Whether the library's setter takes this index: a choice or a placeholder. The
-// number in a settings file may be any.
+// Whether the setter of the library accepts this index: a choice or a
+// placeholder. A settings file can contain any number.
 bool CanBeSet(const Setting &setting, std::uint32_t channel,
               std::uint32_t index);
 
-// The choices of a channel, without placeholders. Empty where the library does
+// The choices of a channel, without placeholders. Empty when the library does
 // not serve the product.
 std::vector<Choice> ChoicesOf(const Setting &setting, std::uint32_t product,
                               std::uint32_t channel);
 
-// The choice with the library's index; none where there is no such choice.
+// The choice with this index in the library; none when there is no such choice.
 std::optional<Choice> ChoiceAt(const Setting &setting, std::uint32_t channel,
                                std::uint32_t index);
 
-// What the library takes as the current choice: the remembered value or a
-// default. None for a product that can only be listed.
+// The current choice of the library: the remembered value or a default. None
+// for a product that can only be listed.
 std::optional<std::uint32_t> CurrentIndex(const Setting &setting,
                                           std::uint32_t product,
                                           std::uint32_t channel);

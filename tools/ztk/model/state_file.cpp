@@ -55,7 +55,8 @@ std::string OtherProcess(int file) {
                         : "another ztk, process " + number + ",";
 }
 
-// The number is only told to the user: nothing depends on it being written.
+// The number is only shown to the user, so a failure to write it does not
+// matter.
 void WriteProcessNumber(int file) {
   const std::string number = std::to_string(getpid()) + "\n";
   if (ftruncate(file, 0) != 0 ||
@@ -97,7 +98,7 @@ StateLock::~StateLock() {
   if (file_ >= 0) close(file_);
 }
 
-// Does not wait for the other end of a pipe that has the file's name.
+// Does not block when a pipe has the name of the file.
 void StateLock::Open(const std::string &path) {
   file_ = open(path.c_str(),
                O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A file that this program keeps for itself and that several of its processes
-// share.
+// A private file of this program, which several of its processes share.
 #ifndef ZTK_TOOLS_ZTK_MODEL_STATE_FILE_H_
 #define ZTK_TOOLS_ZTK_MODEL_STATE_FILE_H_
 
@@ -10,18 +9,18 @@
 
 namespace ztk::model {
 
-// The folder for what a program keeps between its runs; empty where the user
-// has no home. It need not exist.
+// The folder for the state of programs; empty when the user has no home. It may
+// not exist.
 std::string StateFolder();
 
-// Keeps other programs of this kind out while it lives. The system releases it
-// when the process ends, however that happens.
+// A lock against other processes of this program. The system releases it when
+// the process ends, also after a crash.
 class StateLock {
  public:
   enum class Result : std::uint8_t {
     Held,
-    Busy,        // another process held it for as long as this one waited
-    Unavailable  // there is no such folder, or no file can be made in it
+    Busy,        // another process held it for the whole waiting time
+    Unavailable  // the folder is missing, or no file can be made in it
   };
 
   // Makes the folder, and waits at most 5 s for the process that holds the
@@ -54,7 +53,7 @@ struct StateFileContent {
 StateFileContent ReadStateFile(const std::string &path);
 
 // Replaces the file so that a reader sees the old or the new content. With
-// `keepOld` the old file is kept beside it. False when it could not.
+// `keepOld` the old file is kept beside it. False on failure.
 bool ReplaceStateFile(const std::string &path, const std::string &text,
                       bool keepOld);
 

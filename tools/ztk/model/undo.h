@@ -29,24 +29,24 @@ struct UndoItem {
 // nothing was remembered.
 std::uint32_t FormerIndex(const PastChange &change);
 
-// The settings file of the step that cannot be read, and why; empty where all
-// can be. Without it nothing is known of what is in effect.
+// The settings file of the step that cannot be read, and the reason; empty when
+// all can be read. Without the file the current value is not known.
 std::string WhyUnreadable(const Step &step);
 
 // What taking back the last `count` steps does, the last change first.
 std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
                                std::size_t count = 1);
 
-// Whether no change of the step is in effect, because its command was
-// interrupted or somebody has put all of it back.
+// True when no change of the step is in effect, because its command was
+// interrupted or all of it was taken back already.
 bool IsVoid(const Step &step);
 
 // Removes the last steps of the history that are void, as far as the settings
 // files can be read. Returns how many.
 std::size_t DropVoidSteps(History *history);
 
-// The changes that put back what is to be put back. Where nothing was
-// remembered before, the default is sent and nothing is remembered again.
+// The changes that restore the former values. Where nothing was remembered
+// before, the default is sent and nothing is remembered again.
 std::vector<Change> ChangesOf(const std::vector<UndoItem> &items);
 
 }  // namespace ztk::model

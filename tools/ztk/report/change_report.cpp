@@ -68,7 +68,7 @@ Obstruction ObstructionOf(const Reach &reach) {
           .remedy = "once they do, "};
 }
 
-// Why the first change that is not stored is not.
+// The reason of the first change that could not be stored.
 std::string WhyNotStored(const MadeChanges &made) {
   for (const MadeChange &change : made.changes) {
     if (!change.notStored.empty()) return change.notStored;
@@ -82,7 +82,8 @@ std::string SettingsFolder() {
   return Utf8(library.get()) + "/Preferences";
 }
 
-// What is sent can be sent again; what is not remembered is lost.
+// A value that was not sent can be sent again; a value that was not remembered
+// is lost.
 void ReportForgotten(const MadeChanges &made, const std::string &what,
                      Report *report) {
   const std::string remedy = WhyNotStored(made) +
@@ -174,7 +175,7 @@ void ReportReach(const Reach &reach, const DeliveryTexts &texts,
     unanswered.push_back({{"mixer", mixer.number},
                           {"reason", mixer.reason},
                           {"message", mixer.message}});
-    // With one mixer it is the problem itself.
+    // With a single mixer this is the problem itself.
     if (reach.found() > 1) report->warnings.push_back(mixer.message);
   }
   report->fields["mixers"] = {{"found", reach.found()},

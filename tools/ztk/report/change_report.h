@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What a change did to mixers, settings file and message bus, for people and
-// for programs.
+// Reports the effect of a change on mixers, settings file and message bus, for
+// people and for programs.
 #ifndef ZTK_TOOLS_ZTK_REPORT_CHANGE_REPORT_H_
 #define ZTK_TOOLS_ZTK_REPORT_CHANGE_REPORT_H_
 
@@ -14,8 +14,8 @@
 
 namespace ztk::program {
 
-// Opens the history and shows when another program has to be waited for. Throws
-// a Failure where it is not done in time.
+// Opens the history, and shows when it waits for another program. Throws a
+// Failure when that takes too long.
 class SharedHistory {
  public:
   SharedHistory();
@@ -43,14 +43,14 @@ struct DeliveryTexts {
   std::string again;   // what to do to send it again
 };
 
-// Adds how many mixers were found and how many answered, a warning for each
-// that did not, and the problem when some or all did not.
+// Adds the number of mixers that were found and that answered, a warning for
+// each mixer that did not answer, and the problem when some or all did not.
 void ReportReach(const Reach &reach, const DeliveryTexts &texts,
                  Report *report);
 
-// Adds which mixers were reached, what is remembered and what was announced,
-// and the worst of it as the problem. `again` is the command that sends what is
-// remembered once more.
+// Adds which mixers were reached, what is remembered and what was announced;
+// the most serious failure is the problem. `again` is the command that sends
+// the remembered values once more.
 void ReportOutcome(const MadeChanges &made, const std::string &what,
                    const std::string &again, Report *report);
 

@@ -32,7 +32,8 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 using Clock = std::chrono::steady_clock;
 
-// Raised when a reader of the versions before would misunderstand the report.
+// Raised when a program that knows only older versions would misread the
+// report.
 constexpr int kFormatVersion = 1;
 
 constexpr std::uint8_t kVendorRead = 0xC0;
@@ -92,7 +93,7 @@ Reply Read(usb::Connection mixer, std::uint8_t type, std::uint8_t request,
   reply.code = DeviceRequest(mixer, type, request, value, index,
                              reply.bytes.data(), &length);
   const std::chrono::duration<double, std::milli> taken = Clock::now() - before;
-  // Tenths tell enough, and are easier to read.
+  // Tenths are precise enough, and easier to read.
   reply.milliseconds = std::round(taken.count() * 10) / 10;
   const bool replied = reply.code == platform::usb::kSuccess;
   reply.bytes.resize(replied ? std::min<std::size_t>(length, reply.bytes.size())
@@ -107,8 +108,8 @@ Bytes Descriptor(usb::Connection mixer, std::uint16_t typeAndNumber,
       .bytes;
 }
 
-// The characters of a string descriptor, "?" for those that are not ASCII; null
-// where the mixer has no such string.
+// The characters of a string descriptor, with "?" for each that is not ASCII;
+// null when the mixer has no such string.
 Json StringOf(usb::Connection mixer, std::uint8_t number) {
   if (number == 0) return nullptr;
   const Bytes bytes =
@@ -123,7 +124,7 @@ Json StringOf(usb::Connection mixer, std::uint8_t number) {
   return text;
 }
 
-// The serial number is left out: it tells whose mixer it is.
+// The serial number is left out, because it identifies the mixer of a user.
 Json DescriptorsOf(usb::Connection mixer) {
   const Bytes device = Descriptor(mixer, kDevice, 0, kDeviceSize);
   const Bytes head = Descriptor(mixer, kConfiguration, 0, kConfigurationHead);
@@ -191,7 +192,8 @@ Json MixerAt(std::size_t position, const std::string &place,
   return mixer;
 }
 
-// What the library's getters answer: the default where nothing is remembered.
+// The results of the getters of the library: the default when nothing is
+// remembered.
 Json SettingsNow() {
   const auto answered = [](ZTKResult result, std::uint32_t index) {
     return result == ZTK_SUCCESS ? Json(index) : Json();
@@ -261,8 +263,7 @@ Json Versions() {
 
 // Paths below the user's home begin with "~".
 std::string WithoutHome(std::string text) {
-  const char *const variable = std::getenv("HOME");
-  const std::string home = variable == nullptr ? "" : variable;
+  const std::string home = cli::Variable("HOME");
   if (home.size() < 2) return text;
   for (std::size_t at = text.find(home); at != std::string::npos;
        at = text.find(home, at + 1)) {
@@ -271,7 +272,7 @@ std::string WithoutHome(std::string text) {
   return text;
 }
 
-// Without causes and commands, which can name the user.
+// Leaves out causes and commands, which can contain the name of the user.
 Json FindingList(const Json &findings) {
   Json list = Json::array();
   for (const Json &finding : findings) {

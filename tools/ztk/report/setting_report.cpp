@@ -9,8 +9,9 @@ namespace ztk::program {
 
 namespace {
 
-// The choice that a number out of range comes closest to. Choices count from
-// 1 without gaps. A level such as -10 dB is meant by its number alone.
+// The choice whose number is closest to a number out of range. Choices count
+// from 1 without gaps. A number without unit can also mean a level, such as -10
+// dB.
 const Choice &NearestNumber(const std::string &digits,
                             const std::vector<Choice> &choices) {
   for (const Choice &choice : choices) {

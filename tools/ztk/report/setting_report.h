@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Settings in sentences for people and in fields for programs.
+// Describes settings in sentences for people and in fields for programs.
 #ifndef ZTK_TOOLS_ZTK_REPORT_SETTING_REPORT_H_
 #define ZTK_TOOLS_ZTK_REPORT_SETTING_REPORT_H_
 
@@ -33,7 +33,7 @@ std::string Summary(const Setting &setting);
 std::string SetCommand(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
 
-// "; nearest: 6 MIC" for words that no choice begins with; empty where no
+// "; nearest: 6 MIC" for words with which no choice begins; empty when no
 // choice is similar.
 std::string NearestChoice(const std::string &words,
                           const std::vector<Choice> &choices);

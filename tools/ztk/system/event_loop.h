@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a program that listens for changes needs of its system.
+// The event loop of a program that receives changes.
 #ifndef ZTK_TOOLS_ZTK_SYSTEM_EVENT_LOOP_H_
 #define ZTK_TOOLS_ZTK_SYSTEM_EVENT_LOOP_H_
 
@@ -8,8 +8,9 @@
 
 namespace ztk::model {
 
-// What the library's callbacks do not hear: it announces changes of USB output
-// audio under another model's name than it listens to.
+// Changes of USB output audio do not reach the callbacks of the library: it
+// announces them under the name of another model than the one it observes. So
+// this program observes them itself.
 using OutputListener = void (*)(std::int32_t channel, std::int32_t index,
                                 void *context);
 void ListenToOutputAudio(OutputListener listener, void *context);
@@ -17,8 +18,8 @@ void ListenToOutputAudio(OutputListener listener, void *context);
 enum class LoopEnd : std::uint8_t {
   Interrupted,  // SIGINT or SIGTERM
   Stopped,      // StopLoop()
-  NoBus,        // nothing can be heard, or no longer
-  NoLibrary     // a library that hearing takes cannot be loaded
+  NoBus,        // there is no session bus, or it has ended
+  NoLibrary     // a library for receiving changes cannot be loaded
 };
 
 // Runs the loop that delivers changes. Calls `ready` once whatever was

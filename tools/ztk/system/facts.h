@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the user is told differently on each system.
+// Texts that differ between the systems.
 #ifndef ZTK_TOOLS_ZTK_SYSTEM_FACTS_H_
 #define ZTK_TOOLS_ZTK_SYSTEM_FACTS_H_
 
@@ -9,23 +9,23 @@
 
 namespace ztk::model {
 
-// Variables of the environment, and what they decide.
+// The environment variables that ztk reads, and their effects.
 struct VariableFact {
   const char *names;
   const char *meaning;
 };
 std::span<const VariableFact> VariableFacts();
 
-// Where settings and the history of changes are, in lines for the manual.
+// The folders of the settings and of the history, as lines of the manual page.
 const char *FilesFact();
 // The folder of the settings files as the manual names it, with its slash.
 const char *SettingsFolderFact();
 
-// What the commands "autoapply" say about themselves.
+// The note in the help of the commands "autoapply".
 const char *AutoapplyFact();
 
-// Why the library does not find texts and versions that are installed; empty
-// when nothing hinders it.
+// Why the library does not find installed texts and versions; empty when it can
+// find them.
 std::string WhyInstalledIsNotFound();
 
 }  // namespace ztk::model

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Between the library's texts and this program's, which are UTF-8.
+// Converts texts of the library to UTF-8, which this program uses, and back.
 #ifndef ZTK_TOOLS_ZTK_SYSTEM_LIBRARY_TEXT_H_
 #define ZTK_TOOLS_ZTK_SYSTEM_LIBRARY_TEXT_H_
 
@@ -13,8 +13,8 @@ namespace ztk::model {
 // Empty for null.
 std::string Utf8(ZTKTextRef text);
 
-// A text of the library's kind. It reads the string that it was made from,
-// which has to outlive it.
+// A text in the form of the library. It refers to the string that it was made
+// from, which has to exist longer.
 class LibraryText {
  public:
   explicit LibraryText(const std::string &text);
@@ -27,7 +27,7 @@ class LibraryText {
   ZTKTextRef text_;
 };
 
-// Calls `function` with the text, which lives until it returns.
+// Calls `function` with the text, which exists until the function returns.
 template <typename Function>
 auto WithText(const std::string &text, Function function) {
   const LibraryText made(text);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Where the mixers are plugged in, seen past the library: it numbers mixers,
-// and a number says nothing once one of them has gone.
+// Where the mixers are plugged in. The library numbers mixers by position, so a
+// number no longer identifies a mixer after another one was unplugged.
 #ifndef ZTK_TOOLS_ZTK_SYSTEM_PLACES_H_
 #define ZTK_TOOLS_ZTK_SYSTEM_PLACES_H_
 
@@ -11,27 +11,28 @@
 
 namespace ztk::model {
 
-// The system's names of the places, in the order in which the library numbers
-// their mixers. Opens nothing.
+// The names that the system uses for the places, in the order in which the
+// library numbers the mixers. Opens nothing.
 std::vector<std::string> MixerPlaces();
 
-// What keeps a mixer from being opened.
+// Why a mixer cannot be opened.
 enum class Obstacle : std::uint8_t {
   None,       // it can be opened
   Vanished,   // it is not attached any more
-  NoNode,     // attached, but nothing here leads to it
+  NoNode,     // attached, but without a device node
   NoRight,    // the user may not open it
-  Forbidden,  // no right of a user would help: the system keeps all out
+  Forbidden,  // the system lets no user open it
   Other
 };
 
 struct Access {
   Obstacle obstacle = Obstacle::None;
-  std::string node;    // what is opened, where there is such a thing
-  std::string reason;  // in the words of the system
+  std::string node;    // path of the device node, if there is one
+  std::string reason;  // the error text of the system
 };
 
-// Whether the user has the right to. Opens nothing, so it cannot tell more.
+// Whether the user has the right to open it. Opens nothing, so it cannot find
+// other reasons.
 bool MayBeOpened(const std::string &place);
 
 // Tries to open the mixer at the place, and closes it at once.

@@ -9,10 +9,10 @@ namespace ztk::model {
 // True when there is a session bus that other programs could listen on.
 bool SessionBusAnswers();
 
-// The library by which a session bus is reached, if it cannot be loaded; else
+// The name of the library for the session bus if it cannot be loaded; else
 // null.
 const char *MissingBusLibrary();
-// The library whose loop delivers what comes over the bus, if it cannot be
+// The name of the library with the event loop for callbacks if it cannot be
 // loaded; else null.
 const char *MissingLoopLibrary();
 

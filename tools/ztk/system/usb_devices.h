@@ -11,8 +11,8 @@ namespace ztk::model {
 // where the system does not tell it.
 struct UsbDevice {
   std::string place;  // as MixerPlaces() names places
-  // Two hexadecimal digits; that of the first interface where the device
-  // leaves it to its interfaces.
+  // Two hexadecimal digits. When the interfaces have classes of their own, the
+  // class of the first interface.
   std::string deviceClass;
   std::string speed;  // in Mbit/s
   // What the device calls itself, where the system tells.

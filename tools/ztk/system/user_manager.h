@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The service manager of the user's session, which starts what a device asks
-// for when it is plugged in.
+// The service manager of the user's session, which starts the unit that a udev
+// rule names when a device is plugged in.
 #ifndef ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_
 #define ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_
 
@@ -10,8 +10,8 @@
 
 namespace ztk::model {
 
-// Each of these throws std::runtime_error with the reason when the manager does
-// not do it.
+// Each of these throws std::runtime_error with the reason when the manager
+// refuses.
 class UserManager {
  public:
   UserManager();
@@ -21,7 +21,7 @@ class UserManager {
 
   // Whether it knows a unit of this name.
   bool Knows(const std::string &unit);
-  // Makes the unit in the file known, or no longer, from now on and for good.
+  // Adds the unit in the file permanently, or removes it.
   void Link(const std::string &file);
   void Unlink(const std::string &unit);
 
@@ -30,8 +30,7 @@ class UserManager {
   std::unique_ptr<Connection> connection_;
 };
 
-// The rule of the device manager that asks for the unit; empty when none is
-// installed.
+// The path of the udev rule that names the unit; empty when none is installed.
 std::string PlugInRule();
 
 }  // namespace ztk::model

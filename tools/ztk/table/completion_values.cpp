@@ -12,8 +12,8 @@ namespace ztk::program {
 
 namespace {
 
-// The rest of a text after words that were typed of it: the text itself when
-// there are none, empty when the text does not begin with them.
+// The part of a text after the words that were typed already: the whole text
+// when there are none, empty when the text does not begin with them.
 std::string Rest(const std::string &text, const std::string &words) {
   if (words.empty()) return text;
   if (cli::LowerCase(text).rfind(cli::LowerCase(words) + " ", 0) != 0) {
@@ -41,8 +41,8 @@ std::vector<cli::Value> ChannelValues(const Setting &setting,
   return values;
 }
 
-// Texts are offered rather than numbers, except for a text that looks like an
-// option, and where the user has begun to type a number.
+// Offers texts instead of numbers, except for a text that looks like an option,
+// and when the user has begun to type a number.
 std::vector<cli::Value> ChoiceValues(const Setting &setting,
                                      const Arguments &before,
                                      const std::string &begun) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The part of the table that each setting has: list, get, set, apply and what
-// only one of the settings has.
+// The commands of a setting: list, get, set and apply, and those of a single
+// setting, default and raw.
 #include "ztk/commands/setting/setting_commands.h"
 #include "ztk/report/setting_report.h"
 #include "ztk/table/table_parts.h"
@@ -13,7 +13,7 @@ namespace {
 using SettingFunction = Report (*)(const Setting &setting,
                                    const Arguments &arguments);
 
-// Added where the setting has channels.
+// Adds the argument CHANNEL for a setting with channels.
 void AddChannel(const Setting &setting, const std::string &otherwise,
                 std::vector<cli::Option> *options) {
   if (setting.channels == 0) return;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The table of ztk.
+// The table of the commands of ztk.
 #include <utility>
 
 #include "build_config.h"
@@ -16,7 +16,7 @@ namespace ztk::program {
 
 namespace {
 
-// A command without a setting.
+// A command that is not for a single setting.
 cli::Command MakeOther(const char *path, const char *summary, const char *note,
                        const char *example,
                        Report (*run)(const Arguments &arguments)) {
@@ -214,7 +214,7 @@ void Append(std::vector<cli::Command> more,
   for (cli::Command &command : more) commands->push_back(std::move(command));
 }
 
-// The commands that begin with the word; all when it is empty.
+// The commands that start with the word; all when it is empty.
 std::vector<cli::Command> MakeCommands(const std::string &firstWord) {
   std::vector<cli::Command> commands;
   const auto add = [&](const char *word, const auto &make) {
@@ -282,7 +282,7 @@ cli::Command MakeCommand(std::string path, std::string summary,
 
 ztk::cli::Program ztk::cli::ThisProgram(const std::string &firstWord) {
   using namespace ztk::program;
-  // An unknown word is explained with all commands.
+  // The message about an unknown word needs all commands.
   std::vector<Command> commands = MakeCommands(firstWord);
   const std::string word = commands.empty() ? "" : firstWord;
   if (commands.empty()) commands = MakeCommands(word);

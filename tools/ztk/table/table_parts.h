@@ -23,7 +23,7 @@ cli::Command MakeCommand(std::string path, std::string summary,
 cli::Option ProductOption();
 cli::Option DryRunOption();
 
-// What completions offer for an argument.
+// The words that completions offer for an argument.
 std::vector<cli::Value> ChannelValues(const Setting &setting,
                                       std::uint32_t count);
 std::vector<cli::Value> ChoiceValues(const Setting &setting,
@@ -33,7 +33,7 @@ std::vector<cli::Value> ProductValues();
 std::vector<cli::Value> SettingValues();
 std::vector<cli::Value> LanguageValues();
 
-// Parts of the table that have a source of their own.
+// Parts of the table, each in a source of its own.
 std::vector<cli::Command> SettingCommands(const Setting &setting);
 std::vector<cli::Section> ManualIntroduction();
 std::vector<cli::Section> ManualSections();

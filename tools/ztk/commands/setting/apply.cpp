@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Sending what is remembered again.
+// Sends remembered choices again.
 #include <algorithm>
 
 #include "cli/strings.h"
@@ -42,7 +42,7 @@ void AddSetting(const StoredValue &value, const Reach &reach, bool others,
       NamedValue(value) + (value.refused ? ", refused" : sent) + "\n";
 }
 
-// What to do about one that was refused.
+// What the user can do about a refused value.
 std::string Remedy(const StoredValue &value) {
   const Setting &setting = *value.setting;
   if (!ChoiceAt(setting, value.channel, value.index) ||
@@ -53,7 +53,7 @@ std::string Remedy(const StoredValue &value) {
          SetCommand(setting, value.channel, value.index);
 }
 
-// A refused value is the more urgent problem: it does not go away by itself.
+// A refused value is reported first: only the user can correct it.
 void AddRefused(const std::vector<StoredValue> &settings, Report *report) {
   std::vector<std::string> refused;
   std::string remedy;
@@ -85,7 +85,8 @@ Report PlanOfApply(std::vector<StoredValue> settings) {
   return report;
 }
 
-// Settings of other models that a user of several may expect to be sent.
+// Remembered settings of other models, which a user with several models may
+// expect to be sent too.
 void AddLeftOut(const std::vector<std::string> &models, Report *report) {
   for (const std::string &model : models) {
     report->text += "Not sent: what is remembered for the " + model +
@@ -128,7 +129,7 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
   return report;
 }
 
-// Nothing can be sent that cannot be read.
+// A value that cannot be read cannot be sent.
 void RequireReadable(const Setting &setting) {
   const std::string why = WhyUnreadable(setting);
   if (why.empty()) return;

@@ -15,7 +15,7 @@ namespace ztk::program {
 // Whether standard input and output are a terminal, so that ztk can ask.
 bool CanPick();
 
-// Shows the list, whole lines of text, and asks for a choice of `place` until
+// Shows the list (whole lines of text) and asks for a choice of `place` until
 // the answer names one. Throws a Failure when the answer is empty.
 Choice Pick(const std::string &place, const std::string &list,
             const std::vector<Choice> &choices);

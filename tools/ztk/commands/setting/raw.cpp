@@ -25,7 +25,7 @@ std::uint32_t RawNumber(const Arguments &arguments, const char *name) {
                     SeeHelp(kInput, "raw"));
 }
 
-// A value that is no choice.
+// A value that is not a choice.
 struct RawValue {
   std::uint32_t channel;
   std::uint32_t high;

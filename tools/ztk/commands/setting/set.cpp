@@ -11,8 +11,7 @@ namespace ztk::program {
 
 namespace {
 
-// The choice that the words mean; without words, the one that is picked from
-// the list, where somebody is there to pick.
+// The choice that the words name. Without words, asks the user in a terminal.
 Choice Choose(const Setting &setting, std::uint32_t product,
               std::uint32_t channel, const Arguments &arguments) {
   const std::string place = PlaceName(setting, channel);

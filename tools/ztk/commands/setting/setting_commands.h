@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What can be done with a setting. Each throws a Failure when the words are
-// wrong or the library refuses; nothing was sent then.
+// The commands of a single setting. Each throws a Failure, and has sent
+// nothing, when the arguments are invalid or the library rejects them.
 #ifndef ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_COMMANDS_H_
 #define ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_COMMANDS_H_
 
@@ -15,13 +15,14 @@ Report ListChoices(const Setting &setting, const Arguments &arguments);
 Report GetRemembered(const Setting &setting, const Arguments &arguments);
 Report SetChoice(const Setting &setting, const Arguments &arguments);
 
-// Of USB output audio only: sent and announced, not remembered.
+// Only for USB output audio: the default is sent and announced, not remembered.
 Report SendDefault(const Setting &setting, const Arguments &arguments);
-// Of USB input audio only: sent, neither announced nor remembered.
+// Only for USB input audio: the value is sent, neither announced nor
+// remembered.
 Report SendRaw(const Setting &setting, const Arguments &arguments);
 
-// Send what is remembered again, and nothing else: a setting without a value
-// of its own is left alone, where the library would send its default.
+// Send remembered values again, and nothing else: a setting without a
+// remembered value is not sent, although the library would send its default.
 Report ApplySetting(const Setting &setting, const Arguments &arguments);
 Report ApplyAll(const Arguments &arguments);
 

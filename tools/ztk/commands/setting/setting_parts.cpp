@@ -57,7 +57,7 @@ std::uint32_t RequiredChannel(const Setting &setting,
                                      SeeHelp(setting, verb));
 }
 
-// What the library answers to words that only it judges.
+// The answer of the library, which alone decides about these arguments.
 [[noreturn]] void ThrowRejected(const Setting &setting, std::uint32_t product,
                                 const std::string &what) {
   throw Failure(ExitCode::Rejected, "the library refuses " + what +
@@ -65,7 +65,7 @@ std::uint32_t RequiredChannel(const Setting &setting,
                                         ": " + Belonging(setting));
 }
 
-// The one that the library would refuse is refused here too.
+// A model that the library would reject is rejected here too.
 void CheckServed(const Setting &setting, std::uint32_t product,
                  const std::string &what) {
   if (product != setting.product) ThrowRejected(setting, product, what);

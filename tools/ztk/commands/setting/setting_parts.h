@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the commands of a setting share.
+// Functions that the commands of a setting share.
 #ifndef ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_PARTS_H_
 #define ZTK_TOOLS_ZTK_COMMANDS_SETTING_SETTING_PARTS_H_
 
@@ -18,22 +18,22 @@ namespace ztk::program {
 // The model of --product, or the one that the setting belongs to.
 std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments);
 
-// A channel as people type it, "2" or "CH2", from 0; none when there is no such
-// channel.
+// Reads a channel as people type it, "2" or "CH2", and returns its number
+// counted from 0; none when there is no such channel.
 std::optional<std::uint32_t> ParseChannel(const Setting &setting,
                                           const std::string &word);
 
-// The channel that was given, from 0; none when it was left out. Throws when
+// The given channel, counted from 0; none when it was left out. Throws when
 // there is no such channel.
 std::optional<std::uint32_t> ChannelFor(const Setting &setting,
                                         const Arguments &arguments);
 
-// The channel that was given, or all.
+// The given channel, or all channels.
 std::vector<std::uint32_t> ChannelsFor(const Setting &setting,
                                        const Arguments &arguments);
 
-// The channel that was given; 0 for a setting without channels. When it was
-// left out, asks for it in a terminal, and throws elsewhere.
+// The given channel; 0 for a setting without channels. When it was left out,
+// asks for it in a terminal, and throws where there is no terminal.
 std::uint32_t RequiredChannel(const Setting &setting,
                               const Arguments &arguments, const char *verb);
 
@@ -44,16 +44,16 @@ std::string SeeHelp(const Setting &setting, const char *verb);
 [[noreturn]] void ThrowRejected(const Setting &setting, std::uint32_t product,
                                 const std::string &what);
 
-// For a dry run: refuses a model that the library would refuse.
+// For a dry run: throws for a model that the library would reject.
 void CheckServed(const Setting &setting, std::uint32_t product,
                  const std::string &what);
 
-// Setting and model, for JSON.
+// Adds the names of setting and model to the JSON fields.
 void AddSettingNames(const Setting &setting, std::uint32_t product,
                      Report *report);
 
-// Adds a warning where the settings file cannot be read. Answers the file and
-// the reason, or nothing.
+// Adds a warning where the settings file cannot be read. Returns the file and
+// the reason; empty when it can be read.
 std::string WarnOfUnreadable(const Setting &setting, Report *report);
 
 // Adds a warning where something was sent, and every attached mixer calls

@@ -28,7 +28,7 @@ bool AnswersAt(const std::string &address) {
   return answers;
 }
 
-// Where the bus of a logged-in user listens.
+// The usual address of the bus of a logged-in user.
 std::string UsualAddress() {
   const std::string folder =
       Variable("XDG_RUNTIME_DIR")
@@ -54,7 +54,7 @@ void BlameLibrary(const std::string &purpose, const std::string &library,
 
 Finding ExplainNoBus() {
   Finding finding{.id = "no-bus",
-                  .what = "other programs do not hear of changes",
+                  .what = "other programs do not receive changes",
                   .cause =
                       "there is no session message bus here, as is usual over "
                       "ssh and in a container; this starts a shell with one "
@@ -89,14 +89,14 @@ Finding ExplainNoBus() {
 }  // namespace
 
 Findings CheckBus(std::string *good) {
-  *good = "other programs hear of changes";
+  *good = "other programs receive changes";
   Findings findings;
   if (!SessionBusAnswers()) findings.push_back(ExplainNoBus());
-  // Only who hears needs it.
+  // Only a program that receives changes needs this library.
   const char *const library = MissingLoopLibrary();
   if (library != nullptr) {
     Finding finding{.id = "no-loop",
-                    .what = "ztk watch does not hear of changes",
+                    .what = "ztk watch does not receive changes",
                     .cause = {},
                     .command = {}};
     BlameLibrary("delivers what is heard", library, kLoopPackage, &finding);

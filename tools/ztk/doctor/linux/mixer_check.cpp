@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Why a mixer that is attached cannot be opened on Linux: udev, its rules and
-// the seat give the right, and a container can take the device away.
+// Why an attached mixer cannot be opened on Linux: a udev rule grants access to
+// the user of the seat, and a container can hide the device.
 #include <pwd.h>
 #include <unistd.h>
 
@@ -13,6 +13,7 @@
 #include <sstream>
 
 #include "build_config.h"
+#include "cli/strings.h"
 #include "udev_rule.h"
 #include "usb/USB.h"
 #include "ztk/doctor/finding.h"
@@ -26,7 +27,7 @@ namespace {
 constexpr char kRuleName[] = "70-tarvix-mixer.rules";
 constexpr char kOwnRule[] = "/etc/udev/rules.d/70-tarvix-mixer.rules";
 constexpr char kOwnersRule[] = "/etc/udev/rules.d/71-tarvix-mixer-owner.rules";
-// What the rule leaves on a device that it was applied to.
+// The tag that the rule adds to a device.
 constexpr char kSeatTag[] = "uaccess";
 
 std::string SysFolder(const std::string &place) {
@@ -43,12 +44,7 @@ std::string Contents(const std::string &path) {
 
 bool Exists(const std::string &path) { return access(path.c_str(), F_OK) == 0; }
 
-std::string VariableOrEmpty(const char *name) {
-  const char *value = std::getenv(name);
-  return value == nullptr ? "" : value;
-}
-
-// The value behind "key=" at the beginning of a line.
+// The value after "key=" at the beginning of a line.
 std::string ValueIn(const std::string &text, const std::string &key) {
   std::istringstream lines(text);
   for (std::string line; std::getline(lines, line);) {
@@ -57,7 +53,7 @@ std::string ValueIn(const std::string &text, const std::string &key) {
   return "";
 }
 
-// As containers are told which device they may have.
+// Containers, with the option that gives them access to a device.
 std::string MixerInNumbers() {
   std::array<char, 40> text{};
   std::snprintf(text.data(), text.size(), "vendorid=%04x productid=%04x",
@@ -77,12 +73,12 @@ std::optional<Container> AroundUs() {
                      .command = "flatpak override --user --device=all " +
                                 ShellQuoted(ValueIn(info, "name="))};
   }
-  if (const std::string snap = VariableOrEmpty("SNAP_NAME"); !snap.empty()) {
+  if (const std::string snap = cli::Variable("SNAP_NAME"); !snap.empty()) {
     return Container{
         .name = "a snap",
         .command = "sudo snap connect " + ShellQuoted(snap) + ":raw-usb"};
   }
-  // What the manager of a container has told the system in it.
+  // The kind of the container, as its manager has told the system inside.
   const std::string told = Contents("/run/systemd/container");
   const std::string kind = told.substr(0, told.find('\n'));
   if (kind == "lxc") {
@@ -105,7 +101,7 @@ std::optional<Container> AroundUs() {
   return std::nullopt;
 }
 
-// The system service that this runs in, or empty.
+// The system service that started this program; empty when there is none.
 std::string Service() {
   const std::string group = Contents("/proc/self/cgroup");
   constexpr char kServices[] = "/system.slice/";
@@ -116,7 +112,8 @@ std::string Service() {
   return end == std::string::npos ? "" : unit.substr(0, end) + ".service";
 }
 
-// Has udev read its rules, and apply them as if every mixer was plugged in now.
+// A command that makes udev read its rules and apply them to every mixer, as
+// when it is plugged in.
 std::string Replug() {
   std::array<char, 60> matches{};
   std::snprintf(matches.data(), matches.size(),
@@ -133,7 +130,7 @@ std::string InstallRule(const std::string &rule, const std::string &file) {
   return "echo '" + rule + "' | sudo tee " + file + " && " + Replug();
 }
 
-// The rule as udev would find it.
+// The rules file that udev uses.
 struct Rule {
   std::string path;  // empty where there is none
   bool fits = false;
@@ -146,7 +143,7 @@ Rule FindRule() {
           .fits = Contents(path).find(kMixerMatch) != std::string::npos};
 }
 
-// Whether udev has applied the rule to the device that is plugged in now.
+// Whether udev has applied the rule to the mixer that is plugged in now.
 bool IsTagged(const std::string &place) {
   std::string number = Contents(SysFolder(place) + "/dev");
   number = number.substr(0, number.find('\n'));
@@ -158,7 +155,8 @@ bool IsTagged(const std::string &place) {
   return false;
 }
 
-// What the environment says is another's after "su", and nobody's in a service.
+// The environment is not used here: after "su" it describes another user, and
+// in a service it is empty.
 std::string UserName() {
   const passwd *user = getpwuid(geteuid());
   return user == nullptr ? std::to_string(geteuid()) : user->pw_name;
@@ -167,8 +165,8 @@ std::string UserName() {
 Finding NoSeat(const std::string &what) {
   std::string cause =
       "the rule grants access to the user who is logged in at this seat, and ";
-  if (!VariableOrEmpty("SSH_CONNECTION").empty() ||
-      !VariableOrEmpty("SSH_TTY").empty()) {
+  if (!cli::Variable("SSH_CONNECTION").empty() ||
+      !cli::Variable("SSH_TTY").empty()) {
     cause += "you are logged in over ssh";
   } else if (const std::string service = Service(); !service.empty()) {
     cause += service + " belongs to no seat";
@@ -314,7 +312,7 @@ std::string RestartCommand(const std::string &place) {
          "/authorized; done";
 }
 
-// Whatever has that name already.
+// Whatever already has that name.
 std::string MoveAwayCommand(const std::string &path) {
   return "mv --backup=numbered " + ShellQuoted(path) + " " +
          ShellQuoted(path + ".old");

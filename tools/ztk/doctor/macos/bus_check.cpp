@@ -3,8 +3,8 @@
 
 namespace ztk::model {
 
-// The distributed notification center comes with the login; it cannot be
-// missing, or set up otherwise, by anything that a user can do.
+// The distributed notification center exists in every login session; a user can
+// neither remove nor configure it.
 Findings CheckBus(std::string *good) {
   *good = "the system's notification center carries changes";
   return {};

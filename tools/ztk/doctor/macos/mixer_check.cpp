@@ -36,7 +36,8 @@ Finding ExplainUnopened(int mixer, const std::string &place) {
   return finding;
 }
 
-// No command here takes a device off its bus: that is left to the user's hand.
+// This system has no command that detaches a device, so the user has to unplug
+// it.
 std::string RestartCommand(const std::string & /*place*/) {
   return "printf 'Switch the mixer off and on, then press Return. '; read -r "
          "done; ztk doctor";

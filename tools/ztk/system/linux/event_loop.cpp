@@ -75,7 +75,7 @@ void OnOutputAudio(void *observer, const center::UserInfo *userInfo) {
 }  // namespace
 
 void ListenToOutputAudio(OutputListener listener, void *context) {
-  // Observers live as long as the process.
+  // Observers exist as long as the process.
   static OutputObserver observer;
   observer = {.listener = listener, .context = context};
   const notify::AnnouncedSetting &setting = notify::kOutputAudio;
@@ -90,8 +90,8 @@ LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
   if (center::GLib() == nullptr || center::SdBus() == nullptr) {
     return LoopEnd::NoLibrary;
   }
-  // The registrations are silent about a bus that is missing or dies; this
-  // connection is there to notice.
+  // The registrations do not report a bus that is missing or ends; this
+  // connection does.
   const center::OwnedBus bus =
       center::ConnectToSessionBus(center::PatienceEnds());
   if (bus == nullptr) return LoopEnd::NoBus;
@@ -109,7 +109,7 @@ LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
   ready();
   center::g_main_loop_run(theLoop.loop);
   for (const guint source : sources) {
-    // One that ended the loop may have gone by itself.
+    // The source that ended the loop may have removed itself.
     if (center::g_main_context_find_source_by_id(nullptr, source) != nullptr) {
       center::g_source_remove(source);
     }

@@ -8,8 +8,8 @@
 
 namespace ztk::model {
 
-// The path of a rules file, as udev finds it; empty where there is none. A file
-// hides those of the same name in the folders behind.
+// The path of the rules file that udev uses; empty when there is none. A file
+// replaces files of the same name in later folders.
 inline std::string FindUdevRules(const std::string &name) {
   for (const char *folder : {"/etc/udev/rules.d/", "/run/udev/rules.d/",
                              "/usr/local/lib/udev/rules.d/",

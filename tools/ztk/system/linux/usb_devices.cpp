@@ -12,7 +12,7 @@ namespace ztk::model {
 namespace {
 
 constexpr char kFolder[] = "/sys/bus/usb/devices/";
-// Of devices whose interfaces have a class each.
+// The class of devices whose interfaces have classes of their own.
 constexpr char kClassOfInterfaces[] = "00";
 
 // The first word of a file; empty where there is none.

@@ -15,8 +15,8 @@ namespace {
 
 namespace center = platform::notification_center;
 
-// For all calls of a command together, in microseconds: a bus that does not
-// answer must not hold up the user for longer.
+// Time limit for all calls of a command together, in microseconds: the user
+// must not wait longer for a bus that does not answer.
 constexpr std::uint64_t kPatience = 5'000'000;
 
 constexpr char kService[] = "org.freedesktop.systemd1";
@@ -96,7 +96,7 @@ bool UserManager::Knows(const std::string &unit) {
 }
 
 void UserManager::Link(const std::string &file) {
-  // For good, and in place of a link to somewhere else.
+  // The link is permanent, and replaces a link to another file.
   connection_->Do("LinkUnitFiles", "asbb", 1, file.c_str(), 0, 1);
   connection_->Do("Reload", "");
 }

@@ -49,7 +49,8 @@ void OnSignal(void * /*context*/) {
   StopLoop();
 }
 
-// Has a signal handled on the loop, where it may do more than a handler may.
+// Handles a signal on the loop, where more functions may be called than in a
+// signal handler.
 dispatch_source_t WatchForSignal(int number) {
   std::signal(number, SIG_IGN);
   dispatch_source_t source = dispatch_source_create(
@@ -83,14 +84,14 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
   const notify::AnnouncedSetting &setting = notify::kOutputAudio;
   const platform::text::Made name(
       platform::text::Format(setting.nameFormat, setting.postedModel));
-  // Observers live as long as the process.
+  // Observers exist as long as the process.
   platform::notification_center::AddObserver(
       [[ZTKOutputObserver alloc] init],
       {.selector = "outputAudioChanged:", .code = nullptr}, name.get());
 }
 
-// There is a center whenever the user is logged in, and no telling when there
-// is none: LoopEnd::NoBus does not happen here, nor does NoLibrary.
+// The notification center exists while the user is logged in, and its absence
+// cannot be detected: LoopEnd::NoBus and LoopEnd::NoLibrary do not happen here.
 LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
   theEnd = LoopEnd::Stopped;
   theTick = everySecond;

@@ -25,9 +25,9 @@ const char *AutoapplyFact() {
          "Run ztk apply after plugging in.";
 }
 
-// The second number of the system's version decides where the library looks.
-// From macOS 11 on it is small again, so the library looks where only the
-// system itself is installed.
+// The second number of the system's version decides in which folder the library
+// searches. Since macOS 11 this number is small again, so the library searches
+// a folder that only the system itself may use.
 std::string WhyInstalledIsNotFound() {
   if (IsInstalledInLibrary()) return "";
   return "by the version of this macOS the library looks below "

@@ -17,7 +17,7 @@ namespace ztk::model {
 
 namespace {
 
-// A service of the registry that goes back by itself.
+// Owns a service of the registry and releases it.
 class Service {
  public:
   explicit Service(io_service_t name) : name_(name) {}
@@ -43,7 +43,7 @@ void Narrow(CFMutableDictionaryRef matching, CFStringRef key,
   CFRelease(number);
 }
 
-// In the registry's order, which is the library's.
+// In the order of the registry, which the library uses too.
 std::vector<Service> Mixers() {
   std::vector<Service> mixers;
   CFMutableDictionaryRef matching = IOServiceMatching("IOUSBDevice");
@@ -62,8 +62,8 @@ std::vector<Service> Mixers() {
   return mixers;
 }
 
-// Where it is plugged in, as the system writes it, and which plugging in that
-// was: the same socket gets another number each time.
+// The location on the bus, as the system writes it, and the number of the
+// connection: each time a device is plugged in, it gets a new number.
 std::string PlaceOf(const Service &mixer) {
   std::uint32_t location = 0;
   const CFTypeRef number = IORegistryEntryCreateCFProperty(
@@ -83,7 +83,7 @@ std::string PlaceOf(const Service &mixer) {
   return text.data();
 }
 
-// What the library does before it sends anything; no device needs more.
+// Does what the library does before it sends a request.
 IOReturn Reach(const Service &mixer) {
   IOCFPlugInInterface **plugIn = nullptr;
   SInt32 score = 0;
@@ -127,7 +127,8 @@ std::vector<std::string> MixerPlaces() {
   return places;
 }
 
-// Whoever may run a program may ask a device here; reaching it opens nothing.
+// On this system every user may send requests to a mixer. TryToOpen() finds out
+// whether that is possible without opening it.
 bool MayBeOpened(const std::string &place) {
   return TryToOpen(place).obstacle == Obstacle::None;
 }
@@ -163,7 +164,7 @@ std::string Explained(const Access &access) {
          "; unplug the mixer and plug it in again";
 }
 
-// A file's error number is positive, an IOReturn is not.
+// Error numbers are positive, an IOReturn is negative.
 std::string SystemErrorText(std::int32_t code) {
   return code > 0 ? std::strerror(code) : Written(code);
 }

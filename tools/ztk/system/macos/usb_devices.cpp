@@ -3,7 +3,8 @@
 
 namespace ztk::model {
 
-// Class and speed need properties of the registry that nothing else here reads.
+// Class and speed are not read on this system: the registry has them in other
+// properties.
 std::vector<UsbDevice> UsbDevices() { return {}; }
 
 }  // namespace ztk::model

@@ -6,7 +6,7 @@
 namespace ztk::model {
 
 // launchd can start a program when a device is plugged in, but the program then
-// has to take the event from it. Nothing of that is built.
+// has to consume the event. ztk does not support this.
 struct UserManager::Connection {};
 
 UserManager::UserManager() {
