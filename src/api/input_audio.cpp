@@ -62,32 +62,31 @@ const ZTKTextRef InputAudioText[44] = {
     nullptr,                               // 43
 };
 
-// Both tables hold eight choices a channel and are addressed as one flat array
-// at channel * 8 + index, across the rows. The two entries behind the last row
-// are what an index of 8 or 9 on channel 4 reaches.
-// clang-format off
+// Both tables have eight choices for each channel and are addressed as one flat
+// array at channel * 8 + index, across the rows. An index of 8 or 9 on channel
+// 4 reaches the two entries after the last row. clang-format off
 const std::int32_t PC_INPUT_PULLDOWN_TEXT[42] = {
-//  tone    tone   post   cross  cross         REC
-//  PHONO   LINE   fader  A      B      MIC    OUT    -
-    27,     28,    4,     20,    21,    22,    39,    42,  // channel 0
-    30,     31,    9,     20,    21,    22,    39,    42,  // channel 1
-    33,     34,    14,    20,    21,    22,    39,    42,  // channel 2
-    36,     37,    19,    20,    21,    22,    39,    42,  // channel 3
-//  REC     post   post   post   post   cross  cross
-//  OUT     CH1    CH2    CH3    CH4    A      B      MIC
-    39,     4,     9,     14,    19,    20,    21,    22,  // channel 4
-    42,     42};                                           // behind it
+    //  tone    tone   post   cross  cross         REC
+    //  PHONO   LINE   fader  A      B      MIC    OUT    -
+    27, 28, 4, 20, 21, 22, 39, 42,   // channel 0
+    30, 31, 9, 20, 21, 22, 39, 42,   // channel 1
+    33, 34, 14, 20, 21, 22, 39, 42,  // channel 2
+    36, 37, 19, 20, 21, 22, 39, 42,  // channel 3
+    //  REC     post   post   post   post   cross  cross
+    //  OUT     CH1    CH2    CH3    CH4    A      B      MIC
+    39, 4, 9, 14, 19, 20, 21, 22,  // channel 4
+    42, 42};                       // behind it
 
 // High byte: channel + 1. Low byte: source code.
 const std::uint16_t _convTable_PC_INPUT[42] = {
-//  tone    tone    post    cross   cross           REC
-//  PHONO   LINE    fader   A       B       MIC     OUT     -
+    //  tone    tone    post    cross   cross           REC
+    //  PHONO   LINE    fader   A       B       MIC     OUT     -
     0x0103, 0x0101, 0x0106, 0x0107, 0x0108, 0x0109, 0x010A, 0x010F,  // 0
     0x0203, 0x0201, 0x0206, 0x0207, 0x0208, 0x0209, 0x020A, 0x020F,  // 1
     0x0303, 0x0301, 0x0306, 0x0307, 0x0308, 0x0309, 0x030A, 0x030F,  // 2
     0x0403, 0x0401, 0x0406, 0x0407, 0x0408, 0x0409, 0x040A, 0x040F,  // 3
-//  REC     post    post    post    post    cross   cross
-//  OUT     CH1     CH2     CH3     CH4     A       B       MIC
+    //  REC     post    post    post    post    cross   cross
+    //  OUT     CH1     CH2     CH3     CH4     A       B       MIC
     0x050A, 0x0511, 0x0512, 0x0513, 0x0514, 0x0507, 0x0508, 0x0509,  // 4
     0x050F, 0x050F};                                                 // behind
 // clang-format on

@@ -26,8 +26,8 @@ inline constexpr std::int32_t kDefaultIndex = 0;
 inline constexpr std::int32_t kChannels = 5;
 // This channel has other choices than the rest, and no input selector.
 inline constexpr std::uint32_t kLastChannel = 4;
-// Deliberate: a remembered choice is read and sent again for one channel more
-// than there are. Channel 5 has no key.
+// Deliberate: a remembered choice can be read and sent again for one more
+// channel than exists. Channel 5 has no key.
 inline constexpr std::int32_t kRememberedChannels = 6;
 
 // Deliberate: the three functions have three different limits.
@@ -55,7 +55,7 @@ constexpr std::uint64_t PositionOf(std::uint32_t channel, std::uint32_t index) {
 
 inline constexpr std::uint16_t kWriteRegister = usb::kMixerOutputRegister;
 
-// The value that a mixer is sent, if CanBeResent() or the index can be set.
+// The value that mixers receive, if CanBeResent() or the index can be set.
 inline std::uint16_t DeviceValue(std::uint32_t channel, std::uint32_t index) {
   return _convTable_PC_INPUT[PositionOf(channel, index)];
 }
@@ -65,7 +65,7 @@ constexpr bool CanBeResent(std::uint32_t channel, std::uint32_t index) {
   return PositionOf(channel, index) < kTableLength;
 }
 
-// The direct setter: how many sources there are, and the value for a mixer.
+// The direct setter: the number of sources, and the value for a mixer.
 inline constexpr std::uint32_t kSources = 16;
 constexpr std::uint16_t DirectValue(std::uint32_t channel, std::uint32_t high,
                                     std::uint32_t source) {

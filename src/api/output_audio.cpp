@@ -16,19 +16,19 @@ using namespace ztk::output_audio;
 const ZTKTextRef OutputAudioText[3] = {ZTK_TEXT("CH1"), ZTK_TEXT("CH2"),
                                        ZTK_TEXT("AUX")};
 
-// Three choices a channel, addressed as one flat array at channel * 3 + index,
-// across the rows: index 3 of a channel is the first entry of the next row.
-// clang-format off
+// Three choices for each channel, addressed as one flat array at channel * 3 +
+// index, across the rows: index 3 of a channel is the first entry of the next
+// row. clang-format off
 const std::int32_t VRMB5_OUT_TEXT[12] = {
-//  CH1  CH2  AUX
-    0,   1,   2,    // channel 0
-    0,   1,   2,    // channel 1
-    0,   1,   2,    // channel 2
-    0,   0,   0};   // behind it
+    //  CH1  CH2  AUX
+    0, 1, 2,   // channel 0
+    0, 1, 2,   // channel 1
+    0, 1, 2,   // channel 2
+    0, 0, 0};  // behind it
 
 // High byte: channel + 1. Low byte: code of the choice.
 const std::uint16_t _convTableOut_B5[9] = {
-//  CH1     CH2     AUX
+    //  CH1     CH2     AUX
     0x0100, 0x0101, 0x0104,   // channel 0
     0x0200, 0x0201, 0x0204,   // channel 1
     0x0300, 0x0301, 0x0304};  // channel 2
@@ -38,8 +38,8 @@ static_assert(std::size(_convTableOut_B5) == kTableLength);
 
 namespace {
 
-// Sends the device value of a choice to every mixer, or nothing where there is
-// none. Answers the count of mixers, which is taken in either case.
+// Sends the device value of a choice to every mixer, or nothing when there is
+// none. Returns the number of mixers, which are counted in both cases.
 std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
                         std::uint32_t index) {
   if (!HasDeviceValue(channel, index)) return usb::CountMixers(productId);

@@ -27,30 +27,30 @@ inline constexpr std::int32_t kChannels = 3;
 inline constexpr std::int32_t kSettableChannels = 5;
 
 inline constexpr std::uint32_t kChoices = 3;
-// Deliberate: there is one more text than there are choices.
+// Deliberate: there is one text more than there are choices.
 inline constexpr std::uint32_t kTextBelow = 4;
 
 inline constexpr std::uint64_t kTableLength = 9;
 
 inline constexpr std::uint16_t kWriteRegister = usb::kMixerInputRegister;
-// The input selectors are read after each change: this many bytes.
+// The number of bytes that are read of the input selectors after each change.
 inline constexpr std::uint16_t kSelectorInfoLength = 4;
 
 // The number of a channel's default choice is the number of the channel.
 constexpr std::uint32_t DefaultIndex(std::uint32_t channel) { return channel; }
 
-// Where the device value of a choice is in its table. The index may be any
-// remembered number; 64 bits hold every position.
+// The position of the device value of a choice in its table. The index may be
+// any remembered number; 64 bits hold every position.
 constexpr std::uint64_t PositionOf(std::uint32_t channel, std::uint32_t index) {
   return std::uint64_t{channel} * kChoices + index;
 }
 
-// Whether there is a device value. Where there is none, nothing is sent.
+// Whether there is a device value. Without one, nothing is sent.
 constexpr bool HasDeviceValue(std::uint32_t channel, std::uint32_t index) {
   return PositionOf(channel, index) < kTableLength;
 }
 
-// The value that a mixer is sent, if HasDeviceValue().
+// The value that mixers receive, if HasDeviceValue().
 inline std::uint16_t DeviceValue(std::uint32_t channel, std::uint32_t index) {
   return _convTableOut_B5[PositionOf(channel, index)];
 }

@@ -2,11 +2,11 @@
 //
 // The models: their names and numbers.
 //
-// The headers <family>.h of this folder hold the facts of the settings: whose
-// setting it is, its key in the settings file, its channels and choices, and
-// the values that mixers are sent. Programs of this project read the facts from
-// there as well, so that each is written once. These headers need nothing of
-// the library except its exported tables.
+// The headers <family>.h of this folder hold the facts of the settings: its
+// models, its key in the settings file, its channels and choices, and the
+// values that mixers receive. Programs of this project read the facts from
+// there as well, so that each is written once. Of the library, these headers
+// use only the exported tables.
 #ifndef ZTK_API_PRODUCT_H_
 #define ZTK_API_PRODUCT_H_
 

@@ -36,7 +36,7 @@ ZTKResult ZTK_GetFirmwareVersionIndex(uint32_t productId,
                                       uint32_t *outVersion) {
   outcome::Begin();
   if (outVersion == nullptr) return ZTK_REJECTED;
-  // Deliberate: written before the product is looked at.
+  // Deliberate: written before the product is checked.
   *outVersion = 0;
   if (!kServed.Has(productId)) return ZTK_REJECTED;
 

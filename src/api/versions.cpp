@@ -32,8 +32,8 @@ const ZTKTextRef kOldLibraryFile = ZTK_TEXT(
     "Info.plist");
 
 const ZTKTextRef kPkgKey = ZTK_TEXT("PackageVersion");
-// Deliberate: the driver has its short version read, the other two their build
-// version.
+// Deliberate: for the driver the short version is read, for the other two the
+// build version.
 const ZTKTextRef kDriverKey = ZTK_TEXT("CFBundleShortVersionString");
 const ZTKTextRef kBundleKey = ZTK_TEXT("CFBundleVersion");
 

@@ -50,8 +50,8 @@ ZTK_EXPORT extern ztk::notify::UserInfo *midiChannelInfo;
 // Exported like the others, but neither written nor read.
 ZTK_EXPORT extern ztk::notify::UserInfo *midiKeyModeInfo;
 
-// The only observer; null until the first callback is registered. It then lives
-// until the process ends.
+// The only observer; null until the first callback is registered. It then
+// exists until the process ends.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,*-naming): fixed name
 ZTK_EXPORT extern void *_ZTKFunc;
 

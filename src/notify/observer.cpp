@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer where it is a plain object. (On macOS it is a class of the
-// object runtime.)
+// The observer as a plain object. (On macOS it is a class of the object
+// runtime.)
 #include "notify/observer.h"
 
 namespace {
@@ -36,7 +36,7 @@ void Call(void *observer, const ztk::notify::UserInfo *userInfo) {
 
 namespace ztk::notify {
 
-// It has no state, so one serves for the life of the process.
+// It has no state, so a single one is enough for the whole process.
 void *AllocateObserver() {
   static ZTKFunc observer;
   return &observer;

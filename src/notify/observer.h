@@ -12,10 +12,10 @@ namespace ztk::notify {
 using UserInfo = platform::notification_center::UserInfo;
 using Method = platform::notification_center::Method;
 
-// Makes the observer; it lives until the process ends.
+// Makes the observer; it exists until the process ends.
 void *AllocateObserver();
 
-// What the observer's five methods do with a record.
+// The work of the five methods of the observer with a record.
 void InputAudioChanged(const UserInfo *userInfo);
 void OutputAudioChanged(const UserInfo *userInfo);
 void BoostLevelChanged(const UserInfo *userInfo);

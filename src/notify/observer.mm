@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer where the center calls methods by name: a class of the object
+// The observer for a center that calls methods by name: a class of the object
 // runtime.
 #include "notify/observer.h"
 
@@ -50,7 +50,7 @@ const ztk::notify::UserInfo *InfoOf(NSNotification *notification) {
 
 namespace ztk::notify {
 
-// Without init: there is no state to prepare.
+// init is not called, because there is no state to prepare.
 void *AllocateObserver() { return [ZTKFunc alloc]; }
 
 const Method kInputAudioChanged{.selector = "inputAudioChanged:",

@@ -9,8 +9,8 @@ using namespace ztk;
 
 namespace {
 
-// Without a constructor and a destructor, so that no thread registers anything
-// for its end.
+// It has neither constructor nor destructor, so that no thread registers a
+// function for its end.
 constinit thread_local ZTKOutcome theRecord = {};
 
 std::uint32_t ResultOf(platform::usb::Code code) {
@@ -44,7 +44,8 @@ void Write(std::int32_t position, outcome::Direction direction,
 
 namespace ztk::outcome {
 
-// The entries of mixers are emptied when they are listed: most calls list one.
+// An entry of a mixer is cleared when it is added, not before each call: most
+// calls use only one.
 void Begin() { std::memset(&theRecord, 0, offsetof(ZTKOutcome, mixers)); }
 
 void MixersFound(std::int32_t count) {

@@ -8,9 +8,9 @@ namespace ztk::platform::bundle {
 
 struct Bundle;
 
-// The bundle at a path, or null. Where bundles have no fixed place on the
-// system, a port may look for the same bundle under its own data directories
-// when nothing stands at the path. Goes back through Release().
+// The bundle at a path, or null. On a system without a fixed place for bundles,
+// the port may look for the same bundle in its data directories when there is
+// none at the path. The caller gives it back with Release().
 Bundle *AtPath(ZTKTextRef path);
 
 // Makes the path of the folder that holds the <language>.lproj folders; the
@@ -18,9 +18,9 @@ Bundle *AtPath(ZTKTextRef path);
 ZTKTextRef ResourcePath(const Bundle *bundle);
 
 // The text of a key in a string table, in the language that the user prefers of
-// those that have the table. A key that this table lacks, or a missing table,
-// answers the key itself; a null bundle answers null. Not owned by the
-// caller: see ZTKTextRef in the public header for how long it lives.
+// those that have the table. When the table is missing, or does not have the
+// key, the result is the key itself; for a null bundle it is null. Not owned by
+// the caller: see ZTKTextRef in the public header for how long it lives.
 ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
                          ZTKTextRef table);
 

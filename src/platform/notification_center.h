@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Named notifications with a small dictionary of integers, delivered to every
-// process of the user's session. Where there is no such service, observing and
-// posting do nothing, at once.
+// process of the user's session. Without such a service, observing and posting
+// do nothing and return at once.
 #ifndef ZTK_PLATFORM_NOTIFICATION_CENTER_H_
 #define ZTK_PLATFORM_NOTIFICATION_CENTER_H_
 
@@ -13,7 +13,7 @@
 
 namespace ztk::platform::notification_center {
 
-// The record that travels with a notification. Immutable.
+// The record of a notification. It is immutable.
 struct UserInfo;
 struct Entry {
   ZTKTextRef key;
@@ -32,8 +32,8 @@ enum class Delivery {
   Immediately  // asks for delivery even then
 };
 
-// Whether a notification was handed to the center. A center that does not tell
-// counts as one that took it.
+// Whether the center accepted a notification. A center that does not report
+// this counts as accepting it.
 enum class Handover { Sent, NoCenter, Failed };
 struct PostResult {
   Handover handover = Handover::Sent;
@@ -51,10 +51,10 @@ struct Method {
   void (*code)(void *observer, const UserInfo *userInfo);
 };
 
-// Has the method called for each notification of the name, from any process,
-// on the event loop of the calling thread. Every call adds a registration, and
-// each registration delivers; nothing is ever removed. `observer` must live as
-// long as the process.
+// Makes the center call the method for each notification of the name, from any
+// process, on the event loop of the calling thread. Every call adds a
+// registration, and each registration delivers; nothing is ever removed.
+// `observer` must exist as long as the process.
 void AddObserver(void *observer, const Method &method, ZTKTextRef name);
 
 }  // namespace ztk::platform::notification_center

@@ -29,25 +29,25 @@ enum class ReadState {
 
 struct ReadResult {
   ReadState state = ReadState::Absent;
-  // Why a file is unavailable: the system's error number (errno). 0 otherwise,
-  // and where the system does not say.
+  // Why a file is unavailable: the error number of the system (errno). 0
+  // otherwise, and when the system gives no number.
   int error = 0;
 
   bool operator==(const ReadResult &) const = default;
 };
 
-// Whether a file may be replaced after it was read with this result. One that
-// cannot be read now may hold settings, which would be lost. A missing
-// permission does not pass by itself, though, and nothing could be stored any
-// more: such a file is kept under another name, like a damaged one.
+// Whether a file may be replaced after it was read with this result. A file
+// that cannot be read now may contain settings, which would be lost. But a
+// missing permission is permanent, and nothing could be stored any more: so
+// such a file is kept under another name, like a damaged one.
 constexpr bool MayBeReplaced(const ReadResult &result) {
   return result.state != ReadState::Unavailable || result.error == EACCES;
 }
 
 // Reads a file. Writes the dictionary to *dictionary when the state is Read,
-// else null; it goes back through Release(). Never creates anything.
+// else null; the caller gives it back with Release(). Never creates anything.
 ReadResult Read(ZTKTextRef path, Dictionary **dictionary);
-// The same for callers to whom a file that cannot be read is a missing one.
+// The same for callers that treat a file that cannot be read as missing.
 Dictionary *ReadFile(ZTKTextRef path);
 
 // Begins to change a file: between BeginChange() and EndChange() the file is
@@ -56,7 +56,7 @@ Dictionary *ReadFile(ZTKTextRef path);
 // lock where the folder cannot be locked or another process keeps it too long.
 // Where the port creates a missing folder when it writes a file, this creates
 // it. Changes are not nested, and one thread begins, uses and ends each of
-// them. Goes back through EndChange().
+// them. The caller gives it back with EndChange().
 Change *BeginChange(ZTKTextRef path);
 // Null is allowed.
 void EndChange(Change *change);
@@ -65,14 +65,14 @@ void EndChange(Change *change);
 Dictionary *MakeDictionary();
 // Adds all entries of a file, if it can be read.
 ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path);
-// Sets an integer, replacing what stood under the key.
+// Sets an integer, and replaces an earlier value of the key.
 void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value);
 // Removes an entry; does nothing where there is none.
 void RemoveEntry(Dictionary *dictionary, ZTKTextRef key);
 
 // Reads an entry as a 32-bit integer: an integer's low 32 bits; a real towards
 // zero, the lowest integer for NaN and what is out of range (on Apple silicon
-// Foundation answers the nearest limit, and 0 for NaN); a boolean as 0 or 1; a
+// Foundation returns the nearest limit, and 0 for NaN); a boolean as 0 or 1; a
 // text by its leading number, held at the limits, 0 without one. False, with
 // *value untouched, for an absent key or any other kind of entry.
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
@@ -85,7 +85,7 @@ ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key);
 // Replaces the file in XML form. A reader sees the old file or the new one,
 // never a part. Only a regular file is replaced. False when the file could not
 // be replaced; then the old file is untouched, and *error, where `error` is not
-// null, has the system's error number, or 0 where the system does not say.
+// null, has the system's error number, or 0 when the system gives no number.
 //
 // If another process has replaced the file since AddEntriesOfFile() read it,
 // nothing is written where the system can tell, and *error is ESTALE: the

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // What the core does with texts; ZTKTextRef and ZTK_TEXT are in the public
-// header. A text "made" by one of these functions is owned by the caller and
-// goes back through Release(). It is null where memory is short; every function
-// of the platform accepts a null text.
+// header. The caller owns a text that one of these functions makes, and gives
+// it back with Release(). It is null when memory has run out; every function of
+// the platform accepts a null text.
 #ifndef ZTK_PLATFORM_TEXT_H_
 #define ZTK_PLATFORM_TEXT_H_
 

@@ -90,8 +90,8 @@ int ReadRegularFile(const char *path, std::size_t limit, std::string *content,
   if (!S_ISREG(status.st_mode)) return EINVAL;
   if (status.st_size > static_cast<off_t>(limit)) return EFBIG;
 
-  // One byte more than the file had shows that it has grown meanwhile: it is
-  // being written in place, and what was read is only a part.
+  // If one byte more than the size of the file can be read, the file has grown:
+  // another program is writing to it, and only a part was read.
   const auto size = static_cast<std::size_t>(status.st_size);
   content->resize(size + 1);
   std::size_t length = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Small steps of file access that the platform layer and the programs share.
+// Functions for file access that the platform layer and the programs share.
 #ifndef ZTK_PLATFORM_COMMON_FILE_ACCESS_H_
 #define ZTK_PLATFORM_COMMON_FILE_ACCESS_H_
 
@@ -16,8 +16,8 @@
 
 namespace ztk::platform {
 
-// The value of a variable of the environment when it is an absolute path, else
-// empty: a relative path would lead to wherever the program happens to run.
+// The value of an environment variable when it is an absolute path, else empty:
+// a relative path would depend on the current folder of the program.
 std::string AbsolutePathFromEnvironment(const char *name);
 
 // The folder part of a path, with its slash at the end; empty for a bare name.
@@ -26,13 +26,12 @@ std::string FolderOf(std::string_view path);
 // Opens the folder part of a path for reading, for flock() and fsync().
 FileDescriptor OpenFolderOf(const std::string &path);
 
-// Where the path leads when the symbolic links at its end are followed, even
-// when there is no file yet. Nothing, with errno set, for a loop of links.
+// The path after all symbolic links at its end were followed, even when there
+// is no file yet. Empty, with errno set, for a loop of links.
 std::optional<std::string> FollowLinks(std::string path);
 
-// A settings file lies at most this many new folders below an existing one:
-// ".config", the maker's folder and "Preferences". A missing home folder is
-// above these and is never created.
+// MakeFolders() makes at most this many folders for a settings file: ".config",
+// the maker's folder and "Preferences". A missing home folder is never created.
 inline constexpr int kMaxMissingFolders = 3;
 
 // When the content of a file was last changed, counted from 1970.
@@ -48,14 +47,14 @@ bool IsSameFile(const struct stat &first, const struct stat &second);
 // failure: creating a file in the folder fails then.
 void MakeFolders(std::string_view path, int levels);
 
-// Writes everything, however many calls it takes. False, with errno set, on an
-// error.
+// Writes everything, with as many calls as necessary. False, with errno set, on
+// an error.
 bool WriteAll(int descriptor, std::string_view content);
 
-// Reads a regular file of at most `limit` bytes. Does not wait for the other
-// end of a pipe. Answers 0 on success, else the error number: ENOENT or ENOTDIR
-// when there is no file, EFBIG when it is larger, EBUSY when its size changed
-// meanwhile, EINVAL when it is no regular file.
+// Reads a regular file of at most `limit` bytes. Does not block on a pipe.
+// Returns 0 on success, else the error number: ENOENT or ENOTDIR when there is
+// no file, EFBIG when it is larger, EBUSY when its size changed meanwhile,
+// EINVAL when it is no regular file.
 //
 // `flags` are added to those of open(), for example O_NOFOLLOW. *status, where
 // `status` is not null, describes the file that was read.

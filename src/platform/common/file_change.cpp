@@ -34,7 +34,8 @@ FileChange::FileChange(const std::string &path, MissingFolders missing)
   constexpr std::chrono::milliseconds kPatience{1000};
   if (!identity_.good()) return;
   if (missing == MissingFolders::Create) MakeFolders(path, kMaxMissingFolders);
-  // Two paths may lead to one file: the folder of the file itself is locked.
+  // Two paths may lead to the same file, so the folder of the file itself is
+  // locked.
   const std::optional<std::string> file = FollowLinks(path);
   if (!file) return;
   folder_ = OpenFolderOf(*file);

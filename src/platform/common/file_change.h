@@ -15,10 +15,10 @@ namespace ztk::platform {
 // process still holds the lock (EWOULDBLOCK) or the file system has no locks.
 bool LockExclusively(int descriptor, std::chrono::milliseconds patience);
 
-// What becomes of a folder of the file that does not exist.
+// Whether a missing folder of the file is created.
 enum class MissingFolders { Create, Leave };
 
-// While it lives, other processes that change a file of the same folder wait:
+// While it exists, other processes that change a file of the same folder wait:
 // it holds a lock on the folder itself, so no file is left behind, and the lock
 // ends with the process. It also takes the identity of the folder's owner
 // (owner_identity.h) and creates the folder where it is missing.

@@ -8,9 +8,9 @@
 namespace ztk::platform::common {
 namespace {
 
-// A set of nodes: growing it moves no text. Never destroyed: a text must
-// outlive even the destructors that run when the process ends. The pointer
-// keeps it reachable, so it is no leak.
+// A set of nodes does not move its texts when it grows. Never destroyed: a text
+// must outlive even the destructors that run when the process ends. The pointer
+// keeps it reachable, so leak checkers accept it.
 constinit std::unordered_set<std::string> *allTexts = nullptr;
 
 }  // namespace

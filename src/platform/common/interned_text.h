@@ -6,11 +6,11 @@
 
 namespace ztk::platform::common {
 
-// The one lasting copy of a text: equal texts give the same pointer, which
-// stays valid until the process ends. Polling a file that does not change
-// therefore does not grow; every new content stays for good. Takes no lock: one
-// thread at a time calls it, as the functions that hand such texts out demand.
-// Stops at a zero byte, as the text that is handed out would.
+// The permanent copy of a text: equal texts give the same pointer, which stays
+// valid until the process ends. Reading an unchanged file again therefore needs
+// no more memory; every new content is kept. Takes no lock: only one thread at
+// a time may call it, as the functions that return such texts require. Stops at
+// a zero byte, as a C string does.
 const char *Intern(std::string_view text);
 
 }  // namespace ztk::platform::common

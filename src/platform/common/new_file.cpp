@@ -71,8 +71,8 @@ bool GiveName(int nameless, const std::string &file, std::string *name) {
   return false;
 }
 
-// Nothing where the file system has no files without a name, or where /proc is
-// missing; else 0 or the error number.
+// No value when the file system does not support files without a name, or when
+// /proc is missing; else 0 or the error number.
 std::optional<int> WriteNamelessFile(const std::string &file,
                                      std::string_view content,
                                      const NewFileModel &model,

@@ -23,8 +23,9 @@ bool IsSkipped(std::uint32_t character) {
   return false;
 }
 
-// How many bytes the skipped character takes that the text begins with; 0 for
-// any other. Those in question have at most three bytes in UTF-8.
+// The length in bytes of the skipped character at the beginning of the text; 0
+// for any other character. The skipped characters have at most three bytes in
+// UTF-8.
 std::size_t SkippedBytes(std::string_view text) {
   const auto byte = [text](std::size_t at) {
     return at < text.size() ? static_cast<std::uint8_t>(text[at]) : 0U;
@@ -53,8 +54,8 @@ std::int32_t IntegerFromInteger(std::uint64_t bits) {
 }
 
 std::int32_t IntegerFromReal(double real) {
-  // Converting a real outside the range is undefined, so it is tested first. No
-  // comparison with NaN is true.
+  // Converting a real outside of the range is undefined, so the range is tested
+  // first. Every comparison with NaN is false.
   constexpr double kBelow = double{kLowest} - 1;
   constexpr double kAbove = double{kHighest} + 1;
   const bool fits = real > kBelow && real < kAbove;
@@ -69,7 +70,7 @@ std::int32_t IntegerFromText(std::string_view text) {
   if (negative || text.starts_with('+')) {
     text = WithoutLeadingSpace(text.substr(1));
   }
-  // The magnitude stops growing just past the limits.
+  // The magnitude stops growing just above the limits.
   constexpr std::int64_t kFarEnough = std::int64_t{kHighest} + 1;
   std::int64_t magnitude = 0;
   for (const char digit : text) {

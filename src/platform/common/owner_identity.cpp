@@ -17,10 +17,10 @@ struct Owner {
   gid_t group = 0;
 };
 
-// The owner of the first component that is not root's; root where there is
-// none. A symbolic link counts as a component: who may change it decides where
-// the rest of the path leads. A file at the end does not count: its owner need
-// not have any right to its folder.
+// The owner of the first component that does not belong to root; root when
+// there is none. A symbolic link counts as a component, because its owner
+// decides where the path leads. A file at the end does not count: its owner may
+// have no right to its folder.
 Owner OwnerOfPlace(const std::string &path) {
   for (std::size_t end = 1; end != std::string::npos;) {
     end = path.find('/', end);
@@ -52,8 +52,8 @@ bool SetGroups(const std::vector<gid_t> &groups) {
   return syscall(kSetGroups, groups.size(), groups.data()) == 0;
 }
 
-// setfsuid() and setfsgid() report no failure: with a number that is no user
-// they change nothing and answer the current one.
+// setfsuid() and setfsgid() do not report failures: for an invalid number they
+// change nothing and return the current one.
 constexpr auto kNobodyAtAll = static_cast<uid_t>(-1);
 uid_t CurrentUser() { return static_cast<uid_t>(setfsuid(kNobodyAtAll)); }
 gid_t CurrentGroup() { return static_cast<gid_t>(setfsgid(kNobodyAtAll)); }
@@ -94,7 +94,7 @@ namespace {
 constexpr auto kNoIdentity = static_cast<uid_t>(-101);
 
 bool SetThreadIdentity(uid_t user, gid_t group) {
-// Deprecated as prone to error, and without a successor for one thread.
+// This function is deprecated, but no other one does this for a single thread.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wdeprecated-declarations"
   return pthread_setugid_np(user, group) == 0;
@@ -103,7 +103,7 @@ bool SetThreadIdentity(uid_t user, gid_t group) {
 
 }  // namespace
 
-// While a thread has an identity of its own, geteuid() answers that one.
+// While a thread has an identity of its own, geteuid() returns that one.
 OwnerIdentity::OwnerIdentity(const std::string &path) {
   if (geteuid() != 0) return;
   const Owner owner = OwnerOfPlace(path);

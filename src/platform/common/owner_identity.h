@@ -9,12 +9,11 @@
 
 namespace ztk::platform {
 
-// Has this thread access files as the user to whom the place of a file belongs,
-// while the object lives. Changes something only when the effective user is
-// root and the place belongs to someone else, as after `sudo` with the user's
-// HOME. Files and folders that root creates there then belong to the user, and
-// a symbolic link that the user has put there leads root only where the user
-// may go.
+// While it exists, this thread accesses files as the user who owns the place of
+// a file. Changes something only when the effective user is root and the place
+// belongs to someone else, as after `sudo` with the user's HOME. Files and
+// folders that root creates there then belong to the user, and a symbolic link
+// of that user gives root no more access than the user has.
 //
 // The place belongs to the owner of the first component of the path, counted
 // from the top, that does not belong to root: this user controls everything
@@ -27,7 +26,7 @@ class OwnerIdentity {
   OwnerIdentity &operator=(const OwnerIdentity &) = delete;
 
   // False when the system refused the identity: then the files must not be
-  // touched.
+  // accessed.
   bool good() const { return good_; }
 
  private:

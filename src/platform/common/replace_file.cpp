@@ -19,7 +19,7 @@
 namespace ztk::platform {
 namespace {
 
-// Copies a regular file into a new one, of which nothing stays on failure.
+// Copies a regular file into a new one, which is removed on failure.
 bool CopyFile(const std::string &from, const std::string &to) {
   const FileDescriptor source(
       open(from.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
@@ -72,14 +72,14 @@ bool KeepBeside(const std::string &file, Kept *kept) {
       return true;
     }
     if (errno == EEXIST) continue;
-    // A file of another user in a folder of one's own.
+    // A file of another user in a folder of this user.
     *kept = {.name = name, .moved = true};
     return rename(file.c_str(), name.c_str()) == 0;
   }
   return false;
 }
 
-// Moves the complete new file to the place of the old one. Answers 0 or the
+// Moves the complete new file to the place of the old one. Returns 0 or the
 // error number.
 int PutInPlace(const std::string &fresh, const std::string &file,
                bool keepOld) {
@@ -125,7 +125,7 @@ int Replace(const std::string &path, std::string_view content, bool keepOld,
 
   const NewFileModel model = {
       .old = old ? &*old : nullptr,
-      // The mode may be why the old file could not be read.
+      // Perhaps the old file could not be read because of its mode.
       .moreMode = keepOld ? mode_t{S_IRUSR | S_IWUSR} : mode_t{0}};
   std::string fresh;
   error = WriteNewFile(*file, content, model, &fresh);
@@ -136,7 +136,7 @@ int Replace(const std::string &path, std::string_view content, bool keepOld,
     unlink(fresh.c_str());
     return error;
   }
-  // The file is in its place: what fails from here on changes nothing.
+  // The new file is in its place: a later failure does not change that.
   SyncAndCleanFolderOf(*file);
   return 0;
 }

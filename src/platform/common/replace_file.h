@@ -23,15 +23,14 @@ namespace ztk::platform {
 // (owner_identity.h).
 //
 // With `keepOld` the old file is kept beside the new one under the first free
-// name of "<file>.unreadable-1", "-2" and so on to 1000; where that cannot be
-// done it is not replaced. One that may neither be linked nor read is moved
-// there first, and for a moment there is none. The new file can then be read by
-// its owner in any case.
+// name of "<file>.unreadable-1", "-2" and so on to 1000; if that fails, the
+// file is not replaced. A file that can be neither linked nor read is renamed
+// first, so for a moment there is no file. The new file can then be read by its
+// owner in any case.
 //
-// Content and new name are on the disk when the function returns. What killed
-// programs have left of earlier replacements of this file is removed once it
-// is older than a day. A process that may not write so large a file is not
-// killed for it (SIGXFSZ).
+// Content and new name are on the disk when the function returns. Files that
+// killed programs have left beside this file are removed when they are older
+// than a day. A process with a limit for file sizes is not killed (SIGXFSZ).
 //
 // `expected` may describe the file that the content was made from. If another
 // process has replaced it or written over it since, the file is not replaced,

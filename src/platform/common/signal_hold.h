@@ -6,10 +6,10 @@
 
 namespace ztk::platform {
 
-// Holds signals back from this thread while it lives: those that ask a program
-// to end, so that no unfinished file is left behind, and the one that a write
-// raises when a file may not grow. The latter is removed, because by default it
-// ends the process; the others arrive afterwards.
+// Blocks signals in this thread while it exists: those that ask a program to
+// end, so that no unfinished file is left behind, and SIGXFSZ, which a write
+// raises when the file would become too large. SIGXFSZ is discarded, because by
+// default it ends the process; the others arrive afterwards.
 class SignalHold {
  public:
   SignalHold() {
@@ -27,7 +27,8 @@ class SignalHold {
       sigset_t fileSize;
       sigemptyset(&fileSize);
       sigaddset(&fileSize, SIGXFSZ);
-      // A write raises it in this thread, where it is held: no wait.
+      // A write raises it in this thread, so it is pending already and
+      // sigtimedwait() does not wait.
       int taken = 0;
       sigwait(&fileSize, &taken);
     }

@@ -12,7 +12,7 @@
 namespace ztk::platform {
 namespace {
 
-// Home of the user as the password database has it; empty without an entry.
+// The home of the user in the password database; empty without an entry.
 std::string HomeFromPasswordDatabase() {
   constexpr std::size_t kLargestEntry = std::size_t{1} << 20;
   for (std::size_t size = 1024; size <= kLargestEntry; size *= 2) {

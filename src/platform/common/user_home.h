@@ -7,7 +7,7 @@
 namespace ztk::platform {
 
 // The home folder of the user: HOME if it is an absolute path, else the one in
-// the password database. Empty where there is none.
+// the password database. Empty when there is none.
 std::string UserHome();
 
 }  // namespace ztk::platform

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Texts where ZTKTextRef is UTF-8. A made one is a malloc'ed string.
+// Texts of systems on which ZTKTextRef is UTF-8. A made text is allocated with
+// malloc().
 #include "platform/text.h"
 
 #include <algorithm>
@@ -33,8 +34,8 @@ std::string_view TakeNumber(std::string_view *rest) {
   return digits;
 }
 
-// Of numbers without leading zeros the longer is greater, so that no length
-// overflows.
+// Of two numbers without leading zeros the longer one is greater. So digits are
+// compared, and no number can overflow.
 int CompareNumbers(std::string_view first, std::string_view second) {
   if (first.size() != second.size()) {
     return first.size() < second.size() ? -1 : 1;
@@ -43,7 +44,7 @@ int CompareNumbers(std::string_view first, std::string_view second) {
 }
 
 // Fills "%@" from `texts` in turn and "%d" with the number; "%%" is a percent
-// sign. A "%@" that finds no text left gives nothing.
+// sign. A "%@" without a text gives nothing.
 struct Arguments {
   const ZTKTextRef *texts;
   std::size_t textCount;
@@ -82,7 +83,7 @@ ZTKTextRef Fill(ZTKTextRef format, const Arguments &arguments) try {
 
 }  // namespace
 
-// Only ASCII letters are mapped: what lies beyond depends on the language.
+// Only ASCII letters are mapped: the rules for others depend on the language.
 ZTKTextRef UpperCase(ZTKTextRef text) try {
   if (text == nullptr) return nullptr;
   std::string upper(text);
@@ -139,7 +140,7 @@ int CompareNumerically(ZTKTextRef first, ZTKTextRef second) {
       if (order != 0) return order;
       continue;
     }
-    // As unsigned bytes: UTF-8 then sorts as its code points do.
+    // Bytes are compared as unsigned numbers: this sorts UTF-8 by code points.
     const int order = left.substr(0, 1).compare(right.substr(0, 1));
     if (order != 0) return order;
     left.remove_prefix(1);

@@ -7,8 +7,8 @@
 
 namespace ztk::platform::bundle {
 
-// The path as it stands when a folder is there; else the folder of the same
-// name in the maker's folder under `dataFolder`; empty when neither is there.
+// The path itself when it is a folder; else the folder of the same name in the
+// maker's folder below `dataFolder`; empty when neither exists.
 std::string FindBundle(std::string_view path, std::string_view dataFolder);
 
 }  // namespace ztk::platform::bundle

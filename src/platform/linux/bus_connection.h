@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Private connections to the session bus, and waiting on them for a limited
-// time. sd-bus by itself would wait 90 s for a bus that accepts a connection
-// and then says nothing.
+// time. Without the limit, sd-bus would wait 90 s for a bus that accepts a
+// connection and then does not answer.
 #ifndef ZTK_PLATFORM_LINUX_BUS_CONNECTION_H_
 #define ZTK_PLATFORM_LINUX_BUS_CONNECTION_H_
 
@@ -21,13 +21,13 @@ struct BusCloser {
 };
 using OwnedBus = std::unique_ptr<sd_bus, BusCloser>;
 
-// How long a caller is kept by a bus that does not answer, in microseconds.
+// The longest wait for a bus that does not answer, in microseconds.
 inline constexpr std::uint64_t kPatience = 1'000'000;
 
-// Microseconds on the monotonic clock, by which sd-bus counts.
+// Microseconds on the monotonic clock, which sd-bus uses.
 std::uint64_t Now();
 
-// The end of a caller's patience that starts now, on that clock.
+// The end of a wait that starts now, on that clock.
 std::uint64_t PatienceEnds();
 
 // Connects to the session bus and waits until messages can be sent. Null when

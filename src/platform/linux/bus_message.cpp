@@ -9,8 +9,8 @@ namespace ztk::platform::notification_center {
 
 namespace {
 
-// Name, record, whether it is to be delivered immediately. The last is for
-// receivers that can be suspended; this library's never is.
+// Name, record, and whether it has to be delivered immediately. The last one is
+// for receivers that can be suspended; the observer of this library never is.
 constexpr char kSignature[] = "sa{si}b";
 constexpr char kRecord[] = "{si}";
 constexpr char kEntry[] = "si";
@@ -45,8 +45,8 @@ bool ReadRecord(sd_bus_message *message, UserInfo *userInfo) {
   return more == 0 && sd_bus_message_exit_container(message) >= 0;
 }
 
-// True when the text can stand between apostrophes as it is. The bus and
-// sd-bus agree on no way to write an apostrophe or a backslash there.
+// True when the text can be written between apostrophes unchanged. The bus and
+// sd-bus do not escape apostrophes and backslashes in the same way.
 bool CanBeQuoted(ZTKTextRef text) {
   return std::strpbrk(text, "'\\") == nullptr;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A notification as a D-Bus signal: where it is sent from, and its body.
+// A notification as a D-Bus signal: path, interface, name and body.
 #ifndef ZTK_PLATFORM_LINUX_BUS_MESSAGE_H_
 #define ZTK_PLATFORM_LINUX_BUS_MESSAGE_H_
 
@@ -30,16 +30,16 @@ struct UserInfo {
 };
 
 // Makes the unsent signal of a notification; the caller owns it. Null when the
-// bus cannot carry it, as with a name that is not UTF-8.
+// bus cannot transport it, for example a name that is not UTF-8.
 sd_bus_message *MakeMessage(sd_bus *bus, ZTKTextRef name,
                             const UserInfo *userInfo, Delivery delivery);
 
 // Reads the record of a signal, from its start; the caller owns one hold. Null
-// when the signal is none of ours or bears another name.
+// when the signal does not come from this library or has another name.
 UserInfo *ReadMessage(sd_bus_message *message, ZTKTextRef name);
 
-// The rule that has the bus deliver the notifications of a name. It may let
-// through other names too.
+// The match rule with which the bus delivers the notifications of a name. It
+// may match other names too.
 std::string MatchRule(ZTKTextRef name);
 
 }  // namespace ztk::platform::notification_center

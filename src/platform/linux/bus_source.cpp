@@ -10,7 +10,7 @@ namespace ztk::platform::notification_center {
 
 namespace {
 
-// GLib allocates it and knows its beginning as a GSource.
+// GLib allocates it; its first member is the GSource.
 struct BusSource {
   GSource base;
   sd_bus *bus;
@@ -30,16 +30,17 @@ int WantedEvents(sd_bus *bus, GIOCondition *events) {
   return wanted;
 }
 
-// How long the connection can be left alone, in milliseconds: -1 for ever, 0
-// when it has work that its descriptor does not show, such as messages that
-// came in while a call waited for its answer.
+// The time in milliseconds until the connection has to be processed: -1 for no
+// limit; 0 when it has work that its descriptor does not show, for example
+// messages that arrived while a call waited for its answer.
 gint IdleMilliseconds(sd_bus *bus) {
   std::uint64_t due = 0;
   if (sd_bus_get_timeout(bus, &due) < 0) return 0;
   if (due == UINT64_MAX) return -1;
   const std::uint64_t now = Now();
   if (due <= now) return 0;
-  // Rounded up, or the last part of a millisecond would be spent spinning.
+  // Rounded up, so that the loop does not spin during the last part of a
+  // millisecond.
   const std::uint64_t milliseconds = (due - now + 999) / 1000;
   return milliseconds < G_MAXINT ? static_cast<gint>(milliseconds) : G_MAXINT;
 }
@@ -49,7 +50,8 @@ gboolean Prepare(GSource *base, gint *timeout) {
   GIOCondition events{};
   // A broken connection is ready: dispatching it removes it.
   if (WantedEvents(source->bus, &events) < 0) return TRUE;
-  // Modifying wakes the context up, so doing it always would never let it rest.
+  // A modification wakes the context up. If it were made each time, the context
+  // would never wait.
   if (events != source->events) {
     g_source_modify_unix_fd(base, source->polled, events);
     source->events = events;
@@ -58,19 +60,21 @@ gboolean Prepare(GSource *base, gint *timeout) {
   return *timeout == 0;
 }
 
-// One message at a time, so that a burst leaves the program's other sources
-// their turn. A callback that runs the loop gets the next notification when it
-// has returned: GLib does not dispatch a source from within itself.
+// One message at a time, so that the program's other sources run between the
+// messages of a burst. A callback that runs the loop gets the next notification
+// when it has returned: GLib does not dispatch a source from within itself.
 gboolean Dispatch(GSource *base, GSourceFunc /*callback*/, gpointer /*data*/) {
   sd_bus *bus = FromBase(base)->bus;
   if (sd_bus_process(bus, nullptr) < 0) return G_SOURCE_REMOVE;
-  // Not one turn later: sd-bus is about to close the descriptor polled here.
+  // Removed now and not in the next iteration, because sd-bus is about to close
+  // the polled descriptor.
   return sd_bus_is_open(bus) > 0 ? G_SOURCE_CONTINUE : G_SOURCE_REMOVE;
 }
 
 void Finalize(GSource *base) { BusCloser()(FromBase(base)->bus); }
 
-// Not const, as GLib asks for it. Its address tells our sources from others.
+// Not const, because GLib requires that. Its address identifies the sources of
+// this library.
 GSourceFuncs sourceFuncs = {.prepare = Prepare,
                             .check = nullptr,
                             .dispatch = Dispatch,
@@ -94,7 +98,7 @@ GSource *Attach(GMainContext *context) {
 
   GSource *base = g_source_new(&sourceFuncs, guint{sizeof(BusSource)});
   g_source_set_name(base, "ztk notifications");
-  // Only sources that have callback data can be found again.
+  // GLib finds only sources that have callback data.
   g_source_set_callback(base, nullptr, &sourceFuncs, nullptr);
   BusSource *source = FromBase(base);
   source->bus = bus.release();
@@ -112,7 +116,8 @@ int Receive(sd_bus_message *message, void *userData, sd_bus_error * /*error*/) {
     registration->code(registration->observer, userInfo);
     Release(userInfo);
   }
-  // Anything but 0 would keep the message from the other registrations.
+  // Another result than 0 would prevent the delivery to the other
+  // registrations.
   return 0;
 }
 
@@ -129,8 +134,8 @@ bool AddRegistration(sd_bus *bus, std::unique_ptr<Registration> *registration) {
       sd_bus_add_match(bus, &slot, rule.c_str(), Receive, registration->get());
   if (added < 0) return false;
   sd_bus_slot_set_destroy_callback(slot, DeleteRegistration);
-  static_cast<void>(registration->release());  // the slot has it now
-  // The connection keeps a floating slot until it goes itself.
+  static_cast<void>(registration->release());  // the slot owns it now
+  // The connection owns a floating slot until it is freed.
   sd_bus_slot_set_floating(slot, 1);
   sd_bus_slot_unref(slot);
   return true;
@@ -138,15 +143,15 @@ bool AddRegistration(sd_bus *bus, std::unique_ptr<Registration> *registration) {
 
 void Register(GMainContext *context,
               std::unique_ptr<Registration> registration) {
-  // A connection may have died, or been inherited through fork, without its
-  // context having run since; so there is one more try with a new one.
+  // The connection may have ended, or may come from the parent process, and its
+  // context has not run since. So a second try is made with a new connection.
   for (int tries = 0; tries < 2; ++tries) {
     GSource *source = Find(context);
     if (source == nullptr) source = Attach(context);
     if (source == nullptr) return;
     sd_bus *bus = FromBase(source)->bus;
     if (AddRegistration(bus, &registration)) return;
-    if (sd_bus_is_open(bus) > 0) return;  // the bus refuses or is silent
+    if (sd_bus_is_open(bus) > 0) return;  // the bus refuses or does not answer
     g_source_destroy(source);
   }
 }

@@ -21,14 +21,14 @@ struct Registration {
   std::string name;
 };
 
-// Has the connection call the registration for each notification of its name.
-// Waits for the bus to accept. On success the connection owns the registration
+// Makes the connection call the registration for each notification of its name.
+// Waits until the bus accepts. On success the connection owns the registration
 // and leaves it empty; on failure it is untouched.
 bool AddRegistration(sd_bus *bus, std::unique_ptr<Registration> *registration);
 
 // Adds a registration to the context's connection, which is made on the first
-// call and belongs to the context. To be called by the thread that owns the
-// context. Without a bus it does nothing.
+// call and belongs to the context. Only the thread that owns the context may
+// call it. Without a bus it does nothing.
 void Register(GMainContext *context,
               std::unique_ptr<Registration> registration);
 

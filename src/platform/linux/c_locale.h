@@ -6,9 +6,9 @@
 
 namespace ztk::platform {
 
-// Has the calling thread read and write numbers the C way while it lives: in
-// a locale with a decimal comma libplist would cut 3.25 to 3. Other threads
-// and the program's own locale are not touched.
+// While it exists, the calling thread reads and writes numbers as in the C
+// locale: in a locale with a decimal comma libplist would read 3.25 as 3. Other
+// threads and the locale of the program do not change.
 class ScopedCLocale {
  public:
   ScopedCLocale() : previous_(uselocale(CLocale())) {}
@@ -17,8 +17,8 @@ class ScopedCLocale {
   ScopedCLocale &operator=(const ScopedCLocale &) = delete;
 
  private:
-  // Made once and kept until the process ends. Were it null, uselocale() would
-  // change nothing.
+  // Made once and kept until the process ends. If it is null, uselocale()
+  // changes nothing.
   static locale_t CLocale() {
     static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
     return locale;

@@ -30,7 +30,7 @@ struct Character {
 };
 constexpr Character kNone = {.length = 1, .good = false};
 
-// The character at the front; where there is none, one bad byte.
+// The first character; one invalid byte when it is not a character.
 Character FirstCharacter(std::string_view text) {
   const std::uint8_t lead = ByteAt(text, 0);
   std::size_t length = 1;
@@ -56,7 +56,7 @@ Character FirstCharacter(std::string_view text) {
     if ((next & 0xC0U) != 0x80) return kNone;
     codePoint = codePoint << 6U | (next & 0x3FU);
   }
-  // A longer form than needed is not UTF-8, nor is a surrogate.
+  // Overlong forms and surrogates are not UTF-8.
   if (codePoint < lowest || !IsCodePoint(codePoint)) return kNone;
   return {.length = length, .good = XmlHolds(codePoint)};
 }

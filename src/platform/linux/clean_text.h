@@ -7,10 +7,10 @@
 
 namespace ztk::platform {
 
-// The text with everything that XML 1.0 cannot hold replaced by U+FFFD: each
-// byte that is not UTF-8 (surrogates are not), U+FFFE and U+FFFF, and the
+// The text, in which U+FFFD replaces everything that XML 1.0 cannot contain:
+// each byte that is not UTF-8 (surrogates are not), U+FFFE and U+FFFF, and the
 // control characters below a space other than tab, line feed and carriage
-// return. A strict reader refuses a whole file for one of them.
+// return. A strict reader refuses the whole file because of one of them.
 std::string CleanText(std::string_view text);
 
 }  // namespace ztk::platform

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The functions of GLib's main loop, whose library is loaded by whoever first
-// wants to hear something. Who hears runs that loop and has the library
-// already, which is the one that is found then: loading goes by the soname.
+// The functions of GLib's main loop. The library is loaded when the first
+// callback is registered. A program that receives callbacks runs that loop, so
+// it has loaded the same library already: both use the soname.
 #ifndef ZTK_PLATFORM_LINUX_GLIB_LIBRARY_H_
 #define ZTK_PLATFORM_LINUX_GLIB_LIBRARY_H_
 
@@ -48,8 +48,8 @@ extern const char *const kGLibLibrary;
 // All of them, or null; see LoadedLibrary.
 const GLibFunctions *GLib();
 
-// Not to be called before GLib() has found them: whoever holds a context, a
-// source or a loop can be sure.
+// May be called only after GLib() has found them. A function that has a
+// context, a source or a loop can rely on that.
 #define ZTK_DEFINE(name) ZTK_LOADED_FUNCTION(GLib(), name)
 ZTK_FOR_EVERY_GLIB_FUNCTION(ZTK_DEFINE)
 #undef ZTK_DEFINE

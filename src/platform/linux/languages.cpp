@@ -49,8 +49,8 @@ bool IsChinese(string_view language) {
   return language == "zh" || language == "yue";
 }
 
-// The folder for a form of Chinese: by script, else by where it is written.
-// Cantonese ("yue") is written in traditional characters.
+// The folder for a form of Chinese: by script, else by the country. Cantonese
+// ("yue") is written in traditional characters.
 string_view ChineseFolder(string_view language, string_view rest) {
   constexpr std::array<string_view, 5> kTraditionalForms = {"Hant", "hant",
                                                             "TW", "HK", "MO"};
@@ -98,7 +98,7 @@ std::vector<std::string> FolderNames(string_view locale) {
   // Without character set and modifier; "zh-Hant" is another spelling.
   std::string full(locale.substr(0, locale.find_first_of(".@")));
   std::replace(full.begin(), full.end(), '-', '_');
-  // A locale name must not lead out of the bundle.
+  // A locale name must not lead to a folder outside of the bundle.
   if (full.empty() ||
       !std::all_of(full.begin(), full.end(), IsLocaleCharacter)) {
     return {};

@@ -25,27 +25,28 @@ class LoadedLibrary {
  public:
   using FindAll = bool (*)(void *library, Functions *functions);
 
-  // `soname` stays the caller's.
+  // The caller keeps the ownership of `soname`.
   constexpr LoadedLibrary(const char *soname, FindAll findAll)
       : soname_(soname), findAll_(findAll) {}
 
-  // All of them, for as long as the process lives. Null where the library is
-  // missing, lacks one, or cannot be loaded now; then it is tried again at the
-  // next call. Any thread may call, and a child after fork().
+  // All functions, until the process ends. Null when the library is missing,
+  // lacks a function, or cannot be loaded now; the next call tries again. Any
+  // thread may call this, also a child after fork().
   const Functions *Get() {
     const Functions *known = functions_.load();
     return known != nullptr ? known : Load();
   }
 
  private:
-  // The library is never closed: what it made may live as long as the process.
+  // The library is never closed, because objects that it made may exist as long
+  // as the process.
   const Functions *Load() {
     void *library = dlopen(soname_, RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr) return nullptr;
     auto functions = std::make_unique<Functions>();
     if (!findAll_(library, functions.get())) return nullptr;
     const Functions *known = nullptr;
-    // Another thread may have been faster.
+    // Another thread may have set it first.
     return functions_.compare_exchange_strong(known, functions.get())
                ? functions.release()
                : known;
@@ -53,12 +54,12 @@ class LoadedLibrary {
 
   const char *soname_;
   FindAll findAll_;
-  // Set once, kept until the process ends. No lock: one that another thread
-  // holds would stay held for ever in a child.
+  // Set once, kept until the process ends. There is no lock: a lock that
+  // another thread holds during fork() would stay locked in the child.
   std::atomic<const Functions *> functions_ = nullptr;
 };
 
-// An entry of the section .note.dlopen, from which packaging tools learn of the
+// An entry of the section .note.dlopen, which tells packaging tools the
 // libraries that are loaded in this way. The format is systemd's "ELF dlopen
 // metadata": an ELF note of the owner "FDO" whose content is JSON.
 template <std::size_t length>
@@ -80,8 +81,7 @@ bool FindFunction(void *library, const char *name, Function *function) {
 
 // Defines the note about a library that is loaded: its soname, the feature that
 // needs it, and a sentence about that. All are string literals. The alignment
-// is named because gcc would use a larger one, and leave gaps between the
-// notes.
+// is explicit because gcc would use a larger one, with gaps between the notes.
 #define ZTK_DLOPEN_JSON(soname, feature, description)            \
   "[{\"feature\":\"" feature "\",\"description\":\"" description \
   "\",\"priority\":\"recommended\",\"soname\":[\"" soname "\"]}]"

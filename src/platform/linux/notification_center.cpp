@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Notifications are signals on the session bus. GLib's own D-Bus support would
-// start threads inside a library that promises none; sd-bus does not.
+// start threads, which this library promises not to do; sd-bus does not.
 #include "platform/notification_center.h"
 
 #include <cerrno>
@@ -60,15 +60,15 @@ std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
   return 0;
 }
 
-// The record is written into the message during the call, so the caller's hold
-// is enough.
+// The record is copied into the message during the call, so no hold of its own
+// is needed.
 PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   if (name == nullptr) {
     return {.handover = Handover::Failed, .systemCode = ENOMEM};
   }
   const std::uint64_t deadline = PatienceEnds();
-  // A connection of its own works after fork() and in any thread, and does not
-  // take messages from the observers'.
+  // Each post uses a connection of its own: this works after fork() and in any
+  // thread, and takes no messages from the connection of the observers.
   int error = 0;
   const OwnedBus bus = ConnectToSessionBus(deadline, &error);
   if (bus == nullptr) {
@@ -87,7 +87,7 @@ PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
 }
 
 void AddObserver(void *observer, const Method &method, ZTKTextRef name) try {
-  // There is no name where memory is short.
+  // There is no name when memory has run out.
   if (name == nullptr || GLib() == nullptr) return;
   GMainContext *context = g_main_context_get_thread_default();
   if (context == nullptr) context = g_main_context_default();
@@ -95,8 +95,8 @@ void AddObserver(void *observer, const Method &method, ZTKTextRef name) try {
       .context = context,
       .registration = std::make_unique<Registration>(Registration{
           .observer = observer, .code = method.code, .name = name})};
-  // Runs at once, unless another thread is working on the context: then that
-  // thread registers, because the connection is its own.
+  // Runs at once, unless another thread is running the context: then that
+  // thread registers, because it owns the connection.
   g_main_context_invoke_full(context, G_PRIORITY_DEFAULT, RunRequest, request,
                              DeleteRequest);
 } catch (const std::bad_alloc &) {

@@ -20,7 +20,7 @@ constexpr std::size_t kTrailerSize = 32;
 // Seconds before and after 2001; about 30,000 years.
 constexpr double kFarthestDate = 1e12;
 
-// What the marker's upper half says.
+// The type, which is the upper half of the marker.
 enum ObjectType : unsigned {
   kSimple = 0x0,
   kInteger = 0x1,
@@ -41,14 +41,14 @@ class BinaryScan {
   bool IsSafe() { return ReadTrailer() && Visit(root_, 1); }
 
  private:
-  // What one object expands to, its contents included.
+  // The expanded size of one object, with its contents.
   struct Extent {
     enum { Unseen, Open, Closed } state = Unseen;
     std::size_t height = 0;
     std::size_t nodes = 1;
     std::size_t bytes = 0;
   };
-  // Where an object's contents lie.
+  // The position of the contents of an object.
   struct Object {
     unsigned type;
     std::uint64_t size;  // the marker's lower half, or the number after it
@@ -83,8 +83,8 @@ class BinaryScan {
   std::size_t referenceSize_ = 0;
   std::size_t root_ = 0;
   std::vector<Extent> extents_;
-  // Walked so far. Every object walked is part of what the file expands to, so
-  // the limits of that bound this scan too when objects lie over one another.
+  // The bytes that were read so far. Each object is a part of the expanded
+  // size, so the limits of that size also limit this scan when objects overlap.
   std::size_t references_ = 0;
   std::size_t leafBytes_ = 0;
 };
@@ -200,11 +200,11 @@ bool BinaryScan::VisitReferences(const Object &object, std::size_t level,
   return true;
 }
 
-// Visits an object once and remembers what it expands to; recursion ends at
+// Visits an object once and remembers its expanded size; the recursion ends at
 // kMaxDepth.
 bool BinaryScan::Visit(std::size_t index, std::size_t level) {
   Extent extent = extents_[index];
-  if (extent.state == Extent::Open) return false;  // holds itself
+  if (extent.state == Extent::Open) return false;  // contains itself
   if (extent.state == Extent::Closed) {
     return level + extent.height <= kMaxDepth + 1;
   }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a property list must satisfy before libplist sees it. libplist 2.2.0
+// The checks of a property list before it is passed to libplist. libplist 2.2.0
 // recurses and expands without a limit: 100,000 nested arrays crash it, 406
 // bytes of shared references take it 25 seconds and 4 GB. These scans are
 // stricter than the formats: refusing an odd file is better than a crash.
@@ -12,11 +12,12 @@
 
 namespace ztk::platform::property_list {
 
-// Largest file in bytes. A settings file has some hundred.
+// Largest file in bytes. A settings file has a few hundred.
 inline constexpr std::size_t kMaxFileSize = std::size_t{256} * 1024;
 // Deepest nesting of arrays and dictionaries, the root included.
 inline constexpr std::size_t kMaxDepth = 128;
-// What a binary file may expand to: shared objects count once for each use.
+// The largest expanded size of a binary file: shared objects count once for
+// each use.
 inline constexpr std::size_t kMaxNodes = 65536;
 inline constexpr std::size_t kMaxExpandedBytes = std::size_t{1} << 20;
 

@@ -105,14 +105,14 @@ plist_t Parse(std::string_view bytes) {
   return root;
 }
 
-// The content of a file whose bytes are these. libplist does not report that
-// memory has run out, and leaves out what it had none for: errno tells.
+// The content of a file with these bytes. When memory runs out, libplist leaves
+// entries out and reports no error; errno shows it.
 FileContent ContentOf(std::string_view bytes) {
   FileContent content = {.result = {.state = ReadState::Damaged}};
   errno = 0;
   plist_t parsed = Parse(bytes);
   if (plist_get_node_type(parsed) == PLIST_DICT) {
-    // As Foundation does it in the two forms.
+    // As Foundation does in each of the two forms.
     CleanCopy copy(IsBinary(bytes) ? SameKey::First : SameKey::Last);
     content.result.state = ReadState::Read;
     content.root = copy.Of(parsed);

@@ -11,8 +11,8 @@
 
 namespace ztk::platform::property_list {
 
-// What a file holds. Its texts and keys are cleaned of what XML cannot hold, so
-// that neither a caller nor a written file meets it.
+// The content of a file. Characters that XML cannot contain are replaced in its
+// texts and keys, so that neither a caller nor a written file gets them.
 struct FileContent {
   ReadResult result;
   // The dictionary when the file was read, else null. Owned by the caller.
@@ -23,11 +23,11 @@ struct FileContent {
   std::optional<struct stat> status = {};
 };
 
-// Reads a file. One that does not parse may be a file that another program is
-// just copying over. It is read again after short pauses, and counts as damaged
-// when two readings gave the same bytes and its last change is at least a
-// quarter of a second ago. One that still changes after half a second is
-// unavailable (EBUSY).
+// Reads a file. Another program may be copying over a file that does not parse.
+// So it is read again after short pauses, and counts as damaged when two
+// readings gave the same bytes and its last change is at least a quarter of a
+// second ago. A file that still changes after half a second is unavailable
+// (EBUSY).
 FileContent ReadContent(const char *path);
 
 }  // namespace ztk::platform::property_list

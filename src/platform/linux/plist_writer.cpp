@@ -14,7 +14,7 @@ namespace {
 
 // A date in the form that strict readers accept: the year has four digits, to
 // which libplist does not pad it. A date after the year 9999 becomes the latest
-// one; a text that is no date, because the file that was read had none there,
+// one; a text that is not a date, which comes from the file that was read,
 // becomes the earliest one.
 std::string StrictDate(std::string_view date) {
   constexpr std::string_view kEarliest = "0001-01-01T00:00:00Z";
@@ -29,7 +29,7 @@ std::string StrictDate(std::string_view date) {
   return good ? strict : std::string(kEarliest);
 }
 
-// No text is mistaken for an element: "<" is written as "&lt;" in texts.
+// A text cannot be confused with an element: "<" is written as "&lt;" in texts.
 void MakeDatesStrict(std::string *xml) {
   constexpr std::string_view kOpen = "<date>";
   constexpr std::string_view kClose = "</date>";
@@ -52,7 +52,7 @@ void MakeDatesStrict(std::string *xml) {
 
 }  // namespace
 
-// libplist does not report that memory has run out: errno tells.
+// libplist does not report that memory has run out; errno shows it.
 std::string MakeXml(plist_t root) {
   const ScopedCLocale cLocale;
   errno = 0;

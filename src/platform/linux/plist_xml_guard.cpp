@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // The XML scan. It need not know property lists, but must see the same tags as
-// libplist, or a file could hide nesting from it. So whatever two scanners
-// could read in two ways is refused: quotes that do not pair up inside a tag,
-// a "<" inside a tag, a name with odd characters.
+// libplist, or a file could hide nesting from it. So everything that two
+// scanners could read differently is refused: unpaired quotes inside a tag, a
+// "<" inside a tag, a name with odd characters.
 #include "platform/linux/plist_guards.h"
 
 #include <algorithm>
@@ -26,8 +26,8 @@ bool QuotesPairUp(string_view text) {
   return std::count(text.begin(), text.end(), '"') % 2 == 0;
 }
 
-// Takes the first `size` bytes and an end of `endSize` behind them off the
-// front of `rest`. False when there is no such end.
+// Removes the first `size` bytes, and the end of `endSize` bytes after them,
+// from `rest`. False when there is no such end.
 bool Take(std::size_t size, std::size_t endSize, string_view *rest,
           string_view *taken) {
   if (size == string_view::npos) return false;
@@ -36,8 +36,8 @@ bool Take(std::size_t size, std::size_t endSize, string_view *rest,
   return true;
 }
 
-// Takes everything up to and including `end` off the front of `rest`, and
-// gives what stood before it. False when there is no `end`.
+// Removes everything up to and including `end` from the front of `rest`, and
+// returns the text before `end`. False when there is no `end`.
 bool TakeUntil(string_view end, string_view *rest, string_view *taken) {
   return Take(rest->find(end), end.size(), rest, taken);
 }
@@ -53,7 +53,7 @@ bool TakePrefix(string_view prefix, string_view *rest) {
 
 enum class Tag { Opening, Closing, Empty, Odd };
 
-// Tells the kind of a tag from what stands between "<" and ">".
+// The kind of a tag, from the text between "<" and ">".
 Tag KindOf(string_view tag) {
   bool quoted = false;
   for (const char character : tag) {
@@ -76,8 +76,8 @@ Tag KindOf(string_view tag) {
   return empty ? Tag::Empty : Tag::Opening;
 }
 
-// Takes what is neither text nor an element off the front of `rest`, which
-// stands behind a "<". *taken tells whether there is any; false when it is
+// Removes a comment, declaration or instruction from the front of `rest`, which
+// begins after a "<". *taken tells whether there was one; false when it is
 // malformed.
 bool TakeMarkup(string_view *rest, bool *taken) {
   *taken = rest->starts_with('!') || rest->starts_with('?');
@@ -85,7 +85,8 @@ bool TakeMarkup(string_view *rest, bool *taken) {
   string_view content;
   if (TakePrefix("!--", rest)) return TakeUntil("-->", rest, &content);
   if (TakePrefix("![CDATA[", rest)) return TakeUntil("]]>", rest, &content);
-  // The search begins at the first "?": libplist takes "<?>" for a whole one.
+  // The search begins at the first "?", because libplist accepts "<?>" as a
+  // complete instruction.
   if (rest->starts_with('?')) {
     return TakeUntil("?>", rest, &content) && QuotesPairUp(content);
   }
@@ -94,8 +95,8 @@ bool TakeMarkup(string_view *rest, bool *taken) {
          content.find_first_of("[<") == string_view::npos;
 }
 
-// libplist keeps only what stands before the first comment in these elements.
-// `tag` is the last one met.
+// libplist keeps only the text before the first comment in these elements.
+// `tag` is the last tag that was read.
 bool LosesWhatFollowsMarkup(string_view tag) {
   const string_view name = tag.substr(0, tag.find_first_of(kWhiteSpace));
   return name == "data" || name == "date";

@@ -22,7 +22,7 @@ void SkipSpace(string_view *text) {
   text->remove_prefix(static_cast<std::size_t>(end - text->begin()));
 }
 
-// Takes a sign off the front. True for a minus.
+// Removes a sign from the front. True for a minus.
 bool TakeSign(string_view *text) {
   const char sign = text->empty() ? '\0' : text->front();
   if (sign == '-' || sign == '+') text->remove_prefix(1);
@@ -81,7 +81,7 @@ bool IsReal(string_view text) {
   return text.empty();
 }
 
-// Where a comment or a character section that begins at `at` ends; `at` itself
+// The end of the comment or character section that begins at `at`; `at` itself
 // when none begins there.
 std::size_t EndOfSection(string_view xml, std::size_t at) {
   constexpr string_view kSections[][2] = {{"<!--", "-->"},
@@ -119,7 +119,7 @@ bool NormalizeNumbers(std::string *xml) {
     const std::size_t begin = end + 1;
     const std::size_t size = xml->find('<', begin) - begin;
     const string_view content = string_view(*xml).substr(begin, size);
-    // Nothing else may stand in the element, not even a comment.
+    // The element may contain nothing else, not even a comment.
     const bool closed = xml->compare(begin + size, 2, "</") == 0;
     if (tag.ends_with('/') || !closed) return false;
     if (!integer) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The numbers of an XML property list before it is given to libplist, which
-// takes a number with a leading zero for an octal one, stops at the first
-// character that is no digit, and cuts off what does not fit.
+// Rewrites the numbers of an XML property list for libplist, which reads a
+// number with a leading zero as octal, stops at the first character that is not
+// a digit, and truncates large numbers.
 #ifndef ZTK_PLATFORM_LINUX_PLIST_XML_NUMBERS_H_
 #define ZTK_PLATFORM_LINUX_PLIST_XML_NUMBERS_H_
 

@@ -13,8 +13,8 @@ namespace {
 
 using std::string_view;
 
-// What editors write property lists in. Only these are given to iconv(), whose
-// other converters have had faults that a file could use.
+// The encodings that editors write. Only these are given to iconv(), because
+// its other converters have had security bugs.
 struct Encoding {
   string_view declared;  // upper case, as in an XML declaration
   const char *converter;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// XML property lists before they are given to libplist, which takes every file
-// for UTF-8.
+// Converts XML property lists to UTF-8 before libplist, which knows no other
+// encoding, reads them.
 #ifndef ZTK_PLATFORM_LINUX_PLIST_XML_TEXT_H_
 #define ZTK_PLATFORM_LINUX_PLIST_XML_TEXT_H_
 

@@ -25,12 +25,12 @@ namespace ztk::platform::property_list {
 
 struct Dictionary {
   plist_t root = nullptr;
-  // What AddEntriesOfFile() found, and where; an empty path before.
+  // The result of AddEntriesOfFile(), and its path; empty before the call.
   std::string addedFrom = {};
   ReadResult added = {};
   bool addedIncomplete = false;
   std::optional<struct stat> addedStatus = {};
-  // Memory ran out while it was filled: it may lack entries.
+  // Memory ran out while it was filled, so entries may be missing.
   bool lacksMemory = false;
 };
 
@@ -45,8 +45,8 @@ plist_t Entry(const Dictionary *dictionary, ZTKTextRef key) {
   return plist_dict_get_item(dictionary->root, key);
 }
 
-// Versions of libplist differ in what they write for a negative number, except
-// for one that they have read.
+// Versions of libplist write negative numbers differently, except those that
+// they have read.
 plist_t MakeInteger(std::int32_t value) {
   if (value >= 0) return plist_new_uint(static_cast<std::uint32_t>(value));
   const std::string xml = "<plist version=\"1.0\"><integer>" +

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The three libraries that carry the sd-bus interface install its header in
-// different places.
+// The three libraries with the sd-bus interface install its header in different
+// folders.
 #ifndef ZTK_PLATFORM_LINUX_SD_BUS_HEADER_H_
 #define ZTK_PLATFORM_LINUX_SD_BUS_HEADER_H_
 

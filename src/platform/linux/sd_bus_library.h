@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The functions of sd-bus, whose library is loaded by whoever first wants to
-// say or hear something. It brings six others with it, which would make up a
-// third of the start of every program that only asks a mixer something.
+// The functions of sd-bus. The library is loaded when a process posts or
+// observes for the first time. It loads six other libraries, which would take a
+// third of the start-up time of a program that only queries a mixer.
 #ifndef ZTK_PLATFORM_LINUX_SD_BUS_LIBRARY_H_
 #define ZTK_PLATFORM_LINUX_SD_BUS_LIBRARY_H_
 
@@ -58,8 +58,8 @@ extern const char *const kSdBusLibrary;
 // All of them, or null; see LoadedLibrary.
 const SdBusFunctions *SdBus();
 
-// Not to be called before SdBus() has found them: whoever holds a connection or
-// a message can be sure.
+// May be called only after SdBus() has found them. A function that has a
+// connection or a message can rely on that.
 #define ZTK_DEFINE(name) ZTK_LOADED_FUNCTION(SdBus(), name)
 ZTK_FOR_EVERY_SD_BUS_FUNCTION(ZTK_DEFINE)
 #undef ZTK_DEFINE

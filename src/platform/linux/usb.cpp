@@ -30,16 +30,16 @@ struct Matching {
 
 struct PortObject {};
 
-// A device as found, part of the snapshot and gone with it; or a connection,
-// which is freed on its own.
+// A device of the snapshot, which is freed with the snapshot; or a connection,
+// which is freed separately.
 struct Device {
   DeviceFacts facts;
   bool isConnection = false;
   int node = -1;  // descriptor, of a connection that is open
 };
 
-// Services, plug-ins and devices are the same entry of the snapshot, seen
-// through three kinds of handle: nothing has to be made for any of them.
+// Services, plug-ins and devices are the same entry of the snapshot, with three
+// types of handle: nothing has to be allocated for them.
 struct IteratorObject {
   std::vector<Device> devices;
   std::size_t next = 0;
@@ -59,9 +59,9 @@ Result ResultOfOpening(int error) {
   return {.code = isGone ? kNoDevice : CodeOfErrno(error), .systemCode = error};
 }
 
-// Opens the node and makes sure that the same device is still behind it: its
-// number may have been given to another one since the snapshot. -1 when it
-// cannot be opened; *result then tells why.
+// Opens the node and checks that it still belongs to the same device: since the
+// snapshot another device may have got its number. Returns -1 when it cannot be
+// opened; *result is the reason.
 int OpenNode(const DeviceFacts &facts, Result *result) {
   *result = ResultOfOpening(ENODEV);
   const int number = ReadDeviceNumber(facts);
@@ -97,8 +97,8 @@ Matching *CreateMatching(const char * /*className*/) {
   return new (std::nothrow) Matching;
 }
 
-// The core leaves its numbers behind, so they must cost nothing here: the
-// number travels in the pointer itself.
+// The core does not release ports, so a port must not need memory: the handle
+// contains the number itself.
 Number *MakeNumber(std::int32_t value) {
   return reinterpret_cast<Number *>(static_cast<std::intptr_t>(value));
 }
@@ -167,8 +167,8 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
   return kSuccess;
 }
 
-// The interface in the snapshot goes with its iterator; what outlives it is a
-// connection of its own.
+// The interface in the snapshot is freed with its iterator; a connection exists
+// longer, so it is a separate object.
 Device *MakeReady(Device *device, Result *result) try {
   const int node = OpenNode(device->facts, result);
   if (node < 0) return nullptr;
@@ -187,7 +187,8 @@ Device *MakeReady(Device *device, Result *result) try {
 Code Request(Device *device, ControlRequest *request) {
   request->lengthDone = 0;
   request->systemCode = 0;
-  // memset() for the padding: the kernel is given no byte that is not ours.
+  // memset() also clears the padding, so that the kernel gets no other bytes of
+  // this process.
   usbdevfs_ctrltransfer transfer;
   std::memset(&transfer, 0, sizeof transfer);
   transfer.bRequestType = request->requestType;
@@ -213,8 +214,8 @@ Code CloseDevice(Device *device) {
   return kSuccess;
 }
 
-// An interface of the snapshot is freed with its iterator; a connection, which
-// was closed before, here.
+// An interface of the snapshot is freed with its iterator. A connection was
+// closed before, and is freed here.
 std::uint32_t ReleaseDevice(Device *device) {
   if (device->isConnection) delete device;
   return 0;

@@ -9,7 +9,7 @@
 namespace ztk::platform::usb {
 
 // USB expects a device to answer a control request within 500 ms. A mixer that
-// hangs must not hold up its caller for longer than necessary.
+// hangs must not delay the caller more than necessary.
 inline constexpr unsigned kRequestTimeoutMs = 1000;
 
 // The result code for an error number of the kernel.

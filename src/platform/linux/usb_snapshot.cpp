@@ -29,9 +29,9 @@ bool IsDevice(std::string_view entry) {
   return entry.find(':') == std::string_view::npos;
 }
 
-// Reads the start of an attribute; the number of bytes, 0 on failure. Absolute
-// paths: the attributes of a device that has gone cannot be taken for those of
-// another one, because the name of the entry says where it is plugged in.
+// Reads the start of an attribute; the number of bytes, 0 on failure. The path
+// is absolute and contains the port, so the attributes of an unplugged device
+// cannot be confused with those of another one.
 std::size_t ReadAttribute(std::string_view entry, std::string_view attribute,
                           void *bytes, std::size_t size) {
   std::string path(kDevices);
@@ -70,7 +70,7 @@ bool ParseDeviceDescriptor(const std::uint8_t *bytes, ByteOrder order,
 }
 
 std::uint64_t PlaceOf(const char *entry) {
-  constexpr int kPorts = 6;  // the deepest that USB allows
+  constexpr int kPorts = 6;  // the most that USB allows
   constexpr int kPortBits = 8;
   const bool isRoot = !IsDigit(entry[0]) && std::strncmp(entry, "usb", 3) == 0;
   const char *rest = isRoot ? entry + 3 : entry;

@@ -11,7 +11,7 @@
 
 namespace ztk::platform::usb {
 
-// The device descriptor, which `descriptors` and the node both start with.
+// The device descriptor, with which both `descriptors` and the node start.
 inline constexpr std::size_t kDeviceDescriptorLength = 18;
 
 struct DeviceIdentity {
@@ -23,7 +23,7 @@ struct DeviceIdentity {
   bool operator==(const DeviceIdentity &) const = default;
 };
 
-// What is asked for; 0 asks for nothing, as no device has the number.
+// The wanted devices. 0 matches no device, because no device has that number.
 struct WantedDevice {
   std::uint16_t vendor = 0;
   std::uint16_t product = 0;
@@ -43,23 +43,23 @@ struct DeviceFacts {
   DeviceIdentity identity = {};
 };
 
-// sysfs gives the descriptor as it came over the bus, low byte first; a node
-// gives its numbers in the order of this machine.
+// sysfs has the descriptor as it was sent over the bus, low byte first; a node
+// has its numbers in the byte order of this machine.
 enum class ByteOrder { Bus, Machine };
 
 // False when these bytes are not a device descriptor.
 bool ParseDeviceDescriptor(const std::uint8_t *bytes, ByteOrder order,
                            DeviceIdentity *identity);
 
-// Where a device is plugged in, as a number to sort by: its bus, then the ports
-// that lead to it, one byte each. A root hub comes before what is behind it.
+// The place of a device as a number for sorting: its bus, then the ports on the
+// way to it, one byte each. A root hub comes before the devices behind it.
 std::uint64_t PlaceOf(const char *entry);
 // The bus of a place.
 int BusOf(std::uint64_t place);
 
-// Lists the wanted devices by place: an order that stays when a mixer is
-// plugged out and in again, which that of device numbers does not. A device
-// that goes away while being read is left out. False when there is no USB.
+// Lists the wanted devices by place: unlike the order of device numbers, this
+// order stays the same when a mixer is unplugged and plugged in again. A device
+// that is unplugged during the reading is left out. False when there is no USB.
 bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices);
 
 // The number of the device's node on its bus; 0 when it is gone.

@@ -15,8 +15,8 @@ NSBundle *BundleOf(const Bundle *bundle) { return (NSBundle *)bundle; }
 
 }  // namespace
 
-// Held by the caller until Release() and by the autorelease pool, so that texts
-// taken out of it live on until that drains.
+// Held by the caller until Release() and by the autorelease pool, so that its
+// texts stay valid until the pool drains.
 Bundle *AtPath(ZTKTextRef path) {
   if (path == nullptr) return nullptr;
   return (Bundle *)[[NSBundle bundleWithPath:StringOf(path)] retain];

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The library's texts as Foundation sees them. The two kinds are one and the
-// same object; outside these sources a text is always a CFStringRef, or the
-// names of functions in .cpp and .mm files would not be the same.
+// Converts the texts of the library to NSString. Both types are the same
+// object; outside of these sources a text is always a CFStringRef, because
+// otherwise the mangled names of functions would differ between .cpp and .mm
+// files.
 //
-// Memory is counted by hand in this folder: a made object carries one retain
-// and goes back through release. What is handed out without being made belongs
-// to the caller's autorelease pool, so no pool may stand around it here.
+// References are counted manually in this folder: a made object has one retain
+// and is given back with release. Other returned objects belong to the
+// autorelease pool of the caller, so a function here must not have a pool
+// around them.
 #ifndef ZTK_PLATFORM_MACOS_FOUNDATION_H_
 #define ZTK_PLATFORM_MACOS_FOUNDATION_H_
 
@@ -18,7 +20,7 @@
 #error "These sources count references by hand: build them with -fno-objc-arc."
 #endif
 
-// Tells the static analyser that the caller owns what is returned.
+// Tells the static analyser that the caller owns the result.
 #ifndef CF_RETURNS_RETAINED
 #define CF_RETURNS_RETAINED __attribute__((cf_returns_retained))
 #endif

@@ -36,14 +36,14 @@ UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
 
 void Release(UserInfo *userInfo) { [DictionaryOf(userInfo) release]; }
 
-// Another poster may have put anything under the key.
+// Another program may have posted any value for the key.
 std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
   const id number = [DictionaryOf(userInfo) valueForKey:StringOf(key)];
   if (![number respondsToSelector:@selector(intValue)]) return 0;
   return [number intValue];
 }
 
-// The center does not tell whether it took a notification.
+// The center does not report whether it accepted a notification.
 PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   @autoreleasepool {
     NSDistributedNotificationCenter *center =

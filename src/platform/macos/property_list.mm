@@ -41,9 +41,9 @@ std::string PathOf(ZTKTextRef path) {
   return bytes == nullptr ? "" : bytes;
 }
 
-// Why Foundation could not read the file as a dictionary. It does not say, so
-// the file is read once more: a file is damaged when two readings gave the same
-// bytes. One larger than any settings file is not read.
+// Why Foundation could not read the file as a dictionary. Foundation gives no
+// reason, so the file is read again: it is damaged when two readings gave the
+// same bytes. A file that is too large for settings is not read.
 ReadResult ReasonFor(ZTKTextRef path) {
   constexpr std::size_t kLargest = std::size_t{1} << 20;
   constexpr std::chrono::milliseconds kPause{8};
@@ -64,8 +64,8 @@ ReadResult ReasonFor(ZTKTextRef path) {
   return {.state = ReadState::Unavailable, .error = error == 0 ? EBUSY : error};
 }
 
-// Gives a file another name beside its own, the first that is free. The old
-// bytes stay when the file is replaced.
+// Gives a file a second name, the first that is free, so that its content is
+// kept when the file is replaced.
 bool KeepAside(const std::string &file) {
   constexpr int kNames = 1000;
   for (int number = 1; number <= kNames; ++number) {
@@ -76,9 +76,8 @@ bool KeepAside(const std::string &file) {
   return false;
 }
 
-// Reads the file into *entries, which belongs to the autorelease pool. A file
-// that does not parse may be one that another program is just writing over, so
-// it is tried again.
+// Reads the file into *entries, which belongs to the autorelease pool. Another
+// program may be overwriting a file that does not parse, so it is read again.
 ReadResult ReadEntries(ZTKTextRef path, NSDictionary **entries) {
   constexpr int kAttempts = 3;
   ReadResult result;
@@ -125,8 +124,7 @@ bool PrepareToReplace(const Dictionary &dictionary, int *error) {
 }  // namespace
 
 // Foundation's dictionary is held twice: until Release(), and by the
-// autorelease pool, so that texts taken from it stay valid until the pool
-// drains.
+// autorelease pool, so that its texts stay valid until the pool drains.
 ReadResult Read(ZTKTextRef path, Dictionary **dictionary) {
   *dictionary = nullptr;
   if (path == nullptr) return {};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A made text carries one retain.
+// A made text has one retain.
 #include "platform/text.h"
 
 #include "platform/macos/foundation.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// USB on the device interface that IOKit hands to programs, one call of it for
-// each verb. Vendor requests go through the default pipe of a device that is
-// never opened, so nothing is taken away from other programs.
+// USB by the device interface of IOKit; each function of the contract is one
+// call of it. Vendor requests use the default pipe of a device that is never
+// opened, so other programs can use the device at the same time.
 #include "platform/usb.h"
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -19,8 +19,8 @@ namespace {
 static_assert(kError == static_cast<Code>(kIOReturnError));
 static_assert(kExclusiveAccess == static_cast<Code>(kIOReturnExclusiveAccess));
 
-// Ports, iterators and services are small numbers that the kernel gives out;
-// as handles they travel in the pointer itself, 0 being null.
+// Ports, iterators and services are small numbers of the kernel; a handle
+// contains the number itself, and null is 0.
 template <typename Handle>
 Handle HandleOf(mach_port_t name) {
   return reinterpret_cast<Handle>(static_cast<std::uintptr_t>(name));
@@ -31,8 +31,9 @@ mach_port_t NameOf(Handle handle) {
   return static_cast<mach_port_t>(reinterpret_cast<std::uintptr_t>(handle));
 }
 
-// Later versions of the device interface only append to the first one, which
-// is the one asked for: no call beyond it may be made through this type.
+// Later versions of the device interface only append functions to the first
+// one, which is requested here. So only functions of the first version may be
+// called.
 IOUSBDeviceInterface **InterfaceOf(Device *device) {
   return reinterpret_cast<IOUSBDeviceInterface **>(device);
 }
@@ -134,7 +135,7 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
   return CodeOf((*interface)->GetDeviceProduct(interface, product));
 }
 
-// Any device that was found can be asked at once.
+// Requests can be sent to every device that was found.
 Device *MakeReady(Device *device, Result *result) {
   *result = {};
   return device;
