@@ -10,8 +10,8 @@
 
 namespace ztk::platform::notification_center {
 
-// Never freed before the process ends, so that a record which the core drops
-// without giving it back is counted and not leaked.
+// Not freed before the process ends: a record that the core drops without
+// releasing it is counted, and is not a leak.
 struct UserInfo {
   int references;
   std::vector<std::pair<std::string, std::int32_t>> entries;
@@ -100,7 +100,7 @@ void Deliver(const std::string &name,
              const std::vector<std::pair<std::string, std::int32_t>> &entries) {
   const platform::notification_center::UserInfo userInfo{.references = 1,
                                                          .entries = entries};
-  // A method may register more; those wait for the next notification.
+  // A method may register more observers; these get the next notification.
   const std::vector<Observation> observations = TheWorld().observations;
   for (const Observation &observation : observations) {
     if (observation.name != name) continue;

@@ -34,7 +34,7 @@ std::string Describe(const fake::Value &value) {
   return "(other)";
 }
 
-// What reading the file comes to, and its entries when it can be read.
+// The result of reading the file, and its entries when it can be read.
 ReadResult Find(const std::string &path, fake::Entries *entries) {
   const auto failure = TheWorld().readFailures.find(path);
   if (failure != TheWorld().readFailures.end()) return failure->second;

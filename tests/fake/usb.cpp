@@ -13,8 +13,8 @@
 
 namespace ztk::platform::usb {
 
-// Handles are never freed before the process ends, so that a use after the
-// last release is seen and not undefined.
+// Handles are not freed before the process ends, so that a use after the last
+// release is detected and has defined behaviour.
 struct PortObject {
   int references;
 };
@@ -80,7 +80,7 @@ fake::Device &DeviceAt(std::size_t position) {
   return TheWorld().bus.at(position);
 }
 
-// As a person counts: from 1, mixers only.
+// Counts mixers only, from 1.
 int MixerNumber(std::size_t position) {
   const auto &bus = TheWorld().bus;
   const auto end = bus.begin() + static_cast<std::ptrdiff_t>(position) + 1;

@@ -24,14 +24,14 @@ namespace ztk::fake {
 
 using Code = platform::usb::Code;
 
-// What a device answers to a read: the result, and the bytes that it delivers
-// before that (no more than are asked for reach the buffer).
+// The answer of a device to a read: the result, and the bytes that it delivers
+// (the buffer receives at most as many as were asked for).
 struct Answer {
   Code result = 0;
   std::vector<std::uint8_t> bytes;
 };
 
-// One device on the bus. It answers as a mixer does unless a test says so.
+// One device on the bus. It answers as a mixer unless a test changes that.
 struct Device {
   std::uint16_t vendor = build::kUsbVendorId;
   std::uint16_t product = 27;
@@ -43,11 +43,12 @@ struct Device {
   Code vendorResult = 0;
   Code productResult = 0;
   bool canBeReached = true;  // else MakeReady() yields nothing
-  // Why it cannot be reached, and the system's number for a failed request.
+  // Why it cannot be reached, and the error number of the system for a failed
+  // request.
   platform::usb::Result openResult = {.code = platform::usb::kNotPermitted,
                                       .systemCode = 13};
   std::int32_t systemCodeOfRequests = 0;
-  std::uint32_t referencesOfOthers = 0;     // what a release says remains
+  std::uint32_t referencesOfOthers = 0;     // what a release returns
   std::map<std::uint16_t, Answer> answers;  // to reads, by register
   Code writeResult = 0;
 };
@@ -56,11 +57,11 @@ struct Device {
 Device Mixer();
 // The same with another answer to one read.
 Device MixerAnswering(std::uint16_t reg, Answer answer);
-// A device of somebody else.
+// A device of another maker.
 Device Stranger();
 
-// What a settings file may hold; monostate stands for a kind that has neither
-// an integer nor a text in it.
+// A value in a settings file; monostate is any value that is neither an integer
+// nor a text.
 using Value = std::variant<std::monostate, std::int32_t, std::string>;
 using Entries = std::map<std::string, Value>;
 
@@ -70,7 +71,7 @@ struct Bundle {
   std::map<std::string, std::map<std::string, std::string>> preferredTexts;
 };
 
-// Objects that the core holds, by kind. A test asks what is left.
+// The objects that the core holds, by kind; a test checks how many are left.
 struct Held {
   int ports = 0;
   int matchings = 0;
@@ -105,7 +106,7 @@ struct World {
   bool hasLibrary = true;
   std::string library = "/Users/dj/Library";
   std::map<std::string, Entries> files;
-  // By path: files that are there but cannot be read.
+  // By path: files that exist but cannot be read.
   std::map<std::string, platform::property_list::ReadResult> readFailures;
   bool canWrite = true;
   int writeError = EACCES;  // the reason where canWrite is false
@@ -116,8 +117,8 @@ struct World {
   // Runs while an observer is added.
   std::function<void()> onObserve;
 
-  // What came of it. `steps` is the log in the terms of a setter's rules:
-  // count, open, request, close, file, post. `calls` has every call.
+  // The results. `steps` is the log as steps of a setter: count, open, request,
+  // close, file, post. `calls` has every call.
   std::vector<std::string> steps;
   std::vector<std::string> calls;
   Held held;
@@ -129,8 +130,8 @@ struct World {
 // The one world. Assigning to it starts afresh.
 World &TheWorld();
 
-// Has a notification delivered to everybody who observes its name, as if some
-// process had posted it.
+// Delivers a notification to all observers of its name, as if another process
+// had posted it.
 void Deliver(const std::string &name,
              const std::vector<std::pair<std::string, std::int32_t>> &entries);
 

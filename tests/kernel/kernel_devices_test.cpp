@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library among the devices of a real kernel: which it finds, in
-// what order, which it opens, and what it is let do.
+// The shipped library with the devices of a real kernel: which devices it
+// finds, in which order, which it opens, and with which rights.
 #include <fcntl.h>
 #include <linux/usbdevice_fs.h>
 #include <sys/inotify.h>
@@ -75,7 +75,7 @@ TEST_F(KernelDevices, EightMixersAreReachedInBusOrder) {
           "mixer 7: 40 03 0f00 8004 0000", "mixer 8: 40 03 0f00 8004 0000"));
 }
 
-// A controller has fifteen ports, so the second mixer stands on another bus.
+// A controller has fifteen ports, so the second mixer is on another bus.
 TEST_F(KernelDevices, OneBusIsWalkedAfterTheOther) {
   std::vector<DeviceKind> kinds(14, kSibling);
   kinds.insert(kinds.end(), {kMixer, kMixer});
@@ -87,7 +87,7 @@ TEST_F(KernelDevices, OneBusIsWalkedAfterTheOther) {
                                      "mixer 2: 40 03 0300 8003 0000"));
 }
 
-// The kernel gives it a new number, but it stands where it stood.
+// The kernel gives it a new number, but its place is the same.
 TEST_F(KernelDevices, PluggedInAgainAMixerHasItsOldPlaceInTheWalk) {
   Plug({kMixer, kMixer});
   const std::string port = KernelWorld::DeviceOf(1);
@@ -101,7 +101,7 @@ TEST_F(KernelDevices, PluggedInAgainAMixerHasItsOldPlaceInTheWalk) {
                                      "mixer 2: 40 03 0300 8003 0000"));
 }
 
-// Which device nodes are opened while a test looks.
+// Records which device nodes are opened during a test.
 class OpenedNodes {
  public:
   OpenedNodes() : watch_(inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {
@@ -214,8 +214,8 @@ TEST_F(KernelDevices, AnUnconfiguredMixerAnswersAllTheSame) {
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
 }
 
-// Runs it as nobody, in a process of its own; its exit status is what it
-// answers, or 128 and the signal that ended it.
+// Runs it as the user nobody, in a process of its own. Returns its exit status,
+// or 128 plus the number of the signal that ended it.
 int AsNobody(const std::function<int()> &what) {
   constexpr uid_t kNobody = 65534;
   const pid_t child = fork();

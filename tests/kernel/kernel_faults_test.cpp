@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library on a real kernel while mixers misbehave or go.
+// The shipped library on a real kernel with mixers that fail or are unplugged.
 #include <unistd.h>
 
 #include <atomic>
@@ -142,14 +142,15 @@ TEST_F(KernelFaults, UnpluggedInFlightAQueryAnswersItsNeutralValue) {
   }
 }
 
-// The request was under way already; nothing that the mixer does ends it.
+// The request had been sent already; nothing that the mixer does ends it.
 TEST_F(KernelFaults, PulledOutWhileItIsSilentTheRequestEndsAtOnce) {
   PlugMixers(1);
   Inject(1, "silence");
   usb::Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 0), 0u);
   std::thread hand([this] {
-    // Until the request is on its way: the mixer is then what it waits for.
+    // Waits until the request has been sent; the library then waits for the
+    // mixer.
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
     world().Unplug(1);
   });
@@ -218,7 +219,7 @@ TEST_F(KernelFaults, AShortReplyLeavesThePresetOfTheRest) {
          return ZTK_GetMixerSeratoActiveStatus(10, value);
        },
        100, 0},
-      // Read after the routing was sent: position 0 is no warning's.
+      // Read after the routing was sent: position 0 causes no warning.
       {"short:0@r8002",
        [](uint32_t *) { return ZTK_SetUSBInputAudio(10, 1, 0); }, 101, 77},
       {"short:0@r8002",
@@ -259,7 +260,7 @@ TEST_F(KernelFaults, WrongBytesArePassedOnAsTheyAre) {
   EXPECT_EQ(value, 77u);
 }
 
-// Descriptors of this process that lead to devices.
+// The file descriptors of this process for device nodes.
 std::vector<std::string> OpenDevices() {
   std::vector<std::string> open;
   for (const auto &entry : fs::directory_iterator("/proc/self/fd")) {
@@ -291,8 +292,8 @@ TEST_F(KernelFaults, ManySettersWhileMixersComeAndGo) {
   PlugMixers(2);
   ZTK_SetUSBInputAudio(10, 0, 0);
   const std::size_t descriptors = CountDescriptors();
-  // A move needs some calls' time, and calls wait while the kernel takes a
-  // mixer in.
+  // Moving a mixer takes as long as several calls, and calls wait while the
+  // kernel configures a mixer.
   constexpr int kCallsForAMove = 25;
   const int calls = SetterCalls();
   std::atomic<int> done = 0;
@@ -328,7 +329,7 @@ TEST_F(KernelFaults, ManySettersWhileMixersComeAndGo) {
   hand.join();
   EXPECT_THAT(results, Each(AnyOf(100u, 101u)));
   EXPECT_THAT(OpenDevices(), IsEmpty());
-  // The server gives a connection back when it has seen that it closed.
+  // The server releases a connection when it notices that it was closed.
   WaitFor("no descriptor is left",
           [&] { return CountDescriptors() == descriptors; });
   EXPECT_EQ(CheckUSBAudio(10), 2);

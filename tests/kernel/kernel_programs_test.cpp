@@ -21,7 +21,7 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
-// Nothing of a test stays on the bus.
+// No device of a test stays on the bus.
 class KernelPrograms : public testing::Test {
  protected:
   void SetUp() override {
@@ -33,7 +33,7 @@ class KernelPrograms : public testing::Test {
     WaitFor("the bus is empty", [] { return DevicesOnTheBus().empty(); });
   }
 
-  // What a shell script prints on both streams; $Z and $V are the programs.
+  // The output of a shell script on both streams; $Z and $V are the programs.
   static std::string Shell(const std::string &script) {
     const std::string whole =
         "exec 2>&1; Z='" ZTK "'; V='" VIRTUAL_MIXER "'; export Z V; " + script;
@@ -46,7 +46,7 @@ class KernelPrograms : public testing::Test {
     output += "status " + std::to_string(pclose(pipe) >> 8);
     return output;
   }
-  // A script among mixers that are attached to the kernel.
+  // Runs a script while mixers are attached to the kernel.
   static std::string Attached(const std::string &options,
                               const std::string &script) {
     return Shell("$V serve --attach " + options + " -- sh -c '" + script + "'");
@@ -162,7 +162,7 @@ TEST_F(KernelPrograms, SaysThatOnlyRootMayAttach) {
   EXPECT_THAT(output, EndsWith("status 1"));
 }
 
-// The commands that README tells, without "sudo".
+// The commands of README, without "sudo".
 TEST_F(KernelPrograms, TheStandardToolAttachesAndDetaches) {
   if (!Has("usbip")) GTEST_SKIP() << "usbip is not installed";
   const std::string output = Shell(

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Virtual mixers on the bus of the kernel that this process runs on: served
-// over USB/IP by the process itself, and attached to vhci-hcd. For the guest
-// that guest-run boots; needs root.
+// Virtual mixers on the bus of the running kernel: this process serves them
+// over USB/IP and attaches them to vhci-hcd. For the guest that guest-run
+// boots; needs root.
 #ifndef ZTK_TESTS_KERNEL_KERNEL_WORLD_H_
 #define ZTK_TESTS_KERNEL_KERNEL_WORLD_H_
 
@@ -15,10 +15,12 @@
 
 namespace ztk::test {
 
-// Waits, with patience; reports a failure when it does not come true.
+// Waits for the condition; reports a failure when it does not become true in
+// time.
 bool WaitFor(const std::string &what, const std::function<bool()> &condition);
 
-// What the kernel's bus holds besides root hubs: names in sysfs, as "1-2".
+// The devices on the bus of the kernel, without root hubs: names in sysfs, such
+// as "1-2".
 std::vector<std::string> DevicesOnTheBus();
 // The whole of an attribute, without its line end; empty when there is none.
 std::string Attribute(const std::string &device, const std::string &name);
@@ -27,11 +29,11 @@ void SetAttribute(const std::string &device, const std::string &name,
 // "/dev/bus/usb/001/002"
 std::string NodeOf(const std::string &device);
 
-// Plugging and unplugging last until the kernel has seen it.
+// Plug and Unplug return when the kernel has noticed the change.
 class KernelWorld : public virtual_mixer::MixerWorld {
  public:
-  // `log` gets the vendor requests: those that a kernel makes on its own are
-  // left out.
+  // `log` receives the vendor requests; requests that the kernel itself makes
+  // are left out.
   KernelWorld(const std::vector<virtual_mixer::Placement> &placements,
               const virtual_mixer::LogSink &log);
   ~KernelWorld() override;

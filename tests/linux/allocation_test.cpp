@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // Each allocation of a call fails once, one after the other. No std::bad_alloc
-// may leave the library, and a setter returns what it returns otherwise. It
-// runs in the sandbox, with the core and the port linked in: the allocations of
-// the shared library cannot be replaced.
+// may leave the library, and a setter returns its normal result. It runs in the
+// sandbox, with the core and the port linked in: the allocations of the shared
+// library cannot be replaced.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -31,7 +31,7 @@ struct Call {
   const char *name;
   ZTKResult (*call)();
   ZTKResult expected;
-  ZTKResult expectedToo;  // what a missing text or file makes of it
+  ZTKResult expectedToo;  // the result when a text or file is missing
 };
 
 const Call kCalls[] = {
@@ -66,7 +66,7 @@ const Call kCalls[] = {
      },
      100, 100}};
 
-// Fails each allocation of a call; how many there are. -1 for a wrong result.
+// Fails each allocation of a call. Returns their number; -1 for a wrong result.
 long FailEach(const Call &call) {
   for (long which = 1;; ++which) {
     counted = 0;
@@ -99,7 +99,8 @@ void operator delete(void *memory, std::size_t) noexcept { std::free(memory); }
 int main() {
   int failures = 0;
   for (const Call &call : kCalls) {
-    // What is loaded or made once is there before the first count.
+    // Everything that is loaded or made only once exists before the first
+    // count.
     call.call();
     const long allocations = FailEach(call);
     if (allocations < 0) ++failures;

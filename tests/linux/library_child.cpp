@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Another process of the tests: a plain client of the library, told by its
-// arguments what to do. It prints one line for each thing that happens.
+// Another process of the tests: a simple client of the library. Its arguments
+// say what it does, and it prints one line for each event.
 #include <dlfcn.h>
 #include <glib.h>
 #include <malloc.h>
@@ -55,7 +55,7 @@ void Run() {
   g_main_loop_unref(loop);
 }
 
-// Each word registers or unregisters something, in the order given.
+// Each word registers or unregisters a callback, in the given order.
 int Listen(int count, char **words) {
   for (int i = 0; i < count; ++i) {
     const std::string word = words[i];
@@ -114,8 +114,8 @@ int CountThreads() {
   return 0;
 }
 
-// Many setter calls; what grew while they ran. 100 bytes for each call would
-// be seen.
+// Calls setters many times and prints the growth of memory. A growth of 100
+// bytes for each call would be detected.
 int CountGrowth(uint32_t calls) {
   for (uint32_t i = 0; i < 100; ++i) ZTK_SetUSBInputAudio(10, i % 5, i % 7);
   const int descriptors = CountEntries("/proc/self/fd");
@@ -143,7 +143,7 @@ int Unload(const char *library) {
   return 0;
 }
 
-// Posts and registers by turns: each Register drops the record of the post
+// Posts and registers alternately: each Register drops the record of the post
 // before it.
 int DropRecords(uint32_t times) {
   for (uint32_t i = 0; i < times; ++i) {

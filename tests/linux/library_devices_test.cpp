@@ -30,7 +30,7 @@ TEST_F(LibraryDevices, TwelveMixersAreServedInTheOrderOfTheirPorts) {
   EXPECT_EQ(TakeLog(), expected);
 }
 
-// The descriptors of this process that stand for nodes of USB devices.
+// The file descriptors of this process for nodes of USB devices.
 std::vector<int> OpenNodes() {
   std::vector<int> nodes;
   for (const auto &entry : fs::directory_iterator("/proc/self/fd")) {
@@ -78,8 +78,8 @@ TEST_F(LibraryDevices, AnotherDeviceBehindTheNodeIsNotTakenForTheMixer) {
   EXPECT_THAT(OpenNodes(), IsEmpty());
 }
 
-// One request for each mixer and no second try: three silent mixers hold up a
-// setter of this family for six time-outs.
+// One request for each mixer and no second try: three silent mixers delay a
+// setter of this family by six time-outs.
 TEST_F(LibraryDevices, SilentMixersAreAskedOnceForEachStep) {
   PlugMixers(3);
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 7), 100u);

@@ -40,7 +40,7 @@ std::string System(const std::string &version) {
   return Dictionary({{"ProductVersion", version}});
 }
 
-// Everything that an installer leaves, each piece with a version of its own.
+// All files that an installer creates, each with a different version.
 Planted Installed(const std::string &systemVersion) {
   return {
       {kSystem, System(systemVersion)},
@@ -60,8 +60,8 @@ Planted Installed(const std::string &systemVersion) {
 
 class LibraryFiles : public LibraryWorld {
  protected:
-  // What the child prints with these files; the test is skipped where they
-  // cannot be planted.
+  // The output of the child with these files; skips the test when they cannot
+  // be planted.
   void Run(const Planted &files, const std::vector<std::string> &arguments) {
     output_ = RunChildInPlantedRoot(files, arguments);
     if (output_.starts_with("skip: ")) GTEST_SKIP() << output_;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The record of the last call, from the shipped library on virtual mixers: what
-// the system answers to each fault.
+// The record of the last call, from the shipped library on virtual mixers: the
+// error of the system for each fault.
 #include <cerrno>
 #include <thread>
 

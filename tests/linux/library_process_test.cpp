@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library across processes, and what it costs its own.
+// The shipped library in several processes, and what it costs its own process.
 #include "ZTKFunc.h"
 #include "support/library_world.h"
 #include "support/preload.h"
@@ -116,7 +116,7 @@ TEST_F(LibraryProcess, WithoutABusEverythingElseWorks) {
             SettingsText({{"Output0", 2}}));
 }
 
-// Has the library under this name found as something else.
+// Makes a child find another file under the name of this library.
 class StandIn {
  public:
   StandIn(const TempHome &home, const std::string &soname,
@@ -129,7 +129,7 @@ class StandIn {
   StandIn(const StandIn &) = delete;
   StandIn &operator=(const StandIn &) = delete;
 
-  // What has a child find it.
+  // The environment variable with which a child finds it.
   std::function<std::string()> Preparation() const {
     return [this] {
       setenv("LD_LIBRARY_PATH", folder_.c_str(), 1);
@@ -141,15 +141,14 @@ class StandIn {
   std::filesystem::path folder_;
 };
 
-// What stands in place of a library that may be missing, or not be what it is
-// taken for.
+// What replaces a library: nothing, or a file that is not this library.
 const struct {
   const char *name;
   const char *file;
 } kStandIns[] = {{"no library at all", "/dev/null"},
                  {"a library without its functions", ZTK_LIBRARY_FILE}};
 
-// What a client says that links nothing but the library.
+// The output of a client that links only the library.
 std::vector<std::string> SayOfPlainChild(
     const std::vector<std::string> &words,
     const std::function<std::string()> &prepare = nullptr) {
@@ -224,8 +223,8 @@ TEST_F(LibraryProcess, UnloadedAndThenNotifiedItDoesNotCrash) {
   EXPECT_EQ(client.Finish(), 0);
 }
 
-// Register drops the record of the last post by design. Under the leak
-// sanitizer these, and nothing else, are left when a process ends.
+// Register drops the record of the last post by design. The leak sanitizer
+// finds these, and nothing else, when a process ends.
 TEST_F(LibraryProcess, LeavesExactlyTheRecordsThatRegisterDrops) {
 #if !defined(ZTK_TEST_ASAN)
   GTEST_SKIP() << "built without the leak sanitizer";

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library on virtual mixers: what reaches the mixer, the settings
-// file and the caller.
+// The shipped library on virtual mixers: what the mixer, the settings file and
+// the caller receive.
 #include "ZTKFunc.h"
 #include "support/library_world.h"
 #include "usb/USB.h"

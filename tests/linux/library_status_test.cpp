@@ -98,7 +98,7 @@ TEST_F(LibraryStatus, ARefusedReadLooksLikeNoAnswer) {
   value = 77;
   EXPECT_EQ(ZTK_GetFirmwareVersionIndex(10, &value), 100u);
   EXPECT_EQ(value, 0u);
-  // Setters do not look at it.
+  // Setters do not check it.
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Absence is proven by a later notification that does arrive: the bus keeps
-// the order of what it carries.
+// Absence is proven by a later notification that does arrive: the bus keeps the
+// order of its messages.
 #include "platform/notification_center.h"
 
 #include <glib.h>
@@ -37,7 +37,7 @@ constexpr char kMember[] = "Notification";
 class AddObserver : public ztk::test::OnPrivateBus {};
 class Post : public ztk::test::OnPrivateBus {};
 
-// Sends a signal with nothing of the library's.
+// Sends a signal without using the library.
 void EmitForeign(const std::function<int(sd_bus *)> &emit) {
   sd_bus *bus = nullptr;
   ASSERT_GE(sd_bus_open_user(&bus), 0);
@@ -208,8 +208,8 @@ TEST_F(AddObserver, DeliversOncePerRegistration) {
 }
 
 TEST_F(AddObserver, KeepsToItsName) {
-  // The last three cannot be written into the bus's rule; the first of them
-  // would widen it.
+  // The last three cannot be written into the match rule; the first of them
+  // would make it match more.
   const std::string names[] = {"",        "VRM-K2 MidiChannel Change",
                                "a, b",    "a',arg0='b",
                                "it's so", "back\\slash"};
@@ -224,7 +224,7 @@ TEST_F(AddObserver, KeepsToItsName) {
     PostIndex(name.c_str(), 3);
     EXPECT_TRUE(RunUntilReceived(probe, 1));
     EXPECT_THAT(probe.indexes(), ElementsAre(3));
-    // The observer's end is that of its context.
+    // The observer ends together with its context.
     TearDown();
     context_ = g_main_context_new();
     g_main_context_push_thread_default(context_);
@@ -366,7 +366,7 @@ TEST_F(AddObserver, LeavesARunningContextToItsThread) {
   Probe probe;
   probe.then = [loop](const center::UserInfo *) { g_main_loop_quit(loop); };
   probe.Observe(kName);
-  // Runs after what AddObserver left to the loop.
+  // Runs after the work that AddObserver left to the loop.
   std::promise<void> registered;
   g_main_context_invoke(nullptr, Fulfil, &registered);
   registered.get_future().wait();

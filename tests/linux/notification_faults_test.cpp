@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The notification center where the bus is missing, mute or dying, and what it
-// costs the process. The hang guard of the fixture is what fails when a call
-// does not come back.
+// The notification center without a bus, with a bus that does not answer, and
+// with one that ends. When a call does not return, the alarm of the fixture
+// ends the test.
 #include <glib.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -32,8 +32,8 @@ using ztk::test::Probe;
 using ztk::test::Threads;
 using ztk::test::TurnsOfAnIdleLoop;
 
-// A loop that rests wakes up for its timer only; one that spins, some ten
-// thousand times.
+// A waiting loop wakes up for its timer only; a spinning one, some ten thousand
+// times.
 constexpr int kFewTurns = 50;
 
 // The bus of the fixture is stopped: the address leads nowhere at first.
@@ -60,7 +60,7 @@ class WithoutBus : public ztk::test::OnPrivateBus {
 class OnDyingBus : public ztk::test::OnPrivateBus {};
 class OnBus : public ztk::test::OnPrivateBus {};
 
-// Measured for the reader, not judged.
+// Printed only; the test does not depend on it.
 void Report(const char *what, const std::function<void()> &function) {
   const auto start = std::chrono::steady_clock::now();
   function();
@@ -121,7 +121,7 @@ TEST_F(WithoutBus, ComesBackFromOneThatTakesConnectionsAndSaysNothing) {
   const std::clock_t worked = std::clock();
   Report("post", [] { PostIndex(kName, 1); });
   Report("observe", [&probe] { probe.Observe(kName); });
-  // Processor time, not time: it sleeps while it waits.
+  // Measures processor time: a call that waits must sleep.
   EXPECT_LT(std::clock() - worked, CLOCKS_PER_SEC / 2);
   EXPECT_EQ(OpenDescriptors(), descriptors);
   close(listener);
@@ -161,7 +161,7 @@ TEST_F(OnDyingBus, DeliversWhatTheBusSentBefore) {
   probe.Observe(kName);
   PostIndex(kName, 1);
   PostIndex(kName, 2);
-  // The bus answers this after it has passed on the two.
+  // The bus answers this after it has delivered the two others.
   probe.Observe("Other");
   bus_.Stop();
   EXPECT_TRUE(RunUntilReceived(probe, 2));

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What the tests of the notification center share: a private bus with a main
-// context of the test's own, an observer that remembers, and counters of what
-// the process holds.
+// Shared by the tests of the notification center: a private bus and main
+// context, an observer that stores what it receives, and counters of the
+// resources of the process.
 #ifndef ZTK_TESTS_LINUX_NOTIFICATION_PROBE_H_
 #define ZTK_TESTS_LINUX_NOTIFICATION_PROBE_H_
 
@@ -29,7 +29,7 @@ namespace center = ztk::platform::notification_center;
 
 inline constexpr char kName[] = "VRM-D6 InputAudio Change";
 
-// An observer that remembers the numbers under "Index".
+// An observer that stores the numbers under "Index".
 class Probe {
  public:
   void Observe(const char *name) {
@@ -37,7 +37,7 @@ class Probe {
   }
   const std::vector<std::int32_t> &indexes() const { return indexes_; }
   std::thread::id thread() const { return thread_; }
-  // Called with every record, after it was remembered.
+  // Called with every record, after it was stored.
   std::function<void(const center::UserInfo *)> then;
 
  private:
@@ -62,7 +62,7 @@ inline void PostIndex(const char *name, std::int32_t index) {
   center::Release(userInfo);
 }
 
-// A flag that is raised on the loop of the context after the time.
+// A flag that the loop of the context sets after the time.
 class Timer {
  public:
   Timer(GMainContext *context, unsigned milliseconds)
@@ -87,8 +87,8 @@ class Timer {
   bool raised_ = false;
 };
 
-// Runs the context until the condition holds; false when that takes so long
-// that it never will.
+// Runs the context until the condition is true; false when that takes far too
+// long.
 inline bool RunUntil(GMainContext *context,
                      const std::function<bool()> &condition) {
   const Timer limit(context, 10'000);

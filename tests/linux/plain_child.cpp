@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// A client that links nothing but the library. It does what each of its
-// arguments says, and prints one line about it: the word, its result, and which
-// of the libraries that are loaded when they are needed it has by then.
+// A client that links only the library. For each argument it makes one call and
+// prints a line: the argument, the result, and the libraries that are loaded on
+// first use and are loaded by then.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Files that a reader must survive, and refuse.
+// Malicious files: a reader must refuse them without damage.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -313,7 +313,7 @@ TEST_F(BinaryGuard, RefusesBrokenObjects) {
 }
 
 // A dictionary over a chain of `depth` arrays, each holding the next `width`
-// times, and at the end a leaf.
+// times, and a leaf at the end.
 std::string Chain(std::uint16_t depth, std::size_t width,
                   const std::string &leaf) {
   Binary file{.objects = {ContainerObject(0xD0, {1, 2}), AsciiObject("a")}};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Good files: what is read from them and what is written.
+// Valid files: what is read from them and what is written.
 #include "platform/property_list.h"
 
 #include <gmock/gmock.h>
@@ -37,7 +37,7 @@ using Dictionary =
 class File : public testing::Test {
  protected:
   Dictionary Read() { return {plist::ReadFile(path_.c_str()), plist::Release}; }
-  // The value under "a" of a file of this content.
+  // The value of "a" in a file with this content.
   std::string IntegerOf(const std::string &content) {
     Put(path_, content);
     const Dictionary dictionary = Read();
@@ -54,7 +54,7 @@ class File : public testing::Test {
     const ZTKTextRef text = plist::TextValue(dictionary.get(), "a");
     return text == nullptr ? "none" : text;
   }
-  // Sets "new" to 1 in a file of this content, and gives the new content.
+  // Sets "new" to 1 in a file with this content, and returns the new content.
   std::string Rewritten(const std::string &content) {
     Put(path_, content);
     const Dictionary dictionary(plist::MakeDictionary(), plist::Release);
@@ -217,7 +217,7 @@ TEST_F(ReadFile, TakesOrdinaryVariationsOfXml) {
   }
 }
 
-// What differs is stricter or more tolerant than Foundation on purpose.
+// Differences from Foundation are deliberate: stricter or more tolerant.
 TEST_F(ReadFile, TakesTheFormsThatFoundationTakes) {
   for (const ztk::test::FormRow &row : ztk::test::FormRows()) {
     SCOPED_TRACE(row.name);

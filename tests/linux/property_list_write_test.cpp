@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How a file is replaced, and what stands when it cannot be.
+// How a file is replaced, and what the folder contains when that fails.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -204,8 +204,9 @@ TEST_F(WriteAtomically, LeavesASignalThatWasAlreadyPending) {
 const char *theWatchedFolder = nullptr;
 volatile sig_atomic_t theInterrupts = 0;
 
-// Asked for, an end comes at once: nothing unfinished may lie about then. Only
-// what may be called from a signal handler is called.
+// A signal that asks the process to end takes effect at once: no unfinished
+// file may exist then. Only functions that a signal handler may call are
+// called.
 void LookAround(int signal) {
   if (signal == SIGALRM) {
     raise(SIGINT);
@@ -274,7 +275,7 @@ TEST_F(WriteAtomically, FailsCleanlyOnAFullFileSystem) {
   EXPECT_EQ(code, 0);
 }
 
-// Tests what an ordinary user may not; root becomes one in a child.
+// Tests missing rights of an ordinary user; root becomes one in a child.
 constexpr char kNeedsRoot[] = "needs root, to own the file";
 class OfAnotherUser : public WriteAtomically {
  protected:
@@ -316,7 +317,7 @@ TEST_F(OfAnotherUser, AFileThatMayNotEvenBeMovedStays) {
   if (!asRoot_) GTEST_SKIP() << kNeedsRoot;
   Put(path_, old_);
   ASSERT_EQ(chmod(path_.c_str(), 0600), 0);
-  // In a folder for everyone each file is its owner's alone.
+  // In a folder for everyone only the owner may replace a file.
   ASSERT_EQ(chown(folder_.path().c_str(), 0, 0), 0);
   ASSERT_EQ(chmod(folder_.path().c_str(), 01777), 0);
   EXPECT_EQ(ReadAndWritten(), 0);

@@ -43,7 +43,7 @@ using ztk::test::Xml;
 constexpr uid_t kUser = 1234;
 constexpr gid_t kGroup = 4321;
 
-// Sets "new" to 1 in the file as the core does it. 0, or the error number.
+// Sets "new" to 1 in the file as the core does. Returns 0 or the error number.
 int Set(const std::string &path) {
   plist::Change *change = plist::BeginChange(path.c_str());
   plist::Dictionary *dictionary = plist::MakeDictionary();

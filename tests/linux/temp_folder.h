@@ -45,7 +45,7 @@ class TempFolder {
   std::filesystem::path path_;
 };
 
-// Sets or removes a variable of the environment while it lives.
+// Sets or removes an environment variable while it exists.
 class Variable {
  public:
   Variable(const char *name, const std::optional<std::string> &value)
@@ -99,8 +99,8 @@ inline unsigned ModeOf(const std::string &file) {
   return stat(file.c_str(), &status) == 0 ? status.st_mode & 0777U : 0U;
 }
 
-// Runs the function in a child, which may change its user or its limits, and
-// gives the exit code; below 0 is the signal that ended it.
+// Runs the function in a child, which may change its user or its limits.
+// Returns the exit status; a number below 0 is the signal that ended it.
 inline int ExitCodeOf(const std::function<int()> &function) {
   const pid_t child = fork();
   if (child == 0) _exit(function());

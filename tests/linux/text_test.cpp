@@ -55,7 +55,7 @@ TEST(Format, OfATextThatIsMissingIsNone) {
   EXPECT_EQ(Take(Format("%@", nullptr)), "(null)");
 }
 
-// They may be called from any thread, so each answer is memory of its own.
+// They may be called from any thread, so each result has memory of its own.
 TEST(MadeTexts, DoNotOverwriteOneAnother) {
   const Made upper(UpperCase("one"));
   const Made upperToo(UpperCase("two"));

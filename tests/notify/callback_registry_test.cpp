@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Registering and unregistering: who is served, and what is written where.
+// Registering and unregistering: which products are served, and which slots are
+// written.
 #include "notify/callback_registry.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace {
 void OnChannelToo(std::int32_t, std::int32_t, void *) {}
 void OnIndexToo(std::int32_t, void *) {}
 
-// One family, its two shapes of callback made alike.
+// One family. Both types of callback are converted to one.
 struct Family {
   const char *name;
   std::uint32_t productId;

@@ -17,7 +17,7 @@ constexpr char kOutputAudio[] = "VRM-D6 OutputAudio Change";
 constexpr char kBoostLevel[] = "VRM-D6 BoostLevel Change";
 constexpr char kMidiChannel[] = "VRM-K2 MidiChannel Change";
 
-// Where the callbacks below leave a note; a context points to it.
+// Written by the callbacks below; a context points to it.
 struct Diary {
   std::vector<std::string> calls;
 };
@@ -118,8 +118,8 @@ TEST_F(Observer, UsesTheSlotOfTheProductThatIsNamed) {
   EXPECT_THAT(TakeNotes(), IsEmpty());
 }
 
-// Every slot is filled, so that a look past a table's end finds something, or
-// is seen by the address sanitizer.
+// Every slot is filled, so that an access beyond the end of a table is detected
+// by its value or by the address sanitizer.
 TEST_F(Observer, IgnoresProductsThatHaveNoSlot) {
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   ZTK_RegisterOutputAudioChangedCallback(10, NoteChannel, &diary_);

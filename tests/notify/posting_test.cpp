@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the setters announce, and the life of the record that travels along.
+// What the setters announce, and the lifetime of the record of the
+// announcement.
 #include "notify/posting.h"
 
 #include <functional>
@@ -18,7 +19,7 @@ struct Poster {
   UserInfo **lastInfo;
   std::function<ZTKResult()> set;
   const char *post;    // as a step
-  const char *record;  // as it is made and given back
+  const char *record;  // as it is made and released
   std::function<ZTKResult()> registerAgain;
 };
 
@@ -193,7 +194,7 @@ TEST_F(Post, PassesNumbersPastTheSignedRangeOnAsTheirLowBits) {
                           "Channel=-2147483648, Index=-7} immediately"));
 }
 
-// A record that is dropped like this is never given back: that is meant.
+// Deliberate: a record that is dropped in this way is never released.
 class RegisterOverARecord : public Post {};
 
 TEST_F(RegisterOverARecord, DropsItWithoutGivingItBack) {

@@ -112,7 +112,7 @@ TEST_F(Outcome, TellsWhyAMixerCouldNotBeOpened) {
   }
 }
 
-// Counted, and not there any more when it was to be opened.
+// The mixer was counted, and was unplugged before it was opened.
 TEST_F(Outcome, CallsAMixerGoneThatTheSearchDoesNotReach) {
   TheWorld().bus = {Mixer(), Mixer()};
   TheWorld().bus[0].hasInterface = false;
@@ -182,7 +182,7 @@ TEST_F(Outcome, ForgetsTheMixersOfTheCallBefore) {
   EXPECT_EQ(outcome.mixersListed, 1u);
 }
 
-// Each rejects its arguments, and none of them keeps the record before it.
+// Each call rejects its arguments and clears the record of the call before it.
 TEST_F(Outcome, IsEmptyAfterARejectedCall) {
   std::uint32_t number = 0;
   ZTKTextRef text = nullptr;
@@ -232,7 +232,7 @@ TEST_F(Outcome, TellsWhetherAFileWasRead) {
   TheWorld().files[kPkgFile] = {{"PackageVersion", "1.2"}};
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 100u);
   EXPECT_EQ(Last().read.result, 1u);
-  // It can be read, but lacks what was asked for.
+  // It can be read, but has no such key.
   TheWorld().files[kPkgFile] = {};
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 102u);
   EXPECT_EQ(Last().read.result, 1u);

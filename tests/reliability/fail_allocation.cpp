@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Preloaded: lets one allocation of the process fail, the one whose number is
-// in ZTK_FAIL_ALLOCATION. At the end of the process the number of allocations
-// is written to the file that ZTK_COUNT_ALLOCATIONS names.
+// Preloaded: makes one allocation of the process fail; ZTK_FAIL_ALLOCATION has
+// its number. At the end of the process the number of allocations is written to
+// the file that ZTK_COUNT_ALLOCATIONS names.
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
@@ -20,7 +20,7 @@ long allocations = 0;
 long failing = -1;
 
 bool Fails() {
-  // The first allocation happens before the environment may be asked.
+  // The first allocation happens before the environment can be read.
   if (failing < 0) {
     const char *number = std::getenv("ZTK_FAIL_ALLOCATION");
     failing = number == nullptr ? 0 : std::atol(number);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A client that links nothing but the library and changes one setting.
+// A client that links only the library and changes one setting.
 //
 //   setting_child set SETTING INDEX    one change; exits with 0
 //   setting_child loop SETTING ROUNDS  changes it again and again; prints how
@@ -45,8 +45,8 @@ struct Setting {
   std::int32_t channel;
 };
 
-// The value is looked at just before the next change, so that a change by
-// another process in the meantime has had its chance to undo it.
+// The value is read just before the next change, so that other processes have
+// time to change it in between.
 int Loop(const Setting &setting, std::uint32_t rounds) {
   std::uint32_t lost = 0;
   for (std::uint32_t round = 0; round < rounds; ++round) {

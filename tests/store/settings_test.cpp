@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The settings file as the setters and getters of all families use it: which
-// file, which key, and what counts when there is nothing.
+// file, which key, and which value without a file or key.
 #include <functional>
 
 #include "support/core_test.h"

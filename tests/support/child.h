@@ -15,8 +15,8 @@ namespace ztk::test {
 class ChildProcess {
  public:
   // The first word is the program's path. `prepare`, if any, runs in the new
-  // process before the program does; what it answers is printed and ends the
-  // process, unless it is empty.
+  // process before the program does; when it returns a text, the text is
+  // printed and the process ends.
   explicit ChildProcess(const std::vector<std::string> &words,
                         const std::function<std::string()> &prepare = nullptr);
   ~ChildProcess();
@@ -25,8 +25,8 @@ class ChildProcess {
 
   // The next line without its end; empty when the child has closed.
   std::string ReadLine();
-  // Lets it end (its standard input closes) and answers its exit status, or
-  // 128 and the signal's number.
+  // Closes its standard input, which ends it, and returns its exit status, or
+  // 128 plus the number of the signal.
   int Finish();
 
  private:

@@ -18,7 +18,7 @@
 
 namespace ztk::fake {
 
-// How a failed comparison shows what is held.
+// Prints the held objects when a comparison fails.
 inline void PrintTo(const Held &held, std::ostream *out) {
   *out << "{ports " << held.ports << ", matchings " << held.matchings
        << ", numbers " << held.numbers << ", iterators " << held.iterators
@@ -70,8 +70,8 @@ class CoreTest : public testing::Test {
     }
     inputAudioInfo = outputAudioInfo = boostLevelInfo = nullptr;
     midiChannelInfo = midiKeyModeInfo = nullptr;
-    // The core never frees its observer; a test process makes many, and keeps
-    // them past the leak sanitizer's look.
+    // The core never frees its observer. A test process makes many, and keeps
+    // pointers to them, so that the leak sanitizer does not report them.
     static auto &observers = *new std::vector<void *>;
     observers.push_back(_ZTKFunc);
     _ZTKFunc = nullptr;
@@ -79,7 +79,7 @@ class CoreTest : public testing::Test {
 
   ~CoreTest() override { EXPECT_THAT(TheWorld().misuse, IsEmpty()); }
 
-  // What the core did since the last call, in the terms of its rules.
+  // The steps of the core since the last call.
   static std::vector<std::string> TakeSteps() {
     return std::exchange(TheWorld().steps, {});
   }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Everything in the library that asks a mixer or tells it something, with the
-// requests that one mixer gets for it, in the one text form. The same list
-// holds on the recording port, in the sandbox and on a real kernel.
+// All functions of the library that send requests, with the requests that one
+// mixer receives, as text. The same list is used on the recording port, in the
+// sandbox and on a real kernel.
 #ifndef ZTK_TESTS_SUPPORT_EVERY_REQUEST_H_
 #define ZTK_TESTS_SUPPORT_EVERY_REQUEST_H_
 
@@ -23,7 +23,7 @@ struct EveryRequestRow {
   std::vector<std::string> lines;
 };
 
-// Of a function that takes a connection.
+// A call of a function that takes a connection.
 inline std::function<void()> OnTheMixer(
     const std::function<void(usb::Connection)> &request) {
   return [request] {
@@ -141,7 +141,7 @@ inline std::vector<EveryRequestRow> QueryRows() {
 }
 
 // Makes every call, in order, in a world with one mixer and no settings file.
-// `takeLines` gives the request lines since it was last asked.
+// `takeLines` returns the request lines since its last call.
 inline void ExpectEveryRequest(
     const std::function<std::vector<std::string>()> &takeLines) {
   for (const auto &rows : {RequestFunctionRows(), SetterRows(), QueryRows()}) {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The fixture of the tests that run the shipped library, unchanged, on virtual
-// mixers, with a message bus and a home of their own. The program that the
-// tests are linked into says where the mixers are: in the sandbox, or on the
-// bus of a real kernel.
+// mixers, with a message bus and a home of their own. The test program decides
+// where the mixers are: in the sandbox, or on the bus of a real kernel.
 #ifndef ZTK_TESTS_SUPPORT_LIBRARY_WORLD_H_
 #define ZTK_TESTS_SUPPORT_LIBRARY_WORLD_H_
 
@@ -32,10 +31,10 @@ using virtual_mixer::Placement;
 using virtual_mixer::LogSink;
 using virtual_mixer::MixerWorld;
 
-// Defined beside each kind of world. `log` gets the vendor requests.
+// Defined for each kind of world. `log` receives the vendor requests.
 std::unique_ptr<MixerWorld> MakeWorld(const std::vector<Placement> &placements,
                                       LogSink log);
-// Why there can be no world here; empty when there can.
+// Why no world can be made here; empty when it can.
 std::string WorldRefusal();
 
 class LibraryWorld : public testing::Test {
@@ -59,16 +58,16 @@ class LibraryWorld : public testing::Test {
   std::unique_ptr<MixerWorld> world_;
 };
 
-// The text of a settings file that holds these entries and no others, each
-// "<key>...</key>" with its value.
+// The text of a settings file with these entries only, each "<key>...</key>"
+// with its value.
 std::string SettingsText(
     const std::vector<std::pair<std::string, int>> &values);
 
-// Runs the child program with these arguments and gives back what it prints;
-// its exit status must be 0.
+// Runs the child program with these arguments and returns its output; its exit
+// status must be 0.
 std::string RunChild(const std::vector<std::string> &arguments);
-// The same in a root where these files stand besides. "skip: " and the reason
-// where this system does not allow that.
+// The same in a root with these additional files. Returns "skip: " and the
+// reason when this system does not allow that.
 std::string RunChildInPlantedRoot(const Planted &files,
                                   const std::vector<std::string> &arguments);
 

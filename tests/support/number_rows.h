@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What integer an entry of a property list is read as. Both ports are tested
-// with these tables, and so is Apple's CoreFoundation where it is installed:
-// the answers are its answers.
+// The integers that entries of a property list are read as. Both ports are
+// tested with these tables, and Apple's CoreFoundation where it is installed:
+// it defines the expected values.
 #ifndef ZTK_TESTS_SUPPORT_NUMBER_ROWS_H_
 #define ZTK_TESTS_SUPPORT_NUMBER_ROWS_H_
 
@@ -13,7 +13,7 @@ namespace ztk::test {
 struct NumberRow {
   const char *text;
   std::int32_t expected;
-  // GNUstep's Foundation answers something else.
+  // GNUstep's Foundation gives another result.
   bool onAppleOnly = false;
 };
 
@@ -82,12 +82,12 @@ inline constexpr EntryRow kEntryRows[] = {
     {"<integer>000</integer>", 0},
     {"<integer>0x10</integer>", 16},
     {"<integer>-0X1f</integer>", -31},
-    // The low 32 bits of what takes more.
+    // The low 32 bits of a larger number.
     {"<integer>2147483648</integer>", -2147483647 - 1},
     {"<integer>4294967301</integer>", 5},
     {"<integer>-9223372036854775808</integer>", 0},
     {"<integer>18446744073709551615</integer>", -1},
-    // Whatever is no integer, or takes more than 64 bits.
+    // Texts that are not integers, or need more than 64 bits.
     {"<integer>18446744073709551616</integer>", kUnreadable},
     {"<integer>99999999999999999999</integer>", kUnreadable},
     {"<integer>-9223372036854775809</integer>", kUnreadable},

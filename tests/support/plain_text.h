@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Between the library's texts and those of a test, which are UTF-8. The one
-// place of the tests that knows what a text is on each system.
+// Converts texts of the library to UTF-8, which the tests use, and back. Only
+// this header knows the type of a text on each system.
 #ifndef ZTK_TESTS_SUPPORT_PLAIN_TEXT_H_
 #define ZTK_TESTS_SUPPORT_PLAIN_TEXT_H_
 
@@ -38,7 +38,7 @@ std::vector<std::string> Plain(const ZTKTextRef (&texts)[kSize]) {
   return plain;
 }
 
-// A text that stays until the process ends.
+// A text that exists until the process ends.
 inline ZTKTextRef Lasting(const std::string &text) {
 #if defined(__APPLE__)
   return CFStringCreateWithCString(kCFAllocatorDefault, text.c_str(),

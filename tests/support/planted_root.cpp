@@ -31,7 +31,7 @@ bool WriteShort(const char *file, const std::string &text) {
   return written;
 }
 
-// A user without rights gets them in a user namespace of his own.
+// A user without rights gets them in a user namespace.
 bool Unshare() {
   const std::string user = std::to_string(getuid());
   const std::string group = std::to_string(getgid());
@@ -42,7 +42,7 @@ bool Unshare() {
          WriteShort("/proc/self/gid_map", group + " " + group + " 1");
 }
 
-// Shows an entry of the real system at a place of the new root.
+// Shows an entry of the real system in the new root.
 bool Show(const fs::directory_entry &entry, const fs::path &place) {
   std::error_code failed;
   if (entry.is_symlink()) {
@@ -65,8 +65,8 @@ bool LeadsTo(const fs::path &folder, const Planted &files) {
   });
 }
 
-// Shows all of a folder but what is planted there. A folder that something is
-// planted in is made anew, so that nothing of the real one changes.
+// Shows all entries of a folder except those that are planted. A folder that
+// receives planted files is made anew, so that the real one does not change.
 std::string ShowFolder(const fs::path &folder, const fs::path &root,
                        const Planted &files) {
   for (const auto &entry : fs::directory_iterator(folder)) {
@@ -92,7 +92,7 @@ std::string EnterPlantedRoot(const Planted &files) {
   if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
     return Failure("the root stays shared");
   }
-  // /mnt is there on every system, and what it shows is not needed.
+  // /mnt exists on every system, and its content is not needed.
   const fs::path root = "/mnt";
   if (mount("planted", root.c_str(), "tmpfs", 0, nullptr) != 0) {
     return Failure("no tmpfs");

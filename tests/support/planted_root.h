@@ -7,14 +7,14 @@
 
 namespace ztk::test {
 
-// Files by absolute path, with what they hold.
+// Files with their contents, by absolute path.
 using Planted = std::map<std::string, std::string>;
 
-// Puts this process (a forked child that is about to run a program) into a
-// mount namespace whose root shows everything that the real one does, and
-// these files besides, or in the place of real ones. Nothing outside the
-// process sees them. Their paths must lead through no symbolic link. Answers
-// why it cannot be done here, or an empty text.
+// Moves this process (a forked child that is about to run a program) into a
+// mount namespace whose root has everything of the real one, and these files in
+// addition or in place of real ones. No other process sees them. Their paths
+// must not contain a symbolic link. Returns why this is not possible here;
+// empty on success.
 std::string EnterPlantedRoot(const Planted &files);
 
 }  // namespace ztk::test

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Which forms of a property list are read. Each file that is read has the
-// integer 5, as a number or as a text, under the key "a".
+// The forms of a property list that are read. Each valid file has the key "a"
+// with 5, as a number or as a text.
 #ifndef ZTK_TESTS_SUPPORT_PLIST_ROWS_H_
 #define ZTK_TESTS_SUPPORT_PLIST_ROWS_H_
 
@@ -14,7 +14,7 @@ struct FormRow {
   const char *name;
   std::string bytes;
   bool read;
-  // The Linux port answers the opposite.
+  // The Linux port has the opposite result.
   bool differsOnLinux = false;
 };
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr char kSandboxLibrary[] = "libumockdev-preload.so.0";
 
-// The address sanitizer has to come first of all libraries.
+// The address sanitizer has to be the first library.
 #if defined(ZTK_TEST_ASAN) && !defined(__clang__)
 constexpr char kLibraries[] = "libasan.so.8:libumockdev-preload.so.0";
 #else

@@ -13,9 +13,9 @@
 
 namespace ztk::test {
 
-// Runs this program again with the sandbox's library preloaded, unless it runs
-// with it already. To be called first in main(); returns only in the second
-// run, or when the library is not to be had.
+// Runs this program again with the library of the sandbox preloaded, unless it
+// is preloaded already. Must be the first call in main(); returns only in the
+// second run, or when the library is missing.
 void PreloadSandbox(char **arguments);
 
 }  // namespace ztk::test

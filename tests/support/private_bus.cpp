@@ -34,7 +34,7 @@ void WriteConfiguration(const std::string &file, const std::string &address) {
   // A test that crashes leaves no bus behind.
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   dup2(addressPipe, STDOUT_FILENO);
-  // It reports limits that it may not raise, which is no matter here.
+  // It reports limits that it may not raise; they do not matter here.
   const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
   dup2(nowhere, STDERR_FILENO);
   execlp("dbus-daemon", "dbus-daemon", configuration, "--print-address",

@@ -9,9 +9,9 @@
 
 namespace ztk::test {
 
-// A message bus of the test's own. While it lives, the environment names it as
-// the session bus of this process and of its children, started or not; its
-// address stays the same over Stop() and Start().
+// A private message bus. While this object exists, the environment names it as
+// the session bus of this process and its children, even while it is stopped;
+// its address does not change.
 class PrivateBus {
  public:
   PrivateBus();
@@ -19,11 +19,11 @@ class PrivateBus {
   PrivateBus(const PrivateBus &) = delete;
   PrivateBus &operator=(const PrivateBus &) = delete;
 
-  // False when there is no dbus-daemon to run. Answers once the bus listens.
+  // Returns when the bus listens; false when there is no dbus-daemon.
   bool Start();
   // Kills the bus and waits for its end.
   void Stop();
-  // While frozen the bus still takes connections, but answers nothing.
+  // A frozen bus still accepts connections, but does not answer.
   void Freeze();
   void Thaw();
 

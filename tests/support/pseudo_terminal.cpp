@@ -15,7 +15,8 @@ namespace ztk::test {
 
 namespace {
 
-constexpr int kPatience = 60000;  // milliseconds; only a hang takes so long
+constexpr int kPatience =
+    60000;  // milliseconds; only a program that hangs takes so long
 
 }  // namespace
 

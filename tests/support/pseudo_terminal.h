@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A user at a terminal: sees what a program shows and types when it is time.
+// A user at a terminal, who reads the output of a program and types.
 #ifndef ZTK_TESTS_SUPPORT_PSEUDO_TERMINAL_H_
 #define ZTK_TESTS_SUPPORT_PSEUDO_TERMINAL_H_
 
@@ -13,23 +13,23 @@ namespace ztk::test {
 
 class PseudoTerminal {
  public:
-  // Starts a program in a terminal of this width. Its stdout goes to `output`
-  // instead where that is not empty.
+  // Starts a program in a terminal of this width. Its standard output goes to
+  // the file `output` unless that is empty.
   PseudoTerminal(const std::vector<std::string> &words, unsigned short columns,
                  const std::string &output = "");
   ~PseudoTerminal();
   PseudoTerminal(const PseudoTerminal &) = delete;
   PseudoTerminal &operator=(const PseudoTerminal &) = delete;
 
-  // True once the text has been shown, after what was waited for before; false
-  // when the program ends, or a minute passes, without it.
+  // Waits for this text in the output after the text of the last wait; false
+  // when the program ends or a minute has passed.
   bool WaitFor(const std::string &text);
   void Type(const std::string &keys) const;
 
   // Waits until the program has ended; its exit status, or 128 and the signal.
   int End();
 
-  // All that was shown, with lines ending in "\n" alone.
+  // The whole output, with "\n" as line end.
   const std::string &shown() const { return shown_; }
 
  private:

@@ -61,8 +61,8 @@ TEST(AnyThread, MayAskForTheTextsOfChoices) {
   });
 }
 
-// Reads the list of devices of this machine, with or without a mixer; none is
-// opened.
+// Reads the list of devices of this machine, with or without a mixer; opens
+// none.
 TEST(AnyThread, MayAskWhetherAMixerIsAttached) {
   InTwoThreads([] { EXPECT_THAT(ZTK_IsUSBConnection(10), AnyOf(103u, 104u)); });
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What a search leaves in the slot and in the system's hands, above all where
-// that is not what one would expect.
+// What a search leaves in the slot and which objects it does not release,
+// especially where that is surprising.
 #include "support/core_test.h"
 #include "usb/USB.h"
 #include "usb/odd_devices.h"
@@ -29,7 +29,8 @@ class SlotTest : public CoreTest {
 
 class ReferencesTest : public SlotTest {
  protected:
-  // Interfaces still held once the mixer at `index` was opened and closed.
+  // The number of interfaces still held after the mixer at `index` was opened
+  // and closed.
   int LeftAfterClosing(std::uint32_t index) {
     TheWorld().held = Held{};
     Connection slot = nullptr;

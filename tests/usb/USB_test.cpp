@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Counting and choosing. Occupied slots, references and closing have their own
-// file, USB_slot_test.cpp.
+// Counting and choosing. Occupied slots, references and closing are tested in
+// USB_slot_test.cpp.
 #include "usb/USB.h"
 
 #include "support/core_test.h"
@@ -159,7 +159,7 @@ TEST_F(OpenPipesTest, SearchesEveryDeviceAndAsksEachForItsIdentity) {
                   "next service", "create plug-in", "release service",
                   "query device interface", "release plug-in", "get class",
                   "get subclass", "get vendor", "get product", "make ready",
-                  // A device after it: asked all the same, and not released.
+                  // A device after it is also asked, and not released.
                   "next service", "create plug-in", "release service",
                   "query device interface", "release plug-in", "get class",
                   "get subclass", "get vendor", "get product",

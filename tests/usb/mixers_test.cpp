@@ -37,7 +37,8 @@ TEST_F(OpenMixer, IsEmptyForAMixerOutOfReach) {
   EXPECT_THAT(TakeSteps(), ElementsAre("cannot open 1"));
 }
 
-// The search answers an error although the slot is filled: nobody closes it.
+// The search returns an error although the slot is filled, so nothing closes
+// it.
 TEST_F(OpenMixer, IsEmptyAndClosesNothingWhenADeviceAfterTheMixerFails) {
   TheWorld().bus = {Mixer(), MixerFailingAtPlugIn()};
   {
@@ -66,7 +67,8 @@ TEST_F(SendToEveryMixer, OnlyCountsWithoutAMixer) {
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
 }
 
-// Each walk over the bus costs: one for the count, one to open each mixer.
+// Each walk over the bus takes time: there is one for the count, and one to
+// open each mixer.
 TEST_F(SendToEveryMixer, WalksOnceToCountAndOnceForEachMixer) {
   const struct {
     std::vector<fake::Device> bus;
@@ -102,8 +104,8 @@ TEST_F(SendToEveryMixer, GoesOnAfterAMixerThatRefuses) {
                   "close 2"));
 }
 
-// The count sees two mixers, the search only the second one: it stands at
-// position 0, and position 1 is empty.
+// The count finds two mixers, the search only the second one: it is at position
+// 0, and position 1 is empty.
 TEST_F(SendToEveryMixer, PassesOverAMixerThatGivesNoInterface) {
   TheWorld().bus = {WithoutInterface(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8016, 0x0102), 2);

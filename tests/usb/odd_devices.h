@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Devices that are no mixers although they look like one, and mixers that do
-// not behave.
+// Devices that resemble a mixer, and mixers that fail.
 #ifndef ZTK_TESTS_USB_ODD_DEVICES_H_
 #define ZTK_TESTS_USB_ODD_DEVICES_H_
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The requests that go over an open connection.
+// The requests that are sent over an open connection.
 #include <array>
 
 #include "support/core_test.h"
@@ -17,7 +17,7 @@ constexpr Code kStalled = 0xE000404F;
 
 class RequestTest : public CoreTest {
  protected:
-  // The connection to a lone mixer. The log starts after that.
+  // The connection to the only mixer. The log starts after that.
   Connection Open(const fake::Device &mixer) {
     TheWorld().bus = {mixer};
     Connection slot = nullptr;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Runs ztk-virtual-mixer as a user does and keeps what it says.
+// Runs ztk-virtual-mixer as a user does and returns its output.
 #ifndef ZTK_TESTS_VIRTUAL_MIXER_TOOL_H_
 #define ZTK_TESTS_VIRTUAL_MIXER_TOOL_H_
 
@@ -16,7 +16,7 @@ namespace ztk::virtual_mixer {
 using test::SplitLines;
 using ToolResult = test::ProgramResult;
 
-// Each test has a folder of its own, which is TMPDIR for what it runs.
+// Each test has a folder of its own, which is TMPDIR of its programs.
 class ToolTest : public testing::Test {
  protected:
   ToolTest();
@@ -33,7 +33,7 @@ class ToolTest : public testing::Test {
   const std::string &Folder() const { return folder_; }
   // Lines of a file in the folder.
   std::vector<std::string> Lines(const std::string &name) const;
-  // What the sandboxes have left in TMPDIR.
+  // The files that the sandboxes have left in TMPDIR.
   std::vector<std::string> LeftBehind() const;
 
  private:

@@ -81,7 +81,7 @@ TEST_F(Apply, NamesTheModelsThatItLeavesOut) {
   }
   Remember("VRM-D6", {});
   EXPECT_EQ(OneMixer("ztk apply").out, "MIDI channel: 4 CH 4, sent\n");
-  // Who names a model knows what is left out.
+  // A user who names a model knows which settings are left out.
   EXPECT_EQ(OneMixer("ztk apply --product VRM-D6").out,
             "Nothing is remembered for the VRM-D6: nothing to send.\n");
 }
@@ -146,7 +146,7 @@ TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0109 8002 0000"));
 }
 
-// The library would take the number for one of the next channel.
+// The library would use the value of the next channel for this number.
 TEST_F(Apply, NeverSendsAValueOfAnotherChannel) {
   Remember("VRM-D6", {{"Output0", 9}});
   Remember("VRM-B5", {{"Input0", 4}});

@@ -21,8 +21,8 @@ class Autoapply : public CliWorld {
     manager_ = std::make_unique<FakeUserManager>();
   }
 
-  // Runs the script where these files stand, in a mount namespace of its own
-  // whose /usr/local holds nothing else.
+  // Runs the script in a mount namespace with these files, whose /usr/local is
+  // otherwise empty.
   Result WithFiles(const std::vector<std::string> &files,
                    const std::string &script) {
     std::string setUp = "mount -t tmpfs tmpfs /usr/local || exit 98\n";

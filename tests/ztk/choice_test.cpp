@@ -86,7 +86,7 @@ TEST(FindChoice, FindsALevelWithAndWithoutItsSign) {
             {"no sign, with unit", kLevels, "19 db", "4 -19 dB"}});
 }
 
-// Else 4 and 5 would be neighbours that mean -19 dB and -5 dB.
+// Otherwise 4 would mean -19 dB and 5 would mean -5 dB.
 TEST(FindChoice, TakesABareNumberForNothingElse) {
   CheckAll({{"a listed one", kLevels, "3", "3 -15 dB"},
             {"a level", kLevels, "5", "[]"},

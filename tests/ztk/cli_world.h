@@ -34,8 +34,8 @@ class CliWorld : public testing::Test {
   void SetUp() override;
 
   // Runs a shell script in a sandbox with these options of "ztk-virtual-mixer
-  // run". In it $DIR is a folder for files, and ztk and ztk-virtual-mixer are
-  // found. The log of requests starts anew.
+  // run". In the script, $DIR is a folder for files, and ztk and
+  // ztk-virtual-mixer are in the PATH. The log of requests starts anew.
   Result Inside(const std::vector<std::string> &options,
                 const std::string &script);
   // The script is a single command.
@@ -45,22 +45,22 @@ class CliWorld : public testing::Test {
   Result NoMixer(const std::string &script) {
     return Inside({"-n", "0"}, script);
   }
-  // The same where these files stand besides those of the real system; the
-  // status is kCannotPlant where this system does not allow that.
+  // The same with these files in addition to those of the real system; the
+  // status is kCannotPlant when this system does not allow that.
   static constexpr int kCannotPlant = 98;
   Result InPlantedRoot(const Planted &files,
                        const std::vector<std::string> &options,
                        const std::string &script);
 
-  // The requests that the mixers got during the last run.
+  // The requests that the mixers received during the last run.
   std::vector<std::string> Requests() const;
-  // Those of them that change something.
+  // The requests among them that change something.
   std::vector<std::string> Writes() const;
   // A file that a script has left in $DIR.
   std::string File(const std::string &name) const;
   std::vector<std::string> Lines(const std::string &name) const;
 
-  // Puts a settings file of a model there.
+  // Writes the settings file of a model.
   void Remember(const std::string &model,
                 const std::vector<std::pair<std::string, int>> &values);
   bool HasSettings(const std::string &model) const;
@@ -69,11 +69,11 @@ class CliWorld : public testing::Test {
   PrivateBus bus_;
 };
 
-// Empty where there is no such line; counts from 0.
+// The line at this position, counted from 0; empty when there is none.
 std::string Line(const std::string &text, std::size_t position);
 std::string LastLine(const std::string &text);
 
-// The one object on the output; a failed test where it is something else.
+// Parses the output, which must be a single JSON object; else the test fails.
 Json OneObject(const std::string &out);
 
 }  // namespace ztk::test

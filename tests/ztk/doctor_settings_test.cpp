@@ -11,7 +11,8 @@ class DoctorSettings : public DoctorWorld {
   Result Diagnosis(const std::string &before = "") {
     return NoMixer(before + "ztk doctor --json");
   }
-  // The same as a user who owns nothing there; skips where nobody can be that.
+  // The same as a user who owns no file there; skips the test when the process
+  // cannot become one.
   Json AsStranger() {
     const Result result = NoMixer(
         "run='setpriv --reuid 65534 --clear-groups'\n"
@@ -26,7 +27,7 @@ TEST_F(DoctorSettings, AreWellBeforeAndAfterTheFirstSetting) {
   EXPECT_THAT(FoundIn("settings", Diagnosis()), IsEmpty());
   EXPECT_THAT(FoundIn("settings", Diagnosis("ztk boost set 1 2> /dev/null;")),
               IsEmpty());
-  // Nothing stays behind of the attempt to write.
+  // The attempt to write leaves no file behind.
   std::size_t files = 0;
   for (const auto &entry : std::filesystem::directory_iterator(folder_)) {
     files += entry.is_regular_file() ? 1 : 0;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Every cause is made for real: the mixer is forbidden, silent or away, the
-// rule stands or does not, the bus is stopped.
+// Every cause is real: the mixer is forbidden, silent or unplugged, the rule
+// exists or not, the bus is stopped.
 #include <filesystem>
 
 #include "doctor_world.h"
@@ -22,7 +22,7 @@ constexpr char kBundle[] =
 
 class Doctor : public DoctorWorld {
  protected:
-  // Skips the test where the system does not let the files be planted.
+  // Skips the test when the system does not allow planted files.
   void Plant(const Planted &files, const std::vector<std::string> &options,
              const std::string &script) {
     result_ = InPlantedRoot(files, options, script);
@@ -219,8 +219,8 @@ TEST_F(Doctor, FindsAContainerThatTheDeviceWasNotLetInto) {
 }
 
 TEST_F(Doctor, FindsThatAServiceOrContainerMayNotUseTheDevice) {
-  // Nobody may write such a file, whatever rights he has: the same answer as
-  // that of a device controller.
+  // No user may write such a file, whatever their rights are: the same error as
+  // from a device controller.
   Plant({{"/.dockerenv", ""}}, {"-n", "1"},
         "node=$UMOCKDEV_DIR/dev/bus/usb/001/002\n"
         "chattr +i $node || exit 97\n"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What ztk doctor finds, by part, with what it says.
+// The findings of ztk doctor, by part, with their texts.
 #ifndef ZTK_TESTS_ZTK_DOCTOR_WORLD_H_
 #define ZTK_TESTS_ZTK_DOCTOR_WORLD_H_
 
@@ -10,7 +10,7 @@
 
 namespace ztk::test {
 
-// A script ends with it when this system does not let it set the scene.
+// The exit status of a script when this system does not allow its preparations.
 inline constexpr int kCannotSet = 97;
 
 // The script runs as if the mixers were none of the sandbox.
@@ -18,7 +18,7 @@ inline constexpr char kAsOnARealSystem[] = "unset ZTK_VIRTUAL_MIXER_CONTROL;";
 
 class DoctorWorld : public CliWorld {
  protected:
-  // The findings of one part in the answer on the last line.
+  // The findings of one part in the JSON on the last line.
   static std::vector<Json> FoundIn(const std::string &part,
                                    const Result &result) {
     std::vector<Json> found;
@@ -28,7 +28,7 @@ class DoctorWorld : public CliWorld {
     }
     return found;
   }
-  // The only one, or one with nothing but an id that tells how many.
+  // The only finding; else one whose id is the number of findings.
   static Json OnlyOneIn(const std::string &part, const Result &result) {
     const std::vector<Json> found = FoundIn(part, result);
     if (found.size() == 1) return found.front();
@@ -37,7 +37,7 @@ class DoctorWorld : public CliWorld {
   static std::string Word(const Json &finding, const char *name) {
     return finding.value(name, "");
   }
-  // Whether the command that was told helps: nothing is found after it.
+  // Whether the suggested command helps: after it, no problem is found.
   bool Helps(const Json &finding, const std::string &part,
              const std::vector<std::string> &options = {"-n", "0"}) {
     const Result after = Inside(

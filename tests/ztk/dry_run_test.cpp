@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A dry run has to say what the command does, and to do nothing.
+// A dry run has to show what the command does, and to do nothing.
 #include <array>
 #include <cstdio>
 
@@ -11,7 +11,7 @@ namespace {
 
 class DryRun : public CliWorld {
  protected:
-  // The requests that were told, as the mixers would log them.
+  // The requests that the dry run shows, in the form of the log.
   static std::vector<std::string> Told(const Json &json) {
     std::vector<std::string> lines;
     for (const Json &one : json.value("requests", Json::array())) {
@@ -25,7 +25,7 @@ class DryRun : public CliWorld {
     }
     return lines;
   }
-  // What was logged, without the replies.
+  // The logged requests, without the replies.
   std::vector<std::string> Sent() const {
     std::vector<std::string> lines = Requests();
     for (std::string &line : lines) line = line.substr(0, line.find(" ->"));
@@ -71,7 +71,7 @@ TEST_F(DryRun, TellsExactlyWhatIsSentThen) {
     dry += command + " --dry-run --json || exit\n";
     real += command + " > /dev/null 2> $DIR/err || exit\n";
   }
-  // What is applied is what stands there, so the last ones stand apart.
+  // apply sends the remembered values, so these commands come last.
   const Result told = Inside({"-n", "2"}, dry);
   EXPECT_EQ(told.status, 0) << told.err;
   EXPECT_THAT(Requests(), IsEmpty());
@@ -79,7 +79,7 @@ TEST_F(DryRun, TellsExactlyWhatIsSentThen) {
   for (const std::string &line : SplitLines(told.out)) {
     const Json json = OneObject(line);
     EXPECT_EQ(json.value("dryRun", false), true);
-    // The sets before the applies change what those would send.
+    // A set before an apply changes what the apply sends.
     if (json.value("command", "").find("apply") != std::string::npos) continue;
     for (const std::string &one : Told(json)) expected.push_back(one);
   }

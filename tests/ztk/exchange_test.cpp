@@ -11,7 +11,7 @@ namespace {
 class Export : public CliWorld {};
 class Import : public CliWorld {
  protected:
-  // The lines on the error stream for a file that holds this.
+  // The lines on the error stream for a file with this content.
   std::vector<std::string> Errors(const std::string &text) {
     WriteAll(home_.path() / "file", text);
     const Result result = OneMixer("ztk import $DIR/file");
@@ -71,7 +71,7 @@ TEST_F(Export, LeavesOutWhatHasNoWordsAndSaysSo) {
               HasSubstr("Boost level: 9, which is not a choice"));
 }
 
-// Every choice of every setting, out and in again.
+// Every choice of every setting is exported and imported again.
 TEST_F(Import, BringsBackWhatWasExported) {
   std::set<std::string> models;
   for (const model::Setting *setting : model::AllSettings()) {
@@ -116,7 +116,7 @@ TEST_F(Import, SendsRemembersAndAnnouncesLikeASetter) {
             "Boost level: 1 -5 dB, sent to 1 mixer, remembered");
   EXPECT_EQ(Line(result.out, 1),
             "MIDI channel: 3 CH 3, sent to 1 mixer, remembered");
-  // Undone as the one command that it was.
+  // Undone as a single command.
   EXPECT_THAT(Line(result.out, 2), StartsWith("MIDI channel: 3 CH 3 undone"));
   EXPECT_THAT(Line(result.out, 4), StartsWith("Boost level: 1 -5 dB undone"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000",

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Stands on a message bus in place of the systemd of a user's session, and
-// writes down what it is asked to change.
+// Replaces the systemd of a user's session on a message bus, and records the
+// requested changes.
 #ifndef ZTK_TESTS_ZTK_FAKE_USER_MANAGER_H_
 #define ZTK_TESTS_ZTK_FAKE_USER_MANAGER_H_
 
@@ -22,7 +22,7 @@ class FakeUserManager {
   FakeUserManager(const FakeUserManager &) = delete;
   FakeUserManager &operator=(const FakeUserManager &) = delete;
 
-  // Only while nobody asks.
+  // Call this only while no request is pending.
   void KnowUnit(bool known) { known_ = known; }
   void RefuseWith(const std::string &reason) { refusal_ = reason; }
   const std::vector<std::string> &calls() const { return calls_; }

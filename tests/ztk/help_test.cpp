@@ -110,10 +110,10 @@ TEST_F(Help, TellsTheVersion) {
   EXPECT_EQ(OneObject(lines[1])["version"], ZTK_PROGRAM_VERSION);
 }
 
-// Every example is run, so that none of them is a lie. Tested by themselves:
-// watching, as it does not end, and what needs a systemd.
+// Runs every example of the help. Other tests cover watch, which does not end,
+// and the commands that need systemd.
 TEST_F(Help, GivesExamplesThatWork) {
-  // What an import reads.
+  // The file for the import.
   std::string script =
       "cd $DIR; ztk boost set 1 > /dev/null; ztk export > club.json\n"
       "set -x\n";

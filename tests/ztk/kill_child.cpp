@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Starts ztk again and again and kills it at a random moment, beside another
-// one that is let alone; after each, the settings file has to hold the old or
-// the new value. Runs inside a sandbox.
+// Starts ztk many times and kills it at a random moment, while another ztk runs
+// undisturbed. After each round the settings file must contain the old or the
+// new value. Runs inside a sandbox.
 //
 //   kill_child TIMES SETTINGS-FILE
 #include <fcntl.h>
@@ -46,7 +46,7 @@ int End(pid_t child) {
   return status;
 }
 
-// -1 where the file does not parse or does not hold it.
+// -1 when the file is not valid or has no such value.
 int ValueIn(const char *file, const char *key) {
   plist::Dictionary *settings = plist::ReadFile(file);
   std::int32_t value = -1;
@@ -77,7 +77,7 @@ int main(int argc, char **argv) {
   int input = 0;
   for (int i = 0; i < times; ++i) {
     const int wanted = (i + 1) % 4;
-    // The other one, which nobody kills, in every fourth round.
+    // In every fourth round, the other ztk, which is not killed.
     const bool two = i % 4 == 0;
     const int otherWanted = (input + 1) % 7;
     const pid_t other = two ? Start({"ztk", "input", "set", "2",

@@ -40,7 +40,7 @@ std::string SectionOf(const std::string &page, const std::string &path) {
 
 class Manual : public CliWorld {
  protected:
-  // What completing these words offers, without what it means.
+  // The words that completion offers, without their meanings.
   std::vector<std::string> Offered(const std::string &words) {
     std::vector<std::string> offered;
     const Result result = NoMixer("ztk __complete " + words);
@@ -153,7 +153,7 @@ TEST_F(Manual, CompletesEveryCommandAndOption) {
 }
 
 TEST_F(Manual, OffersNothingThatIsRefused) {
-  // Each channel, choice, model and language that is offered is taken.
+  // Each offered channel, choice, model and language is accepted.
   const struct {
     const char *words;
     std::size_t count;

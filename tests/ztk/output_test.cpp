@@ -16,7 +16,7 @@ TEST_F(Output, IsFiveOnAFullDisk) {
 }
 
 TEST_F(Output, IsFiveOnAPipeWithoutAReaderAndNotASignal) {
-  // The reader has gone before the writer starts.
+  // The reader has ended before the writer starts.
   const Result result = OneMixer(
       "mkfifo $DIR/pipe; exec 3<>$DIR/pipe; exec 4>$DIR/pipe; exec 3<&-;"
       "ztk --help >&4; echo $?");

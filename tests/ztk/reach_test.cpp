@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Whether the program tells the truth about who was reached.
+// Whether the program reports correctly which mixers were reached.
 #include "cli_world.h"
 
 namespace ztk::test {
@@ -8,7 +8,7 @@ namespace {
 
 class Reach : public CliWorld {
  protected:
-  // The mixers of an answer: found, answered, and who did not and why.
+  // The mixers in the output: found, answered, and the others with the reason.
   static std::string Told(const Json &json) {
     const Json mixers = json.value("mixers", Json::object());
     std::string told = std::to_string(mixers.value("answered", -1)) + "/" +
@@ -90,7 +90,7 @@ TEST_F(Reach, SendsToEveryMixer) {
                                     "mixer 2: 40 03 0109 8002 0000"));
 }
 
-// The library says 100 to each of these. The outcome is said once.
+// The library returns 100 in each of these cases. The outcome is said once.
 TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
   const struct {
     const char *fault;
@@ -118,7 +118,7 @@ TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
   }
 }
 
-// A question afterwards would be answered: only the value is refused.
+// The mixer would answer a query: it refuses only the value.
 TEST_F(Reach, NamesARefusedValueOfEverySettingThatTheMixerHas) {
   const struct {
     const char *fault;
@@ -149,7 +149,7 @@ TEST_F(Reach, SendsNothingBesideWhatTheLibrarySends) {
   EXPECT_THAT(Requests(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
 }
 
-// The library passes over the mixer behind one that is unplugged.
+// The library misses the mixer after one that is unplugged.
 TEST_F(Reach, TellsWhichMixerWasUnpluggedByTheNumberThatItHad) {
   const Result result = Inside(
       {"-n", "3", "--fault", "1:unplug@w8003", "--fault", "3:stall@w8003"},
@@ -201,7 +201,7 @@ TEST_F(Reach, SaysThatTheAttachedMixerIsOfAnotherModel) {
 }
 
 TEST_F(Reach, IsSevenWhenTheValueCouldNotBeRemembered) {
-  // A file where the folder should be.
+  // A file in place of the folder.
   WriteAll(home_.path() / ".config/tarvix/Preferences", "");
   const Result result = OneMixer("ztk boost set 1 --json");
   EXPECT_EQ(result.status, 7);

@@ -220,7 +220,7 @@ TEST_F(Versions, ShowsWhatIs) {
   EXPECT_THAT(result.out, StartsWith("Package  2.0.1\nDriver   not"));
 }
 
-// Another file than one that is missing: it may hold settings.
+// Unlike a missing file, it may contain settings.
 TEST_F(Status, NamesAFileThatCannotBeRead) {
   std::filesystem::create_directories(home_.SettingsFile("VRM-D6"));
   const Result result = NoMixer(

@@ -15,7 +15,7 @@ class Terminal : public CliWorld {
     for (const char *name : {"NO_COLOR", "CLICOLOR"}) unsetenv(name);
   }
 
-  // What stands before the command of a sandbox.
+  // The words before the command of a sandbox.
   std::vector<std::string> Sandbox(const std::vector<std::string> &options,
                                    const std::string &script) const {
     std::vector<std::string> words{ZTK_VIRTUAL_MIXER, "run", "--log",
@@ -59,7 +59,7 @@ TEST_F(Terminal, IsPlainWhereTheUserWantsIt) {
     EXPECT_THAT(shown, HasSubstr("\n* 4  -19 dB\n"));
     EXPECT_THAT(shown, Not(HasSubstr("\033")));
   }
-  // Set to nothing, it is no wish.
+  // An empty value does not count.
   EXPECT_THAT(Shown("NO_COLOR= ztk boost list", 80), HasSubstr("\033[1m"));
 }
 
@@ -95,7 +95,7 @@ TEST_F(Terminal, ShowsHelpInANarrowWidth) {
   }
   const std::string shown = Shown(script, 40);
   for (const std::string &line : SplitLines(shown)) {
-    // Commands to be copied, and a word that is longer than its column.
+    // Commands that are copied, and a word that is longer than its column.
     if (line.rfind("  ztk", 0) == 0 || line.rfind("  sudo", 0) == 0) continue;
     EXPECT_LE(line.size(), 40U) << line;
   }
@@ -103,7 +103,7 @@ TEST_F(Terminal, ShowsHelpInANarrowWidth) {
                                "fader\"\n"));
 }
 
-// A line end within it would be a part of what is pasted into a shell.
+// A line end within the command would be pasted into a shell with it.
 TEST_F(Terminal, NeverBreaksACommandThatIsToBeTyped) {
   const std::string shown = Shown(
       "ztk-virtual-mixer unplug; ztk-virtual-mixer plug; "
@@ -124,7 +124,7 @@ TEST_F(Terminal, ShowsThatItWaitsForSilentMixers) {
   EXPECT_TRUE(terminal.WaitFor(
       "\r\033[KWaiting for 3 mixers, 1 of at most 3 s; Ctrl-C"));
   EXPECT_EQ(terminal.End(), 3);
-  // It has gone before the answer is shown.
+  // It is removed before the answer is shown.
   EXPECT_THAT(terminal.shown(), HasSubstr("\r\033[KBoost level: 1 -5 dB"));
 }
 
@@ -185,7 +185,7 @@ TEST_F(Terminal, IsNotInterruptedWhereTheSignalIsIgnored) {
   EXPECT_EQ(File("o"), "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n");
 }
 
-// Whatever comes next, as the prompt of a shell, stands on a line of its own.
+// The next output, such as the prompt of a shell, starts on a new line.
 TEST_F(Terminal, EndsWatchingOnCtrlCWithStatus0) {
   PseudoTerminal terminal(
       Sandbox({"-n", "1"}, "trap : INT; ztk watch; echo =$?"), 80);

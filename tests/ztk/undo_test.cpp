@@ -85,7 +85,7 @@ TEST_F(Undo, LeavesAloneWhatAnotherProgramHasChangedSince) {
               HasSubstr("left alone, as another program has changed it since: "
                         "USB input 1 is 6 MIC (for what it was, type: ztk "
                         "input set 1 2)"));
-  // The step before is another one's to judge.
+  // Each undo decides about one step only.
   EXPECT_THAT(Line(result.out, 1), HasSubstr("Boost level: 2 -10 dB undone"));
   EXPECT_EQ(Line(result.out, 2), "0");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
@@ -139,7 +139,8 @@ TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
            R"({"1":"MIC"}},"VRM-K2":{"midi":"CH 3"}}})");
   EXPECT_THAT(NoMixer("ztk import $DIR/both.json; ztk undo").err,
               HasSubstr("run: ztk apply; ztk apply --product VRM-K2\n"));
-  // "ztk apply" stands in the longer command, and is another one.
+  // "ztk apply" is also a part of the longer command, so the whole command is
+  // compared.
   WriteAll(home_.path() / "both.json",
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-10 dB"},)"
            R"("VRM-B5":{"output":{"2":"AUX"}}}})");
@@ -287,7 +288,7 @@ TEST_F(Undo, UsesWhatCanBeReadOfADamagedHistory) {
   EXPECT_EQ(Line(result.out, 1), "0");
   EXPECT_EQ(Line(result.out, 2), "Nothing to undo.");
   EXPECT_THAT(Line(result.err, 0), HasSubstr("history is damaged"));
-  // Nothing of it is lost, and it is told once.
+  // No step is lost, and it is reported once.
   EXPECT_EQ(ReadAll(History().string() + ".unreadable-1"), damage);
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
 }
@@ -339,7 +340,7 @@ TEST_F(Undo, NamesTheProcessThatHoldsTheLockAndDoesNothing) {
   EXPECT_EQ(Writes().size(), 1U);
 }
 
-// Root may read every file: a link and a folder cannot be read by anybody.
+// Root may read every file, but no user can read a link or a folder as a file.
 TEST_F(Undo, NeverReplacesAHistoryThatCannotBeRead) {
   const std::filesystem::path folder = home_.path() / ".local/state/tarvix";
   std::filesystem::create_directories(folder);

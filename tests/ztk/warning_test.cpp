@@ -25,7 +25,7 @@ Planted Bundle() {
 
 class Warning : public CliWorld {
  protected:
-  // Skips the test where the system does not let the bundle be planted.
+  // Skips the test when the system does not allow a planted bundle.
   void WithBundle(const std::vector<std::string> &options,
                   const std::string &script) {
     result_ = InPlantedRoot(Bundle(), options, script);

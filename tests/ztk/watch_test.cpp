@@ -10,7 +10,7 @@ namespace {
 
 namespace center = platform::notification_center;
 
-// A script may wait for the watcher, but not for ever.
+// A script waits for ztk watch, but only for a limited time.
 constexpr char kStart[] =
     "await() { tries=0; until eval \"$1\"; do tries=$((tries + 1));\n"
     "  [ $tries -lt 6000 ] || { echo gave up on: \"$1\"; exit 97; }\n"
@@ -19,8 +19,8 @@ constexpr char kStart[] =
 
 class Watch : public CliWorld {
  protected:
-  // Starts a watcher, makes the changes once it hears them, and sends the
-  // signal after $DIR/seen has so many lines. Its status is printed last.
+  // Starts ztk watch, makes the changes when it is ready, and sends the signal
+  // when $DIR/seen has this many lines. Prints the exit status last.
   Result WatchUntil(int lines, const std::string &options,
                     const std::string &changes, const std::string &signal) {
     return OneMixer(std::string(kStart) + "ztk watch " + options +
@@ -31,7 +31,7 @@ class Watch : public CliWorld {
                     " $watcher; wait $watcher; echo status $?");
   }
 
-  // Posts what only a foreign program would, once the watcher is ready.
+  // When ztk watch is ready, posts values that only other programs could post.
   void PostForeign(std::int32_t channel, std::int32_t index) const {
     for (int tries = 0; tries < 6000; ++tries) {
       if (File("ready").find("watching") != std::string::npos) break;

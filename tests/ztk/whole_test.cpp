@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Two at once, and killed at any moment: what is remembered stays whole.
+// Two programs at once, and programs that are killed at any moment: the
+// settings file stays valid.
 #include "cli_world.h"
 
 namespace ztk::test {
@@ -21,14 +22,14 @@ TEST_F(Whole, AfterTwoHundredKills) {
                         &killed, &changed),
             2)
       << lines[0];
-  // Else nothing was tried.
+  // Otherwise the test has tried nothing.
   EXPECT_GT(killed, 0);
   EXPECT_GT(changed, 0);
   EXPECT_EQ(lines[1], "0");
 }
 
-// The library merges what it read before: without a lock, two programs lose
-// each other's values.
+// The library reads the file and writes it with one new value: without a lock,
+// two programs would lose values.
 TEST_F(Whole, WhenTwoChangeDifferentSettingsAtOnce) {
   const Result result = OneMixer(
       "for i in 1 2 3 4 5 6 7 1 2 3 4 5 6 7; do ztk input set 1 $i || echo"
@@ -47,7 +48,7 @@ TEST_F(Whole, WhenTwoChangeDifferentSettingsAtOnce) {
 }
 
 TEST_F(Whole, WhenOneIsStoppedInTheMiddleForTheOthersToWait) {
-  // The first one waits for its mixer while the second one comes.
+  // The first program waits for its mixer while the second one starts.
   const Result result = Inside(
       {"-n", "1", "--fault", "delay:600@w8003"},
       "ztk boost set 1 > /dev/null & sleep 0.3; ztk input set 1 mic; wait;"

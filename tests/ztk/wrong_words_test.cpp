@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Wrong command lines, made by the hundred: each is one line of error, status
-// 2, and nothing is sent or remembered.
+// Hundreds of generated invalid command lines: each gives one line of error and
+// status 2, and nothing is sent or remembered.
 #include <random>
 #include <utility>
 
@@ -22,7 +22,7 @@ class WrongWords : public CliWorld {
     return values[Below(values.size())];
   }
 
-  // Never a word that stands for something.
+  // The generated word never has a meaning.
   std::string Garbage() {
     static const std::vector<std::string> odd{
         "''",
@@ -78,7 +78,7 @@ class WrongWords : public CliWorld {
     }
   }
 
-  // A line in which one word is nearly right.
+  // A command line in which one word is misspelled.
   std::string NearlyRight() {
     const std::size_t kind = Below(3);
     if (kind == 0) {
@@ -98,21 +98,21 @@ class WrongWords : public CliWorld {
     static const cli::Program program = cli::ThisProgram();
     const cli::Command &command = OneOf(program.commands);
     switch (Below(6)) {
-      case 0:  // a command that there is not
+      case 0:  // an unknown command
         return Garbage() + " " + command.path;
-      case 1:  // an option that there is not
+      case 1:  // an unknown option
         return command.path + " --zzz" + (Below(2) == 0 ? "" : "=1");
-      case 2:  // a channel that there is not
+      case 2:  // an unknown channel
         return OneOf<std::string>({"input list ", "input get ", "input apply ",
                                    "output list ", "output default ",
                                    "warning --channel "}) +
                BadNumber();
-      case 3:  // a choice that there is not
+      case 3:  // an unknown choice
         return OneOf<std::string>({"input set 1 ", "input set 5 ",
                                    "output set 3 ", "boost set ",
                                    "midi set "}) +
                Garbage();
-      case 4:  // a model that there is not
+      case 4:  // an unknown model
         return OneOf<std::string>({"apply", "boost list", "input get 1",
                                    "midi set 1", "output default"}) +
                " --product " +

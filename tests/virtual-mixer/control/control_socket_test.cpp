@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The control socket: its mode, and clients that keep others waiting.
+// The control socket: its mode, and clients that delay others.
 #include "virtual-mixer/control/control_socket.h"
 
 #include <gmock/gmock.h>
@@ -24,7 +24,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-// Far longer than a server needs, so that only a server that hangs exceeds it.
+// Much longer than a server needs, so that only a server that hangs exceeds it.
 constexpr seconds kLongest{30};
 // How long the servers here wait for a client.
 constexpr milliseconds kPatience{200};
@@ -105,7 +105,7 @@ TEST_F(ControlSocket, ServesOthersWhileAClientSendsByteAfterByte) {
 }
 
 TEST_F(ControlSocket, StopsSendingToAClientThatReadsTooSlowly) {
-  // More than a socket takes at once, by far.
+  // Much more than a socket accepts at once.
   const std::string large(20 << 20, 'x');
   const ControlServer server(
       Path(), [&](auto) { return large; }, kPatience);

@@ -30,7 +30,7 @@ const SetupPacket kWriteBoost{0x40, 3, 0x0300, 0x8003, 0};
 const SetupPacket kGetConfiguration{0x80, 8, 0, 0, 1};
 const SetupPacket kSetConfiguration{0x00, 9, 1, 0, 0};
 
-// A keyboard, then two mixers. Changes are written down.
+// A keyboard, then two mixers. Changes are recorded.
 class Bus : public testing::Test {
  protected:
   Answer Handle(const Connection &connection, const SetupPacket &setup) {

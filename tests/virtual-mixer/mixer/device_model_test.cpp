@@ -216,7 +216,7 @@ TEST(AddFault, LetsTheNewestCount) {
   AddFault(&mixer, "stall@8002");
   AddFault(&mixer, "short:1");
   EXPECT_EQ(Read(&mixer, 0x8002, 5).data, (Bytes{0}));
-  // A write cannot be cut short, so it still meets the older one.
+  // A write has no reply to be cut, so the older fault still applies to it.
   EXPECT_EQ(Write(&mixer, 0x8002, 1).status, TransferStatus::Stall);
   AddFault(&mixer, "silence");
   EXPECT_THAT(FaultTexts(mixer), ElementsAre("stall@8002", "silence"));

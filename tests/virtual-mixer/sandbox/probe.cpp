@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A program as those that look for mixers: plain system calls on /sys and
-// /dev, no library. Prints what it sees; failures by the name of their errno.
+// A program that finds mixers with system calls on /sys and /dev, without a
+// library. Prints the results, and failures by the name of their error number.
 //
 //   probe list                            every device, in bus order
 //   probe read MIXER REGISTER LENGTH [TIMEOUT]
@@ -45,7 +45,7 @@ std::string ErrorName(int number) {
   return name == nullptr ? std::to_string(number) : name;
 }
 
-// All that one read gives, or nothing.
+// The result of one read; empty on failure.
 std::string ReadOnce(const std::string &path) {
   const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return "";
@@ -95,7 +95,7 @@ int List() {
   return 0;
 }
 
-// Opens the n-th mixer, from 1; says why when it cannot.
+// Opens the n-th mixer, counted from 1; prints the reason when it cannot.
 int OpenMixer(int mixer) {
   for (const Device &device : Devices()) {
     if (device.product != kMixerProduct || --mixer != 0) continue;

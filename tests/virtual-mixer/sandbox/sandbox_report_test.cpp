@@ -27,7 +27,7 @@ std::string Contents(const std::string &path) {
 
 class Reports : public ToolTest {
  protected:
-  // The lines of a report but those with times.
+  // The lines of a report without those that contain times.
   std::vector<std::string> LinesWithoutTimes(const std::string &name) const {
     std::vector<std::string> lines;
     for (const std::string &line : Lines(name)) {
@@ -128,8 +128,8 @@ TEST_F(Reports, ThatCannotBeReplayedAreRefusedInOneLine) {
               HasSubstr("--delays needs --device"));
 }
 
-// Each report of a user that showed a fault stays in tests/reports, with what
-// ztk has to answer.
+// tests/reports contains the reports of users that showed a fault; this is the
+// expected output of ztk for each.
 TEST_F(Reports, OfUsersBehaveAsTheyShould) {
   const struct {
     const char *report;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How a command is run: its status, its signals, its environment, its end.
+// How a command runs: exit status, signals, environment, end.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -66,7 +66,7 @@ TEST_F(Running, LastsUntilTheLastChildHasEnded) {
   EXPECT_THAT(LeftBehind(), IsEmpty());
 }
 
-// Would last for ever if Ctrl-C did not end it.
+// Would never end if Ctrl-C did not end it.
 TEST_F(Running, SaysInATerminalWhatItWaitsForAfterTheCommand) {
   setenv("TMPDIR", (Folder() + "/tmp").c_str(), 1);
   test::PseudoTerminal terminal(
@@ -102,7 +102,8 @@ TEST_F(Running, PassesSignalsToTheCommand) {
   }
 }
 
-// Would last for ever if what the command leaves behind were not told.
+// Would never end if the signal did not reach the processes that the command
+// has left running.
 TEST_F(Running, EndsWhatACommandLeavesBehindWhenItIsEnded) {
   const ToolResult result = Inside(
       {}, "sleep 1000000 & kill -TERM $PPID; while :; do sleep 0.01; done");

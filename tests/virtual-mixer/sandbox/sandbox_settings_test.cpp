@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Whose settings the programs inside change.
+// Which settings the programs inside change.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -112,7 +112,7 @@ TEST_F(Settings, GoWithAPrivateRunThatIsAborted) {
   EXPECT_THAT(Lines("home/.config/other/file"), ElementsAre("before"));
 }
 
-// The library would take a relative folder for none.
+// The library ignores a relative path.
 TEST_F(Settings, ArePrivateWithARelativeTemporaryFolderToo) {
   const std::string command =
       "cd " + Folder() + " && TMPDIR=tmp " + VIRTUAL_MIXER +

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What programs see of the world: devices, answers, failures, the log.
+// What programs see in the sandbox: devices, answers, failures, the log.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -97,7 +97,7 @@ TEST_F(World, AnswersAsTheKernelDoes) {
   ASSERT_EQ(lines.size(), 8U);
   EXPECT_EQ(lines[0], "5: 00 04 04 04 04");
   EXPECT_EQ(lines[1], "4: 00 04 04 04");
-  // What the mixer does not deliver stays as it was.
+  // The bytes that the mixer does not deliver keep their values.
   EXPECT_EQ(lines[2], "5: 00 04 04 04 04 ee ee ee ee");
   EXPECT_EQ(lines[3], "2: 36 04");
   EXPECT_EQ(lines[4], "0");
@@ -179,7 +179,8 @@ TEST_F(World, SaysNothingOfAClientThatWasKilledWhileItWaited) {
   const ToolResult result = Inside(
       {"--fault", "silence"},
       "$PROBE read 1 8001 2 0 & pid=$!; "
-      // The probe has sent its request once the shell sees it sleep on it.
+      // When the shell sees that the probe sleeps, the probe has sent its
+      // request.
       "until grep -q '^State:.S' /proc/$pid/status && ls -l /proc/$pid/fd | "
       "grep -q 001/002; do sleep 0.01; done; kill -9 $pid; "
       "{ wait $pid; } 2>/dev/null; $TOOL unplug");
@@ -188,13 +189,13 @@ TEST_F(World, SaysNothingOfAClientThatWasKilledWhileItWaited) {
 }
 
 TEST_F(World, IsSeenByLsusb) {
-  // It does not free all that it takes, which is none of our business.
+  // This program leaks memory; that is not a fault of the sandbox.
   const ToolResult result = Inside({"-n", "2"},
                                    "command -v lsusb >/dev/null || exit 77; "
                                    "ASAN_OPTIONS=detect_leaks=0 lsusb | sort | "
                                    "cut -d' ' -f1-6");
   if (result.status == 77) GTEST_SKIP() << "lsusb is not installed";
-  // The names behind them are the machine's, where it has a list of names.
+  // The names after them come from a list of this machine, if it has one.
   EXPECT_THAT(SplitLines(result.out),
               ElementsAre("Bus 001 Device 001: ID 1d6b:0002",
                           "Bus 001 Device 002: ID 6666:001b",

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// ztk-virtual-mixer serve, as a user runs it. What a kernel does with it, the
-// kernel tests see.
+// ztk-virtual-mixer serve, as a user runs it. The kernel tests use it with a
+// kernel.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

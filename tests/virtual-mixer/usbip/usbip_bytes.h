@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// USB/IP as a client writes it, from the protocol's documentation and by
-// nothing else.
+// The USB/IP messages of a client, written only from the documentation of the
+// protocol.
 #ifndef ZTK_TESTS_VIRTUAL_MIXER_USBIP_USBIP_BYTES_H_
 #define ZTK_TESTS_VIRTUAL_MIXER_USBIP_USBIP_BYTES_H_
 
@@ -87,7 +87,7 @@ inline Bytes UnlinkMessage(std::uint32_t sequence, std::uint32_t unlinked) {
                Word(unlinked), Zeros(24)});
 }
 
-// What comes back: 48 bytes, and the data of a read.
+// The answer: 48 bytes, and the data of a read.
 inline Bytes Submitted(std::uint32_t sequence, std::int32_t status,
                        std::uint32_t done, const std::string &data = "") {
   return Join({Word(3), Word(sequence), Zeros(12),
@@ -99,7 +99,7 @@ inline Bytes Unlinked(std::uint32_t sequence, std::int32_t status) {
                Word(static_cast<std::uint32_t>(status)), Zeros(24)});
 }
 
-// What is told of the n-th mixer that is served, in a world of mixers.
+// The description of the n-th served mixer, when only mixers are served.
 inline Bytes MixerRecord(int number) {
   const std::string name = "1-" + std::to_string(number);
   return Join({Text("/sys/devices/pci0000:00/0000:00:14.0/usb1/" + name, 256),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The USB/IP server with real sockets: clients that come and go, and the
-// kernel's side of an attachment, played by a folder of plain files.
+// The USB/IP server with real sockets: clients that connect and disconnect, and
+// attaching to a kernel, which a folder of files replaces.
 #include <arpa/inet.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -67,7 +67,7 @@ class Client {
     heard.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
     return heard;
   }
-  // All that comes until the server closes.
+  // All bytes until the server closes.
   Bytes HearAll() const {
     Bytes all;
     for (Bytes part = Hear(1); !part.empty(); part = Hear(1)) {
@@ -151,8 +151,8 @@ TEST(UsbipServer, AClientThatGoesFreesItsMixer) {
   UsbipWorld world(Mixers(1));
   const std::string address = world.Listen("127.0.0.1:0");
   { Client(address).Import("1-1"); }
-  // The server learns of it when it next looks at that socket, which it does
-  // before it takes a newcomer who asks later.
+  // The server notices it when it next checks that socket, which it does before
+  // it accepts a later client.
   while (*world.Status(1).attached) Client(address).Say(ListRequest());
   Client(address).Import("1-1");
 }
@@ -172,7 +172,7 @@ TEST(UsbipServer, HostileClientsDoNotDisturbTheOthers) {
     if (round % 2 == 0) noise = Join({FromHex("0111 8003"), noise});
     const Client hostile(address);
     hostile.Say(noise);
-    // A server that is done with it may have closed already.
+    // The server may have closed the connection already.
     hostile.Hear(8);
   }
   user.Say(Read(1, kAskSelectors, 5));
@@ -308,7 +308,7 @@ TEST_F(Vhci, SaysWhatIsMissingAndWhatToDo) {
 
 TEST_F(Vhci, OnlyRootMayAttach) {
   if (geteuid() == 0) {
-    // Root is held back by nothing but another identity.
+    // Root has every right, so the test runs with another identity.
     ASSERT_EQ(chmod(folder_.c_str(), 0755), 0);
     ASSERT_EQ(chmod((folder_ / "attach").c_str(), 0644), 0);
     ASSERT_EQ(seteuid(65534), 0);

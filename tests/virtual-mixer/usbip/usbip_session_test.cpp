@@ -53,7 +53,7 @@ class UsbipSession : public testing::Test {
   static void Say(Session *session, const Bytes &bytes) {
     session->Receive(bytes.data(), bytes.size(), Session::Clock::time_point());
   }
-  // Says it and takes what comes at once.
+  // Sends the bytes and returns the output that is available at once.
   static Bytes Ask(Session *session, const Bytes &bytes) {
     Say(session, bytes);
     return Take(session);
@@ -90,7 +90,7 @@ TEST_F(UsbipSession, ListsWhatIsServedAndCloses) {
 TEST_F(UsbipSession, AClientHasTenSecondsToImport) {
   Plug(1);
   EXPECT_EQ(session_->NextDue(), After(std::chrono::seconds(10)));
-  // Bytes that are no whole operation give no more time.
+  // Bytes of an incomplete request do not extend the time limit.
   Ask(FromHex("0111"));
   session_->Continue(After(milliseconds(9999)));
   EXPECT_FALSE(session_->Ended());
@@ -388,7 +388,7 @@ TEST_F(UsbipSession, WhoBreaksTheRulesIsLeft) {
           std::make_unique<Session>(devices_.get(), After(milliseconds(0)));
     EXPECT_THAT(Ask(row.said), IsEmpty());
     EXPECT_TRUE(session_->Broken());
-    // Nothing more is listened to.
+    // The session reads nothing more.
     EXPECT_THAT(Ask(good), IsEmpty());
   }
 }
