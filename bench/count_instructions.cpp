@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Makes each call of each contender once under callgrind, after others that
-// warm it up, and has callgrind write a file for it:
+// Makes each call of each contender once under callgrind, after other calls as
+// a warm-up, and makes callgrind write a file for it:
 //
 //   valgrind --tool=callgrind --collect-atstart=no count_instructions
 //

@@ -8,7 +8,7 @@ add_library(ztk_bench_floor STATIC
   ${CMAKE_CURRENT_LIST_DIR}/floor.cpp
   ${CMAKE_CURRENT_LIST_DIR}/floor_bus.cpp
   ${CMAKE_CURRENT_LIST_DIR}/floor_settings.cpp)
-# Each of its sources names its own constants.
+# Its sources define constants of the same names.
 set_target_properties(ztk_bench_floor PROPERTIES UNITY_BUILD OFF)
 target_include_directories(ztk_bench_floor PUBLIC ${CMAKE_CURRENT_LIST_DIR})
 target_link_libraries(ztk_bench_floor PRIVATE ztk_headers)

@@ -22,8 +22,8 @@ constexpr unsigned kTimeoutMs = 5000;
 constexpr std::uint16_t kRoutingRegister = 0x8002;
 constexpr std::uint16_t kSelectorLength = 5;
 
-// Joins the three parts by hand: the C library's formatting would cost more
-// than a system call.
+// Joins the three parts without snprintf(), which would take longer than a
+// system call.
 class AttributePath {
  public:
   AttributePath() {
@@ -61,13 +61,13 @@ bool IsMixer(const unsigned char *descriptor) {
          descriptor[10] == kMixerProductId && descriptor[11] == 0;
 }
 
-// A mixer's entry, and its bus as the entry's first number.
+// The entry of a mixer, and its bus, which is the first number of the entry.
 struct Mixer {
   char entry[32];
 };
 
-// Reads the identity of every device and notes the mixer at `position`, counted
-// in the order of the folder. The number of mixers.
+// Reads the identity of every device and stores the mixer at `position`,
+// counted in the order of the folder. Returns the number of mixers.
 int Walk(int position, Mixer *mixer) {
   DIR *directory = opendir(kDevices);
   if (directory == nullptr) return 0;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// The hand-written floor: the system calls that the library makes on Linux, in
-// the same order, with as little as possible around them. No sorting, nothing
-// allocated, nothing parsed that the next call does not need, no check of what
-// cannot happen on a virtual mixer. What the library costs above it is the
-// price of its order and its guards.
+// The floor: the system calls that the library makes on Linux, in the same
+// order, with as little code as possible between them. It does not sort,
+// allocates nothing, parses only what the next call needs, and does not check
+// what cannot happen on a virtual mixer. The difference to the library is the
+// cost of its sorting and its checks.
 //
-// It stays honest because a test traces both and compares them call by call.
+// A test traces both and compares them call by call.
 #ifndef ZTK_BENCH_FLOOR_H_
 #define ZTK_BENCH_FLOOR_H_
 
@@ -14,9 +14,9 @@
 
 namespace ztk::bench::floor {
 
-// Notes what does not change from call to call: the places of the settings
-// file and of the message bus, as the environment has them. A sentence saying
-// why it cannot, else null. Needed by Set() and Apply() only.
+// Stores what does not change from call to call: the paths of the settings file
+// and of the message bus, from the environment. Returns the reason of a
+// failure, else null. Only Set() and Apply() need it.
 const char *Prepare();
 
 // Counts the mixers.

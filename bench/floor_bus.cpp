@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// One signal on the session bus, spoken by hand over the socket.
+// Sends one signal on the session bus, without a D-Bus library.
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -21,7 +21,7 @@ namespace {
 constexpr int kBufferSize = 8 << 20;
 constexpr char kAuthentication[] =
     "\0AUTH EXTERNAL\r\nDATA\r\nNEGOTIATE_UNIX_FD\r\nBEGIN\r\n";
-// The last line that the bus says before messages begin.
+// The last line that the bus sends before the messages.
 constexpr char kAgreed[] = "AGREE_UNIX_FD\r\n";
 
 // A message starts with its fixed header; the two lengths are at these places,
@@ -101,8 +101,8 @@ bool Send(int socket, const char *bytes, std::size_t size) {
   return Send(socket, &part, 1);
 }
 
-// Receives what has come, waiting for it at most a second; 0 when nothing
-// does. Tries before it waits, as the library does.
+// Receives the available bytes, and waits for them at most a second; 0 when
+// none arrive. Tries to receive before it waits, as the library does.
 std::size_t Receive(int socket, char *bytes, std::size_t size) {
   for (;;) {
     char control[256];

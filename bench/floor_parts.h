@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The two parts of the floor that have nothing to do with USB.
+// The two parts of the floor that do not use USB.
 #ifndef ZTK_BENCH_FLOOR_PARTS_H_
 #define ZTK_BENCH_FLOOR_PARTS_H_
 
@@ -8,13 +8,13 @@
 
 namespace ztk::bench::floor {
 
-// Each: a sentence saying why it cannot, else null.
+// Each returns the reason of a failure, else null.
 const char *PrepareSettings();
 const char *PrepareBus();
 
 // Reads the whole settings file.
 void ReadSettings();
-// Reads it and replaces it by one that holds the index of this channel alone.
+// Reads the file and replaces it by one with the index of this channel only.
 void StoreIndex(std::uint32_t channel, std::uint32_t index);
 
 // Announces the index over a connection of its own.

@@ -20,7 +20,7 @@ constexpr std::size_t kLongestPath = 1024;
 char makersFolder[kLongestPath];
 char folder[kLongestPath + 16];
 char file[kLongestPath + 64];
-// The part of a new file's name that is made up comes after this length.
+// The random part of the name of a new file begins after this length.
 std::size_t fileLength;
 
 constexpr char kContent[] =
@@ -38,7 +38,7 @@ constexpr std::size_t kChannelAt = std::string_view(kContent).find("0</key>");
 constexpr std::size_t kIndexAt = std::string_view(kContent).find("0</integer>");
 char content[sizeof kContent];
 
-// For calls whose result changes nothing: what follows is called all the same.
+// For calls whose result does not matter.
 void Ignore(ssize_t /*result*/) {}
 
 }  // namespace
@@ -86,7 +86,8 @@ void ReadSettings() {
 
 namespace {
 
-// Reads the whole folder, as looking for leftovers does.
+// Reads the whole folder, as the library does to find files that killed
+// programs have left.
 void ReadFolder(int descriptor) {
   alignas(8) char entries[32768];
   while (syscall(SYS_getdents64, descriptor, entries, sizeof entries) > 0) {
@@ -108,8 +109,8 @@ void MakeFresh(const char *fresh) {
   close(made);
 }
 
-// The signal is held back around the write because the library, which must not
-// end its program, does so.
+// The signal is blocked during the write, as the library does in order not to
+// end its program.
 void ReplaceSettings() {
   geteuid();
   sigset_t pending;

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
-# Functions that the commands of this folder share.
+# Functions that several commands of this folder use.
 
 # Starts a private message bus in a folder and sets $bus to its process.
 start_bus() {  # folder

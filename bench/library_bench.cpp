@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Times of the library's calls, beside those of the floor and of a program that
-// uses libusb. Measures whatever devices this process sees; bench/run shows it
-// virtual ones.
+// Measures the calls of the library, of the floor and of a program that uses
+// libusb, on the devices that this process sees; bench/run provides virtual
+// ones.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -17,7 +17,8 @@ namespace {
 
 using namespace ztk::bench;
 
-// Set by who gives this program a home and a mixer to write to.
+// The caller sets this variable when this program has a home and a mixer to
+// write to.
 constexpr char kMayChange[] = "ZTK_BENCH_MAY_CHANGE_SETTINGS";
 
 bool IsSet(const char *variable) { return std::getenv(variable) != nullptr; }

@@ -21,7 +21,7 @@ bool IsMixer(libusb_device *device) {
          descriptor.idProduct == kMixerProductId;
 }
 
-// Calls `visit` with each mixer; the number of those that it reached.
+// Calls `visit` with each mixer. Returns the number of mixers that it reached.
 template <typename Visit>
 int ForEachMixer(Visit visit) {
   libusb_context *context = nullptr;
@@ -66,8 +66,8 @@ int Count() {
 }
 
 int Set(std::uint32_t channel, std::uint32_t index, std::uint16_t value) {
-  // One list serves both requests; what is stored and announced in between by
-  // the library comes after them here.
+  // Both requests use one list; so the value is stored and announced after both
+  // of them, where the library does it in between.
   const int mixers = ForEachMixer([&](libusb_device *mixer) {
     const bool sent = Send(mixer, value);
     return ReadSelector(mixer, channel) >= 0 && sent;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The same four operations as a program would write them that talks to the
-// mixer through libusb: each call starts libusb, lists the devices once, sends
-// to every mixer in the list, and ends libusb. The settings file and the
-// announcement, which have nothing to do with USB, are the floor's.
+// The same four operations as in a program that uses libusb: each call starts
+// libusb, lists the devices once, sends to every mixer in the list, and ends
+// libusb. The settings file and the announcement, which do not use USB, are
+// those of the floor.
 #ifndef ZTK_BENCH_LIBUSB_WAY_H_
 #define ZTK_BENCH_LIBUSB_WAY_H_
 

@@ -1,7 +1,7 @@
 /* SPDX-License-Identifier: MIT
  *
- * The least that lists USB devices with libusb: what "ztk status" has to be
- * compared with if it used libusb.
+ * The smallest program that lists USB devices with libusb, to compare it with
+ * "ztk status".
  */
 #include <libusb.h>
 #include <stdio.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What is measured, once through the library and once through the floor.
+// The measured operations, once through the library and once through the floor.
 #ifndef ZTK_BENCH_OPERATIONS_H_
 #define ZTK_BENCH_OPERATIONS_H_
 
@@ -14,8 +14,8 @@ namespace ztk::bench {
 inline constexpr std::uint32_t kProduct = 10;
 inline constexpr std::uint32_t kChannel = 1;
 
-// Two choices that warn of nothing, and what the mixer is sent for them. The
-// turns alternate, so that every call has something to change.
+// Two choices without a warning, and the values that the mixer receives for
+// them. The turns alternate, so that every call changes something.
 inline constexpr std::uint32_t kChoices[2] = {2, 3};
 inline constexpr std::uint16_t kValues[2] = {0x0206, 0x0207};
 

@@ -4,9 +4,10 @@
 
     plot.py FOLDER FILE
 
-Left: by devices on the bus, with one mixer. Right: by mixers among 30 devices.
-Solid lines are the library, dashed ones its floor, dotted ones the setter
-through libusb on a scale of its own, since it would flatten all others.
+Left: by the number of devices, with one mixer. Right: by the number of mixers
+among 30 devices. Solid lines are the library, dashed ones the floor. Dotted ones
+are the setter through libusb; they have a scale of their own, because they are
+much higher than the others.
 """
 
 import sys
@@ -35,7 +36,7 @@ def ceiling(value):
 
 
 class Panel:
-    """One drawing: axes from zero, so that what is linear looks so."""
+    """One drawing. Its axes start at zero, so that linear growth is a straight line."""
 
     def __init__(self, x, y, series, title):
         self.x, self.y = x, y
@@ -43,7 +44,7 @@ class Panel:
         self.most = max(number for number, _ in series)
         self.top = ceiling(max(times[f"set/{who}"] for _, times in series
                                for who in ("library", "floor")) / 1e6)
-        # The sandbox cannot take what libusb sends.
+        # The sandbox does not support the requests of libusb.
         slow = [times["set/libusb"] for _, times in series
                 if "set/libusb" in times]
         self.slow = ceiling(max(slow) / 1e6) if slow else None

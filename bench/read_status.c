@@ -2,10 +2,10 @@
  *
  *   read_status [once]
  *
- * The least that reads what "ztk status" reads: every device's identity, to
+ * The smallest program that reads what "ztk status" reads: every device's identity, to
  * count the mixers and again to find each of them, four registers of each, the
- * settings files. It links the C library alone and prints the bytes as they
- * are. With "once" it asks the mixers that it meets while it counts.
+ * settings files. It links only the C library and prints the bytes unchanged.
+ * With "once" it asks the mixers during the count.
  */
 #include <dirent.h>
 #include <fcntl.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Calls one function a number of times, for counting its system calls. Before
-// each call and after the last it writes to a descriptor that is none, which
-// fails and leaves a mark in a trace.
+// each call and after the last one it writes to an invalid descriptor, which
+// fails and is a mark in the trace.
 #ifndef ZTK_BENCH_REPEAT_H_
 #define ZTK_BENCH_REPEAT_H_
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// repeat_calls for the program that uses libusb, apart because what counts
-// system calls for the tests has to do without libusb:
+// repeat_calls for the program that uses libusb. It is separate because the
+// tests that count system calls must not need libusb:
 //
 //   repeat_libusb libusb count|set|query|apply TIMES
 #include "libusb_way.h"

@@ -1,13 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Prints what a folder of benchmark results says, as Markdown.
+"""Prints a folder of benchmark results as Markdown.
 
     report.py FOLDER            prints it
-    report.py FOLDER DOCUMENT   and puts it between DOCUMENT's two marks
+    report.py FOLDER DOCUMENT   and writes it between the two marks in DOCUMENT
 
-A goal that is missed is a word in the table and no failure: times depend on
-the machine and on what else it does. Only results that are missing or not
-valid are a failure.
+A missed goal is shown in the table and is not a failure: times depend on the
+machine and on its load. Only missing or invalid results are a failure.
 """
 
 import pathlib
@@ -23,7 +22,7 @@ MINIMAL = "minimal C program"
 PURE_GOAL = 20  # nanoseconds
 PURE = {"text": "text of a choice", "choices": "number of choices",
         "rejected": "refused setter"}
-# How often the bus is walked with so many mixers.
+# The number of walks over the bus for this number of mixers.
 WALKS = {"count": lambda mixers: 1, "set": lambda mixers: 1 + 2 * mixers,
          "query": lambda mixers: 1 + mixers, "apply": lambda mixers: 1 + mixers}
 BEGIN, END = "<!-- figures: bench/run writes them -->", "<!-- end of figures -->"
@@ -95,7 +94,7 @@ def one_mixer(found, out):
 
 
 def compared(times, name):
-    """The library's time, and how it stands to the others."""
+    """The time of the library, compared with the others."""
     library = times[f"{name}/library"]
     ratios = [f"{library / times[f'{name}/floor']:.2f}"]
     if f"{name}/libusb" in times:

@@ -31,7 +31,7 @@ def medians(file):
 
 
 class Results:
-    """Times by (place, mixers, devices), and what else was counted."""
+    """Times by (place, mixers, devices), and the other counts."""
 
     def __init__(self, folder):
         self.folder = pathlib.Path(folder)
@@ -52,7 +52,7 @@ class Results:
         return self.text(f"{place}-clock.txt") == "instructions"
 
     def place(self, name):
-        """Where it was measured, in words."""
+        """The name of the place of the measurement."""
         counted = f", {COUNTED}" if self.counts_instructions(name) else ""
         return PLACES[name] + counted
 

@@ -7,22 +7,21 @@
     system_calls.py --here BIN_FOLDER       counts, on the devices that are here,
                                             of the library, the floor and libusb
 
-A program that repeats a call marks each one in its trace. What stands between
-the last two marks is one call of a process that has warmed up, exactly; no
-start-up has to be subtracted.
+A program that repeats a call writes a mark into its trace before each one. The
+lines between the last two marks are exactly one call of a process that has warmed
+up; no start-up has to be subtracted.
 
-With --here nothing is left out that the process does, in all its threads, but
-for waiting; it prints JSON.
+With --here all system calls of all threads count, except waiting; the output is
+JSON.
 
-The sandbox makes calls of its own inside the program: it looks for its folder
-before it opens anything, holds back signals meanwhile, and speaks to the mixers
-over a socket where a real device has ioctl(). They are recognised by what they
-are about (each descriptor is followed from where it was opened) and left out;
-in place of ioctl() the log of the mixers counts the requests. So the counts
-are those of a machine with real devices. Two more kinds are left out, since
-they say how fast others are and not what the library does: waiting for the
-message bus, and what the C library needs for itself now and then, which is
-memory, and random bits for a file's name.
+The sandbox makes system calls of its own inside the program: it checks its folder
+before each open, blocks signals during that, and sends requests over a socket in
+place of ioctl(). They are recognised by their path or descriptor (each descriptor
+is followed from its open()) and left out; the log of the mixers counts the
+requests in place of ioctl(). So the counts are those of a machine with real
+devices. Two more kinds are left out, because they do not depend on the library:
+waiting for the message bus, and calls that the C library makes now and then, for
+memory and for random bits of a file name.
 """
 
 import collections
@@ -43,7 +42,7 @@ SANDBOX_CHECK = re.compile(r"/tmp/umockdev\.\w+/(disabled|ioctl/|dev/)")
 PLIST_AT_END = re.compile(r'\.plist"')
 TEXT = re.compile(r'"((?:[^"\\]|\\.)*)"')
 PIECE = re.compile(r'iov_base="((?:[^"\\]|\\.)*)"')
-# One thing under several names, by C library and machine.
+# The same call under several names, by C library and machine.
 SAME = {"newfstatat": "stat", "fstat": "stat", "lstat": "stat",
         "statx": "stat", "stat": "stat", "open": "openat",
         "renameat": "rename", "renameat2": "rename",
@@ -57,7 +56,7 @@ FEW_TIMES = 2  # where only the number matters
 
 
 class Unavailable(Exception):
-    """The calls cannot be counted here; says why."""
+    """The calls cannot be counted here; the text is the reason."""
 
 
 class Trace:
@@ -72,7 +71,7 @@ class Trace:
     def add(self, name, arguments, result):
         is_lstat = name == "lstat" or "AT_SYMLINK_NOFOLLOW" in arguments
         name = SAME.get(name, name)
-        # Only root asks to whom the path of a settings file belongs.
+        # Only root asks for the owner of the path of a settings file.
         if name == "stat" and is_lstat and (
                 not PLIST_AT_END.search(arguments) or
                 self.calls[-1:] == ["geteuid"]):
@@ -103,7 +102,7 @@ class Trace:
         return was
 
     def subject(self, name, arguments):
-        """What the call is about: a path, or what a descriptor was opened as."""
+        """The object of the call: a path, or the path of a descriptor."""
         if name == "socket":
             # The library's socket closes on exec; the sandbox's does not.
             return "bus" if "SOCK_CLOEXEC" in arguments else "sandbox socket"
@@ -205,7 +204,7 @@ def calls_between_marks(trace_file, home):
 
 
 def write_settings(home):
-    """Gives the user the settings file that every call but the first meets."""
+    """Writes the settings file that every call except the first finds."""
     folder = pathlib.Path(home, ".config/tarvix/Preferences")
     folder.mkdir(parents=True)
     (folder / "com.tarvix.VRM-D6autosetup.plist").write_text(
@@ -258,7 +257,7 @@ def one_call(temporary, number, home):
 
 
 def requests_of(temporary, count):
-    """How many requests reached the mixers in each of the runs."""
+    """The number of requests that reached the mixers in each run."""
     totals = [len(pathlib.Path(temporary, f"log.{number}").read_text()
                   .splitlines()) for number in range(count)]
     if any(total % TIMES != 0 for total in totals):
@@ -301,7 +300,7 @@ def measure_here(folder):
 
 
 def calls_of_last(trace):
-    """How many calls stand between the last two marks."""
+    """The number of calls between the last two marks."""
     number = last = 0
     for line in trace.read_text(errors="replace").splitlines():
         if MARK in line:
@@ -317,7 +316,7 @@ def calls_of_last(trace):
 
 
 def names(calls):
-    """How many there are of each kind."""
+    """The number of calls of each kind."""
     return collections.Counter(call.split(" ", 1)[0] for call in calls)
 
 

@@ -7,8 +7,8 @@
 # The release; set by make_bare_root.
 suite=
 
-# Prints where this machine gets the packages of the release from, if it does.
-# Reads both forms of source lists.
+# Prints the server from which this machine gets the packages of the release, if
+# there is one. Reads both forms of source lists.
 mirror() {
   local lists=(/etc/apt/sources.list /etc/apt/sources.list.d/*.list)
   { cat /etc/apt/sources.list.d/*.sources 2>/dev/null || true; } |
@@ -42,13 +42,13 @@ copy_apt_settings() {  # root
     mkdir -p "$1/${file%/*}"
     cp -aL --remove-destination "$file" "$1/${file%/*}/"
   done
-  # Only the settings for fetching packages: others may run programs that a bare
+  # Copies only the settings for downloads: others may run programs that a bare
   # system does not have.
   apt-config dump | grep -E '^Acquire::(https?|Check|Allow)' \
     >"$1/etc/apt/apt.conf.d/90machine" || true
 }
 
-# To be called in new mount and process namespaces, so that mounts and leftover
+# Call this in new mount and process namespaces, so that mounts and remaining
 # processes end with them.
 mount_system() {  # root
   local device

@@ -30,8 +30,8 @@ def masked(text):
         return re.sub(r"[^\n]", filler, piece)
 
     masked_text = token.sub(blank, text)
-    # An assertion is checked by the compiler; a template's brackets are no
-    # comparison.
+    # The compiler checks assertions, and the brackets of a template are not
+    # comparisons.
     for pattern in (r"static_assert\(.*?\);", r"template <.*?>"):
         masked_text = re.sub(
             pattern, lambda match: re.sub(r"[^\n]", " ", match[0]),
@@ -172,7 +172,7 @@ def function_of(text, fault):
 
 
 def description(text, fault):
-    """One line that names the fault: what is dropped, or the changed line."""
+    """One line that names the fault: the dropped text, or the changed line."""
     if fault.rule == "drop a statement":
         begin, end = fault.start, fault.end
         if fault.replacement:

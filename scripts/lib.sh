@@ -1,8 +1,9 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
-# What the project's commands share. A command sources this file first; its
-# working folder is then the root folder of the project, which is also $root.
+# Functions of the commands of the project. A command sources this file first;
+# its working folder is then the root folder of the project, which is also
+# $root.
 
 set -euo pipefail
 

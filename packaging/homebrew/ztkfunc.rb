@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 #
 # Installs ztk and the framework with Homebrew. It was written without a Mac and
-# has never run; README.md beside it tells what follows from the place of the
-# framework.
+# has never run; README.md in this folder describes the effects of the place of
+# the framework.
 class Ztkfunc < Formula
   desc "Settings of the USB DJ mixer VRM-D6"
   homepage "https://tarvix.example/ztkfunc"

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """Compares the visible symbols of the built library with the one list of them
-and with the headers that declare them, and looks at how it was linked."""
+and with the headers that declare them, and checks how it was linked."""
 
 import argparse
 import pathlib
@@ -173,13 +173,13 @@ class Linking(unittest.TestCase):
                          ["libZTKFunc.so.1"])
 
     def test_starts_with_few_other_libraries(self):
-        """Each is loaded and bound at the start of every program that uses
-        this one, whatever it is going to do."""
+        """Each of them is loaded at the start of every program that uses this
+        library, also when the program does not need it."""
         skip_with_instruments(self)
         needed = re.findall(r"\(NEEDED\)\s+Shared library: \[(.*?)\.so",
                             self.dynamic)
         runtime = {"libstdc++"} if OPTIONS.shared_cxx_runtime else set()
-        # Which of its parts are shared libraries too depends on the compiler.
+        # The compiler decides which of its parts are shared libraries too.
         parts = {"libgcc_s", "libm"} if OPTIONS.shared_cxx_runtime else set()
         self.assertEqual(
             {name for name in needed if not name.startswith("ld-")} - parts,

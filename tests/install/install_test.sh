@@ -17,7 +17,7 @@ expect() {  # expected actual what
     fail "$3: expected"$'\n'"$1"$'\n'"and there is"$'\n'"$2"
 }
 
-# Programs of somebody else's have no run path to our prefix.
+# Other programs have no run path to this prefix.
 run_installed() {
   LD_LIBRARY_PATH=$PREFIX/$LIBDIR "$@"
 }
@@ -51,7 +51,7 @@ files() {
 cmake_package() {
   local folder=$WORK/by-cmake
   rm -rf "$folder"
-  # The version is asked for in the consumer's CMakeLists.txt.
+  # The consumer's CMakeLists.txt requires the version.
   "$CMAKE" -S "$CONSUMER" -B "$folder" -DCMAKE_PREFIX_PATH="$PREFIX" \
     -DCMAKE_C_COMPILER="$CC" -DCMAKE_CXX_COMPILER="$CXX" \
     -DCMAKE_C_FLAGS="$flags" -DCMAKE_CXX_FLAGS="$flags"
@@ -66,7 +66,7 @@ readme_block() {  # start of the first line
     /^```/ { on = 0 } on' "$SOURCE/README.md"
 }
 
-# README's program with README's lines for CMake.
+# The program in README with the lines for CMake in README.
 readme() {
   local folder=$WORK/from-readme
   rm -rf "$folder"
@@ -101,8 +101,8 @@ pkg_config() {
   run_installed "$to/consumer_cpp"
 }
 
-# The library knows its data folder from the build, so the prefix has to stand
-# there: in a mount namespace of this test's own.
+# The build contains the path of the data folder, so the prefix must be there: a
+# mount namespace of this test makes that possible.
 bundle() {
   local namespace=(unshare --mount)
   [[ $(id -u) == 0 ]] || namespace+=(--map-root-user)
@@ -129,7 +129,7 @@ udev_rule() {
   expect "$(udev_rule_for 6666)" "$(grep -v '^#' "$PREFIX/$file")" \
     "The installed udev rule"
 
-  # udev compares small digits, however the vendor id was written.
+  # udev compares lower-case digits, so the vendor id is converted.
   local other=$WORK/other-vendor
   rm -rf "$other"
   "$CMAKE" -S "$SOURCE" -B "$other" -DZTK_USB_VENDOR_ID=0x0ABC \
@@ -155,26 +155,27 @@ manuals() {
     "${ZSH_COMPLETIONS#share/}"/{_ztk,_ztk-virtual-mixer}; do
     [[ -s $PREFIX/share/$file ]] || fail "$file is not installed."
   done
-  # Made only where doxygen is installed.
+  # Made only when doxygen is installed.
   [[ ! -e $BUILD/manual/ZTKFunc.3 ||
     -s $PREFIX/share/man/man3/ZTKFunc.3 ]] ||
     fail "man3/ZTKFunc.3 is not installed."
 }
 
-# The prefix holds one file and one folder that are not ours; they must stay.
+# The prefix has one file and one folder of other programs; they must stay.
 uninstall() {
   local folder=$WORK/taken-away before
   rm -rf "$folder"
   mkdir -p "$folder/share/man" "$folder/bin"
   echo "another program" >"$folder/bin/another"
   before=$(find "$folder" | sort)
-  # The second installation must not take the folders of the first for others'.
+  # The second installation must not treat the folders of the first one as
+  # folders of other programs.
   "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
   "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
   [[ -x $folder/bin/ztk || ! -x $PREFIX/bin/ztk ]] || fail "It is not there."
   "$CMAKE" -DBUILD="$BUILD" -P "$SOURCE/cmake/uninstall_files.cmake"
   expect "$before" "$(find "$folder" | sort)" "What is left"
-  # With nothing there before, not even the prefix is left.
+  # When the prefix did not exist before, it is removed too.
   rm -rf "$folder"
   "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
   "$CMAKE" -DBUILD="$BUILD" -P "$SOURCE/cmake/uninstall_files.cmake"
@@ -190,7 +191,7 @@ hardening() {
     fail "The library calls no function that _FORTIFY_SOURCE checks."
 }
 
-# They find the library beside themselves.
+# The programs find the library relative to their own folder.
 programs() {
   (cd / && env -u LD_LIBRARY_PATH "$PREFIX/bin/ztk" --help >/dev/null)
   (cd / && "$PREFIX/bin/ztk-virtual-mixer" --help >/dev/null)

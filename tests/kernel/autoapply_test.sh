@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# What plugging in a mixer does for a user who has turned autoapply on. Runs in
-# the guest, beside systemd and a session of the user "guest":
+# What happens when a mixer is plugged in, for a user who has turned autoapply
+# on. Runs in the guest with systemd and a session of the user "guest":
 #
 #   autoapply_test.sh INSTALLED PREFIX
 #
-# INSTALLED holds what "cmake --install" installs below PREFIX.
+# INSTALLED contains the files that "cmake --install" installs below PREFIX.
 set -euo pipefail
 
 readonly installed=$1 prefix=$2 requests=/run/requests
@@ -37,7 +37,7 @@ as_guest() {
     "$@"
 }
 
-# What changed something on a mixer since the last time.
+# The requests since the last call that changed something on a mixer.
 writes() {
   sed -n 's/^\(mixer [0-9]*: 40 .*\)/\1/p' "$requests"
 }
@@ -55,7 +55,7 @@ plug_in_anew_for_nobody() {
   udevadm settle
 }
 
-# Plugs in and waits until the user's systemd has done what it does then.
+# Plugs a mixer in and waits until the user's systemd has no more jobs.
 plug_in_anew() {
   plug_in_anew_for_nobody
   until_true nothing_to_do
@@ -64,7 +64,7 @@ plug_in_anew() {
 mixers() { grep -slx 6666 /sys/bus/usb/devices/*/idVendor | wc -l; }
 no_mixer() { [[ $(mixers) == 0 ]]; }
 all_mixers() { [[ $(mixers) == 2 ]]; }
-# The user's systemd has seen both devices, and has no job left.
+# The user's systemd knows both devices, and has no more jobs.
 nothing_to_do() {
   [[ $(as_guest systemctl --user list-units --plain --no-legend \
     --type device '*-usb*' | grep -c VRM-D6) == 2 &&

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 #
 # A mixer is plugged in, then the packages are installed: the user of the
-# session may open it at once. Run by scripts/try-packages in the guest, beside
+# session may open it at once. scripts/try-packages runs this in the guest, with
 # systemd and a session of the user "guest":
 #
 #   packages_test.sh FOLDER_OF_PACKAGES

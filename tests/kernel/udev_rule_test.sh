@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Who may open the mixer once the udev rule is installed. Runs in the guest,
-# beside systemd and a session of the user "guest":
+# Which users may open the mixer after the udev rule was installed. Runs in the
+# guest with systemd and a session of the user "guest":
 #
 #   udev_rule_test.sh BIN_FOLDER RULES_FILE
 set -euo pipefail
@@ -15,7 +15,7 @@ fail() {
 }
 
 if [[ ${3:-} != --among-mixers ]]; then
-  # Among others, one of them a foot switch of the same maker.
+  # With other devices, one of them a foot switch of the same maker.
   exec "$bin/ztk-virtual-mixer" serve -n 2 --other-devices 4 --attach \
     --log /run/requests -- "$0" "$bin" "$rules" --among-mixers
 fi
@@ -51,7 +51,7 @@ reachable() {  # user
   as "$1" "$bin/ztk" status 2>/dev/null | grep -c ' is reachable$' || true
 }
 
-# The number of mixers that root reaches, once it is the wanted one.
+# Waits until root reaches this number of mixers, and prints it.
 mixers_come_to() {  # number
   local tries
   for ((tries = 0; tries < 100; ++tries)); do
@@ -61,8 +61,8 @@ mixers_come_to() {  # number
   fail "there are not $1 mixers after ten seconds"
 }
 
-# Has "ztk doctor" tell a user what is wrong with the mixers: $cause, and the
-# $command to type. Both mixers have the same.
+# Runs "ztk doctor" as a user and sets $cause and $command of the problem, which
+# must be the same for both mixers.
 ask_doctor() {  # user [environment...]
   local user=$1 told
   shift
@@ -83,7 +83,7 @@ type_command() {
   PATH=/run/typed:$PATH bash -c "$command" >/dev/null
 }
 
-# What the mixers are sent when the user sets something.
+# The requests that the mixers receive when the user sets something.
 sent_for() {  # user choice
   : >/run/requests
   as "$1" "$bin/ztk" input set 1 "$2" &>/dev/null || true
@@ -103,7 +103,7 @@ grep -qx 'Foot Switch' <<<"$everybody" ||
 expect "without the rule root alone reaches the mixers" "2 0 0" \
   "$(reachable root) $(reachable guest) $(reachable nobody)"
 
-# The rule is there, but came after the mixers.
+# The rule was installed after the mixers were plugged in.
 install --mode 644 "$rules" /lib/udev/rules.d/
 ask_doctor guest
 expect "the doctor sees that the rule came too late" \
@@ -129,11 +129,11 @@ expect "but nobody else" 0 "$(reachable nobody)"
 rm /etc/udev/rules.d/70-tarvix-mixer.rules
 udevadm control --reload
 
-# What README says to do after the installation.
+# The steps in README after the installation.
 install --mode 644 "$rules" /lib/udev/rules.d/
 udevadm control --reload
 plug_in_anew
-# As if the others had been plugged in again as well.
+# As when the other devices are plugged in again too.
 udevadm trigger --subsystem-match=usb --action=add --settle
 
 expect "the user of the session reaches both mixers" 2 "$(reachable guest)"
@@ -154,7 +154,7 @@ for ((tries = 0; tries < 100; ++tries)); do
 done
 expect "who has logged out reaches no mixer" 0 "$(reachable guest)"
 
-# The same user from elsewhere: over ssh, and in a service of the system.
+# The same user in other sessions: over ssh, and in a service of the system.
 ask_doctor guest SSH_CONNECTION="::1 9 ::1 22"
 expect "the doctor sees that the user came over ssh" \
   "the rule grants access to the user who is logged in at this seat, and you are \

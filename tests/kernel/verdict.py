@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Tells how one test ended that ran in a guest.
+"""Prints the result of one test that ran in a guest.
 
 Usage: verdict.py FOLDER SUITE.TEST    of the report of run-tests
        verdict.py FOLDER NAME          of a script of run-session-tests
 
-Ends with 0 when it passed, with 77 when it was skipped, else with 1.
+Exits with 0 when it passed, with 77 when it was skipped, else with 1.
 """
 
 import pathlib

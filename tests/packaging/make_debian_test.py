@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Makes debian/ from the project and from small projects with something wrong.
+"""Makes debian/ from the project, and from small projects with errors.
 
 Usage: make_debian_test.py ROOT VERSION
 """
@@ -82,7 +82,7 @@ class Project(unittest.TestCase):
 
 
 class Changelog(Project):
-    def test_tells_of_each_release(self):
+    def test_has_an_entry_for_each_release(self):
         self.assertEqual(self.made("changelog"), """\
 ztkfunc (1.2.0) unstable; urgency=medium
 
@@ -127,9 +127,9 @@ Fri, 02 Jan 1970 00:00:00 +0000
         self.write("CHANGELOG.md", CHANGELOG.replace("- 2026-03-01", ""))
         self.assertIn('"## [1.2.0] " is neither', self.refused())
 
-    def test_refuses_to_tell_of_nothing(self):
+    def test_refuses_a_changelog_without_changes(self):
         self.write("CHANGELOG.md", "# Changelog\n")
-        self.assertIn("no change", self.refused())
+        self.assertIn("contains no changes", self.refused())
 
 
 class Others(Project):

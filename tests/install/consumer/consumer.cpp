@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A C++ program of somebody else's. Answers 0 when the library answers as
+// A C++ program that uses the library. Exits with 0 when the results are as
 // documented.
 #include <ZTKFunc.h>
 
