@@ -36,7 +36,7 @@ def ceiling(value):
 
 
 class Panel:
-    """One drawing. Its axes start at zero, so that linear growth is a straight line."""
+    """One drawing; its axes start at zero, so linear growth is a line."""
 
     def __init__(self, x, y, series, title):
         self.x, self.y = x, y

@@ -9,7 +9,8 @@ the output that the document shows.
 - A block marked "c" is a program: it has to compile and to run with a virtual
   mixer. The words after "c" name the other libraries that it uses, by their names
   in pkg-config. The "text" block after it shows its output.
-- Blocks marked "sh" are not run: they install something or build for minutes.
+- Blocks marked "sh" are not run here: they install something, need a kernel or
+  another system, or build for minutes. The word after "sh" says where they run.
 - The link targets inside the project have to exist.
 - A picture that scripts/record-demo made counts as one block "console mixer".
 
@@ -27,6 +28,18 @@ import tempfile
 from typing import NamedTuple
 
 SECONDS = 60
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+# The scripts and tests that run the commands of a block "sh".
+RUN_BY = {"compile": "tests/install/install_test.sh",
+          "cross": "scripts/check",
+          "install": "scripts/try-packages",
+          "kernel": "tests/kernel/kernel_programs_test.cpp",
+          "macos": ".github/workflows/macos.yml",
+          "presets": "scripts/check",
+          "python": "scripts/try-packages",
+          "source": "scripts/try-packages",
+          "start": "scripts/try-bare-root",
+          "wheel": "tests/python/wheel_test.py"}
 
 
 class Block(NamedTuple):
@@ -84,8 +97,8 @@ def fits(shown, printed):
     return re.fullmatch(pattern, printed) is not None
 
 
-class Reader:
-    """A user with a fresh home folder and a message bus of their own."""
+class User:
+    """A user with a fresh home folder and a private message bus."""
 
     def __init__(self, folder, build):
         self.folder = folder
@@ -174,21 +187,30 @@ def dead_links(document):
             and not (document.parent / target).exists()]
 
 
+def run_nowhere(blocks):
+    """Complaints about blocks "sh" that no script and no test runs."""
+    words = [(block.line, block.kind.split()[1:]) for block in blocks
+             if block.kind.split()[:1] == ["sh"]]
+    return [f"line {line}: RUN_BY does not say what runs this block"
+            for line, word in words
+            if len(word) != 1 or not (ROOT / RUN_BY.get(word[0], "-")).exists()]
+
+
 def try_examples(blocks, build, compiler):
-    header = pathlib.Path(__file__).resolve().parents[2] / "include"
     complaints = []
     # A short path, because the names of sockets in it are limited.
     with tempfile.TemporaryDirectory(prefix="ztk.", dir="/tmp") as folder:
-        reader = Reader(pathlib.Path(folder), os.path.abspath(build))
+        user = User(pathlib.Path(folder), os.path.abspath(build))
         try:
             for block, following in blocks:
                 if block.kind.startswith("console"):
-                    complaints += reader.try_console(block)
+                    complaints += user.try_console(block)
                 else:
-                    complaints.append(reader.try_program(
-                        block, following, compiler or ["cc"], header))
+                    complaints.append(user.try_program(
+                        block, following, compiler or ["cc"],
+                        ROOT / "include"))
         finally:
-            reader.leave()
+            user.leave()
     return complaints
 
 
@@ -200,7 +222,7 @@ def main(document, build, *compiler):
     examples = [(block, following)
                 for block, following in zip(blocks, [*blocks[1:], None])
                 if block.kind.split()[:1] in (["console"], ["c"])]
-    complaints = [] if picture else dead_links(document)
+    complaints = [] if picture else dead_links(document) + run_nowhere(blocks)
     if document.name == "README.md" and not examples:
         complaints.append("there are no examples")
     if examples:

@@ -81,7 +81,16 @@ readme() {
   "$CMAKE" -S "$folder" -B "$folder/build" -DCMAKE_PREFIX_PATH="$PREFIX" \
     -DCMAKE_C_COMPILER="$CC" -DCMAKE_C_FLAGS="$flags"
   "$CMAKE" --build "$folder/build"
-  [[ -x $folder/build/my_program ]] || fail "README's program is not there."
+  [[ -x $folder/build/my_program ]] || fail "CMake did not build the program."
+  (
+    cd "$folder"
+    # shellcheck disable=SC2086,SC2317  # several flags; called by eval
+    cc() { "$CC" $flags "$@"; }
+    PKG_CONFIG_PATH=$PREFIX/$LIBDIR/pkgconfig
+    export PKG_CONFIG_PATH
+    eval "$(readme_block "sh compile")"
+    [[ -x a.out ]] || fail "README's command did not build the program."
+  )
 }
 
 with_pkg_config() {
