@@ -11,7 +11,8 @@ using namespace ztk::status;
 
 namespace {
 
-// A read that delivers nothing must not look like a state.
+// The reply is preset to this value, which is not a state, because a read may
+// deliver no bytes.
 constexpr std::uint8_t kNoSeratoAnswer = 0xFF;
 
 }  // namespace

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// USB access, cut at the system's own verbs. What is counted, chosen, released
-// or left unreleased is decided by src/usb/USB.cpp; a port only carries it out.
+// USB access; each function is one operation of the system. src/usb/USB.cpp
+// decides what is counted, chosen, released or not released; a port only
+// executes it.
 //
-// No function keeps state between calls and any thread may call it. Handles
-// belong to the caller until given to the releasing verb that each names.
+// No function keeps state between calls and any thread may call it. The caller
+// owns a handle until it passes the handle to the function that releases it.
 #ifndef ZTK_PLATFORM_USB_H_
 #define ZTK_PLATFORM_USB_H_
 
@@ -34,7 +35,7 @@ struct Result {
   std::int32_t systemCode = 0;
 };
 
-// Registry objects; null is none.
+// Registry objects; null means none.
 struct PortObject;
 struct IteratorObject;
 struct ServiceObject;
@@ -49,8 +50,8 @@ struct PlugIn;
 struct Device;
 
 // A control request on the default pipe. Numbers are in host order; the port
-// lays out the setup packet. `data` belongs to the caller and is touched only
-// where the data stage delivers bytes.
+// lays out the setup packet. The caller owns `data`; the port writes only the
+// bytes that the data stage delivers.
 struct ControlRequest {
   std::uint8_t requestType;
   std::uint8_t request;
@@ -58,12 +59,12 @@ struct ControlRequest {
   std::uint16_t index;
   std::uint16_t length;
   void *data;
-  std::uint32_t lengthDone;  // filled in by the port; after a failure what
-                             // came before it, 0 where nobody can tell
+  std::uint32_t lengthDone;  // filled in by the port; after a failure the
+                             // bytes before it, 0 if that is not known
   std::int32_t systemCode;   // filled in by the port, as in Result
 };
 
-// Gets the port that the registry is asked through. On failure *port is null.
+// Gets the port for access to the registry. On failure *port is null.
 Code GetMasterPort(Port *port);
 void ReleaseMasterPort(Port port);
 
@@ -75,8 +76,8 @@ Number *MakeNumber(std::int32_t value);
 // The matching takes its own hold of the number.
 void SetMatchingValue(Matching *matching, const char *key, Number *number);
 
-// Finds the matching services and consumes `matching`, whatever the result.
-// On success *iterator may still be null: nothing to walk.
+// Finds the matching services and consumes `matching`, whatever the result. On
+// success *iterator may be null: no service matches.
 Code FindServices(Port port, Matching *matching, Iterator *iterator);
 // The next service in registry order, owned by the caller; null at the end.
 Service NextService(Iterator iterator);
@@ -86,7 +87,7 @@ void ReleaseIterator(Iterator iterator);
 // Makes the loader of a service's device interface, owned by the caller.
 // On failure *plugIn is null, and it may be null on success as well.
 Code CreatePlugIn(Service service, PlugIn **plugIn);
-// The device interface, holding one reference of the caller's, or null.
+// The device interface with one reference, which the caller owns; or null.
 Device *QueryDevice(PlugIn *plugIn);
 void ReleasePlugIn(PlugIn *plugIn);
 
@@ -96,17 +97,17 @@ Code GetDeviceSubClass(Device *device, std::uint8_t *deviceSubClass);
 Code GetDeviceVendor(Device *device, std::uint16_t *vendor);
 Code GetDeviceProduct(Device *device, std::uint16_t *product);
 
-// Makes a found device ready for requests and gives back the interface to use
-// from now on: the same one, or one that takes its place. Consumes the
-// caller's reference; what is returned holds one. Null when the device cannot
-// be reached: then nothing is held, and *result tells why.
+// Makes a found device ready for requests and returns the interface to use from
+// now on: the same one or another one. Takes the caller's reference; the
+// returned interface has one. Null when the device cannot be reached; then
+// there is no reference, and *result is the reason.
 Device *MakeReady(Device *device, Result *result);
 
 // Sends the request and waits for its end.
 Code Request(Device *device, ControlRequest *request);
 
 Code CloseDevice(Device *device);
-// Gives one reference back; returns how many remain.
+// Releases one reference; returns the number of those that remain.
 std::uint32_t ReleaseDevice(Device *device);
 
 }  // namespace ztk::platform::usb

@@ -99,5 +99,6 @@ class Notes(unittest.TestCase):
 
 if __name__ == "__main__":
     CONTROL, LIBRARY = sys.argv[1:3]
-    BINARIES = dict(zip(("libztkfunc1", "ztk"), sys.argv[2:]))
+    BINARIES = dict(zip(("libztkfunc1", "ztk"),
+                        filter(None, sys.argv[2:])))
     unittest.main(argv=[sys.argv[0], "-v"])

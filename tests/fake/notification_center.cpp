@@ -11,7 +11,7 @@
 namespace ztk::platform::notification_center {
 
 // Not freed before the process ends: a record that the core drops without
-// releasing it is counted, and is not a leak.
+// releasing it is counted, and leak checkers do not report it.
 struct UserInfo {
   int references;
   std::vector<std::pair<std::string, std::int32_t>> entries;

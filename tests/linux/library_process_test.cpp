@@ -72,7 +72,7 @@ TEST_F(LibraryProcess, RegisteredTwiceItRunsTwice) {
   EXPECT_EQ(listener.ReadLine(), "boost 2");
 }
 
-// Absence is proven by a later notification that arrives.
+// To show that a notification does not arrive, a test waits for a later one.
 TEST_F(LibraryProcess, AfterUnregisterItNeverRuns) {
   Child listener({"listen", "input", "input", "-input", "boost"});
   ASSERT_EQ(listener.ReadLine(), "ready");

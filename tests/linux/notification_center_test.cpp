@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Absence is proven by a later notification that does arrive: the bus keeps the
+// A test that expects no notification waits for a later one: the bus keeps the
 // order of its messages.
 #include "platform/notification_center.h"
 

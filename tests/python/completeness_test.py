@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Compares the binding with the C headers, which a second parser reads.
+"""Compares the binding with the C headers, which cffi parses.
 
 Every function, structure and constant of the headers has to be in the binding,
 with the same types, and nothing else.
@@ -28,7 +28,7 @@ from ztkfunc import _library, _structures, functions, outcome
 
 HEADERS = ("ZTKFunc.h", "ZTKOutcome.h")
 
-# The types that cffi names, as ctypes has them.
+# The ctypes of the type names in cffi.
 PLAIN = {
     "uint8_t": ctypes.c_uint8,
     "uint16_t": ctypes.c_uint16,
@@ -44,7 +44,7 @@ PLAIN = {
 
 
 def declarations(folder: pathlib.Path, compiler: str, header: str) -> str:
-    """The header as the compiler sees it, without what a parser of C trips over."""
+    """The preprocessed header, without attributes and system headers."""
     text = subprocess.run(
         [compiler, "-E", "-P", "-x", "c", "-D__attribute__(x)=", str(folder / header)],
         check=True,

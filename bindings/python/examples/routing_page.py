@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Shows what each USB channel records, live, on a web page of this machine.
+"""Shows what each USB channel records on a web page of this machine.
 
 Usage: routing_page.py [--port PORT]
 
 The page is at http://127.0.0.1:8027/ and can only be opened from this machine.
-It changes by itself when any program changes the routing. Port 0 takes a free
-port. The first line of the output says where the page is.
+It is updated when any program changes the routing. With port 0 a free port is used.
+The first line of the output is the address of the page.
 """
 from __future__ import annotations
 
@@ -50,7 +50,8 @@ class Handler(http.server.BaseHTTPRequestHandler):
             "127.0.0.1",
             "localhost",
         ):
-            # A page of another site must not reach this one under its own name.
+            # A page of another site must not reach this server under another
+            # name.
             self.send_error(403)
         elif self.path == "/":
             self.send_page()
@@ -78,7 +79,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
             try:
                 while True:
                     self.send_next(changes)
-            except OSError:  # the browser has left
+            except OSError:  # the browser has closed the connection
                 pass
 
     def send_next(self, changes: queue.Queue[ztkfunc.Change]) -> None:

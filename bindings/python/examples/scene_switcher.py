@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Switches between saved settings at a key or at a MIDI note.
+"""Switches between saved settings when a key is pressed or a MIDI note arrives.
 
 Usage: scene_switcher.py [--midi DEVICE] KEY=FILE...
 
@@ -50,7 +50,7 @@ def load(path: str) -> Scene:
 
 
 def apply(scene: Scene) -> None:
-    """Sets everything that the scene holds, model by model."""
+    """Sets all settings of the scene, model by model."""
     for model, settings in scene.items():
         mixer = ztkfunc.Mixer(model)
         for name, value in settings.items():
@@ -63,7 +63,7 @@ def apply(scene: Scene) -> None:
 
 
 def notes(device: BinaryIO) -> Iterator[int]:
-    """The numbers of the notes that are struck, from a stream of MIDI bytes."""
+    """The numbers of the notes that are played, from a stream of MIDI bytes."""
     status = 0
     data: list[int] = []
     while byte := device.read(1):
@@ -90,7 +90,7 @@ def keys(stream: TextIO) -> Iterator[str]:
 
 
 def switch(key: str, scene: Scene) -> None:
-    """Sets the scene and says what became of it."""
+    """Sets the scene and prints the result."""
     with warnings.catch_warnings(record=True) as caught:
         warnings.simplefilter("always")
         try:

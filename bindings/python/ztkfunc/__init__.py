@@ -7,9 +7,9 @@
     mixer.input[2] = "Post CH2 Fader"
 
 The package calls the installed shared library ZTKFunc. :mod:`ztkfunc.mixer` has
-the settings as objects, :mod:`ztkfunc.changes` tells of changes as they happen,
-:mod:`ztkfunc.outcome` says what the last call did, and
-:mod:`ztkfunc.functions` has the functions of the C headers as they are.
+the settings as objects, :mod:`ztkfunc.changes` delivers changes as they happen,
+:mod:`ztkfunc.outcome` has the effects of the last call, and
+:mod:`ztkfunc.functions` has the functions of the C headers unchanged.
 """
 from ._library import LibraryMissingError
 from ._version import VERSION as __version__

@@ -4,7 +4,7 @@ from __future__ import annotations
 
 from ctypes import Structure, c_int32, c_uint32
 
-# Mixers that a record has room for.
+# The largest number of mixers in a record.
 MIXERS = 127
 
 

@@ -68,8 +68,8 @@ else:
         """A text that lives as long as the library may read it."""
 
         def __init__(self, text: str) -> None:
-            # The library reads up to the first zero byte and would not notice
-            # the rest.
+            # The library reads up to the first zero byte and would ignore the
+            # rest.
             if "\0" in text:
                 raise ValueError("a text must not contain a zero character")
             self.ref = ctypes.c_char_p(text.encode("utf-8"))

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Changes of settings as they happen, whichever program makes them.
+"""Changes of settings as they happen, made by any program.
 
 The library calls one callback for each family of settings. This module
 registers its own, once, and passes each change on to every subscriber.
@@ -12,8 +12,8 @@ Where the callbacks run on Linux:
 
 On macOS they run on the main thread while its run loop runs.
 
-Changes travel over the message bus of the session. Where there is none, as over
-ssh, nothing is ever received.
+Changes are sent over the message bus of the session. Without a bus, for example
+over ssh, nothing is received.
 """
 from __future__ import annotations
 
@@ -67,7 +67,7 @@ class Subscription:
 
 
 class _State:
-    """What the module knows; the lock guards all of it."""
+    """The state of the module; the lock guards all of it."""
 
     def __init__(self) -> None:
         self.lock = threading.Lock()
@@ -116,7 +116,7 @@ def _deliver(setting: str, channel: int | None, index: int) -> None:
 
 
 def _register_all() -> None:
-    """Registers the module's callbacks; they stay for the life of the process."""
+    """Registers the module's callbacks, which stay until the process ends."""
     functions.ZTK_RegisterInputAudioChangedCallback(
         _INPUT_MODEL, lambda channel, index: _deliver("input", channel, index)
     )
@@ -157,7 +157,7 @@ def _start_thread() -> None:
             "install the package libglib2.0-0"
         ) from error
     registered = threading.Event()
-    # A daemon: it has nothing to finish when the program ends.
+    # A daemon thread: it has nothing to finish when the program ends.
     threading.Thread(
         target=_run_main_loop,
         args=(glib, registered),
@@ -168,7 +168,7 @@ def _start_thread() -> None:
 
 
 def use_glib_main_loop() -> None:
-    """Has changes delivered on the GLib main loop of the calling thread.
+    """Delivers changes on the GLib main loop of the calling thread.
 
     Call it once, before the first subscription, on the thread that runs the
     loop: the main thread of a GTK program, or one that has pushed a thread
@@ -186,7 +186,7 @@ def use_glib_main_loop() -> None:
 def subscribe(callback: Callable[[Change], object]) -> Subscription:
     """Calls a function with every :class:`Change` from now on.
 
-    The head of this module says on which thread. A function that raises does
+    The description of this module names the thread. A function that raises does
     not disturb the other subscribers; its error goes to ``sys.excepthook``.
     """
     subscription = Subscription(callback)

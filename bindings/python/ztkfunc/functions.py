@@ -9,7 +9,7 @@ Channels and indexes count from 0. Arguments must fit into 32 bits; others raise
 :class:`OverflowError` before the library is called.
 
 An output that the library did not write is None, except in the three queries
-whose last parameter is ``initial``: they answer 100 and leave the output alone
+whose last parameter is ``initial``: they return 100 and do not change the output
 when no mixer can be opened.
 
 Every call waits for other threads of the program that are in the library, as
@@ -27,7 +27,7 @@ from ._text import TextArgument, TextRef, to_str
 
 #: Done.
 ZTK_SUCCESS = 100
-#: Done, with a warning: the routing cannot be heard as the mixer stands.
+#: Done, with a warning: the routing is not audible with the current selectors.
 ZTK_WARNING = 101
 #: Refused: an argument is out of range or not served.
 ZTK_REJECTED = 102
@@ -138,7 +138,7 @@ def ZTK_GetUSBInputAudioText(
 ) -> tuple[int, str | None]:
     """Names a choice of a USB channel, index 0 to 8 (channel 4: 0 to 9).
 
-    "PARAM ERROR" stands where there is no choice. Serves the model 10.
+    An index without a choice has the text "PARAM ERROR". Serves the model 10.
     """
     return _text(
         "ZTK_GetUSBInputAudioText",
@@ -185,7 +185,7 @@ def ZTK_GetCurrentUSBInputAudioIndex(
 ) -> tuple[int, int | None]:
     """Reads the stored choice of a USB channel, 0 if none is stored.
 
-    The number is the one in the settings file and can be any. Channel 0 to 5.
+    The number comes from the settings file and can be any number. Channel 0 to 5.
     Serves the model 10.
     """
     return _number(
@@ -429,7 +429,7 @@ def ZTK_GetFirmwareVersionIndex(product_id: int) -> tuple[int, int | None]:
 def ZTK_GetMixerInputSelectorStatus(
     product_id: int, channel: int, initial: int = 0
 ) -> tuple[int, int]:
-    """Asks where the input selector of a mixer channel stands, 0 to 16.
+    """Asks for the position of the input selector of a mixer channel, 0 to 16.
 
     Channel 0 to 4. The position stays ``initial`` when no mixer can be opened.
     With 102, the position is the number above 16 that a mixer reported, or

@@ -10,9 +10,9 @@ every program of the session. What is refused raises :class:`Rejected` or
 :class:`ValueError`, and nothing is sent. What was set but did not arrive
 everywhere is a warning of Python's :mod:`warnings`:
 
-- :class:`NotSent`: not every attached mixer has taken the value, or none is
+- :class:`NotSent`: not every attached mixer has accepted the value, or none is
   attached. The value is stored; :meth:`Mixer.apply` sends it again.
-- :class:`NotStored`: the settings file does not hold the value.
+- :class:`NotStored`: the value is not in the settings file.
 - :class:`Inaudible`: the input selector of the channel makes the routing silent.
 
 ``warnings.simplefilter("error", ztkfunc.NotSent)`` makes an exception of one.
@@ -39,7 +39,7 @@ _MODEL_NAMES = {
     10: "VRM-D6",
 }
 _USERS_OWN_LANGUAGE = 99
-# A position that no mixer can report, to see that nothing was reported.
+# A position that no mixer can report; it shows that no mixer has reported one.
 _NO_POSITION = 0xFFFFFFFF
 # Channels with an input selector.
 _SELECTORS = range(1, 5)
@@ -51,11 +51,11 @@ class Rejected(Exception):
 
 
 class NotSent(UserWarning):
-    """Not every attached mixer has taken the value, or no mixer is attached."""
+    """Not every attached mixer has accepted the value, or no mixer is attached."""
 
 
 class NotStored(UserWarning):
-    """The settings file does not hold the value that was sent."""
+    """The value that was sent is not in the settings file."""
 
 
 class Inaudible(UserWarning):
@@ -92,7 +92,7 @@ def _warn(text: str, category: type[Warning]) -> None:
 
 
 def _report(place: str, outcome: Outcome, stores: bool) -> None:
-    """Warns of what the last call did not do."""
+    """Warns when the last call did not do everything."""
     if outcome.mixers_found == 0:
         _warn(f"{place}: no mixer is attached", NotSent)
     else:
@@ -168,8 +168,8 @@ class ChannelSetting(MutableMapping[int, "str | None"]):
         if result == functions.ZTK_REJECTED:
             raise Rejected(f"{place}: the library refused index {index}")
         _report(place, outcome, stores=True)
-        # USB channel 5 has no input selector, and a mixer that did not answer has
-        # not told the position of any: nothing can be said then.
+        # There is no warning for USB channel 5, which has no input selector,
+        # nor when a mixer has not reported its positions.
         if (
             result == functions.ZTK_WARNING
             and outcome.answered
@@ -206,7 +206,7 @@ class ChannelSetting(MutableMapping[int, "str | None"]):
 
 
 class Selectors(Mapping[int, "int | None"]):
-    """Where the input selectors of the mixer stand: channels 1 to 4.
+    """The positions of the input selectors of the mixer: channels 1 to 4.
 
     Each access asks the mixers. None if no mixer answers.
     """
@@ -244,7 +244,7 @@ class Mixer:
     """The settings of one model, VRM-D6 unless another one is named.
 
     All attached mixers are served at once: the library does not tell them
-    apart. Objects of this class hold nothing open and can be made freely.
+    apart. Objects of this class have no open resources.
     """
 
     # A mistyped name of a setting must not be taken for a new attribute.
@@ -274,7 +274,7 @@ class Mixer:
 
     @property
     def connected(self) -> bool:
-        """Whether at least one mixer is attached, of whatever model."""
+        """Whether at least one mixer of any model is attached."""
         return functions.ZTK_IsUSBConnection(self.product_id) == functions.ZTK_CONNECTED
 
     @property
@@ -395,7 +395,7 @@ class Mixer:
 
     @property
     def selectors(self) -> Selectors:
-        """Where the input selectors of channels 1 to 4 stand."""
+        """The positions of the input selectors of channels 1 to 4."""
         self._require(10, "selector query")
         return Selectors()
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the last call on this thread really did.
+"""The effects of the last call on this thread.
 
 The result codes of the library do not report a mixer that refuses a request, a
 file that cannot be written or a missing message bus. :func:`last_outcome` does.
@@ -18,7 +18,7 @@ from ._structures import CFileOutcome, CMixerOutcome, COutcome, CRequestOutcome
 
 
 class Request(IntEnum):
-    """What became of a request to a mixer."""
+    """The result of a request to a mixer."""
 
     #: The call had no such request.
     NONE = 0
@@ -32,12 +32,12 @@ class Request(IntEnum):
     GONE = 4
     #: This user has no permission to open the mixer.
     NOT_PERMITTED = 5
-    #: Another error; the system code tells which.
+    #: Another error; see the system code.
     FAILED = 6
 
 
 class File(IntEnum):
-    """What became of reading or storing a file."""
+    """The result of reading or storing a file."""
 
     #: The call had nothing to do with the file.
     NONE = 0
@@ -53,12 +53,12 @@ class File(IntEnum):
     #: The file holds no property list; storing keeps it under another name.
     DAMAGED = 9
     NOT_REGULAR = 10
-    #: Another error; the system code tells which.
+    #: Another error; see the system code.
     FAILED = 11
 
 
 class Announcement(IntEnum):
-    """What became of the announcement to other programs."""
+    """The result of the announcement to other programs."""
 
     #: The call had nothing to announce.
     NONE = 0
@@ -95,7 +95,7 @@ _FILE_WORDS = {
 
 
 def _request(value: int) -> Request:
-    # A newer library may know more; what they have in common is that they failed.
+    # A newer library may have more codes; all of them are failures.
     return Request(value) if value in Request._value2member_map_ else Request.FAILED
 
 
@@ -116,7 +116,7 @@ def _with_code(words: str, code: int) -> str:
 
 @dataclass(frozen=True)
 class RequestOutcome:
-    """What became of one request to one mixer."""
+    """The result of one request to one mixer, with details."""
 
     result: Request
     #: Whether the mixer could be opened; if not, nothing was sent to it.
@@ -129,7 +129,7 @@ class RequestOutcome:
 
 @dataclass(frozen=True)
 class MixerOutcome:
-    """What became of the requests to one mixer."""
+    """The results of the requests to one mixer."""
 
     #: Number of the mixer, from 1, in the order of the bus.
     number: int
@@ -153,7 +153,7 @@ class MixerOutcome:
 
 @dataclass(frozen=True)
 class FileOutcome:
-    """What became of reading or storing a file."""
+    """The result of reading or storing a file."""
 
     result: File
     #: Number of the operating system's error, 0 if there was none.
@@ -166,7 +166,7 @@ class FileOutcome:
 
 @dataclass(frozen=True)
 class Outcome:
-    """What one call did."""
+    """The effects of one call."""
 
     #: Mixers that the call counted.
     mixers_found: int
@@ -181,7 +181,7 @@ class Outcome:
 
     @property
     def stored(self) -> bool:
-        """Whether the settings file holds the value."""
+        """Whether the value is in the settings file."""
         return self.store.result == File.OK
 
     @property
@@ -212,7 +212,7 @@ def _file_outcome(record: CFileOutcome) -> FileOutcome:
 
 
 def last_outcome() -> Outcome:
-    """What the last call of the library on this thread did.
+    """Returns the effects of the last call of the library on this thread.
 
     Functions that answer from constant tables, such as those for texts and
     counts, leave the record of the call before them.

@@ -10,6 +10,7 @@ namespace {
 
 using std::string_view;
 
+// Older bundles name a folder by the English name of its language.
 struct OlderName {
   string_view language;
   string_view folder;
@@ -95,7 +96,7 @@ std::vector<std::string> PreferredLocales() {
 }
 
 std::vector<std::string> FolderNames(string_view locale) {
-  // Without character set and modifier; "zh-Hant" is another spelling.
+  // Removes the character set and the modifier; "zh-Hant" is another spelling.
   std::string full(locale.substr(0, locale.find_first_of(".@")));
   std::replace(full.begin(), full.end(), '-', '_');
   // A locale name must not lead to a folder outside of the bundle.

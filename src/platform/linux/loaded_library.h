@@ -19,7 +19,8 @@
 
 namespace ztk::platform {
 
-// `Functions` is a struct of pointers, which `findAll` fills in, or is false.
+// `Functions` is a struct of pointers. `findAll` fills it, and returns false
+// when a function is missing.
 template <typename Functions>
 class LoadedLibrary {
  public:
@@ -79,8 +80,8 @@ bool FindFunction(void *library, const char *name, Function *function) {
 
 }  // namespace ztk::platform
 
-// Defines the note about a library that is loaded: its soname, the feature that
-// needs it, and a sentence about that. All are string literals. The alignment
+// Defines the note about a loaded library: its soname, the feature that needs
+// it, and a sentence about the feature. All are string literals. The alignment
 // is explicit because gcc would use a larger one, with gaps between the notes.
 #define ZTK_DLOPEN_JSON(soname, feature, description)            \
   "[{\"feature\":\"" feature "\",\"description\":\"" description \
@@ -95,14 +96,15 @@ bool FindFunction(void *library, const char *name, Function *function) {
 // For the struct: the pointer to a function.
 #define ZTK_LOADED_POINTER(name) decltype(&::name) name;
 
-// For the body of a FindAll: finds one.
+// For the body of a FindAll: finds one function.
 #define ZTK_FIND_LOADED(name)                                           \
   if (!::ztk::platform::FindFunction(library, #name, &functions->name)) \
     return false;
 
-// A function under its own name, which within the namespace means the loaded
-// one; the one that its header declares is not linked with. `functions` gives
-// the struct, and must not be null any more when the function is called.
+// Defines a function under its own name: inside the namespace, the name means
+// the loaded function, and the function of the header is not linked.
+// `functions` returns the struct, and must not be null when the function is
+// called.
 #define ZTK_LOADED_FUNCTION(functions, name)           \
   inline constexpr auto name = [](auto... arguments) { \
     return functions->name(arguments...);              \
