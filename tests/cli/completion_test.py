@@ -20,8 +20,8 @@ import sys
 import tempfile
 import time
 
-# A command line up to the cursor, and what must be offered there; what must not
-# be stands behind "!".
+# A command line up to the cursor, and the words that must be offered there;
+# words after "!" must not be offered.
 LINES = (
     ("ztk inp", ["input"], ["output"]),
     ("ztk input set ", ["1", "5"], ["6"]),
@@ -53,7 +53,7 @@ BASH = r"""
 for program in ztk ztk-virtual-mixer; do . "$FOLDER/$program.bash"; done
 read -ra words <<<"$LINE"
 [[ $LINE != *' ' ]] || words+=('')
-# As bash itself parts the words.
+# As bash itself divides the words.
 COMP_WORDS=()
 for word in "${words[@]}"; do
   while [[ $word == *=* ]]; do
@@ -121,7 +121,7 @@ class Shell:
 
 
 class Zsh:
-    """An interactive shell in a terminal, where its completion lives."""
+    """An interactive shell in a terminal, which its completion needs."""
 
     def __init__(self, environment, home):
         (home / ".zshrc").write_text(ZSH)
@@ -142,10 +142,10 @@ class Zsh:
         return seen
 
     def offered(self, line):
-        # What the next command prints shows that the list is whole.
+        # The output of the next command shows that the list is complete.
         os.write(self.terminal, line.encode() + b"\t\x15echo DO''NE\r")
         seen = self.read_until(r"DONE\r*\n(.|\n)*READY> ")
-        # Where the cursor moves, another piece of text begins.
+        # When the cursor moves, another piece of text begins.
         seen = re.sub(r"\x1b\[[0-9;?]*[A-Za-z]|\x1b[=>]|[\r\x08]", "\n", seen)
         words = []
         for row in seen.split("\n"):

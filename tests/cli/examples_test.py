@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Runs every example of the virtual mixer's manual page.
 
-ztk's own are run by its tests. Attaching to this machine's kernel is left to
-the tests that have a kernel of their own.
+The tests of ztk run its examples. Tests with a kernel of their own attach mixers
+to it.
 
 Usage: examples_test.py FOLDER PROGRAMS
 """
@@ -38,8 +38,8 @@ def main(folder, programs):
                 continue
             command = ["sh", "-c", example]
             if " serve " in example:
-                # Until somebody has seen enough; elsewhere, as the usual port
-                # may be taken here.
+                # Stopped by a signal; it uses another port, because the usual
+                # one may be in use.
                 command = ["timeout", "--preserve-status", "-s", "INT", "1",
                            *example.split(), "--listen", "127.0.0.1:0"]
             elif " run " not in example:
@@ -50,7 +50,7 @@ def main(folder, programs):
                 command, env=environment, stdin=subprocess.DEVNULL,
                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
                 timeout=60, check=False)
-            # Interrupted, sooner or later, it has served all the same.
+            # The interrupt may come early or late; it has served in both cases.
             served = " serve " in example and "Serving 2" in done.stdout
             if done.returncode != 0 and not served:
                 complaints.append(

@@ -23,7 +23,7 @@ def complaints_of(command, page):
     done = subprocess.run([*command, page], env=environment, check=False,
                           stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                           stderr=subprocess.PIPE, text=True)
-    # mandoc complains on its output, man beside it.
+    # mandoc writes complaints to standard output, man to standard error.
     said = done.stdout if command[0] == "mandoc" else done.stderr
     if said or done.returncode:
         return [f"{' '.join(command)} {page.name} ({done.returncode}):\n{said}"]

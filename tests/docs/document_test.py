@@ -70,7 +70,7 @@ def blocks_of(text):
 
 
 def block_of_picture(text):
-    """What the picture of a terminal shows, without the headings between."""
+    """The text in the picture of a terminal, without the headings."""
     lines = [html.unescape(line)
              for line in re.findall(r"<text[^>]*>(.*)</text>", text)]
     return Block("console mixer", "".join(

@@ -17,7 +17,7 @@ import sys
 
 
 def functions_of(header):
-    """Each function with its parameters, read from the declarations alone."""
+    """Each function with its parameters, read only from the declarations."""
     code = re.sub(r"/\*.*?\*/", "", header, flags=re.S)
     for name, parameters in re.findall(
             r"ZTK_EXPORT\s+ZTKResult\s+(\w+)\(([^)]*)\);", code):

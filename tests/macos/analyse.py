@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Has clang's static analyser look at every source for macOS: retain counts,
-null pointers, the rules of IOKit and Foundation. Any warning is a failure.
+"""Runs clang's static analyser on every source for macOS: retain counts, null
+pointers, the rules of IOKit and Foundation. Any warning is a failure.
 
 Usage: analyse.py BUILD-FOLDER
 The folder is that of a build for macOS; its compile commands are used.
@@ -29,7 +29,7 @@ def analyse(entry):
     at = words.index("-o")
     del words[at:at + 2]
     words.remove("-c")
-    # A precompiled header is made for compiling only.
+    # A precompiled header is only useful for compiling.
     if "-include-pch" in words:
         at = words.index("-include-pch") - 1
         del words[at:at + 4]

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""The binding on the real library, among two virtual mixers.
+"""The binding with the real library and two virtual mixers.
 
 To be run inside ``ztk-virtual-mixer run -n 2 --private-settings``, with a
 message bus of its own.
@@ -311,8 +311,8 @@ class ChangesTest(BindingTest):
             ]
             for changes in (first, second):
                 self.assertEqual([changes.get(timeout=30) for _ in wanted], wanted)
-        # What comes after the end of the subscription is not delivered; a third
-        # subscriber shows that it was on its way.
+        # A change after the end of the subscription is not delivered; a third
+        # subscriber shows that it was announced.
         third: queue.Queue[ztkfunc.Change] = queue.Queue()
         with ztkfunc.subscribe(third.put):
             ztkfunc.Mixer().boost = 1

@@ -98,8 +98,8 @@ class Completeness(unittest.TestCase):
             with self.subTest(name):
                 function = getattr(functions, name)
                 self.assertTrue(inspect.getdoc(function))
-                # Outputs and the argument that the library ignores have no
-                # place in Python; everything else has.
+                # In Python there are no outputs and no argument that the
+                # library ignores; everything else is a parameter.
                 self.assertNotIn(
                     inspect.Parameter.empty,
                     [p.annotation for p in inspect.signature(function).parameters.values()],

@@ -26,9 +26,9 @@ def run(*command):
 
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
-    # The build writes beside the sources.
+    # The build writes into the folder of the sources.
     source = shutil.copytree(sys.argv[1], folder / "source")
-    # What the package is built with is the system's: nothing is downloaded.
+    # The build uses the tools of the system: nothing is downloaded.
     run(sys.executable, "-m", "pip", "wheel", "--no-index", "--no-deps",
         "--no-build-isolation", "--quiet", "--wheel-dir", folder, source)
     wheel, = folder.glob("ztkfunc-*-py3-none-any.whl")

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Attacks the settings file and tells what came out.
+"""Attacks the settings file and prints the results.
 
     attacks.py BIN_FOLDER FAIL_ALLOCATION_LIBRARY [--report FILE]
 

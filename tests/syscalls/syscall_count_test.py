@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Holds the number of system calls of the library, and the benchmarks' floor.
+"""Compares the number of system calls of the library with literals, and with the
+floor of the benchmarks.
 
     syscall_count_test.py BENCH_FOLDER BIN_FOLDER
 
-Times are noisy, system calls are exact: one more of them a device is seen here
-at once. system_calls.py tells what is counted and what is left out, so that
-the numbers are those of a machine with real devices.
+Times vary, but numbers of system calls are exact: one additional call for each
+device is detected here. system_calls.py describes what is counted and what is left
+out, so that the numbers are those of a machine with real devices.
 """
 
 import os
@@ -56,7 +57,7 @@ only_counted_libsystemd = unittest.skipUnless(
 class Count(unittest.TestCase):
     def test_reads_each_device_once_with_three_calls(self):
         calls = library_calls("count", mixers=2)
-        # Which device comes first is the file system's choice.
+        # The file system decides which device comes first.
         shortened = [
             f"{call.split()[0]} descriptors"
             if call.endswith("/descriptors") else call for call in calls]

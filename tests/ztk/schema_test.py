@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: MIT
 """Checks everything that ztk --json writes against its schema.
 
-Runs every command where it succeeds and on every way in which it fails, among
-virtual mixers. All of it has to fit the schema, and all of the schema, each
-property and each error code, has to be seen at least once.
+Runs every command with success and with each kind of failure, on virtual mixers.
+All of the output has to match the schema, and each property and each error code of
+the schema has to occur at least once.
 
 Usage: schema_test.py SCHEMA PROGRAMS
 """
@@ -67,7 +67,7 @@ SCENES = (
      "ztk status --json --verbose; ztk apply --all --json"),
     # Without a user's systemd.
     (ONE, "for word in on off status; do ztk autoapply $word --json; done"),
-    # Values that are no choices, in the settings file.
+    # Values in the settings file that are not choices.
     (ONE, """
         folder=$HOME/.config/tarvix/Preferences; mkdir -p $folder
         for value in -1 9 77 2147483647; do
@@ -83,7 +83,7 @@ SCENES = (
     (ONE, "XDG_CONFIG_HOME=/dev/null/x ztk boost set 1 --json;"
      "XDG_CONFIG_HOME=/dev/null/x ztk-virtual-mixer unplug;"
      "XDG_CONFIG_HOME=/dev/null/x ztk boost set 1 --json"),
-    # What would be done, what is put back, and what is carried.
+    # Dry run, undo, export and import.
     (("-n", "2", "--forbid", "2"), """
         for what in "input set 2 mic" "boost set 1" "midi set 2" apply \
           "output default" "input raw 1 0 3" undo; do
@@ -118,14 +118,14 @@ SCENES = (
         XDG_STATE_HOME=$HOME/none ztk boost set 3; ztk undo --dry-run --json
         ztk undo --json
         """),
-    # A value that no setter takes, and so cannot be put back.
+    # A value that no setter accepts, and that undo cannot restore.
     (ONE, """
         folder=$HOME/.config/tarvix/Preferences; mkdir -p $folder
         printf '<plist version="1.0"><dict><key>MaxLevel</key>%s</dict></plist>' \
           '<integer>77</integer>' >$folder/com.tarvix.VRM-D6autosetup.plist
         ztk boost set 2; ztk undo --dry-run --json; ztk undo --json
         """),
-    # What is good, and what is found.
+    # The doctor, without and with findings.
     (ONE, "ztk doctor --json; ztk doctor --report report.json --json; rm report.json"),
     (NONE, "HOME=/nonexistent ztk doctor --json"),
     (("-n", "2", "--fault", "2:stall"), "ztk doctor --json"),
@@ -135,7 +135,7 @@ SCENES = (
         ztk watch --json; ztk boost set 1 --json; ztk output default --json
         ztk doctor --json
         """),
-    # Words that are wrong, and what the library refuses.
+    # Invalid command lines, and calls that the library rejects.
     (ONE, """
         ztk --json; ztk --json nonsense; ztk input --json; ztk inptu set --json
         ztk input set --json; ztk input set 9 1 --json; ztk input set 1 --json
@@ -149,7 +149,7 @@ SCENES = (
         ztk "$(printf '\\377')" --json; ztk boost set "$(printf 'a\\nb')" --json
         ztk warning --json; ztk warning --language de --channel 2 --json
         """),
-    # Changes that are watched, one that no setter makes among them.
+    # ztk watch, also with a change that no setter makes.
     (ONE, """
         ztk watch --json >$HOME/seen 2>$HOME/ready & watcher=$!
         until grep -q watching $HOME/ready; do sleep 0.01; done
@@ -165,7 +165,7 @@ SCENES = (
         kill -INT $watcher; wait $watcher
         exec >&3; cat $HOME/seen
         """),
-    # An interrupt, while a mixer is waited for.
+    # An interrupt during the wait for a mixer.
     (("--fault", "delay:1500"), """
         timeout -s INT 0.7 ztk status --json
         """),
@@ -173,8 +173,8 @@ SCENES = (
 
 
 def objects_of(options, script, environment):
-    """The lines of a scene, and what of them is no object."""
-    # Commands without --json tell people; only the others' output counts.
+    """The lines of a scene, and those that are not objects."""
+    # Only the output of commands with --json counts.
     script = f"exec 3>&1\n{script}"
     done = subprocess.run(
         ["ztk-virtual-mixer", "run", *options, "--", "bash", "-c", script],
@@ -186,7 +186,7 @@ def objects_of(options, script, environment):
 
 
 def seen_in(value, schema, root, seen):
-    """Notes which properties of the schema a value has."""
+    """Records which properties of the schema a value has."""
     if "$ref" in schema:
         target = root
         for name in schema["$ref"].split("/")[1:]:
@@ -214,7 +214,7 @@ def properties_of(schema, path=""):
     if not isinstance(schema, dict):
         return
     for key, part in schema.items():
-        # What a condition names is not what an object holds.
+        # The names in a condition are not properties of an object.
         if key in ("if", "not"):
             continue
         if key == "properties":

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Looks at a framework built for macOS: what it shows, whom it needs, that
-nothing of it runs when it is loaded, and that the bundle is whole.
+"""Inspects a framework that was built for macOS: its visible names, the libraries
+that it needs, that no code runs when it is loaded, and that the bundle is complete.
 
 Usage: binary_test.py --build FOLDER --arch x86_64|arm64 --root SOURCES
 """
@@ -34,7 +34,7 @@ TABLES = ["InputAudioText", "PC_INPUT_PULLDOWN_TEXT", "_convTable_PC_INPUT",
           "OutputAudioText", "VRMB5_OUT_TEXT", "_convTableOut_B5",
           "BoostLevelText", "_convDbTable", "MidiChannelText",
           "MidiKeyModeText"]
-# What a table of texts that needed code to be filled would bring.
+# A table of texts that is filled by code would have such a section.
 INITIALISERS = ["__mod_init_func", "__init_offsets", "__StaticInit"]
 
 OPTIONS = None

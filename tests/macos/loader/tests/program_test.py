@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Runs ztk as it was built for macOS, with one mixer of the double.
+"""Runs the ztk that was built for macOS, with one mixer of the double.
 
 Usage: program_test.py --loader PROGRAM --build FOLDER
 """
@@ -38,7 +38,7 @@ class Ztk(unittest.TestCase):
             cls.environment.pop(name, None)
         cls.center = subprocess.Popen(["gdnc", "--no-fork"],
                                       env=cls.environment)
-        # "GDNCServer", in GNUstep's writing.
+        # "GDNCServer", in the encoding of GNUstep.
         name = home / "NSMessagePort/names/R0ROQ1NlcnZlcg=="
         while not name.exists() and cls.center.poll() is None:
             time.sleep(0.01)
