@@ -2,12 +2,12 @@
 # SPDX-License-Identifier: MIT
 """Makes the folder debian/ that Debian packages are built from.
 
-Takes packaging/debian as it is and fills in what the project knows already:
-the version (CMakeLists.txt), the changes (CHANGELOG.md), the licence (LICENSE)
-and the packages to build with (build.txt and window.txt in scripts/packages).
+Copies packaging/debian and adds what the project contains already: the version
+(CMakeLists.txt), the changes (CHANGELOG.md), the licence (LICENSE) and the packages
+to build with (build.txt and window.txt in scripts/packages).
 
 Changes that have no release yet count as changes of the version in
-CMakeLists.txt, made on the day that SOURCE_DATE_EPOCH names.
+CMakeLists.txt, with the date in SOURCE_DATE_EPOCH.
 
 Usage: make_debian.py ROOT TARGET
 """
@@ -21,7 +21,7 @@ import shutil
 import sys
 import textwrap
 
-# Every system that builds packages has it.
+# Every system that builds packages has these packages.
 ALWAYS_THERE = {"g++"}
 
 COPYRIGHT_HEAD = """\
@@ -73,8 +73,8 @@ def debian_changelog(version, changelog, maintainer):
     for number, date, changes in releases(changelog):
         if newest and number not in (None, version):
             sys.exit(f"CHANGELOG.md: the newest release is {number}, while "
-                     f"CMakeLists.txt says {version}; one of the two is to be "
-                     "changed")
+                     f"CMakeLists.txt says {version}; change one "
+                     "of them")
         newest = False
         if date is None:
             seconds = int(os.environ.get("SOURCE_DATE_EPOCH", "0"))
@@ -91,7 +91,7 @@ def debian_changelog(version, changelog, maintainer):
             *bullets, "",
             f" -- {maintainer}  {email.utils.format_datetime(date)}", ""]))
     if not entries:
-        sys.exit("CHANGELOG.md: there is no change to tell of")
+        sys.exit("CHANGELOG.md: it contains no changes")
     return "\n".join(entries)
 
 

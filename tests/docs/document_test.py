@@ -29,7 +29,8 @@ from typing import NamedTuple
 
 SECONDS = 60
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-# The scripts and tests that run the commands of a block "sh".
+# The scripts and tests that run the commands of a block "sh". No test runs the
+# block "window", which needs a screen.
 RUN_BY = {"compile": "tests/install/install_test.sh",
           "cross": "scripts/check",
           "install": "scripts/try-packages",
@@ -39,7 +40,8 @@ RUN_BY = {"compile": "tests/install/install_test.sh",
           "python": "scripts/try-packages",
           "source": "scripts/try-packages",
           "start": "scripts/try-bare-root",
-          "wheel": "tests/python/wheel_test.py"}
+          "wheel": "tests/python/wheel_test.py",
+          "window": "scripts/demo"}
 
 
 class Block(NamedTuple):
