@@ -2,10 +2,10 @@
  *
  *   read_status [once]
  *
- * The smallest program that reads what "ztk status" reads: every device's identity, to
- * count the mixers and again to find each of them, four registers of each, the
- * settings files. It links only the C library and prints the bytes unchanged.
- * With "once" it asks the mixers during the count.
+ * The smallest program that reads what "ztk status" reads: every device's
+ * identity, to count the mixers and again to find each of them, four registers
+ * of each, the settings files. It links only the C library and prints the bytes
+ * unchanged. With "once" it asks the mixers during the count.
  */
 #include <dirent.h>
 #include <fcntl.h>
