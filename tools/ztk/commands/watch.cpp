@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <optional>
 
 #include "cli/terminal.h"
 #include "ztk/commands/other_commands.h"
@@ -71,7 +72,7 @@ struct Listener {
   const Setting *setting;
 };
 
-// A change may come from any program and hold any number.
+// Any program can announce a change, with any channel and any number.
 std::string ChangeLine(const Listener &listener, std::int32_t channel,
                        std::int32_t index) {
   const Setting &setting = *listener.setting;
@@ -102,7 +103,7 @@ std::string ChangeLine(const Listener &listener, std::int32_t channel,
   return JsonLine("watch", report) + "\n";
 }
 
-// Called by the library, through which no exception may pass.
+// Called by the library: no exception may leave this function.
 void OnChange(std::int32_t channel, std::int32_t index,
               void *context) noexcept {
   const auto *listener = static_cast<const Listener *>(context);
@@ -114,6 +115,30 @@ void OnIndexChange(std::int32_t index, void *context) noexcept {
 }
 
 void SayReady() { WriteError("watching for changes; Ctrl-C ends"); }
+
+// Why ztk watch ended; nothing after Ctrl-C, or when the reader has ended.
+std::optional<Problem> ProblemAtEnd(LoopEnd end, int writeError) {
+  const auto failed = [](const std::string &message) {
+    return Problem{.exit = ExitCode::Failed, .message = message};
+  };
+  switch (end) {
+    case LoopEnd::Interrupted:
+      return {};
+    case LoopEnd::NoBus:
+      return failed(
+          "there is no session message bus to receive changes from, or it "
+          "has ended; run this inside your login session");
+    case LoopEnd::NoLibrary:
+      return failed(
+          "a library that receives changes cannot be loaded; ztk doctor "
+          "names it");
+    case LoopEnd::Stopped:
+      if (writeError == EPIPE) return {};
+      return failed(std::string("cannot write the output: ") +
+                    std::strerror(writeError));
+  }
+  return {};
+}
 
 }  // namespace
 
@@ -139,25 +164,10 @@ Report Watch(const Arguments &arguments) {
   Report report;
   report.written = true;
   if (end == LoopEnd::Interrupted && cli::IsTerminal(STDERR_FILENO)) {
-    // Behind the "^C" that the terminal shows.
+    // After the "^C" that the terminal shows.
     WriteLineEnd();
   }
-  if (end == LoopEnd::NoBus) {
-    report.problem = {
-        .exit = ExitCode::Failed,
-        .message =
-            "there is no session message bus to hear changes on, or it "
-            "is gone; run this inside your login session"};
-  } else if (end == LoopEnd::NoLibrary) {
-    report.problem = {.exit = ExitCode::Failed,
-                      .message =
-                          "a library that hears changes cannot be "
-                          "loaded; ztk doctor tells which"};
-  } else if (end == LoopEnd::Stopped && watcher.writeError != EPIPE) {
-    report.problem = {.exit = ExitCode::Failed,
-                      .message = std::string("cannot write the output: ") +
-                                 std::strerror(watcher.writeError)};
-  }
+  report.problem = ProblemAtEnd(end, watcher.writeError);
   return report;
 }
 

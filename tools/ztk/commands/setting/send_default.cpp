@@ -24,6 +24,29 @@ Report PlanOfDefault(const Setting &setting, std::uint32_t product,
   return report;
 }
 
+struct SentDefaults {
+  RecordedCalls calls;
+  ZTKResult result = ZTK_SUCCESS;
+  bool announced = true;
+  bool announcementFailed = false;
+  std::vector<std::size_t> accepted;  // mixers, for each of the channels
+};
+
+SentDefaults SendDefaults(std::uint32_t product,
+                          const std::vector<std::uint32_t> &channels) {
+  SentDefaults sent;
+  const Progress progress(kWaitingForMixer);
+  for (const std::uint32_t channel : channels) {
+    sent.result = sent.calls.Call(
+        [&] { return ZTK_SetUSBOutputAudioDefault(product, channel); });
+    const std::uint32_t announcement = sent.calls.last().announcement.result;
+    if (announcement != ZTK_ANNOUNCEMENT_SENT) sent.announced = false;
+    if (announcement == ZTK_ANNOUNCEMENT_FAILED) sent.announcementFailed = true;
+    sent.accepted.push_back(sent.calls.acceptedLast());
+  }
+  return sent;
+}
+
 }  // namespace
 
 Report SendDefault(const Setting &setting, const Arguments &arguments) {
@@ -35,25 +58,10 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
   if (arguments.Has(Parameter::kDryRun)) {
     return PlanOfDefault(setting, product, channels);
   }
-  RecordedCalls calls;
-  ZTKResult result = ZTK_SUCCESS;
-  bool announced = true;
-  bool announcementFailed = false;
-  std::vector<std::size_t> accepted;
-  {
-    const Progress progress(kWaitingForMixer);
-    for (const std::uint32_t channel : channels) {
-      result = calls.Call(
-          [&] { return ZTK_SetUSBOutputAudioDefault(product, channel); });
-      const std::uint32_t announcement = calls.last().announcement.result;
-      announced = announced && announcement == ZTK_ANNOUNCEMENT_SENT;
-      announcementFailed =
-          announcementFailed || announcement == ZTK_ANNOUNCEMENT_FAILED;
-      accepted.push_back(calls.acceptedLast());
-    }
-  }
-  if (result != ZTK_SUCCESS) ThrowRejected(setting, product, "the default");
-  const bool any = std::any_of(accepted.begin(), accepted.end(),
+  const SentDefaults sent = SendDefaults(product, channels);
+  if (sent.result != ZTK_SUCCESS)
+    ThrowRejected(setting, product, "the default");
+  const bool any = std::any_of(sent.accepted.begin(), sent.accepted.end(),
                                [](std::size_t count) { return count > 0; });
   for (std::size_t i = 0; i < channels.size(); ++i) {
     const std::uint32_t channel = channels[i];
@@ -63,13 +71,15 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
     report.fields["channels"].push_back(std::move(fields));
     report.text += PlaceName(setting, channel) + ": default " +
                    DescribedValue(setting, channel, channel) +
-                   Sent(accepted[i], calls.reach(), any) + ", not remembered\n";
+                   Sent(sent.accepted[i], sent.calls.reach(), any) +
+                   ", not remembered\n";
   }
-  report.fields["result"] = result;
-  report.fields["announced"] = announced;
-  ReportReach(calls.reach(), NeverRemembered("ztk output default"), &report);
-  WarnOfOtherModel(setting, calls.reach(), &report);
-  if (announcementFailed) WarnOfFailedAnnouncement(&report);
+  report.fields["result"] = sent.result;
+  report.fields["announced"] = sent.announced;
+  ReportReach(sent.calls.reach(), NeverRemembered("ztk output default"),
+              &report);
+  WarnOfOtherModel(setting, sent.calls.reach(), &report);
+  if (sent.announcementFailed) WarnOfFailedAnnouncement(&report);
   return report;
 }
 
