@@ -204,6 +204,9 @@ hardening() {
 programs() {
   (cd / && env -u LD_LIBRARY_PATH "$PREFIX/bin/ztk" --help >/dev/null)
   (cd / && "$PREFIX/bin/ztk-virtual-mixer" --help >/dev/null)
+  # Left out where there is no Qt.
+  [[ ! -x $PREFIX/bin/ztk-window ]] ||
+    (cd / && env -u LD_LIBRARY_PATH "$PREFIX/bin/ztk-window" --help >/dev/null)
 }
 
 "$1"
