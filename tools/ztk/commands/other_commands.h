@@ -16,7 +16,7 @@ Report ShowStatus(const Arguments &arguments);
 // Takes back the last change that this program made.
 Report Undo(const Arguments &arguments);
 
-// Forgets what is remembered, and sends nothing.
+// Removes remembered values, and sends nothing.
 Report Reset(const Arguments &arguments);
 
 // Writes all remembered settings as text, and reads such a text. An import sets

@@ -29,7 +29,7 @@ void RequireReadable(const Setting &setting) {
   throw Failure(ExitCode::Failed, "nothing was forgotten: cannot read " + why);
 }
 
-// The values that the words name: of one channel, of one setting, or all.
+// The values that the arguments name: those of a channel, of a setting, or all.
 std::vector<StoredValue> ValuesFor(const Arguments &arguments) {
   const std::string *word = arguments.Find(Parameter::kSetting);
   if (word == nullptr) {

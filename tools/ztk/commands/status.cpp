@@ -22,7 +22,7 @@ constexpr std::size_t kValueColumn = 15;
 
 using Mixers = std::vector<MixerStatus>;
 
-// What a fact is called, its value for programs and its words for people.
+// The name of a fact, its value for programs and its words for people.
 struct Fact {
   const char *name;
   const char *title;
@@ -99,7 +99,7 @@ bool IsOpened(const MixerStatus &mixer) {
          mixer.mixer.state != MixerState::Gone;
 }
 
-// Behind "mixer 1": "is reachable", "does not answer", ...
+// The words after "mixer 1": "is reachable", "does not answer", ...
 std::string StateWords(const MixerStatus &mixer) {
   switch (mixer.mixer.state) {
     case MixerState::Answered:
@@ -139,7 +139,7 @@ Json FieldsOf(const MixerStatus &mixer) {
   return fields;
 }
 
-// All that a mixer tells, on several lines.
+// Everything that a mixer reports, on several lines.
 std::string Details(const MixerStatus &mixer, bool isOnly) {
   std::string text = "Mixer " + std::to_string(mixer.mixer.number) +
                      (isOnly ? " " : ", port " + mixer.place + ", ") +
@@ -177,7 +177,7 @@ std::string TextOf(const Mixers &mixers, bool verbose) {
   return text;
 }
 
-// What to do next where something is missing; empty where nothing is.
+// What to do next when something is missing; else empty.
 std::string NextStep(const Mixers &mixers) {
   const auto any = [&mixers](MixerState state) {
     return std::any_of(mixers.begin(), mixers.end(),

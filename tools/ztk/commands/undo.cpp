@@ -17,7 +17,7 @@ namespace ztk::program {
 
 namespace {
 
-// A value of the history: where nothing was remembered, it was reset.
+// A value of the history; no value means that nothing was remembered.
 std::string ValueWords(const Setting &setting, std::uint32_t channel,
                        const std::optional<std::uint32_t> &value) {
   return value ? DescribedValue(setting, channel, *value) : "reset";
@@ -263,7 +263,7 @@ void ListSteps(const std::vector<Step> &steps, Report *report) {
                            report->text;
 }
 
-// How many steps to take back: the number that was given, or one.
+// The number of steps to take back: the given number, or one.
 std::size_t StepsFor(const Arguments &arguments, std::uint32_t known) {
   const std::string *word = arguments.Find(Parameter::kSteps);
   if (word == nullptr) return 1;

@@ -11,14 +11,14 @@
 
 namespace ztk::program {
 
-// Adds to the warnings what a 101 for a channel of USB input audio means: the
-// library's sentence in the user's language, or one of this program where the
-// library has none. Of several mixers it names those that are meant. Nothing is
-// added without a mixer, and for a channel without a selector. May ask the
-// mixers for the state of their ports and selectors.
+// Adds a warning that explains the result 101 for a channel of USB input audio:
+// the sentence of the library in the user's language, or one of this program
+// when the library has none. With several mixers it names those that are
+// affected. Adds nothing without a mixer, or for a channel without a selector.
+// May ask the mixers for the state of their ports and selectors.
 void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report);
 
-// The same for each of the changes that was answered so.
+// The same for each change with that result.
 void ExplainWarnings(const MadeChanges &made, Report *report);
 
 // The first channels have a selector, and so a warning.

@@ -26,7 +26,7 @@ struct Watcher {
 };
 Watcher *theWatcher = nullptr;
 
-// Nobody reads the other end of the pipe any more.
+// Whether the reader of the pipe has ended.
 void EndWith(int error) {
   theWatcher->writeError = error;
   StopLoop();
@@ -52,8 +52,7 @@ std::string PluggingLine(const Plugging &plugging) {
   return JsonLine("watch", report) + "\n";
 }
 
-// A closed pipe is only noticed when something is written; here it is asked
-// for.
+// A write would detect a closed pipe; this detects it without a write.
 bool OutputIsClosed() {
   pollfd output{.fd = STDOUT_FILENO, .events = 0, .revents = 0};
   return poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;

@@ -43,7 +43,7 @@ std::string WhyOldFileKept(const ZTKFileOutcome &read) {
   }
 }
 
-// What the library has recorded of a change that it has accepted.
+// Stores the record of a change that the library has accepted.
 void AddOutcome(const RecordedCalls &calls, MadeChange *one) {
   const ZTKOutcome &outcome = calls.last();
   one->accepted = calls.acceptedLast();

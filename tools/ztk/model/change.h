@@ -21,8 +21,8 @@ struct Change {
   std::uint32_t product;
   std::uint32_t channel;
   std::uint32_t index;
-  // The value is sent and announced, and afterwards nothing is remembered: a
-  // default that stands for the time before the first choice.
+  // The value is sent and announced, and nothing is remembered afterwards: it
+  // is the default, for a setting that was never chosen before.
   bool forgets = false;
 };
 
@@ -32,9 +32,9 @@ struct MadeChange {
   std::size_t accepted = 0;  // mixers that have accepted the value
   bool remembered = false;   // it is stored in the settings file
   bool announced = false;    // the message bus has accepted the announcement
-  // There is a message bus, and it did not take the announcement.
+  // There is a message bus, and it did not accept the announcement.
   bool announcementFailed = false;
-  bool forgotten = false;  // nothing is remembered, as was asked for
+  bool forgotten = false;  // nothing is remembered, as requested
   // A mixer has answered with the positions of its input selectors.
   bool selectorsKnown = false;
   // Why it is not stored, as a part of a sentence; empty when it is.

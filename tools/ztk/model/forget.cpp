@@ -16,7 +16,7 @@ using platform::text::Made;
 
 namespace {
 
-// One try: an errno value, 0 where the file does not hold the key.
+// One try. Returns an error number; 0 when the key is not in the file any more.
 int TryToRemove(ZTKTextRef path, ZTKTextRef key) {
   plist::Dictionary *settings = plist::MakeDictionary();
   const plist::ReadResult read = plist::AddEntriesOfFile(settings, path);
@@ -39,11 +39,12 @@ int TryToRemove(ZTKTextRef path, ZTKTextRef key) {
 std::string RemoveRemembered(const Setting &setting, std::uint32_t channel) {
   const Made path(store::MakePath(setting.model));
   if (path.get() == nullptr) return "you have no home folder";
-  // A key without a channel has no place to put it in.
+  // A key without a channel has no placeholder for it.
   const Made key(
       platform::text::Format(setting.key, static_cast<std::int32_t>(channel)));
   plist::Change *change = plist::BeginChange(path.get());
-  // Another program may replace the file in between where it cannot be locked.
+  // Another program may replace the file in between when the file cannot be
+  // locked.
   constexpr int kAttempts = 20;
   int error = ESTALE;
   for (int left = kAttempts; left > 0 && error == ESTALE; --left) {

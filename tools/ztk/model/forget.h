@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Forgetting what is remembered: the settings file holds it no longer, and
-// nothing is sent or announced.
+// Removes remembered values from the settings file. Nothing is sent or
+// announced.
 #ifndef ZTK_TOOLS_ZTK_MODEL_FORGET_H_
 #define ZTK_TOOLS_ZTK_MODEL_FORGET_H_
 
@@ -14,24 +14,24 @@
 
 namespace ztk::model {
 
-// Removes the value of a channel from the settings file. Answers why the file
-// still holds it, as a part of a sentence; empty where it does not.
+// Removes the value of a channel from the settings file. Returns why the value
+// is still in the file, as a part of a sentence; empty when it is not.
 std::string RemoveRemembered(const Setting &setting, std::uint32_t channel);
 
 struct ForgottenValue {
   StoredValue value;
-  // Why it is still remembered, as a part of a sentence; empty where it is not.
+  // Why it is still remembered, as a part of a sentence; empty when it is not.
   std::string notForgotten;
 };
 
 struct ForgottenStep {
   std::vector<ForgottenValue> values;
-  // Why the history does not hold this step; empty when it does, or when
+  // Why the history does not contain this step; empty when it does, or when
   // nothing has changed.
   std::string notRecorded;
 };
 
-// Forgets the values as one step of the history, which is not busy.
+// Removes the values as one step of the history, which must not be busy.
 ForgottenStep ForgetValues(const std::string &command,
                            const std::vector<StoredValue> &values,
                            History *history);

@@ -11,7 +11,7 @@
 namespace ztk::model {
 
 // Calls the function with each number below `count`, each call in a thread of
-// its own, the last one in this thread. Returns when all have ended. Where no
+// its own, the last one in this thread. Returns when all have ended. When no
 // more threads can be started, this thread makes the calls. The functions in
 // src/usb/USB.h may be called from any thread.
 void InParallel(std::size_t count,

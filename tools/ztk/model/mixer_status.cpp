@@ -12,7 +12,8 @@ namespace ztk::model {
 
 namespace {
 
-// What a reply is preset to, as a read does not tell how much came.
+// The reply is preset to this value, because a read does not report how many
+// bytes arrived.
 constexpr std::uint8_t kUntouched = 0xFF;
 
 using Read = usb::Code (*)(usb::Connection device, std::uint8_t *buffer,
@@ -20,15 +21,15 @@ using Read = usb::Code (*)(usb::Connection device, std::uint8_t *buffer,
 
 enum class Questions : std::uint8_t { All, Selectors };
 
-// Asks one mixer. After a request without an answer the others are not sent:
-// each would be waited for as long.
+// Asks one mixer. After a request without an answer no further request is sent,
+// because each would take the full time-out.
 class MixerReader {
  public:
   MixerReader(usb::Connection connection, MixerStatus *status)
       : connection_(connection), status_(status) {}
 
-  // Makes the fact from the reply; `make` answers none for a value that means
-  // nothing.
+  // Makes the fact from the reply; `make` returns no value for bytes without a
+  // meaning.
   template <typename Value, typename Make>
   void Ask(Read read, std::uint16_t length, MixerFact<Value> *fact, Make make) {
     if (!status_->answers()) return;
@@ -117,9 +118,9 @@ MixerStatus AskMixer(std::size_t position, const std::string &place,
   return status;
 }
 
-// Mixers are opened by their position, which is another one's as soon as a
-// mixer before it has gone. So when one did not answer, and by now other mixers
-// are attached, all are asked again.
+// Mixers are opened by their position, which changes when a mixer before it is
+// unplugged. So when one did not answer and other mixers are attached by now,
+// all are asked again.
 std::vector<MixerStatus> AskEach(Questions questions) {
   constexpr int kTries = 3;
   std::vector<std::string> places = MixerPlaces();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the mixers tell of themselves.
+// The status that the mixers report.
 #ifndef ZTK_TOOLS_ZTK_MODEL_MIXER_STATUS_H_
 #define ZTK_TOOLS_ZTK_MODEL_MIXER_STATUS_H_
 
@@ -15,7 +15,7 @@
 
 namespace ztk::model {
 
-// A fact that a mixer was asked for. Without a value, `why` says why: "no
+// A value that a mixer was asked for. Without a value, `why` is the reason: "no
 // answer", "not asked", "unknown".
 template <typename Value>
 struct MixerFact {
@@ -28,29 +28,30 @@ using SelectorPositions =
     std::array<std::optional<std::uint8_t>, status::kSelectors>;
 
 struct MixerStatus {
-  // Answered unless it could not be opened, has gone or did not answer; a mixer
-  // that refuses a single question counts as answering.
+  // Answered, unless it could not be opened, was unplugged or did not answer. A
+  // mixer that refuses a single query counts as answering.
   Mixer mixer;
-  // The first question that failed, and how; none where all were answered.
+  // The first query that failed, and how; none when all were answered.
   std::optional<Mixer> failure;
-  std::string place;  // the system's name of the port, as "1-2"
+  std::string place;  // the system's name of the port, such as "1-2"
   MixerFact<std::uint16_t> firmware;
   MixerFact<std::uint32_t> certificationLevel;
   MixerFact<SelectorPositions> selectors;
   MixerFact<bool> seratoActive;
 
   bool answers() const { return mixer.state == MixerState::Answered; }
-  // Whether it answers what every mixer answers. Single questions may be
-  // unknown to it.
+  // Whether it answers the queries that every mixer knows. It may not know
+  // single queries.
   bool works() const { return answers() && firmware.value.has_value(); }
 };
 
-// All mixers that are attached, in the order of the bus, asked at the same
-// time. A mixer that does not answer is asked nothing more, so this takes as
-// long as one request. Asks again when a mixer has come or gone meanwhile.
+// All attached mixers in the order of the bus. They are asked at the same time,
+// and a mixer that does not answer is not asked again, so this takes as long as
+// one request. Asks all again when a mixer was plugged in or unplugged during
+// this.
 std::vector<MixerStatus> AskEveryMixer();
 
-// The same for the selectors alone.
+// The same, but only for the selectors.
 std::vector<MixerStatus> AskForSelectors();
 
 // "4.36", as the two bytes of the number read.

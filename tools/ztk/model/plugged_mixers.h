@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Noticing mixers that are plugged in and unplugged.
+// Detects mixers that are plugged in and unplugged.
 #ifndef ZTK_TOOLS_ZTK_MODEL_PLUGGED_MIXERS_H_
 #define ZTK_TOOLS_ZTK_MODEL_PLUGGED_MIXERS_H_
 
@@ -12,16 +12,16 @@ namespace ztk::model {
 
 struct Plugging {
   std::string place;  // the system's name of the port
-  bool attached;      // false: it is gone
+  bool attached;      // false: it was unplugged
 };
 
-// Knows the mixers that were attached when it last looked.
+// Stores which mixers were attached at the last call of Look().
 class PluggedMixers {
  public:
   PluggedMixers();
 
-  // Looks again, without asking a mixer anything. Returns what has changed,
-  // mixers that are gone first.
+  // Lists the mixers again, without sending requests. Returns the changes,
+  // unplugged mixers first.
   std::vector<Plugging> Look();
   std::size_t count() const { return places_.size(); }
 

@@ -80,7 +80,7 @@ std::string Sentence(int number, MixerState state) {
   return "";
 }
 
-// What became of the request that sets a value.
+// The result of the request that sets a value.
 Mixer AfterWrite(int number, const ZTKRequestOutcome &write) {
   Mixer mixer{
       .number = number, .state = StateOf(write), .reason = {}, .message = {}};

@@ -46,7 +46,8 @@ Mixer Unopened(int number, const std::string &place);
 // The mixer was opened, and its last request ended with this code.
 Mixer Unanswering(int number, usb::Code code);
 
-// Asks the mixers at these places something harmless, all at the same time.
+// Sends the mixers at these places a query, which changes nothing, all at the
+// same time.
 Reach AskMixers(const std::vector<std::string> &places);
 
 // Calls functions of the library one after the other, and collects the results

@@ -7,7 +7,7 @@ namespace ztk::model {
 
 namespace {
 
-// The low byte of the value that a mixer is sent.
+// The low byte of the value that mixers receive.
 constexpr std::uint16_t kLine = 1;
 constexpr std::uint16_t kPhono = 3;
 constexpr std::uint16_t kPostOwnFader = 6;
@@ -15,7 +15,7 @@ constexpr std::uint16_t kCrossFaderA = 7;
 constexpr std::uint16_t kCrossFaderB = 8;
 constexpr std::uint16_t kMic = 9;
 constexpr std::uint16_t kRecOut = 10;
-// Behind the fader of CH1; those of the other lanes follow.
+// After the fader of CH1; the other lanes follow.
 constexpr std::uint16_t kPostFirstFader = 17;
 
 std::optional<Tap> TapOfSource(std::uint32_t channel, std::uint16_t source) {

@@ -18,14 +18,14 @@ inline constexpr std::uint32_t kLanes = 4;
 enum class Source : std::uint8_t {
   Phono,      // an input of a lane
   Line,       // an input of a lane
-  PostFader,  // behind the fader of a lane
+  PostFader,  // after the fader of a lane
   CrossFaderA,
   CrossFaderB,
   Mic,
   RecOut
 };
 
-// Where a signal is taken from.
+// The point from which a signal is recorded.
 struct Tap {
   Source source;
   std::uint32_t lane = 0;  // counts from 0; 0 for a source without lanes
@@ -33,19 +33,20 @@ struct Tap {
   bool operator==(const Tap &) const = default;
 };
 
-// The tap that a choice of a USB channel stands for; none for a number that is
-// no choice.
+// The tap that a choice of a USB channel records; none for a number that is not
+// a choice.
 std::optional<Tap> TapOf(std::uint32_t channel, std::uint32_t index);
 
-// The choice of a USB channel that records this tap; none where it has none.
+// The choice of a USB channel that records this tap; none when there is no such
+// choice.
 std::optional<std::uint32_t> IndexOf(std::uint32_t channel, const Tap &tap);
 
 // The lane whose input selector decides whether this choice can be heard; none
-// where no selector does.
+// when it depends on no selector.
 std::optional<std::uint32_t> DecidingSelector(std::uint32_t channel,
                                               std::uint32_t index);
 
-// The position of that selector in which it can be heard.
+// The position of that selector in which the choice can be heard.
 inline constexpr int kAudiblePosition = ZTK_SELECTOR_AUDIBLE;
 
 }  // namespace ztk::model

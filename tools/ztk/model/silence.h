@@ -17,18 +17,18 @@ namespace ztk::model {
 struct SilentRouting {
   int mixer;              // its number
   std::uint32_t channel;  // from 0
-  std::uint32_t index;    // the choice: what is remembered, or the default
+  std::uint32_t index;    // the choice: the remembered one, or the default
   std::uint8_t position;  // of the input selector
 };
 
-// In the order of the mixers and channels. Mixers that have not told their
-// selectors are passed over.
+// In the order of the mixers and channels. Leaves out mixers that have not
+// reported their selectors.
 std::vector<SilentRouting> FindSilentRoutings(
     const std::vector<MixerStatus> &mixers);
 
 // "USB input 1 is silent: the input selector for CH1 is in position 3, and 1
-// CH1 Control Tone PHONO needs position 4". Names the mixer where there are
-// others.
+// CH1 Control Tone PHONO needs position 4". Names the mixer when there are
+// several.
 std::string Described(const SilentRouting &routing, bool namesMixer);
 
 // Whether the choice depends on the input selector of its channel.

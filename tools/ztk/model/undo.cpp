@@ -36,11 +36,11 @@ void TakeBack(const PastChange &change, std::vector<UndoItem> *items) {
     items->push_back({.past = change, .action = ActionFor(change, now)});
     return;
   }
-  // Somebody else's value stays, whatever was before it.
+  // A value of another program stays, independent of the value before it.
   if (later->action == Action::LeaveAlone) return;
   switch (ActionFor(change, later->past.before)) {
     case Action::PutBack:
-      // Where the later change is void, this one is in effect.
+      // When the later change is void, this one is in effect.
       if (later->action == Action::Nothing) later->past.after = change.after;
       later->past.before = change.before;
       later->action = Action::PutBack;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How the changes of the last steps are taken back.
+// How undo takes back the changes of the last steps.
 #ifndef ZTK_TOOLS_ZTK_MODEL_UNDO_H_
 #define ZTK_TOOLS_ZTK_MODEL_UNDO_H_
 
@@ -13,9 +13,9 @@
 
 namespace ztk::model {
 
-// What undo does about one channel of a setting. Where several steps have
-// changed it, `past` goes from the value before the first of them to the value
-// after the last one.
+// What undo does with one channel of a setting. When several steps have changed
+// it, `past` goes from the value before the first step to the value after the
+// last one.
 struct UndoItem {
   PastChange past;
   enum class Action : std::uint8_t {
@@ -25,7 +25,7 @@ struct UndoItem {
   } action;
 };
 
-// What is set to put a change back: the value before it; the default where
+// The value that takes a change back: the value before it, or the default when
 // nothing was remembered.
 std::uint32_t FormerIndex(const PastChange &change);
 
@@ -33,7 +33,7 @@ std::uint32_t FormerIndex(const PastChange &change);
 // all can be read. Without the file the current value is not known.
 std::string WhyUnreadable(const Step &step);
 
-// What taking back the last `count` steps does, the last change first.
+// What undo of the last `count` steps does, the last change first.
 std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
                                std::size_t count = 1);
 
@@ -42,11 +42,11 @@ std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
 bool IsVoid(const Step &step);
 
 // Removes the last steps of the history that are void, as far as the settings
-// files can be read. Returns how many.
+// files can be read. Returns their number.
 std::size_t DropVoidSteps(History *history);
 
-// The changes that restore the former values. Where nothing was remembered
-// before, the default is sent and nothing is remembered again.
+// The changes that restore the former values. When nothing was remembered
+// before, the default is sent, and nothing is remembered again.
 std::vector<Change> ChangesOf(const std::vector<UndoItem> &items);
 
 }  // namespace ztk::model

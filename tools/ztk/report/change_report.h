@@ -25,21 +25,21 @@ class SharedHistory {
   std::optional<History> history_;
 };
 
-// Shows while it lives what is waited for, and how long at most.
+// While it exists, shows what the program waits for, and the longest time.
 Progress WaitForChanges(const std::vector<Change> &changes, std::size_t mixers);
 
-// Makes the changes as one step of the history, and shows when a mixer has to
-// be waited for. Of several mixers it says in a terminal how many they are,
-// unless `quiet`. Adds a warning where undo will not know of the step.
+// Makes the changes as one step of the history, and shows when it waits for a
+// mixer. In a terminal it shows the number of mixers when there are several,
+// unless `quiet`. Adds a warning when undo will not know the step.
 MadeChanges RunStep(const std::string &command,
                     const std::vector<Change> &changes, bool quiet,
                     Report *report);
 
-// What is said where not every mixer has accepted what was sent, as parts of a
-// sentence: "Boost level is saved, but" the mixer did not answer; switch it off
-// and on again, then "run: ztk boost apply".
+// The parts of the sentence for a value that not every mixer has accepted:
+// "Boost level is saved, but" the mixer did not answer; switch it off and on
+// again, then "run: ztk boost apply".
 struct DeliveryTexts {
-  std::string before;  // what stands before the reason, with its space
+  std::string before;  // the words before the reason, with a space
   std::string again;   // what to do to send it again
 };
 
@@ -57,15 +57,16 @@ void ReportOutcome(const MadeChanges &made, const std::string &what,
 // A line for a choice that the library will not send again, empty for others.
 std::string NoteOnSendingAgain(const Change &change);
 
-// ", sent to 2 mixers", ", sent to 1 of 2 mixers". Where no mixer has accepted
-// it: ", not accepted" if `others` were, else nothing, as the problem says why.
+// ", sent to 2 mixers", ", sent to 1 of 2 mixers". When no mixer has accepted
+// it: ", not accepted" if `others` were accepted, else nothing, because the
+// problem has the reason.
 std::string Sent(std::size_t accepted, const Reach &reach, bool others);
 
 // ", sent to 1 mixer, remembered", of one of these changes.
 std::string Described(const MadeChange &change, const MadeChanges &made);
 
-// After an announcement that the message bus has not taken. Without a bus
-// nobody is there to hear it, which is worth no warning.
+// Adds a warning about an announcement that the message bus did not accept.
+// Without a bus no program could receive it, so there is no warning.
 void WarnOfFailedAnnouncement(Report *report);
 
 }  // namespace ztk::program

@@ -16,14 +16,14 @@ namespace ztk::program {
 // "USB output audio belongs to the VRM-B5."
 std::string Belonging(const Setting &setting);
 
-// Which choices are not sent again, as a sentence; empty where all are.
+// A sentence about the choices that are not sent again; empty when all are.
 std::string LimitSentence(const Setting &setting);
 
 // Both of these.
 std::string Note(const Setting &setting);
 
 // "apply can only re-send channels 1 to 4; for 5 to 16 use set again"; empty
-// where apply sends every choice.
+// when apply sends every choice.
 std::string ResendLimit(const Setting &setting);
 
 // "USB output audio of the VRM-B5: where playback goes"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The message bus through which changes of other programs are heard, watched
-// only for its end: the library's registrations are silent about that.
+// Watches the message bus that delivers the changes of other programs, to
+// detect its end: the registrations of the library do not report it.
 #ifndef ZTK_TOOLS_ZTK_SYSTEM_BUS_WATCH_H_
 #define ZTK_TOOLS_ZTK_SYSTEM_BUS_WATCH_H_
 
@@ -17,9 +17,9 @@ class BusWatch {
   BusWatch(const BusWatch &) = delete;
   BusWatch &operator=(const BusWatch &) = delete;
 
-  // Whether the bus is there. To be asked when the descriptor can be read.
+  // Whether the bus still exists. Call this when the descriptor can be read.
   bool IsAlive();
-  // Below 0 where there is nothing to wait for.
+  // Below 0 when there is nothing to wait for.
   int descriptor() const;
 
  private:

@@ -22,8 +22,9 @@ enum class LoopEnd : std::uint8_t {
   NoLibrary     // a library for receiving changes cannot be loaded
 };
 
-// Runs the loop that delivers changes. Calls `ready` once whatever was
-// registered before is being heard, and `everySecond` about once in a second.
+// Runs the loop that delivers changes. Calls `ready` as soon as all callbacks
+// that were registered before receive changes, and `everySecond` about once in
+// a second.
 LoopEnd RunLoop(void (*ready)(), void (*everySecond)());
 
 // Ends the loop from within a callback.

@@ -7,15 +7,15 @@
 
 namespace ztk::model {
 
-// A device on the bus, without anything that tells whose it is. A text is empty
-// where the system does not tell it.
+// A device on the bus, without data that identifies its user. A text is empty
+// when the system does not report it.
 struct UsbDevice {
   std::string place;  // as MixerPlaces() names places
   // Two hexadecimal digits. When the interfaces have classes of their own, the
   // class of the first interface.
   std::string deviceClass;
   std::string speed;  // in Mbit/s
-  // What the device calls itself, where the system tells.
+  // The name that the device gives itself, if the system reports it.
   std::string product = {};
 };
 

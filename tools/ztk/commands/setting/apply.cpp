@@ -36,7 +36,7 @@ void AddSetting(const StoredValue &value, const Reach &reach, bool others,
                 Report *report) {
   AddSettingFields(value, report);
   std::string sent = Sent(value.accepted, reach, others);
-  // Of one mixer it goes without saying to how many.
+  // With a single mixer the number of mixers is not needed.
   if (value.accepted > 0 && reach.found() == 1) sent = ", sent";
   report->text +=
       NamedValue(value) + (value.refused ? ", refused" : sent) + "\n";
@@ -157,7 +157,7 @@ Report ApplySetting(const Setting &setting, const Arguments &arguments) {
 
 namespace {
 
-// What is remembered for the model; for every model where none is named.
+// The remembered values of the model; of every model when none is named.
 std::vector<StoredValue> ValuesOf(std::optional<std::uint32_t> product) {
   std::vector<StoredValue> values;
   for (const Setting *setting : AllSettings()) {
@@ -171,9 +171,9 @@ std::vector<StoredValue> ValuesOf(std::optional<std::uint32_t> product) {
   return values;
 }
 
-// Without the name of a model: the values of the VRM-D6; where it has none,
-// those of its sister models, whose owners need not name them. The models that
-// are left out are added to the list.
+// Without the name of a model: the values of the VRM-D6; when it has none,
+// those of its sister models, so that their owners need not name them. Adds the
+// models that are left out to the list.
 std::vector<StoredValue> UsualValues(std::vector<std::string> *leftOut) {
   std::vector<StoredValue> values = ValuesOf(std::nullopt);
   const auto isOwn = [](const StoredValue &value) {

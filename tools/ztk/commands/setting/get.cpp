@@ -14,7 +14,7 @@ namespace ztk::program {
 
 namespace {
 
-// Asks the mixers only where the answer depends on their input selectors.
+// Asks the mixers only when the answer depends on their input selectors.
 void AddSilenceOf(const std::vector<std::uint32_t> &channels, Report *report) {
   const auto isAsked = [&channels](std::uint32_t channel) {
     return std::find(channels.begin(), channels.end(), channel) !=
