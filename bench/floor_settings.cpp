@@ -129,6 +129,8 @@ void ReplaceSettings() {
   std::memcpy(fresh, file, fileLength);
   std::memcpy(fresh + fileLength, ".floor1", sizeof ".floor1");
   MakeFresh(fresh);
+  const int old = open(file, O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC);
+  flock(old, LOCK_EX | LOCK_NB);
   lstat(file, &status);
   rename(fresh, file);
   const int listing =
@@ -137,6 +139,7 @@ void ReplaceSettings() {
   fsync(listing);
   ReadFolder(listing);
   close(listing);
+  close(old);
 
   sigpending(&pending);
   pthread_sigmask(SIG_SETMASK, &before, nullptr);

@@ -3,13 +3,17 @@
 // Another program copies over the settings file in place, as `cp` does, and
 // stops in the middle for some time. The pauses between two readings are
 // replaced: they take no time, and the copy goes on in them.
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/time.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
 #include <ctime>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <string>
@@ -123,9 +127,32 @@ TEST_F(FileWatch, ReadsAnOldDamagedFileOnlyTwice) {
   EXPECT_EQ(paused, milliseconds(10));
 }
 
+// Two processes without the lock of the folder have read the same file. The
+// other one has found it unchanged and is about to replace it.
+TEST_F(FileWatch, WaitsForAProcessThatReplacesTheFileThisMoment) {
+  Put(path_, old_);
+  const int other = open(path_.c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(flock(other, LOCK_EX), 0);
+  plist::Dictionary *dictionary = plist::MakeDictionary();
+  plist::AddEntriesOfFile(dictionary, path_.c_str());
+  duringPause = [this, other](milliseconds) {
+    Put(folder_ / "others", both_);
+    std::filesystem::rename(folder_ / "others", path_);
+    close(other);
+    duringPause = [](milliseconds) {};
+  };
+  int error = 0;
+  EXPECT_FALSE(plist::WriteAtomically(dictionary, path_.c_str(), &error));
+  EXPECT_EQ(error, ESTALE);
+  plist::Release(dictionary);
+  EXPECT_EQ(ContentOf(path_), both_);
+  EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
+}
+
 }  // namespace
 
 void ztk::platform::Pause(std::chrono::microseconds time) {
   paused += std::chrono::duration_cast<milliseconds>(time);
-  duringPause(paused);
+  const auto hook = duringPause;  // which may replace itself
+  hook(paused);
 }

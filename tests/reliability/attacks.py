@@ -7,7 +7,7 @@
 Run in a sandbox with three mixers (ztk-virtual-mixer run -n 3), so that no real
 device is touched; they are unplugged before the files are attacked. The settings
 are in a temporary folder. With ZTK_RELIABILITY=long in the environment everything
-is tried many more times, which takes about 25 minutes at most. Exits with 1 if
+is tried many more times, which takes up to half an hour. Exits with 1 if
 anything was lost. With --report the results are written as a table in Markdown.
 """
 

@@ -7,10 +7,12 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <optional>
 
 #include "platform/common/file_access.h"
+#include "platform/common/file_change.h"
 #include "platform/common/file_descriptor.h"
 #include "platform/common/new_file.h"
 #include "platform/common/owner_identity.h"
@@ -112,6 +114,20 @@ bool IsStill(const struct stat &expected, const std::string &file) {
   return lstat(file.c_str(), &now) == 0 && IsSameFile(expected, now);
 }
 
+// Locks the file that is to be replaced. Not every process holds the lock of
+// the folder, and of several that have read the same file, only one may find it
+// unchanged and replace it. The others then hold the lock of a file that has
+// lost its name.
+FileDescriptor LockOldFile(const std::string &file,
+                           const struct stat *expected) {
+  constexpr std::chrono::milliseconds kPatience{250};
+  if (expected == nullptr) return FileDescriptor();
+  FileDescriptor old(
+      open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+  if (old.valid()) LockExclusively(old.get(), kPatience);
+  return old;
+}
+
 // Answers 0 or the error number.
 int Replace(const std::string &path, std::string_view content, bool keepOld,
             const struct stat *expected) {
@@ -130,6 +146,7 @@ int Replace(const std::string &path, std::string_view content, bool keepOld,
   std::string fresh;
   error = WriteNewFile(*file, content, model, &fresh);
   if (error != 0) return error;
+  const FileDescriptor lock = LockOldFile(*file, expected);
   const bool changed = expected != nullptr && !IsStill(*expected, *file);
   error = changed ? ESTALE : PutInPlace(fresh, *file, keepOld);
   if (error != 0) {
