@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 #include <optional>
 
 #include "window/engine/engine.h"

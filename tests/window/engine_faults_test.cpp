@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The engine without mixers, and with mixers, files and a bus that fail.
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 #include <filesystem>
 
 #include "window/engine/engine.h"

@@ -4,7 +4,7 @@
 #include "window/engine/engine.h"
 
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 #include "window/engine_world.h"
 #include "window/registry.h"

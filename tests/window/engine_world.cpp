@@ -3,7 +3,7 @@
 
 #include <QProcess>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 #include <cstdlib>
 
 namespace ztk::window {

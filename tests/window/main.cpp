@@ -3,7 +3,7 @@
 // Runs the class of tests that the first argument names; the other arguments
 // are those of Qt Test.
 #include <QApplication>
-#include <QtTest>
+#include <QTest>
 #include <cstdio>
 #include <cstring>
 

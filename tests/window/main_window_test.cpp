@@ -144,8 +144,8 @@ void MainWindowTest::TellsWhatBecameOfAChange_data() {
       "Remembered only. Mixer 1 does not answer.");
   row("one of two", Delivery::RememberedOnly, 1, "Mixer 2 does not answer.",
       "Sent to the mixer, and remembered. Mixer 2 does not answer.");
-  row("not stored", Delivery::Failed, 0, "The disk is full.",
-      "Not stored. The disk is full.");
+  row("not stored", Delivery::Failed, 0, "Not stored: the disk is full.",
+      "Not stored: the disk is full.");
 }
 
 void MainWindowTest::TellsWhatBecameOfAChange() {

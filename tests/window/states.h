@@ -33,6 +33,7 @@ inline RowState &RowOf(State *state, const model::Setting &setting,
 inline State UsualState() {
   State state;
   state.known = true;
+  state.mixersKnown = true;
   state.mixers = {AnsweringMixer()};
   for (const model::Setting *setting : model::AllSettings()) {
     for (std::uint32_t channel = 0; channel < model::ChannelsToWalk(*setting);

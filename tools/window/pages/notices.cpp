@@ -80,6 +80,12 @@ QLayout *CommandLine(const QString &command, QWidget *parent) {
   return line;
 }
 
+// Some findings are parts of sentences.
+QString Capitalised(QString text) {
+  if (!text.isEmpty()) text[0] = text[0].toUpper();
+  return text;
+}
+
 QWidget *BoxOf(const FindingState &finding, QWidget *parent) {
   auto *box = new QFrame(parent);
   box->setFrameShape(QFrame::StyledPanel);
@@ -87,14 +93,16 @@ QWidget *BoxOf(const FindingState &finding, QWidget *parent) {
   box->setBackgroundRole(QPalette::Base);
   box->setObjectName(QStringLiteral("finding"));
   const int unit = box->fontMetrics().height();
-  auto *what = Wrapped(finding.what, box);
+  auto *what = Wrapped(Capitalised(finding.what), box);
   QFont bold = what->font();
   bold.setBold(true);
   what->setFont(bold);
   auto *words = new QVBoxLayout;
   words->setSpacing(unit / 4);
   words->addWidget(what);
-  if (!finding.cause.isEmpty()) words->addWidget(Wrapped(finding.cause, box));
+  if (!finding.cause.isEmpty()) {
+    words->addWidget(Wrapped(Capitalised(finding.cause), box));
+  }
   if (!finding.command.isEmpty()) {
     words->addLayout(CommandLine(finding.command, box));
   }
@@ -111,7 +119,7 @@ QWidget *BoxOf(const FindingState &finding, QWidget *parent) {
 }  // namespace
 
 QString MixerText(const State &state) {
-  if (!state.known) return Notices::tr("Looking for mixers…");
+  if (!state.mixersKnown) return Notices::tr("Looking for mixers…");
   if (state.mixers.isEmpty()) {
     return Notices::tr(
         "No mixer is attached. What you choose is remembered, and can be sent "

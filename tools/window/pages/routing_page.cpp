@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/pages/routing_page.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>

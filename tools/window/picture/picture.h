@@ -11,6 +11,8 @@
 #include "window/picture/picture_state.h"
 #include "window/picture/wires.h"
 
+class QHelpEvent;
+
 namespace ztk::window {
 
 // The mixer with the points that can be recorded, and the wires from them to

@@ -71,7 +71,7 @@ QString DeliveryText(const RowState &row, const State &state) {
     case Delivery::Failed:
       break;
   }
-  return Row::tr("Not stored.") + QLatin1Char(' ') + row.reason;
+  return row.reason;
 }
 
 }  // namespace
@@ -103,7 +103,7 @@ QList<const MixerState *> SilencingMixers(const RowState &row,
 
 bool IsOnlyRemembered(const RowState &row, const State &state) {
   if (row.delivery == Delivery::RememberedOnly) return row.accepted == 0;
-  return state.known &&
+  return state.mixersKnown &&
          std::none_of(state.mixers.begin(), state.mixers.end(),
                       [](const MixerState &mixer) {
                         return mixer.answer == MixerAnswer::Answers;

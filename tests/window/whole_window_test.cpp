@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+//
+// The window with its engine, as somebody uses it.
+#include <QAction>
+#include <QComboBox>
+#include <QDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QTest>
+
+#include "window/connect.h"
+#include "window/engine_world.h"
+#include "window/main_window.h"
+#include "window/pages/club_dialog.h"
+#include "window/pages/routing_page.h"
+#include "window/picture/picture.h"
+#include "window/registry.h"
+#include "window/rows/choice_row.h"
+
+namespace ztk::window {
+
+using model::kInput;
+using model::Source;
+using model::Tap;
+
+class WholeWindowTest : public EngineWorld {
+  Q_OBJECT
+
+ private slots:
+  void cleanup();
+  void RecordsWhatIsClicked();
+  void RecordsWhatIsChosenWithTheKeyboard();
+  void ShowsWhatAnotherProgramSets();
+  void TellsWhyAChannelIsSilent();
+  void PutsBackWhatWasChanged();
+  void DashesTheWiresWhenTheMixerIsUnplugged();
+  void SavesAndAppliesAClub();
+  void ClosesWhileAMixerIsSilent();
+
+ private:
+  // A window with an engine that knows everything.
+  void Open();
+  ChoiceRow &InputRow(int channel) const {
+    return *window_->routingPage()->rows()[channel];
+  }
+  QAction &Action(const QString &text) const;
+  void Click(const Tap &tap) const;
+
+  std::unique_ptr<MainWindow> window_;
+};
+
+void WholeWindowTest::cleanup() {
+  EngineWorld::cleanup();
+  window_.reset();
+}
+
+void WholeWindowTest::Open() {
+  window_ = std::make_unique<MainWindow>();
+  StartEngine();
+  Connect(window_.get(), &engine());
+  window_->showState(state());
+  window_->show();
+  QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+}
+
+QAction &WholeWindowTest::Action(const QString &text) const {
+  for (QAction *action : window_->findChildren<QAction *>()) {
+    if (action->text().remove(QLatin1Char('&')).startsWith(text)) {
+      return *action;
+    }
+  }
+  qFatal("There is no such action: %s", qPrintable(text));
+}
+
+void WholeWindowTest::Click(const Tap &tap) const {
+  Picture *picture = window_->routingPage()->picture();
+  QTest::mouseClick(picture, Qt::LeftButton, {},
+                    picture->parts().Spot(tap)->centre.toPoint());
+}
+
+void WholeWindowTest::RecordsWhatIsClicked() {
+  Open();
+  InputRow(1).box()->setFocus();
+  Click({.source = Source::PostFader, .lane = 1});
+  QCOMPARE(InputRow(1).text(), QStringLiteral("Sending…"));
+  EVENTUALLY(InputRow(1).text() ==
+             QStringLiteral("Sent to 2 mixers, and remembered."));
+  QCOMPARE(InputRow(1).box()->currentText(), QStringLiteral("Post CH2 Fader"));
+  QVERIFY(Ztk({"input", "get", "2"}).contains("Post CH2 Fader"));
+}
+
+void WholeWindowTest::RecordsWhatIsChosenWithTheKeyboard() {
+  Open();
+  QTest::keyClick(window_.get(), Qt::Key_5, Qt::AltModifier);
+  QVERIFY(InputRow(4).box()->hasFocus());
+  QTest::keyClick(InputRow(4).box(), Qt::Key_Down);
+  QTest::keyClick(InputRow(4).box(), Qt::Key_Down);
+  EVENTUALLY(InputRow(4).text() ==
+             QStringLiteral("Sent to 2 mixers, and remembered."));
+  QVERIFY(Ztk({"input", "get", "5"}).contains("Post CH2 Fader"));
+}
+
+void WholeWindowTest::ShowsWhatAnotherProgramSets() {
+  Open();
+  Ztk({"input", "set", "3", "rec out"});
+  EVENTUALLY(InputRow(2).box()->currentText() == QStringLiteral("REC OUT"));
+  const Picture *picture = window_->routingPage()->picture();
+  const QPointF recOut =
+      picture->parts().Spot({.source = Source::RecOut})->centre;
+  QCOMPARE(picture->wires()[2].points.front().y(), recOut.y());
+}
+
+void WholeWindowTest::TellsWhyAChannelIsSilent() {
+  Ztk({"input", "set", "1", "1"});
+  Mixer({"turn", "1", "2", "-m", "1"});
+  Open();
+  EVENTUALLY(InputRow(0).text().startsWith(
+      QStringLiteral("Turn the selector of CH1 on mixer 1 from 2 to 4.")));
+  Mixer({"turn", "1", "4"});
+  EVENTUALLY(InputRow(0).text() == QStringLiteral("Remembered."));
+}
+
+void WholeWindowTest::PutsBackWhatWasChanged() {
+  Ztk({"input", "set", "1", "2"});
+  Open();
+  InputRow(0).box()->setFocus();
+  Click({.source = Source::Mic});
+  // A wish that still waits would be replaced by the next one.
+  EVENTUALLY(Row(kInput, 0).delivery == Delivery::Sent);
+  Click({.source = Source::RecOut});
+  EVENTUALLY(Row(kInput, 0).delivery == Delivery::Sent);
+  QCOMPARE(InputRow(0).box()->currentText(), QStringLiteral("REC OUT"));
+  QVERIFY(Action("Undo: USB input 1").isEnabled());
+  QTest::keyClick(window_.get(), Qt::Key_Z, Qt::ControlModifier);
+  EVENTUALLY(InputRow(0).box()->currentText() == QStringLiteral("MIC"));
+  QTest::keyClick(window_.get(), Qt::Key_Z, Qt::ControlModifier);
+  EVENTUALLY(InputRow(0).box()->currentText() ==
+             QStringLiteral("CH1 Control Tone LINE"));
+}
+
+void WholeWindowTest::DashesTheWiresWhenTheMixerIsUnplugged() {
+  Ztk({"input", "set", "1", "4"});
+  Open();
+  Mixer({"unplug"});
+  EVENTUALLY(InputRow(0).text() ==
+             QStringLiteral("Remembered; no mixer has it."));
+  QVERIFY(PictureOf(state()).channels[0].onlyRemembered);
+  InputRow(0).box()->setFocus();
+  Click({.source = Source::Mic});
+  EVENTUALLY(InputRow(0).text() ==
+             QStringLiteral("Remembered only. No mixer is attached."));
+  EVENTUALLY(window_->findChild<QWidget *>("finding") != nullptr);
+}
+
+void WholeWindowTest::SavesAndAppliesAClub() {
+  Ztk({"input", "set", "1", "mic"});
+  Open();
+  Action("Save as a club").trigger();
+  auto *name = window_->findChild<QInputDialog *>();
+  name->setTextValue("Friday");
+  name->accept();
+  EVENTUALLY(state().clubs.size() == 1);
+  Ztk({"input", "set", "1", "rec out"});
+  EVENTUALLY(InputRow(0).box()->currentText() == QStringLiteral("REC OUT"));
+  Action("Friday").trigger();
+  EVENTUALLY(window_->findChild<ClubDialog *>() != nullptr);
+  window_->findChild<ClubDialog *>()->accept();
+  EVENTUALLY(InputRow(0).box()->currentText() == QStringLiteral("MIC"));
+}
+
+void WholeWindowTest::ClosesWhileAMixerIsSilent() {
+  Open();
+  Mixer({"fault", "silence"});
+  InputRow(0).box()->setFocus();
+  Click({.source = Source::Mic});
+  window_->close();
+  QVERIFY(!window_->isVisible());
+}
+
+namespace {
+const bool kRegistered = Register<WholeWindowTest>("WholeWindowTest");
+}  // namespace
+
+}  // namespace ztk::window
+
+#include "whole_window_test.moc"
