@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Runs the two windows in turn and prints the medians.
 
-Usage: window.py RUNS
+Usage: measure.py RUNS
 """
 
 import os
