@@ -17,17 +17,26 @@ namespace {
 
 volatile sig_atomic_t theSignals;  // a bit for each that came
 bool theLoopEnds;
+// By the number of the signal; the first one is the timer.
 struct {
   void (*handler)(void *);
   void *context;
 } theSources[32];
+double theTimerIsDue;
+double theTimerPeriod;
+
+double Now() { return [NSDate timeIntervalSinceReferenceDate]; }
 
 void OnSignal(int number) {
   theSignals = theSignals | static_cast<int>(1U << number);
 }
 
-// Runs what signals asked for. True when the loop is to end.
+// Runs what the timer and signals asked for. True when the loop is to end.
 bool RunSources() {
+  if (theSources[0].handler != nullptr && Now() >= theTimerIsDue) {
+    theTimerIsDue += theTimerPeriod;
+    theSources[0].handler(theSources[0].context);
+  }
   for (int number = 1; number < 32; ++number) {
     if ((static_cast<unsigned>(theSignals) & (1U << number)) == 0) continue;
     theSignals = theSignals & ~static_cast<int>(1U << number);
@@ -53,6 +62,7 @@ extern "C" {
 const void *darwin_kCFAllocatorDefault;
 char darwin__dispatch_main_q[64];
 char darwin__dispatch_source_type_signal[64];
+char darwin__dispatch_source_type_timer[64];
 
 void CFRelease(CFTypeRef object) { [(id)object release]; }
 
@@ -147,7 +157,19 @@ void dispatch_source_set_event_handler_f(void *source,
 void dispatch_resume(void *source) {
   const auto number =
       static_cast<decltype(&theSources[0])>(source) - &theSources[0];
-  signal(static_cast<int>(number), OnSignal);
+  if (number != 0) signal(static_cast<int>(number), OnSignal);
+}
+void dispatch_source_cancel(void *source) {
+  *static_cast<decltype(&theSources[0])>(source) = {};
+}
+// Only times from now on are asked for.
+std::uint64_t dispatch_time(std::uint64_t /*when*/, std::int64_t nanoseconds) {
+  return static_cast<std::uint64_t>(nanoseconds);
+}
+void dispatch_source_set_timer(void * /*source*/, std::uint64_t start,
+                               std::uint64_t interval, std::uint64_t) {
+  theTimerIsDue = Now() + static_cast<double>(start) / 1e9;
+  theTimerPeriod = static_cast<double>(interval) / 1e9;
 }
 
 }  // extern "C"
