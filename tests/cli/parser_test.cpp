@@ -143,7 +143,7 @@ TEST(Parse, SaysWhatIsWrongWhatIsAcceptedAndWhatToDo) {
        "command; "
        "see mix run --help"},
       {{"input", "set"},
-       "CHANNEL is missing after \"input set\"; accepted: Channel, 1 to 4; "
+       "CHANNEL is missing after \"input set\": Channel, 1 to 4; "
        "see mix input set --help"},
       {{"help", "shw"},
        "no command \"shw\"; nearest: show; accepted: show, input, run; see "
@@ -154,10 +154,9 @@ TEST(Parse, SaysWhatIsWrongWhatIsAcceptedAndWhatToDo) {
   }
   for (const Words &words :
        {Words{"show", "--mixer"}, Words{"show", "-m", "1", "--mixer", "2"}}) {
-    EXPECT_EQ(
-        ErrorOf(words),
-        "exactly one value has to follow --mixer; accepted: Number of the "
-        "mixer; see mix show --help");
+    EXPECT_EQ(ErrorOf(words),
+              "exactly one value has to follow --mixer; accepted: 1, 2; see "
+              "mix show --help");
   }
 }
 

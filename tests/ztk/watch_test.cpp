@@ -122,7 +122,7 @@ TEST_F(Watch, IsFiveOnceTheBusHasGone) {
   const Result result = OneMixer("ztk watch 2> $DIR/ready");
   killer.join();
   EXPECT_EQ(result.status, 5);
-  EXPECT_THAT(File("ready"), HasSubstr("it is gone"));
+  EXPECT_THAT(File("ready"), HasSubstr("it has ended"));
 }
 
 // The first connection that is opened would take the stream's number, and the

@@ -147,7 +147,7 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
       {{"turn", "1", "256"}, 2, "bad position \"256\"; accepted: 0 to 255"},
       {{"turn", "1"},
        2,
-       "POSITION is missing after \"turn\"; accepted: Position, 0 to 255; "
+       "POSITION is missing after \"turn\": Position, 0 to 255; "
        "see ztk-virtual-mixer turn --help"},
       {{"turn", "-m", "0", "1", "3"}, 2, "bad mixer \"0\"; accepted: 1 to 127"},
       {{"fault", "x"}, 2, "unknown fault \"x\"; accepted: stall, silence"},

@@ -59,7 +59,7 @@ TEST_F(Settings, GoWithThePrivateRunThatMadeThem) {
       SplitLines(result.out),
       ElementsAre("Boost level: 2 -10 dB, sent to 1 mixer, remembered",
                   "Boost level: 1 -5 dB, sent to 1 mixer, remembered",
-                  "Boost level: 1 -5 dB undone, 2 -10 dB sent to 1 mixer, "
+                  "Boost level: 1 -5 dB undone, 2 -10 dB, sent to 1 mixer, "
                   "remembered"));
   EXPECT_FALSE(Has("/.config/tarvix"));
   EXPECT_FALSE(Has("/.local"));
