@@ -35,6 +35,8 @@ class MainWindowTest : public QObject {
   void ShowsWhatEachChannelRecords();
   void TellsWhichSelectorToTurn();
   void NamesTheMixerWhereThereAreTwo();
+  void PassesOnTheWarningOfTheLibrary();
+  void BlamesNoSelectorWhereThereIsNone();
   void TellsWhatBecameOfAChange_data();
   void TellsWhatBecameOfAChange();
   void DashesWhatNoMixerHas();
@@ -122,6 +124,22 @@ void MainWindowTest::NamesTheMixerWhereThereAreTwo() {
            QStringLiteral("Turn the selector of CH4 on mixer 2 from 2 to 4. "
                           "Remembered."));
   QCOMPARE(PictureOf(state_).selectors[3].position, QStringLiteral("4/2"));
+}
+
+void MainWindowTest::PassesOnTheWarningOfTheLibrary() {
+  // The mixer has not told its selectors.
+  state_.mixers[0].selectors = {};
+  RowOf(&state_, model::kInput, 1).warning = "The selector has to be turned.";
+  window_->showState(state_);
+  QCOMPARE(InputRow(1)->text(),
+           QStringLiteral("The selector has to be turned. Remembered."));
+}
+
+// The library warns of USB channel 5 although no selector belongs to it.
+void MainWindowTest::BlamesNoSelectorWhereThereIsNone() {
+  RowOf(&state_, model::kInput, 4).warning = "The selector has to be turned.";
+  window_->showState(state_);
+  QCOMPARE(InputRow(4)->text(), QStringLiteral("Remembered."));
 }
 
 void MainWindowTest::TellsWhatBecameOfAChange_data() {

@@ -114,15 +114,15 @@ RowText TextOf(const RowState &row, const State &state) {
   if (!row.unreadable.isEmpty()) {
     return {.text = row.unreadable, .needsAttention = true};
   }
-  const QStringList turns = Turns(row, state);
-  QStringList sentences(DeliveryText(row, state).trimmed());
-  if (!turns.isEmpty()) {
-    sentences = turns + sentences;
-  } else if (!row.warning.isEmpty()) {
-    sentences.prepend(row.warning);
+  QStringList warnings = Turns(row, state);
+  // Where no selector belongs to the choice, the library warns in any case.
+  if (warnings.isEmpty() && !row.warning.isEmpty() && SelectorOf(row)) {
+    warnings.append(row.warning);
   }
+  const QStringList sentences =
+      warnings + QStringList(DeliveryText(row, state).trimmed());
   return {.text = sentences.join(QLatin1Char(' ')),
-          .needsAttention = !turns.isEmpty() || !row.warning.isEmpty() ||
+          .needsAttention = !warnings.isEmpty() ||
                             row.delivery == Delivery::RememberedOnly ||
                             row.delivery == Delivery::Failed};
 }
