@@ -143,7 +143,7 @@ TEST(Parse, SaysWhatIsWrongWhatIsAcceptedAndWhatToDo) {
        "command; "
        "see mix run --help"},
       {{"input", "set"},
-       "CHANNEL is missing after \"input set\": Channel, 1 to 4; "
+       "CHANNEL is missing after \"input set\"; accepted: 1, 2; "
        "see mix input set --help"},
       {{"help", "shw"},
        "no command \"shw\"; nearest: show; accepted: show, input, run; see "
