@@ -385,5 +385,57 @@ TEST_F(Undo, DoesNotOpenALockThatIsALinkOrAPipe) {
               HasSubstr("ztk.lock: it is not a regular file"));
 }
 
+// The home folder of the password database is the one of another user then:
+// only the names of the files tell where ztk looks. Nothing may be created.
+TEST_F(Undo, LooksInThePasswordDatabaseWithoutAUsableHome) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can be another user";
+  for (const char *home : {"-u HOME", "HOME=relative/home", "HOME="}) {
+    SCOPED_TRACE(home);
+    // Nobody's home, /nonexistent, is missing and cannot be created.
+    const Result result = NoMixer(
+        "cd $DIR; chmod 755 .\n"
+        "run='setpriv --reuid 65534 --clear-groups env -u XDG_STATE_HOME -u "
+        "XDG_CONFIG_HOME " +
+        std::string(home) +
+        "'\n"
+        "$run ztk --version > /dev/null || exit 97\n"
+        "$run ztk boost set 2; $run ztk undo; ls -d relative /nonexistent");
+    if (result.status == 97) GTEST_SKIP() << "others cannot run the program";
+    EXPECT_THAT(result.err, HasSubstr("/nonexistent/.local/state/tarvix"));
+    EXPECT_THAT(result.out, Not(HasSubstr("relative\n")));
+    EXPECT_THAT(result.out, Not(HasSubstr("/nonexistent\n")));
+  }
+}
+
+TEST_F(Undo, DoesNotCreateAMissingHome) {
+  const Result result = OneMixer(
+      "export HOME=$DIR/missing; ztk boost set 2; ztk undo; "
+      "ls -d $DIR/missing");
+  EXPECT_THAT(result.err, HasSubstr("ztk undo will not know of this: "));
+  EXPECT_THAT(result.out, HasSubstr("not remembered"));
+  EXPECT_FALSE(std::filesystem::exists(home_.path() / "missing"));
+}
+
+// With a user's HOME kept, as by "sudo -E".
+TEST_F(Undo, MakesItsFilesAsTheUserToWhomTheHomeBelongs) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can act as a user";
+  const Result result = OneMixer(
+      "mkdir $DIR/user; chmod 755 $DIR; chown 1234:4321 $DIR/user\n"
+      "export HOME=$DIR/user; ztk boost set 2 > $DIR/o; ztk undo > $DIR/o\n"
+      "cd $DIR/user || exit 1; find . -printf '%U:%G %p\\n' | sort");
+  EXPECT_EQ(result.out,
+            "1234:4321 .\n"
+            "1234:4321 ./.config\n"
+            "1234:4321 ./.config/tarvix\n"
+            "1234:4321 ./.config/tarvix/Preferences\n"
+            "1234:4321 "
+            "./.config/tarvix/Preferences/com.tarvix.VRM-D6autosetup.plist\n"
+            "1234:4321 ./.local\n"
+            "1234:4321 ./.local/state\n"
+            "1234:4321 ./.local/state/tarvix\n"
+            "1234:4321 ./.local/state/tarvix/ztk-history.jsonl\n"
+            "1234:4321 ./.local/state/tarvix/ztk.lock\n");
+}
+
 }  // namespace
 }  // namespace ztk::test
