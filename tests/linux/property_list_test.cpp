@@ -208,6 +208,9 @@ TEST_F(ReadFile, TakesOrdinaryVariationsOfXml) {
       {"comments", Xml("<!-- <array> -->" + entry + "<!-- \" -->")},
       {"no plist element", "<dict>" + entry + "</dict>"},
       {"Windows lines", Xml("\r\n" + entry + "\r\n")},
+      {"an element in an instruction",
+       body + "<?x > <integer> ?><?>" + "<?x > <!-- ?><?x > <![CDATA[ ?>"},
+      {"an element in a comment", Xml("<!-- <integer>x -->" + entry)},
       {"attributes", "<plist version=\"1.0\" a=\"b c\"><dict >" + entry +
                          "</dict ></plist >"},
   };

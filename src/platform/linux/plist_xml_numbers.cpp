@@ -81,15 +81,21 @@ bool IsReal(string_view text) {
   return text.empty();
 }
 
-// The end of the comment or character section that begins at `at`; `at` itself
-// when none begins there.
+// Returns where the markup that begins at `at` ends, if it is a comment, a
+// character section or an instruction; `at` itself for anything else. Returns
+// npos when it does not end.
 std::size_t EndOfSection(string_view xml, std::size_t at) {
-  constexpr string_view kSections[][2] = {{"<!--", "-->"},
-                                          {"<![CDATA[", "]]>"}};
-  for (const auto &[open, close] : kSections) {
-    if (xml.substr(at).starts_with(open)) {
-      return xml.find(close, at + open.size()) + close.size();
-    }
+  // "<?>" is a whole instruction, so its end is searched from the "?" on.
+  constexpr struct {
+    string_view open, close;
+    std::size_t skipped;
+  } kSections[] = {{.open = "<!--", .close = "-->", .skipped = 4},
+                   {.open = "<![CDATA[", .close = "]]>", .skipped = 9},
+                   {.open = "<?", .close = "?>", .skipped = 1}};
+  for (const auto &section : kSections) {
+    if (!xml.substr(at).starts_with(section.open)) continue;
+    const std::size_t close = xml.find(section.close, at + section.skipped);
+    return close == string_view::npos ? close : close + section.close.size();
   }
   return at;
 }
@@ -103,32 +109,34 @@ bool IsElement(string_view tag, string_view name) {
 }  // namespace
 
 bool NormalizeNumbers(std::string *xml) {
+  constexpr std::size_t kNone = std::string::npos;
   std::size_t at = 0;
-  while ((at = xml->find('<', at)) != std::string::npos) {
+  while ((at = xml->find('<', at)) != kNone) {
     const std::size_t after = EndOfSection(*xml, at);
+    const std::size_t end = xml->find('>', at);
+    if (after == kNone || end == kNone) return false;
     if (after != at) {
       at = after;
       continue;
     }
-    const std::size_t end = xml->find('>', at);
     const string_view tag = string_view(*xml).substr(at + 1, end - at - 1);
     const bool integer = IsElement(tag, "integer");
     at = end;
     if (!integer && !IsElement(tag, "real")) continue;
 
     const std::size_t begin = end + 1;
-    const std::size_t size = xml->find('<', begin) - begin;
-    const string_view content = string_view(*xml).substr(begin, size);
+    const std::size_t close = xml->find('<', begin);
     // The element may contain nothing else, not even a comment.
-    const bool closed = xml->compare(begin + size, 2, "</") == 0;
-    if (tag.ends_with('/') || !closed) return false;
+    if (tag.ends_with('/') || close == kNone) return false;
+    if (xml->compare(close, 2, "</") != 0) return false;
+    const string_view content = string_view(*xml).substr(begin, close - begin);
     if (!integer) {
       if (!IsReal(content)) return false;
       continue;
     }
     const std::optional<std::string> decimal = DecimalInteger(content);
     if (!decimal) return false;
-    xml->replace(begin, size, *decimal);
+    xml->replace(begin, close - begin, *decimal);
   }
   return true;
 }
