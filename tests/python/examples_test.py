@@ -167,7 +167,7 @@ class Document(unittest.TestCase):
                 re.MULTILINE | re.DOTALL,
             )
         ]
-        self.assertGreater(len(blocks), 4)
+        self.assertGreater(len(blocks), 3)
         for program, output in blocks:
             with self.subTest(program):
                 run = subprocess.run(
