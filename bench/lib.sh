@@ -42,5 +42,7 @@ time_programs() {  # bin file runs [root]
     --command-name "minimal C program" "$1/read_status" \
     --command-name "the same, reading once" "$1/read_status once" \
     --command-name "libusb lister" "$1/list_devices" \
+    --command-name "program that does nothing" "$1/do_nothing" \
+    --command-name "the same, loading the library" "$1/load_library" \
     --command-name lsusb "$(command -v lsusb)" 2>&1
 }
