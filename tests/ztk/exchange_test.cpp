@@ -201,8 +201,8 @@ TEST_F(Import, NamesWhatItKeeps) {
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
   EXPECT_EQ(OneMixer("ztk import $DIR/file").out,
             "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n"
-            "Kept, as the file does not name it: USB input 2: 6 MIC (import "
-            "--only forgets it)\n");
+            "Kept, as the file does not name it: USB input 2: 6 MIC (ztk "
+            "import --only forgets it)\n");
   const Json json = OneObject(OneMixer("ztk import $DIR/file --json").out);
   EXPECT_EQ(json["kept"], Json::parse(R"([{"setting":"input","model":"VRM-D6",
       "channel":2,"number":6,"text":"MIC","value":5}])"));

@@ -101,7 +101,7 @@ void AddKept(const std::vector<StoredValue> &kept, Report *report) {
   }
   if (kept.empty()) return;
   report->text += "Kept, as the file does not name it: " + cli::Listed(names) +
-                  " (import --only forgets it)\n";
+                  " (ztk import --only forgets it)\n";
 }
 
 Report PlanOfImport(const std::vector<Change> &changes) {

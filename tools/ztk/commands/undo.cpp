@@ -11,7 +11,6 @@
 #include "ztk/report/change_report.h"
 #include "ztk/report/dry_run_report.h"
 #include "ztk/report/setting_report.h"
-#include "ztk/system/places.h"
 
 namespace ztk::program {
 
@@ -165,7 +164,7 @@ std::string SendingAgain(const MadeChanges &made) {
 bool UndoStep(const std::vector<UndoItem> &undoings, Report *report) {
   const MadeChanges made = [&undoings] {
     const std::vector<Change> changes = ChangesOf(undoings);
-    const Progress progress = WaitForChanges(changes, MixerPlaces().size());
+    const Progress progress = WaitForChanges(changes);
     return MakeChanges(changes);
   }();
   bool done = true;

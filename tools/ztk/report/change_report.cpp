@@ -127,17 +127,22 @@ void ReportReplacedFile(const MadeChanges &made, Report *report) {
 
 }  // namespace
 
-Progress WaitForChanges(const std::vector<Change> &changes,
-                        std::size_t mixers) {
-  // Each request has a second; after some changes the selectors are read.
-  std::size_t requests = 0;
-  for (const Change &change : changes) {
-    requests += change.setting->selectorLength == 0 ? 1 : 2;
-  }
+Progress WaitForRequests(std::size_t requests) {
+  const std::size_t mixers = MixerPlaces().size();
   return Progress(mixers < 2
                       ? kWaitingForMixer
                       : "Waiting for " + std::to_string(mixers) + " mixers",
                   static_cast<int>(requests * mixers));
+}
+
+Progress WaitForChanges(const std::vector<Change> &changes) {
+  std::size_t requests = 0;
+  for (const Change &change : changes) requests += RequestsOf(*change.setting);
+  return WaitForRequests(requests);
+}
+
+std::size_t RequestsOf(const Setting &setting) {
+  return setting.selectorLength == 0 ? 1 : 2;
 }
 
 SharedHistory::SharedHistory() {
@@ -157,7 +162,7 @@ MadeChanges RunStep(const std::string &command,
   if (mixers > 1 && !quiet && cli::IsTerminal(STDERR_FILENO)) {
     WriteError("sending to " + std::to_string(mixers) + " mixers");
   }
-  const Progress progress = WaitForChanges(changes, mixers);
+  const Progress progress = WaitForChanges(changes);
   MadeStep step = MakeStep(command, changes, history.get());
   if (!step.notRecorded.empty()) {
     report->warnings.push_back("ztk undo will not know of this: " +

@@ -25,8 +25,16 @@ class SharedHistory {
   std::optional<History> history_;
 };
 
-// While it exists, shows what the program waits for, and the longest time.
-Progress WaitForChanges(const std::vector<Change> &changes, std::size_t mixers);
+// While it exists, shows what the program waits for, and the longest time: each
+// mixer receives so many requests, one after the other, and has a second for
+// each.
+Progress WaitForRequests(std::size_t requests);
+// The same for the requests of these changes.
+Progress WaitForChanges(const std::vector<Change> &changes);
+
+// The requests that a change of the setting sends to a mixer: the value, and
+// for some settings a query of the input selectors.
+std::size_t RequestsOf(const Setting &setting);
 
 // Makes the changes as one step of the history, and shows when it waits for a
 // mixer. In a terminal it shows the number of mixers when there are several,

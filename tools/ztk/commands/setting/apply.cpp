@@ -9,7 +9,6 @@
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/resend.h"
-#include "ztk/progress.h"
 #include "ztk/report/change_report.h"
 #include "ztk/report/dry_run_report.h"
 #include "ztk/report/setting_report.h"
@@ -107,7 +106,7 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
   if (arguments.Has(Parameter::kDryRun)) return PlanOfApply(settings);
 
   const Reach reach = [&settings] {
-    const Progress progress(kWaitingForMixer);
+    const Progress progress = WaitForRequests(settings.size());
     return SendAgain(&settings);
   }();
   const bool any =

@@ -5,7 +5,6 @@
 #include "cli/strings.h"
 #include "ztk/commands/setting/setting_parts.h"
 #include "ztk/commands/warning.h"
-#include "ztk/progress.h"
 #include "ztk/report/dry_run_report.h"
 
 namespace ztk::program {
@@ -71,7 +70,7 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
   }
   RecordedCalls calls;
   const ZTKResult result = [&] {
-    const Progress progress(kWaitingForMixer);
+    const Progress progress = WaitForRequests(RequestsOf(setting));
     return calls.Call([&] {
       return ZTK_SetUSBInputAudioDirect(product, channel, raw.high, raw.source);
     });

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "ztk/commands/setting/setting_parts.h"
-#include "ztk/progress.h"
 #include "ztk/report/dry_run_report.h"
 
 namespace ztk::program {
@@ -32,10 +31,11 @@ struct SentDefaults {
   std::vector<std::size_t> accepted;  // mixers, for each of the channels
 };
 
-SentDefaults SendDefaults(std::uint32_t product,
+SentDefaults SendDefaults(const Setting &setting, std::uint32_t product,
                           const std::vector<std::uint32_t> &channels) {
   SentDefaults sent;
-  const Progress progress(kWaitingForMixer);
+  const Progress progress =
+      WaitForRequests(channels.size() * RequestsOf(setting));
   for (const std::uint32_t channel : channels) {
     sent.result = sent.calls.Call(
         [&] { return ZTK_SetUSBOutputAudioDefault(product, channel); });
@@ -58,7 +58,7 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
   if (arguments.Has(Parameter::kDryRun)) {
     return PlanOfDefault(setting, product, channels);
   }
-  const SentDefaults sent = SendDefaults(product, channels);
+  const SentDefaults sent = SendDefaults(setting, product, channels);
   if (sent.result != ZTK_SUCCESS)
     ThrowRejected(setting, product, "the default");
   const bool any = std::any_of(sent.accepted.begin(), sent.accepted.end(),
