@@ -3,8 +3,8 @@
 // The window in the languages of the warning texts.
 #include <QLocale>
 #include <QPushButton>
+#include <QTest>
 #include <QTranslator>
-#include <QtTest>
 #include <memory>
 
 #include "window/cut_texts.h"
