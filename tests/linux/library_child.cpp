@@ -114,13 +114,23 @@ int CountThreads() {
   return 0;
 }
 
-// Calls setters many times and prints the growth of memory. A growth of 100
-// bytes for each call would be detected.
+// Changes a setting, reads it and asks for a text.
+void ChangeAndRead(uint32_t round) {
+  uint32_t index = 0;
+  ZTKTextRef text = nullptr;
+  ZTK_SetUSBInputAudio(10, round % 5, round % 7);
+  ZTK_GetCurrentUSBInputAudioIndex(10, round % 5, &index);
+  ZTK_GetLibraryVersionText(10, &text);
+  ZTK_GetWarningTextForSetUSBAudioInput(10, 1, 101, 99, &text);
+}
+
+// Calls functions many times and prints the growth of memory. A growth of 100
+// bytes for each round would be detected.
 int CountGrowth(uint32_t calls) {
-  for (uint32_t i = 0; i < 100; ++i) ZTK_SetUSBInputAudio(10, i % 5, i % 7);
+  for (uint32_t i = 0; i < 100; ++i) ChangeAndRead(i);
   const int descriptors = CountEntries("/proc/self/fd");
   const auto before = mallinfo2().uordblks;
-  for (uint32_t i = 0; i < calls; ++i) ZTK_SetUSBInputAudio(10, i % 5, i % 7);
+  for (uint32_t i = 0; i < calls; ++i) ChangeAndRead(i);
   const auto after = mallinfo2().uordblks;
   std::printf("descriptors %d\n", CountEntries("/proc/self/fd") - descriptors);
   const bool grew =
