@@ -498,10 +498,6 @@
             <translation>Nur gespeichert.</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>Nicht gespeichert.</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 nimmt auf:</translation>
         </message>

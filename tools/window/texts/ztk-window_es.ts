@@ -498,10 +498,6 @@
             <translation>Solo guardado.</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>No guardado.</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 graba:</translation>
         </message>

@@ -498,10 +498,6 @@
             <translation>Seulement enregistré.</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>Non enregistré.</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 enregistre :</translation>
         </message>

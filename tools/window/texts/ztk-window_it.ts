@@ -498,10 +498,6 @@
             <translation>Solo memorizzato.</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>Non memorizzato.</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 registra:</translation>
         </message>

@@ -497,10 +497,6 @@
             <translation>保存のみ。</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>保存されていません。</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 の録音:</translation>
         </message>

@@ -497,10 +497,6 @@
             <translation>저장만 됨.</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>저장되지 않음.</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 녹음:</translation>
         </message>

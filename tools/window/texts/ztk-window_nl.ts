@@ -498,10 +498,6 @@
             <translation>Alleen opgeslagen.</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>Niet opgeslagen.</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 neemt op:</translation>
         </message>

@@ -498,10 +498,6 @@
             <translation>Apenas guardado.</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>Não guardado.</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 grava:</translation>
         </message>

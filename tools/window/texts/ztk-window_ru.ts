@@ -499,10 +499,6 @@
             <translation>Только сохранено.</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>Не сохранено.</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 записывает:</translation>
         </message>

@@ -497,10 +497,6 @@
             <translation>仅已保存。</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>未保存。</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 录制：</translation>
         </message>

@@ -497,10 +497,6 @@
             <translation>僅已儲存。</translation>
         </message>
         <message>
-            <source>Not stored.</source>
-            <translation>未儲存。</translation>
-        </message>
-        <message>
             <source>USB &amp;%1 records:</source>
             <translation>USB &amp;%1 錄製：</translation>
         </message>
