@@ -394,6 +394,40 @@ class LoadingTest(BindingTest):
         self.assertNotEqual(run.returncode, 0)
         self.assertIn("install the package libztkfunc1", run.stderr)
 
+    def test_asyncio_is_imported_only_for_changes(self) -> None:
+        run = subprocess.run(
+            [
+                sys.executable,
+                "-c",
+                "import sys, ztkfunc; print({'asyncio', 'dataclasses'} & {*sys.modules})",
+            ],
+            capture_output=True,
+            text=True,
+        )
+        self.assertEqual((run.stdout, run.stderr), ("set()\n", ""))
+
+    def test_a_subscription_without_a_bus_gives_a_warning(self) -> None:
+        run = subprocess.run(
+            [
+                sys.executable,
+                "-c",
+                "import ztkfunc; ztkfunc.subscribe(print); print('goes on')",
+            ],
+            env={
+                **os.environ,
+                "DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent",
+            },
+            capture_output=True,
+            text=True,
+            timeout=60,
+        )
+        self.assertEqual((run.returncode, run.stdout), (0, "goes on\n"))
+        self.assertIn(
+            "RuntimeWarning: this session has no message bus, so no changes will "
+            "be received; run: ztk doctor",
+            run.stderr,
+        )
+
     def test_a_program_that_ends_while_it_listens_ends_cleanly(self) -> None:
         run = subprocess.run(
             [

@@ -13,27 +13,32 @@ Where the callbacks run on Linux:
 On macOS they run on the main thread while its run loop runs.
 
 Changes are sent over the message bus of the session. Without a bus, for example
-over ssh, nothing is received.
+over ssh, nothing is received: a subscription then gives a RuntimeWarning.
 """
 from __future__ import annotations
 
-import asyncio
 import ctypes
 import sys
 import threading
-from collections.abc import Callable
-from dataclasses import dataclass
-from typing import Any
+import warnings
+from typing import NamedTuple
 
 from . import functions
+
+# What only the annotations need, and asyncio, which only changes() needs, are
+# not imported with the module: they would double the time of the import.
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    import asyncio
+    from collections.abc import Callable
+    from typing import Any
 
 #: The models under which the library receives changes of each family.
 _INPUT_MODEL = 10
 _MIDI_MODEL = 1
 
 
-@dataclass(frozen=True)
-class Change:
+class Change(NamedTuple):
     """A setting that has just been changed by some program."""
 
     #: "input", "output", "boost" or "midi".
@@ -73,6 +78,7 @@ class _State:
         self.lock = threading.Lock()
         self.subscribers: list[Subscription] = []
         self.started = False
+        self.has_bus = True
 
 
 _state = _State()
@@ -131,6 +137,34 @@ def _register_all() -> None:
     )
 
 
+def _has_bus() -> bool:
+    """Whether this session has a message bus that programs can connect to."""
+    if sys.platform == "darwin":
+        return True
+    for name in ("libsystemd.so.0", "libelogind.so.0", "libbasu.so.0"):
+        try:
+            sd_bus = ctypes.CDLL(name)
+        except OSError:
+            continue
+        bus = ctypes.c_void_p()
+        if sd_bus.sd_bus_open_user(ctypes.byref(bus)) < 0:
+            return False
+        sd_bus.sd_bus_close(bus)
+        sd_bus.sd_bus_unref(bus)
+        return True
+    return False
+
+
+def _warn_without_bus() -> None:
+    if not _state.has_bus:
+        warnings.warn(
+            "this session has no message bus, so no changes will be received; "
+            "run: ztk doctor",
+            RuntimeWarning,
+            stacklevel=3,
+        )
+
+
 def _load_glib() -> Any:
     glib = ctypes.CDLL("libglib-2.0.so.0")
     glib.g_main_context_new.restype = ctypes.c_void_p
@@ -180,13 +214,15 @@ def use_glib_main_loop() -> None:
                 "use_glib_main_loop() must be called once, before the first subscription"
             )
         _state.started = True
+        _state.has_bus = _has_bus()
     _register_all()
+    _warn_without_bus()
 
 
 def subscribe(callback: Callable[[Change], object]) -> Subscription:
     """Calls a function with every :class:`Change` from now on.
 
-    The description of this module names the thread. A function that raises does
+    Gives a RuntimeWarning where there is no message bus. The description of this module names the thread. A function that raises does
     not disturb the other subscribers; its error goes to ``sys.excepthook``.
     """
     subscription = Subscription(callback)
@@ -195,10 +231,12 @@ def subscribe(callback: Callable[[Change], object]) -> Subscription:
         start = not _state.started
         _state.started = True
         if start:
+            _state.has_bus = _has_bus()
             if sys.platform == "darwin":
                 _register_all()
             else:
                 _start_thread()
+    _warn_without_bus()
     return subscription
 
 
@@ -206,6 +244,8 @@ class Changes:
     """An asynchronous iterator over changes; see :func:`changes`."""
 
     def __init__(self) -> None:
+        import asyncio
+
         self._loop = asyncio.get_running_loop()
         self._queue: asyncio.Queue[Change] = asyncio.Queue()
         self._subscription = subscribe(self._put)
@@ -237,6 +277,7 @@ def changes() -> Changes:
     """Gives every change from now on, for ``async for change in changes()``.
 
     Must be called while an asyncio loop runs. Changes that come between two
-    steps of the loop are kept in order.
+    steps of the loop are kept in order. Gives a RuntimeWarning where there is no
+    message bus, as nothing will come then.
     """
     return Changes()

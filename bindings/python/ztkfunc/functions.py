@@ -19,11 +19,14 @@ answer takes 1 second.
 from __future__ import annotations
 
 import ctypes
-from collections.abc import Callable
-from typing import Any
 
 from ._library import LIB, LOCK, ChannelCallback, IndexCallback
 from ._text import TextArgument, TextRef, to_str
+
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from collections.abc import Callable
+    from typing import Any
 
 #: Done.
 ZTK_SUCCESS = 100

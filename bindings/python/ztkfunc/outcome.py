@@ -10,8 +10,8 @@ from __future__ import annotations
 import ctypes
 import errno
 import os
-from dataclasses import dataclass
 from enum import IntEnum
+from typing import NamedTuple
 
 from ._library import LIB
 from ._structures import CFileOutcome, CMixerOutcome, COutcome, CRequestOutcome
@@ -114,8 +114,7 @@ def _with_code(words: str, code: int) -> str:
     return f"{words} (system code {code})" if code else words
 
 
-@dataclass(frozen=True)
-class RequestOutcome:
+class RequestOutcome(NamedTuple):
     """The result of one request to one mixer, with details."""
 
     result: Request
@@ -127,8 +126,7 @@ class RequestOutcome:
     system_code: int
 
 
-@dataclass(frozen=True)
-class MixerOutcome:
+class MixerOutcome(NamedTuple):
     """The results of the requests to one mixer."""
 
     #: Number of the mixer, from 1, in the order of the bus.
@@ -151,8 +149,7 @@ class MixerOutcome:
         return f"mixer {self.number} {_with_code(words, self.write.system_code)}"
 
 
-@dataclass(frozen=True)
-class FileOutcome:
+class FileOutcome(NamedTuple):
     """The result of reading or storing a file."""
 
     result: File
@@ -164,8 +161,7 @@ class FileOutcome:
         return _with_code(_FILE_WORDS[self.result], self.system_code)
 
 
-@dataclass(frozen=True)
-class Outcome:
+class Outcome(NamedTuple):
     """The effects of one call."""
 
     #: Mixers that the call counted.
