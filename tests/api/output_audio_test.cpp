@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "api/api_test.h"
 
 namespace ztk::test {
@@ -57,6 +59,14 @@ TEST_F(GetUSBOutputAudioText, IgnoresItsFourthArgument) {
 }
 
 class SetUSBOutputAudio : public ApiTest {};
+
+// A search for a mixer that is not there would be invisible among the requests.
+TEST_F(SetUSBOutputAudio, SearchesTheBusOnceForEachRequest) {
+  TheWorld().bus = {Mixer(), Mixer()};
+  EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0, 1), 100u);
+  const std::vector<std::string> calls = TakeCalls();
+  EXPECT_EQ(std::count(calls.begin(), calls.end(), "find every service"), 4);
+}
 
 TEST_F(SetUSBOutputAudio, SendsStoresPostsAndReadsTheSelectorInThisOrder) {
   TheWorld().bus = {Mixer()};

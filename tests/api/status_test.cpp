@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <functional>
 
 #include "api/api_test.h"
@@ -301,6 +302,15 @@ TEST_F(GetMixerSeratoActiveStatus, AsksEveryMixerThatOpens) {
     std::uint32_t active = 0;
     return ZTK_GetMixerSeratoActiveStatus(10, &active);
   });
+}
+
+TEST_F(GetMixerSeratoActiveStatus, SearchesTheBusOnceForEachMixer) {
+  std::uint32_t active = 77;
+  TheWorld().bus = {MixerAnswering(kSerato, {.result = 0, .bytes = {1, 0}}),
+                    MixerAnswering(kSerato, {.result = 0, .bytes = {1, 0}})};
+  EXPECT_EQ(ZTK_GetMixerSeratoActiveStatus(10, &active), 100u);
+  const std::vector<std::string> calls = TakeCalls();
+  EXPECT_EQ(std::count(calls.begin(), calls.end(), "find every service"), 2);
 }
 
 TEST_F(GetMixerSeratoActiveStatus, LeavesTheOutputWhenNoMixerOpens) {

@@ -260,6 +260,29 @@ TEST_F(Outcome, CountsForAQuestionAboutTheConnection) {
   EXPECT_EQ(Told(Last().mixers[0].write), kNothing);
 }
 
+TEST_F(Outcome, OfAQuestionAboutTheConnectionBeginsAnew) {
+  TheWorld().bus = {WithSelectors()};
+  EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
+  EXPECT_EQ(Last().store.result, ZTK_FILE_OK);
+  EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
+  EXPECT_EQ(Last().store.result, ZTK_FILE_NONE);
+  EXPECT_EQ(Told(Last().mixers[0].write), kNothing);
+}
+
+TEST_F(Outcome, NeedsAPlaceForItsSize) {
+  EXPECT_EQ(ZTK_GetLastOutcome(nullptr), 102u);
+  ZTKOutcome outcome = {};
+  outcome.mixersFound = 77;
+  for (const std::uint32_t size : {0u, 3u}) {
+    outcome.size = size;
+    EXPECT_EQ(ZTK_GetLastOutcome(&outcome), 102u);
+  }
+  outcome.size = 4;
+  EXPECT_EQ(ZTK_GetLastOutcome(&outcome), 100u);
+  EXPECT_EQ(outcome.size, 4u);
+  EXPECT_EQ(outcome.mixersFound, 77u);
+}
+
 TEST_F(Outcome, StaysWhenATableIsAsked) {
   TheWorld().bus = {Mixer()};
   ZTK_SetBoostLevelIndex(10, 1);
