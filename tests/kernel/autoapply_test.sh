@@ -112,7 +112,7 @@ as_guest mv /home/guest/.config/tarvix /home/guest/away
 as_guest systemctl --user start ztk-apply@by-hand.service
 until_true something_logged
 expect "the journal tells that there was nothing to send" \
-  "Nothing is remembered for the VRM-D6: nothing to send." \
+  "Nothing is remembered for any model: nothing to send." \
   "$(journalctl --quiet --output cat -t ztk-apply)"
 expect "and nothing was sent" "" "$(writes)"
 as_guest mv /home/guest/away /home/guest/.config/tarvix
