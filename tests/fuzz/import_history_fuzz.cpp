@@ -7,7 +7,7 @@
 #include <string>
 
 #include "ztk/model/exchange.h"
-#include "ztk/model/history.h"
+#include "ztk/model/history/history.h"
 
 namespace {
 

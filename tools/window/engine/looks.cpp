@@ -7,9 +7,9 @@
 #include "window/engine/sentences.h"
 #include "ztk/model/autoapply.h"
 #include "ztk/model/diagnosis.h"
-#include "ztk/model/mixer_status.h"
+#include "ztk/model/history/undo.h"
+#include "ztk/model/mixers/mixer_status.h"
 #include "ztk/model/remembered.h"
-#include "ztk/model/undo.h"
 
 namespace ztk::window {
 

@@ -6,8 +6,8 @@
 
 #include "window/engine/clubs.h"
 #include "window/engine/sentences.h"
+#include "ztk/model/history/undo.h"
 #include "ztk/model/resend.h"
-#include "ztk/model/undo.h"
 #include "ztk/system/library_text.h"
 
 namespace ztk::window {

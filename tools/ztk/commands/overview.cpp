@@ -4,7 +4,7 @@
 #include "cli/strings.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/commands/setting/setting_parts.h"
-#include "ztk/model/reach.h"
+#include "ztk/model/mixers/reach.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"
 

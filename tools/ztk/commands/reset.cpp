@@ -3,7 +3,7 @@
 #include "cli/suggest.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/commands/setting/setting_parts.h"
-#include "ztk/model/forget.h"
+#include "ztk/model/history/forget.h"
 #include "ztk/model/remembered.h"
 #include "ztk/report/change_report.h"
 #include "ztk/report/dry_run_report.h"

@@ -6,10 +6,10 @@
 
 #include "cli/strings.h"
 #include "ztk/commands/other_commands.h"
-#include "ztk/model/mixer_status.h"
+#include "ztk/model/mixers/mixer_status.h"
+#include "ztk/model/mixers/silence.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"
-#include "ztk/model/silence.h"
 #include "ztk/progress.h"
 #include "ztk/report/setting_report.h"
 #include "ztk/report/silence_report.h"

@@ -8,7 +8,7 @@
 #include "cli/strings.h"
 #include "cli/suggest.h"
 #include "ztk/commands/other_commands.h"
-#include "ztk/model/mixer_status.h"
+#include "ztk/model/mixers/mixer_status.h"
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 #include "ztk/progress.h"

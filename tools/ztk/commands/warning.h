@@ -6,7 +6,7 @@
 
 #include "api/status.h"
 #include "ztk/model/change.h"
-#include "ztk/model/reach.h"
+#include "ztk/model/mixers/reach.h"
 #include "ztk/report.h"
 
 namespace ztk::program {

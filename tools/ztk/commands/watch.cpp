@@ -8,7 +8,7 @@
 
 #include "cli/terminal.h"
 #include "ztk/commands/other_commands.h"
-#include "ztk/model/plugged_mixers.h"
+#include "ztk/model/mixers/plugged_mixers.h"
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 #include "ztk/output.h"

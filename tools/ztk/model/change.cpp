@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "ztk/model/forget.h"
+#include "ztk/model/history/forget.h"
 
 namespace ztk::model {
 

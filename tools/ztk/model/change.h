@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "ztk/model/reach.h"
+#include "ztk/model/mixers/reach.h"
 #include "ztk/model/settings.h"
 
 namespace ztk::model {

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "ztk/model/mixer_status.h"
+#include "ztk/model/mixers/mixer_status.h"
+#include "ztk/model/mixers/silence.h"
 #include "ztk/model/settings.h"
-#include "ztk/model/silence.h"
 
 namespace ztk::model {
 

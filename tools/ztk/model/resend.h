@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ztk/model/reach.h"
+#include "ztk/model/mixers/reach.h"
 #include "ztk/model/settings.h"
 
 namespace ztk::model {

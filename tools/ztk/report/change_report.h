@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ztk/model/history.h"
+#include "ztk/model/history/history.h"
 #include "ztk/progress.h"
 #include "ztk/report.h"
 

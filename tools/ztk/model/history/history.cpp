@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/history.h"
+#include "ztk/model/history/history.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

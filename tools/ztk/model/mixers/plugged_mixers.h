@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Detects mixers that are plugged in and unplugged.
-#ifndef ZTK_TOOLS_ZTK_MODEL_PLUGGED_MIXERS_H_
-#define ZTK_TOOLS_ZTK_MODEL_PLUGGED_MIXERS_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_MIXERS_PLUGGED_MIXERS_H_
+#define ZTK_TOOLS_ZTK_MODEL_MIXERS_PLUGGED_MIXERS_H_
 
 #include <cstddef>
 #include <string>
@@ -31,4 +31,4 @@ class PluggedMixers {
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_PLUGGED_MIXERS_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_MIXERS_PLUGGED_MIXERS_H_

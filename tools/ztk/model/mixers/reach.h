@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Which mixers were reached, and why others were not.
-#ifndef ZTK_TOOLS_ZTK_MODEL_REACH_H_
-#define ZTK_TOOLS_ZTK_MODEL_REACH_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_MIXERS_REACH_H_
+#define ZTK_TOOLS_ZTK_MODEL_MIXERS_REACH_H_
 
 #include <cstdint>
 #include <string>
@@ -86,4 +86,4 @@ std::string Described(usb::Code code);
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_REACH_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_MIXERS_REACH_H_

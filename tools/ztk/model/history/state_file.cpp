@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/state_file.h"
+#include "ztk/model/history/state_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

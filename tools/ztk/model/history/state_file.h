@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // A private file of this program, which several of its processes share.
-#ifndef ZTK_TOOLS_ZTK_MODEL_STATE_FILE_H_
-#define ZTK_TOOLS_ZTK_MODEL_STATE_FILE_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_STATE_FILE_H_
+#define ZTK_TOOLS_ZTK_MODEL_HISTORY_STATE_FILE_H_
 
 #include <cstdint>
 #include <string>
@@ -59,4 +59,4 @@ bool ReplaceStateFile(const std::string &path, const std::string &text,
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_STATE_FILE_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_STATE_FILE_H_

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The status that the mixers report.
-#ifndef ZTK_TOOLS_ZTK_MODEL_MIXER_STATUS_H_
-#define ZTK_TOOLS_ZTK_MODEL_MIXER_STATUS_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_MIXERS_MIXER_STATUS_H_
+#define ZTK_TOOLS_ZTK_MODEL_MIXERS_MIXER_STATUS_H_
 
 #include <array>
 #include <cstdint>
@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "api/status.h"
-#include "ztk/model/reach.h"
+#include "ztk/model/mixers/reach.h"
 
 namespace ztk::model {
 
@@ -59,4 +59,4 @@ std::string FirmwareVersion(std::uint16_t number);
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_MIXER_STATUS_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_MIXERS_MIXER_STATUS_H_

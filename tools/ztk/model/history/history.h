@@ -2,8 +2,8 @@
 //
 // The changes that this program has made, for undo. No other program reads or
 // writes this file, and the settings files do not contain it.
-#ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_H_
-#define ZTK_TOOLS_ZTK_MODEL_HISTORY_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_HISTORY_H_
+#define ZTK_TOOLS_ZTK_MODEL_HISTORY_HISTORY_H_
 
 #include <cstdint>
 #include <optional>
@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "ztk/model/change.h"
+#include "ztk/model/history/state_file.h"
 #include "ztk/model/settings.h"
-#include "ztk/model/state_file.h"
 
 namespace ztk::model {
 
@@ -106,4 +106,4 @@ MadeStep MakeStep(const std::string &command,
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_HISTORY_H_

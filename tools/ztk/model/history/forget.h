@@ -2,13 +2,13 @@
 //
 // Removes remembered values from the settings file. Nothing is sent or
 // announced.
-#ifndef ZTK_TOOLS_ZTK_MODEL_FORGET_H_
-#define ZTK_TOOLS_ZTK_MODEL_FORGET_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_FORGET_H_
+#define ZTK_TOOLS_ZTK_MODEL_HISTORY_FORGET_H_
 
 #include <string>
 #include <vector>
 
-#include "ztk/model/history.h"
+#include "ztk/model/history/history.h"
 #include "ztk/model/resend.h"
 #include "ztk/model/settings.h"
 
@@ -38,4 +38,4 @@ ForgottenStep ForgetValues(const std::string &command,
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_FORGET_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_FORGET_H_

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
 // How undo takes back the changes of the last steps.
-#ifndef ZTK_TOOLS_ZTK_MODEL_UNDO_H_
-#define ZTK_TOOLS_ZTK_MODEL_UNDO_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_UNDO_H_
+#define ZTK_TOOLS_ZTK_MODEL_HISTORY_UNDO_H_
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "ztk/model/history.h"
+#include "ztk/model/history/history.h"
 
 namespace ztk::model {
 
@@ -51,4 +51,4 @@ std::vector<Change> ChangesOf(const std::vector<UndoItem> &items);
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_UNDO_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_UNDO_H_

@@ -2,8 +2,8 @@
 //
 // Work on several mixers at the same time: a request to one that does not
 // answer takes a second.
-#ifndef ZTK_TOOLS_ZTK_MODEL_IN_PARALLEL_H_
-#define ZTK_TOOLS_ZTK_MODEL_IN_PARALLEL_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_MIXERS_IN_PARALLEL_H_
+#define ZTK_TOOLS_ZTK_MODEL_MIXERS_IN_PARALLEL_H_
 
 #include <cstddef>
 #include <functional>
@@ -19,4 +19,4 @@ void InParallel(std::size_t count,
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_IN_PARALLEL_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_MIXERS_IN_PARALLEL_H_

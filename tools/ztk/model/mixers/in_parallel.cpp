@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/in_parallel.h"
+#include "ztk/model/mixers/in_parallel.h"
 
 #include <system_error>
 #include <thread>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/forget.h"
+#include "ztk/model/history/forget.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/mixer_status.h"
+#include "ztk/model/mixers/mixer_status.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
 
 #include "usb/mixers.h"
-#include "ztk/model/in_parallel.h"
+#include "ztk/model/mixers/in_parallel.h"
 
 namespace ztk::model {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/undo.h"
+#include "ztk/model/history/undo.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/plugged_mixers.h"
+#include "ztk/model/mixers/plugged_mixers.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/reach.h"
+#include "ztk/model/mixers/reach.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 
 #include "api/status.h"
 #include "usb/mixers.h"
-#include "ztk/model/in_parallel.h"
+#include "ztk/model/mixers/in_parallel.h"
 
 namespace ztk::model {
 
