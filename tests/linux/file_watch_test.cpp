@@ -32,13 +32,17 @@ using std::chrono::milliseconds;
 using testing::ElementsAre;
 using ztk::test::ContentOf;
 using ztk::test::NamesIn;
-using ztk::test::Put;
 using ztk::test::TempFolder;
 using ztk::test::Xml;
 
 // Called in each pause with the time that the pauses have taken until then.
 std::function<void(milliseconds)> duringPause;
 milliseconds paused{0};
+
+// Unlike the one of the other tests, the file was changed this moment.
+void Put(const std::string &file, const std::string &content) {
+  std::ofstream(file, std::ios::binary) << content;
+}
 
 class FileWatch : public testing::Test {
  protected:
