@@ -16,15 +16,16 @@ using namespace ztk::output_audio;
 const ZTKTextRef OutputAudioText[3] = {ZTK_TEXT("CH1"), ZTK_TEXT("CH2"),
                                        ZTK_TEXT("AUX")};
 
-// Three choices for each channel, addressed as one flat array at channel * 3 +
-// index, across the rows: index 3 of a channel is the first entry of the next
-// row. clang-format off
+// Three choices for each channel, in one array without bounds between the
+// channels: the entry is channel * 3 + index, so that index 3 of a channel is
+// the first choice of the next channel.
+// clang-format off
 const std::int32_t VRMB5_OUT_TEXT[12] = {
     //  CH1  CH2  AUX
     0, 1, 2,   // channel 0
     0, 1, 2,   // channel 1
     0, 1, 2,   // channel 2
-    0, 0, 0};  // behind it
+    0, 0, 0};  // index 3 and above of channel 2
 
 // High byte: channel + 1. Low byte: code of the choice.
 const std::uint16_t _convTableOut_B5[9] = {
@@ -47,7 +48,7 @@ std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
                                DeviceValue(channel, index));
 }
 
-// Deliberate: the answers are not used; the setters of this file never warn.
+// The answers are deliberately not used: the setters of this file never warn.
 void ReadSelectors(std::int32_t mixers) {
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply unused;

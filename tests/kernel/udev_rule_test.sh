@@ -107,8 +107,8 @@ expect "without the rule root alone reaches the mixers" "2 0 0" \
 install --mode 644 "$rules" /lib/udev/rules.d/
 ask_doctor guest
 expect "the doctor sees that the rule came too late" \
-  "the rule that grants you access came after the mixer was plugged in; this does \
-what plugging it in again does" "$cause"
+  "the rule that grants you access was installed after the mixer was plugged \
+in; this command has the same effect as plugging it in again" "$cause"
 type_command
 expect "and the one command lets the user set both mixers" \
   "mixer 1: 40 03 0107 8002 0000
@@ -120,7 +120,7 @@ udevadm settle
 
 ask_doctor guest
 expect "the doctor sees that the rule is missing" \
-  "only root may open it, as no rule grants you access" "$cause"
+  "only root may open it, because no udev rule grants you access" "$cause"
 type_command
 expect "and the one command lets the user set both mixers" \
   "mixer 1: 40 03 0108 8002 0000

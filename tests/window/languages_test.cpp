@@ -46,9 +46,10 @@ State FullState() {
   state.findings.append(Translated({.id = "silent",
                                     .what = "mixer 1 does not answer",
                                     .cause = "the rule that grants you access "
-                                             "came after the mixer was plugged "
-                                             "in; this does what plugging it "
-                                             "in again does",
+                                             "was installed after the mixer "
+                                             "was plugged in; this command has "
+                                             "the same effect as plugging it "
+                                             "in again",
                                     .command = "ztk doctor"}));
   state.canUndo = true;
   state.undoes = PlaceText(model::kInput, 1);

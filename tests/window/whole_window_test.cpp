@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The window with its engine, as somebody uses it.
+// The window with its engine: mouse clicks, keys and changes by other programs.
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
@@ -32,13 +32,13 @@ class WholeWindowTest : public EngineWorld {
   void RecordsWhatIsChosenWithTheKeyboard();
   void ShowsWhatAnotherProgramSets();
   void TellsWhyAChannelIsSilent();
-  void PutsBackWhatWasChanged();
+  void UndoesTwoChanges();
   void DashesTheWiresWhenTheMixerIsUnplugged();
   void SavesAndAppliesAClub();
   void ClosesWhileAMixerIsSilent();
 
  private:
-  // A window with an engine that knows everything.
+  // Shows a window whose engine has read the mixers and all settings.
   void Open();
   ChoiceRow &InputRow(int channel) const {
     return *window_->routingPage()->rows()[channel];
@@ -120,12 +120,12 @@ void WholeWindowTest::TellsWhyAChannelIsSilent() {
   EVENTUALLY(InputRow(0).text() == QStringLiteral("Remembered."));
 }
 
-void WholeWindowTest::PutsBackWhatWasChanged() {
+void WholeWindowTest::UndoesTwoChanges() {
   Ztk({"input", "set", "1", "2"});
   Open();
   InputRow(0).box()->setFocus();
   Click({.source = Source::Mic});
-  // A wish that still waits would be replaced by the next one.
+  // The next choice would replace a choice that has not been sent yet.
   EVENTUALLY(Row(kInput, 0).delivery == Delivery::Sent);
   Click({.source = Source::RecOut});
   EVENTUALLY(Row(kInput, 0).delivery == Delivery::Sent);

@@ -72,8 +72,9 @@ TEST_F(Doctor, NamesFindingCauseAndCommandAndIsOne) {
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.out,
               StartsWith("mixers    no mixer is attached\n"
-                         "          cause: the system sees none: its plug is "
-                         "out, or it is off; plug it in and switch it on\n"
+                         "          cause: the system finds none: it is "
+                         "unplugged or switched off; plug it in and switch "
+                         "it on\n"
                          "          type:  ztk doctor\n"));
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
   EXPECT_EQ(OneObject(NoMixer("ztk doctor --json").out)["error"]["code"],
@@ -118,7 +119,7 @@ TEST_F(Doctor, TellsProblemsAndCommandsWhenQuiet) {
   const Result result = NoMixer("ztk doctor --quiet");
   EXPECT_EQ(result.out, "");
   EXPECT_THAT(result.err, StartsWith("ztk: mixers: no mixer is attached\n"
-                                     "ztk: cause: the system sees none"));
+                                     "ztk: cause: the system finds none"));
   EXPECT_THAT(result.err, HasSubstr("\nztk: type:  ztk doctor\n"));
 }
 

@@ -7,8 +7,8 @@
 
 namespace ztk::window {
 
-// Shows the texts of this program in this language, where there is a
-// translation, as long as the owner lives.
+// Shows the texts of this program in this language, if it has a translation,
+// until the owner is destroyed.
 void Translate(QObject *owner, const QLocale &locale);
 
 }  // namespace ztk::window

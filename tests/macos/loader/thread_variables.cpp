@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Variables of which each thread has its own: a program asks for the address
-// through a description of three words, the first of which is called.
+// Thread-local variables. A program has a descriptor of three words for each of
+// them. It gets the address of the variable in its thread by a call of the
+// function in the first word.
 #include <map>
 
 #include "image.h"
@@ -52,7 +53,7 @@ extern "C" __attribute__((preserve_all, used)) void ZTKFindAddress(
   *address = block.data() + variable->offset;
 }
 
-// Called with the description in rdi; changes no register but rax.
+// Called with the descriptor in rdi; changes no register but rax.
 extern "C" __attribute__((naked)) void ZTKAskForAddress() {
   asm volatile(
       "push %r11\n push %rsi\n push %rsi\n mov %rsp, %rsi\n"

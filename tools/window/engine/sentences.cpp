@@ -26,14 +26,14 @@ struct Sentences {
     QT_TRANSLATE_NOOP("Model", "the settings file cannot be written"),
     QT_TRANSLATE_NOOP("Model", "no mixer is attached"),
     QT_TRANSLATE_NOOP("Model", "no mixer can be found"),
-    QT_TRANSLATE_NOOP("Model", "the system sees none: its plug is out, or it is off; plug it in and switch it on"),
-    QT_TRANSLATE_NOOP("Model", "its plug or its power may be loose"),
-    QT_TRANSLATE_NOOP("Model", "it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same"),
-    QT_TRANSLATE_NOOP("Model", "it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same"),
-    QT_TRANSLATE_NOOP("Model", "only root may open it, as no rule grants you access"),
-    QT_TRANSLATE_NOOP("Model", "the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does"),
+    QT_TRANSLATE_NOOP("Model", "the system finds none: it is unplugged or switched off; plug it in and switch it on"),
+    QT_TRANSLATE_NOOP("Model", "its USB cable or its power cable may be loose"),
+    QT_TRANSLATE_NOOP("Model", "it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same"),
+    QT_TRANSLATE_NOOP("Model", "it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same"),
+    QT_TRANSLATE_NOOP("Model", "only root may open it, because no udev rule grants you access"),
+    QT_TRANSLATE_NOOP("Model", "the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again"),
     QT_TRANSLATE_NOOP("Model", "this is a virtual mixer, and ztk-virtual-mixer forbids it"),
-    QT_TRANSLATE_NOOP("Model", "other programs do not hear of changes"),
+    QT_TRANSLATE_NOOP("Model", "other programs do not receive changes"),
     QT_TRANSLATE_NOOP("Model", "the warning texts are not installed"),
     QT_TRANSLATE_NOOP("Model", "the warning texts are incomplete")};
 // clang-format on
@@ -42,7 +42,7 @@ QString FromModel(const std::string &text) {
   return QCoreApplication::translate("Model", text.c_str());
 }
 
-// As the model's sentences begin with a small letter.
+// Begins with a capital letter; the sentences of the model do not.
 QString Sentence(QString text) {
   if (!text.isEmpty()) text[0] = text[0].toUpper();
   return text;

@@ -11,7 +11,7 @@ namespace ztk::window {
 
 class ChoiceRow;
 
-// The page of a model whose settings are shown as rows alone.
+// The page of a model whose settings are shown as rows, without a picture.
 class RowsPage : public QWidget {
   Q_OBJECT
 

@@ -276,27 +276,27 @@
             <translation>es ist kein Mischpult zu finden</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>das System sieht keines: Der Stecker ist gezogen, oder es ist aus; schließen Sie es an und schalten Sie es ein</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>der Stecker oder die Stromversorgung sitzt vielleicht lose</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>es ist angeschlossen und darf geöffnet werden, startet aber noch oder hängt; schalten Sie es aus und wieder ein, oder geben Sie den Befehl ein, der dasselbe tut</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>es ist angeschlossen und darf geöffnet werden, aber etwas darin versagt; schalten Sie es aus und wieder ein, oder geben Sie den Befehl ein, der dasselbe tut</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>nur root darf es öffnen, da Ihnen keine Regel Zugriff gewährt</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>die Regel, die Ihnen Zugriff gewährt, kam erst nach dem Anschließen; dieser Befehl wirkt wie erneutes Anschließen</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>dies ist ein virtuelles Mischpult, und ztk-virtual-mixer verbietet es</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>andere Programme erfahren nichts von Änderungen</translation>
         </message>
         <message>

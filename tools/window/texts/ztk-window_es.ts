@@ -276,27 +276,27 @@
             <translation>no se encuentra ninguna mesa</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>el sistema no ve ninguna: está desenchufada o apagada; conéctela y enciéndala</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>el cable o la alimentación puede estar flojo</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>está conectada y se puede abrir, pero aún arranca o está bloqueada; apáguela y enciéndala, o escriba la orden que hace lo mismo</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>está conectada y se puede abrir, pero algo falla en ella; apáguela y enciéndala, o escriba la orden que hace lo mismo</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>solo root puede abrirla, porque ninguna regla le da acceso</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>la regla que le da acceso llegó después de conectar la mesa; esto hace lo mismo que conectarla de nuevo</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>es una mesa virtual y ztk-virtual-mixer lo prohíbe</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>otros programas no se enteran de los cambios</translation>
         </message>
         <message>

@@ -276,27 +276,27 @@
             <translation>aucune table de mixage n’est trouvée</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>le système n’en voit aucune : elle est débranchée ou éteinte ; branchez-la et allumez-la</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>la prise ou l’alimentation est peut-être mal fixée</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>elle est connectée et peut être ouverte, mais elle démarre encore ou est bloquée ; éteignez-la et rallumez-la, ou tapez la commande équivalente</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>elle est connectée et peut être ouverte, mais quelque chose y échoue ; éteignez-la et rallumez-la, ou tapez la commande équivalente</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>seul root peut l’ouvrir, car aucune règle ne vous donne accès</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>la règle qui vous donne accès est arrivée après le branchement ; cette commande agit comme un nouveau branchement</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>c’est une table virtuelle, et ztk-virtual-mixer l’interdit</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>les autres programmes n’apprennent pas les modifications</translation>
         </message>
         <message>

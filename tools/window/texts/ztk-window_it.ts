@@ -276,27 +276,27 @@
             <translation>non si trova nessun mixer</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>il sistema non ne vede: è scollegato o spento; collegarlo e accenderlo</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>la spina o l’alimentazione potrebbe essere allentata</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>è collegato e può essere aperto, ma si sta ancora avviando o è bloccato; spegnerlo e riaccenderlo, o digitare il comando equivalente</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>è collegato e può essere aperto, ma qualcosa al suo interno non funziona; spegnerlo e riaccenderlo, o digitare il comando equivalente</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>solo root può aprirlo, perché nessuna regola concede l’accesso</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>la regola che concede l’accesso è arrivata dopo il collegamento; questo equivale a ricollegarlo</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>questo è un mixer virtuale e ztk-virtual-mixer lo vieta</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>gli altri programmi non vengono a sapere delle modifiche</translation>
         </message>
         <message>

@@ -276,27 +276,27 @@
             <translation>ミキサーが見つかりません</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>システムから見えません。ケーブルが抜けているか、電源が切れています。接続して電源を入れてください</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>ケーブルまたは電源の接触が悪い可能性があります</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>接続されていて開くこともできますが、起動中か応答停止中です。電源を入れ直すか、同じ働きをするコマンドを入力してください</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>接続されていて開くこともできますが、内部で障害が起きています。電源を入れ直すか、同じ働きをするコマンドを入力してください</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>アクセスを許可する規則がないため、root しか開けません</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>アクセスを許可する規則が接続後に追加されました。このコマンドは接続し直すのと同じ働きをします</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>これは仮想ミキサーで、ztk-virtual-mixer が禁止しています</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>ほかのプログラムに変更が伝わりません</translation>
         </message>
         <message>

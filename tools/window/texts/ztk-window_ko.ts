@@ -276,27 +276,27 @@
             <translation>믹서를 찾을 수 없습니다</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>시스템에 보이지 않습니다. 케이블이 빠졌거나 전원이 꺼져 있습니다. 연결하고 전원을 켜십시오</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>케이블이나 전원이 헐거울 수 있습니다</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>연결되어 있고 열 수 있지만 아직 시작 중이거나 멈춰 있습니다. 전원을 껐다 켜거나 같은 일을 하는 명령을 입력하십시오</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>연결되어 있고 열 수 있지만 내부에 문제가 있습니다. 전원을 껐다 켜거나 같은 일을 하는 명령을 입력하십시오</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>접근을 허용하는 규칙이 없어 root만 열 수 있습니다</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>접근을 허용하는 규칙이 믹서 연결 후에 추가되었습니다. 이 명령은 다시 연결하는 것과 같습니다</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>가상 믹서이며 ztk-virtual-mixer가 금지하고 있습니다</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>다른 프로그램이 변경 사항을 알 수 없습니다</translation>
         </message>
         <message>

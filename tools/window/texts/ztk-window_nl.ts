@@ -276,27 +276,27 @@
             <translation>er is geen mengpaneel te vinden</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>het systeem ziet er geen: de stekker is eruit of het staat uit; sluit het aan en zet het aan</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>de stekker of de voeding zit misschien los</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>het is aangesloten en mag worden geopend, maar het start nog of hangt; zet het uit en weer aan, of typ de opdracht die hetzelfde doet</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>het is aangesloten en mag worden geopend, maar er gaat iets in mis; zet het uit en weer aan, of typ de opdracht die hetzelfde doet</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>alleen root mag het openen, omdat geen regel u toegang geeft</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>de regel die u toegang geeft kwam na het aansluiten; dit doet hetzelfde als opnieuw aansluiten</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>dit is een virtueel mengpaneel en ztk-virtual-mixer verbiedt het</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>andere programma’s horen niet van wijzigingen</translation>
         </message>
         <message>

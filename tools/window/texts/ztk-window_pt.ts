@@ -276,27 +276,27 @@
             <translation>não se encontra nenhuma mesa</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>o sistema não vê nenhuma: está desligada ou sem cabo; ligue o cabo e ligue a mesa</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>o cabo ou a alimentação pode estar solto</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>está ligada e pode ser aberta, mas ainda está a arrancar ou bloqueou; desligue-a e ligue-a, ou escreva o comando que faz o mesmo</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>está ligada e pode ser aberta, mas algo nela falha; desligue-a e ligue-a, ou escreva o comando que faz o mesmo</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>só o root a pode abrir, porque nenhuma regra lhe dá acesso</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>a regra que lhe dá acesso chegou depois de ligar a mesa; isto faz o mesmo que ligá-la novamente</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>esta é uma mesa virtual, e o ztk-virtual-mixer proíbe-o</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>os outros programas não sabem das alterações</translation>
         </message>
         <message>

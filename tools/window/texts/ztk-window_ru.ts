@@ -276,27 +276,27 @@
             <translation>микшер не найден</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>система его не видит: он не подключён или выключен; подключите и включите его</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>возможно, плохо держится кабель или питание</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>он подключён и доступен, но ещё запускается или завис; выключите и включите его или введите команду, которая делает то же самое</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>он подключён и доступен, но в нём что-то не работает; выключите и включите его или введите команду, которая делает то же самое</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>открыть его может только root: ни одно правило не даёт вам доступа</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>правило, дающее вам доступ, появилось после подключения; эта команда равносильна повторному подключению</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>это виртуальный микшер, и ztk-virtual-mixer это запрещает</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>другие программы не узнают об изменениях</translation>
         </message>
         <message>

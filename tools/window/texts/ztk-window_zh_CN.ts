@@ -276,27 +276,27 @@
             <translation>找不到混音台</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>系统未检测到混音台：插头未插或电源关闭；请连接并打开电源</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>插头或电源可能松动</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>它已连接且可以打开，但仍在启动或已停止响应；请关闭后再打开，或输入具有相同作用的命令</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>它已连接且可以打开，但内部出现故障；请关闭后再打开，或输入具有相同作用的命令</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>没有规则授予您访问权限，只有 root 可以打开</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>授予您访问权限的规则是在连接混音台之后才添加的；此命令相当于重新连接</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>这是虚拟混音台，ztk-virtual-mixer 禁止打开它</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>其他程序不会得知更改</translation>
         </message>
         <message>

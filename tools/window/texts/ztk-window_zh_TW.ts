@@ -276,27 +276,27 @@
             <translation>找不到混音器</translation>
         </message>
         <message>
-            <source>the system sees none: its plug is out, or it is off; plug it in and switch it on</source>
+            <source>the system finds none: it is unplugged or switched off; plug it in and switch it on</source>
             <translation>系統未偵測到混音器：插頭未插或電源關閉；請連接並開啟電源</translation>
         </message>
         <message>
-            <source>its plug or its power may be loose</source>
+            <source>its USB cable or its power cable may be loose</source>
             <translation>插頭或電源可能鬆動</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
             <translation>它已連接且可以開啟，但仍在啟動或已停止回應；請關閉後再開啟，或輸入具有相同作用的指令</translation>
         </message>
         <message>
-            <source>it is attached and may be opened, but something in it fails; switch it off and on again, or type what does the same</source>
+            <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
             <translation>它已連接且可以開啟，但內部發生故障；請關閉後再開啟，或輸入具有相同作用的指令</translation>
         </message>
         <message>
-            <source>only root may open it, as no rule grants you access</source>
+            <source>only root may open it, because no udev rule grants you access</source>
             <translation>沒有規則授予您存取權限，只有 root 可以開啟</translation>
         </message>
         <message>
-            <source>the rule that grants you access came after the mixer was plugged in; this does what plugging it in again does</source>
+            <source>the rule that grants you access was installed after the mixer was plugged in; this command has the same effect as plugging it in again</source>
             <translation>授予您存取權限的規則是在連接混音器之後才加入的；此指令相當於重新連接</translation>
         </message>
         <message>
@@ -304,7 +304,7 @@
             <translation>這是虛擬混音器，ztk-virtual-mixer 禁止開啟它</translation>
         </message>
         <message>
-            <source>other programs do not hear of changes</source>
+            <source>other programs do not receive changes</source>
             <translation>其他程式不會得知變更</translation>
         </message>
         <message>

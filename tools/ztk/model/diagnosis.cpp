@@ -15,17 +15,19 @@ Finding ExplainUnanswered(const Mixer &mixer, const std::string &place) {
   if (mixer.state == MixerState::Gone) {
     return {.id = "gone",
             .what = mixer.message,
-            .cause = "its plug or its power may be loose",
+            .cause = "its USB cable or its power cable may be loose",
             .command = "ztk doctor"};
   }
   const bool silent = mixer.state == MixerState::Silent;
-  return {.id = silent ? "silent" : "refusing",
-          .what = mixer.message,
-          .cause = std::string("it is attached and may be opened, but ") +
-                   (silent ? "it is still starting or hangs"
-                           : "something in it fails") +
-                   "; switch it off and on again, or type what does the same",
-          .command = RestartCommand(place)};
+  return {
+      .id = silent ? "silent" : "refusing",
+      .what = mixer.message,
+      .cause =
+          std::string("it is attached and may be opened, but ") +
+          (silent ? "it is still starting or hangs" : "requests to it fail") +
+          "; switch it off and on again, or run this command, which does "
+          "the same",
+      .command = RestartCommand(place)};
 }
 
 Finding ExplainSilence(const SilentRouting &routing, bool namesMixer) {

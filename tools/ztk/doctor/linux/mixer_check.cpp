@@ -201,7 +201,8 @@ Finding NotPermitted(const std::string &what, const std::string &place) {
   if (rule.path.empty()) {
     return {.id = "rule-missing",
             .what = what,
-            .cause = "only root may open it, as no rule grants you access",
+            .cause =
+                "only root may open it, because no udev rule grants you access",
             .command = InstallRule(kUdevRule, kOwnRule)};
   }
   if (!rule.fits) {
@@ -209,7 +210,7 @@ Finding NotPermitted(const std::string &what, const std::string &place) {
         .id = "rule-disabled",
         .what = what,
         .cause = "only root may open it: " + rule.path +
-                 " hides the rule that grants you access, or is for another "
+                 " replaces the rule that grants you access, or is for another "
                  "mixer",
         .command = InstallRule(kUdevRule, kOwnRule)};
   }
@@ -217,18 +218,20 @@ Finding NotPermitted(const std::string &what, const std::string &place) {
     return {.id = "rule-not-applied",
             .what = what,
             .cause =
-                "the rule that grants you access came after the mixer was "
-                "plugged in; this does what plugging it in again does",
+                "the rule that grants you access was installed after the mixer "
+                "was plugged in; this command has the same effect as plugging "
+                "it in again",
             .command = Replug()};
   }
   return NoSeat(what);
 }
 
 Finding NoNode(const std::string &what, const std::string &node) {
-  Finding finding{.id = "no-node",
-                  .what = what,
-                  .cause = "there is no " + node + "; this has udev make it",
-                  .command = Replug()};
+  Finding finding{
+      .id = "no-node",
+      .what = what,
+      .cause = "there is no " + node + "; this command makes udev create it",
+      .command = Replug()};
   if (const auto container = AroundUs()) {
     finding.cause =
         "this is " + container->name + ", which has no access to " + node;
@@ -261,7 +264,7 @@ Finding ExplainNoMixer() {
     return {.id = "no-mixer",
             .what = "no mixer is attached",
             .cause =
-                "the system sees none: its plug is out, or it is off; "
+                "the system finds none: it is unplugged or switched off; "
                 "plug it in and switch it on",
             .command = "ztk doctor"};
   }

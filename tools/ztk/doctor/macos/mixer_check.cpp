@@ -12,8 +12,8 @@ Finding ExplainNoMixer() {
   return {.id = "no-mixer",
           .what = "no mixer is attached",
           .cause =
-              "the system sees none: its plug is out, or it is off; plug "
-              "it in and switch it on",
+              "the system finds none: it is unplugged or switched off; "
+              "plug it in and switch it on",
           .command = "ztk doctor"};
 }
 
@@ -30,7 +30,7 @@ Finding ExplainUnopened(int mixer, const std::string &place) {
   } else if (access.obstacle == Obstacle::NoRight) {
     finding.command = "sudo ztk doctor";
   } else if (access.obstacle == Obstacle::Vanished) {
-    finding.cause = "its plug or its power may be loose";
+    finding.cause = "its USB cable or its power cable may be loose";
     finding.command = "ztk doctor";
   }
   return finding;

@@ -17,7 +17,7 @@ namespace center = platform::notification_center;
 
 // Time limit for all calls of a command together, in microseconds: the user
 // must not wait longer for a bus that does not answer.
-constexpr std::uint64_t kPatience = 5'000'000;
+constexpr std::uint64_t kTimeLimit = 5'000'000;
 
 constexpr char kService[] = "org.freedesktop.systemd1";
 constexpr char kObject[] = "/org/freedesktop/systemd1";
@@ -47,7 +47,7 @@ class Answer {
   sd_bus_message *message_ = nullptr;
 };
 
-[[noreturn]] void Refuse(const std::string &reason) {
+[[noreturn]] void Fail(const std::string &reason) {
   throw std::runtime_error(
       "autoapply needs the systemd of your session, which fails (" +
       cli::OneLine(reason) + "); instead, run 'ztk apply' after plugging in");
@@ -56,7 +56,7 @@ class Answer {
 }  // namespace
 
 struct UserManager::Connection {
-  const std::uint64_t deadline = center::Now() + kPatience;
+  const std::uint64_t deadline = center::Now() + kTimeLimit;
   center::OwnedBus bus = center::ConnectToSessionBus(deadline);
 
   template <typename... Arguments>
@@ -74,12 +74,12 @@ struct UserManager::Connection {
   void Do(const char *method, const char *types, Arguments... arguments) const {
     Answer answer;
     const int result = Call(method, &answer, types, arguments...);
-    if (result < 0) Refuse(answer.Reason(result));
+    if (result < 0) Fail(answer.Reason(result));
   }
 };
 
 UserManager::UserManager() : connection_(std::make_unique<Connection>()) {
-  if (connection_->bus == nullptr) Refuse("there is no session message bus");
+  if (connection_->bus == nullptr) Fail("there is no session message bus");
 }
 
 UserManager::~UserManager() = default;
@@ -89,7 +89,7 @@ bool UserManager::Knows(const std::string &unit) {
   const int result =
       connection_->Call("GetUnitFileState", &answer, "s", unit.c_str());
   if (result == -ENOENT) return false;
-  if (result < 0) Refuse(answer.Reason(result));
+  if (result < 0) Fail(answer.Reason(result));
   const char *state = nullptr;
   center::sd_bus_message_read(*answer.message(), "s", &state);
   return state != nullptr && std::strncmp(state, "linked", 6) == 0;

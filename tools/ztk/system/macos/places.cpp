@@ -114,7 +114,7 @@ Obstacle ObstacleOf(IOReturn result) {
 
 std::string Written(IOReturn result) {
   std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "IOKit says 0x%08x",
+  std::snprintf(text.data(), text.size(), "IOKit returned 0x%08x",
                 static_cast<unsigned>(result));
   return text.data();
 }
@@ -150,11 +150,13 @@ std::string Explained(const Access &access) {
     case Obstacle::Vanished:
       return "is gone: it was unplugged or switched off";
     case Obstacle::NoRight:
-      return "is attached but cannot be opened: only an administrator may (" +
+      return "is attached but cannot be opened: only an administrator may open "
+             "it (" +
              access.reason + ")";
     case Obstacle::Forbidden:
-      return "is attached but cannot be opened: the system keeps it from this "
-             "program, as in an App Sandbox without the right to USB (" +
+      return "is attached but cannot be opened: the system does not let this "
+             "program use it, as in an App Sandbox without the USB entitlement "
+             "(" +
              access.reason + ")";
     case Obstacle::NoNode:
     case Obstacle::Other:
