@@ -139,7 +139,9 @@ TEST_F(Status, AsksManyMixersAtTheSameTime) {
              "ztk-virtual-mixer fault --mixer 9 none; ztk status --json");
   EXPECT_EQ(Requests().size(), 12U);
   const Json json = OneObject(LastLine(result.out) + "\n");
-  for (int i = 0; i < 8; ++i) EXPECT_EQ(json["mixers"][i]["answers"], false);
+  for (std::size_t i = 0; i < 8; ++i) {
+    EXPECT_EQ(json["mixers"][i]["answers"], false);
+  }
   EXPECT_EQ(json["mixers"][8]["answers"], true);
 }
 
