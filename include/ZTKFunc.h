@@ -22,14 +22,15 @@
  *
  * **Duration.** A function returns when all mixers have answered. On Linux each
  * request to a mixer is given up after 1 second. A setter makes one request to
- * each mixer, those of USB input and output audio two, a status query one. It
- * also waits up to 1 second while another program changes the same settings,
- * and again if that program was faster nevertheless; up to 1 second for a
- * message bus that does not respond; and, like a getter, up to half a second
- * for a settings file that another program is copying over or that was damaged
- * a moment ago. An input setter with three mixers that do not answer therefore
- * needs about 6 seconds; with mixers that answer, a call needs some
- * milliseconds. On macOS the system decides how long a request may take.
+ * each mixer; the setters of USB input and output audio make two. A status
+ * query makes one. A setter also waits up to 1 second while another program
+ * changes the same settings, and up to 1 second more if that program replaces
+ * the file first; up to 1 second for a message bus that does not respond; and,
+ * like a getter, up to half a second for a settings file that another program
+ * is copying over or that was damaged a moment ago. An input setter with three
+ * mixers that do not answer therefore needs about 6 seconds; with mixers that
+ * answer, a call needs some milliseconds. On macOS the system decides how long
+ * a request may take.
  *
  * **Threads.** The library starts no threads and takes no locks. Functions
  * whose comment says so may be called from any thread at any time. Of all
@@ -328,9 +329,11 @@ ZTK_EXPORT ZTKResult ZTK_GetUSBInputAudioText(uint32_t productId,
  * @retval 102 (ZTK_REJECTED)  productId is not served (tested first), channel
  *                             or index is out of range.
  * @retval 101 (ZTK_WARNING)   Set. Either no mixer is attached and index is 0,
- * 1 or 2; or index is 0 or 1, and for a mixer that can be opened the selector
- * of the channel is not in position 4 (ZTK_SELECTOR_AUDIBLE) or the mixer does
- * not tell. Channel 4 has no selector and counts as not in this position.
+ *                             1 or 2; or index is 0 or 1, and for a mixer that
+ *                             can be opened the selector of the channel is not
+ *                             in position 4 (ZTK_SELECTOR_AUDIBLE) or its
+ *                             position cannot be read. Channel 4 has no
+ *                             selector and counts as not in this position.
  * @retval 100 (ZTK_SUCCESS)   Set.
  */
 ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
@@ -356,9 +359,9 @@ ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudio(uint32_t productId, uint32_t channel,
  * @retval 101 (ZTK_WARNING)   Sent. Either no mixer is attached and source is 0
  *                             or 1; or source is 0 to 3, and for a mixer that
  *                             can be opened the selector of the channel is not
- *                             in position 4 (ZTK_SELECTOR_AUDIBLE) or the mixer
- *                             does not tell. Channel 4 has no selector and
- *                             counts as not in this position.
+ *                             in position 4 (ZTK_SELECTOR_AUDIBLE) or its
+ *                             position cannot be read. Channel 4 has no
+ *                             selector and counts as not in this position.
  * @retval 100 (ZTK_SUCCESS)   Sent.
  */
 ZTK_EXPORT ZTKResult ZTK_SetUSBInputAudioDirect(uint32_t productId,
@@ -392,8 +395,9 @@ ZTK_EXPORT ZTKResult ZTK_GetCurrentUSBInputAudioIndex(uint32_t productId,
  * @param channel    0 to 5, as ZTK_GetCurrentUSBInputAudioIndex() takes it.
  *                   Channel 5 sends the placeholder of channel 4.
  *
- * @retval 102 (ZTK_REJECTED)  That function rejects the arguments, or
- *                             channel * 8 + the stored index is above 41.
+ * @retval 102 (ZTK_REJECTED)  ZTK_GetCurrentUSBInputAudioIndex() rejects the
+ *                             arguments, or channel * 8 + the stored index is
+ *                             above 41.
  * @retval 100 (ZTK_SUCCESS)   Sent, also when no mixer is attached.
  */
 ZTK_EXPORT ZTKResult ZTK_SetCurrentUSBInputAudio(uint32_t productId,

@@ -116,7 +116,7 @@ typedef struct ZTKMixerOutcome {
  * value, and store.result is ZTK_FILE_OK.
  */
 #define ZTK_FILE_DAMAGED 9u
-/** What has the name of the file is a folder, a device or the like. */
+/** A folder, a device or the like has the name of the file. */
 #define ZTK_FILE_NOT_REGULAR 10u
 /** Another error; the system code tells which. */
 #define ZTK_FILE_FAILED 11u

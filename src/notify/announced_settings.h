@@ -38,7 +38,8 @@ inline const AnnouncedSetting kOutputAudio{
     .observedModel = ZTK_TEXT("VRM-D6"),
     .delivery = Delivery::Immediately};
 
-// Deliberate: for these two settings the center decides when to deliver.
+// Deliberate: for these two settings the notification center decides when it
+// delivers.
 inline const AnnouncedSetting kBoostLevel{
     .nameFormat = ZTK_TEXT("%@ BoostLevel Change"),
     .postedModel = ZTK_TEXT("VRM-D6"),

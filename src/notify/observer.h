@@ -15,7 +15,8 @@ using Method = platform::notification_center::Method;
 // Makes the observer; it exists until the process ends.
 void *AllocateObserver();
 
-// The work of the five methods of the observer with a record.
+// What the five methods of the observer do with the record of a notification:
+// each calls the callbacks that are registered for its setting.
 void InputAudioChanged(const UserInfo *userInfo);
 void OutputAudioChanged(const UserInfo *userInfo);
 void BoostLevelChanged(const UserInfo *userInfo);

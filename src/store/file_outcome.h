@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Enters what became of a file into the record of the call (ZTKOutcome.h).
+// Notes in the record of the call (ZTKOutcome.h) how reading or storing a file
+// ended.
 #ifndef ZTK_STORE_FILE_OUTCOME_H_
 #define ZTK_STORE_FILE_OUTCOME_H_
 
@@ -10,9 +11,9 @@ namespace ztk::store {
 
 void RecordReading(const platform::property_list::ReadResult &result);
 
-// A file that was to be changed: `read` tells how reading it before ended,
-// `error` is the system's error number of writing it, or 0 where the system did
-// not say. `written` is false when it was not replaced.
+// For a file that a call reads and then replaces. `read` tells how the reading
+// ended, `written` whether the file was replaced. `error` is the error number
+// of the system for the writing, or 0 if there is none.
 void RecordStoring(const platform::property_list::ReadResult &read,
                    bool written, int error);
 

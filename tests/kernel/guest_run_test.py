@@ -31,8 +31,8 @@ def is_emulated():
     return not {"vmx", "svm"} & set(flags)
 
 
-class Whole(unittest.TestCase):
-    """One guest for many tests, since each one takes seconds to boot."""
+class OneGuest(unittest.TestCase):
+    """One guest for many tests, because a guest needs seconds to start."""
 
     SCRIPT = """
         printf "<%s>" "$@"
@@ -67,7 +67,7 @@ class Whole(unittest.TestCase):
         self.assertEqual(self.parts["arguments"],
                          "<two words><><it's><a\nline><$HOME><--option>")
 
-    def test_keeps_standard_error_apart(self):
+    def test_separates_standard_error_from_standard_output(self):
         # The guest's shell adds a line about the signal that ended the command.
         self.assertEqual(self.done.stderr, "to errors\nKilled\n")
         self.assertNotIn("to errors", self.done.stdout)
@@ -91,8 +91,10 @@ class Whole(unittest.TestCase):
         self.assertEqual(os.listdir(self.folder), [self.kept.name])
 
 
-class Ends(unittest.TestCase):
-    def test_after_too_long_a_time(self):
+class EndOfTheGuest(unittest.TestCase):
+    """The time limit, the clock and a crash end a guest."""
+
+    def test_after_the_time_limit(self):
         done = guest_run("--timeout", "5", "sleep", "100")
         self.assertEqual(done.returncode, 124)
         self.assertEqual(done.stderr.splitlines()[-1],
@@ -106,14 +108,14 @@ class Ends(unittest.TestCase):
             self.skipTest(done.stderr)
         self.assertEqual(done.returncode, 5)
 
-    def test_without_a_status_if_the_kernel_does(self):
+    def test_without_a_status_after_a_crash_of_the_kernel(self):
         done = guest_run("bash", "-c", "echo c >/proc/sysrq-trigger")
         self.assertEqual(done.returncode, 125)
         self.assertIn("the guest ended without a status", done.stderr)
 
 
-class Refusal(unittest.TestCase):
-    """Refusals, which need no guest."""
+class WithoutGuest(unittest.TestCase):
+    """Cases in which guest-run ends before it starts a guest."""
 
     def test_names_what_is_wrong_with_the_options(self):
         for arguments, why in (

@@ -7,7 +7,7 @@
 namespace ztk::virtual_mixer {
 namespace {
 
-// Vendor requests to the device, and the numbers the mixer knows.
+// The types and the numbers of the vendor requests that the mixer accepts.
 constexpr std::uint8_t kReadType = 0xC0;
 constexpr std::uint8_t kWriteType = 0x40;
 constexpr std::uint8_t kReadRequest = 0;
@@ -25,7 +25,7 @@ void CutTo(std::size_t most, Bytes *data) {
 
 MixerModel::MixerModel()
     : replies_{{kReadFirmware, {0x36, 0x04}},
-               // The first byte means nothing; one position a channel follows.
+               // The first byte has no meaning. A position per channel follows.
                {kReadSelectors, {0, 4, 4, 4, 4}},
                {kReadSerato, {0, 0}},
                {kReadPort, {0, 0}},

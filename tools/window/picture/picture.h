@@ -15,10 +15,10 @@ class QHelpEvent;
 
 namespace ztk::window {
 
-// The mixer with the points that can be recorded, and the wires from them to
-// the rows on its right side. A tap is chosen for the active channel with a
-// click or with the keyboard, or for any channel by dragging one end of its
-// wire to the tap.
+// The mixer with its taps, and the wires from them to the rows on the right. A
+// tap is a point whose signal can be recorded. A tap is chosen for the active
+// channel with a click or with the keyboard, or for any channel by dragging one
+// end of its wire to the tap.
 class Picture : public QWidget {
   Q_OBJECT
 
@@ -26,9 +26,9 @@ class Picture : public QWidget {
   explicit Picture(QWidget *parent = nullptr);
 
   void showState(const PictureState &state);
-  // Where the rows stand, in the coordinates of this widget.
+  // The middle of each row, as y in the coordinates of this widget.
   void setRows(const std::array<qreal, kWires> &rows);
-  // Clicks choose for this channel.
+  // The channel for which a click chooses a tap.
   void setActiveChannel(int channel);
   int activeChannel() const { return active_; }
 
@@ -41,8 +41,8 @@ class Picture : public QWidget {
 
  signals:
   void tapChosen(int channel, const ztk::model::Tap &tap);
-  // A number key named another channel, or one end of its wire was grasped, or
-  // clicked where the active channel can choose nothing.
+  // The user pressed the number key of another channel, dragged one end of its
+  // wire, or clicked on that end where the active channel has no choice.
   void activeChannelChanged(int channel);
 
  protected:
@@ -70,7 +70,7 @@ class Picture : public QWidget {
   void Choose(int channel, const model::Tap &tap);
   bool CanBeChosen(const TapSpot &spot) const;
   const TapSpot *SpotAt(QPointF point) const;
-  // The wire of which an end is there: its number, or its arrow.
+  // The wire that has its number or its arrow at this point.
   const Wire *WireAt(QPointF point) const;
   void PointAt(const TapSpot *spot);
   void MoveFocus(QPointF direction);

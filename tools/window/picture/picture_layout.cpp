@@ -68,7 +68,8 @@ class Builder {
     return bold_.horizontalAdvance(text);
   }
 
-  // Headings stand centred over their columns, which are wide enough for them.
+  // The middle of the column after this one. Headings are centred above their
+  // columns, so the distance depends on the widths of both headings.
   qreal After(qreal column, qreal least, const QString &before,
               const QString &heading) const {
     const qreal words = (BoldWidth(before) + BoldWidth(heading)) / 2;
@@ -116,7 +117,7 @@ class Builder {
     return top + height * u_;
   }
 
-  // The wires run through the gutter above or the one that comes next.
+  // The wires of a tap run through the gutter above it (`up`) or below it.
   void AddTap(Source source, std::uint32_t lane, QPointF centre, bool up,
               int direction = 1) {
     const auto next = static_cast<int>(layout_.gutters.size());

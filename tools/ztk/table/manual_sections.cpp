@@ -75,25 +75,26 @@ cli::Section Files() {
        .meaning = "The changes that ztk has made, for ztk undo"});
   section.terms.push_back(
       {.name = "tarvix/ztk.lock",
-       .meaning = "Locked by the ztk that changes something; others wait"});
+       .meaning = "Locked while ztk changes something; another ztk waits"});
   return section;
 }
 
 }  // namespace
 
 std::vector<cli::Section> ManualIntroduction() {
-  return {{.title = "TERMS",
-           .text = "What has happened to a choice:",
-           .terms = {
-               {.name = "sent",
-                .meaning = "A mixer has accepted it over USB. Every attached "
-                           "mixer is sent the same."},
-               {.name = "remembered",
-                .meaning = "Saved in a settings file, see FILES. ztk apply "
-                           "sends it again, ztk reset forgets it."},
-               {.name = "announced",
-                .meaning = "Reported on the message bus of your session, where "
-                           "other programs and ztk watch\nreceive it."}}}};
+  return {
+      {.title = "TERMS",
+       .text = "What has happened to a choice:",
+       .terms = {
+           {.name = "sent",
+            .meaning = "A mixer has accepted it over USB. The same value is "
+                       "sent to every attached mixer."},
+           {.name = "remembered",
+            .meaning = "Saved in a settings file, see FILES. ztk apply "
+                       "sends it again, ztk reset forgets it."},
+           {.name = "announced",
+            .meaning = "Reported on the message bus of your session, where "
+                       "other programs and ztk watch\nreceive it."}}}};
 }
 
 std::vector<cli::Section> ManualSections() {
