@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The settings whose changes are announced, and everything in which their
-// announcements differ.
+// The settings whose changes are announced, and the differences between their
+// announcements.
 #ifndef ZTK_NOTIFY_ANNOUNCED_SETTINGS_H_
 #define ZTK_NOTIFY_ANNOUNCED_SETTINGS_H_
 
@@ -31,7 +31,7 @@ inline const AnnouncedSetting kInputAudio{
     .delivery = Delivery::Immediately};
 
 // Deliberate: posted under one model and observed under another, so that the
-// library's own changes never reach a callback of this family.
+// library's own changes never reach a callback for this setting.
 inline const AnnouncedSetting kOutputAudio{
     .nameFormat = ZTK_TEXT("%@ OutputAudio Change"),
     .postedModel = ZTK_TEXT("VRM-B5"),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer as a plain object. (On macOS it is a class of the object
-// runtime.)
+// The observer on Linux: a C++ object. On macOS it is an Objective-C class; see
+// observer.mm.
 #include "notify/observer.h"
 
 namespace {

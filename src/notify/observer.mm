@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer for a center that calls methods by name: a class of the object
-// runtime.
+// The observer on macOS. The notification center calls its methods by name, so
+// it is an Objective-C class.
 #include "notify/observer.h"
 
 #import <Foundation/Foundation.h>
 
-// Visible by name in the library.
+// The library exports this class under its name.
 ZTK_EXPORT
 @interface ZTKFunc : NSObject
 - (void)inputAudioChanged:(NSNotification *)notification;

@@ -9,8 +9,8 @@
 
 namespace ztk::store {
 
-// Makes the path of the model's file; the caller gives it back with
-// text::Release(). Null when the user has no home. There may be no such file.
+// Makes the path of the model's file; the caller releases it with
+// text::Release(). Null if the user has no home folder. The file may not exist.
 ZTKTextRef MakePath(ZTKTextRef model);
 
 }  // namespace ztk::store

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Opens the window on the mixers that are attached, and writes a picture of it
-// once everything is known. For scripts/take-screenshots.
+// Opens the window, waits until it shows the state of all attached mixers, and
+// writes a picture of it. scripts/take-screenshots runs this program.
 //
 // Usage: take_screenshot FILE [dark] [USB channel:number of the choice]...
 #include <QApplication>
@@ -20,7 +20,7 @@ namespace {
 
 using namespace ztk::window;
 
-// As desktops with a dark theme set it.
+// The colours that a desktop with a dark theme sets.
 QPalette DarkPalette() {
   const QColor window(45, 45, 45);
   const QColor text(238, 238, 238);
@@ -64,7 +64,8 @@ int main(int argc, char **argv) {
       engine.choose(ztk::model::kInput, channel - 1, choice - 1);
     }
   }
-  // All of it, also where the screen is smaller: there is none to be seen on.
+  // The whole window is drawn, even if it is larger than the screen, because
+  // nobody looks at the screen.
   window.resize(QSize(880, 800) * window.logicalDpiX() / 96);
   window.show();
   engine.start();

@@ -26,9 +26,9 @@ using model::MadeChange;
 using model::MadeChanges;
 using model::Reach;
 
-// The library's sentence about a choice that cannot be heard.
+// The library's warning text for a choice that cannot be heard.
 QString WarningText(const MadeChange &one, const Reach &reach) {
-  // Without a mixer the row says that already.
+  // If no mixer is attached, the row already says so.
   if (one.result != ZTK_WARNING || !one.selectorsKnown || reach.found() == 0) {
     return {};
   }

@@ -14,14 +14,14 @@ namespace ztk::window {
 // What the picture shows.
 struct PictureState {
   struct Channel {
-    // What is recorded; none where the stored number is no choice.
+    // The signal that is recorded; empty if the stored number is not a choice.
     std::optional<model::Tap> tap;
-    bool onlyRemembered = false;  // no mixer has it
+    bool onlyRemembered = false;  // no mixer has received it
     bool operator==(const Channel &) const = default;
   };
   struct Selector {
-    QString position;  // empty where no mixer has told it
-    bool silences = false;
+    QString position;       // empty if no mixer has reported it
+    bool silences = false;  // in this position its channel is silent
     bool operator==(const Selector &) const = default;
   };
   std::array<Channel, kWires> channels;

@@ -19,7 +19,7 @@ std::string Belonging(const Setting &setting);
 // A sentence about the choices that are not sent again; empty when all are.
 std::string LimitSentence(const Setting &setting);
 
-// Both of these.
+// Belonging() and LimitSentence() together.
 std::string Note(const Setting &setting);
 
 // "apply can only re-send channels 1 to 4; for 5 to 16 use set again"; empty
@@ -33,8 +33,8 @@ std::string Summary(const Setting &setting);
 std::string SetCommand(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
 
-// "; nearest: 6 MIC" for words with which no choice begins; empty when no
-// choice is similar.
+// "; nearest: 6 MIC" for words that are not the beginning of a choice; empty
+// if no choice is similar.
 std::string NearestChoice(const std::string &words,
                           const std::vector<Choice> &choices);
 

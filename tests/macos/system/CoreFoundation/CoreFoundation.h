@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// As much of CoreFoundation's interface as the library uses, for building its
-// macOS port where there is none. Names, types and values are the system's;
-// the functions are those of the double in ../../iokit_double.h.
+// The part of CoreFoundation's interface that the library uses, to build its
+// macOS port on a system without CoreFoundation. Names, types and values are
+// those of macOS; the test double in ../../iokit_double.h has the functions.
 #ifndef ZTK_TESTS_MACOS_COREFOUNDATION_H_
 #define ZTK_TESTS_MACOS_COREFOUNDATION_H_
 #pragma GCC system_header
