@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the library leaves behind in IOKit's hands, call by call: nothing but
-// what it is meant to leave.
+// The references to IOKit objects that the library still holds after each call:
+// only those that are intended.
 #include <cstdint>
 
 #include "iokit_test.h"

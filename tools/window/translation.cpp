@@ -10,9 +10,9 @@ namespace ztk::window {
 
 namespace {
 
-// The standard buttons that this program uses: Qt has no Dutch and no plain
-// Portuguese texts for them, and on Debian its texts are a package of their
-// own.
+// The standard buttons that this program uses. They are translated here because
+// Qt has no texts for them in Dutch and in the Portuguese of Portugal, and
+// because Debian has the texts of Qt in a separate package.
 // clang-format off
 [[maybe_unused]] constexpr const char *kButtons[] = {
     QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),
@@ -22,8 +22,8 @@ namespace {
     QT_TRANSLATE_NOOP("QPlatformTheme", "Apply")};
 // clang-format on
 
-// The tools of Qt do not see that a class is in "namespace ztk::window", and
-// name its texts after the class alone.
+// The tools of Qt name the texts of a class after the class, without the
+// namespace "ztk::window"; this translator removes the namespace as well.
 class OwnTexts : public QTranslator {
  public:
   using QTranslator::QTranslator;

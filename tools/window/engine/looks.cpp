@@ -18,7 +18,7 @@ namespace {
 // A finding that the window shows at the row itself.
 constexpr char kShownAtTheRow[] = "channel-silent";
 
-// Without names of the same place twice.
+// The settings and channels of the step, each of them once.
 QString PlacesOf(const model::Step &step) {
   QStringList places;
   for (const model::PastChange &change : step.changes) {
@@ -81,7 +81,8 @@ StoredState ReadStored() {
   }
   model::History history;
   if (history.state() != model::History::State::Usable) return state;
-  // What is void is dropped from this copy only; undo itself saves it.
+  // Void steps are removed from this copy only. The undo removes them from the
+  // file.
   model::DropVoidSteps(&history);
   if (history.steps().empty()) return state;
   state.canUndo = true;

@@ -28,10 +28,10 @@ struct StoredState {
 };
 StoredState ReadStored();
 
-// The rows before anything is known of them.
+// The rows before the settings and the mixers have been read.
 QList<RowState> EmptyRows();
 
-// Asks every mixer all that is shown of it.
+// Asks every mixer for all values that the window shows.
 QList<MixerState> LookAtMixers();
 // Asks only for the selectors.
 QList<MixerState> LookAtSelectors();
@@ -44,8 +44,8 @@ struct AutoapplyLook {
   QString why;
 };
 AutoapplyLook LookAtAutoapply();
-// The same after it was switched. Throws std::runtime_error when the system
-// does not do it.
+// Switches it on or off and returns the new state. Throws std::runtime_error if
+// the system does not do it.
 AutoapplyLook SwitchAutoapply(bool on);
 
 }  // namespace ztk::window
