@@ -19,7 +19,8 @@ using Code = platform::usb::Code;
 // Null, or one opened mixer.
 using Connection = platform::usb::Device *;
 
-// The mixer in its USB device descriptor; the vendor is build::kUsbVendorId.
+// The product id in the USB device descriptor of a mixer. The vendor id is
+// build::kUsbVendorId.
 inline constexpr std::uint16_t kMixerProductId = 27;
 
 // Registers, which the index field of a request names. Two of the numbers are
@@ -60,8 +61,9 @@ ZTK_EXPORT ztk::usb::Code openUSB(ztk::usb::Connection *slot,
 // if the slot is empty.
 ZTK_EXPORT void closeUSB(ztk::usb::Connection *slot);
 
-// Sends one control request. *length is the length of the data stage before,
-// and the bytes transferred after the call, whatever the result.
+// Sends one control request. Before the call *length is the length of the data
+// stage. After the call it is the number of bytes that were transferred, also
+// when the request has failed.
 ZTK_EXPORT ztk::usb::Code DeviceRequest(ztk::usb::Connection device,
                                         std::uint8_t requestType,
                                         std::uint8_t request,

@@ -6,10 +6,10 @@
 
 namespace ztk::platform {
 
-// Blocks signals in this thread while it exists: those that ask a program to
-// end, so that no unfinished file is left behind, and SIGXFSZ, which a write
-// raises when the file would become too large. SIGXFSZ is discarded, because by
-// default it ends the process; the others arrive afterwards.
+// As long as an object of this class exists, it blocks two kinds of signals in
+// its thread. The signals that ask a program to end arrive after that, so that
+// no unfinished file remains. SIGXFSZ, which a write raises when the file would
+// become too large, is discarded, because by default it ends the process.
 class SignalHold {
  public:
   SignalHold() {
@@ -28,7 +28,7 @@ class SignalHold {
       sigemptyset(&fileSize);
       sigaddset(&fileSize, SIGXFSZ);
       // A write raises it in this thread, so it is pending already and
-      // sigtimedwait() does not wait.
+      // sigwait() does not wait.
       int taken = 0;
       sigwait(&fileSize, &taken);
     }

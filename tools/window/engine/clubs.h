@@ -14,20 +14,20 @@
 
 namespace ztk::window {
 
-// By name. Empty where the folder does not exist.
+// Sorted by name. Empty if the folder does not exist.
 QList<ClubState> FindClubs();
 
 struct ClubFile {
   std::vector<model::Change> changes;
-  QString error;  // why it cannot be applied; empty where it can
+  QString error;  // why it cannot be applied; empty if it can
 };
 ClubFile ReadClub(const QString &path);
 
 // What applying it would change now.
 ClubPreview PreviewOf(const QString &path);
 
-// Saves what is stored now. Returns why it could not, or what is missing in the
-// file; empty where all is well.
+// Saves what is stored now. Returns why that failed, or what is missing in the
+// file; empty if the file contains everything.
 QString SaveClub(const QString &name);
 
 }  // namespace ztk::window
