@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the engine knows, changes and hears.
+// What the engine reads and changes, and which changes by others it receives.
 #include "window/engine/engine.h"
 
 #include <QSignalSpy>
@@ -72,7 +72,7 @@ void EngineTest::SendsAChoice() {
   QCOMPARE(Row(kInput, 1).stored, std::optional<std::uint32_t>(2));
   QVERIFY(state().canUndo);
   QCOMPARE(state().undoes, QStringLiteral("USB input 2"));
-  // The echo of the change arrives and changes nothing.
+  // The announcement of the engine's own change arrives and changes nothing.
   Ztk({"boost", "get"});
   QCOMPARE(Row(kInput, 1).delivery, Delivery::Sent);
 }

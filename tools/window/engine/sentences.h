@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What became of changes, and what does not work, in the user's language.
+// Sentences about the results of changes and about problems, in the user's
+// language.
 #ifndef ZTK_TOOLS_WINDOW_ENGINE_SENTENCES_H_
 #define ZTK_TOOLS_WINDOW_ENGINE_SENTENCES_H_
 
@@ -12,16 +13,16 @@
 
 namespace ztk::window {
 
-// Why the change did not arrive at every mixer; empty where it did.
+// Why the change did not arrive at every mixer; empty if it did.
 QString WhyNotSent(std::size_t accepted, const model::Reach &reach);
 
 // Why the change is not stored.
 QString WhyNotStored(const model::MadeChange &change);
 
-// "USB input 2", "Boost level".
+// "USB input 2", "USB output level".
 QString PlaceText(const model::Setting &setting, std::uint32_t channel);
 
-// The text of a choice; the number of one that there is not.
+// The text of a choice. A number that is not a choice is shown as a number.
 QString ChoiceText(const model::Setting &setting, std::uint32_t channel,
                    std::uint32_t index);
 
