@@ -37,7 +37,8 @@ TEST_F(Status, TellsTheSameInJson) {
   EXPECT_EQ(json["found"], 1);
   EXPECT_EQ(json["reached"], 1);
   EXPECT_EQ(json["mixers"], Json::parse(R"([{
-      "position":1,"reachable":true,"answers":true,"port":"1-1",
+      "position":1,"reachable":true,"answers":true,"refuses":false,
+      "port":"1-1",
       "firmware":{"number":1078,"hex":"0x0436","derived":"4.36"},
       "certificationLevel":16909060,"selectors":[4,4,4,4],
       "serato":"inactive"}])"));
@@ -162,13 +163,14 @@ TEST_F(Status, ShowsAllOfSeveralMixersWhenToldSo) {
 
 TEST_F(Status, SaysWhyAChannelIsSilent) {
   Remember("VRM-D6", {{"Output1", 2}});
-  const Result result = Inside(
-      {"-n", "1", "--selector", "1=3", "--selector", "2=0"},
-      "ztk status | tail -n 1; ztk input get 1 | tail -n 1; ztk input get 2;"
-      "ztk status --json");
+  const Result result =
+      Inside({"-n", "1", "--selector", "1=3", "--selector", "2=0"},
+             "ztk status | tail -n 2 | head -n 1; ztk input get 1 | tail -n 1; "
+             "ztk input get 2;"
+             "ztk status --json");
   const char *const silent =
-      "USB input 1 is silent: the input selector for CH1 is in position 3, and "
-      "1 CH1 Control Tone PHONO needs position 4";
+      "USB input 1 is silent: the input selector for CH1 is in position 3; "
+      "1 CH1 Control Tone PHONO is heard only in position 4: turn it to 4";
   EXPECT_EQ(Line(result.out, 0), silent);
   EXPECT_EQ(Line(result.out, 1), silent);
   EXPECT_EQ(Line(result.out, 3), "USB input 2  3 Post CH2 Fader");
@@ -180,6 +182,67 @@ TEST_F(Status, SaysWhyAChannelIsSilent) {
   EXPECT_THAT(two.out,
               StartsWith("USB input 1 is silent: the input selector of "
                          "mixer 2 for CH1 is in position 3"));
+}
+
+TEST_F(Status, TellsToTurnTheSelectorOfASilentChannel) {
+  EXPECT_EQ(
+      LastLine(Inside({"-n", "1", "--selector", "1=3"}, "ztk status").out),
+      "Next: turn the input selector for CH1 to position 4");
+  EXPECT_EQ(
+      LastLine(Inside({"-n", "2", "--selector", "2:1=3"}, "ztk status").out),
+      "Next: turn the input selector of mixer 2 for CH1 to position 4");
+}
+
+TEST_F(Status, DoesNotCallAMixerReachableThatRefusesEverything) {
+  const Result result = Inside({"-n", "2", "--fault", "2:stall"},
+                               "ztk status; ztk status --json");
+  EXPECT_THAT(result.out,
+              StartsWith("2 mixers are attached, 1 is reachable\n"
+                         "Mixer 1, port 1-1, is reachable, firmware 4.36\n"
+                         "Mixer 2, port 1-2, refuses what it is asked\n"
+                         "Nothing is remembered\n"
+                         "Next: switch the mixer that refuses what it is asked "
+                         "off and on again; ztk doctor tells more\n"));
+  const Json json = OneObject(LastLine(result.out) + "\n");
+  EXPECT_EQ(json["reached"], 2);
+  EXPECT_EQ(json["answering"], 1);
+  EXPECT_EQ(json["mixers"][1]["answers"], true);
+  EXPECT_EQ(json["mixers"][1]["refuses"], true);
+}
+
+TEST_F(Status, TellsToSwitchAllStuckMixersOffAndOn) {
+  EXPECT_EQ(LastLine(Inside({"-n", "3", "--fault", "1:silence", "--fault",
+                             "2:silence"},
+                            "ztk status")
+                         .out),
+            "Next: switch the mixers that do not answer off and on again; ztk "
+            "doctor tells more");
+  EXPECT_EQ(
+      LastLine(Inside({"-n", "3", "--fault", "1:silence", "--fault", "2:stall"},
+                      "ztk status")
+                   .out),
+      "Next: switch the mixers that do not answer or refuse what they "
+      "are asked off and on again; ztk doctor tells more");
+}
+
+TEST_F(Status, ShowsAReplyThatIsNotWholeAsUnknown) {
+  for (const char *fault : {"short:1", "bytes:ff"}) {
+    SCOPED_TRACE(fault);
+    const Result result = Inside({"-n", "1", "--fault", fault}, "ztk status");
+    EXPECT_THAT(result.out, HasSubstr("  firmware      unknown\n"));
+    EXPECT_THAT(result.out, HasSubstr("  certified     unknown\n"));
+  }
+  // Programs see the numbers.
+  const Json json = OneObject(
+      Inside({"-n", "1", "--fault", "short:1"}, "ztk status --json").out);
+  EXPECT_EQ(json["mixers"][0]["firmware"]["number"], 65334);
+  EXPECT_EQ(json["mixers"][0]["certificationLevel"], 16777215);
+}
+
+TEST_F(Status, SendsToTheDoctorWhenASettingsFileCannotBeRead) {
+  WriteAll(home_.SettingsFile("VRM-D6"), "broken");
+  EXPECT_EQ(LastLine(OneMixer("ztk status").out),
+            "Next: ztk doctor tells why, and what to do");
 }
 
 TEST_F(Status, DoesNotTrustRepliesThatAreTooShortOrTooLarge) {

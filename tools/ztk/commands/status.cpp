@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <set>
 
+#include "ZTKFunc.h"
 #include "cli/strings.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/model/mixers/mixer_status.h"
@@ -44,9 +45,9 @@ Fact Firmware(const MixerStatus &mixer) {
   if (!mixer.firmware.value) return fact;
   const std::uint16_t number = *mixer.firmware.value;
   // The mixer sends a number; the version is derived from its bytes.
-  fact.words = FirmwareVersion(number);
-  fact.value = {
-      {"number", number}, {"hex", Hex(number)}, {"derived", fact.words}};
+  const std::string version = FirmwareVersion(number);
+  fact.words = IsWholeFirmware(number) ? version : "unknown";
+  fact.value = {{"number", number}, {"hex", Hex(number)}, {"derived", version}};
   return fact;
 }
 
@@ -57,7 +58,9 @@ Fact CertificationLevel(const MixerStatus &mixer) {
             .words = mixer.certificationLevel.why};
   if (!mixer.certificationLevel.value) return fact;
   fact.value = *mixer.certificationLevel.value;
-  fact.words = "level " + std::to_string(*mixer.certificationLevel.value);
+  const std::uint32_t level = *mixer.certificationLevel.value;
+  fact.words =
+      IsWholeLevel(level) ? "level " + std::to_string(level) : "unknown";
   return fact;
 }
 
@@ -99,8 +102,17 @@ bool IsOpened(const MixerStatus &mixer) {
          mixer.mixer.state != MixerState::Gone;
 }
 
+bool IsReachable(const MixerStatus &mixer) {
+  return mixer.answers() && !mixer.refusesAll();
+}
+
 // The words after "mixer 1": "is reachable", "does not answer", ...
 std::string StateWords(const MixerStatus &mixer) {
+  if (mixer.refusesAll()) {
+    return mixer.failure->state == MixerState::Refused
+               ? "refuses what it is asked"
+               : "cannot be asked";
+  }
   switch (mixer.mixer.state) {
     case MixerState::Answered:
       return "is reachable";
@@ -126,6 +138,7 @@ Json FieldsOf(const MixerStatus &mixer) {
   Json fields{{"position", mixer.mixer.number},
               {"reachable", IsOpened(mixer)},
               {"answers", mixer.answers()},
+              {"refuses", mixer.refusesAll()},
               {"port", mixer.place}};
   if (!IsOpened(mixer)) {
     fields["reason"] = mixer.mixer.message;
@@ -144,7 +157,7 @@ std::string Details(const MixerStatus &mixer, bool isOnly) {
   std::string text = "Mixer " + std::to_string(mixer.mixer.number) +
                      (isOnly ? " " : ", port " + mixer.place + ", ") +
                      StateWords(mixer) + "\n";
-  if (!mixer.answers()) return text;
+  if (!IsReachable(mixer)) return text;
   for (const Fact &fact : FactsOf(mixer)) text += Row(fact.title, fact.words);
   return text;
 }
@@ -157,14 +170,17 @@ std::string Line(const MixerStatus &mixer) {
          "\n";
 }
 
+std::size_t CountReachable(const Mixers &mixers) {
+  return static_cast<std::size_t>(
+      std::count_if(mixers.begin(), mixers.end(), IsReachable));
+}
+
 std::string Summary(const Mixers &mixers) {
-  const auto answering = static_cast<std::size_t>(
-      std::count_if(mixers.begin(), mixers.end(),
-                    [](const MixerStatus &mixer) { return mixer.answers(); }));
+  const std::size_t reachable = CountReachable(mixers);
   const std::string count = std::to_string(mixers.size());
-  if (answering == mixers.size()) return count + " mixers are reachable\n";
-  return count + " mixers are attached, " + std::to_string(answering) +
-         (answering == 1 ? " is reachable\n" : " are reachable\n");
+  if (reachable == mixers.size()) return count + " mixers are reachable\n";
+  return count + " mixers are attached, " + std::to_string(reachable) +
+         (reachable == 1 ? " is reachable\n" : " are reachable\n");
 }
 
 std::string TextOf(const Mixers &mixers, bool verbose) {
@@ -177,26 +193,51 @@ std::string TextOf(const Mixers &mixers, bool verbose) {
   return text;
 }
 
+// "the mixer that does not answer", "the mixers that refuse what they are
+// asked"; empty when each mixer works.
+std::string StuckMixers(const Mixers &mixers) {
+  const auto silent =
+      std::count_if(mixers.begin(), mixers.end(), [](const MixerStatus &mixer) {
+        return mixer.mixer.state == MixerState::Silent;
+      });
+  const auto refusing = std::count_if(
+      mixers.begin(), mixers.end(),
+      [](const MixerStatus &mixer) { return mixer.refusesAll(); });
+  if (silent + refusing == 0) return "";
+  const bool one = silent + refusing == 1;
+  std::string words = one ? "the mixer that " : "the mixers that ";
+  if (silent > 0) words += one ? "does not answer" : "do not answer";
+  if (silent > 0 && refusing > 0) words += " or ";
+  if (refusing > 0) {
+    words += one ? "refuses what it is asked" : "refuse what they are asked";
+  }
+  return words;
+}
+
 // What to do next when something is missing; else empty.
-std::string NextStep(const Mixers &mixers) {
-  const auto any = [&mixers](MixerState state) {
-    return std::any_of(mixers.begin(), mixers.end(),
-                       [state](const MixerStatus &mixer) {
-                         return mixer.mixer.state == state;
-                       });
-  };
+std::string NextStep(const Mixers &mixers, bool unreadable,
+                     const std::vector<SilentRouting> &silent) {
   if (mixers.empty()) {
     return "Next: plug the mixer in and switch it on; ztk doctor tells what "
            "is missing\n";
   }
-  if (any(MixerState::Silent)) {
-    return "Next: switch the mixer that does not answer off and on again; ztk "
-           "doctor tells more\n";
+  const std::string stuck = StuckMixers(mixers);
+  if (!stuck.empty()) {
+    return "Next: switch " + stuck +
+           " off and on again; ztk doctor tells more\n";
   }
   const bool allWork =
       std::all_of(mixers.begin(), mixers.end(),
                   [](const MixerStatus &mixer) { return mixer.works(); });
-  return allWork ? "" : "Next: ztk doctor tells why, and what to do\n";
+  if (!allWork || unreadable) {
+    return "Next: ztk doctor tells why, and what to do\n";
+  }
+  if (silent.empty()) return "";
+  const SilentRouting &first = silent.front();
+  return std::string("Next: turn the input selector") +
+         (mixers.size() > 1 ? " of mixer " + std::to_string(first.mixer) : "") +
+         " for CH" + std::to_string(first.channel + 1) + " to position " +
+         std::to_string(ZTK_SELECTOR_AUDIBLE) + "\n";
 }
 
 Mixers AddMixers(bool verbose, Report *report) {
@@ -214,12 +255,14 @@ Mixers AddMixers(bool verbose, Report *report) {
   report->fields["connected"] = !mixers.empty();
   report->fields["found"] = mixers.size();
   report->fields["reached"] = reached;
+  report->fields["answering"] = CountReachable(mixers);
   report->fields["mixers"] = std::move(list);
   report->text = TextOf(mixers, verbose);
   return mixers;
 }
 
-void AddRemembered(Report *report) {
+// Returns whether a settings file cannot be read.
+bool AddRemembered(Report *report) {
   SettingsSnapshot settings;
   Json list = Json::array();
   std::string text;
@@ -249,6 +292,7 @@ void AddRemembered(Report *report) {
   } else {
     report->text += "What is remembered cannot be read\n";
   }
+  return !unreadable.empty();
 }
 
 }  // namespace
@@ -256,9 +300,10 @@ void AddRemembered(Report *report) {
 Report ShowStatus(const Arguments &arguments) {
   Report report;
   const Mixers mixers = AddMixers(arguments.Has(Parameter::kVerbose), &report);
-  AddRemembered(&report);
-  AddSilence(FindSilentRoutings(mixers), mixers.size() > 1, &report);
-  report.text += NextStep(mixers);
+  const bool unreadable = AddRemembered(&report);
+  const std::vector<SilentRouting> silent = FindSilentRoutings(mixers);
+  AddSilence(silent, mixers.size() > 1, &report);
+  report.text += NextStep(mixers, unreadable, silent);
   return report;
 }
 

@@ -9,6 +9,7 @@
 #include "cli/suggest.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/model/mixers/mixer_status.h"
+#include "ztk/model/mixers/silence.h"
 #include "ztk/model/products.h"
 #include "ztk/model/settings.h"
 #include "ztk/progress.h"
@@ -89,46 +90,62 @@ ZTKResult Sentence(std::uint32_t channel, std::uint32_t language,
                                                ZTK_WARNING, language, text);
 }
 
-std::string PlainSentence(const std::string &place) {
-  const std::string why = WhyInstalledIsNotFound();
-  return "the mixer's input selector does not stand where " + place +
-         " can be heard; position 4 is needed, ztk status shows where it "
-         "stands (the translated text is missing: " +
-         (why.empty() ? "install VRM-D6Setup.framework" : why) + ")";
+bool IsWrong(const std::optional<std::uint8_t> &position) {
+  return position != input_audio::kAudiblePosition;
 }
 
-// The sentence of the library does not name the channel, so `before` precedes
-// it.
-std::string Explanation(std::uint32_t channel, const std::string &before) {
-  ZTKTextRef text = nullptr;
-  Sentence(channel, kUsersLanguage, &text);
-  return before + (text != nullptr ? Utf8(text)
-                                   : PlainSentence(PlaceName(kInput, channel)));
-}
-
-// "mixer 2: ", "mixers 2, 3: ": those of several whose selector stands wrong.
-// Asks them. None where no selector stands wrong: a mixer that does not answer
-// counts for the library as one.
-std::optional<std::string> MixersWithWrongSelector(std::uint32_t channel) {
-  const Progress progress(kWaitingForMixer, kLongestQuestion);
+// "mixer 2: ", "mixers 2, 3: ": those whose selector stands wrong.
+std::string MixersWithWrongSelector(std::uint32_t channel,
+                                    const std::vector<MixerStatus> &mixers) {
   std::vector<std::string> numbers;
-  for (const MixerStatus &mixer : AskForSelectors()) {
+  for (const MixerStatus &mixer : mixers) {
     if (!mixer.selectors.value) continue;
-    const auto position = (*mixer.selectors.value)[channel];
-    if (position == input_audio::kAudiblePosition) continue;
+    if (!IsWrong((*mixer.selectors.value)[channel])) continue;
     numbers.push_back(std::to_string(mixer.mixer.number));
   }
-  if (numbers.empty()) return std::nullopt;
+  if (numbers.empty()) return "";
   return (numbers.size() == 1 ? "mixer " : "mixers ") + cli::Listed(numbers) +
          ": ";
 }
 
+// The sentences of this program, one for each mixer whose selector stands
+// wrong, where the library has none.
+void AddPlainSentences(std::uint32_t channel, const std::string &what,
+                       const std::string &place,
+                       const std::vector<MixerStatus> &mixers, Report *report) {
+  for (const MixerStatus &mixer : mixers) {
+    if (!mixer.selectors.value) continue;
+    const auto position = (*mixer.selectors.value)[channel];
+    if (!position || !IsWrong(position)) continue;
+    report->warnings.push_back(place +
+                               SelectorSentence({.mixer = mixer.mixer.number,
+                                                 .channel = channel,
+                                                 .index = 0,
+                                                 .position = *position},
+                                                what, mixers.size() > 1));
+  }
+}
+
+// The sentence of the library does not name the channel, so `place` precedes
+// it. With several mixers, adds nothing where no selector stands wrong: a mixer
+// that does not answer counts for the library as one.
 void AddExplanation(std::uint32_t channel, const Reach &reach,
-                    const std::string &place, Report *report) {
-  std::optional<std::string> mixers = "";
-  if (reach.found() > 1) mixers = MixersWithWrongSelector(channel);
-  if (!mixers) return;
-  report->warnings.push_back(Explanation(channel, *mixers + place));
+                    const std::string &what, const std::string &place,
+                    Report *report) {
+  ZTKTextRef text = nullptr;
+  Sentence(channel, kUsersLanguage, &text);
+  std::vector<MixerStatus> mixers;
+  if (text == nullptr || reach.found() > 1) {
+    const Progress progress(kWaitingForMixer, kLongestQuestion);
+    mixers = AskForSelectors();
+  }
+  if (text == nullptr) {
+    AddPlainSentences(channel, what, place, mixers, report);
+    return;
+  }
+  const std::string numbers = MixersWithWrongSelector(channel, mixers);
+  if (reach.found() > 1 && numbers.empty()) return;
+  report->warnings.push_back(numbers + place + Utf8(text));
 }
 
 // Without a mixer the error says what became of the choice. The fifth channel
@@ -139,9 +156,10 @@ bool CanBeActedOn(std::uint32_t channel, const Reach &reach) {
 
 }  // namespace
 
-void ExplainWarning(std::uint32_t channel, const Reach &reach, Report *report) {
+void ExplainWarning(std::uint32_t channel, const std::string &what,
+                    const Reach &reach, Report *report) {
   if (!CanBeActedOn(channel, reach)) return;
-  AddExplanation(channel, reach, "", report);
+  AddExplanation(channel, reach, what, "", report);
 }
 
 void ExplainWarnings(const MadeChanges &made, Report *report) {
@@ -151,8 +169,9 @@ void ExplainWarnings(const MadeChanges &made, Report *report) {
         !CanBeActedOn(channel, made.reach)) {
       continue;
     }
-    AddExplanation(channel, made.reach, PlaceName(kInput, channel) + ": ",
-                   report);
+    AddExplanation(channel, made.reach,
+                   DescribedValue(kInput, channel, one.change.index),
+                   PlaceName(kInput, channel) + ": ", report);
   }
 }
 

@@ -86,7 +86,9 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
                 Sent(calls.acceptedLast(), calls.reach(), false) +
                 ", not remembered\n";
   ReportReach(calls.reach(), NeverRemembered("ztk input raw"), &report);
-  if (result == ZTK_WARNING) ExplainWarning(channel, calls.reach(), &report);
+  if (result == ZTK_WARNING) {
+    ExplainWarning(channel, "this source", calls.reach(), &report);
+  }
   return report;
 }
 

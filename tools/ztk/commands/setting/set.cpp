@@ -87,7 +87,7 @@ Report SetChoice(const Setting &setting, const Arguments &arguments) {
                 "\n" + NoteOnSendingAgain(wanted);
   WarnOfOtherModel(setting, made.reach, &report);
   if (change.result == ZTK_WARNING && change.selectorsKnown) {
-    ExplainWarning(channel, made.reach, &report);
+    ExplainWarning(channel, Described(choice), made.reach, &report);
   }
   return report;
 }

@@ -147,6 +147,13 @@ std::vector<MixerStatus> AskForSelectors() {
   return AskEach(Questions::Selectors);
 }
 
+bool IsWholeFirmware(std::uint16_t number) {
+  return (number & 0xFF) != kUntouched && (number >> 8) != kUntouched;
+}
+
+// The last byte of the reply is the lowest one of the number.
+bool IsWholeLevel(std::uint32_t level) { return (level & 0xFF) != kUntouched; }
+
 std::string FirmwareVersion(std::uint16_t number) {
   std::array<char, 16> text{};
   std::snprintf(text.data(), text.size(), "%x.%02x",

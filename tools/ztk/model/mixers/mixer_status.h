@@ -43,6 +43,11 @@ struct MixerStatus {
   // Whether it answers the queries that every mixer knows. It may not know
   // single queries.
   bool works() const { return answers() && firmware.value.has_value(); }
+  // Whether it was asked, and has refused each query or failed it.
+  bool refusesAll() const {
+    return answers() && failure && !firmware.value &&
+           !certificationLevel.value && !selectors.value && !seratoActive.value;
+  }
 };
 
 // All attached mixers in the order of the bus. They are asked at the same time,
@@ -56,6 +61,11 @@ std::vector<MixerStatus> AskForSelectors();
 
 // "4.36", as the two bytes of the number read.
 std::string FirmwareVersion(std::uint16_t number);
+
+// Whether the whole number has arrived. A byte that the mixer has not sent
+// reads as 0xFF, and no version or level has one there.
+bool IsWholeFirmware(std::uint16_t number);
+bool IsWholeLevel(std::uint32_t level);
 
 }  // namespace ztk::model
 

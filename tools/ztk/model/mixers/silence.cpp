@@ -30,14 +30,21 @@ std::vector<SilentRouting> FindSilentRoutings(
   return silent;
 }
 
-std::string Described(const SilentRouting &routing, bool namesMixer) {
+std::string SelectorSentence(const SilentRouting &routing,
+                             const std::string &what, bool namesMixer) {
   const std::string needed = std::to_string(input_audio::kAudiblePosition);
-  return PlaceName(kInput, routing.channel) + " is silent: the input selector" +
+  return std::string("the input selector") +
          (namesMixer ? " of mixer " + std::to_string(routing.mixer) : "") +
          " for CH" + std::to_string(routing.channel + 1) + " is in position " +
-         std::to_string(routing.position) + ", and " +
-         DescribedValue(kInput, routing.channel, routing.index) +
-         " needs position " + needed;
+         std::to_string(routing.position) + "; " + what +
+         " is heard only in position " + needed + ": turn it to " + needed;
+}
+
+std::string Described(const SilentRouting &routing, bool namesMixer) {
+  return PlaceName(kInput, routing.channel) + " is silent: " +
+         SelectorSentence(
+             routing, DescribedValue(kInput, routing.channel, routing.index),
+             namesMixer);
 }
 
 }  // namespace ztk::model

@@ -26,10 +26,14 @@ struct SilentRouting {
 std::vector<SilentRouting> FindSilentRoutings(
     const std::vector<MixerStatus> &mixers);
 
-// "USB input 1 is silent: the input selector for CH1 is in position 3, and 1
-// CH1 Control Tone PHONO needs position 4". Names the mixer when there are
-// several.
+// "USB input 1 is silent: the input selector for CH1 is in position 3; 1 CH1
+// Control Tone PHONO is heard only in position 4: turn it to 4". Names the
+// mixer when there are several.
 std::string Described(const SilentRouting &routing, bool namesMixer);
+
+// The part of that sentence after the colon. `what` is the choice.
+std::string SelectorSentence(const SilentRouting &routing,
+                             const std::string &what, bool namesMixer);
 
 // Whether the choice depends on the input selector of its channel.
 bool NeedsSelector(std::uint32_t channel, std::uint32_t index);
