@@ -8,8 +8,11 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QInputDialog>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -54,6 +57,14 @@ class MainWindowTest : public QObject {
   void SwitchesAutoapply();
   void ListsClubsAndAppliesAfterAPreview();
   void DoesNotApplyABrokenClub();
+  void DoesNotApplyAClubThatChangesNothing();
+  void AsksBeforeItReplacesAClub();
+  void WantsANameForAClub();
+  void ReadsTheClubsAgainWhenTheyAreUsed();
+  void EachActionHasItsOwnKey();
+  void AClickBesideTheBoxMakesTheRowActive_data();
+  void AClickBesideTheBoxMakesTheRowActive();
+  void ShowsTheRowThatHasTheFocus();
   void TheSisterModelsHaveTheirOwnPages();
   void NoTextIsCut_data();
   void NoTextIsCut();
@@ -280,7 +291,9 @@ void MainWindowTest::ShowsFindingsWithACommandToCopy() {
   QCOMPARE(TextOf("command"),
            QStringLiteral("sudo chmod a+rw /dev/bus/usb/001/002"));
   for (QPushButton *button : window_->findChildren<QPushButton *>()) {
-    if (button->text() == QLatin1String("Copy")) button->click();
+    if (button->text() != QLatin1String("Copy")) continue;
+    button->click();
+    QCOMPARE(button->text(), QStringLiteral("Copied"));
   }
   QCOMPARE(QApplication::clipboard()->text(),
            QStringLiteral("sudo chmod a+rw /dev/bus/usb/001/002"));
@@ -320,12 +333,19 @@ void MainWindowTest::SendsAllAgain() {
   Action("Send all again")->trigger();
   QCOMPARE(resend.size(), 1);
   QCOMPARE(TextOf("message"), QString());
+  for (RowState &row : state_.rows) row.stored.reset();
+  window_->showState(state_);
+  QVERIFY(!Action("Send all again")->isEnabled());
 }
 
 void MainWindowTest::SwitchesAutoapply() {
   QSignalSpy wanted(window_.get(), &MainWindow::autoapplyWanted);
   QAction *action = Action("Send all at each plug-in");
+  state_.whyNoAutoapply = "No rule is installed.";
+  window_->showState(state_);
   QVERIFY(!action->isEnabled());
+  QCOMPARE(action->toolTip(), QStringLiteral("No rule is installed."));
+  QVERIFY(qobject_cast<QMenu *>(action->parent())->toolTipsVisible());
   state_.autoapply = Autoapply::Off;
   window_->showState(state_);
   QVERIFY(action->isEnabled());
@@ -372,6 +392,103 @@ void MainWindowTest::DoesNotApplyABrokenClub() {
   QCOMPARE(buttons->buttons().size(), 1);
   QCOMPARE(buttons->standardButton(buttons->buttons()[0]),
            QDialogButtonBox::Close);
+}
+
+void MainWindowTest::DoesNotApplyAClubThatChangesNothing() {
+  window_->showPreview(
+      {.club = {.name = "Friday", .path = "/f"}, .changes = {}, .error = {}});
+  auto *buttons =
+      window_->findChild<ClubDialog *>()->findChild<QDialogButtonBox *>();
+  QCOMPARE(buttons->buttons().size(), 1);
+  QCOMPARE(buttons->standardButton(buttons->buttons()[0]),
+           QDialogButtonBox::Close);
+}
+
+void MainWindowTest::AsksBeforeItReplacesAClub() {
+  QSignalSpy save(window_.get(), &MainWindow::saveWanted);
+  state_.clubs = {{.name = "Zed & Co", .path = "/clubs/Zed & Co.json"},
+                  {.name = "A-B", .path = "/clubs/A-B.json"}};
+  window_->showState(state_);
+  QVERIFY(Action("Zed  Co") != nullptr);
+  QCOMPARE(Action("Zed  Co")->text(), QStringLiteral("Zed && Co"));
+  const auto answer = [this](const QString &name,
+                             QMessageBox::StandardButton button) {
+    Action("Save as a club")->trigger();
+    auto *dialog = window_->findChild<QInputDialog *>();
+    dialog->setTextValue(name);
+    dialog->accept();
+    delete dialog;
+    auto *question = window_->findChild<QMessageBox *>();
+    if (question == nullptr) return false;
+    question->button(button)->click();
+    delete question;
+    return true;
+  };
+  QVERIFY(answer("Zed & Co", QMessageBox::Cancel));
+  QCOMPARE(save.size(), 0);
+  QVERIFY(answer(" Zed & Co ", QMessageBox::Yes));
+  QCOMPARE(save.size(), 1);
+  // A file name holds no slash.
+  QVERIFY(answer("A/B", QMessageBox::Cancel));
+  QCOMPARE(save.size(), 1);
+  QVERIFY(!answer("Friday", QMessageBox::Cancel));
+  QCOMPARE(save.size(), 2);
+  QCOMPARE(save[1][0].toString(), QStringLiteral("Friday"));
+}
+
+void MainWindowTest::WantsANameForAClub() {
+  Action("Save as a club")->trigger();
+  auto *dialog = window_->findChild<QInputDialog *>();
+  const QPushButton *ok =
+      dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+  QVERIFY(!ok->isEnabled());
+  dialog->setTextValue("  ");
+  QVERIFY(!ok->isEnabled());
+  dialog->setTextValue("Friday");
+  QVERIFY(ok->isEnabled());
+}
+
+void MainWindowTest::ReadsTheClubsAgainWhenTheyAreUsed() {
+  QSignalSpy wanted(window_.get(), &MainWindow::clubsWanted);
+  for (const QAction *menu : window_->menuBar()->actions()) {
+    if (menu->text() == QLatin1String("&Clubs"))
+      emit menu->menu()->aboutToShow();
+  }
+  QCOMPARE(wanted.size(), 1);
+  Action("Save as a club")->trigger();
+  QCOMPARE(wanted.size(), 2);
+}
+
+// A theme may add keys to the standard ones.
+void MainWindowTest::EachActionHasItsOwnKey() {
+  QCOMPARE(Action("Send all again")->shortcuts(),
+           QList<QKeySequence>{QKeySequence("Ctrl+R")});
+  QCOMPARE(Action("Check again")->shortcuts(),
+           QList<QKeySequence>{QKeySequence("F5")});
+}
+
+void MainWindowTest::AClickBesideTheBoxMakesTheRowActive_data() {
+  QTest::addColumn<int>("label");
+  QTest::newRow("on the name") << 0;
+  QTest::newRow("on the text") << 1;
+}
+
+void MainWindowTest::AClickBesideTheBoxMakesTheRowActive() {
+  QFETCH(const int, label);
+  const auto labels = InputRow(3)->findChildren<QLabel *>();
+  QTest::mouseClick(labels[label], Qt::LeftButton);
+  QCOMPARE(window_->routingPage()->picture()->activeChannel(), 3);
+  QVERIFY(InputRow(3)->box()->hasFocus());
+}
+
+void MainWindowTest::ShowsTheRowThatHasTheFocus() {
+  window_->resize(400, 200);
+  SettleLayouts();
+  QVERIFY(InputRow(4)->visibleRegion().isEmpty());
+  QTest::keyClick(window_.get(), Qt::Key_5, Qt::AltModifier);
+  QVERIFY(InputRow(4)->box()->hasFocus());
+  QCOMPARE(InputRow(4)->box()->visibleRegion().boundingRect(),
+           InputRow(4)->box()->rect());
 }
 
 void MainWindowTest::TheSisterModelsHaveTheirOwnPages() {

@@ -160,6 +160,8 @@ void WholeWindowTest::SavesAndAppliesAClub() {
   name->setTextValue("Friday");
   name->accept();
   EVENTUALLY(state().clubs.size() == 1);
+  EVENTUALLY(window_->findChild<QLabel *>("message")->text() ==
+             QStringLiteral("Saved as “Friday”."));
   Ztk({"input", "set", "1", "rec out"});
   EVENTUALLY(InputRow(0).box()->currentText() == QStringLiteral("REC OUT"));
   Action("Friday").trigger();

@@ -2,17 +2,23 @@
 #include "window/main_window.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "window/engine/clubs.h"
 #include "window/pages/club_dialog.h"
 #include "window/pages/notices.h"
 #include "window/pages/routing_page.h"
@@ -54,6 +60,17 @@ MainWindow::MainWindow() {
   scroll->setFocusPolicy(Qt::NoFocus);
   scroll->setWidget(whole);
   setCentralWidget(scroll);
+  // A key can give the focus to a row that is out of sight.
+  connect(qApp, &QApplication::focusChanged, scroll,
+          [scroll](const QWidget * /*old*/, QWidget *now) {
+            auto *box = qobject_cast<QComboBox *>(now);
+            if (box == nullptr || !scroll->isAncestorOf(box) ||
+                QApplication::mouseButtons() != Qt::NoButton) {
+              return;
+            }
+            scroll->ensureWidgetVisible(box->parentWidget());
+            scroll->ensureWidgetVisible(box);
+          });
   TakeSpaceFor(*whole);
 }
 
@@ -101,6 +118,7 @@ void MainWindow::MakeMenus() {
   connect(undo_, &QAction::triggered, this, &MainWindow::undoWanted);
 
   QMenu *mixer = menuBar()->addMenu(tr("&Mixer"));
+  mixer->setToolTipsVisible(true);
   resend_ = AddAction(mixer, tr("&Send all again"), tr("Ctrl+R"));
   connect(resend_, &QAction::triggered, this, &MainWindow::resendWanted);
   autoapply_ =
@@ -108,11 +126,11 @@ void MainWindow::MakeMenus() {
   autoapply_->setCheckable(true);
   connect(autoapply_, &QAction::triggered, this, &MainWindow::autoapplyWanted);
   mixer->addSeparator();
-  QAction *check = AddAction(mixer, tr("&Check again"), QKeySequence::Refresh);
+  QAction *check = AddAction(mixer, tr("&Check again"), Qt::Key_F5);
   connect(check, &QAction::triggered, this, &MainWindow::checkWanted);
 
   clubMenu_ = menuBar()->addMenu(tr("&Clubs"));
-  clubMenu_->setToolTipsVisible(true);
+  connect(clubMenu_, &QMenu::aboutToShow, this, &MainWindow::clubsWanted);
   ShowClubs({});
 }
 
@@ -124,16 +142,16 @@ QWidget *MainWindow::MakeLowerBar() {
   message_->setObjectName(QStringLiteral("message"));
   undoButton_ = new QPushButton(bar);
   connect(undoButton_, &QPushButton::clicked, undo_, &QAction::trigger);
-  auto *resend = new QPushButton(resend_->text(), bar);
-  resend->setToolTip(
+  resendButton_ = new QPushButton(resend_->text(), bar);
+  resendButton_->setToolTip(
       tr("Sends what is remembered to the mixers; changes nothing."));
-  connect(resend, &QPushButton::clicked, resend_, &QAction::trigger);
+  connect(resendButton_, &QPushButton::clicked, resend_, &QAction::trigger);
   auto *layout = new QHBoxLayout(bar);
   const int unit = bar->fontMetrics().height();
   layout->setContentsMargins(unit, 0, unit, unit / 2);
   layout->addWidget(message_, 1);
   layout->addWidget(undoButton_);
-  layout->addWidget(resend);
+  layout->addWidget(resendButton_);
   return bar;
 }
 
@@ -142,6 +160,7 @@ void MainWindow::showState(const State &state) {
   routing_->showState(state);
   for (RowsPage *page : otherPages_) page->showState(state);
   ShowUndo(state);
+  ShowResend(state);
   ShowAutoapply(state);
   if (state.clubs != clubs_) ShowClubs(state.clubs);
 }
@@ -154,6 +173,15 @@ void MainWindow::ShowUndo(const State &state) {
   undoButton_->setText(undo_->text());
 }
 
+// Where nothing is remembered, there is nothing to send.
+void MainWindow::ShowResend(const State &state) {
+  const bool any =
+      std::any_of(state.rows.begin(), state.rows.end(),
+                  [](const RowState &row) { return row.stored.has_value(); });
+  resend_->setEnabled(any);
+  resendButton_->setEnabled(any);
+}
+
 void MainWindow::ShowAutoapply(const State &state) {
   autoapply_->setEnabled(state.autoapply != Autoapply::Unavailable);
   autoapply_->setChecked(state.autoapply == Autoapply::On);
@@ -164,7 +192,9 @@ void MainWindow::ShowClubs(const QList<ClubState> &clubs) {
   clubs_ = clubs;
   clubMenu_->clear();
   for (const ClubState &club : clubs) {
-    QAction *action = AddAction(clubMenu_, club.name, QKeySequence());
+    QString text = club.name;
+    text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAction *action = AddAction(clubMenu_, text, QKeySequence());
     connect(action, &QAction::triggered, this,
             [this, path = club.path] { emit previewWanted(path); });
   }
@@ -182,10 +212,37 @@ void MainWindow::AskForName() {
       tr("Name of the club; all remembered settings are "
          "saved under it:"));
   connect(dialog, &QInputDialog::textValueSelected, this,
-          [this](const QString &name) {
-            if (!name.trimmed().isEmpty()) emit saveWanted(name.trimmed());
-          });
+          [this](const QString &name) { Save(name.trimmed()); });
   dialog->open();
+  QPushButton *ok =
+      dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+  ok->setEnabled(false);
+  connect(
+      dialog, &QInputDialog::textValueChanged, ok,
+      [ok](const QString &name) { ok->setEnabled(!name.trimmed().isEmpty()); });
+  // Another program may have saved a club since.
+  emit clubsWanted();
+}
+
+void MainWindow::Save(const QString &name) {
+  if (name.isEmpty()) return;
+  const QString listed = ListedClubName(name);
+  if (std::none_of(
+          clubs_.begin(), clubs_.end(),
+          [&listed](const ClubState &club) { return club.name == listed; })) {
+    emit saveWanted(name);
+    return;
+  }
+  auto *question = new QMessageBox(
+      QMessageBox::Question, tr("Save as a club"),
+      tr("There is already a club “%1”. Replace it?").arg(listed),
+      QMessageBox::Yes | QMessageBox::Cancel, this);
+  question->setAttribute(Qt::WA_DeleteOnClose);
+  question->setTextFormat(Qt::PlainText);
+  question->setDefaultButton(QMessageBox::Cancel);
+  connect(question, &QMessageBox::accepted, this,
+          [this, name] { emit saveWanted(name); });
+  question->open();
 }
 
 void MainWindow::showPreview(const ClubPreview &preview) {

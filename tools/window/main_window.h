@@ -45,6 +45,8 @@ class MainWindow : public QMainWindow {
   void previewWanted(const QString &path);
   void applyWanted(const QString &path);
   void saveWanted(const QString &name);
+  // The list of clubs is about to be used.
+  void clubsWanted();
   // Whether anybody can see the window.
   void visibilityChanged(bool visible);
 
@@ -64,7 +66,9 @@ class MainWindow : public QMainWindow {
   void ShowUndo(const State &state);
   void ShowAutoapply(const State &state);
   void ShowClubs(const QList<ClubState> &clubs);
+  void ShowResend(const State &state);
   void AskForName();
+  void Save(const QString &name);
   void TellVisibility();
 
   QMenu *clubMenu_ = nullptr;
@@ -77,6 +81,7 @@ class MainWindow : public QMainWindow {
   QList<RowsPage *> otherPages_;
   QLabel *message_ = nullptr;
   QPushButton *undoButton_ = nullptr;
+  QPushButton *resendButton_ = nullptr;
 };
 
 }  // namespace ztk::window

@@ -55,6 +55,10 @@ QList<ClubState> FindClubs() {
   return clubs;
 }
 
+QString ListedClubName(const QString &name) {
+  return ClubAt(FileName(name)).name;
+}
+
 ClubFile ReadClub(const QString &path) {
   ClubFile club;
   QFile file(path);

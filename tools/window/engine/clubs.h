@@ -17,6 +17,9 @@ namespace ztk::window {
 // Sorted by name. Empty if the folder does not exist.
 QList<ClubState> FindClubs();
 
+// The name that a club has in the list once it is saved under this one.
+QString ListedClubName(const QString &name);
+
 struct ClubFile {
   std::vector<model::Change> changes;
   QString error;  // why it cannot be applied; empty if it can

@@ -403,14 +403,19 @@ void Engine::applyClub(const QString &path) {
 }
 
 void Engine::saveClub(const QString &name) {
-  private_->worker.Post(Worker::Kind::Change, "save " + name.toStdString(),
-                        [this, name]() -> Worker::Result {
-                          const QString problem = SaveClub(name);
-                          return [this, problem] {
-                            private_->LookAtClubs();
-                            if (!problem.isEmpty()) emit reported(problem);
-                          };
-                        });
+  private_->worker.Post(
+      Worker::Kind::Change, "save " + name.toStdString(),
+      [this, name]() -> Worker::Result {
+        const QString problem = SaveClub(name);
+        return [this, name, problem] {
+          private_->LookAtClubs();
+          emit reported(problem.isEmpty()
+                            ? tr("Saved as “%1”.").arg(ListedClubName(name))
+                            : problem);
+        };
+      });
 }
+
+void Engine::lookAtClubs() { private_->LookAtClubs(); }
 
 }  // namespace ztk::window

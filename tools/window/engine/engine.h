@@ -48,6 +48,8 @@ class Engine : public QObject {
   void previewClub(const QString &path);
   void applyClub(const QString &path);
   void saveClub(const QString &name);
+  // Lists the clubs again; other programs may write them too.
+  void lookAtClubs();
 
  signals:
   // Some part of state() is different now.

@@ -112,6 +112,18 @@ QString LeftAloneText(const std::vector<model::UndoItem> &items) {
       .arg(places.join(QStringLiteral(", ")));
 }
 
+// Names what is in effect again.
+QString UndoneText(const StepOutcome &outcome) {
+  QStringList places;
+  for (const RowOutcome &row : outcome.rows) {
+    if (row.delivery == Delivery::Failed) continue;
+    places.append(PlaceText(*row.setting, row.channel) + QStringLiteral(": ") +
+                  ChoiceText(*row.setting, row.channel, row.index));
+  }
+  if (places.isEmpty()) return {};
+  return Steps::tr("Undone: %1.").arg(places.join(QStringLiteral(", ")));
+}
+
 StepOutcome UndoIn(History *history) {
   StepOutcome outcome;
   model::DropVoidSteps(history);
@@ -128,7 +140,8 @@ StepOutcome UndoIn(History *history) {
   const std::vector<model::UndoItem> items = model::PlanUndo(history->steps());
   const MadeChanges made = model::MakeChanges(model::ChangesOf(items));
   outcome = OutcomeOf(made);
-  outcome.report = LeftAloneText(items);
+  outcome.report =
+      (UndoneText(outcome) + QLatin1Char(' ') + LeftAloneText(items)).trimmed();
   bool done = true;
   for (const MadeChange &one : made.changes) {
     done =

@@ -54,7 +54,7 @@ ClubDialog::ClubDialog(const ClubPreview &preview, QWidget *parent)
   introduction->setWordWrap(true);
   introduction->setTextFormat(Qt::PlainText);
   auto *buttons = new QDialogButtonBox(this);
-  if (preview.error.isEmpty()) {
+  if (preview.error.isEmpty() && !preview.changes.isEmpty()) {
     buttons->addButton(tr("&Apply"), QDialogButtonBox::AcceptRole);
     buttons->addButton(QDialogButtonBox::Cancel);
   } else {

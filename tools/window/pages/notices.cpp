@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "window/rows/warning_sign.h"
@@ -15,6 +16,9 @@
 namespace ztk::window {
 
 namespace {
+
+// How long the button tells that it has copied the command.
+constexpr int kCopiedMilliseconds = 2000;
 
 QString FactsOf(const MixerState &mixer) {
   QStringList facts(Notices::tr("Mixer %1 answers").arg(mixer.number));
@@ -71,8 +75,14 @@ QLayout *CommandLine(const QString &command, QWidget *parent) {
   text->setObjectName(QStringLiteral("command"));
   auto *copy = new QPushButton(Notices::tr("Copy"), parent);
   copy->setAccessibleName(Notices::tr("Copy the command %1").arg(command));
-  QObject::connect(copy, &QPushButton::clicked, parent, [command] {
+  const QString copied = Notices::tr("Copied");
+  copy->setMinimumWidth(
+      QPushButton(copied).sizeHint().expandedTo(copy->sizeHint()).width());
+  QObject::connect(copy, &QPushButton::clicked, copy, [command, copied, copy] {
     QGuiApplication::clipboard()->setText(command);
+    copy->setText(copied);
+    QTimer::singleShot(kCopiedMilliseconds, copy,
+                       [copy] { copy->setText(Notices::tr("Copy")); });
   });
   auto *line = new QHBoxLayout;
   line->addWidget(text, 1);

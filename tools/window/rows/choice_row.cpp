@@ -87,6 +87,12 @@ void ChoiceRow::showState(const State &state) {
   box_->setAccessibleDescription(text.text);
 }
 
+// The name of the row and the text below it belong to the row, too.
+void ChoiceRow::mousePressEvent(QMouseEvent * /*event*/) {
+  box_->setFocus(Qt::MouseFocusReason);
+  emit entered(this);
+}
+
 bool ChoiceRow::eventFilter(QObject *watched, QEvent *event) {
   if (event->type() == QEvent::FocusIn) emit entered(this);
   return QWidget::eventFilter(watched, event);

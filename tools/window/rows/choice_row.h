@@ -41,6 +41,7 @@ class ChoiceRow : public QWidget {
 
  protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
+  void mousePressEvent(QMouseEvent *event) override;
 
  private:
   void ShowChoice(std::uint32_t index);

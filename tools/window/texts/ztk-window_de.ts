@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>Es ist nichts gespeichert, daher wurde nichts gesendet.</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>Gespeichert als „%1“.</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>Rückgängig gemacht: %1.</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>Name des Clubs; alle gespeicherten Einstellungen werden darunter abgelegt:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Es gibt schon einen Club „%1“. Soll er ersetzt werden?</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>Änderungen anderer Programme werden hier nicht angezeigt.</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>Kopiert</translation>
         </message>
     </context>
     <context>

@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>No hay nada guardado, así que no se ha enviado nada.</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>Guardado como «%1».</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>Deshecho: %1.</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>Nombre del club; todos los ajustes guardados se almacenan con él:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Ya existe un club «%1». ¿Quiere reemplazarlo?</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>Aquí no se muestran los cambios de otros programas.</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>Copiado</translation>
         </message>
     </context>
     <context>

@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>Rien n’est enregistré, donc rien n’a été envoyé.</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>Enregistré sous « %1 ».</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>Annulé : %1.</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>Nom du club ; tous les réglages mémorisés sont enregistrés sous ce nom :</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Il existe déjà un club « %1 ». Le remplacer ?</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>Les modifications d’autres programmes ne sont pas affichées ici.</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>Copié</translation>
         </message>
     </context>
     <context>

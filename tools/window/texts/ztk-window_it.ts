@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>Nulla è memorizzato, quindi nulla è stato inviato.</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>Salvato come «%1».</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>Annullato: %1.</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>Nome del club; tutte le impostazioni memorizzate vengono salvate con questo nome:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Esiste già un club «%1». Sostituirlo?</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>Le modifiche di altri programmi non vengono mostrate qui.</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>Copiato</translation>
         </message>
     </context>
     <context>

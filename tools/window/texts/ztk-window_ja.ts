@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>何も保存されていないため、何も送信しませんでした。</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>「%1」として保存しました。</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>元に戻しました：%1。</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>クラブの名前（保存されているすべての設定をこの名前で保存します）:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>クラブ「%1」はすでにあります。置き換えますか？</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>ほかのプログラムによる変更はここに表示されません。</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>コピーしました</translation>
         </message>
     </context>
     <context>

@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>저장된 것이 없어 아무것도 보내지 않았습니다.</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>“%1”(으)로 저장했습니다.</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>실행 취소함: %1.</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>클럽 이름(저장된 모든 설정이 이 이름으로 저장됩니다):</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>클럽 “%1”이(가) 이미 있습니다. 바꾸시겠습니까?</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>다른 프로그램의 변경 사항은 여기에 표시되지 않습니다.</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>복사됨</translation>
         </message>
     </context>
     <context>

@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>Er is niets opgeslagen, dus er is niets verzonden.</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>Opgeslagen als ‘%1’.</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>Ongedaan gemaakt: %1.</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>Naam van de club; alle opgeslagen instellingen worden daaronder bewaard:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Er is al een club ‘%1’. Vervangen?</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>Wijzigingen door andere programma’s worden hier niet getoond.</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>Gekopieerd</translation>
         </message>
     </context>
     <context>

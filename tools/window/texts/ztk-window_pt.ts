@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>Não há nada guardado, por isso nada foi enviado.</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>Guardado como “%1”.</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>Anulado: %1.</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>Nome do clube; todas as definições guardadas ficam com este nome:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Já existe um clube “%1”. Substituí-lo?</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>As alterações de outros programas não são mostradas aqui.</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>Copiado</translation>
         </message>
     </context>
     <context>

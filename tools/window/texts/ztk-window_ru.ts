@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>Ничего не сохранено, поэтому ничего не отправлено.</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>Сохранено как «%1».</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>Отменено: %1.</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>Название клуба; под ним сохраняются все настройки:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Клуб «%1» уже есть. Заменить его?</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>Изменения других программ здесь не показываются.</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>Скопировано</translation>
         </message>
     </context>
     <context>

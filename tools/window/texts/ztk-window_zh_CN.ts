@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>没有已保存的设置，因此未发送任何内容。</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>已保存为“%1”。</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>已撤消：%1。</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>俱乐部名称（所有已保存的设置将以此名称保存）：</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>已存在俱乐部“%1”。要替换吗？</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>此处不显示其他程序的更改。</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>已复制</translation>
         </message>
     </context>
     <context>

@@ -165,6 +165,14 @@
             <source>Nothing is remembered, so nothing was sent.</source>
             <translation>沒有已儲存的設定，因此未傳送任何內容。</translation>
         </message>
+        <message>
+            <source>Saved as “%1”.</source>
+            <translation>已儲存為「%1」。</translation>
+        </message>
+        <message>
+            <source>Undone: %1.</source>
+            <translation>已復原：%1。</translation>
+        </message>
     </context>
     <context>
         <name>MainWindow</name>
@@ -231,6 +239,10 @@
         <message>
             <source>Name of the club; all remembered settings are saved under it:</source>
             <translation>俱樂部名稱（所有已儲存的設定將以此名稱儲存）：</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>已有俱樂部「%1」。要取代嗎？</translation>
         </message>
     </context>
     <context>
@@ -377,6 +389,10 @@
         <message>
             <source>Changes of other programs are not shown here.</source>
             <translation>此處不顯示其他程式的變更。</translation>
+        </message>
+        <message>
+            <source>Copied</source>
+            <translation>已複製</translation>
         </message>
     </context>
     <context>
