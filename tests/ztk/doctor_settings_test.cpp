@@ -46,6 +46,25 @@ TEST_F(DoctorSettings, AreUnreadableWhenDamaged) {
             "<plist><dict><key>Max");
 }
 
+TEST_F(DoctorSettings, ThatWereSetAsideAreANote) {
+  const std::string file = home_.SettingsFile("VRM-D6").string();
+  Remember("VRM-D6", {{"MaxLevel", 1}});
+  std::filesystem::rename(file, file + ".unreadable-1");
+  std::filesystem::permissions(file + ".unreadable-1",
+                               std::filesystem::perms::none);
+  Remember("VRM-D6", {{"Output1", 2}});
+  const Json finding = OnlyOneIn("settings", Diagnosis());
+  EXPECT_EQ(Word(finding, "id"), "settings-kept");
+  EXPECT_EQ(Word(finding, "severity"), "note");
+  EXPECT_EQ(Word(finding, "finding"),
+            "the settings in " + file + ".unreadable-1 are not remembered");
+  EXPECT_EQ(Word(finding, "command"), "chmod u+rw " + file +
+                                          ".unreadable-1 && mv " + file +
+                                          ".unreadable-1 " + file);
+  EXPECT_TRUE(Helps(finding, "settings"));
+  EXPECT_THAT(NoMixer("ztk boost get").out, HasSubstr("2 -10 dB\n"));
+}
+
 TEST_F(DoctorSettings, AreUnreadableWhenSomethingElseStandsThere) {
   std::filesystem::create_directories(home_.SettingsFile("VRM-K2"));
   const Json finding = OnlyOneIn("settings", Diagnosis());

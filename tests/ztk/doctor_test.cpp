@@ -59,10 +59,12 @@ TEST_F(Doctor, FindsNothingWhereAllIsWell) {
             "bus       ok: other programs receive changes");
   EXPECT_EQ(Line(result_.out, 3),
             "texts     ok: the warning texts are installed");
-  EXPECT_EQ(Line(result_.out, 4), "0");
+  EXPECT_EQ(Line(result_.out, 4),
+            "history   ok: ztk undo can take back changes");
+  EXPECT_EQ(Line(result_.out, 5), "0");
   const Json json = OneObject(LastLine(result_.out) + "\n");
   EXPECT_EQ(json.value("findings", Json()), Json::array());
-  EXPECT_EQ(json.value("checks", Json::array()).size(), 4U);
+  EXPECT_EQ(json.value("checks", Json::array()).size(), 5U);
   EXPECT_THAT(Writes(), IsEmpty());
   EXPECT_FALSE(std::filesystem::exists(home_.path() / ".config"));
 }
@@ -99,6 +101,58 @@ TEST_F(Doctor, NamesTheCommandOfTheVirtualMixerInItsSandbox) {
   finding = OnlyOneIn(
       "mixers", Inside({"-n", "1", "--fault", "silence"}, "ztk doctor --json"));
   EXPECT_TRUE(Helps(finding, "mixers", {"-n", "1", "--fault", "silence"}));
+}
+
+TEST_F(Doctor, NamesThePortWhereThereAreSeveralMixers) {
+  const std::vector<std::string> options{
+      "-n", "3", "--fault", "1:silence", "--fault", "2:stall", "--forbid", "3"};
+  const std::vector<Json> found =
+      FoundIn("mixers", Inside(options, "ztk doctor --json"));
+  ASSERT_EQ(found.size(), 3U);
+  EXPECT_EQ(Word(found[0], "finding"), "mixer 1, port 1-1, does not answer");
+  EXPECT_EQ(Word(found[0], "command"), "ztk-virtual-mixer fault -m 1 none");
+  EXPECT_EQ(Word(found[1], "finding"),
+            "mixer 2, port 1-2, refuses what it is asked");
+  EXPECT_EQ(Word(found[1], "command"), "ztk-virtual-mixer fault -m 2 none");
+  EXPECT_EQ(Word(found[2], "finding"),
+            "mixer 3, port 1-3, is attached, but you cannot open it");
+}
+
+TEST_F(Doctor, FindsAHistoryThatUndoCannotUse) {
+  const std::string file =
+      home_.path().string() + "/.local/state/tarvix/ztk-history.jsonl";
+  WriteAll(file, "junk\n");
+  Json finding = OnlyOneIn("history", NoMixer("ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "history-damaged");
+  EXPECT_EQ(Word(finding, "finding"),
+            "ztk undo cannot take back every change: " + file + " is damaged");
+  EXPECT_TRUE(Helps(finding, "history"));
+  std::filesystem::create_directories(file);
+  finding = OnlyOneIn("history", NoMixer("ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "history-unreadable");
+  EXPECT_EQ(Word(finding, "finding"), "ztk undo cannot read " + file);
+  EXPECT_TRUE(Helps(finding, "history"));
+}
+
+TEST_F(Doctor, FindsAHistoryThatTheUserMayNotRead) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can be two users";
+  const std::string before =
+      "run=\"setpriv --reuid 65534 --clear-groups env HOME=$DIR/home\"\n"
+      "$run ztk --version > /dev/null || exit 97\n"
+      "chmod 755 $DIR; folder=$DIR/home/.local/state/tarvix\n"
+      "mkdir -p $folder; : > $folder/ztk-history.jsonl\n"
+      "chown -R 65534 $DIR/home\n";
+  const std::string folder =
+      home_.path().string() + "/home/.local/state/tarvix";
+  Result result = NoMixer(before + "chmod 0 $folder/*; $run ztk doctor --json");
+  if (result.status == kCannotSet) {
+    GTEST_SKIP() << "the program cannot be run by others";
+  }
+  EXPECT_EQ(Word(OnlyOneIn("history", result), "command"),
+            "chmod u+rw " + folder + "/ztk-history.jsonl");
+  result = NoMixer(before + "chmod 0 $folder; $run ztk doctor --json");
+  EXPECT_EQ(Word(OnlyOneIn("history", result), "command"),
+            "chmod u+rwx " + folder);
 }
 
 TEST_F(Doctor, SaysWhyAChannelIsSilentAndThatIsNoProblem) {
@@ -257,7 +311,7 @@ TEST_F(Doctor, FindsAMixerThatDoesNotAnswer) {
         "mixers", Inside({"-n", "2", "--fault", std::string("2:") + row.fault},
                          kAsOnARealSystem + std::string("ztk doctor --json")));
     EXPECT_EQ(Word(finding, "id"), row.id);
-    EXPECT_THAT(Word(finding, "finding"), StartsWith("mixer 2 "));
+    EXPECT_THAT(Word(finding, "finding"), StartsWith("mixer 2, port 1-2, "));
     EXPECT_EQ(Word(finding, "command"), row.command);
   }
 }

@@ -28,16 +28,28 @@ TEST_F(InputSet, SendsRemembersAndReadsTheSelector) {
 }
 
 TEST_F(BoostSet, TellsWhereADamagedSettingsFileIsKept) {
-  WriteAll(home_.SettingsFile("VRM-D6"), "broken");
+  const std::string file = home_.SettingsFile("VRM-D6").string();
+  WriteAll(file, "broken");
   const Result result = OneMixer("ztk boost set 1");
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.err,
-            "ztk: warning: the settings file was damaged; it is kept in " +
-                home_.path().string() +
-                "/.config/tarvix/Preferences under a name with "
-                "\".unreadable\"\n");
+            "ztk: warning: the settings file was damaged; its other settings "
+            "are not remembered any longer; it is kept as " +
+                file +
+                ".unreadable-1; to bring it back, once it is repaired: "
+                "mv " +
+                file + ".unreadable-1 " + file + "\n");
   EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6").string() + ".unreadable-1"),
             "broken");
+}
+
+// An older kept file has another name.
+TEST_F(BoostSet, NamesTheFileThatWasKeptLast) {
+  const std::string file = home_.SettingsFile("VRM-D6").string();
+  WriteAll(file + ".unreadable-1", "older");
+  WriteAll(file, "broken");
+  EXPECT_THAT(OneMixer("ztk boost set 1").err,
+              HasSubstr("; it is kept as " + file + ".unreadable-2; "));
 }
 
 TEST_F(BoostSet, TellsWhereAFileIsKeptThatTheUserMayNotRead) {
@@ -53,7 +65,14 @@ TEST_F(BoostSet, TellsWhereAFileIsKeptThatTheUserMayNotRead) {
     GTEST_SKIP() << "the program cannot be run by others";
   EXPECT_THAT(result.err,
               HasSubstr("ztk: warning: the settings file could not be read, as "
-                        "you have no permission; it is kept in "));
+                        "you have no permission; its other settings are not "
+                        "remembered any longer; it is kept as "));
+  const std::string file =
+      home_.path().string() +
+      "/home/.config/tarvix/Preferences/com.tarvix.VRM-D6autosetup.plist";
+  EXPECT_THAT(result.err, HasSubstr("; to bring it back: chmod u+rw " + file +
+                                    ".unreadable-1 && mv " + file +
+                                    ".unreadable-1 " + file + "\n"));
   EXPECT_THAT(result.out, HasSubstr("com.tarvix.VRM-D6autosetup.plist\n"
                                     "com.tarvix.VRM-D6autosetup.plist."
                                     "unreadable-1\n"));

@@ -29,6 +29,8 @@ Findings CheckSettingsFiles(const std::vector<std::string> &models,
                             std::string *good);
 // Whether announcements of changes reach other programs.
 Findings CheckBus(std::string *good);
+// Whether ztk undo can read and write its history. Makes no file.
+Findings CheckHistory(std::string *good);
 // Whether the translated warning texts are installed.
 Findings CheckTexts(std::string *good);
 
@@ -39,8 +41,8 @@ Finding ExplainNoMixer();
 // Explains why an attached mixer cannot be opened.
 Finding ExplainUnopened(int mixer, const std::string &place);
 // A command that has the same effect as unplugging the mixer and plugging it
-// in.
-std::string RestartCommand(const std::string &place);
+// in. `mixer` is its number.
+std::string RestartCommand(int mixer, const std::string &place);
 // A command that renames the file, so that its name can be used again.
 std::string MoveAwayCommand(const std::string &path);
 // A command that makes a read-only file system writable.
@@ -52,6 +54,9 @@ Finding ExplainTexts(bool found);
 
 // Quotes the word for a shell.
 std::string ShellQuoted(const std::string &word);
+// A command that grants the user the right to use a file that belongs to the
+// user, or that makes the user its owner.
+std::string TakeOverCommand(const std::string &path, const char *mode);
 
 }  // namespace ztk::model
 

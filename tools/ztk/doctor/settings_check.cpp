@@ -14,6 +14,7 @@
 #include "platform/text.h"
 #include "store/settings_path.h"
 #include "ztk/doctor/finding.h"
+#include "ztk/model/kept_files.h"
 #include "ztk/system/library_text.h"
 
 namespace ztk::model {
@@ -36,15 +37,6 @@ std::string Target(const std::string &path) {
                                                           : target.data();
 }
 
-// A command that grants the user the right to use a file that belongs to the
-// user, or that makes the user its owner.
-std::string TakeOver(const std::string &path, const char *mode) {
-  struct stat status {};
-  const bool own = Exists(path, &status) && status.st_uid == geteuid();
-  return (own ? std::string("chmod ") + mode : "sudo chown \"$(id -un)\"") +
-         " " + ShellQuoted(path);
-}
-
 void FindUnreadable(const std::string &path, Findings *findings) {
   struct stat status {};
   // A file where a folder is needed is the problem.
@@ -62,9 +54,34 @@ void FindUnreadable(const std::string &path, Findings *findings) {
     close(opened);
   } else if (errno == EACCES) {
     finding.cause = "you have no permission to read it";
-    finding.command = TakeOver(path, "u+rw");
+    finding.command = TakeOverCommand(path, "u+rw");
   }
   findings->push_back(finding);
+}
+
+// Each settings file that could not be read and is kept under another name. One
+// that is damaged would not be read in its old place either.
+void FindKept(const std::string &path, Findings *findings) {
+  for (const std::string &kept : KeptFiles(path)) {
+    Finding finding{.id = "settings-kept",
+                    .what = "the settings in " + kept + " are not remembered",
+                    .cause =
+                        "you had no permission to read the file when a "
+                        "setting was stored; this brings it back, in place of "
+                        "the settings stored since",
+                    .command = BringBackCommand(kept, path),
+                    .isNote = true};
+    platform::property_list::Dictionary *settings =
+        WithText(kept, platform::property_list::ReadFile);
+    platform::property_list::Release(settings);
+    if (settings == nullptr && access(kept.c_str(), R_OK) == 0) {
+      finding.cause =
+          "the file was damaged when a setting was stored; once it is "
+          "repaired, this brings it back, in place of the settings stored "
+          "since";
+    }
+    findings->push_back(finding);
+  }
 }
 
 // Why no file can be made in the folder: an error number, or 0.
@@ -93,7 +110,7 @@ Finding Unwritable(const std::string &folder, int error) {
     case EACCES:
     case EPERM:
       finding.cause = "you have no permission to write there";
-      finding.command = TakeOver(folder, "u+rwx");
+      finding.command = TakeOverCommand(folder, "u+rwx");
       break;
     case EROFS:
       finding.cause = "it lies on a file system that is read-only";
@@ -153,6 +170,7 @@ Findings CheckSettingsFiles(const std::vector<std::string> &models,
     const platform::text::Made file(WithText(model, store::MakePath));
     const std::string path = Utf8(file.get());
     FindUnreadable(path, &findings);
+    FindKept(path, &findings);
     struct stat status {};
     // The library follows a link when it writes the file.
     if (Exists(path, &status) && FolderOf(Target(path)) != Target(folder)) {

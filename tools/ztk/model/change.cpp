@@ -55,6 +55,7 @@ void AddOutcome(const RecordedCalls &calls, MadeChange *one) {
   one->remembered = outcome.store.result == ZTK_FILE_OK;
   if (!one->remembered) one->notStored = WhyNotStored(outcome.store);
   if (one->remembered) one->oldFileKept = WhyOldFileKept(outcome.read);
+  one->wasDamaged = outcome.read.result == ZTK_FILE_DAMAGED;
   one->announced = outcome.announcement.result == ZTK_ANNOUNCEMENT_SENT;
   one->announcementFailed =
       outcome.announcement.result == ZTK_ANNOUNCEMENT_FAILED;

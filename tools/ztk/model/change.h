@@ -42,6 +42,7 @@ struct MadeChange {
   // Why the old settings file could not be used, as a part of a sentence; else
   // empty. It is kept under another name, and a new one holds the value.
   std::string oldFileKept = {};
+  bool wasDamaged = false;  // the reason is not a missing permission
 };
 
 struct MadeChanges {

@@ -27,7 +27,7 @@ Finding ExplainUnanswered(const Mixer &mixer, const std::string &place) {
           (silent ? "it is still starting or hangs" : "requests to it fail") +
           "; switch it off and on again, or run this command, which does "
           "the same",
-      .command = RestartCommand(place)};
+      .command = RestartCommand(mixer.number, place)};
 }
 
 Finding ExplainSilence(const SilentRouting &routing, bool namesMixer) {
@@ -43,6 +43,16 @@ Finding ExplainSilence(const SilentRouting &routing, bool namesMixer) {
           .isNote = true};
 }
 
+// "mixer 2 does not answer" becomes "mixer 2, port 1-2, does not answer".
+std::string WithPort(const std::string &what, int number,
+                     const std::string &place) {
+  const std::string name = "mixer " + std::to_string(number);
+  const std::size_t begin = what.find(name + " ");
+  if (begin == std::string::npos) return what;
+  std::string named = what;
+  return named.insert(begin + name.size(), ", port " + place + ",");
+}
+
 // Mixers that were attached and are not any more.
 Findings FindGone(const std::vector<std::string> &places,
                   const std::vector<MixerStatus> &mixers) {
@@ -56,6 +66,9 @@ Findings FindGone(const std::vector<std::string> &places,
     if (isHere) continue;
     findings.push_back(ExplainUnanswered(
         Unanswering(number, platform::usb::kNoDevice), place));
+    if (places.size() > 1) {
+      findings.back().what = WithPort(findings.back().what, number, place);
+    }
   }
   return findings;
 }
@@ -71,6 +84,12 @@ Findings CheckMixers(std::string *good) {
       findings.push_back(ExplainUnopened(one.mixer.number, one.place));
     } else if (!one.works() && one.failure) {
       findings.push_back(ExplainUnanswered(*one.failure, one.place));
+    } else {
+      continue;
+    }
+    if (mixers.size() > 1) {
+      findings.back().what =
+          WithPort(findings.back().what, one.mixer.number, one.place);
     }
   }
   for (const SilentRouting &routing : FindSilentRoutings(mixers)) {
@@ -90,7 +109,8 @@ constexpr CheckedPart kParts[] = {
     {.name = "mixers", .asksMixers = true, .check = CheckMixers},
     {.name = "settings", .asksMixers = false, .check = CheckSettings},
     {.name = "bus", .asksMixers = false, .check = CheckBus},
-    {.name = "texts", .asksMixers = false, .check = CheckTexts}};
+    {.name = "texts", .asksMixers = false, .check = CheckTexts},
+    {.name = "history", .asksMixers = false, .check = CheckHistory}};
 
 }  // namespace
 

@@ -8,6 +8,8 @@
 #include "cli/terminal.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "store/settings_path.h"
+#include "ztk/model/kept_files.h"
 #include "ztk/output.h"
 #include "ztk/report/setting_report.h"
 #include "ztk/system/library_text.h"
@@ -120,9 +122,17 @@ void ReportReplacedFile(const MadeChanges &made, Report *report) {
       made.changes.begin(), made.changes.end(),
       [](const MadeChange &change) { return !change.oldFileKept.empty(); });
   if (replaced == made.changes.end()) return;
-  report->warnings.push_back("the settings file " + replaced->oldFileKept +
-                             "; it is kept in " + SettingsFolder() +
-                             " under a name with \".unreadable\"");
+  const platform::text::Made path(
+      store::MakePath(replaced->change.setting->model));
+  const std::string file = Utf8(path.get());
+  std::string warning = "the settings file " + replaced->oldFileKept +
+                        "; its other settings are not remembered any longer";
+  if (const auto kept = KeptFiles(file); !kept.empty()) {
+    warning += "; it is kept as " + kept.back() + "; to bring it back" +
+               (replaced->wasDamaged ? ", once it is repaired: " : ": ") +
+               BringBackCommand(kept.back(), file);
+  }
+  report->warnings.push_back(warning);
 }
 
 }  // namespace

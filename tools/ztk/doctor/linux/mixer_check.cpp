@@ -309,8 +309,10 @@ Finding ExplainUnopened(int mixer, const std::string &place) {
   return finding;
 }
 
-std::string RestartCommand(const std::string &place) {
-  if (IsInSandbox()) return "ztk-virtual-mixer fault none";
+std::string RestartCommand(int mixer, const std::string &place) {
+  if (IsInSandbox()) {
+    return "ztk-virtual-mixer fault -m " + std::to_string(mixer) + " none";
+  }
   return "for on in 0 1; do echo $on | sudo tee " + SysFolder(place) +
          "/authorized; done";
 }

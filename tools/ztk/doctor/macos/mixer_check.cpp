@@ -23,7 +23,7 @@ Finding ExplainUnopened(int mixer, const std::string &place) {
       .id = Word(access.obstacle),
       .what = "mixer " + std::to_string(mixer) + " " + Explained(access),
       .cause = access.reason,
-      .command = RestartCommand(place)};
+      .command = RestartCommand(mixer, place)};
   if (access.obstacle == Obstacle::None) {
     finding.cause = "it was busy for a moment";
     finding.command = "ztk doctor";
@@ -38,7 +38,7 @@ Finding ExplainUnopened(int mixer, const std::string &place) {
 
 // This system has no command that detaches a device, so the user has to unplug
 // it.
-std::string RestartCommand(const std::string & /*place*/) {
+std::string RestartCommand(int /*mixer*/, const std::string & /*place*/) {
   return "printf 'Switch the mixer off and on, then press Return. '; read -r "
          "done; ztk doctor";
 }
