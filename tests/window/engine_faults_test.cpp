@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
 // The engine without mixers, and with mixers, files and a bus that fail.
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <cstddef>
 #include <filesystem>
+#include <iterator>
 
 #include "window/engine/engine.h"
 #include "window/engine_world.h"
@@ -24,6 +27,7 @@ class EngineFaultsTest : public EngineWorld {
   void GoesOnWhileAMixerIsSilent();
   void NoticesPluggingInAndUnplugging();
   void NoticesThatARightIsGranted();
+  void KeepsNoDescriptorOfAMixerThatItMayNotOpen();
   void SaysThatAFileCannotBeRead();
   void SaysThatNothingCanBeStored();
   void SaysThatTheBusHasEnded();
@@ -120,6 +124,31 @@ void EngineFaultsTest::NoticesThatARightIsGranted() {
   Mixer({"allow"});
   EVENTUALLY(state().mixers[0].answer == MixerAnswer::Answers);
   EVENTUALLY(Problems().isEmpty());
+}
+
+namespace {
+
+std::ptrdiff_t OpenDescriptors() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                       std::filesystem::directory_iterator());
+}
+
+}  // namespace
+
+void EngineFaultsTest::KeepsNoDescriptorOfAMixerThatItMayNotOpen() {
+  Mixer({"forbid", "-m", "2"});
+  StartEngine();
+  EVENTUALLY(!Problems().isEmpty());
+  engine().setVisible(false);
+  QSignalSpy looks(&engine(), &Engine::stateChanged);
+  const std::ptrdiff_t before = OpenDescriptors();
+  for (int i = 0; i < 20; ++i) {
+    looks.clear();
+    engine().checkNow();
+    EVENTUALLY(!looks.isEmpty());
+  }
+  const std::ptrdiff_t after = OpenDescriptors();
+  QVERIFY2(after < before + 5, qPrintable(QString::number(after - before)));
 }
 
 void EngineFaultsTest::SaysThatAFileCannotBeRead() {

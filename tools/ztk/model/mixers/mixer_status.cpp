@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <optional>
 
 #include "usb/mixers.h"
 #include "ztk/model/mixers/in_parallel.h"
@@ -103,13 +104,16 @@ MixerStatus AskMixer(std::size_t position, const std::string &place,
                      .certificationLevel = {},
                      .selectors = {},
                      .seratoActive = {}};
-  const usb::OpenMixer mixer(static_cast<std::int32_t>(position));
-  if (!mixer) {
+  // A program that stays open looks again and again. It opens no mixer that it
+  // may not open.
+  std::optional<usb::OpenMixer> mixer;
+  if (MayBeOpened(place)) mixer.emplace(static_cast<std::int32_t>(position));
+  if (!mixer || !*mixer) {
     status.mixer = Unopened(number, place);
     status.failure = status.mixer;
     return status;
   }
-  MixerReader reader(mixer.connection(), &status);
+  MixerReader reader(mixer->connection(), &status);
   if (questions == Questions::All) {
     AskAll(&reader, &status);
   } else {

@@ -72,6 +72,13 @@ Access TryToOpen(const std::string &place) {
     if (place != facts.entry) continue;
     const std::string node = NodeOf(facts);
     if (node.empty()) return vanished;
+    // The sandbox of ztk-virtual-mixer loses a descriptor of this process with
+    // each open() that fails.
+    if (access(node.c_str(), R_OK | W_OK) != 0) {
+      return {.obstacle = ObstacleOf(errno),
+              .node = node,
+              .reason = std::strerror(errno)};
+    }
     const int opened = open(node.c_str(), O_RDWR | O_CLOEXEC);
     if (opened >= 0) {
       close(opened);
