@@ -181,20 +181,22 @@ Command MakeTurn() {
 }
 
 Command MakeFault() {
-  return {.path = "fault",
-          .summary =
-              "Add a fault to mixers, or end all faults (inside run or serve)",
-          .options = {MixerText(),
-                      cli::Offering(
-                          {.names = "FAULT",
-                           .value = "",
-                           .description =
-                               "Fault, in the form below; none ends all faults",
-                           .required = true},
-                          FaultsAndNone)},
-          .note = kFaultHelp,
-          .examples = {"ztk-virtual-mixer fault 'stall@8002*3'"},
-          .run = RunFault};
+  return {
+      .path = "fault",
+      .summary =
+          "Add a fault to mixers, or end all faults (inside run or serve)",
+      .options =
+          {MixerText(),
+           cli::Offering(
+               {.names = "FAULT",
+                .value = "",
+                .description =
+                    "Fault, in the form below; the word none ends all faults",
+                .required = true},
+               FaultsAndNone)},
+      .note = kFaultHelp,
+      .examples = {"ztk-virtual-mixer fault 'stall@8002*3'"},
+      .run = RunFault};
 }
 
 Command MakeReply() {

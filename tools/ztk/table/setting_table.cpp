@@ -20,8 +20,8 @@ void AddChannel(const Setting &setting, const std::string &otherwise,
   options->push_back(cli::Offering(
       {.names = Parameter::kChannel,
        .value = "",
-       .description =
-           "Channel, 1 to " + std::to_string(setting.channels) + otherwise,
+       .description = std::string(setting.title) + " channel, 1 to " +
+                      std::to_string(setting.channels) + otherwise,
        .required = otherwise.empty()},
       [&setting] { return ChannelValues(setting, setting.channels); }));
 }
