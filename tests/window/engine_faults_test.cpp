@@ -26,6 +26,7 @@ class EngineFaultsTest : public EngineWorld {
   void NamesTheMixerThatFails();
   void GoesOnWhileAMixerIsSilent();
   void NoticesPluggingInAndUnplugging();
+  void ForgetsAMixerThatIsUnpluggedAgain();
   void NoticesThatARightIsGranted();
   void KeepsNoDescriptorOfAMixerThatItMayNotOpen();
   void SaysThatAFileCannotBeRead();
@@ -106,12 +107,30 @@ void EngineFaultsTest::NoticesPluggingInAndUnplugging() {
   EVENTUALLY(state().mixers.isEmpty());
   QCOMPARE(Row(kBoost, 0).delivery, Delivery::RememberedOnly);
   QCOMPARE(Row(kBoost, 0).reason, QStringLiteral("No mixer is attached."));
+  QCOMPARE(Row(kBoost, 0).accepted, 0);
   EVENTUALLY(!Problems().isEmpty());
   Mixer({"plug"});
   EVENTUALLY(state().mixers.size() == 2);
   QVERIFY(Row(kBoost, 0).reason.startsWith(
       QStringLiteral("A mixer was plugged in since.")));
+  QCOMPARE(Row(kBoost, 0).accepted, 0);
   EVENTUALLY(Problems().isEmpty());
+  Mixer({"unplug", "-m", "2"});
+  EVENTUALLY(state().mixers.size() == 1);
+  QVERIFY(Row(kBoost, 0).reason.startsWith(
+      QStringLiteral("A mixer was plugged in since.")));
+}
+
+void EngineFaultsTest::ForgetsAMixerThatIsUnpluggedAgain() {
+  Mixer({"unplug", "-m", "2"});
+  StartEngine();
+  engine().choose(kBoost, 0, 1);
+  EVENTUALLY(Row(kBoost, 0).delivery == Delivery::Sent);
+  Mixer({"plug", "-m", "2"});
+  EVENTUALLY(Row(kBoost, 0).delivery == Delivery::RememberedOnly);
+  Mixer({"unplug", "-m", "2"});
+  EVENTUALLY(Row(kBoost, 0).delivery == Delivery::Sent);
+  QCOMPARE(Row(kBoost, 0).reason, QString());
 }
 
 void EngineFaultsTest::NoticesThatARightIsGranted() {

@@ -2,7 +2,9 @@
 #include "window/engine/engine.h"
 
 #include <QSocketNotifier>
+#include <QStringList>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -64,6 +66,9 @@ class Engine::Private {
   void OnSelectors(const QList<MixerState> &mixers);
   void OnBus(std::shared_ptr<model::BusWatch> bus);
   void MarkUnsent(const QList<MixerState> &mixers);
+  static void MarkNoMixer(RowState *row);
+  static void MarkLate(RowState *row);
+  static QString LateText();
   void TimeSelectors();
   void ReadSelectors();
 
@@ -71,6 +76,7 @@ class Engine::Private {
   State &state_;
   std::vector<Wish> wishes_;  // of the rows
   std::uint64_t lastTicket_ = 0;
+  QStringList late_;  // places of mixers plugged in since the window knows them
   bool visible_ = true;
   Hearing hearing_;
   UsbWatch usb_;
@@ -271,27 +277,60 @@ void Engine::Private::OnRowOutcome(const RowOutcome &outcome,
 // system sends them to it.
 void Engine::Private::MarkUnsent(const QList<MixerState> &mixers) {
   if (!state_.mixersKnown) return;
-  const bool none = !AnyAnswers(mixers);
-  const bool isNew = std::any_of(
-      mixers.begin(), mixers.end(), [this](const MixerState &mixer) {
-        return Answers(mixer) &&
-               std::none_of(state_.mixers.begin(), state_.mixers.end(),
-                            [&mixer](const MixerState &before) {
-                              return before.place == mixer.place &&
-                                     before.answer != MixerAnswer::Gone;
-                            });
-      });
-  if (!none && (!isNew || state_.autoapply == Autoapply::On)) return;
-  for (RowState &row : state_.rows) {
-    if (none ? row.delivery != Delivery::Sent : !row.stored) continue;
-    if (row.delivery == Delivery::Sending) continue;
-    row.delivery = Delivery::RememberedOnly;
-    row.reason = none ? Engine::tr("No mixer is attached.")
-                      : Engine::tr(
-                            "A mixer was plugged in since. Send all again, so "
-                            "that it gets this choice.");
-    row.warning.clear();
+  const bool hadLate = !late_.isEmpty();
+  QStringList late;
+  bool isNew = false;
+  bool isBack = false;
+  for (const MixerState &mixer : mixers) {
+    if (late_.contains(mixer.place)) late.append(mixer.place);
+    if (!Answers(mixer)) continue;
+    const auto before = std::find_if(
+        state_.mixers.begin(), state_.mixers.end(),
+        [&](const MixerState &one) { return one.place == mixer.place; });
+    if (before == state_.mixers.end() || before->answer == MixerAnswer::Gone) {
+      isNew = true;
+      if (!late.contains(mixer.place)) late.append(mixer.place);
+    } else {
+      isBack = isBack || !Answers(*before);
+    }
   }
+  late_ = late;
+  for (RowState &row : state_.rows) {
+    if (mixers.isEmpty()) {
+      MarkNoMixer(&row);
+    } else if (isNew && state_.autoapply != Autoapply::On) {
+      MarkLate(&row);
+    } else if (hadLate && late_.isEmpty() && row.reason == LateText()) {
+      // The mixer that did not have it is away again.
+      row.delivery = row.accepted > 0 ? Delivery::Sent : Delivery::Idle;
+      row.reason.clear();
+    } else if (isBack && row.delivery == Delivery::RememberedOnly) {
+      // That it does not answer is not true any more.
+      row.reason.clear();
+    }
+  }
+}
+
+void Engine::Private::MarkNoMixer(RowState *row) {
+  if (row->delivery != Delivery::Sent &&
+      row->delivery != Delivery::RememberedOnly) {
+    return;
+  }
+  row->delivery = Delivery::RememberedOnly;
+  row->accepted = 0;
+  row->reason = Engine::tr("No mixer is attached.");
+}
+
+void Engine::Private::MarkLate(RowState *row) {
+  if (!row->stored || row->delivery == Delivery::Sending) return;
+  row->delivery = Delivery::RememberedOnly;
+  row->reason = LateText();
+}
+
+QString Engine::Private::LateText() {
+  return Engine::tr(
+      "A mixer was plugged in since. Send all again, so that it gets this "
+      "choice.");
 }
 
 void Engine::Private::OnMixers(const QList<MixerState> &mixers) {

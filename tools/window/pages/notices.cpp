@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "window/rows/warning_sign.h"
+#include "ztk/model/mixers/mixer_status.h"
 
 namespace ztk::window {
 
@@ -23,7 +24,9 @@ constexpr int kCopiedMilliseconds = 2000;
 QString FactsOf(const MixerState &mixer) {
   QStringList facts(Notices::tr("Mixer %1 answers").arg(mixer.number));
   if (mixer.firmware) {
-    facts.append(Notices::tr("firmware %1").arg(*mixer.firmware));
+    facts.append(Notices::tr("firmware %1")
+                     .arg(QString::fromStdString(model::FirmwareVersion(
+                         static_cast<std::uint16_t>(*mixer.firmware)))));
   }
   if (mixer.certifiedLevel) {
     facts.append(Notices::tr("certified level %1").arg(*mixer.certifiedLevel));

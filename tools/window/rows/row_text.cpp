@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QStringList>
-#include <algorithm>
 
 #include "ztk/model/routing.h"
 
@@ -103,22 +102,15 @@ QList<const MixerState *> SilencingMixers(const RowState &row,
 
 bool IsOnlyRemembered(const RowState &row, const State &state) {
   if (row.delivery == Delivery::RememberedOnly) return row.accepted == 0;
-  return state.mixersKnown &&
-         std::none_of(state.mixers.begin(), state.mixers.end(),
-                      [](const MixerState &mixer) {
-                        return mixer.answer == MixerAnswer::Answers;
-                      });
+  // What a mixer has that does not answer is not known.
+  return state.mixersKnown && state.mixers.isEmpty();
 }
 
 RowText TextOf(const RowState &row, const State &state) {
   if (!row.unreadable.isEmpty()) {
     return {.text = row.unreadable, .needsAttention = true};
   }
-  QStringList warnings = Turns(row, state);
-  // Where no selector belongs to the choice, the library warns in any case.
-  if (warnings.isEmpty() && !row.warning.isEmpty() && SelectorOf(row)) {
-    warnings.append(row.warning);
-  }
+  const QStringList warnings = Turns(row, state);
   const QStringList sentences =
       warnings + QStringList(DeliveryText(row, state).trimmed());
   return {.text = sentences.join(QLatin1Char(' ')),
