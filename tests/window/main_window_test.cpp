@@ -8,18 +8,23 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QHelpEvent>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "window/cut_texts.h"
 #include "window/pages/club_dialog.h"
+#include "window/pages/notices.h"
 #include "window/pages/routing_page.h"
 #include "window/pages/rows_page.h"
 #include "window/picture/picture.h"
@@ -37,8 +42,13 @@ class MainWindowTest : public QObject {
   void cleanup();
   void ShowsWhatEachChannelRecords();
   void TellsWhichSelectorToTurn();
+  void TipsTellWhatToDo();
   void NamesTheMixerWhereThereAreTwo();
   void BlamesNoSelectorThatWasNotRead();
+  void SumsUpManyMixers();
+  void NamesOneCauseOnce();
+  void TakesTheSpaceThatItNeeds_data();
+  void TakesTheSpaceThatItNeeds();
   void BlamesNoSelectorWhereThereIsNone();
   void TellsWhatBecameOfAChange_data();
   void TellsWhatBecameOfAChange();
@@ -119,12 +129,95 @@ void MainWindowTest::TellsWhichSelectorToTurn() {
   state_.mixers[0].selectors[1] = 1;
   window_->showState(state_);
   QCOMPARE(InputRow(1)->text(),
-           QStringLiteral("Turn the selector of CH2 from 1 to 4. Remembered."));
+           QStringLiteral("USB 2 is silent: turn the selector of CH2 from 1 to "
+                          "4. Remembered."));
   QCOMPARE(InputRow(3)->text(), QStringLiteral("Remembered."));
   const PictureState picture = PictureOf(state_);
   QCOMPARE(picture.selectors[1].position, QStringLiteral("1"));
-  QVERIFY(picture.selectors[1].silences);
-  QVERIFY(!picture.selectors[3].silences);
+  QCOMPARE(
+      picture.selectors[1].silence,
+      QStringLiteral("USB 2 is silent: turn the selector of CH2 from 1 to 4."));
+  QCOMPARE(picture.selectors[3].silence, QString());
+}
+
+void MainWindowTest::TipsTellWhatToDo() {
+  state_.mixers[0].selectors[1] = 1;
+  window_->showState(state_);
+  Picture *picture = window_->routingPage()->picture();
+  const auto tip = [picture](QPointF place) {
+    QHelpEvent event(QEvent::ToolTip, place.toPoint(),
+                     picture->mapToGlobal(place.toPoint()));
+    QApplication::sendEvent(picture, &event);
+    return QToolTip::text();
+  };
+  for (const Knob &knob : picture->parts().knobs) {
+    if (knob.kind != KnobKind::Selector || knob.lane != 1) continue;
+    QCOMPARE(tip(knob.box.center()),
+             QStringLiteral(
+                 "USB 2 is silent: turn the selector of CH2 from 1 to 4."));
+  }
+  QCOMPARE(tip(picture->parts()
+                   .Spot({.source = model::Source::Phono, .lane = 1})
+                   ->centre),
+           QStringLiteral(
+               "CH2 PHONO. USB 1 cannot record it. Possible with: USB 2."));
+}
+
+void MainWindowTest::SumsUpManyMixers() {
+  for (int number = 2; number <= 8; ++number) {
+    state_.mixers.append(AnsweringMixer(number));
+  }
+  window_->showState(state_);
+  QCOMPARE(TextOf("mixers"), QStringLiteral("8 mixers answer."));
+  state_.mixers[4].answer = MixerAnswer::Silent;
+  window_->showState(state_);
+  QCOMPARE(TextOf("mixers"),
+           QStringLiteral("7 mixers answer.\nMixer 5 does not answer."));
+}
+
+void MainWindowTest::NamesOneCauseOnce() {
+  state_.hearsOthers = false;
+  state_.whyNotHeard = "There is no bus.";
+  QCOMPARE(BannerOf(state_).size(), 1);
+  state_.findings = {
+      {.id = "no-bus", .what = "W", .cause = "C", .command = {}}};
+  QCOMPARE(BannerOf(state_), state_.findings);
+}
+
+void MainWindowTest::TakesTheSpaceThatItNeeds_data() {
+  QTest::addColumn<qreal>("scale");
+  QTest::addColumn<bool>("fits");
+  QTest::newRow("small letters") << 0.5 << true;
+  QTest::newRow("usual letters") << 1.0 << false;
+}
+
+// The screen of the tests is small.
+void MainWindowTest::TakesTheSpaceThatItNeeds() {
+  QFETCH(const qreal, scale);
+  QFETCH(const bool, fits);
+  const QFont usual = QApplication::font();
+  QFont font = usual;
+  font.setPointSizeF(usual.pointSizeF() * scale);
+  QApplication::setFont(font);
+  MainWindow window;
+  window.show();
+  state_.findings = {{.id = "silent",
+                      .what = "Mixer 1 does not answer.",
+                      .cause = "Its USB cable or its power cable may be loose.",
+                      .command = "echo 0 | sudo tee /sys/authorized"}};
+  window.showState(state_);
+  SettleLayouts();
+  const auto *area = window.findChild<QScrollArea *>();
+  const bool across = area->horizontalScrollBar()->isVisible();
+  const bool down = area->verticalScrollBar()->isVisible();
+  // The size that the user has chosen stays.
+  window.resize(300, 300);
+  window.showState(state_);
+  SettleLayouts();
+  QApplication::setFont(usual);
+  QVERIFY(!across);
+  if (fits) QVERIFY(!down);
+  QCOMPARE(window.size(), QSize(300, 300));
 }
 
 void MainWindowTest::NamesTheMixerWhereThereAreTwo() {
@@ -132,8 +225,8 @@ void MainWindowTest::NamesTheMixerWhereThereAreTwo() {
   state_.mixers[1].selectors[3] = 2;
   window_->showState(state_);
   QCOMPARE(InputRow(3)->text(),
-           QStringLiteral("Turn the selector of CH4 on mixer 2 from 2 to 4. "
-                          "Remembered."));
+           QStringLiteral("USB 4 is silent: turn the selector of CH4 on mixer "
+                          "2 from 2 to 4. Remembered."));
   QCOMPARE(PictureOf(state_).selectors[3].position, QStringLiteral("4/2"));
 }
 

@@ -114,8 +114,8 @@ void WholeWindowTest::TellsWhyAChannelIsSilent() {
   Ztk({"input", "set", "1", "1"});
   Mixer({"turn", "1", "2", "-m", "1"});
   Open();
-  EVENTUALLY(InputRow(0).text().startsWith(
-      QStringLiteral("Turn the selector of CH1 on mixer 1 from 2 to 4.")));
+  EVENTUALLY(InputRow(0).text().startsWith(QStringLiteral(
+      "USB 1 is silent: turn the selector of CH1 on mixer 1 from 2 to 4.")));
   Mixer({"turn", "1", "4"});
   EVENTUALLY(InputRow(0).text() == QStringLiteral("Remembered."));
 }

@@ -14,7 +14,9 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -50,8 +52,9 @@ MainWindow::MainWindow() {
   auto *whole = new QWidget(this);
   auto *layout = new QVBoxLayout(whole);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(notices_);
   layout->addWidget(tabs, 1);
+  // Below the pages, so that a notice that comes does not move them.
+  layout->addWidget(notices_);
   layout->addWidget(MakeLowerBar());
   // Nothing is cut on a small screen or with large letters.
   auto *scroll = new QScrollArea(this);
@@ -71,14 +74,25 @@ MainWindow::MainWindow() {
             scroll->ensureWidgetVisible(box->parentWidget());
             scroll->ensureWidgetVisible(box);
           });
-  TakeSpaceFor(*whole);
+  content_ = whole;
+  TakeSpace();
 }
 
-// All of it without scrolling, as far as the screen is large enough.
-void MainWindow::TakeSpaceFor(const QWidget &content) {
-  const QSize whole =
-      content.sizeHint() + QSize(0, menuBar()->sizeHint().height());
-  resize(whole.boundedTo(screen()->availableSize() * 0.95));
+// All of it without scrolling, as far as the screen is large enough. A window
+// that the user has resized keeps its size.
+void MainWindow::TakeSpace() {
+  if (taken_.isValid() && taken_ != size()) return;
+  // A scroll bar for the height must not make one for the width necessary.
+  const int width =
+      std::max(content_->sizeHint().width() +
+                   style()->pixelMetric(QStyle::PM_ScrollBarExtent),
+               taken_.width());
+  const int height =
+      std::max(content_->sizeHint().height(), content_->heightForWidth(width)) +
+      menuBar()->sizeHint().height();
+  taken_ = QSize(width, std::max(height, taken_.height()))
+               .boundedTo(screen()->availableSize() * 0.95);
+  resize(taken_);
 }
 
 void MainWindow::AddPages(QTabWidget *tabs) {
@@ -163,6 +177,8 @@ void MainWindow::showState(const State &state) {
   ShowResend(state);
   ShowAutoapply(state);
   if (state.clubs != clubs_) ShowClubs(state.clubs);
+  // After the layouts have taken in what is new.
+  QTimer::singleShot(0, this, &MainWindow::TakeSpace);
 }
 
 void MainWindow::ShowUndo(const State &state) {

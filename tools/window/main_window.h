@@ -62,7 +62,7 @@ class MainWindow : public QMainWindow {
                      const QKeySequence &shortcut);
   void AddPages(QTabWidget *tabs);
   QWidget *MakeLowerBar();
-  void TakeSpaceFor(const QWidget &content);
+  void TakeSpace();
   void ShowUndo(const State &state);
   void ShowAutoapply(const State &state);
   void ShowClubs(const QList<ClubState> &clubs);
@@ -71,6 +71,8 @@ class MainWindow : public QMainWindow {
   void Save(const QString &name);
   void TellVisibility();
 
+  QWidget *content_ = nullptr;
+  QSize taken_;
   QMenu *clubMenu_ = nullptr;
   QAction *undo_ = nullptr;
   QAction *resend_ = nullptr;

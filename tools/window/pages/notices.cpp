@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "window/rows/warning_sign.h"
 #include "ztk/model/mixers/mixer_status.h"
@@ -20,6 +21,13 @@ namespace {
 
 // How long the button tells that it has copied the command.
 constexpr int kCopiedMilliseconds = 2000;
+
+// More mixers that answer share one line.
+constexpr int kMixersWithALine = 2;
+
+bool Answers(const MixerState &mixer) {
+  return mixer.answer == MixerAnswer::Answers;
+}
 
 QString FactsOf(const MixerState &mixer) {
   QStringList facts(Notices::tr("Mixer %1 answers").arg(mixer.number));
@@ -138,14 +146,27 @@ QString MixerText(const State &state) {
         "No mixer is attached. What you choose is remembered, and can be sent "
         "when a mixer is plugged in.");
   }
+  const auto answering =
+      std::count_if(state.mixers.begin(), state.mixers.end(), Answers);
   QStringList lines;
-  for (const MixerState &mixer : state.mixers) lines.append(TextOf(mixer));
+  if (answering > kMixersWithALine) {
+    lines.append(
+        Notices::tr("%n mixers answer.", nullptr, static_cast<int>(answering)));
+  }
+  for (const MixerState &mixer : state.mixers) {
+    if (answering > kMixersWithALine && Answers(mixer)) continue;
+    lines.append(TextOf(mixer));
+  }
   return lines.join(QLatin1Char('\n'));
 }
 
 QList<FindingState> BannerOf(const State &state) {
   QList<FindingState> findings = state.findings;
-  if (!state.hearsOthers) {
+  const bool named = std::any_of(findings.begin(), findings.end(),
+                                 [](const FindingState &finding) {
+                                   return finding.id == QLatin1String("no-bus");
+                                 });
+  if (!state.hearsOthers && !named) {
     findings.append(
         {.id = QStringLiteral("deaf"),
          .what = Notices::tr("Changes of other programs are not shown here."),

@@ -11,7 +11,7 @@ class QVBoxLayout;
 
 namespace ztk::window {
 
-// Above the pages: which mixers there are, and what does not work, each with
+// Below the pages: which mixers there are, and what does not work, each with
 // its cause and the command that mends it.
 class Notices : public QWidget {
   Q_OBJECT
@@ -30,7 +30,7 @@ class Notices : public QWidget {
   QList<FindingState> shown_;
 };
 
-// One line for each mixer.
+// One line for each mixer; one for all that answer where there are many.
 QString MixerText(const State &state);
 
 // What the banner shows: the findings, and that changes of other programs are

@@ -26,10 +26,10 @@ PictureState::Selector SelectorOf(const State &state, std::size_t lane) {
   }
   PictureState::Selector selector;
   selector.position = positions.join(QLatin1Char('/'));
-  for (const RowState &row : state.rows) {
-    if (row.setting == &model::kInput && row.channel == lane) {
-      selector.silences = !SilencingMixers(row, state).isEmpty();
-    }
+  const RowState *row =
+      state.Row(model::kInput, static_cast<std::uint32_t>(lane));
+  if (row != nullptr) {
+    selector.silence = SilenceTexts(*row, state).join(QLatin1Char('\n'));
   }
   return selector;
 }
@@ -59,8 +59,8 @@ RoutingPage::RoutingPage(QWidget *parent)
   column->setSpacing(unit / 2);
   auto *layout = new QHBoxLayout;
   layout->setSpacing(0);
-  layout->addWidget(picture_, 1);
-  layout->addLayout(column);
+  layout->addWidget(picture_, 2);
+  layout->addLayout(column, 1);
   auto *whole = new QVBoxLayout(this);
   whole->setContentsMargins(unit, unit / 2, unit, unit / 2);
   whole->addWidget(hint_);

@@ -24,6 +24,19 @@ qreal Distance(QPointF one, QPointF other) {
   return QLineF(one, other).length();
 }
 
+// The USB channels that can record this tap, as a sentence after another one.
+QString Alternatives(const model::Tap &tap) {
+  QStringList channels;
+  for (std::uint32_t channel = 0; channel < kWires; ++channel) {
+    if (model::IndexOf(channel, tap)) {
+      channels.append(QStringLiteral("USB %1").arg(channel + 1));
+    }
+  }
+  if (channels.isEmpty()) return {};
+  return QLatin1Char(' ') + Picture::tr("Possible with: %1.")
+                                .arg(channels.join(QLatin1String(", ")));
+}
+
 }  // namespace
 
 QString TapName(const model::Tap &tap) {
@@ -122,7 +135,9 @@ void Picture::Choose(int channel, const model::Tap &tap) {
   const TapSpot *spot = layout_.Spot(tap);
   QToolTip::showText(
       mapToGlobal(spot->centre.toPoint()),
-      tr("USB %1 cannot record %2.").arg(channel + 1).arg(TapName(tap)), this);
+      tr("USB %1 cannot record %2.").arg(channel + 1).arg(TapName(tap)) +
+          Alternatives(tap),
+      this);
 }
 
 const TapSpot *Picture::SpotAt(QPointF point) const {
@@ -173,7 +188,8 @@ QString Picture::DescriptionOf(const TapSpot &spot) const {
                 .arg(name, recordedBy.join(QLatin1String(", ")));
   return CanBeChosen(spot)
              ? what
-             : tr("%1. USB %2 cannot record it.").arg(what).arg(active_ + 1);
+             : tr("%1. USB %2 cannot record it.").arg(what).arg(active_ + 1) +
+                   Alternatives(spot.tap);
 }
 
 void Picture::Describe() {
@@ -193,12 +209,23 @@ bool Picture::event(QEvent *event) {
 }
 
 void Picture::ShowToolTip(QHelpEvent *event) {
-  const TapSpot *spot = SpotAt(event->pos());
-  if (spot == nullptr) {
+  const QString text = ToolTipAt(event->pos());
+  if (text.isEmpty()) {
     QToolTip::hideText();
   } else {
-    QToolTip::showText(event->globalPos(), DescriptionOf(*spot), this);
+    QToolTip::showText(event->globalPos(), text, this);
   }
+}
+
+QString Picture::ToolTipAt(QPointF point) const {
+  const TapSpot *spot = SpotAt(point);
+  if (spot != nullptr) return DescriptionOf(*spot);
+  for (const Knob &knob : layout_.knobs) {
+    if (knob.kind == KnobKind::Selector && knob.box.contains(point)) {
+      return state_.selectors[knob.lane].silence;
+    }
+  }
+  return {};
 }
 
 void Picture::changeEvent(QEvent *event) {

@@ -78,6 +78,7 @@ class Picture : public QWidget {
   void Describe();
   QString DescriptionOf(const TapSpot &spot) const;
   void ShowToolTip(QHelpEvent *event);
+  QString ToolTipAt(QPointF point) const;
 
   PictureLayout layout_;
   QSize least_;

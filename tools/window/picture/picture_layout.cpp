@@ -22,8 +22,8 @@ constexpr qreal kFiveWires = 2.6;  // a gutter for the wires of all channels
 constexpr qreal kTextGap = 0.8;    // between a text and the tap it belongs to
 constexpr qreal kNumberRadius = 0.54;
 constexpr qreal kSelectorRadius = 0.95;
-constexpr qreal kHalfCrossFader = 5.2;
-constexpr qreal kTapOfCrossFader = 4.4;  // from its middle
+constexpr qreal kHalfCrossFader = 5.7;
+constexpr qreal kTapOfCrossFader = 4.9;  // from its middle
 constexpr qreal kCrossFaderHeight = 2.3;
 constexpr qreal kBelowCrossFader = 1.9;
 constexpr qreal kColumnPitch = 0.7;
@@ -170,7 +170,8 @@ class Builder {
             2 * kHalfCrossFader, kCrossFaderHeight);
     const qreal a = mix_ - kTapOfCrossFader * u_;
     const qreal b = mix_ + kTapOfCrossFader * u_;
-    AddTap(Source::CrossFaderA, 0, {a, top}, true, -1);
+    // The numbers on both stay on the box, and beside the line from above.
+    AddTap(Source::CrossFaderA, 0, {a, top}, true, 1);
     AddTap(Source::CrossFaderB, 0, {b, top}, true, -1);
     const qreal middle = top + 1.35 * u_;
     AddText(QStringLiteral("A"), a, middle, Qt::AlignHCenter);

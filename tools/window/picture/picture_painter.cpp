@@ -135,16 +135,17 @@ void PicturePainter::DrawKnob(const Knob &knob, const PictureState &state) {
 void PicturePainter::DrawSelector(const Knob &knob,
                                   const PictureState::Selector &selector) {
   const QRectF &box = knob.box;
-  if (selector.silences) {
+  const bool silences = !selector.silence.isEmpty();
+  if (silences) {
     painter_->setPen(QPen(text_, Thin() * 2.2));
     painter_->setBrush(kWarning);
   }
   painter_->drawEllipse(box);
-  painter_->setPen(selector.silences ? kOnWarning : text_);
+  painter_->setPen(silences ? kOnWarning : text_);
   painter_->drawText(
       box, Qt::AlignCenter | Qt::TextDontClip,
       selector.position.isEmpty() ? QStringLiteral("–") : selector.position);
-  if (!selector.silences) return;
+  if (!silences) return;
   const qreal size = layout_.unit * 0.95;
   DrawWarningSign(painter_, QRectF(box.right() - size * 0.35,
                                    box.top() - size * 0.35, size, size));

@@ -20,8 +20,9 @@ struct PictureState {
     bool operator==(const Channel &) const = default;
   };
   struct Selector {
-    QString position;       // empty if no mixer has reported it
-    bool silences = false;  // in this position its channel is silent
+    QString position;  // empty if no mixer has reported it
+    // Why a channel is silent in this position; empty if none is.
+    QString silence;
     bool operator==(const Selector &) const = default;
   };
   std::array<Channel, kWires> channels;

@@ -36,6 +36,8 @@ ChoiceRow::ChoiceRow(const model::Setting &setting, std::uint32_t channel,
   text_->setTextFormat(Qt::PlainText);
   text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::MinimumExpanding);
   text_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  // Rows keep their height as long as the text has at most two lines.
+  text_->setMinimumHeight(2 * text_->fontMetrics().lineSpacing());
   sign_->hide();
 
   auto *line = new QHBoxLayout;

@@ -19,27 +19,6 @@ std::optional<std::uint32_t> SelectorOf(const RowState &row) {
   return model::DecidingSelector(row.channel, row.shown);
 }
 
-// "Turn the selector of CH2 from 1 to 4", once for each mixer.
-QStringList Turns(const RowState &row, const State &state) {
-  QStringList turns;
-  for (const MixerState *mixer : SilencingMixers(row, state)) {
-    const std::uint32_t lane = *SelectorOf(row);
-    const int position = *mixer->selectors[lane];
-    turns.append(
-        state.mixers.size() == 1
-            ? Row::tr("Turn the selector of CH%1 from %2 to %3.")
-                  .arg(lane + 1)
-                  .arg(position)
-                  .arg(model::kAudiblePosition)
-            : Row::tr("Turn the selector of CH%1 on mixer %4 from %2 to %3.")
-                  .arg(lane + 1)
-                  .arg(position)
-                  .arg(model::kAudiblePosition)
-                  .arg(mixer->number));
-  }
-  return turns;
-}
-
 QString SentText(const RowState &row) {
   if (row.accepted == 1) return Row::tr("Sent to the mixer, and remembered.");
   return Row::tr("Sent to %n mixers, and remembered.", nullptr, row.accepted);
@@ -100,6 +79,30 @@ QList<const MixerState *> SilencingMixers(const RowState &row,
   return silencing;
 }
 
+QStringList SilenceTexts(const RowState &row, const State &state) {
+  QStringList turns;
+  for (const MixerState *mixer : SilencingMixers(row, state)) {
+    const std::uint32_t lane = *SelectorOf(row);
+    const int position = *mixer->selectors[lane];
+    turns.append(
+        state.mixers.size() == 1
+            ? Row::tr("USB %1 is silent: turn the selector of CH%2 from %3 to "
+                      "%4.")
+                  .arg(row.channel + 1)
+                  .arg(lane + 1)
+                  .arg(position)
+                  .arg(model::kAudiblePosition)
+            : Row::tr("USB %1 is silent: turn the selector of CH%2 on mixer "
+                      "%5 from %3 to %4.")
+                  .arg(row.channel + 1)
+                  .arg(lane + 1)
+                  .arg(position)
+                  .arg(model::kAudiblePosition)
+                  .arg(mixer->number));
+  }
+  return turns;
+}
+
 bool IsOnlyRemembered(const RowState &row, const State &state) {
   if (row.delivery == Delivery::RememberedOnly) return row.accepted == 0;
   // What a mixer has that does not answer is not known.
@@ -110,7 +113,7 @@ RowText TextOf(const RowState &row, const State &state) {
   if (!row.unreadable.isEmpty()) {
     return {.text = row.unreadable, .needsAttention = true};
   }
-  const QStringList warnings = Turns(row, state);
+  const QStringList warnings = SilenceTexts(row, state);
   const QStringList sentences =
       warnings + QStringList(DeliveryText(row, state).trimmed());
   return {.text = sentences.join(QLatin1Char(' ')),

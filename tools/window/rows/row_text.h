@@ -5,6 +5,7 @@
 #define ZTK_TOOLS_WINDOW_ROWS_ROW_TEXT_H_
 
 #include <QString>
+#include <QStringList>
 
 #include "window/engine/state.h"
 
@@ -24,6 +25,10 @@ RowText TextOf(const RowState &row, const State &state);
 
 // No mixer has what this row remembers.
 bool IsOnlyRemembered(const RowState &row, const State &state);
+
+// "USB 2 is silent: turn the selector of CH2 from 1 to 4.", once for each
+// mixer.
+QStringList SilenceTexts(const RowState &row, const State &state);
 
 // The mixers whose selector makes the choice of the row silent.
 QList<const MixerState *> SilencingMixers(const RowState &row,

@@ -394,6 +394,13 @@
             <source>Copied</source>
             <translation>Kopiert</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>%n Mischpult antwortet.</numerusform>
+                <numerusform>%n Mischpulte antworten.</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +448,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1. USB %2 kann das nicht aufnehmen.</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>Möglich mit: %1.</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +485,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>Drehen Sie den Wahlschalter von CH%1 von %2 auf %3.</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>Drehen Sie am Mischpult %4 den Wahlschalter von CH%1 von %2 auf %3.</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>An das Mischpult gesendet und gespeichert.</translation>
@@ -528,6 +531,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>MIDI-&amp;Kanal:</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>USB %1 ist stumm: Drehen Sie den Wahlschalter von CH%2 von %3 auf %4.</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>USB %1 ist stumm: Drehen Sie am Mischpult %5 den Wahlschalter von CH%2 von %3 auf %4.</translation>
         </message>
     </context>
 </TS>

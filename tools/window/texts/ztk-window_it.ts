@@ -394,6 +394,13 @@
             <source>Copied</source>
             <translation>Copiato</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>%n mixer risponde.</numerusform>
+                <numerusform>%n mixer rispondono.</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +448,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1. USB %2 non può registrarlo.</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>Possibile con: %1.</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +485,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>Girare il selettore di CH%1 da %2 a %3.</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>Girare il selettore di CH%1 del mixer %4 da %2 a %3.</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>Inviato al mixer e memorizzato.</translation>
@@ -528,6 +531,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>&amp;Canale MIDI:</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>USB %1 è muto: girare il selettore di CH%2 da %3 a %4.</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>USB %1 è muto: girare il selettore di CH%2 del mixer %5 da %3 a %4.</translation>
         </message>
     </context>
 </TS>

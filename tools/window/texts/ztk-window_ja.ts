@@ -394,6 +394,12 @@
             <source>Copied</source>
             <translation>コピーしました</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>%n 台のミキサーが応答しています。</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +447,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1。USB %2 では録音できません。</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>録音できるのは %1 です。</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +484,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>CH%1 のセレクターを %2 から %3 に回してください。</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>ミキサー %4 の CH%1 のセレクターを %2 から %3 に回してください。</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>ミキサーに送信し、保存しました。</translation>
@@ -527,6 +529,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>MIDI チャンネル(&amp;C):</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>USB %1 は無音です。CH%2 のセレクターを %3 から %4 に回してください。</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>USB %1 は無音です。ミキサー %5 の CH%2 のセレクターを %3 から %4 に回してください。</translation>
         </message>
     </context>
 </TS>

@@ -394,6 +394,12 @@
             <source>Copied</source>
             <translation>복사됨</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>믹서 %n대가 응답합니다.</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +447,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1. USB %2에서는 녹음할 수 없습니다.</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>가능한 채널: %1.</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +484,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>CH%1의 셀렉터를 %2에서 %3(으)로 돌리십시오.</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>믹서 %4에서 CH%1의 셀렉터를 %2에서 %3(으)로 돌리십시오.</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>믹서로 보내고 저장했습니다.</translation>
@@ -527,6 +529,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>MIDI 채널(&amp;C):</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>USB %1에 소리가 없습니다. CH%2의 셀렉터를 %3에서 %4(으)로 돌리십시오.</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>USB %1에 소리가 없습니다. 믹서 %5에서 CH%2의 셀렉터를 %3에서 %4(으)로 돌리십시오.</translation>
         </message>
     </context>
 </TS>

@@ -394,6 +394,13 @@
             <source>Copied</source>
             <translation>Gekopieerd</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>%n mengpaneel antwoordt.</numerusform>
+                <numerusform>%n mengpanelen antwoorden.</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +448,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1. USB %2 kan dit niet opnemen.</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>Mogelijk met: %1.</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +485,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>Draai de schakelaar van CH%1 van %2 naar %3.</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>Draai op mengpaneel %4 de schakelaar van CH%1 van %2 naar %3.</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>Naar het mengpaneel verzonden en opgeslagen.</translation>
@@ -528,6 +531,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>MIDI-&amp;kanaal:</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>USB %1 is stil: draai de schakelaar van CH%2 van %3 naar %4.</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>USB %1 is stil: draai op mengpaneel %5 de schakelaar van CH%2 van %3 naar %4.</translation>
         </message>
     </context>
 </TS>

@@ -394,6 +394,13 @@
             <source>Copied</source>
             <translation>Copiado</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>%n mesa responde.</numerusform>
+                <numerusform>%n mesas respondem.</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +448,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1. USB %2 não o pode gravar.</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>Possível com: %1.</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +485,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>Rode o seletor de CH%1 de %2 para %3.</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>Rode o seletor de CH%1 da mesa %4 de %2 para %3.</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>Enviado à mesa e guardado.</translation>
@@ -528,6 +531,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>&amp;Canal MIDI:</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>USB %1 está sem som: rode o seletor de CH%2 de %3 para %4.</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>USB %1 está sem som: rode o seletor de CH%2 da mesa %5 de %3 para %4.</translation>
         </message>
     </context>
 </TS>

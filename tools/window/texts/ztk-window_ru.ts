@@ -394,6 +394,14 @@
             <source>Copied</source>
             <translation>Скопировано</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>%n микшер отвечает.</numerusform>
+                <numerusform>%n микшера отвечают.</numerusform>
+                <numerusform>%n микшеров отвечают.</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +449,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1. USB %2 не может это записывать.</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>Возможно на: %1.</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +486,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>Поверните селектор CH%1 с %2 на %3.</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>На микшере %4 поверните селектор CH%1 с %2 на %3.</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>Отправлено на микшер и сохранено.</translation>
@@ -529,6 +533,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>MIDI-&amp;канал:</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>На USB %1 нет звука: поверните селектор CH%2 с %3 на %4.</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>На USB %1 нет звука: на микшере %5 поверните селектор CH%2 с %3 на %4.</translation>
         </message>
     </context>
 </TS>

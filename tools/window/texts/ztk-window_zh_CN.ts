@@ -394,6 +394,12 @@
             <source>Copied</source>
             <translation>已复制</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>%n 台混音台有响应。</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +447,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1。USB %2 无法录制。</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>可以录制的通道：%1。</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +484,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>将 CH%1 的选择器从 %2 转到 %3。</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>在混音台 %4 上将 CH%1 的选择器从 %2 转到 %3。</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>已发送到混音台并保存。</translation>
@@ -527,6 +529,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>MIDI 通道(&amp;C)：</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>USB %1 无声：将 CH%2 的选择器从 %3 转到 %4。</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>USB %1 无声：在混音台 %5 上将 CH%2 的选择器从 %3 转到 %4。</translation>
         </message>
     </context>
 </TS>

@@ -394,6 +394,12 @@
             <source>Copied</source>
             <translation>已複製</translation>
         </message>
+        <message numerus="yes">
+            <source>%n mixers answer.</source>
+            <translation>
+                <numerusform>%n 台混音器有回應。</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>Picture</name>
@@ -441,6 +447,10 @@
             <source>%1. USB %2 cannot record it.</source>
             <translation>%1。USB %2 無法錄製。</translation>
         </message>
+        <message>
+            <source>Possible with: %1.</source>
+            <translation>可以錄製的聲道：%1。</translation>
+        </message>
     </context>
     <context>
         <name>QPlatformTheme</name>
@@ -474,14 +484,6 @@
     </context>
     <context>
         <name>Row</name>
-        <message>
-            <source>Turn the selector of CH%1 from %2 to %3.</source>
-            <translation>將 CH%1 的選擇器從 %2 轉到 %3。</translation>
-        </message>
-        <message>
-            <source>Turn the selector of CH%1 on mixer %4 from %2 to %3.</source>
-            <translation>在混音器 %4 上將 CH%1 的選擇器從 %2 轉到 %3。</translation>
-        </message>
         <message>
             <source>Sent to the mixer, and remembered.</source>
             <translation>已傳送到混音器並儲存。</translation>
@@ -527,6 +529,14 @@
         <message>
             <source>MIDI &amp;channel:</source>
             <translation>MIDI 通道(&amp;C)：</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 from %3 to %4.</source>
+            <translation>USB %1 無聲：將 CH%2 的選擇器從 %3 轉到 %4。</translation>
+        </message>
+        <message>
+            <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
+            <translation>USB %1 無聲：在混音器 %5 上將 CH%2 的選擇器從 %3 轉到 %4。</translation>
         </message>
     </context>
 </TS>
