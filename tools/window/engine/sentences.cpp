@@ -82,13 +82,14 @@ constexpr Opening kOpenings[] = {
 constexpr char kNotOpened[] =
     QT_TRANSLATE_NOOP("Engine", "You have no permission to open mixer %1.");
 
-// The number in "mixer 2 is attached, but ..."; empty in other sentences.
+// The number in "mixer 2 is attached, but ..." and "mixer 2, port 1-2, does not
+// answer"; empty in other sentences.
 QString MixerNumber(const std::string &sentence) {
   constexpr char kStart[] = "mixer ";
   if (!sentence.starts_with(kStart)) return {};
   const QString rest =
       QString::fromStdString(sentence.substr(sizeof kStart - 1));
-  return rest.section(QLatin1Char(' '), 0, 0);
+  return rest.section(QLatin1Char(' '), 0, 0).remove(QLatin1Char(','));
 }
 
 QString WhatFails(const model::Finding &finding) {
