@@ -149,6 +149,7 @@ class PictureTest : public QObject {
   void WiresCrossNothingAndLieOnNothing();
   void TextsDoNotTouchEachOther_data();
   void TextsDoNotTouchEachOther();
+  void FiveNumbersFitOnTheCrossFader();
   void GrowsWithTheFont();
   void AClickChoosesForTheActiveChannel();
   void AClickOnATapOfAnotherLaneChoosesNothing();
@@ -285,6 +286,23 @@ void PictureTest::TextsDoNotTouchEachOther() {
       if (i == k) continue;
       QVERIFY2(!label.box.intersects(all[k].box),
                qPrintable(label.text + " touches " + all[k].name));
+    }
+  }
+}
+
+void PictureTest::FiveNumbersFitOnTheCrossFader() {
+  for (const Source source : {Source::CrossFaderA, Source::CrossFaderB}) {
+    Indexes indexes{};
+    for (std::uint32_t channel = 0; channel < kWires; ++channel) {
+      indexes[channel] = *model::IndexOf(channel, {.source = source});
+    }
+    picture_->showState(StateOf(indexes));
+    const PictureLayout &parts = picture_->parts();
+    const QRectF box = parts.knobs.last().box;
+    QVERIFY(parts.knobs.last().kind == KnobKind::CrossFader);
+    for (const Wire &wire : picture_->wires()) {
+      QVERIFY(wire.points.front().x() - parts.numberRadius > box.left());
+      QVERIFY(wire.points.front().x() + parts.numberRadius < box.right());
     }
   }
 }
