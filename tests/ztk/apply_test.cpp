@@ -191,5 +191,28 @@ TEST_F(Apply, SkipsAValueThatIsNoNumber) {
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0209 8002 0000"));
 }
 
+TEST_F(Apply, WarnsThatTheAttachedMixerIsOfAnotherModel) {
+  Remember("VRM-B5", {{"Input0", 2}, {"Input1", 2}});
+  EXPECT_EQ(OneMixer("ztk apply").err,
+            "ztk: warning: USB output audio belongs to the VRM-B5. What is "
+            "attached is a VRM-D6\n");
+  EXPECT_EQ(SplitLines(OneMixer("ztk output apply").err).size(), 1U);
+  EXPECT_THAT(NoMixer("ztk apply").err, Not(HasSubstr("attached is a")));
+}
+
+TEST_F(Apply, WarnsOnceOfSilentChannels) {
+  Remember("VRM-D6", {{"Output0", 0}, {"Output1", 0}, {"Output2", 5}});
+  const Result result = Inside({"-n", "1", "--selector", "1=2", "--selector",
+                                "2=3", "--selector", "3=2"},
+                               "ztk apply; ztk input apply 2");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.err,
+            "ztk: warning: silent, as the input selector is not in position "
+            "4: USB input 1, USB input 2; ztk status shows the positions\n"
+            "ztk: warning: silent, as the input selector is not in position "
+            "4: USB input 2; ztk status shows the positions\n");
+  EXPECT_EQ(OneMixer("ztk apply").err, "");
+}
+
 }  // namespace
 }  // namespace ztk::test

@@ -263,5 +263,23 @@ TEST_F(Import, RefusesANumberThatIsTooLarge) {
   EXPECT_THAT(Line(result.err, 0), HasSubstr("a number in it is too large"));
 }
 
+// A repeated import finds nothing to forget, unless the default is remembered.
+TEST_F(Import, NamesTheCommandsThatSendTheDefaultsOfWhatItForgets) {
+  Remember("VRM-D6", {{"Output3", 5}});
+  WriteAll(home_.path() / "c.json",
+           R"({"version":1,"settings":{"VRM-D6":{"input":{"2":"MIC"}}}})");
+  const Result result =
+      Inside({"-n", "1", "--fault", "stall@w8002"},
+             "cd $DIR; ztk import --only c.json; ztk-virtual-mixer fault none\n"
+             "> $DIR/seen; ztk input set 4 1; ztk import --only c.json");
+  EXPECT_EQ(Line(result.err, 0),
+            "ztk: what the file holds is saved or forgotten, but the mixer "
+            "refused it; switch it off and on again, then run: ztk "
+            "input set 4 1; ztk import --only c.json");
+  EXPECT_EQ(LastLine(result.out),
+            "USB input 4: forgotten, default 1 CH4 Control Tone PHONO, sent to "
+            "1 mixer");
+}
+
 }  // namespace
 }  // namespace ztk::test

@@ -132,8 +132,11 @@ TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
   EXPECT_THAT(
       NoMixer("ztk output set 1 2; ztk undo").err,
       HasSubstr(
-          "ztk: what was put back is saved, but not sent: no "
-          "mixer is attached; once one is, run: ztk apply --product VRM-B5\n"));
+          "ztk: nothing is remembered, and the default was not sent: no mixer "
+          "is attached; once one is, run: ztk output default 1\n"));
+  Remember("VRM-D6", {{"MaxLevel", 2}, {"Output0", 0}});
+  Remember("VRM-K2", {{"MidiChannel", 0}});
+  Remember("VRM-B5", {{"Input1", 0}});
   WriteAll(home_.path() / "both.json",
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB","input":)"
            R"({"1":"MIC"}},"VRM-K2":{"midi":"CH 3"}}})");
@@ -173,7 +176,7 @@ TEST_F(Undo, ListsWhatCanBeUndone) {
   EXPECT_EQ(result.out,
             "The last change is number 1; ztk undo N takes back changes 1 to "
             "N.\n"
-            "  1   reset        USB input 1: reset, before 6 MIC\n"
+            "  1   reset        USB input 1: forgotten, before 6 MIC\n"
             "  2   input set    USB input 1: 6 MIC, before nothing remembered\n"
             "  3   boost set    Boost level: 2 -10 dB, before 1 -5 dB\n");
   EXPECT_EQ(NoMixer("ztk undo 3 --dry-run | grep -c -e '->'").out, "1\n");
@@ -253,8 +256,10 @@ TEST_F(Reset, IsUndone) {
   Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 5}});
   const std::string before = ReadAll(home_.SettingsFile("VRM-D6"));
   EXPECT_EQ(OneMixer("ztk reset > /dev/null; ztk undo").out,
-            "Boost level: reset undone, 1 -5 dB, sent to 1 mixer, remembered\n"
-            "USB input 2: reset undone, 6 MIC, sent to 1 mixer, remembered\n");
+            "Boost level: no longer forgotten, 1 -5 dB, sent to 1 mixer, "
+            "remembered\n"
+            "USB input 2: no longer forgotten, 6 MIC, sent to 1 mixer, "
+            "remembered\n");
   EXPECT_EQ(OneMixer("ztk status | tail -n 2").out,
             "  USB input 2   6 MIC  (VRM-D6)\n"
             "  Boost level   1 -5 dB  (VRM-D6)\n");
@@ -435,6 +440,65 @@ TEST_F(Undo, MakesItsFilesAsTheUserToWhomTheHomeBelongs) {
             "1234:4321 ./.local/state/tarvix\n"
             "1234:4321 ./.local/state/tarvix/ztk-history.jsonl\n"
             "1234:4321 ./.local/state/tarvix/ztk.lock\n");
+}
+
+// After the undo of a first choice there is nothing that apply could send.
+TEST_F(Undo, NamesTheCommandThatSendsADefaultThatWasNotAccepted) {
+  const Result result =
+      Inside({"-n", "1", "--fault", "stall"},
+             "ztk input set 2 post 2> /dev/null; ztk undo; echo $?; ztk apply");
+  EXPECT_EQ(Line(result.out, 3), "3");
+  EXPECT_THAT(LastLine(result.out), StartsWith("Nothing is remembered"));
+  EXPECT_EQ(Line(result.err, 0),
+            "ztk: nothing is remembered, and the default was sent, but the "
+            "mixer refused it; switch it off and on again, then run: ztk input "
+            "set 2 1 (set also remembers the default)");
+  EXPECT_EQ(LastLine(NoMixer("ztk boost set 2; ztk undo").err),
+            "ztk: nothing is remembered, and the default was not sent: no "
+            "mixer is attached; once one is, run: ztk boost set 4 (set also "
+            "remembers the default)");
+  OneMixer("ztk input set 2 1");
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0203 8002 0000"));
+}
+
+TEST_F(Undo, TellsApartWhatIsSavedAndWhatIsForgotten) {
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  const Result result = NoMixer(
+      "ztk boost set 2 2> /dev/null; ztk output set 1 2 2> /dev/null\n"
+      "ztk undo 2");
+  EXPECT_EQ(LastLine(result.err),
+            "ztk: what was put back is saved or forgotten, but not sent: no "
+            "mixer is attached; once one is, run: ztk output default 1; ztk "
+            "apply");
+}
+
+TEST_F(Undo, SaysWhenTheValueBeforeIsTheSame) {
+  Remember("VRM-D6", {{"MaxLevel", 1}});
+  EXPECT_EQ(OneMixer("ztk boost set 3 > /dev/null; ztk boost set 2 > /dev/null"
+                     "\nztk undo 2")
+                .out,
+            "Boost level: 2 -10 dB, the same as before the changes, sent to 1 "
+            "mixer, remembered\n");
+}
+
+TEST_F(Undo, SaysThatTheListLosesWhatIsLeftAlone) {
+  OneMixer("ztk boost set 2");
+  Remember("VRM-D6", {{"MaxLevel", 0}});
+  const Result result =
+      OneMixer("ztk undo --dry-run; ztk undo; echo $?; ztk undo --list");
+  EXPECT_THAT(Line(result.err, 0), Not(HasSubstr("--list")));
+  EXPECT_THAT(Line(result.err, 1),
+              testing::EndsWith("; ztk undo --list does not show it any more"));
+  EXPECT_THAT(LastLine(result.out), StartsWith("Nothing to undo"));
+}
+
+TEST_F(Undo, ListsNumbersAndTextsInJson) {
+  const Json json = OneObject(
+      OneMixer("ztk boost set 2 > /dev/null; ztk undo --list --json").out);
+  EXPECT_EQ(json["steps"][0]["changes"][0],
+            Json::parse(R"({"setting":"boost","model":"VRM-D6","channel":null,
+                "before":null,"beforeNumber":null,"beforeText":null,
+                "after":1,"afterNumber":2,"afterText":"-10 dB"})"));
 }
 
 }  // namespace

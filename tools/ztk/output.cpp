@@ -73,8 +73,11 @@ int Print(const std::string &command, const Report &report, const Form &form) {
   for (const std::string &line : report.errors) WriteError(line);
   if (report.problem) WriteError(report.problem->message);
   if (!written) {
-    WriteError(std::string("cannot write the output: ") + std::strerror(error) +
-               "; the output is lost");
+    // A reader that has ended, such as head, does not want the rest.
+    if (error != EPIPE) {
+      WriteError(std::string("cannot write the output: ") +
+                 std::strerror(error) + "; the output is lost");
+    }
     return static_cast<int>(ExitCode::Failed);
   }
   return static_cast<int>(report.problem ? report.problem->exit

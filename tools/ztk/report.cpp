@@ -29,7 +29,8 @@ constexpr ExitMeaning kExitMeanings[] = {
              "alone what another program has changed since"},
     {.exit = ExitCode::Failed,
      .word = "failed",
-     .text = "another error, which the message describes"},
+     .text = "another error, which the message describes; there is no message\n"
+             "when the reader of the output has ended"},
     {.exit = ExitCode::SomeMixers,
      .word = "some-mixers",
      .text = "some mixers answered, others did not; a choice is remembered"},

@@ -122,13 +122,26 @@ Report NothingToImport() {
   return report;
 }
 
+// A second import finds nothing more to forget. It sends the defaults again
+// after they have been set.
+std::string SendingAgain(const MadeChanges &made, const std::string &command) {
+  std::string commands;
+  for (const MadeChange &one : made.changes) {
+    if (!one.change.forgets) continue;
+    if (made.reach.found() > 0 && one.accepted == made.reach.found()) continue;
+    commands += DefaultCommand(one.change) + "; ";
+  }
+  return commands + command;
+}
+
 Report MakeImported(const std::vector<Change> &changes,
                     const std::string &command, bool quiet) {
   Report report;
   report.fields["settings"] = Json::array();
   const MadeChanges made = RunStep("import", changes, quiet, &report);
   for (const MadeChange &one : made.changes) AddImported(one, made, &report);
-  ReportOutcome(made, "what the file holds", command, &report);
+  ReportOutcome(made, "what the file holds", SendingAgain(made, command),
+                &report);
   ExplainWarnings(made, &report);
   return report;
 }

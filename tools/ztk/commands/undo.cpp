@@ -19,7 +19,7 @@ namespace {
 // A value of the history; no value means that nothing was remembered.
 std::string ValueWords(const Setting &setting, std::uint32_t channel,
                        const std::optional<std::uint32_t> &value) {
-  return value ? DescribedValue(setting, channel, *value) : "reset";
+  return value ? DescribedValue(setting, channel, *value) : "forgotten";
 }
 
 // Values that another program has set since stay.
@@ -39,15 +39,25 @@ std::vector<std::string> ForeignOnes(const std::vector<UndoItem> &undoings) {
   return foreign;
 }
 
-void AddLeftAlone(const std::vector<std::string> &foreign, Report *report) {
+// `dropped`: the history does not contain the step any more.
+void AddLeftAlone(const std::vector<std::string> &foreign, bool dropped,
+                  Report *report) {
   report->fields["leftAlone"] = foreign;
   if (foreign.empty()) return;
   if (report->problem) report->warnings.push_back(report->problem->message);
-  report->problem = {.exit = ExitCode::Rejected,
-                     .message =
-                         "left alone, as another program has changed it "
-                         "since: " +
-                         cli::Listed(foreign)};
+  report->problem = {
+      .exit = ExitCode::Rejected,
+      .message =
+          "left alone, as another program has changed it "
+          "since: " +
+          cli::Listed(foreign) +
+          (dropped ? "; ztk undo --list does not show it any more" : "")};
+}
+
+// "6 MIC undone, "
+std::string UndoneWords(const PastChange &past) {
+  if (!past.after) return "no longer forgotten, ";
+  return DescribedValue(*past.setting, past.channel, *past.after) + " undone, ";
 }
 
 const PastChange &PastOf(const Change &change,
@@ -74,10 +84,12 @@ void AddUndone(const MadeChange &one, const PastChange &past,
   if (one.forgotten) fields["forgotten"] = true;
   fields["announced"] = one.announced;
   report->fields["settings"].push_back(std::move(fields));
+  const bool same = past.before.has_value() && past.before == past.after;
   report->text += PlaceName(setting, past.channel) + ": " +
-                  ValueWords(setting, past.channel, past.after) + " undone, " +
+                  (same ? "" : UndoneWords(past)) +
                   (past.before ? "" : "default ") +
-                  DescribedValue(setting, past.channel, one.change.index);
+                  DescribedValue(setting, past.channel, one.change.index) +
+                  (same ? ", the same as before the changes" : "");
   if (one.result == ZTK_REJECTED) {
     report->text += " refused\n";
     return;
@@ -130,7 +142,9 @@ void ReportPlan(const std::vector<Change> &changes, Report *report) {
   AddRefused(refused, report);
 }
 
+// The command that sends a restored value again.
 std::string SendingAgain(const Change &change) {
+  if (change.forgets) return DefaultCommand(change);
   const Setting &setting = *change.setting;
   if (!IsSentAgain(setting, change.index)) {
     return SetCommand(setting, change.channel, change.index);
@@ -140,12 +154,20 @@ std::string SendingAgain(const Change &change) {
              : "ztk apply --product " + ProductName(setting.product);
 }
 
-// The commands that send the restored values again, one for each model.
+bool NeedsSending(const MadeChange &one, const MadeChanges &made) {
+  return !one.change.forgets || one.accepted < made.reach.found() ||
+         made.reach.found() == 0;
+}
+
+// The commands that send the restored values again: one for each model, and one
+// for each default, which apply does not know.
 std::string SendingAgain(const MadeChanges &made) {
   std::vector<std::string> commands;
+  bool remembersDefault = false;
   for (const Setting *setting : AllSettings()) {
     for (const MadeChange &one : made.changes) {
-      if (one.change.setting != setting) continue;
+      if (one.change.setting != setting || !NeedsSending(one, made)) continue;
+      if (one.change.forgets && setting != &kOutput) remembersDefault = true;
       const std::string command = SendingAgain(one.change);
       if (std::find(commands.begin(), commands.end(), command) ==
           commands.end()) {
@@ -157,7 +179,7 @@ std::string SendingAgain(const MadeChanges &made) {
   for (const std::string &command : commands) {
     joined += (joined.empty() ? "" : "; ") + command;
   }
-  return joined;
+  return joined + (remembersDefault ? " (set also remembers the default)" : "");
 }
 
 // True when undo has finished with the step, with or without success.
@@ -191,7 +213,7 @@ void UndoLast(std::size_t count, bool dryRun, History *history,
   const std::vector<Change> changes = ChangesOf(undoings);
   if (dryRun) {
     ReportPlan(changes, report);
-    return AddLeftAlone(foreign, report);
+    return AddLeftAlone(foreign, false, report);
   }
   report->fields["undone"] = steps.back().command;
   report->fields["undoneSteps"] = Json::array();
@@ -200,12 +222,13 @@ void UndoLast(std::size_t count, bool dryRun, History *history,
         steps[steps.size() - 1 - i].command);
   }
   report->fields["settings"] = Json::array();
-  if (changes.empty() || UndoStep(undoings, report)) history->DropLast(count);
+  const bool done = changes.empty() || UndoStep(undoings, report);
+  if (done) history->DropLast(count);
   if (!history->Save()) {
     report->warnings.push_back("the history cannot be written to " +
                                StateFolder());
   }
-  AddLeftAlone(foreign, report);
+  AddLeftAlone(foreign, done, report);
   report->fields["stepsLeft"] = history->steps().size();
 }
 
@@ -230,20 +253,28 @@ std::string ListedStep(std::size_t number, const Step &step) {
   return text;
 }
 
+// Adds a value as the library counts it, and with the number and the text of
+// its choice.
+void AddValue(const std::string &name, const PastChange &change,
+              const std::optional<std::uint32_t> &value, Json *fields) {
+  const auto choice =
+      value ? ChoiceAt(*change.setting, change.channel, *value) : std::nullopt;
+  (*fields)[name] = value ? Json(static_cast<std::int32_t>(*value)) : Json();
+  (*fields)[name + "Number"] = choice ? Json(choice->number) : Json();
+  (*fields)[name + "Text"] = choice ? Json(choice->text) : Json();
+}
+
 Json FieldsOf(std::size_t number, const Step &step) {
-  const auto valueOf = [](const std::optional<std::uint32_t> &value) {
-    return value ? Json(static_cast<std::int32_t>(*value)) : Json();
-  };
   Json fields{{"number", number},
               {"command", step.command},
               {"changes", Json::array()}};
   for (const PastChange &change : step.changes) {
-    fields["changes"].push_back(
-        {{"setting", change.setting->name},
-         {"model", ModelName(*change.setting)},
-         {"channel", ChannelField(*change.setting, change.channel)},
-         {"before", valueOf(change.before)},
-         {"after", valueOf(change.after)}});
+    Json one{{"setting", change.setting->name},
+             {"model", ModelName(*change.setting)},
+             {"channel", ChannelField(*change.setting, change.channel)}};
+    AddValue("before", change, change.before, &one);
+    AddValue("after", change, change.after, &one);
+    fields["changes"].push_back(std::move(one));
   }
   return fields;
 }

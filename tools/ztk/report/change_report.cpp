@@ -135,7 +135,29 @@ void ReportReplacedFile(const MadeChanges &made, Report *report) {
   report->warnings.push_back(warning);
 }
 
+// The words before the reason why nothing has arrived.
+std::string SavedWords(const MadeChanges &made, const std::string &what) {
+  const auto forgotten = static_cast<std::size_t>(
+      std::count_if(made.changes.begin(), made.changes.end(),
+                    [](const MadeChange &one) { return one.forgotten; }));
+  if (forgotten == 0) return what + " is saved, but ";
+  if (forgotten < made.changes.size()) {
+    return what + " is saved or forgotten, but ";
+  }
+  const bool sent = !ObstructionOf(made.reach).why.starts_with("not sent: ");
+  return std::string("nothing is remembered, and the default") +
+         (forgotten == 1 ? " was " : "s were ") + (sent ? "sent, but " : "");
+}
+
 }  // namespace
+
+std::string DefaultCommand(const Change &change) {
+  const Setting &setting = *change.setting;
+  if (&setting != &kOutput) {
+    return SetCommand(setting, change.channel, change.index);
+  }
+  return "ztk output default " + std::to_string(change.channel + 1);
+}
 
 Progress WaitForRequests(std::size_t requests) {
   const std::size_t mixers = MixerPlaces().size();
@@ -223,7 +245,7 @@ void ReportOutcome(const MadeChanges &made, const std::string &what,
                                 });
   if (kept) {
     ReportReach(made.reach,
-                {.before = what + " is saved, but ", .again = "run: " + again},
+                {.before = SavedWords(made, what), .again = "run: " + again},
                 report);
   } else {
     ReportForgotten(made, what, report);

@@ -62,6 +62,10 @@ void ReportReach(const Reach &reach, const DeliveryTexts &texts,
 void ReportOutcome(const MadeChanges &made, const std::string &what,
                    const std::string &again, Report *report);
 
+// The command that sends the default of a setting that is forgotten. Only that
+// of USB output audio remembers nothing.
+std::string DefaultCommand(const Change &change);
+
 // A line for a choice that the library will not send again, empty for others.
 std::string NoteOnSendingAgain(const Change &change);
 

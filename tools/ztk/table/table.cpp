@@ -50,7 +50,9 @@ cli::Command MakeReset() {
   cli::Command command = MakeOther(
       "reset", "Forget what is remembered",
       "The settings file does not hold it any longer. Nothing is sent: the\n"
-      "mixer keeps its settings until it is switched off.",
+      "mixer keeps its settings until it is switched off. Nothing is "
+      "announced\n"
+      "either, so ztk watch does not show it.",
       "ztk reset input 2", Reset);
   command.options = {
       cli::Offering({.names = Parameter::kSetting,

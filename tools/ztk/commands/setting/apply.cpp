@@ -6,6 +6,7 @@
 #include "cli/strings.h"
 #include "ztk/commands/setting/setting_commands.h"
 #include "ztk/commands/setting/setting_parts.h"
+#include "ztk/model/mixers/silence.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/resend.h"
@@ -84,6 +85,46 @@ Report PlanOfApply(std::vector<StoredValue> settings) {
   return report;
 }
 
+void WarnOfOtherModels(const std::vector<StoredValue> &settings,
+                       const Reach &reach, Report *report) {
+  for (const Setting *setting : AllSettings()) {
+    const bool sent = std::any_of(
+        settings.begin(), settings.end(), [setting](const StoredValue &value) {
+          return value.setting == setting && value.accepted > 0;
+        });
+    if (sent) WarnOfOtherModel(*setting, reach, report);
+  }
+}
+
+// Asks the mixers only when a value that was sent needs an input selector.
+void WarnOfSilence(const std::vector<StoredValue> &settings, Report *report) {
+  std::vector<std::uint32_t> channels;
+  for (const StoredValue &value : settings) {
+    if (value.setting == &kInput && value.accepted > 0 &&
+        NeedsSelector(value.channel, value.index)) {
+      channels.push_back(value.channel);
+    }
+  }
+  if (channels.empty()) return;
+  const Progress progress(kWaitingForMixer, kLongestQuestion);
+  const std::vector<SilentRouting> silent =
+      FindSilentRoutings(AskForSelectors());
+  std::vector<std::string> names;
+  for (const std::uint32_t channel : channels) {
+    if (std::any_of(silent.begin(), silent.end(),
+                    [channel](const SilentRouting &routing) {
+                      return routing.channel == channel;
+                    })) {
+      names.push_back(PlaceName(kInput, channel));
+    }
+  }
+  if (names.empty()) return;
+  report->warnings.push_back(
+      "silent, as the input selector is not in position " +
+      std::to_string(ZTK_SELECTOR_AUDIBLE) + ": " + cli::Listed(names) +
+      "; ztk status shows the positions");
+}
+
 // Remembered settings of other models, which a user with several models may
 // expect to be sent too.
 void AddLeftOut(const std::vector<std::string> &models, Report *report) {
@@ -125,6 +166,8 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
         &report);
   }
   AddRefused(settings, &report);
+  WarnOfOtherModels(settings, reach, &report);
+  WarnOfSilence(settings, &report);
   return report;
 }
 
