@@ -59,16 +59,19 @@ class KernelPrograms : public testing::Test {
 };
 
 TEST_F(KernelPrograms, StatusReadsAMixerOfTheKernel) {
-  EXPECT_EQ(Attached("--reply 8007=00000009 --selector 1=3", "$Z status"),
-            "Mixer 1 is reachable\n"
-            "  firmware      4.36\n"
-            "  certified     level 9\n"
-            "  selectors     CH1 3   CH2 4   CH3 4   CH4 4\n"
-            "  Serato        not active\n"
-            "Nothing is remembered\n"
-            "USB input 1 is silent: the input selector for CH1 is in position "
-            "3, and 1 CH1 Control Tone PHONO needs position 4\n"
-            "status 0");
+  EXPECT_EQ(
+      Attached("--reply 8007=00000009 --selector 1=3", "$Z status"),
+      "Mixer 1 is reachable\n"
+      "  firmware      4.36\n"
+      "  certified     level 9\n"
+      "  selectors     CH1 3   CH2 4   CH3 4   CH4 4\n"
+      "  Serato        not active\n"
+      "Nothing is remembered\n"
+      "USB input 1 is silent: the input selector for CH1 is in position "
+      "3; 1 CH1 Control Tone PHONO is heard only in position 4: turn it to "
+      "4\n"
+      "Next: turn the input selector for CH1 to position 4\n"
+      "status 0");
 }
 
 TEST_F(KernelPrograms, ASettingReachesBothMixersAndTheLogHasTheSandboxsForm) {
