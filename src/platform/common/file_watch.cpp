@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/common/file_watch.h"
 
+#include <cerrno>
+
 #include "platform/common/file_access.h"
 #include "platform/common/pause.h"
 
 namespace ztk::platform {
 namespace {
 
+using property_list::ReadResult;
+using property_list::ReadState;
 using std::chrono::milliseconds;
 
 constexpr milliseconds kPause{10};
@@ -14,19 +18,38 @@ constexpr milliseconds kPause{10};
 constexpr milliseconds kQuiet{250};
 constexpr milliseconds kPatience{500};
 
+ReadResult ResultOf(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+      return {.state = ReadState::Absent};
+    case EFBIG:
+      return {.state = ReadState::Damaged};
+    default:
+      return {.state = ReadState::Unavailable, .error = error};
+  }
+}
+
 }  // namespace
+
+std::optional<ReadResult> FileWatch::Judge(int error, const std::string &bytes,
+                                           const struct stat &status) {
+  if (error != 0 && error != EBUSY) return ResultOf(error);
+  const bool unchanged = error == 0 && lastBytes_ == bytes;
+  if (unchanged && IsSettled(status)) {
+    return ReadResult{.state = ReadState::Damaged};
+  }
+  if (watched_ >= kPatience) return ResultOf(EBUSY);
+  lastBytes_ = error == 0 ? std::optional(bytes) : std::nullopt;
+  Pause(kPause);
+  watched_ += kPause;
+  unchanged_ = unchanged ? unchanged_ + kPause : milliseconds(0);
+  return std::nullopt;
+}
 
 bool FileWatch::IsSettled(const struct stat &status) const {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
   return unchanged_ >= kQuiet || now - ModificationTime(status) >= kQuiet;
-}
-
-bool FileWatch::IsOver() const { return watched_ >= kPatience; }
-
-void FileWatch::Wait(bool unchanged) {
-  Pause(kPause);
-  watched_ += kPause;
-  unchanged_ = unchanged ? unchanged_ + kPause : milliseconds(0);
 }
 
 }  // namespace ztk::platform

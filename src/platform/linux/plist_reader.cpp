@@ -125,40 +125,24 @@ FileContent ContentOf(std::string_view bytes) {
   return {.result = {.state = ReadState::Unavailable, .error = ENOMEM}};
 }
 
-ReadResult ResultOf(int error) {
-  switch (error) {
-    case ENOENT:
-    case ENOTDIR:
-      return {.state = ReadState::Absent};
-    case EFBIG:
-      return {.state = ReadState::Damaged};
-    default:
-      return {.state = ReadState::Unavailable, .error = error};
-  }
-}
-
 }  // namespace
 
 FileContent ReadContent(const char *path) {
   FileWatch watch;
   std::string bytes;
-  std::optional<std::string> damaged;
   for (;;) {
     struct stat status = {};
     const int error = ReadRegularFile(path, kMaxFileSize, &bytes, 0, &status);
-    if (error != 0 && error != EBUSY) return {.result = ResultOf(error)};
-    const bool same = error == 0 && damaged == bytes;
-    if (error == 0 && !same) {
+    if (error == 0) {
       FileContent content = ContentOf(bytes);
       content.status = status;
       if (content.result.state != ReadState::Damaged) return content;
     }
-    if (same && watch.IsSettled(status)) {
-      return {.result = {.state = ReadState::Damaged}, .status = status};
+    if (const std::optional<ReadResult> verdict =
+            watch.Judge(error, bytes, status)) {
+      return {.result = *verdict,
+              .status = error == 0 ? std::optional(status) : std::nullopt};
     }
-    if (watch.IsOver()) return {.result = ResultOf(EBUSY)};
-    damaged = error == 0 ? std::optional(bytes) : std::nullopt;
-    watch.Wait(same);
   }
 }
 

@@ -5,13 +5,12 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <chrono>
 #include <optional>
 #include <string>
 
 #include "platform/common/file_access.h"
 #include "platform/common/file_change.h"
-#include "platform/common/pause.h"
+#include "platform/common/file_watch.h"
 #include "platform/macos/dictionary.h"
 #include "platform/macos/foundation.h"
 
@@ -41,29 +40,6 @@ std::string PathOf(ZTKTextRef path) {
   return bytes == nullptr ? "" : bytes;
 }
 
-// Why Foundation could not read the file as a dictionary. Foundation gives no
-// reason, so the file is read again: it is damaged when two readings gave the
-// same bytes. A file that is too large for settings is not read.
-ReadResult ReasonFor(ZTKTextRef path) {
-  constexpr std::size_t kLargest = std::size_t{1} << 20;
-  constexpr std::chrono::milliseconds kPause{8};
-  std::string first;
-  std::string second;
-  const std::string file = PathOf(path);
-  int error = ReadRegularFile(file.c_str(), kLargest, &first);
-  if (error == 0) {
-    Pause(kPause);
-    error = ReadRegularFile(file.c_str(), kLargest, &second);
-  }
-  if (error == ENOENT || error == ENOTDIR) {
-    return {.state = ReadState::Absent};
-  }
-  if (error == EFBIG || (error == 0 && first == second)) {
-    return {.state = ReadState::Damaged};
-  }
-  return {.state = ReadState::Unavailable, .error = error == 0 ? EBUSY : error};
-}
-
 // Gives a file a second name, the first that is free, so that its content is
 // kept when the file is replaced.
 bool KeepAside(const std::string &file) {
@@ -76,18 +52,25 @@ bool KeepAside(const std::string &file) {
   return false;
 }
 
-// Reads the file into *entries, which belongs to the autorelease pool. Another
-// program may be overwriting a file that does not parse, so it is read again.
+// Reads the file into *entries, which belongs to the autorelease pool.
+// Foundation does not tell why it cannot read a file, so the file is also read
+// without it.
 ReadResult ReadEntries(ZTKTextRef path, NSDictionary **entries) {
-  constexpr int kAttempts = 3;
-  ReadResult result;
-  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+  constexpr std::size_t kLargest = std::size_t{1} << 20;
+  const std::string file = PathOf(path);
+  FileWatch watch;
+  std::string bytes;
+  for (;;) {
     *entries = [NSDictionary dictionaryWithContentsOfFile:StringOf(path)];
     if (*entries != nil) return {.state = ReadState::Read};
-    result = ReasonFor(path);
-    if (result.error != EBUSY && result.state != ReadState::Damaged) break;
+    struct stat status = {};
+    const int error =
+        ReadRegularFile(file.c_str(), kLargest, &bytes, 0, &status);
+    if (const std::optional<ReadResult> verdict =
+            watch.Judge(error, bytes, status)) {
+      return *verdict;
+    }
   }
-  return result;
 }
 
 // Nothing when there is no such file.
