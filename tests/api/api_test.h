@@ -79,9 +79,9 @@ class ApiTest : public CoreTest {
   // For tests of many rows: as the fixture starts, and what the row before did
   // wrong is reported first.
   static void StartAfresh(Bus bus = {}) {
-    EXPECT_THAT(TheWorld().misuse, IsEmpty());
-    TheWorld() = World{};
-    TheWorld().bus = std::move(bus);
+    EXPECT_THAT(CurrentWorld().misuse, IsEmpty());
+    CurrentWorld() = World{};
+    CurrentWorld().bus = std::move(bus);
     inputAudioInfo = outputAudioInfo = nullptr;
     boostLevelInfo = midiChannelInfo = nullptr;
   }
@@ -112,10 +112,10 @@ class ApiTest : public CoreTest {
     const auto visit2 = [](const std::string &r) { return Visit(2, r); };
 
     expect("no device", {}, nothing);
-    expect("strangers only", {Stranger(), Stranger()}, nothing);
+    expect("other devices only", {OtherDevice(), OtherDevice()}, nothing);
     expect("one mixer", {Mixer()}, visit1);
-    expect("one mixer among strangers", {Stranger(), Mixer(), Stranger()},
-           visit1);
+    expect("one mixer among other devices",
+           {OtherDevice(), Mixer(), OtherDevice()}, visit1);
     expect("two mixers", {Mixer(), Mixer()}, [](const std::string &r) {
       return Join({Visit(1, r), Visit(2, r)});
     });
@@ -129,10 +129,10 @@ class ApiTest : public CoreTest {
            [](const std::string &r) {
              return Join({Visit(1, r), {"cannot open 2"}});
            });
-    // The search meets the stranger last and answers its failure, so nothing
-    // is sent to the mixer and it is not closed.
-    expect("a stranger without plug-in behind the mixer",
-           {Mixer(), WithoutPlugIn(Stranger())},
+    // The search meets the other device last and answers its failure, so
+    // nothing is sent to the mixer and it is not closed.
+    expect("another device without plug-in behind the mixer",
+           {Mixer(), WithoutPlugIn(OtherDevice())},
            [](const std::string &) { return Steps{"open 1"}; });
     // Two are counted; the search sees the second one only, as its first.
     expect("the first of two has no plug-in", {WithoutPlugIn(Mixer()), Mixer()},

@@ -13,7 +13,7 @@ TEST_F(GetNumOfBoostLevelIndex, IsFour) {
 }
 
 TEST_F(GetNumOfBoostLevelIndex, ServesMoreProductsThanCanBeSet) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (const std::uint32_t product : {0u, 1u, 5u, 6u, 8u}) {
     SCOPED_TRACE(product);
     std::uint32_t number = kUntouched;
@@ -53,7 +53,7 @@ TEST_F(GetBoostLevelText, RejectsIndexFourAndLeavesTheOutput) {
 class SetBoostLevelIndex : public ApiTest {};
 
 TEST_F(SetBoostLevelIndex, SendsStoresAndPostsByDefaultDelivery) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 0), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -84,7 +84,7 @@ TEST_F(SetBoostLevelIndex, SendsTheDeviceCodeInTheHighByte) {
 }
 
 TEST_F(SetBoostLevelIndex, RejectsIndexFour) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (const std::uint32_t index : {4u, 5u, 0x80000000u, 0xFFFFFFFFu}) {
     EXPECT_EQ(ZTK_SetBoostLevelIndex(10, index), 102u) << index;
   }
@@ -92,8 +92,8 @@ TEST_F(SetBoostLevelIndex, RejectsIndexFour) {
 }
 
 TEST_F(SetBoostLevelIndex, PostsAlthoughRequestsAndTheFileFail) {
-  TheWorld().bus = {RefusingMixer()};
-  TheWorld().canWrite = false;
+  CurrentWorld().bus = {RefusingMixer()};
+  CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 3), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAreArray(Join(
@@ -105,21 +105,23 @@ TEST_F(SetBoostLevelIndex, PostsAlthoughRequestsAndTheFileFail) {
 }
 
 TEST_F(SetBoostLevelIndex, TouchesItsOwnKeyInItsOwnFileOnly) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 2}, {"Output0", 5}, {"Foo", "x"}};
-  TheWorld().files[kB5File] = {{"MaxLevel", 3}};
-  TheWorld().files[kK2File] = {{"MaxLevel", 3}};
+  CurrentWorld().files[kD6File] = {
+      {"MaxLevel", 2}, {"Output0", 5}, {"Foo", "x"}};
+  CurrentWorld().files[kB5File] = {{"MaxLevel", 3}};
+  CurrentWorld().files[kK2File] = {{"MaxLevel", 3}};
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
-  EXPECT_EQ(TheWorld().files[kD6File],
+  EXPECT_EQ(CurrentWorld().files[kD6File],
             (fake::Entries{{"MaxLevel", 1}, {"Output0", 5}, {"Foo", "x"}}));
-  EXPECT_EQ(TheWorld().files[kB5File], (fake::Entries{{"MaxLevel", 3}}));
-  EXPECT_EQ(TheWorld().files[kK2File], (fake::Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(CurrentWorld().files[kB5File], (fake::Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(CurrentWorld().files[kK2File], (fake::Entries{{"MaxLevel", 3}}));
 }
 
 TEST_F(SetBoostLevelIndex, HoldsOnlyWhatACountLeavesAndTheLastRecord) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTK_SetBoostLevelIndex(10, 0);
   ZTK_SetBoostLevelIndex(10, 1);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 2, .numbers = 4, .userInfos = 1}));
+  EXPECT_EQ(CurrentWorld().held,
+            (Held{.ports = 2, .numbers = 4, .userInfos = 1}));
 }
 
 class GetCurrentBoostLevelIndex : public ApiTest {
@@ -133,12 +135,12 @@ class GetCurrentBoostLevelIndex : public ApiTest {
 
 TEST_F(GetCurrentBoostLevelIndex, IsThreeWithoutAFileOrAKey) {
   EXPECT_EQ(Index(), 3u);
-  EXPECT_THAT(TheWorld().files, IsEmpty());
-  TheWorld().files[kD6File] = {{"Output0", 1}};
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
+  CurrentWorld().files[kD6File] = {{"Output0", 1}};
   EXPECT_EQ(Index(), 3u);
-  TheWorld().hasLibrary = false;
+  CurrentWorld().hasLibrary = false;
   EXPECT_EQ(Index(), 3u);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(GetCurrentBoostLevelIndex, TellsAnyIntegerAsItStands) {
@@ -154,7 +156,7 @@ TEST_F(GetCurrentBoostLevelIndex, TellsAnyIntegerAsItStands) {
               {"another kind counts as absent", std::monostate{}, 3}};
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
-    TheWorld().files[kD6File] = {{"MaxLevel", row.stored}};
+    CurrentWorld().files[kD6File] = {{"MaxLevel", row.stored}};
     EXPECT_EQ(Index(), row.expected);
   }
 }
@@ -163,25 +165,25 @@ class SetCurrentBoostLevelIndex : public ApiTest {};
 
 TEST_F(SetCurrentBoostLevelIndex, SendsTheRememberedLevelAndNothingElse) {
   ExpectEveryWalk({.request = "40 03 0100 8003 0000"}, [] {
-    TheWorld().files[kD6File] = {{"MaxLevel", 2}};
+    CurrentWorld().files[kD6File] = {{"MaxLevel", 2}};
     return ZTK_SetCurrentBoostLevelIndex(10);
   });
 }
 
 TEST_F(SetCurrentBoostLevelIndex, SendsTheDefaultWithoutAFile) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 1", "mixer 1: 40 03 0000 8003 0000",
                           "close 1"));
-  EXPECT_EQ(TheWorld().held, OneCount());
+  EXPECT_EQ(CurrentWorld().held, OneCount());
 }
 
 TEST_F(SetCurrentBoostLevelIndex, SendsEveryLevelThatCanBeRemembered) {
   const char *const expected[] = {"0300", "0200", "0100", "0000"};
   for (std::int32_t index = 0; index < 4; ++index) {
     StartAfresh({Mixer()});
-    TheWorld().files[kD6File] = {{"MaxLevel", index}};
+    CurrentWorld().files[kD6File] = {{"MaxLevel", index}};
     EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 100u);
     EXPECT_EQ(TakeSteps().at(2),
               std::string("mixer 1: 40 03 ") + expected[index] + " 8003 0000");
@@ -193,10 +195,10 @@ TEST_F(SetCurrentBoostLevelIndex, RejectsARememberedIndexPastTheTable) {
        {fake::Value{4}, fake::Value{9}, fake::Value{-1}, fake::Value{kLowest},
         fake::Value{2147483647}, fake::Value{"5"}}) {
     StartAfresh({Mixer()});
-    TheWorld().files[kD6File] = {{"MaxLevel", stored}};
+    CurrentWorld().files[kD6File] = {{"MaxLevel", stored}};
     EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 102u);
     EXPECT_THAT(TakeSteps(), IsEmpty());
-    EXPECT_EQ(TheWorld().held, Held{});
+    EXPECT_EQ(CurrentWorld().held, Held{});
   }
 }
 

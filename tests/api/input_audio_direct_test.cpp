@@ -16,7 +16,7 @@ class SetUSBInputAudioDirect : public ApiTest {
 };
 
 TEST_F(SetUSBInputAudioDirect, SendsAndReadsTheSelectorAndNothingElse) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 2, 0, 3), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -32,11 +32,11 @@ TEST_F(SetUSBInputAudioDirect, PassesOverMixersThatDoNotOpen) {
 }
 
 TEST_F(SetUSBInputAudioDirect, IsNeitherRememberedNorAnnounced) {
-  TheWorld().files[kD6File] = {{"Output2", 5}};
+  CurrentWorld().files[kD6File] = {{"Output2", 5}};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 2, 0, 3), 100u);
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
-  EXPECT_EQ(TheWorld().files[kD6File], (fake::Entries{{"Output2", 5}}));
-  EXPECT_EQ(TheWorld().held, OneCount());
+  EXPECT_EQ(CurrentWorld().files[kD6File], (fake::Entries{{"Output2", 5}}));
+  EXPECT_EQ(CurrentWorld().held, OneCount());
 }
 
 TEST_F(SetUSBInputAudioDirect, PacksHighChannelAndSource) {
@@ -67,7 +67,7 @@ TEST_F(SetUSBInputAudioDirect, CutsHighToItsLowFourBits) {
 }
 
 TEST_F(SetUSBInputAudioDirect, TakesSixteenSources) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 15), 100u);
   TakeCalls();
   for (const std::uint32_t source :
@@ -113,8 +113,8 @@ TEST_F(SetUSBInputAudioDirect, AlwaysWarnsForTheLastChannelBelowSourceFour) {
 }
 
 TEST_F(SetUSBInputAudioDirect, WarnsAtTheFirstMixerThatStandsWrong) {
-  TheWorld().bus = {MixerAnswering(0x8002, {.bytes = {0, 0, 0, 0, 0}}),
-                    Mixer()};
+  CurrentWorld().bus = {MixerAnswering(0x8002, {.bytes = {0, 0, 0, 0, 0}}),
+                        Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 3), 101u);
   EXPECT_THAT(TakeSteps(),
               ElementsAreArray(
@@ -125,12 +125,12 @@ TEST_F(SetUSBInputAudioDirect, WarnsAtTheFirstMixerThatStandsWrong) {
 }
 
 TEST_F(SetUSBInputAudioDirect, DoesNotWarnWhenNoCountedMixerOpens) {
-  TheWorld().bus = {UnreachableMixer()};
+  CurrentWorld().bus = {UnreachableMixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 0), 100u);
 }
 
 TEST_F(SetUSBInputAudioDirect, DoesNotLookAtTheResultsOfItsRequests) {
-  TheWorld().bus = {RefusingMixer()};
+  CurrentWorld().bus = {RefusingMixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 4), 100u);
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 3), 101u);
 }

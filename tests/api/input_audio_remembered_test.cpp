@@ -19,24 +19,25 @@ TEST_F(GetCurrentUSBInputAudioIndex, IsZeroWithoutAFileAndCreatesNone) {
   for (std::int32_t channel = 0; channel < 6; ++channel) {
     EXPECT_EQ(IndexOf(channel), 0u) << channel;
   }
-  EXPECT_THAT(TheWorld().files, IsEmpty());
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
 TEST_F(GetCurrentUSBInputAudioIndex, IsZeroWithoutALibraryOrAKey) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 2}, {"Input0", 3}, {"output0", 4}};
+  CurrentWorld().files[kD6File] = {
+      {"MaxLevel", 2}, {"Input0", 3}, {"output0", 4}};
   EXPECT_EQ(IndexOf(0), 0u);
-  TheWorld().hasLibrary = false;
+  CurrentWorld().hasLibrary = false;
   EXPECT_EQ(IndexOf(0), 0u);
 }
 
 TEST_F(GetCurrentUSBInputAudioIndex, ReadsTheKeyOfItsChannel) {
-  TheWorld().files[kD6File] = {{"Output0", 11},
-                               {"Output1", 12},
-                               {"Output2", 13},
-                               {"Output3", 14},
-                               {"Output4", 15}};
-  TheWorld().files[kB5File] = {{"Output0", 21}};
+  CurrentWorld().files[kD6File] = {{"Output0", 11},
+                                   {"Output1", 12},
+                                   {"Output2", 13},
+                                   {"Output3", 14},
+                                   {"Output4", 15}};
+  CurrentWorld().files[kB5File] = {{"Output0", 21}};
   const std::uint32_t expected[] = {11, 12, 13, 14, 15};
   for (std::int32_t channel = 0; channel < 5; ++channel) {
     EXPECT_EQ(IndexOf(channel), expected[channel]);
@@ -44,7 +45,7 @@ TEST_F(GetCurrentUSBInputAudioIndex, ReadsTheKeyOfItsChannel) {
 }
 
 TEST_F(GetCurrentUSBInputAudioIndex, TakesChannelFiveWhichIsAlwaysZero) {
-  TheWorld().files[kD6File] = {{"Output5", 3}, {"Output4", 2}};
+  CurrentWorld().files[kD6File] = {{"Output5", 3}, {"Output4", 2}};
   EXPECT_EQ(IndexOf(5), 0u);
 }
 
@@ -73,19 +74,19 @@ TEST_F(GetCurrentUSBInputAudioIndex, TellsAnyIntegerAsItStands) {
               {"another kind counts as absent", std::monostate{}, 0}};
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
-    TheWorld().files[kD6File] = {{"Output2", row.stored}};
+    CurrentWorld().files[kD6File] = {{"Output2", row.stored}};
     EXPECT_EQ(IndexOf(2), row.expected);
   }
 }
 
 TEST_F(GetCurrentUSBInputAudioIndex, ReadsTheFileAfreshAndHoldsNothing) {
-  TheWorld().files[kD6File] = {{"Output1", 4}};
+  CurrentWorld().files[kD6File] = {{"Output1", 4}};
   EXPECT_EQ(IndexOf(1), 4u);
   EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kD6File,
                                        "release dictionary"));
-  TheWorld().files[kD6File] = {{"Output1", 5}};
+  CurrentWorld().files[kD6File] = {{"Output1", 5}};
   EXPECT_EQ(IndexOf(1), 5u);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(GetCurrentUSBInputAudioIndex, TellsWhatWasSet) {
@@ -98,19 +99,19 @@ TEST_F(GetCurrentUSBInputAudioIndex, TellsWhatWasSet) {
 class SetCurrentUSBInputAudio : public ApiTest {};
 
 TEST_F(SetCurrentUSBInputAudio, SendsTheRememberedChoiceAndNothingElse) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().files[kD6File] = {{"Output1", 2}};
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().files[kD6File] = {{"Output1", 2}};
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 1), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 1", "mixer 1: 40 03 0206 8002 0000",
                           "close 1"));
-  EXPECT_EQ(TheWorld().held, OneCount());
-  EXPECT_EQ(TheWorld().files[kD6File], (fake::Entries{{"Output1", 2}}));
+  EXPECT_EQ(CurrentWorld().held, OneCount());
+  EXPECT_EQ(CurrentWorld().files[kD6File], (fake::Entries{{"Output1", 2}}));
 }
 
 TEST_F(SetCurrentUSBInputAudio, PassesOverMixersThatDoNotOpen) {
   ExpectEveryWalk({.request = "40 03 0306 8002 0000"}, [] {
-    TheWorld().files[kD6File] = {{"Output2", 2}};
+    CurrentWorld().files[kD6File] = {{"Output2", 2}};
     return ZTK_SetCurrentUSBInputAudio(10, 2);
   });
 }
@@ -123,21 +124,21 @@ TEST_F(SetCurrentUSBInputAudio, SendsTheFirstChoiceWithoutAFile) {
     EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, channel), 100u);
     EXPECT_EQ(TakeSteps().at(2), std::string("mixer 1: 40 03 ") +
                                      expected[channel] + " 8002 0000");
-    EXPECT_THAT(TheWorld().files, IsEmpty());
+    EXPECT_THAT(CurrentWorld().files, IsEmpty());
   }
 }
 
 TEST_F(SetCurrentUSBInputAudio, SendsThePlaceholderForChannelFive) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 5), 100u);
   EXPECT_EQ(TakeSteps().at(2), "mixer 1: 40 03 050f 8002 0000");
 }
 
 TEST_F(SetCurrentUSBInputAudio, NeverWarns) {
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 0), 100u);
-  TheWorld().bus = {MixerAnswering(0x8002, {.bytes = {0, 0, 0, 0, 0}})};
+  CurrentWorld().bus = {MixerAnswering(0x8002, {.bytes = {0, 0, 0, 0, 0}})};
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 0), 100u);
-  TheWorld().bus = {RefusingMixer(), UnreachableMixer()};
+  CurrentWorld().bus = {RefusingMixer(), UnreachableMixer()};
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 0), 100u);
 }
 
@@ -157,7 +158,7 @@ TEST_F(SetCurrentUSBInputAudio, SendsPositions0To41WhicheverRowTheyStandIn) {
   for (const auto &row : rows) {
     SCOPED_TRACE(std::string(row.key) + " as " + row.expected);
     StartAfresh({Mixer()});
-    TheWorld().files[kD6File] = {{row.key, row.remembered}};
+    CurrentWorld().files[kD6File] = {{row.key, row.remembered}};
     EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, row.channel), 100u);
     EXPECT_THAT(
         TakeSteps(),
@@ -183,24 +184,24 @@ TEST_F(SetCurrentUSBInputAudio, RejectsAPositionPastTheTableAndSendsNothing) {
   for (const auto &row : rows) {
     SCOPED_TRACE(std::string(row.key) + " = " + std::to_string(row.remembered));
     StartAfresh({Mixer()});
-    TheWorld().files[kD6File] = {{row.key, row.remembered}};
+    CurrentWorld().files[kD6File] = {{row.key, row.remembered}};
     EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, row.channel), 102u);
     EXPECT_THAT(TakeSteps(), IsEmpty());
     EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kD6File,
                                          "release dictionary"));
-    EXPECT_EQ(TheWorld().held, Held{});
+    EXPECT_EQ(CurrentWorld().held, Held{});
   }
 }
 
 TEST_F(SetCurrentUSBInputAudio, SendsTheFirstChoiceForAnotherKindOfValue) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().files[kD6File] = {{"Output0", std::monostate{}}};
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().files[kD6File] = {{"Output0", std::monostate{}}};
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 0), 100u);
   EXPECT_EQ(TakeSteps().at(2), "mixer 1: 40 03 0103 8002 0000");
 }
 
 TEST_F(SetCurrentUSBInputAudio, RefusesWhatTheGetterRefuses) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (const std::uint32_t channel : {6u, 7u, 0x80000000u, 0xFFFFFFFFu}) {
     EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, channel), 102u) << channel;
   }

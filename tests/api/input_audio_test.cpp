@@ -81,7 +81,7 @@ TEST_F(GetUSBInputAudioText, IgnoresItsFourthArgument) {
 }
 
 TEST_F(GetUSBInputAudioText, AsksNothing) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(TextOf(1, 2), "100 Post CH2 Fader");
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
@@ -98,7 +98,7 @@ class SetUSBInputAudio : public ApiTest {
 constexpr char kReadSelectors[] = "c0 00 0000 8002 0005 -> 00 04 04 04 04";
 
 TEST_F(SetUSBInputAudio, SendsStoresPostsAndReadsTheSelectorInThisOrder) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 1, 2), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -112,7 +112,7 @@ TEST_F(SetUSBInputAudio, SendsStoresPostsAndReadsTheSelectorInThisOrder) {
 }
 
 TEST_F(SetUSBInputAudio, WalksTwoMixersTwice) {
-  TheWorld().bus = {Mixer(), Mixer()};
+  CurrentWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -158,7 +158,7 @@ TEST_F(SetUSBInputAudio, SendsTheDeviceValueOfEveryChoice) {
 }
 
 TEST_F(SetUSBInputAudio, TakesThePlaceholderOneBeyondTheChoices) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 7), 100u);
   EXPECT_EQ(TakeSteps().at(2), "mixer 1: 40 03 010f 8002 0000");
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 4, 8), 100u);
@@ -166,7 +166,7 @@ TEST_F(SetUSBInputAudio, TakesThePlaceholderOneBeyondTheChoices) {
 }
 
 TEST_F(SetUSBInputAudio, RejectsWhatLiesBehindThePlaceholder) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (std::uint32_t channel = 0; channel < 4; ++channel) {
     EXPECT_EQ(ZTK_SetUSBInputAudio(10, channel, 8), 102u) << channel;
   }
@@ -186,14 +186,14 @@ TEST_F(SetUSBInputAudio, KeepsTheIndexUnderTheChannelsOutputKey) {
 }
 
 TEST_F(SetUSBInputAudio, KeepsEverythingElseInTheFile) {
-  TheWorld().files[kD6File] = {
+  CurrentWorld().files[kD6File] = {
       {"MaxLevel", 2}, {"Foo", "bar"}, {"Output0", 5}, {"Output1", 4}};
-  TheWorld().files[kB5File] = {{"Input0", 1}};
+  CurrentWorld().files[kB5File] = {{"Input0", 1}};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
   const fake::Entries expected = {
       {"MaxLevel", 2}, {"Foo", "bar"}, {"Output0", 1}, {"Output1", 4}};
-  EXPECT_EQ(TheWorld().files[kD6File], expected);
-  EXPECT_EQ(TheWorld().files[kB5File], (fake::Entries{{"Input0", 1}}));
+  EXPECT_EQ(CurrentWorld().files[kD6File], expected);
+  EXPECT_EQ(CurrentWorld().files[kB5File], (fake::Entries{{"Input0", 1}}));
 }
 
 TEST_F(SetUSBInputAudio, WithoutAMixerWarnsBelowIndexThreeOnEveryChannel) {
@@ -285,7 +285,7 @@ TEST_F(SetUSBInputAudio, WarnsByTheBytesThatCameAndNotByTheResult) {
 }
 
 TEST_F(SetUSBInputAudio, WarnsAtTheFirstMixerThatStandsWrong) {
-  TheWorld().bus = {Selectors({0, 3, 3, 3, 3}), Mixer()};
+  CurrentWorld().bus = {Selectors({0, 3, 3, 3, 3}), Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
   EXPECT_THAT(TakeSteps(),
               ElementsAreArray(
@@ -299,25 +299,25 @@ TEST_F(SetUSBInputAudio, WarnsAtTheFirstMixerThatStandsWrong) {
 }
 
 TEST_F(SetUSBInputAudio, WarnsAlsoWhenOnlyTheSecondMixerStandsWrong) {
-  TheWorld().bus = {Mixer(), Selectors({0, 3, 3, 3, 3})};
+  CurrentWorld().bus = {Mixer(), Selectors({0, 3, 3, 3, 3})};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
-  TheWorld().bus = {UnreachableMixer(), Selectors({0, 3, 3, 3, 3})};
+  CurrentWorld().bus = {UnreachableMixer(), Selectors({0, 3, 3, 3, 3})};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
 }
 
 TEST_F(SetUSBInputAudio, DoesNotTakeTheFirstMixersAnswerForTheSecond) {
-  TheWorld().bus = {Mixer(), Selectors({})};
+  CurrentWorld().bus = {Mixer(), Selectors({})};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 101u);
 }
 
 TEST_F(SetUSBInputAudio, DoesNotWarnWhenNoCountedMixerOpens) {
-  TheWorld().bus = {UnreachableMixer()};
+  CurrentWorld().bus = {UnreachableMixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 100u);
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 4, 0), 100u);
 }
 
 TEST_F(SetUSBInputAudio, StoresAndPostsAlthoughEveryRequestFails) {
-  TheWorld().bus = {RefusingMixer()};
+  CurrentWorld().bus = {RefusingMixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 2, 5), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -330,9 +330,9 @@ TEST_F(SetUSBInputAudio, StoresAndPostsAlthoughEveryRequestFails) {
 }
 
 TEST_F(SetUSBInputAudio, PostsAlthoughTheFileCannotBeWritten) {
-  TheWorld().canWrite = false;
+  CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 2, 5), 100u);
-  TheWorld().hasLibrary = false;
+  CurrentWorld().hasLibrary = false;
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 2, 6), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", Written(kD6File, "Output2=5"),
@@ -341,15 +341,17 @@ TEST_F(SetUSBInputAudio, PostsAlthoughTheFileCannotBeWritten) {
                           "count",
                           "post VRM-D6 InputAudio Change "
                           "{ProductID=10, Channel=2, Index=6} immediately"));
-  EXPECT_THAT(TheWorld().files, IsEmpty());
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
 }
 
 TEST_F(SetUSBInputAudio, HoldsOnlyWhatACountLeavesAndTheLastRecord) {
-  TheWorld().bus = {Stranger(), Mixer()};
+  CurrentWorld().bus = {OtherDevice(), Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 100u);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 1, .numbers = 2, .userInfos = 1}));
+  EXPECT_EQ(CurrentWorld().held,
+            (Held{.ports = 1, .numbers = 2, .userInfos = 1}));
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 1, 3), 100u);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 2, .numbers = 4, .userInfos = 1}));
+  EXPECT_EQ(CurrentWorld().held,
+            (Held{.ports = 2, .numbers = 4, .userInfos = 1}));
 }
 
 }  // namespace

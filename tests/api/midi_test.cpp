@@ -38,7 +38,7 @@ TEST_F(GetMidiChannelText, RejectsIndexSixteenAndLeavesTheOutput) {
 class SetMidiChannelIndex : public ApiTest {};
 
 TEST_F(SetMidiChannelIndex, SendsStoresAndPostsByDefaultDelivery) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetMidiChannelIndex(1, 9), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -71,7 +71,7 @@ TEST_F(SetMidiChannelIndex, SendsTheChannelInTheHighByte) {
 }
 
 TEST_F(SetMidiChannelIndex, RejectsIndexSixteenAndOtherProducts) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (const std::uint32_t index : {16u, 256u, 0x80000000u, 0xFFFFFFFFu}) {
     EXPECT_EQ(ZTK_SetMidiChannelIndex(1, index), 102u) << index;
   }
@@ -80,8 +80,8 @@ TEST_F(SetMidiChannelIndex, RejectsIndexSixteenAndOtherProducts) {
 }
 
 TEST_F(SetMidiChannelIndex, PostsAlthoughRequestsAndTheFileFail) {
-  TheWorld().bus = {RefusingMixer()};
-  TheWorld().canWrite = false;
+  CurrentWorld().bus = {RefusingMixer()};
+  CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetMidiChannelIndex(1, 0), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAreArray(Join(
@@ -93,19 +93,20 @@ TEST_F(SetMidiChannelIndex, PostsAlthoughRequestsAndTheFileFail) {
 }
 
 TEST_F(SetMidiChannelIndex, TouchesItsOwnFileOnly) {
-  TheWorld().files[kD6File] = {{"MidiChannel", 3}};
-  TheWorld().files[kK2File] = {{"MidiChannel", 4}, {"Foo", "x"}};
+  CurrentWorld().files[kD6File] = {{"MidiChannel", 3}};
+  CurrentWorld().files[kK2File] = {{"MidiChannel", 4}, {"Foo", "x"}};
   EXPECT_EQ(ZTK_SetMidiChannelIndex(1, 5), 100u);
-  EXPECT_EQ(TheWorld().files[kK2File],
+  EXPECT_EQ(CurrentWorld().files[kK2File],
             (fake::Entries{{"MidiChannel", 5}, {"Foo", "x"}}));
-  EXPECT_EQ(TheWorld().files[kD6File], (fake::Entries{{"MidiChannel", 3}}));
+  EXPECT_EQ(CurrentWorld().files[kD6File], (fake::Entries{{"MidiChannel", 3}}));
 }
 
 TEST_F(SetMidiChannelIndex, HoldsOnlyWhatACountLeavesAndTheLastRecord) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTK_SetMidiChannelIndex(1, 0);
   ZTK_SetMidiChannelIndex(1, 1);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 2, .numbers = 4, .userInfos = 1}));
+  EXPECT_EQ(CurrentWorld().held,
+            (Held{.ports = 2, .numbers = 4, .userInfos = 1}));
 }
 
 class GetCurrentMidiChannelIndex : public ApiTest {
@@ -119,12 +120,12 @@ class GetCurrentMidiChannelIndex : public ApiTest {
 
 TEST_F(GetCurrentMidiChannelIndex, IsZeroWithoutAFileOrAKey) {
   EXPECT_EQ(Index(), 0u);
-  EXPECT_THAT(TheWorld().files, IsEmpty());
-  TheWorld().files[kK2File] = {{"MaxLevel", 1}};
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
+  CurrentWorld().files[kK2File] = {{"MaxLevel", 1}};
   EXPECT_EQ(Index(), 0u);
-  TheWorld().hasLibrary = false;
+  CurrentWorld().hasLibrary = false;
   EXPECT_EQ(Index(), 0u);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(GetCurrentMidiChannelIndex, TellsAnyIntegerAsItStands) {
@@ -140,7 +141,7 @@ TEST_F(GetCurrentMidiChannelIndex, TellsAnyIntegerAsItStands) {
               {"another kind counts as absent", std::monostate{}, 0}};
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
-    TheWorld().files[kK2File] = {{"MidiChannel", row.stored}};
+    CurrentWorld().files[kK2File] = {{"MidiChannel", row.stored}};
     EXPECT_EQ(Index(), row.expected);
   }
 }
@@ -149,18 +150,18 @@ class SetCurrentMidiChannelIndex : public ApiTest {};
 
 TEST_F(SetCurrentMidiChannelIndex, SendsTheRememberedChannelAndNothingElse) {
   ExpectEveryWalk({.request = "40 03 0300 8004 0000"}, [] {
-    TheWorld().files[kK2File] = {{"MidiChannel", 3}};
+    CurrentWorld().files[kK2File] = {{"MidiChannel", 3}};
     return ZTK_SetCurrentMidiChannelIndex(1);
   });
 }
 
 TEST_F(SetCurrentMidiChannelIndex, SendsTheFirstChannelWithoutAFile) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetCurrentMidiChannelIndex(1), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 1", "mixer 1: 40 03 0000 8004 0000",
                           "close 1"));
-  EXPECT_EQ(TheWorld().held, OneCount());
+  EXPECT_EQ(CurrentWorld().held, OneCount());
 }
 
 TEST_F(SetCurrentMidiChannelIndex, ResendsOnlyTheFirstFourOfSixteenChannels) {
@@ -182,18 +183,18 @@ TEST_F(SetCurrentMidiChannelIndex, SendsNothingForARememberedOddity) {
        {fake::Value{4}, fake::Value{9}, fake::Value{16}, fake::Value{-1},
         fake::Value{kLowest}, fake::Value{"5"}}) {
     StartAfresh({Mixer()});
-    TheWorld().files[kK2File] = {{"MidiChannel", stored}};
+    CurrentWorld().files[kK2File] = {{"MidiChannel", stored}};
     EXPECT_EQ(ZTK_SetCurrentMidiChannelIndex(1), 102u);
     EXPECT_THAT(TakeSteps(), IsEmpty());
-    EXPECT_EQ(TheWorld().held, Held{});
+    EXPECT_EQ(CurrentWorld().held, Held{});
   }
 }
 
 class MidiKeyMode : public ApiTest {};
 
 TEST_F(MidiKeyMode, RejectsEverythingAndDoesNothing) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().files[kK2File] = {{"MidiKeyMode", 1}};
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().files[kK2File] = {{"MidiKeyMode", 1}};
   for (const std::uint32_t product : {0u, 1u, 5u, 8u, 10u, 11u, 0xFFFFFFFFu}) {
     for (const std::uint32_t index : {0u, 1u, 2u, 0xFFFFFFFFu}) {
       std::uint32_t number = kUntouched;
@@ -211,7 +212,7 @@ TEST_F(MidiKeyMode, RejectsEverythingAndDoesNothing) {
     }
   }
   EXPECT_THAT(TakeCalls(), IsEmpty());
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 }  // namespace

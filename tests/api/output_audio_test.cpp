@@ -62,14 +62,14 @@ class SetUSBOutputAudio : public ApiTest {};
 
 // A search for a mixer that is not there would be invisible among the requests.
 TEST_F(SetUSBOutputAudio, SearchesTheBusOnceForEachRequest) {
-  TheWorld().bus = {Mixer(), Mixer()};
+  CurrentWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0, 1), 100u);
   const std::vector<std::string> calls = TakeCalls();
   EXPECT_EQ(std::count(calls.begin(), calls.end(), "find every service"), 4);
 }
 
 TEST_F(SetUSBOutputAudio, SendsStoresPostsAndReadsTheSelectorInThisOrder) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 1, 2), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -120,13 +120,13 @@ TEST_F(SetUSBOutputAudio, StoresAndPostsWithoutAMixerAndNeverWarns) {
 }
 
 TEST_F(SetUSBOutputAudio, NeverWarnsWhateverTheSelectorsSay) {
-  TheWorld().bus = {MixerAnswering(0x8002, {.bytes = {0, 0, 0, 0, 0}}),
-                    RefusingMixer()};
+  CurrentWorld().bus = {MixerAnswering(0x8002, {.bytes = {0, 0, 0, 0, 0}}),
+                        RefusingMixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0, 0), 100u);
 }
 
 TEST_F(SetUSBOutputAudio, TakesTwoMoreChannelsAndSendsNothingForThem) {
-  TheWorld().bus = {Mixer(), Mixer()};
+  CurrentWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 3, 0), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAreArray(Join({{"count", Written(kB5File, "Input3=0"),
@@ -146,7 +146,7 @@ TEST_F(SetUSBOutputAudio, TakesTwoMoreChannelsAndSendsNothingForThem) {
 }
 
 TEST_F(SetUSBOutputAudio, RejectsAFourthChoiceAChannelFiveAndOtherProducts) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0, 3), 102u);
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 5, 0), 102u);
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0xFFFFFFFF, 0), 102u);
@@ -156,8 +156,8 @@ TEST_F(SetUSBOutputAudio, RejectsAFourthChoiceAChannelFiveAndOtherProducts) {
 }
 
 TEST_F(SetUSBOutputAudio, PostsAlthoughRequestsAndTheFileFail) {
-  TheWorld().bus = {RefusingMixer()};
-  TheWorld().canWrite = false;
+  CurrentWorld().bus = {RefusingMixer()};
+  CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0, 1), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -170,18 +170,19 @@ TEST_F(SetUSBOutputAudio, PostsAlthoughRequestsAndTheFileFail) {
 }
 
 TEST_F(SetUSBOutputAudio, HoldsOnlyWhatACountLeavesAndTheLastRecord) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTK_SetUSBOutputAudio(8, 0, 0);
-  EXPECT_EQ(TheWorld().held, OneCount(1));
+  EXPECT_EQ(CurrentWorld().held, OneCount(1));
   ZTK_SetUSBOutputAudioDefault(8, 1);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 2, .numbers = 4, .userInfos = 1}));
+  EXPECT_EQ(CurrentWorld().held,
+            (Held{.ports = 2, .numbers = 4, .userInfos = 1}));
 }
 
 class SetUSBOutputAudioDefault : public ApiTest {};
 
 TEST_F(SetUSBOutputAudioDefault, SendsPostsAndReadsButDoesNotStore) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().files[kB5File] = {{"Input2", 1}};
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().files[kB5File] = {{"Input2", 1}};
   EXPECT_EQ(ZTK_SetUSBOutputAudioDefault(8, 2), 100u);
   EXPECT_THAT(
       TakeSteps(),
@@ -190,7 +191,7 @@ TEST_F(SetUSBOutputAudioDefault, SendsPostsAndReadsButDoesNotStore) {
                   "{ProductID=8, Channel=2, Index=2} immediately",
                   "open 1", "mixer 1: c0 00 0000 8002 0004 -> 00 04 04 04",
                   "close 1"));
-  EXPECT_EQ(TheWorld().files[kB5File], (fake::Entries{{"Input2", 1}}));
+  EXPECT_EQ(CurrentWorld().files[kB5File], (fake::Entries{{"Input2", 1}}));
   std::uint32_t index = kUntouched;
   EXPECT_EQ(ZTK_GetCurrentUSBOutputAudioIndex(8, 2, &index), 100u);
   EXPECT_EQ(index, 1u);
@@ -215,7 +216,7 @@ TEST_F(SetUSBOutputAudioDefault, SendsOneOtherValueForEachChannel) {
 }
 
 TEST_F(SetUSBOutputAudioDefault, PostsTheChannelAsIndexWhereNothingIsSent) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudioDefault(8, 3), 100u);
   EXPECT_EQ(ZTK_SetUSBOutputAudioDefault(8, 4), 100u);
   EXPECT_THAT(
@@ -228,7 +229,7 @@ TEST_F(SetUSBOutputAudioDefault, PostsTheChannelAsIndexWhereNothingIsSent) {
                               "post VRM-B5 OutputAudio Change "
                               "{ProductID=8, Channel=4, Index=4} immediately"},
                              Visit(1, kReadOutputSelectors)})));
-  EXPECT_THAT(TheWorld().files, IsEmpty());
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
 }
 
 class GetCurrentUSBOutputAudioIndex : public ApiTest {
@@ -244,18 +245,19 @@ TEST_F(GetCurrentUSBOutputAudioIndex, IsTheChannelItselfWithoutAFile) {
   for (std::uint32_t channel = 0; channel < 3; ++channel) {
     EXPECT_EQ(IndexOf(channel), channel);
   }
-  EXPECT_THAT(TheWorld().files, IsEmpty());
-  TheWorld().hasLibrary = false;
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
+  CurrentWorld().hasLibrary = false;
   EXPECT_EQ(IndexOf(2), 2u);
 }
 
 TEST_F(GetCurrentUSBOutputAudioIndex, ReadsTheKeyOfItsChannelOnly) {
-  TheWorld().files[kB5File] = {{"Input0", 2}, {"Input2", 0}, {"Output1", 7}};
-  TheWorld().files[kD6File] = {{"Input1", 8}};
+  CurrentWorld().files[kB5File] = {
+      {"Input0", 2}, {"Input2", 0}, {"Output1", 7}};
+  CurrentWorld().files[kD6File] = {{"Input1", 8}};
   EXPECT_EQ(IndexOf(0), 2u);
   EXPECT_EQ(IndexOf(1), 1u);
   EXPECT_EQ(IndexOf(2), 0u);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(GetCurrentUSBOutputAudioIndex, TellsAnyIntegerAsItStands) {
@@ -270,13 +272,13 @@ TEST_F(GetCurrentUSBOutputAudioIndex, TellsAnyIntegerAsItStands) {
               {"another kind counts as absent", std::monostate{}, 1}};
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
-    TheWorld().files[kB5File] = {{"Input1", row.stored}};
+    CurrentWorld().files[kB5File] = {{"Input1", row.stored}};
     EXPECT_EQ(IndexOf(1), row.expected);
   }
 }
 
 TEST_F(GetCurrentUSBOutputAudioIndex, RejectsTheChannelsThatOnlySettersTake) {
-  TheWorld().files[kB5File] = {{"Input3", 1}};
+  CurrentWorld().files[kB5File] = {{"Input3", 1}};
   for (const std::uint32_t channel : {3u, 4u, 0x80000000u, 0xFFFFFFFFu}) {
     std::uint32_t index = kUntouched;
     EXPECT_EQ(ZTK_GetCurrentUSBOutputAudioIndex(8, channel, &index), 102u);
@@ -288,13 +290,13 @@ TEST_F(GetCurrentUSBOutputAudioIndex, RejectsTheChannelsThatOnlySettersTake) {
 class SetCurrentUSBOutputAudio : public ApiTest {};
 
 TEST_F(SetCurrentUSBOutputAudio, SendsTheRememberedChoiceAndNothingElse) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().files[kB5File] = {{"Input2", 1}};
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().files[kB5File] = {{"Input2", 1}};
   EXPECT_EQ(ZTK_SetCurrentUSBOutputAudio(8, 2), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 1", "mixer 1: 40 03 0301 8016 0000",
                           "close 1"));
-  EXPECT_EQ(TheWorld().held, OneCount());
+  EXPECT_EQ(CurrentWorld().held, OneCount());
 }
 
 TEST_F(SetCurrentUSBOutputAudio, SendsTheDefaultToEveryMixerWithoutAFile) {
@@ -315,7 +317,7 @@ TEST_F(SetCurrentUSBOutputAudio, SendsAnotherChannelsValueWithinTheTable) {
   for (const auto &row : rows) {
     SCOPED_TRACE(std::string(row.key) + " as " + row.expected);
     StartAfresh({Mixer()});
-    TheWorld().files[kB5File] = {{row.key, row.remembered}};
+    CurrentWorld().files[kB5File] = {{row.key, row.remembered}};
     EXPECT_EQ(ZTK_SetCurrentUSBOutputAudio(8, row.channel), 100u);
     EXPECT_EQ(TakeSteps().at(2),
               std::string("mixer 1: 40 03 ") + row.expected + " 8016 0000");
@@ -336,14 +338,14 @@ TEST_F(SetCurrentUSBOutputAudio, SendsNothingPastTheTableAndStillSucceeds) {
   for (const auto &row : rows) {
     SCOPED_TRACE(std::string(row.key) + " = " + std::to_string(row.remembered));
     StartAfresh({Mixer()});
-    TheWorld().files[kB5File] = {{row.key, row.remembered}};
+    CurrentWorld().files[kB5File] = {{row.key, row.remembered}};
     EXPECT_EQ(ZTK_SetCurrentUSBOutputAudio(8, row.channel), 100u);
     EXPECT_THAT(TakeSteps(), ElementsAre("count"));
   }
 }
 
 TEST_F(SetCurrentUSBOutputAudio, RefusesWhatTheGetterRefuses) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (const std::uint32_t channel : {3u, 4u, 0x80000000u, 0xFFFFFFFFu}) {
     EXPECT_EQ(ZTK_SetCurrentUSBOutputAudio(8, channel), 102u) << channel;
   }

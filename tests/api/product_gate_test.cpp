@@ -66,14 +66,14 @@ class EveryFunction : public ApiTest {
         << Describe(gate, arguments);
     if (accepted) {
       EXPECT_EQ(number != kUntouched, isNumber) << Describe(gate, arguments);
-      if (!TheWorld().calls.empty()) TheWorld() = Complete();
+      if (!CurrentWorld().calls.empty()) CurrentWorld() = Complete();
       return;
     }
     EXPECT_EQ(number, withOutput ? LeftByRefusal(gate) : kUntouched)
         << Describe(gate, arguments);
-    EXPECT_THAT(TheWorld().calls, IsEmpty()) << Describe(gate, arguments);
-    EXPECT_THAT(TheWorld().steps, IsEmpty()) << Describe(gate, arguments);
-    EXPECT_EQ(TheWorld().held, Held{}) << Describe(gate, arguments);
+    EXPECT_THAT(CurrentWorld().calls, IsEmpty()) << Describe(gate, arguments);
+    EXPECT_THAT(CurrentWorld().steps, IsEmpty()) << Describe(gate, arguments);
+    EXPECT_EQ(CurrentWorld().held, Held{}) << Describe(gate, arguments);
   }
 
   static void CheckEveryArgument(const Gate &gate) {
@@ -93,7 +93,7 @@ class EveryFunction : public ApiTest {
 
 TEST_F(EveryFunction, ServesTheArgumentsOfItsRowAndRefusesAllOthers) {
   for (const Gate &gate : kGates) {
-    TheWorld() = Complete();
+    CurrentWorld() = Complete();
     inputAudioInfo = outputAudioInfo = boostLevelInfo = nullptr;
     midiChannelInfo = nullptr;
     CheckEveryArgument(gate);
@@ -110,7 +110,7 @@ TEST_F(EveryFunction, AnswersAnUnknownProductIdWith102) {
   for (const Gate &gate : kGates) {
     if (gate.products == kEveryProduct) continue;
     SCOPED_TRACE(gate.name);
-    TheWorld() = Complete();
+    CurrentWorld() = Complete();
     for (const std::uint32_t product : {7u, 9u, 11u, 32u, 42u, 64u, kAll}) {
       ZTKTextRef text = kUntouchedText;
       std::uint32_t number = kUntouched;
@@ -130,10 +130,10 @@ TEST_F(EveryFunction, AnswersWithoutAMixerAlsoWhenTheBusCannotBeRead) {
     if (gate.products.empty()) continue;
     const bool isWarningText = gate.output == Output::TextNeverNull;
     SCOPED_TRACE(gate.name);
-    TheWorld() = Complete();
+    CurrentWorld() = Complete();
     inputAudioInfo = outputAudioInfo = boostLevelInfo = nullptr;
     midiChannelInfo = nullptr;
-    TheWorld().findResult = platform::usb::kError;
+    CurrentWorld().findResult = platform::usb::kError;
     ZTKTextRef text = kUntouchedText;
     std::uint32_t number = kUntouched;
     EXPECT_NE(gate.call({.product = gate.products.back(),
@@ -162,7 +162,7 @@ TEST_F(OrderOfTests, ANullOutputIsTestedBeforeItIsWritten) {
 }
 
 TEST_F(OrderOfTests, ReApplyReadsTheFileBeforeItRefusesTheRememberedIndex) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 9}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 9}};
   EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 102u);
   EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kD6File,
                                        "release dictionary"));

@@ -92,7 +92,7 @@ TEST_F(GetProductId, RejectsANullNameAndANullOutput) {
 }
 
 TEST_F(GetProductId, LeavesTheCallersTextAndAsksNothing) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   std::string name = "vrm-d6 in lower case";
   std::uint32_t id = 0;
   EXPECT_EQ(ZTK_GetProductId(Lasting(name), &id), 100u);
@@ -113,11 +113,11 @@ TEST_F(IsUSBConnection, TellsWhetherAtLeastOneMixerIsCounted) {
     ZTKResult expected;
   } rows[] = {
       {"no device", {}, 104},
-      {"strangers only", {Stranger(), Stranger()}, 104},
+      {"other devices only", {OtherDevice(), OtherDevice()}, 104},
       {"product 27 of another maker", {othersMixer}, 104},
       {"another product of the maker", {otherProduct}, 104},
       {"one mixer", {Mixer()}, 103},
-      {"one behind strangers", {Stranger(), otherProduct, Mixer()}, 103},
+      {"one behind other devices", {OtherDevice(), otherProduct, Mixer()}, 103},
       {"two mixers", {Mixer(), Mixer()}, 103},
       {"one that does not open", {UnreachableMixer()}, 103},
       {"one without plug-in", {WithoutPlugIn(Mixer())}, 103},
@@ -127,7 +127,7 @@ TEST_F(IsUSBConnection, TellsWhetherAtLeastOneMixerIsCounted) {
     StartAfresh(row.bus);
     EXPECT_EQ(ZTK_IsUSBConnection(10), row.expected);
     EXPECT_THAT(TakeSteps(), ElementsAre("count"));
-    EXPECT_EQ(TheWorld().held, OneCount());
+    EXPECT_EQ(CurrentWorld().held, OneCount());
   }
 }
 
@@ -137,23 +137,23 @@ TEST_F(IsUSBConnection, AnswersTheSameForEveryProduct) {
     SCOPED_TRACE(id);
     StartAfresh();
     EXPECT_EQ(ZTK_IsUSBConnection(id), 104u);
-    TheWorld().bus = {Mixer()};
+    CurrentWorld().bus = {Mixer()};
     EXPECT_EQ(ZTK_IsUSBConnection(id), 103u);
     EXPECT_THAT(TakeSteps(), ElementsAre("count", "count"));
   }
 }
 
 TEST_F(IsUSBConnection, CountsNothingWhenTheBusCannotBeRead) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().hasMatching = false;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().hasMatching = false;
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);
-  TheWorld().hasMatching = true;
-  TheWorld().findResult = platform::usb::kError;
+  CurrentWorld().hasMatching = true;
+  CurrentWorld().findResult = platform::usb::kError;
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);
-  TheWorld().findResult = 0;
-  TheWorld().hasIterator = false;
+  CurrentWorld().findResult = 0;
+  CurrentWorld().hasIterator = false;
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);
-  TheWorld().hasIterator = true;
+  CurrentWorld().hasIterator = true;
   EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
 }
 

@@ -158,12 +158,13 @@ TEST_F(GetFirmwareVersionIndex, IsZeroWhenNoMixerAnswers) {
   const Told zero{.result = 100, .output = 0};
   EXPECT_EQ(Ask({}, FirmwareVersion), zero);
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
-  EXPECT_EQ(Ask({Mixer(), WithoutPlugIn(Stranger())}, FirmwareVersion), zero);
+  EXPECT_EQ(Ask({Mixer(), WithoutPlugIn(OtherDevice())}, FirmwareVersion),
+            zero);
   EXPECT_THAT(TakeSteps(), ElementsAre("count", "open 1"));
 }
 
 TEST_F(GetFirmwareVersionIndex, OpensNothingWhereNoMixerIsCounted) {
-  EXPECT_EQ(Ask({Stranger(), Stranger()}, FirmwareVersion),
+  EXPECT_EQ(Ask({OtherDevice(), OtherDevice()}, FirmwareVersion),
             (Told{.result = 100, .output = 0}));
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
   const auto calls = TakeCalls();
@@ -306,8 +307,9 @@ TEST_F(GetMixerSeratoActiveStatus, AsksEveryMixerThatOpens) {
 
 TEST_F(GetMixerSeratoActiveStatus, SearchesTheBusOnceForEachMixer) {
   std::uint32_t active = 77;
-  TheWorld().bus = {MixerAnswering(kSerato, {.result = 0, .bytes = {1, 0}}),
-                    MixerAnswering(kSerato, {.result = 0, .bytes = {1, 0}})};
+  CurrentWorld().bus = {
+      MixerAnswering(kSerato, {.result = 0, .bytes = {1, 0}}),
+      MixerAnswering(kSerato, {.result = 0, .bytes = {1, 0}})};
   EXPECT_EQ(ZTK_GetMixerSeratoActiveStatus(10, &active), 100u);
   const std::vector<std::string> calls = TakeCalls();
   EXPECT_EQ(std::count(calls.begin(), calls.end(), "find every service"), 2);
@@ -343,8 +345,8 @@ class StatusQueries : public StatusTest {};
 TEST_F(StatusQueries, HoldOnlyWhatOneCountLeaves) {
   for (const Query &query : {Query(CertifyLevel), Query(FirmwareVersion),
                              SelectorOf(0), Query(Serato)}) {
-    Ask({Stranger(), Mixer()}, query);
-    EXPECT_EQ(TheWorld().held, OneCount());
+    Ask({OtherDevice(), Mixer()}, query);
+    EXPECT_EQ(CurrentWorld().held, OneCount());
   }
 }
 

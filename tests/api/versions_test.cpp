@@ -28,17 +28,17 @@ class VersionTest : public ApiTest {
 
   // Every file at both places, each with another text under either key.
   static void InstallEverything() {
-    TheWorld().files = {{kSystemFile, {{"ProductVersion", "10.13.6"}}},
-                        {kPkgFile, {{"PackageVersion", "package"}}},
-                        {kUtilityFile, Info("utility")},
-                        {kNewDriver, Info("new driver")},
-                        {kOldDriver, Info("old driver")},
-                        {kNewLibrary, Info("new library")},
-                        {kOldLibrary, Info("old library")}};
+    CurrentWorld().files = {{kSystemFile, {{"ProductVersion", "10.13.6"}}},
+                            {kPkgFile, {{"PackageVersion", "package"}}},
+                            {kUtilityFile, Info("utility")},
+                            {kNewDriver, Info("new driver")},
+                            {kOldDriver, Info("old driver")},
+                            {kNewLibrary, Info("new library")},
+                            {kOldLibrary, Info("old library")}};
   }
 
   static void SetSystem(const fake::Value &version) {
-    TheWorld().files[kSystemFile] = {{"ProductVersion", version}};
+    CurrentWorld().files[kSystemFile] = {{"ProductVersion", version}};
   }
 
   static std::string Told(VersionFunction function) {
@@ -98,11 +98,11 @@ TEST_F(GetPkgVersionText, ReadsTheReceiptAndNothingElse) {
 }
 
 TEST_F(GetPkgVersionText, RejectsAMissingReceiptAndOneWithoutItsKey) {
-  TheWorld().files[kPkgFile] = {{"CFBundleVersion", "1"}};
+  CurrentWorld().files[kPkgFile] = {{"CFBundleVersion", "1"}};
   EXPECT_EQ(Told(ZTK_GetPkgVersionText), "102 untouched");
-  TheWorld().files.erase(kPkgFile);
+  CurrentWorld().files.erase(kPkgFile);
   EXPECT_EQ(Told(ZTK_GetPkgVersionText), "102 untouched");
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 class GetUtilityVersionText : public VersionTest {};
@@ -114,9 +114,9 @@ TEST_F(GetUtilityVersionText, ReadsTheBuildVersionAndNothingElse) {
 }
 
 TEST_F(GetUtilityVersionText, RejectsAMissingFileAndAShortVersionAlone) {
-  TheWorld().files[kUtilityFile] = {{"CFBundleShortVersionString", "1"}};
+  CurrentWorld().files[kUtilityFile] = {{"CFBundleShortVersionString", "1"}};
   EXPECT_EQ(Told(ZTK_GetUtilityVersionText), "102 untouched");
-  TheWorld().files.erase(kUtilityFile);
+  CurrentWorld().files.erase(kUtilityFile);
   EXPECT_EQ(Told(ZTK_GetUtilityVersionText), "102 untouched");
 }
 
@@ -124,7 +124,7 @@ class GetDriverVersionText : public VersionTest {};
 
 TEST_F(GetDriverVersionText, TellsTheShortVersionWhereTheOthersTellTheirBuild) {
   EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 new driver short");
-  TheWorld().files[kNewDriver] = {{"CFBundleVersion", "1"}};
+  CurrentWorld().files[kNewDriver] = {{"CFBundleVersion", "1"}};
   EXPECT_EQ(Told(ZTK_GetDriverVersionText), "102 untouched");
 }
 
@@ -144,9 +144,9 @@ TEST_F(GetDriverVersionText, TakesTheOlderPlaceWhenTheSystemIsUnknown) {
   EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 old driver short");
   SetSystem(std::monostate{});
   EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 old driver short");
-  TheWorld().files[kSystemFile] = {{"ProductBuildVersion", "10.15"}};
+  CurrentWorld().files[kSystemFile] = {{"ProductBuildVersion", "10.15"}};
   EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 old driver short");
-  TheWorld().files.erase(kSystemFile);
+  CurrentWorld().files.erase(kSystemFile);
   EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 old driver short");
   EXPECT_THAT(FilesRead(),
               ElementsAre(kSystemFile, kOldDriver, kSystemFile, kOldDriver,
@@ -155,22 +155,22 @@ TEST_F(GetDriverVersionText, TakesTheOlderPlaceWhenTheSystemIsUnknown) {
 
 TEST_F(GetDriverVersionText, DoesNotTryTheOtherPlace) {
   SetSystem("10.10");
-  TheWorld().files.erase(kOldDriver);
+  CurrentWorld().files.erase(kOldDriver);
   EXPECT_EQ(Told(ZTK_GetDriverVersionText), "102 untouched");
   EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, kOldDriver));
 
   InstallEverything();
-  TheWorld().files.erase(kNewDriver);
+  CurrentWorld().files.erase(kNewDriver);
   EXPECT_EQ(Told(ZTK_GetDriverVersionText), "102 untouched");
   EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, kNewDriver));
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 class GetLibraryVersionText : public VersionTest {};
 
 TEST_F(GetLibraryVersionText, TellsTheBuildVersion) {
   EXPECT_EQ(Told(ZTK_GetLibraryVersionText), "100 new library build");
-  TheWorld().files[kNewLibrary] = {{"CFBundleShortVersionString", "1"}};
+  CurrentWorld().files[kNewLibrary] = {{"CFBundleShortVersionString", "1"}};
   EXPECT_EQ(Told(ZTK_GetLibraryVersionText), "102 untouched");
 }
 
@@ -186,13 +186,13 @@ TEST_F(GetLibraryVersionText, ChoosesItsPlaceByTheSecondNumberOfTheSystem) {
 }
 
 TEST_F(GetLibraryVersionText, DoesNotTryTheOtherPlace) {
-  TheWorld().files.erase(kNewLibrary);
+  CurrentWorld().files.erase(kNewLibrary);
   EXPECT_EQ(Told(ZTK_GetLibraryVersionText), "102 untouched");
   EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, kNewLibrary));
 
   InstallEverything();
-  TheWorld().files.erase(kSystemFile);
-  TheWorld().files.erase(kOldLibrary);
+  CurrentWorld().files.erase(kSystemFile);
+  CurrentWorld().files.erase(kOldLibrary);
   EXPECT_EQ(Told(ZTK_GetLibraryVersionText), "102 untouched");
   EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, kOldLibrary));
 }
@@ -204,7 +204,7 @@ constexpr VersionFunction kAllFour[] = {
 class VersionTexts : public VersionTest {
  protected:
   static void SetEveryVersion(const fake::Value &version) {
-    for (auto &[path, entries] : TheWorld().files) {
+    for (auto &[path, entries] : CurrentWorld().files) {
       if (path == kSystemFile) continue;
       entries = {{"PackageVersion", version},
                  {"CFBundleShortVersionString", version},
@@ -247,18 +247,18 @@ TEST_F(VersionTexts, AreRefusedToOtherProductsAlthoughEveryFileIsThere) {
 }
 
 TEST_F(VersionTexts, AskNoMixerAndHoldNothing) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (const VersionFunction function : kAllFour) {
     EXPECT_EQ(Told(function).substr(0, 3), "100");
   }
   EXPECT_THAT(TakeSteps(), IsEmpty());
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(VersionTexts, OutliveTheFileTheyCameFrom) {
   ZTKTextRef text = nullptr;
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 100u);
-  TheWorld().files.clear();
+  CurrentWorld().files.clear();
   EXPECT_EQ(Plain(text), "package");
 }
 

@@ -25,11 +25,11 @@ class GetWarningTextForSetUSBAudioInput : public ApiTest {
   // A new system, the bundle at both places, and every language in the newer
   // one: "Japanese 2" stands under "WARNING2" there.
   static void Install() {
-    TheWorld().files[kSystemFile] = {{"ProductVersion", "10.13.6"}};
-    TheWorld().bundles[kNewBundle] = BundleAt("/new");
-    TheWorld().bundles[kOldBundle] = BundleAt("/old");
+    CurrentWorld().files[kSystemFile] = {{"ProductVersion", "10.13.6"}};
+    CurrentWorld().bundles[kNewBundle] = BundleAt("/new");
+    CurrentWorld().bundles[kOldBundle] = BundleAt("/old");
     for (const std::string folder : kFolders) {
-      TheWorld().files["/new/" + folder + ".lproj/Localizable.strings"] = {
+      CurrentWorld().files["/new/" + folder + ".lproj/Localizable.strings"] = {
           {"WARNING", folder + " 0"},
           {"WARNING1", folder + " 1"},
           {"WARNING2", folder + " 2"},
@@ -70,7 +70,7 @@ class GetWarningTextForSetUSBAudioInput : public ApiTest {
 };
 
 TEST_F(GetWarningTextForSetUSBAudioInput, ReadsTheFolderOfEachLanguage) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (std::uint32_t language = 0; language < 12; ++language) {
     const std::string folder = kFolders[language];
     SCOPED_TRACE(folder);
@@ -83,14 +83,14 @@ TEST_F(GetWarningTextForSetUSBAudioInput, ReadsTheFolderOfEachLanguage) {
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput, TakesTheUsersLanguageFor99) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(Ask(kUsersOwn), "100 /new own 2");
   EXPECT_THAT(Lookups(), ElementsAre(std::string("read file ") + kSystemFile,
                                      std::string("bundle at ") + kNewBundle,
                                      "localized WARNING2 of Localizable"));
-  TheWorld().bus = {Port({1, 0})};
+  CurrentWorld().bus = {Port({1, 0})};
   EXPECT_EQ(Ask(kUsersOwn), "100 /new own 3");
-  TheWorld().bus = {};
+  CurrentWorld().bus = {};
   EXPECT_EQ(Ask(kUsersOwn), "100 /new own 1");
 }
 
@@ -117,8 +117,8 @@ TEST_F(GetWarningTextForSetUSBAudioInput,
         TakeSteps(),
         ElementsAre("count", "open 1", "mixer 1: c0 00 0000 8006 0002 -> 00 00",
                     "close 1"));
-    EXPECT_EQ(TheWorld().held, OneCount());
-    TheWorld().bus = {};
+    EXPECT_EQ(CurrentWorld().held, OneCount());
+    CurrentWorld().bus = {};
     EXPECT_EQ(Ask(language), "102 untouched");
     EXPECT_THAT(TakeSteps(), ElementsAre("count"));
   }
@@ -126,7 +126,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput,
 
 TEST_F(GetWarningTextForSetUSBAudioInput,
        RefusesTheLastChannelAlthoughItCanBeSet) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (std::uint32_t channel = 0; channel < 4; ++channel) {
     EXPECT_EQ(Ask(0, channel), "100 English 2") << channel;
   }
@@ -138,7 +138,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput,
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput, RefusesAnythingButAWarning) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   for (const std::uint32_t code :
        {0u, 1u, 99u, 100u, 102u, 103u, 104u, 0x80000065u, 0xFFFFFFFFu}) {
     ZTKTextRef text = kUntouchedText;
@@ -151,7 +151,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, RefusesAnythingButAWarning) {
 
 // A language of 12 would be refused too, but with a trace on the bus.
 TEST_F(GetWarningTextForSetUSBAudioInput, ChecksTheOtherArgumentsFirst) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTKTextRef text = kUntouchedText;
   EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(8, 0, 101, 12, &text), 102u);
   EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 4, 101, 12, &text), 102u);
@@ -180,24 +180,24 @@ TEST_F(GetWarningTextForSetUSBAudioInput, ChoosesTheSentenceByThePortState) {
       {"does not open", UnreachableMixer(), "100 Japanese 2"}};
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
-    TheWorld().bus = {row.mixer};
+    CurrentWorld().bus = {row.mixer};
     EXPECT_EQ(Ask(kJapanese), row.expected);
   }
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput, AsksTheFirstMixerOnly) {
-  TheWorld().bus = {Mixer(), Port({1, 0})};
+  CurrentWorld().bus = {Mixer(), Port({1, 0})};
   EXPECT_EQ(Ask(0), "100 English 2");
   EXPECT_THAT(TakeSteps(),
               ElementsAreArray(Join({{"count"}, Visit(1, kReadPort)})));
-  TheWorld().bus = {UnreachableMixer(), Port({1, 0})};
+  CurrentWorld().bus = {UnreachableMixer(), Port({1, 0})};
   EXPECT_EQ(Ask(0), "100 English 2");
   EXPECT_THAT(TakeSteps(), ElementsAre("count", "cannot open 1"));
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput,
        TakesAMixerForPresentThatIsCountedAndDoesNotOpen) {
-  TheWorld().bus = {UnreachableMixer()};
+  CurrentWorld().bus = {UnreachableMixer()};
   EXPECT_EQ(Ask(kJapanese), "100 Japanese 2");
   EXPECT_EQ(Ask(kUsersOwn), "100 /new own 2");
 }
@@ -213,19 +213,20 @@ TEST_F(GetWarningTextForSetUSBAudioInput, ChoosesTheBundleByTheSystemVersion) {
               {"10.", "100 /old own 1"}};
   for (const auto &row : rows) {
     SCOPED_TRACE(row.version);
-    TheWorld().files[kSystemFile] = {{"ProductVersion", row.version}};
+    CurrentWorld().files[kSystemFile] = {{"ProductVersion", row.version}};
     EXPECT_EQ(Ask(0), row.expected);
   }
-  TheWorld().files[kSystemFile] = {{"ProductVersion", 11}};
+  CurrentWorld().files[kSystemFile] = {{"ProductVersion", 11}};
   EXPECT_EQ(Ask(0), "100 /old own 1");
-  TheWorld().files.erase(kSystemFile);
+  CurrentWorld().files.erase(kSystemFile);
   EXPECT_EQ(Ask(0), "100 /old own 1");
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput, ReadsTheLanguageFromTheOlderBundle) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().files[kSystemFile] = {{"ProductVersion", "10.10"}};
-  TheWorld().files["/old/ko.lproj/Localizable.strings"] = {{"WARNING2", "yes"}};
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().files[kSystemFile] = {{"ProductVersion", "10.10"}};
+  CurrentWorld().files["/old/ko.lproj/Localizable.strings"] = {
+      {"WARNING2", "yes"}};
   EXPECT_EQ(Ask(11), "100 yes");
   EXPECT_THAT(Lookups(),
               ElementsAre(std::string("read file ") + kSystemFile,
@@ -234,18 +235,18 @@ TEST_F(GetWarningTextForSetUSBAudioInput, ReadsTheLanguageFromTheOlderBundle) {
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput, IsNullWithoutTheBundle) {
-  TheWorld().bundles.erase(kNewBundle);
+  CurrentWorld().bundles.erase(kNewBundle);
   EXPECT_EQ(Ask(kJapanese), "100 (null)");
   EXPECT_EQ(Ask(kUsersOwn), "100 (null)");
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(Ask(kJapanese), "100 (null)");
   EXPECT_EQ(Ask(kUsersOwn), "100 (null)");
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 4, .numbers = 8}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 4, .numbers = 8}));
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput, IsNullWithoutTheLanguage) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().files.erase("/new/Japanese.lproj/Localizable.strings");
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().files.erase("/new/Japanese.lproj/Localizable.strings");
   EXPECT_EQ(Ask(kJapanese), "100 (null)");
   EXPECT_EQ(Ask(0), "100 English 2");
 }
@@ -253,31 +254,31 @@ TEST_F(GetWarningTextForSetUSBAudioInput, IsNullWithoutTheLanguage) {
 TEST_F(GetWarningTextForSetUSBAudioInput,
        IsNullWhenTheLanguageLacksTheSentenceThatIsDue) {
   const std::string file = "/new/Japanese.lproj/Localizable.strings";
-  TheWorld().bus = {Port({1, 0})};
-  TheWorld().files[file] = {{"WARNING2", "two"}};
+  CurrentWorld().bus = {Port({1, 0})};
+  CurrentWorld().files[file] = {{"WARNING2", "two"}};
   EXPECT_EQ(Ask(kJapanese), "100 (null)");
-  TheWorld().files[file] = {{"WARNING2", "two"}, {"WARNING3", 3}};
+  CurrentWorld().files[file] = {{"WARNING2", "two"}, {"WARNING3", 3}};
   EXPECT_EQ(Ask(kJapanese), "100 (null)");
-  TheWorld().bus = {Mixer()};
-  TheWorld().files[file] = {{"WARNING3", "three"}};
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().files[file] = {{"WARNING3", "three"}};
   EXPECT_EQ(Ask(kJapanese), "100 (null)");
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput, IsTheKeyWhenTheBundleLacksItsText) {
-  TheWorld().bundles[kNewBundle].preferredTexts.clear();
+  CurrentWorld().bundles[kNewBundle].preferredTexts.clear();
   EXPECT_EQ(Ask(kJapanese), "100 WARNING1");
-  TheWorld().bus = {Port({1, 0})};
+  CurrentWorld().bus = {Port({1, 0})};
   EXPECT_EQ(Ask(kUsersOwn), "100 WARNING3");
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput,
        StoresAndPostsNothingAndHoldsNothing) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(Ask(kJapanese), "100 Japanese 2");
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 1",
                           "mixer 1: c0 00 0000 8006 0002 -> 00 00", "close 1"));
-  EXPECT_EQ(TheWorld().held, OneCount());
+  EXPECT_EQ(CurrentWorld().held, OneCount());
 }
 
 }  // namespace

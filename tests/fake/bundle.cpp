@@ -13,15 +13,15 @@ struct Bundle {
   fake::Bundle contents;
 };
 
+using fake::CurrentWorld;
 using fake::LogCall;
-using fake::TheWorld;
 using test::Plain;
 
 Bundle *AtPath(ZTKTextRef path) {
   LogCall(std::string("bundle at ") + Plain(path));
-  const auto bundle = TheWorld().bundles.find(Plain(path));
-  if (bundle == TheWorld().bundles.end()) return nullptr;
-  ++TheWorld().held.bundles;
+  const auto bundle = CurrentWorld().bundles.find(Plain(path));
+  if (bundle == CurrentWorld().bundles.end()) return nullptr;
+  ++CurrentWorld().held.bundles;
   return new Bundle{.contents = bundle->second};
 }
 
@@ -49,7 +49,7 @@ ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
 void Release(Bundle *bundle) {
   if (bundle == nullptr) return;
   LogCall("release bundle");
-  --TheWorld().held.bundles;
+  --CurrentWorld().held.bundles;
   delete bundle;
 }
 

@@ -19,9 +19,9 @@ struct UserInfo {
 
 namespace {
 
+using fake::CurrentWorld;
 using fake::LogCall;
 using fake::LogStep;
-using fake::TheWorld;
 using test::Plain;
 
 UserInfo *Keep(UserInfo userInfo) {
@@ -47,7 +47,7 @@ UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
     userInfo.entries.emplace_back(Plain(entries[i].key), entries[i].value);
   }
   LogCall("make info " + Describe(&userInfo));
-  ++TheWorld().held.userInfos;
+  ++CurrentWorld().held.userInfos;
   return Keep(std::move(userInfo));
 }
 
@@ -58,11 +58,11 @@ void Release(UserInfo *userInfo) {
   }
   LogCall("release info " + Describe(userInfo));
   if (userInfo->references <= 0) {
-    TheWorld().misuse.push_back("released too often: info");
+    CurrentWorld().misuse.push_back("released too often: info");
     return;
   }
   --userInfo->references;
-  --TheWorld().held.userInfos;
+  --CurrentWorld().held.userInfos;
 }
 
 std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
@@ -75,21 +75,21 @@ std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
 
 PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   if (userInfo->references <= 0) {
-    TheWorld().misuse.push_back("posted after release: info");
+    CurrentWorld().misuse.push_back("posted after release: info");
   }
   const char *when =
       delivery == Delivery::Immediately ? " immediately" : " by default";
   LogCall(std::string("post ") + Plain(name));
   LogStep(std::string("post ") + Plain(name) + " " + Describe(userInfo) + when);
-  return TheWorld().postResult;
+  return CurrentWorld().postResult;
 }
 
 void AddObserver(void *observer, const Method &method, ZTKTextRef name) {
   LogCall(std::string("observe ") + Plain(name) + " with " + method.selector);
   LogStep(std::string("observe ") + Plain(name) + " with " + method.selector);
-  TheWorld().observations.push_back(
+  CurrentWorld().observations.push_back(
       {.name = Plain(name), .observer = observer, .method = method});
-  if (TheWorld().onObserve) TheWorld().onObserve();
+  if (CurrentWorld().onObserve) CurrentWorld().onObserve();
 }
 
 }  // namespace ztk::platform::notification_center
@@ -101,7 +101,7 @@ void Deliver(const std::string &name,
   const platform::notification_center::UserInfo userInfo{.references = 1,
                                                          .entries = entries};
   // A method may register more observers; these get the next notification.
-  const std::vector<Observation> observations = TheWorld().observations;
+  const std::vector<Observation> observations = CurrentWorld().observations;
   for (const Observation &observation : observations) {
     if (observation.name != name) continue;
     observation.method.code(observation.observer, &userInfo);

@@ -8,7 +8,7 @@
 namespace ztk::platform::paths {
 
 ZTKTextRef UserLibrary() {
-  const fake::World &world = fake::TheWorld();
+  const fake::World &world = fake::CurrentWorld();
   if (!world.hasLibrary) return nullptr;
   return text::Format(ZTK_TEXT("%@"), test::Lasting(world.library));
 }

@@ -19,9 +19,9 @@ struct Change {
 
 namespace {
 
+using fake::CurrentWorld;
 using fake::LogCall;
 using fake::LogStep;
-using fake::TheWorld;
 using test::Plain;
 
 std::string Describe(const fake::Value &value) {
@@ -36,10 +36,10 @@ std::string Describe(const fake::Value &value) {
 
 // The result of reading the file, and its entries when it can be read.
 ReadResult Find(const std::string &path, fake::Entries *entries) {
-  const auto failure = TheWorld().readFailures.find(path);
-  if (failure != TheWorld().readFailures.end()) return failure->second;
-  const auto file = TheWorld().files.find(path);
-  if (file == TheWorld().files.end()) return {.state = ReadState::Absent};
+  const auto failure = CurrentWorld().readFailures.find(path);
+  if (failure != CurrentWorld().readFailures.end()) return failure->second;
+  const auto file = CurrentWorld().files.find(path);
+  if (file == CurrentWorld().files.end()) return {.state = ReadState::Absent};
   *entries = file->second;
   return {.state = ReadState::Read};
 }
@@ -52,7 +52,7 @@ ReadResult Read(ZTKTextRef path, Dictionary **dictionary) {
   fake::Entries entries;
   const ReadResult result = Find(Plain(path), &entries);
   if (result.state == ReadState::Read) {
-    ++TheWorld().held.dictionaries;
+    ++CurrentWorld().held.dictionaries;
     *dictionary = new Dictionary{.entries = entries};
   }
   return result;
@@ -66,20 +66,20 @@ Dictionary *ReadFile(ZTKTextRef path) {
 
 Change *BeginChange(ZTKTextRef path) {
   LogCall(std::string("begin change of ") + Plain(path));
-  ++TheWorld().held.changes;
+  ++CurrentWorld().held.changes;
   return new Change{.path = Plain(path)};
 }
 
 void EndChange(Change *change) {
   if (change == nullptr) return;
   LogCall("end change of " + change->path);
-  --TheWorld().held.changes;
+  --CurrentWorld().held.changes;
   delete change;
 }
 
 Dictionary *MakeDictionary() {
   LogCall("make dictionary");
-  ++TheWorld().held.dictionaries;
+  ++CurrentWorld().held.dictionaries;
   return new Dictionary{};
 }
 
@@ -133,18 +133,18 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
   }
   LogCall(std::string("write ") + Plain(path));
   LogStep(step + "}");
-  if (!TheWorld().canWrite) {
-    if (error != nullptr) *error = TheWorld().writeError;
+  if (!CurrentWorld().canWrite) {
+    if (error != nullptr) *error = CurrentWorld().writeError;
     return false;
   }
-  TheWorld().files[Plain(path)] = dictionary->entries;
+  CurrentWorld().files[Plain(path)] = dictionary->entries;
   return true;
 }
 
 void Release(Dictionary *dictionary) {
   if (dictionary == nullptr) return;
   LogCall("release dictionary");
-  --TheWorld().held.dictionaries;
+  --CurrentWorld().held.dictionaries;
   delete dictionary;
 }
 

@@ -45,9 +45,9 @@ struct Device {
 
 namespace {
 
+using fake::CurrentWorld;
 using fake::LogCall;
 using fake::LogStep;
-using fake::TheWorld;
 
 template <typename Object>
 Object *Keep(Object object) {
@@ -59,7 +59,7 @@ template <typename Object>
 void Release(Object *object, int *held, const char *what) {
   LogCall(std::string("release ") + what);
   if (object == nullptr || object->references <= 0) {
-    TheWorld().misuse.push_back(std::string("released too often: ") + what);
+    CurrentWorld().misuse.push_back(std::string("released too often: ") + what);
     return;
   }
   --object->references;
@@ -69,7 +69,7 @@ void Release(Object *object, int *held, const char *what) {
 template <typename Object>
 void Use(const Object *object, const char *what) {
   if (object != nullptr && object->references > 0) return;
-  TheWorld().misuse.push_back(std::string("used after release: ") + what);
+  CurrentWorld().misuse.push_back(std::string("used after release: ") + what);
 }
 
 bool IsMixer(const fake::Device &device) {
@@ -77,12 +77,12 @@ bool IsMixer(const fake::Device &device) {
 }
 
 fake::Device &DeviceAt(std::size_t position) {
-  return TheWorld().bus.at(position);
+  return CurrentWorld().bus.at(position);
 }
 
 // Counts mixers only, from 1.
 int MixerNumber(std::size_t position) {
-  const auto &bus = TheWorld().bus;
+  const auto &bus = CurrentWorld().bus;
   const auto end = bus.begin() + static_cast<std::ptrdiff_t>(position) + 1;
   return static_cast<int>(std::count_if(bus.begin(), end, IsMixer));
 }
@@ -105,27 +105,27 @@ virtual_mixer::TransferStatus TransferStatusOf(Code result) {
 Code GetMasterPort(Port *port) {
   LogCall("get master port");
   *port = nullptr;
-  const Code result = TheWorld().masterPortResult;
+  const Code result = CurrentWorld().masterPortResult;
   if (result != kSuccess) return result;
-  ++TheWorld().held.ports;
+  ++CurrentWorld().held.ports;
   *port = Keep(PortObject{.references = 1});
   return kSuccess;
 }
 
 void ReleaseMasterPort(Port port) {
-  Release(port, &TheWorld().held.ports, "master port");
+  Release(port, &CurrentWorld().held.ports, "master port");
 }
 
 Matching *CreateMatching(const char *className) {
   LogCall(std::string("create matching ") + className);
-  if (!TheWorld().hasMatching) return nullptr;
-  ++TheWorld().held.matchings;
+  if (!CurrentWorld().hasMatching) return nullptr;
+  ++CurrentWorld().held.matchings;
   return Keep(Matching{.references = 1, .narrowed = false});
 }
 
 Number *MakeNumber(std::int32_t value) {
   LogCall("make number " + std::to_string(value));
-  ++TheWorld().held.numbers;
+  ++CurrentWorld().held.numbers;
   return Keep(Number{.value = value});
 }
 
@@ -140,13 +140,13 @@ Code FindServices(Port /*port*/, Matching *matching, Iterator *iterator) {
   LogCall(counting ? "find services that match" : "find every service");
   Use(matching, "matching");
   matching->references = 0;
-  --TheWorld().held.matchings;
+  --CurrentWorld().held.matchings;
   if (counting) LogStep("count");
 
   *iterator = nullptr;
-  if (TheWorld().findResult != kSuccess) return TheWorld().findResult;
-  if (!TheWorld().hasIterator) return kSuccess;
-  ++TheWorld().held.iterators;
+  if (CurrentWorld().findResult != kSuccess) return CurrentWorld().findResult;
+  if (!CurrentWorld().hasIterator) return kSuccess;
+  ++CurrentWorld().held.iterators;
   *iterator =
       Keep(IteratorObject{.references = 1, .counting = counting, .next = 0});
   return kSuccess;
@@ -154,21 +154,21 @@ Code FindServices(Port /*port*/, Matching *matching, Iterator *iterator) {
 
 Service NextService(Iterator iterator) {
   Use(iterator, "iterator");
-  const auto &bus = TheWorld().bus;
+  const auto &bus = CurrentWorld().bus;
   std::size_t &next = iterator->next;
   while (iterator->counting && next < bus.size() && !IsMixer(bus[next])) ++next;
   LogCall(next < bus.size() ? "next service" : "no further service");
   if (next >= bus.size()) return nullptr;
-  ++TheWorld().held.services;
+  ++CurrentWorld().held.services;
   return Keep(ServiceObject{.references = 1, .position = next++});
 }
 
 void ReleaseService(Service service) {
-  Release(service, &TheWorld().held.services, "service");
+  Release(service, &CurrentWorld().held.services, "service");
 }
 
 void ReleaseIterator(Iterator iterator) {
-  Release(iterator, &TheWorld().held.iterators, "iterator");
+  Release(iterator, &CurrentWorld().held.iterators, "iterator");
 }
 
 Code CreatePlugIn(Service service, PlugIn **plugIn) {
@@ -178,7 +178,7 @@ Code CreatePlugIn(Service service, PlugIn **plugIn) {
   const Code result = DeviceAt(service->position).plugInResult;
   if (result != kSuccess) return result;
   if (!DeviceAt(service->position).hasPlugIn) return kSuccess;
-  ++TheWorld().held.plugIns;
+  ++CurrentWorld().held.plugIns;
   *plugIn = Keep(PlugIn{.references = 1, .position = service->position});
   return kSuccess;
 }
@@ -187,12 +187,12 @@ Device *QueryDevice(PlugIn *plugIn) {
   Use(plugIn, "plug-in");
   LogCall("query device interface");
   if (!DeviceAt(plugIn->position).hasInterface) return nullptr;
-  ++TheWorld().held.interfaces;
+  ++CurrentWorld().held.interfaces;
   return Keep(Device{.references = 1, .position = plugIn->position});
 }
 
 void ReleasePlugIn(PlugIn *plugIn) {
-  Release(plugIn, &TheWorld().held.plugIns, "plug-in");
+  Release(plugIn, &CurrentWorld().held.plugIns, "plug-in");
 }
 
 Code GetDeviceClass(Device *device, std::uint8_t *deviceClass) {
@@ -233,7 +233,7 @@ Device *MakeReady(Device *device, Result *result) {
   if (!DeviceAt(device->position).canBeReached) {
     LogStep("cannot open " + mixer);
     device->references = 0;
-    --TheWorld().held.interfaces;
+    --CurrentWorld().held.interfaces;
     *result = DeviceAt(device->position).openResult;
     return nullptr;
   }
@@ -283,7 +283,7 @@ Code CloseDevice(Device *device) {
 }
 
 std::uint32_t ReleaseDevice(Device *device) {
-  Release(device, &TheWorld().held.interfaces, "device interface");
+  Release(device, &CurrentWorld().held.interfaces, "device interface");
   return device == nullptr ? 0 : DeviceAt(device->position).referencesOfOthers;
 }
 

@@ -19,20 +19,24 @@ Device MixerAnswering(std::uint16_t reg, Answer answer) {
   return mixer;
 }
 
-Device Stranger() {
-  Device stranger;
-  stranger.vendor = 0x1D6B;
-  stranger.product = 2;
-  return stranger;
+Device OtherDevice() {
+  Device device;
+  device.vendor = 0x1D6B;
+  device.product = 2;
+  return device;
 }
 
-World &TheWorld() {
+World &CurrentWorld() {
   static World world;
   return world;
 }
 
-void LogCall(std::string call) { TheWorld().calls.push_back(std::move(call)); }
+void LogCall(std::string call) {
+  CurrentWorld().calls.push_back(std::move(call));
+}
 
-void LogStep(std::string step) { TheWorld().steps.push_back(std::move(step)); }
+void LogStep(std::string step) {
+  CurrentWorld().steps.push_back(std::move(step));
+}
 
 }  // namespace ztk::fake

@@ -58,7 +58,7 @@ Device Mixer();
 // The same with another answer to one read.
 Device MixerAnswering(std::uint16_t reg, Answer answer);
 // A device of another maker.
-Device Stranger();
+Device OtherDevice();
 
 // A value in a settings file; monostate is any value that is neither an integer
 // nor a text.
@@ -128,7 +128,7 @@ struct World {
 };
 
 // The one world. Assigning to it starts afresh.
-World &TheWorld();
+World &CurrentWorld();
 
 // Delivers a notification to all observers of its name, as if another process
 // had posted it.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library with files planted at their absolute paths, in a mount
+// The shipped library with test files at their absolute paths, in a mount
 // namespace of the test's own.
 #include "ZTKFunc.h"
 #include "build_config.h"
@@ -41,7 +41,7 @@ std::string System(const std::string &version) {
 }
 
 // All files that an installer creates, each with a different version.
-Planted Installed(const std::string &systemVersion) {
+RootFiles Installed(const std::string &systemVersion) {
   return {
       {kSystem, System(systemVersion)},
       {kReceipt, Dictionary({{"PackageVersion", "1.1"}})},
@@ -60,10 +60,10 @@ Planted Installed(const std::string &systemVersion) {
 
 class LibraryFiles : public LibraryWorld {
  protected:
-  // The output of the child with these files; skips the test when they cannot
-  // be planted.
-  void Run(const Planted &files, const std::vector<std::string> &arguments) {
-    output_ = RunChildInPlantedRoot(files, arguments);
+  // The output of the child with these files; skips the test when the system
+  // does not allow a temporary root.
+  void Run(const RootFiles &files, const std::vector<std::string> &arguments) {
+    output_ = RunChildInTemporaryRoot(files, arguments);
     if (output_.starts_with("skip: ")) GTEST_SKIP() << output_;
   }
 
@@ -98,7 +98,7 @@ TEST_F(LibraryFiles, OtherProductsHaveNoVersionsThoughAllFilesExist) {
 }
 
 TEST_F(LibraryFiles, AMissingFileOrKeyIsRefusedWithoutASecondTry) {
-  Planted files = Installed("10.10.5");
+  RootFiles files = Installed("10.10.5");
   files.erase(kOldDriver);
   files.erase(kOldLibrary);
   files.erase(kUtility);
@@ -110,7 +110,7 @@ TEST_F(LibraryFiles, AMissingFileOrKeyIsRefusedWithoutASecondTry) {
 }
 
 TEST_F(LibraryFiles, WithoutASystemVersionTheOlderPlaceIsRead) {
-  Planted files = Installed("10.15.7");
+  RootFiles files = Installed("10.15.7");
   files.erase(kSystem);
   Run(files, {"versions", "10"});
   EXPECT_EQ(output_,
@@ -119,7 +119,7 @@ TEST_F(LibraryFiles, WithoutASystemVersionTheOlderPlaceIsRead) {
 }
 
 TEST_F(LibraryFiles, AVersionThatIsNoTextIsRefused) {
-  Planted files = Installed("10.15.7");
+  RootFiles files = Installed("10.15.7");
   files[kReceipt] =
       "<plist version=\"1.0\"><dict><key>PackageVersion</key>"
       "<integer>7</integer></dict></plist>";
@@ -128,7 +128,7 @@ TEST_F(LibraryFiles, AVersionThatIsNoTextIsRefused) {
 }
 
 // A bundle with an English and a Japanese table.
-void AddBundle(Planted *files, const std::string &place,
+void AddBundle(RootFiles *files, const std::string &place,
                const std::string &mark) {
   const std::string resources =
       place + "/VRM-D6Setup.framework/Versions/A/Resources/";
@@ -140,8 +140,8 @@ void AddBundle(Planted *files, const std::string &place,
       {{"WARNING1", "Japanese 1 " + mark}, {"WARNING2", "Japanese 2 " + mark}});
 }
 
-Planted Bundles(const std::string &systemVersion) {
-  Planted files = {{kSystem, System(systemVersion)}};
+RootFiles Bundles(const std::string &systemVersion) {
+  RootFiles files = {{kSystem, System(systemVersion)}};
   AddBundle(&files, "/Library/Frameworks", "new");
   AddBundle(&files, "/System/Library/Frameworks", "old");
   return files;

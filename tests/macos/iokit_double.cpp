@@ -59,7 +59,7 @@ bool Matches(const Device &device, const Matching &wanted) {
 
 void References::Add() {
   ++count_;
-  ++(TheWorld().held.*kind_->held);
+  ++(CurrentWorld().held.*kind_->held);
 }
 
 bool References::Remove() {
@@ -68,7 +68,7 @@ bool References::Remove() {
     return false;
   }
   --count_;
-  --(TheWorld().held.*kind_->held);
+  --(CurrentWorld().held.*kind_->held);
   return count_ == 0;
 }
 
@@ -90,21 +90,23 @@ Device Mixer() {
 
 Device Hub() { return {.vendor = 0x1D6B, .product = 2, .replies = {}}; }
 
-World &TheWorld() {
+World &CurrentWorld() {
   static World world;
   return world;
 }
 
 void StartAfresh() {
-  TheWorld() = World{};
+  CurrentWorld() = World{};
   Names().clear();
   ForgetObjects();
 }
 
-void LogCall(std::string call) { TheWorld().calls.push_back(std::move(call)); }
+void LogCall(std::string call) {
+  CurrentWorld().calls.push_back(std::move(call));
+}
 
 void LogMisuse(std::string what) {
-  TheWorld().misuse.push_back(std::move(what));
+  CurrentWorld().misuse.push_back(std::move(what));
 }
 
 }  // namespace ztk::iokit
@@ -122,8 +124,8 @@ kern_return_t IOMasterPort(mach_port_t /*bootstrapPort*/,
   LogCall("IOMasterPort");
   // A failure leaves behind whatever it likes.
   *masterPort = kMasterPort;
-  if (TheWorld().masterPortResult != kIOReturnSuccess) {
-    return TheWorld().masterPortResult;
+  if (CurrentWorld().masterPortResult != kIOReturnSuccess) {
+    return CurrentWorld().masterPortResult;
   }
   const auto port = Names().find(kMasterPort);
   if (port == Names().end()) {
@@ -147,7 +149,7 @@ kern_return_t mach_port_deallocate(task_t task, mach_port_t name) {
 
 CFMutableDictionaryRef IOServiceMatching(const char *name) {
   LogCall(std::string("IOServiceMatching ") + name);
-  return TheWorld().hasMatching ? MakeMatching(name) : nullptr;
+  return CurrentWorld().hasMatching ? MakeMatching(name) : nullptr;
 }
 
 kern_return_t IOServiceGetMatchingServices(mach_port_t masterPort,
@@ -159,19 +161,19 @@ kern_return_t IOServiceGetMatchingServices(mach_port_t masterPort,
   if (masterPort != MACH_PORT_NULL) {
     At(masterPort, "IOServiceGetMatchingServices", kPort);
   }
-  if (TheWorld().findResult != kIOReturnSuccess) {
+  if (CurrentWorld().findResult != kIOReturnSuccess) {
     // A failure leaves behind whatever it likes.
     *existing = kMasterPort;
-    return TheWorld().findResult;
+    return CurrentWorld().findResult;
   }
   if (!wanted) return kIOReturnBadArgument;
 
   std::vector<std::size_t> found;
-  for (std::size_t i = 0; i < TheWorld().bus.size(); ++i) {
-    if (Matches(TheWorld().bus[i], *wanted)) found.push_back(i);
+  for (std::size_t i = 0; i < CurrentWorld().bus.size(); ++i) {
+    if (Matches(CurrentWorld().bus[i], *wanted)) found.push_back(i);
   }
   *existing = IO_OBJECT_NULL;
-  if (!found.empty() || TheWorld().hasEmptyIterator) {
+  if (!found.empty() || CurrentWorld().hasEmptyIterator) {
     *existing =
         Name({.references = References(kIterator), .found = std::move(found)});
   }
@@ -218,7 +220,7 @@ kern_return_t IOCreatePlugInInterfaceForService(io_service_t service,
     LogMisuse(std::string(kCall) + " for what is no USB device");
     return kIOReturnNoResources;
   }
-  const Device &device = TheWorld().bus.at(known->position);
+  const Device &device = CurrentWorld().bus.at(known->position);
   if (device.plugInResult != kIOReturnSuccess) return device.plugInResult;
   *score = 0;
   *plugIn = MakePlugIn(known->position);

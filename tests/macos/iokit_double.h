@@ -71,7 +71,7 @@ struct World {
   std::vector<std::string> misuse;
 };
 
-World &TheWorld();
+World &CurrentWorld();
 // A new world, to which no object of the last one is known.
 void StartAfresh();
 

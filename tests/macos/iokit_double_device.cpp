@@ -27,12 +27,12 @@ using Interface = Object<IOUSBDeviceInterface>;
 Interface *InterfaceAt(void *self) { return static_cast<Interface *>(self); }
 
 Device &DeviceOf(const Interface &interface) {
-  return TheWorld().bus.at(interface.position);
+  return CurrentWorld().bus.at(interface.position);
 }
 
 // As a person counts: from 1, mixers only.
 int MixerNumber(std::size_t position) {
-  const auto &bus = TheWorld().bus;
+  const auto &bus = CurrentWorld().bus;
   return static_cast<int>(std::count_if(
       bus.begin(), bus.begin() + static_cast<std::ptrdiff_t>(position) + 1,
       [](const Device &device) {
@@ -111,7 +111,7 @@ IOReturn Request(void *self, IOUSBDevRequest *request) {
     std::memcpy(request->pData, reply.bytes.data(), reply.bytes.size());
   }
   request->wLenDone = static_cast<UInt32>(reply.bytes.size());
-  TheWorld().requests.push_back(virtual_mixer::RequestLine(
+  CurrentWorld().requests.push_back(virtual_mixer::RequestLine(
       MixerNumber(interface.position),
       {.requestType = request->bmRequestType,
        .request = request->bRequest,
@@ -158,7 +158,7 @@ HRESULT QueryPlugIn(void *self, REFIID iid, LPVOID *out) {
   *out = nullptr;
   const auto *plugIn = static_cast<PlugIn *>(self);
   if (!plugIn->references.Use("QueryInterface")) return E_NOINTERFACE;
-  const Device &device = TheWorld().bus.at(plugIn->position);
+  const Device &device = CurrentWorld().bus.at(plugIn->position);
   if (!SameUuid(iid, CFUUIDGetUUIDBytes(kIOUSBDeviceInterfaceID))) {
     LogMisuse("QueryInterface for another interface");
     return E_NOINTERFACE;

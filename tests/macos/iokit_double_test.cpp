@@ -16,7 +16,7 @@ class IOKitDouble : public testing::Test {
  protected:
   IOKitDouble() {
     iokit::StartAfresh();
-    TheWorld().bus = {Mixer()};
+    CurrentWorld().bus = {Mixer()};
   }
 
   static mach_port_t Port() {
@@ -51,26 +51,28 @@ class IOKitDouble : public testing::Test {
     return static_cast<IOUSBDeviceInterface **>(interface);
   }
 
-  static const std::vector<std::string> &Misuse() { return TheWorld().misuse; }
+  static const std::vector<std::string> &Misuse() {
+    return CurrentWorld().misuse;
+  }
 };
 
 TEST_F(IOKitDouble, CountsWhatIsHeldByKind) {
   Interface();
   Port();
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 1,
-                                   .iterators = 1,
-                                   .services = 1,
-                                   .plugIns = 1,
-                                   .interfaces = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1,
+                                       .iterators = 1,
+                                       .services = 1,
+                                       .plugIns = 1,
+                                       .interfaces = 1}));
   EXPECT_THAT(Misuse(), IsEmpty());
 }
 
 TEST_F(IOKitDouble, CountsTheMasterPortByReferences) {
   const mach_port_t port = Port();
   EXPECT_EQ(Port(), port);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 2}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 2}));
   EXPECT_EQ(mach_port_deallocate(mach_task_self(), port), 0);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1}));
 }
 
 TEST_F(IOKitDouble, HoldsWhatADictionaryHoldsAsLongAsTheDictionary) {
@@ -82,11 +84,11 @@ TEST_F(IOKitDouble, HoldsWhatADictionaryHoldsAsLongAsTheDictionary) {
       kCFAllocatorDefault, "idProduct", kCFStringEncodingASCII);
   CFDictionarySetValue(matching, key, number);
   CFRelease(key);
-  EXPECT_EQ(TheWorld().held,
+  EXPECT_EQ(CurrentWorld().held,
             (Held{.dictionaries = 1, .numbers = 2, .strings = 1}));
   io_iterator_t iterator = IO_OBJECT_NULL;
   IOServiceGetMatchingServices(MACH_PORT_NULL, matching, &iterator);
-  EXPECT_EQ(TheWorld().held, (Held{.numbers = 1, .iterators = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.numbers = 1, .iterators = 1}));
   EXPECT_THAT(Misuse(), IsEmpty());
 }
 

@@ -30,23 +30,23 @@ inline void PrintTo(const Held &held, std::ostream *out) {
 
 namespace ztk::test {
 
+using iokit::CurrentWorld;
 using iokit::Held;
 using iokit::Hub;
 using iokit::Mixer;
-using iokit::TheWorld;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 class IOKitTest : public testing::Test {
  protected:
   IOKitTest() { iokit::StartAfresh(); }
-  ~IOKitTest() override { EXPECT_THAT(TheWorld().misuse, IsEmpty()); }
+  ~IOKitTest() override { EXPECT_THAT(CurrentWorld().misuse, IsEmpty()); }
 
   static std::vector<std::string> TakeCalls() {
-    return std::exchange(TheWorld().calls, {});
+    return std::exchange(CurrentWorld().calls, {});
   }
   static std::vector<std::string> TakeRequests() {
-    return std::exchange(TheWorld().requests, {});
+    return std::exchange(CurrentWorld().requests, {});
   }
 };
 

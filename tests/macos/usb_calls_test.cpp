@@ -16,7 +16,7 @@ class MacCalls : public IOKitTest {
  protected:
   // The first mixer of a bus that has only it. The log starts after that.
   static Connection Opened(const iokit::Device &mixer) {
-    TheWorld().bus = {mixer};
+    CurrentWorld().bus = {mixer};
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, 0), 0u);
     TakeCalls();
@@ -25,7 +25,7 @@ class MacCalls : public IOKitTest {
 };
 
 TEST_F(MacCalls, OfACount) {
-  TheWorld().bus = {Hub(), Mixer()};
+  CurrentWorld().bus = {Hub(), Mixer()};
   EXPECT_EQ(CheckUSBAudio(10), 1);
   EXPECT_THAT(
       TakeCalls(),
@@ -40,7 +40,7 @@ TEST_F(MacCalls, OfACount) {
 }
 
 TEST_F(MacCalls, OfASearch) {
-  TheWorld().bus = {WithoutPlugIn(), Hub(), Mixer()};
+  CurrentWorld().bus = {WithoutPlugIn(), Hub(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   EXPECT_THAT(
@@ -68,7 +68,7 @@ TEST_F(MacCalls, OfASearch) {
 TEST_F(MacCalls, OfADeviceStopAtItsFirstFailure) {
   iokit::Device silent = Mixer();
   silent.subClassResult = kIOReturnNotResponding;
-  TheWorld().bus = {silent};
+  CurrentWorld().bus = {silent};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0xE00002BCu);
   EXPECT_THAT(
@@ -83,22 +83,22 @@ TEST_F(MacCalls, OfADeviceStopAtItsFirstFailure) {
 }
 
 TEST_F(MacCalls, OfASearchWithoutAMasterPortEndThere) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().masterPortResult = kIOReturnNotResponding;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().masterPortResult = kIOReturnNotResponding;
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0xE00002BCu);
   EXPECT_THAT(TakeCalls(), ElementsAre("IOMasterPort"));
 }
 
 TEST_F(MacCalls, OfANullSlotAreNone) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(open_pipes(nullptr, 0), 0xE00002BCu);
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
 TEST_F(MacCalls, FindTheMixersInTheirOrder) {
-  TheWorld().bus = {Mixer(), Hub(), Mixer()};
-  TheWorld().bus[2].replies[0x8002] = {.bytes = {0, 1, 2, 3, 4}};
+  CurrentWorld().bus = {Mixer(), Hub(), Mixer()};
+  CurrentWorld().bus[2].replies[0x8002] = {.bytes = {0, 1, 2, 3, 4}};
   std::uint8_t buffer[8] = {};
   Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 1), 0u);
@@ -174,7 +174,7 @@ TEST_F(MacCalls, PassTheResultOfARequestOn) {
 }
 
 TEST_F(MacCalls, ReachEveryMixerWithOneRequestEach) {
-  TheWorld().bus = {Mixer(), Hub(), Mixer()};
+  CurrentWorld().bus = {Mixer(), Hub(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 2);
   // Deliberate: the hub after the first mixer makes no difference, a device
   // that fails there would.
@@ -183,7 +183,7 @@ TEST_F(MacCalls, ReachEveryMixerWithOneRequestEach) {
 }
 
 TEST_F(MacCalls, PassOverAMixerBeforeADeviceThatFails) {
-  TheWorld().bus = {Mixer(), WithoutPlugIn(), Mixer(), WithoutPlugIn()};
+  CurrentWorld().bus = {Mixer(), WithoutPlugIn(), Mixer(), WithoutPlugIn()};
   // The two that let no plug-in be made are mixers in the registry.
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 4);
   EXPECT_THAT(TakeRequests(), IsEmpty());

@@ -17,100 +17,100 @@ constexpr std::uint32_t kGeneralError = 0xE00002BC;
 class MacCount : public IOKitTest {};
 
 TEST_F(MacCount, LeavesTwoNumbersAndOnePortAndNothingElse) {
-  TheWorld().bus = {Hub(), Mixer(), OtherProduct(), Mixer()};
+  CurrentWorld().bus = {Hub(), Mixer(), OtherProduct(), Mixer()};
   EXPECT_EQ(CheckUSBAudio(10), 2);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 1, .numbers = 2}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1, .numbers = 2}));
   EXPECT_EQ(CheckUSBAudio(0), 2);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 2, .numbers = 4}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 2, .numbers = 4}));
 }
 
 TEST_F(MacCount, LeavesTheSameWhenNothingIsFound) {
   EXPECT_EQ(CheckUSBAudio(10), 0);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 1, .numbers = 2}));
-  TheWorld().hasEmptyIterator = false;
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1, .numbers = 2}));
+  CurrentWorld().hasEmptyIterator = false;
   EXPECT_EQ(CheckUSBAudio(10), 0);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 2, .numbers = 4}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 2, .numbers = 4}));
 }
 
 TEST_F(MacCount, LeavesTheSameWhenTheServicesCannotBeFound) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().findResult = kIOReturnNotResponding;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().findResult = kIOReturnNotResponding;
   EXPECT_EQ(CheckUSBAudio(10), 0);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 1, .numbers = 2}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1, .numbers = 2}));
 }
 
 TEST_F(MacCount, LeavesThePortWithoutAMatching) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().hasMatching = false;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().hasMatching = false;
   EXPECT_EQ(CheckUSBAudio(10), 0);
-  EXPECT_EQ(TheWorld().held, (Held{.ports = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1}));
 }
 
 TEST_F(MacCount, GoesOnWithoutAMasterPort) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().masterPortResult = kIOReturnNotResponding;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().masterPortResult = kIOReturnNotResponding;
   EXPECT_EQ(CheckUSBAudio(10), 1);
-  EXPECT_EQ(TheWorld().held, (Held{.numbers = 2}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.numbers = 2}));
 }
 
 class MacSearch : public IOKitTest {
  protected:
   // What is still held once the mixer at `index` was opened and closed.
   static Held LeftAfterClosing(std::uint32_t index) {
-    TheWorld().held = Held{};
+    CurrentWorld().held = Held{};
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, index), 0u);
     EXPECT_NE(slot, nullptr);
     closeUSB(&slot);
     EXPECT_EQ(slot, nullptr);
-    return TheWorld().held;
+    return CurrentWorld().held;
   }
 };
 
 TEST_F(MacSearch, LeavesNothingWhenTheChosenMixerIsLast) {
-  TheWorld().bus = {Hub(), Mixer(), OtherProduct(), Mixer()};
+  CurrentWorld().bus = {Hub(), Mixer(), OtherProduct(), Mixer()};
   EXPECT_EQ(LeftAfterClosing(1), Held{});
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(LeftAfterClosing(0), Held{});
 }
 
 TEST_F(MacSearch, LeavesTheInterfacesOfTheDevicesAfterTheChosenMixer) {
-  TheWorld().bus = {Mixer(), Hub(), Mixer(), OtherProduct()};
+  CurrentWorld().bus = {Mixer(), Hub(), Mixer(), OtherProduct()};
   EXPECT_EQ(LeftAfterClosing(0), (Held{.interfaces = 3}));
   EXPECT_EQ(LeftAfterClosing(1), (Held{.interfaces = 1}));
 }
 
 TEST_F(MacSearch, HoldsOneInterfaceWhileTheMixerIsOpen) {
-  TheWorld().bus = {Hub(), Mixer()};
+  CurrentWorld().bus = {Hub(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
 }
 
 TEST_F(MacSearch, LeavesNothingWhenThereIsNoSuchMixer) {
-  TheWorld().bus = {Mixer(), Hub(), Mixer()};
+  CurrentWorld().bus = {Mixer(), Hub(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 2), kGeneralError);
   EXPECT_EQ(slot, nullptr);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(MacSearch, HoldsTheSlotWhenALaterPlugInFails) {
-  TheWorld().bus = {Mixer(), WithoutPlugIn()};
+  CurrentWorld().bus = {Mixer(), WithoutPlugIn()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0xE00002BEu);
   EXPECT_NE(slot, nullptr);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
 }
 
 TEST_F(MacSearch, HoldsTheSlotWhenALaterDeviceDoesNotAnswer) {
   iokit::Device silent = Hub();
   silent.vendorResult = kIOReturnNotResponding;
-  TheWorld().bus = {Mixer(), silent};
+  CurrentWorld().bus = {Mixer(), silent};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0xE00002EDu);
   EXPECT_NE(slot, nullptr);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 2}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 2}));
 }
 
 TEST_F(MacSearch, LeavesNothingOfDevicesThatFailBeforeTheChosenMixer) {
@@ -118,26 +118,26 @@ TEST_F(MacSearch, LeavesNothingOfDevicesThatFailBeforeTheChosenMixer) {
   withoutInterface.hasInterface = false;
   iokit::Device silent = Mixer();
   silent.productResult = kIOReturnNotResponding;
-  TheWorld().bus = {WithoutPlugIn(), withoutInterface, silent, Mixer()};
+  CurrentWorld().bus = {WithoutPlugIn(), withoutInterface, silent, Mixer()};
   EXPECT_EQ(LeftAfterClosing(0), Held{});
 }
 
 TEST_F(MacSearch, LeavesNothingWhenTheBusCannotBeRead) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   Connection slot = nullptr;
-  TheWorld().findResult = kIOReturnNotResponding;
+  CurrentWorld().findResult = kIOReturnNotResponding;
   EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
-  TheWorld().findResult = kIOReturnSuccess;
-  TheWorld().hasMatching = false;
+  CurrentWorld().findResult = kIOReturnSuccess;
+  CurrentWorld().hasMatching = false;
   EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
-  TheWorld().hasMatching = true;
-  TheWorld().masterPortResult = kIOReturnNotResponding;
+  CurrentWorld().hasMatching = true;
+  CurrentWorld().masterPortResult = kIOReturnNotResponding;
   EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(MacSearch, KeepsTheOldInterfaceOfAnOccupiedSlotAndLeavesTheLoop) {
-  TheWorld().bus = {Hub(), Mixer(), Hub(), Mixer()};
+  CurrentWorld().bus = {Hub(), Mixer(), Hub(), Mixer()};
   Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 1), 0u);
   const Connection old = slot;
@@ -145,18 +145,18 @@ TEST_F(MacSearch, KeepsTheOldInterfaceOfAnOccupiedSlotAndLeavesTheLoop) {
 
   EXPECT_EQ(openUSB(&slot, 0), kGeneralError);
   EXPECT_EQ(slot, old);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
   // The hub and the mixer, and none of the two devices after it.
   int asked = 0;
   for (const std::string &call : TakeCalls()) asked += call == "IOIteratorNext";
   EXPECT_EQ(asked, 2);
 
   closeUSB(&slot);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(MacSearch, ClosesOnce) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 0), 0u);
   TakeCalls();
@@ -168,7 +168,7 @@ TEST_F(MacSearch, ClosesOnce) {
 TEST_F(MacSearch, AnswersWhatTheLastReleaseSaysRemains) {
   iokit::Device shared = Hub();
   shared.referencesOfOthers = 5;
-  TheWorld().bus = {Mixer(), shared};
+  CurrentWorld().bus = {Mixer(), shared};
   Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 0), 0u);
   // Nothing is chosen at an index past the mixers; the slot is held already.

@@ -124,7 +124,7 @@ TEST_F(Register, ObservesTheFamilysNameWithItsMethod) {
     SCOPED_TRACE(family.name);
     family.registerOne(family.productId, false, &context_);
     EXPECT_THAT(TakeCalls(), ElementsAre(family.observation));
-    EXPECT_EQ(TheWorld().observations.back().observer, _ZTKFunc);
+    EXPECT_EQ(CurrentWorld().observations.back().observer, _ZTKFunc);
   }
 }
 
@@ -151,7 +151,7 @@ TEST_F(Register, StoresCallbackAndContextInTheSlotOfTheProductOnly) {
 TEST_F(Register, AddsTheObserverBeforeItStoresTheCallback) {
   for (const Family &family : kFamilies) {
     SCOPED_TRACE(family.name);
-    TheWorld().onObserve = [&family] {
+    CurrentWorld().onObserve = [&family] {
       EXPECT_TRUE(family.isEmpty(static_cast<int>(family.productId)));
       EXPECT_EQ(family.contexts[family.productId], nullptr);
     };
@@ -159,7 +159,7 @@ TEST_F(Register, AddsTheObserverBeforeItStoresTheCallback) {
     EXPECT_EQ(family.registerOne(family.productId, false, &context), 100u);
     EXPECT_FALSE(family.isEmpty(static_cast<int>(family.productId)));
   }
-  EXPECT_EQ(TheWorld().observations.size(), 4u);
+  EXPECT_EQ(CurrentWorld().observations.size(), 4u);
 }
 
 TEST_F(Register, MakesOneObserverForAllFamilies) {

@@ -158,7 +158,7 @@ TEST_F(Observer, DoesNothingForFamiliesThatNobodyRegistered) {
   using namespace notify;
   for (const Method &method : {kInputAudioChanged, kOutputAudioChanged,
                                kMidiChannelChanged, kMidiKeyModeChanged}) {
-    TheWorld().observations = {
+    CurrentWorld().observations = {
         {.name = "any", .observer = _ZTKFunc, .method = method}};
     for (std::int32_t id = -1; id < 12; ++id) {
       Deliver("any", {{"ProductID", id}, {"Channel", 2}, {"Index", 5}});
@@ -217,9 +217,9 @@ TEST_F(Observer, DoesNotHearTheLibrarysOwnOutputAudioPosts) {
 
 TEST_F(Observer, ReadsTheKeyModeTablesThatNothingWrites) {
   ZTK_RegisterMidiChannelChangedCallback(1, NoteIndex, &diary_);
-  TheWorld().observations = {{.name = "any",
-                              .observer = _ZTKFunc,
-                              .method = notify::kMidiKeyModeChanged}};
+  CurrentWorld().observations = {{.name = "any",
+                                  .observer = _ZTKFunc,
+                                  .method = notify::kMidiKeyModeChanged}};
   Deliver("any", {{"ProductID", 1}, {"Index", 1}});
   EXPECT_THAT(TakeNotes(), IsEmpty());
   MidiKeyModeChangedCallback[1] = NoteIndex;
@@ -284,7 +284,7 @@ TEST_F(CallbackWhileDelivered, MaySetTheSameSetting) {
     EXPECT_EQ(ZTK_SetUSBInputAudio(10, 2, 6), 100u);
   };
   ZTK_RegisterInputAudioChangedCallback(10, putBack, &diary_);
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTK_SetUSBInputAudio(10, 2, 5);
   TakeSteps();
   Deliver(kInputAudio, {{"ProductID", 10}, {"Channel", 2}, {"Index", 5}});
@@ -292,7 +292,7 @@ TEST_F(CallbackWhileDelivered, MaySetTheSameSetting) {
   EXPECT_THAT(TakeSteps(),
               testing::Contains("post VRM-D6 InputAudio Change {ProductID=10, "
                                 "Channel=2, Index=6} immediately"));
-  EXPECT_EQ(TheWorld().held.userInfos, 1);
+  EXPECT_EQ(CurrentWorld().held.userInfos, 1);
 }
 
 }  // namespace

@@ -107,7 +107,7 @@ TEST_F(Post, KeepsOneRecordOfEachFamily) {
   for (int round = 0; round < 3; ++round) {
     for (const Poster &poster : kPosters) poster.set();
   }
-  EXPECT_EQ(TheWorld().held.userInfos, 4);
+  EXPECT_EQ(CurrentWorld().held.userInfos, 4);
   for (const Poster &poster : kPosters) {
     SCOPED_TRACE(poster.name);
     EXPECT_NE(*poster.lastInfo, nullptr);
@@ -143,9 +143,9 @@ TEST_F(Post, HappensWithoutAMixerAndAfterEveryFailure) {
     for (const Poster &poster : kPosters) {
       SCOPED_TRACE(row.name);
       SCOPED_TRACE(poster.name);
-      TheWorld() = World{};
-      TheWorld().bus = {Mixer()};
-      row.change(&TheWorld());
+      CurrentWorld() = World{};
+      CurrentWorld().bus = {Mixer()};
+      row.change(&CurrentWorld());
       *poster.lastInfo = nullptr;
       EXPECT_EQ(poster.set(), 100u);
       EXPECT_THAT(TakeSteps(), testing::Contains(poster.post).Times(1));
@@ -171,11 +171,11 @@ TEST_F(Post, OfADefaultOutputRoutingNamesTheIndexThatWasChosen) {
     EXPECT_EQ(ZTK_SetUSBOutputAudioDefault(8, channel), 100u);
     EXPECT_THAT(TakeSteps(), ElementsAre("count", kExpected[channel]));
   }
-  EXPECT_EQ(TheWorld().held.userInfos, 1);
+  EXPECT_EQ(CurrentWorld().held.userInfos, 1);
 }
 
 TEST_F(Post, IsNotDoneByTheOtherSetters) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 1, 6), 100u);
   EXPECT_EQ(ZTK_SetMidiKeyModeIndex(1, 0), 102u);
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 0), 100u);
@@ -200,34 +200,34 @@ class RegisterOverARecord : public Post {};
 TEST_F(RegisterOverARecord, DropsItWithoutGivingItBack) {
   for (const Poster &poster : kPosters) {
     SCOPED_TRACE(poster.name);
-    TheWorld().held = Held{};
+    CurrentWorld().held = Held{};
     poster.set();
     TakeCalls();
     EXPECT_EQ(poster.registerAgain(), 100u);
     EXPECT_EQ(*poster.lastInfo, nullptr);
     EXPECT_THAT(TakeRecordCalls(), IsEmpty());
-    EXPECT_EQ(TheWorld().held.userInfos, 1);
+    EXPECT_EQ(CurrentWorld().held.userInfos, 1);
 
     poster.set();
     EXPECT_EQ(TakeRecordCalls().front(), "release no info");
-    EXPECT_EQ(TheWorld().held.userInfos, 2);
+    EXPECT_EQ(CurrentWorld().held.userInfos, 2);
   }
 }
 
 TEST_F(RegisterOverARecord, DropsOneForEachRegisterThatFindsOne) {
   for (const Poster &poster : kPosters) {
     SCOPED_TRACE(poster.name);
-    TheWorld().held = Held{};
+    CurrentWorld().held = Held{};
     poster.registerAgain();
     poster.registerAgain();
-    EXPECT_EQ(TheWorld().held.userInfos, 0);
+    EXPECT_EQ(CurrentWorld().held.userInfos, 0);
     for (int round = 0; round < 5; ++round) {
       poster.set();
       poster.set();
       poster.registerAgain();
       poster.registerAgain();
     }
-    EXPECT_EQ(TheWorld().held.userInfos, 5);
+    EXPECT_EQ(CurrentWorld().held.userInfos, 5);
   }
 }
 

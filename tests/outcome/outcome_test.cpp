@@ -47,7 +47,7 @@ fake::Device WithSelectors() {
 class Outcome : public CoreTest {};
 
 TEST_F(Outcome, OfASetterTellsBothRequestsOfEachMixer) {
-  TheWorld().bus = {WithSelectors(), WithSelectors()};
+  CurrentWorld().bus = {WithSelectors(), WithSelectors()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 100u);
   const ZTKOutcome outcome = Last();
   EXPECT_EQ(outcome.mixersFound, 2u);
@@ -76,10 +76,10 @@ TEST_F(Outcome, TellsHowARequestFailed) {
                {"anything else", 0xE00002BC, 71, "6/1/0/71"}};
   for (const auto &row : kRows) {
     SCOPED_TRACE(row.name);
-    TheWorld() = World{};
-    TheWorld().bus = {Mixer(), Mixer()};
-    TheWorld().bus[0].writeResult = row.code;
-    TheWorld().bus[0].systemCodeOfRequests = row.systemCode;
+    CurrentWorld() = World{};
+    CurrentWorld().bus = {Mixer(), Mixer()};
+    CurrentWorld().bus[0].writeResult = row.code;
+    CurrentWorld().bus[0].systemCodeOfRequests = row.systemCode;
     EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
     const ZTKOutcome outcome = Last();
     EXPECT_EQ(Told(outcome.mixers[0].write), row.expected);
@@ -99,11 +99,11 @@ TEST_F(Outcome, TellsWhyAMixerCouldNotBeOpened) {
                {"too many files", 0xE00002BC, 24, "6/0/0/24"}};
   for (const auto &row : kRows) {
     SCOPED_TRACE(row.name);
-    TheWorld() = World{};
-    TheWorld().bus = {Mixer(), WithSelectors()};
-    TheWorld().bus[0].canBeReached = false;
-    TheWorld().bus[0].openResult = {.code = row.code,
-                                    .systemCode = row.systemCode};
+    CurrentWorld() = World{};
+    CurrentWorld().bus = {Mixer(), WithSelectors()};
+    CurrentWorld().bus[0].canBeReached = false;
+    CurrentWorld().bus[0].openResult = {.code = row.code,
+                                        .systemCode = row.systemCode};
     ZTK_SetUSBInputAudio(10, 1, 2);
     const ZTKOutcome outcome = Last();
     EXPECT_EQ(Told(outcome.mixers[0].write), row.expected);
@@ -114,22 +114,22 @@ TEST_F(Outcome, TellsWhyAMixerCouldNotBeOpened) {
 
 // The mixer was counted, and was unplugged before it was opened.
 TEST_F(Outcome, CallsAMixerGoneThatTheSearchDoesNotReach) {
-  TheWorld().bus = {Mixer(), Mixer()};
-  TheWorld().bus[0].hasInterface = false;
+  CurrentWorld().bus = {Mixer(), Mixer()};
+  CurrentWorld().bus[0].hasInterface = false;
   ZTK_SetBoostLevelIndex(10, 1);
   EXPECT_EQ(Told(Last().mixers[0].write), "1/1/0/0");
   EXPECT_EQ(Told(Last().mixers[1].write), "4/0/0/0");
 }
 
 TEST_F(Outcome, TellsThatADeviceAfterTheMixerKeptItFromBeingUsed) {
-  TheWorld().bus = {Mixer(), Stranger()};
-  TheWorld().bus[1].vendorResult = 0xE00002BC;
+  CurrentWorld().bus = {Mixer(), OtherDevice()};
+  CurrentWorld().bus[1].vendorResult = 0xE00002BC;
   ZTK_SetBoostLevelIndex(10, 1);
   EXPECT_EQ(Told(Last().mixers[0].write), "6/0/0/0");
 }
 
 TEST_F(Outcome, TellsHowMuchAMixerAnswered) {
-  TheWorld().bus = {MixerAnswering(0x8007, {.result = 0, .bytes = {1, 2}})};
+  CurrentWorld().bus = {MixerAnswering(0x8007, {.result = 0, .bytes = {1, 2}})};
   std::uint32_t level = 0;
   EXPECT_EQ(ZTK_GetMixerCertifyLevel(10, &level), 100u);
   EXPECT_EQ(Told(Last().mixers[0].read), "1/1/2/0");
@@ -145,8 +145,8 @@ TEST_F(Outcome, TellsWhatBecameOfTheAnnouncement) {
                {Handover::NoCenter, 2, 2},
                {Handover::Failed, 110, 3}};
   for (const auto &row : kRows) {
-    TheWorld().postResult = {.handover = row.handover,
-                             .systemCode = row.systemCode};
+    CurrentWorld().postResult = {.handover = row.handover,
+                                 .systemCode = row.systemCode};
     EXPECT_EQ(ZTK_SetMidiChannelIndex(1, 3), 100u);
     EXPECT_EQ(Last().announcement.result, row.expected);
     EXPECT_EQ(Last().announcement.systemCode, row.systemCode);
@@ -154,7 +154,7 @@ TEST_F(Outcome, TellsWhatBecameOfTheAnnouncement) {
 }
 
 TEST_F(Outcome, OfAResendHasNoAnnouncementAndNoStore) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 100u);
   const ZTKOutcome outcome = Last();
   EXPECT_EQ(Told(outcome.mixers[0].write), "1/1/0/0");
@@ -163,7 +163,7 @@ TEST_F(Outcome, OfAResendHasNoAnnouncementAndNoStore) {
 }
 
 TEST_F(Outcome, ListsAsManyMixersAsItHasRoomForAndCountsAll) {
-  TheWorld().bus.assign(130, Mixer());
+  CurrentWorld().bus.assign(130, Mixer());
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   const ZTKOutcome outcome = Last();
   EXPECT_EQ(outcome.mixersFound, 130u);
@@ -172,9 +172,9 @@ TEST_F(Outcome, ListsAsManyMixersAsItHasRoomForAndCountsAll) {
 }
 
 TEST_F(Outcome, ForgetsTheMixersOfTheCallBefore) {
-  TheWorld().bus = {WithSelectors(), WithSelectors(), WithSelectors()};
+  CurrentWorld().bus = {WithSelectors(), WithSelectors(), WithSelectors()};
   ZTK_SetUSBInputAudio(10, 0, 0);
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTK_SetBoostLevelIndex(10, 1);
   const ZTKOutcome outcome = Last();
   EXPECT_EQ(Told(outcome.mixers[0].read), kNothing);
@@ -215,7 +215,7 @@ TEST_F(Outcome, IsEmptyAfterARejectedCall) {
   int row = 0;
   for (const auto &call : kCalls) {
     SCOPED_TRACE(row++);
-    TheWorld().bus = {Mixer()};
+    CurrentWorld().bus = {Mixer()};
     ZTK_SetBoostLevelIndex(10, 1);
     EXPECT_FALSE(IsEmptyRecord(Last()));
     EXPECT_EQ(call(), 102u);
@@ -229,24 +229,24 @@ TEST_F(Outcome, TellsWhetherAFileWasRead) {
   ZTKTextRef text = nullptr;
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 102u);
   EXPECT_EQ(Last().read.result, 2u);  // absent
-  TheWorld().files[kPkgFile] = {{"PackageVersion", "1.2"}};
+  CurrentWorld().files[kPkgFile] = {{"PackageVersion", "1.2"}};
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 100u);
   EXPECT_EQ(Last().read.result, 1u);
   // It can be read, but has no such key.
-  TheWorld().files[kPkgFile] = {};
+  CurrentWorld().files[kPkgFile] = {};
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 102u);
   EXPECT_EQ(Last().read.result, 1u);
   EXPECT_EQ(Last().store.result, 0u);
 }
 
 TEST_F(Outcome, TellsOfTheTextsOfALanguage) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().bundles["/System/Library/Frameworks/VRM-D6Setup.framework"] = {
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().bundles["/System/Library/Frameworks/VRM-D6Setup.framework"] = {
       .resourcePath = "/r", .preferredTexts = {}};
   ZTKTextRef text = nullptr;
   EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 0, 101, 0, &text), 100u);
   EXPECT_EQ(Last().read.result, 2u);
-  TheWorld().files["/r/English.lproj/Localizable.strings"] = {
+  CurrentWorld().files["/r/English.lproj/Localizable.strings"] = {
       {"WARNING2", "Turn it."}};
   EXPECT_EQ(ZTK_GetWarningTextForSetUSBAudioInput(10, 0, 101, 0, &text), 100u);
   EXPECT_EQ(Last().read.result, 1u);
@@ -254,14 +254,14 @@ TEST_F(Outcome, TellsOfTheTextsOfALanguage) {
 }
 
 TEST_F(Outcome, CountsForAQuestionAboutTheConnection) {
-  TheWorld().bus = {Mixer(), Mixer()};
+  CurrentWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
   EXPECT_EQ(Last().mixersFound, 2u);
   EXPECT_EQ(Told(Last().mixers[0].write), kNothing);
 }
 
 TEST_F(Outcome, OfAQuestionAboutTheConnectionBeginsAnew) {
-  TheWorld().bus = {WithSelectors()};
+  CurrentWorld().bus = {WithSelectors()};
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   EXPECT_EQ(Last().store.result, ZTK_FILE_OK);
   EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
@@ -284,7 +284,7 @@ TEST_F(Outcome, NeedsAPlaceForItsSize) {
 }
 
 TEST_F(Outcome, StaysWhenATableIsAsked) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTK_SetBoostLevelIndex(10, 1);
   std::uint32_t count = 0;
   EXPECT_EQ(ZTK_GetNumOfBoostLevelIndex(10, &count), 100u);
@@ -292,7 +292,7 @@ TEST_F(Outcome, StaysWhenATableIsAsked) {
 }
 
 TEST_F(Outcome, IsOfTheThreadThatCalled) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTK_SetBoostLevelIndex(10, 1);
   std::thread([] {
     EXPECT_TRUE(IsEmptyRecord(Last()));

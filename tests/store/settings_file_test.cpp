@@ -23,60 +23,60 @@ class Read : public CoreTest {};
 TEST_F(Read, AnswersTheFallbackWithoutAFileAndCreatesNone) {
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), -8), -8);
-  EXPECT_THAT(TheWorld().files, IsEmpty());
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
 TEST_F(Read, AnswersTheFallbackForAKeyThatIsNotThere) {
-  TheWorld().files[kD6File] = {{"maxlevel", 2}, {"MaxLevel2", 1}};
+  CurrentWorld().files[kD6File] = {{"maxlevel", 2}, {"MaxLevel2", 1}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
 TEST_F(Read, AnswersTheFallbackForAnEntryOfAnotherKind) {
-  TheWorld().files[kD6File] = {{"MaxLevel", {}}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", {}}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
 TEST_F(Read, AnswersTheIntegerWhateverItIs) {
   for (const std::int32_t value : {0, 2, 99, -1, 2147483647, INT32_MIN}) {
     SCOPED_TRACE(value);
-    TheWorld().files[kD6File] = {{"MaxLevel", value}};
+    CurrentWorld().files[kD6File] = {{"MaxLevel", value}};
     EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), value);
   }
 }
 
 TEST_F(Read, TakesTheNumberOfAText) {
-  TheWorld().files[kD6File] = {{"MaxLevel", "5"}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", "5"}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 5);
-  TheWorld().files[kD6File] = {{"MaxLevel", "loud"}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", "loud"}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 0);
 }
 
 TEST_F(Read, ReadsTheFileOnceAndGivesItBack) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 2}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 2}};
   store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kD6File,
                                        "release dictionary"));
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(Read, KeepsNothingFromCallToCall) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 2}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 2}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 2);
-  TheWorld().files[kD6File] = {{"MaxLevel", 1}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 1}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 1);
-  TheWorld().files.clear();
+  CurrentWorld().files.clear();
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
 TEST_F(Read, AnswersTheFallbackWithoutALibraryDirectory) {
-  TheWorld().hasLibrary = false;
+  CurrentWorld().hasLibrary = false;
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
 TEST_F(Read, LooksWhereTheUsersLibraryIs) {
-  TheWorld().library = "/home/dj/.config/tarvix";
+  CurrentWorld().library = "/home/dj/.config/tarvix";
   store::Read(kB5, ZTK_TEXT("Input0"), 0);
   EXPECT_THAT(TakeCalls(),
               ElementsAre("read file /home/dj/.config/tarvix/Preferences/"
@@ -84,18 +84,18 @@ TEST_F(Read, LooksWhereTheUsersLibraryIs) {
 }
 
 TEST_F(Read, AnswersTheFallbackForAFileThatCannotBeRead) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 2}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 2}};
   for (const ReadState state : {ReadState::Unavailable, ReadState::Damaged}) {
-    TheWorld().readFailures[kD6File] = {.state = state, .error = 0};
+    CurrentWorld().readFailures[kD6File] = {.state = state, .error = 0};
     EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
   }
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 class ReadChannel : public CoreTest {};
 
 TEST_F(ReadChannel, PutsTheChannelIntoTheKey) {
-  TheWorld().files[kD6File] = {{"Output0", 10}, {"Output4", 14}};
+  CurrentWorld().files[kD6File] = {{"Output0", 10}, {"Output4", 14}};
   EXPECT_EQ(store::ReadChannel(kD6, ZTK_TEXT("Output%d"), 0, 7), 10);
   EXPECT_EQ(store::ReadChannel(kD6, ZTK_TEXT("Output%d"), 4, 7), 14);
   EXPECT_EQ(store::ReadChannel(kD6, ZTK_TEXT("Output%d"), 3, 7), 7);
@@ -105,24 +105,24 @@ class Write : public CoreTest {};
 
 TEST_F(Write, CreatesTheFileWithTheOneKey) {
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
 TEST_F(Write, KeepsEveryOtherKeyOfWhateverKind) {
-  TheWorld().files[kD6File] = {
+  CurrentWorld().files[kD6File] = {
       {"MaxLevel", 2}, {"Foo", "bar"}, {"Other", {}}, {"Output1", "6"}};
   store::Write(kD6, ZTK_TEXT("Output0"), 1);
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2},
-                                                   {"Foo", "bar"},
-                                                   {"Other", {}},
-                                                   {"Output0", 1},
-                                                   {"Output1", "6"}}));
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 2},
+                                                       {"Foo", "bar"},
+                                                       {"Other", {}},
+                                                       {"Output0", 1},
+                                                       {"Output1", "6"}}));
 }
 
 TEST_F(Write, ReplacesWhatStoodUnderTheKey) {
-  TheWorld().files[kD6File] = {{"MaxLevel", "loud"}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", "loud"}};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
 TEST_F(Write, ReadsSetsAndWritesWithinOneChangeOfTheFile) {
@@ -133,33 +133,33 @@ TEST_F(Write, ReadsSetsAndWritesWithinOneChangeOfTheFile) {
       ElementsAre("begin change of " + file, "make dictionary",
                   "add entries of " + file, "set MaxLevel 2", "write " + file,
                   "release dictionary", "end change of " + file));
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(Write, LeavesAFileAloneThatCannotBeReadNow) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 3}};
-  TheWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
-                                      .error = EMFILE};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 3}};
+  CurrentWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
+                                          .error = EMFILE};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   const std::string file = kD6File;
   EXPECT_THAT(TakeCalls(),
               ElementsAre("begin change of " + file, "make dictionary",
                           "add entries of " + file, "release dictionary",
                           "end change of " + file));
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(Write, ReplacesAFileThatMayNotBeRead) {
-  TheWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
-                                      .error = EACCES};
+  CurrentWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
+                                          .error = EACCES};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
 TEST_F(Write, IsDoneAgainUnderANewLockWhenAnotherProcessWasFaster) {
-  TheWorld().canWrite = false;
-  TheWorld().writeError = ESTALE;
+  CurrentWorld().canWrite = false;
+  CurrentWorld().writeError = ESTALE;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   const std::vector<std::string> calls = TakeCalls();
   for (const char *step :
@@ -168,42 +168,43 @@ TEST_F(Write, IsDoneAgainUnderANewLockWhenAnotherProcessWasFaster) {
         std::count(calls.begin(), calls.end(), std::string(step) + kD6File), 20)
         << step;
   }
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(Write, ReplacesADamagedFile) {
-  TheWorld().readFailures[kD6File] = {.state = ReadState::Damaged, .error = 0};
+  CurrentWorld().readFailures[kD6File] = {.state = ReadState::Damaged,
+                                          .error = 0};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
 TEST_F(Write, StoresASigned32BitNumber) {
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 0xFFFFFFFF);
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", -1}}));
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", -1}}));
 }
 
 TEST_F(Write, IgnoresAFailureAndLeavesTheOldFile) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 3}};
-  TheWorld().canWrite = false;
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 3}};
+  CurrentWorld().canWrite = false;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_THAT(TakeSteps(),
               ElementsAre(std::string("write ") + kD6File + " {MaxLevel=2}"));
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(Write, DoesNothingWithoutALibraryDirectory) {
-  TheWorld().hasLibrary = false;
+  CurrentWorld().hasLibrary = false;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_THAT(TakeCalls(), IsEmpty());
-  EXPECT_THAT(TheWorld().files, IsEmpty());
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
 }
 
 TEST_F(Write, TouchesTheFileOfItsModelOnly) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 3}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 3}};
   store::Write(kB5, ZTK_TEXT("Input0"), 1);
-  EXPECT_EQ(TheWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
-  EXPECT_EQ(TheWorld().files.at(kB5File), (Entries{{"Input0", 1}}));
+  EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
+  EXPECT_EQ(CurrentWorld().files.at(kB5File), (Entries{{"Input0", 1}}));
 }
 
 // What the record of the call says about the file.
@@ -233,17 +234,18 @@ TEST_F(FileOutcome, TellsHowReadingEnded) {
               {ReadState::Unavailable, EINVAL, ZTK_FILE_NOT_REGULAR}};
   for (const auto &row : rows) {
     SCOPED_TRACE(row.expected);
-    TheWorld().readFailures[kD6File] = {.state = row.state, .error = row.error};
+    CurrentWorld().readFailures[kD6File] = {.state = row.state,
+                                            .error = row.error};
     store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
     EXPECT_EQ(Record().read.result, row.expected);
     EXPECT_EQ(Record().read.systemCode, row.error);
   }
-  TheWorld().readFailures.clear();
-  TheWorld().files[kD6File] = {};
+  CurrentWorld().readFailures.clear();
+  CurrentWorld().files[kD6File] = {};
   store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_EQ(Record().read.result, ZTK_FILE_OK);
   EXPECT_EQ(Record().store.result, ZTK_FILE_NONE);
-  TheWorld().hasLibrary = false;
+  CurrentWorld().hasLibrary = false;
   store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_EQ(Record().read.result, ZTK_FILE_NO_HOME);
 }
@@ -255,25 +257,26 @@ TEST_F(FileOutcome, TellsWhyNothingIsStored) {
   } rows[] = {{ENOENT, ZTK_FILE_NO_FOLDER},   {EACCES, ZTK_FILE_NOT_PERMITTED},
               {EROFS, ZTK_FILE_READ_ONLY},    {ENOSPC, ZTK_FILE_FULL},
               {EISDIR, ZTK_FILE_NOT_REGULAR}, {EIO, ZTK_FILE_FAILED}};
-  TheWorld().canWrite = false;
+  CurrentWorld().canWrite = false;
   for (const auto &row : rows) {
-    TheWorld().writeError = row.error;
+    CurrentWorld().writeError = row.error;
     store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
     EXPECT_EQ(Record().store.result, row.expected) << row.error;
     EXPECT_EQ(Record().store.systemCode, row.error);
   }
-  TheWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
-                                      .error = EMFILE};
+  CurrentWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
+                                          .error = EMFILE};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(Record().store.result, ZTK_FILE_CANNOT_BE_READ_NOW);
   EXPECT_EQ(Record().store.systemCode, EMFILE);
-  TheWorld().hasLibrary = false;
+  CurrentWorld().hasLibrary = false;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(Record().store.result, ZTK_FILE_NO_HOME);
 }
 
 TEST_F(FileOutcome, TellsThatADamagedFileWasReplaced) {
-  TheWorld().readFailures[kD6File] = {.state = ReadState::Damaged, .error = 0};
+  CurrentWorld().readFailures[kD6File] = {.state = ReadState::Damaged,
+                                          .error = 0};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(Record().read.result, ZTK_FILE_DAMAGED);
   EXPECT_EQ(Record().store.result, ZTK_FILE_OK);
@@ -284,7 +287,7 @@ class WriteChannel : public CoreTest {};
 TEST_F(WriteChannel, PutsTheChannelIntoTheKey) {
   store::WriteChannel(kB5, ZTK_TEXT("Input%d"), 0, 2);
   store::WriteChannel(kB5, ZTK_TEXT("Input%d"), 4, 1);
-  EXPECT_EQ(TheWorld().files.at(kB5File),
+  EXPECT_EQ(CurrentWorld().files.at(kB5File),
             (Entries{{"Input0", 2}, {"Input4", 1}}));
 }
 

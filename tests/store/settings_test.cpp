@@ -65,18 +65,18 @@ TEST_F(Settings, HaveTheirDefaultsWithoutAFileAndNoneIsCreated) {
     EXPECT_EQ(row.get(&value), 100u);
     EXPECT_EQ(value, row.fallback);
   }
-  EXPECT_THAT(TheWorld().files, IsEmpty());
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
 TEST_F(Settings, HaveTheirDefaultsWhenTheFileHasAllButTheirKey) {
   for (const Getter &row : kGetters) {
     SCOPED_TRACE(row.name);
-    TheWorld() = World{};
+    CurrentWorld() = World{};
     for (const Getter &other : kGetters) {
-      TheWorld().files[other.file][other.key] = 55;
+      CurrentWorld().files[other.file][other.key] = 55;
     }
-    TheWorld().files[row.file].erase(row.key);
+    CurrentWorld().files[row.file].erase(row.key);
     std::uint32_t value = 77;
     EXPECT_EQ(row.get(&value), 100u);
     EXPECT_EQ(value, row.fallback);
@@ -86,8 +86,8 @@ TEST_F(Settings, HaveTheirDefaultsWhenTheFileHasAllButTheirKey) {
 TEST_F(Settings, AreReadFromTheirOwnFileAndKeyInOneLook) {
   for (const Getter &row : kGetters) {
     SCOPED_TRACE(row.name);
-    TheWorld() = World{};
-    TheWorld().files[row.file] = {{row.key, 6}};
+    CurrentWorld() = World{};
+    CurrentWorld().files[row.file] = {{row.key, 6}};
     std::uint32_t value = 77;
     EXPECT_EQ(row.get(&value), 100u);
     EXPECT_EQ(value, 6u);
@@ -105,7 +105,7 @@ TEST_F(Settings, ReadAsTextAndAreNotHeldToAnyRange) {
     for (const auto &row : kRows) {
       SCOPED_TRACE(getter.name);
       SCOPED_TRACE(row.expected);
-      TheWorld().files[getter.file][getter.key] = row.stored;
+      CurrentWorld().files[getter.file][getter.key] = row.stored;
       std::uint32_t value = 77;
       EXPECT_EQ(getter.get(&value), 100u);
       EXPECT_EQ(value, row.expected);
@@ -141,9 +141,9 @@ const Setter kSetters[] = {
 TEST_F(Settings, AreWrittenToTheirOwnFileAndKeyWithoutAMixer) {
   for (const Setter &row : kSetters) {
     SCOPED_TRACE(row.name);
-    TheWorld() = World{};
+    CurrentWorld() = World{};
     EXPECT_EQ(row.set(), 100u);
-    EXPECT_EQ(TheWorld().files,
+    EXPECT_EQ(CurrentWorld().files,
               (std::map<std::string, Entries>{{row.file, row.expected}}));
   }
 }
@@ -151,7 +151,7 @@ TEST_F(Settings, AreWrittenToTheirOwnFileAndKeyWithoutAMixer) {
 TEST_F(Settings, AreWrittenOnceAfterTheRequestsAndBeforeThePost) {
   for (const Setter &row : kSetters) {
     SCOPED_TRACE(row.name);
-    TheWorld() = World{};
+    CurrentWorld() = World{};
     row.set();
     EXPECT_THAT(
         TakeSteps(),
@@ -161,17 +161,17 @@ TEST_F(Settings, AreWrittenOnceAfterTheRequestsAndBeforeThePost) {
 }
 
 TEST_F(Settings, KeepWhatElseStandsInTheFile) {
-  TheWorld().files[kD6File] = {{"MaxLevel", 2}, {"Foo", "bar"}};
+  CurrentWorld().files[kD6File] = {{"MaxLevel", 2}, {"Foo", "bar"}};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
-  EXPECT_EQ(TheWorld().files.at(kD6File),
+  EXPECT_EQ(CurrentWorld().files.at(kD6File),
             (Entries{{"MaxLevel", 2}, {"Foo", "bar"}, {"Output0", 1}}));
 }
 
 TEST_F(Settings, OfOtherModelsStayAsTheyAre) {
-  TheWorld().files[kB5File] = {{"MaxLevel", 1}};
-  TheWorld().files[kK2File] = {{"MaxLevel", 0}};
+  CurrentWorld().files[kB5File] = {{"MaxLevel", 1}};
+  CurrentWorld().files[kK2File] = {{"MaxLevel", 0}};
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 2), 100u);
-  EXPECT_EQ(TheWorld().files,
+  EXPECT_EQ(CurrentWorld().files,
             (std::map<std::string, Entries>{{kD6File, {{"MaxLevel", 2}}},
                                             {kB5File, {{"MaxLevel", 1}}},
                                             {kK2File, {{"MaxLevel", 0}}}}));
@@ -180,10 +180,10 @@ TEST_F(Settings, OfOtherModelsStayAsTheyAre) {
 TEST_F(Settings, ThatCannotBeWrittenAreSentAndPostedAllTheSame) {
   for (const Setter &row : kSetters) {
     SCOPED_TRACE(row.name);
-    TheWorld() = World{};
-    TheWorld().canWrite = false;
+    CurrentWorld() = World{};
+    CurrentWorld().canWrite = false;
     EXPECT_EQ(row.set(), 100u);
-    EXPECT_THAT(TheWorld().files, IsEmpty());
+    EXPECT_THAT(CurrentWorld().files, IsEmpty());
     EXPECT_THAT(TakeSteps(), ElementsAre("count", StartsWith("write "),
                                          StartsWith("post ")));
   }
@@ -192,15 +192,15 @@ TEST_F(Settings, ThatCannotBeWrittenAreSentAndPostedAllTheSame) {
 TEST_F(Settings, HaveNoPlaceWithoutALibraryDirectoryAndArePostedAllTheSame) {
   for (const Setter &row : kSetters) {
     SCOPED_TRACE(row.name);
-    TheWorld() = World{};
-    TheWorld().hasLibrary = false;
+    CurrentWorld() = World{};
+    CurrentWorld().hasLibrary = false;
     EXPECT_EQ(row.set(), 100u);
     EXPECT_THAT(TakeSteps(), ElementsAre("count", StartsWith("post ")));
   }
 }
 
 TEST_F(Settings, OfTheKeyModeTouchNoFile) {
-  TheWorld().files[kK2File] = {{"MidiKeyMode", 1}};
+  CurrentWorld().files[kK2File] = {{"MidiKeyMode", 1}};
   std::uint32_t value = 77;
   EXPECT_EQ(ZTK_SetMidiKeyModeIndex(1, 1), 102u);
   EXPECT_EQ(ZTK_GetCurrentMidiKeyModeIndex(1, &value), 102u);
@@ -209,7 +209,7 @@ TEST_F(Settings, OfTheKeyModeTouchNoFile) {
 }
 
 TEST_F(Settings, AreWrittenByTheSettersThatRememberOnly) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   ZTK_SetUSBInputAudioDirect(10, 0, 1, 6);
   ZTK_SetUSBOutputAudioDefault(8, 1);
   ZTK_SetCurrentUSBInputAudio(10, 0);
@@ -218,7 +218,7 @@ TEST_F(Settings, AreWrittenByTheSettersThatRememberOnly) {
   ZTK_SetCurrentMidiChannelIndex(1);
   EXPECT_THAT(TakeSteps(),
               testing::Not(testing::Contains(StartsWith("write"))));
-  EXPECT_THAT(TheWorld().files, IsEmpty());
+  EXPECT_THAT(CurrentWorld().files, IsEmpty());
 }
 
 TEST_F(Settings, AreNotLookedUpForABadArgument) {

@@ -32,10 +32,10 @@ inline void PrintTo(const Held &held, std::ostream *out) {
 
 namespace ztk::test {
 
+using fake::CurrentWorld;
 using fake::Mixer;
 using fake::MixerAnswering;
-using fake::Stranger;
-using fake::TheWorld;
+using fake::OtherDevice;
 using fake::World;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -55,7 +55,7 @@ inline void OnIndex(std::int32_t, void *) {}
 class CoreTest : public testing::Test {
  protected:
   CoreTest() {
-    TheWorld() = World{};
+    CurrentWorld() = World{};
     for (int i = 0; i < notify::kSlots; ++i) {
       InputAudioChangedCallback[i] = nullptr;
       OutputAudioChangedCallback[i] = nullptr;
@@ -77,14 +77,14 @@ class CoreTest : public testing::Test {
     _ZTKFunc = nullptr;
   }
 
-  ~CoreTest() override { EXPECT_THAT(TheWorld().misuse, IsEmpty()); }
+  ~CoreTest() override { EXPECT_THAT(CurrentWorld().misuse, IsEmpty()); }
 
   // The steps of the core since the last call.
   static std::vector<std::string> TakeSteps() {
-    return std::exchange(TheWorld().steps, {});
+    return std::exchange(CurrentWorld().steps, {});
   }
   static std::vector<std::string> TakeCalls() {
-    return std::exchange(TheWorld().calls, {});
+    return std::exchange(CurrentWorld().calls, {});
   }
 };
 

@@ -69,10 +69,10 @@ std::string RunChild(const std::vector<std::string> &arguments) {
   return OutputOf(child);
 }
 
-std::string RunChildInPlantedRoot(const Planted &files,
-                                  const std::vector<std::string> &arguments) {
+std::string RunChildInTemporaryRoot(const RootFiles &files,
+                                    const std::vector<std::string> &arguments) {
   Child child(arguments, [&files]() -> std::string {
-    const std::string refusal = EnterPlantedRoot(files);
+    const std::string refusal = EnterTemporaryRoot(files);
     return refusal.empty() ? "" : "skip: " + refusal;
   });
   return OutputOf(child);

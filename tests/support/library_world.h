@@ -16,9 +16,9 @@
 #include <vector>
 
 #include "support/child.h"
-#include "support/planted_root.h"
 #include "support/private_bus.h"
 #include "support/temp_home.h"
+#include "support/temporary_root.h"
 #include "virtual-mixer/mixer/mixer_world.h"
 
 namespace ztk::test {
@@ -68,8 +68,8 @@ std::string SettingsText(
 std::string RunChild(const std::vector<std::string> &arguments);
 // The same in a root with these additional files. Returns "skip: " and the
 // reason when this system does not allow that.
-std::string RunChildInPlantedRoot(const Planted &files,
-                                  const std::vector<std::string> &arguments);
+std::string RunChildInTemporaryRoot(const RootFiles &files,
+                                    const std::vector<std::string> &arguments);
 
 // The child program, running.
 class Child : public ChildProcess {

@@ -17,7 +17,7 @@ class SlotTest : public CoreTest {
  protected:
   // A slot filled from a bus of one mixer. The log starts after that.
   Connection Occupied() {
-    TheWorld().bus = {Mixer()};
+    CurrentWorld().bus = {Mixer()};
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, 0), 0u);
     EXPECT_NE(slot, nullptr);
@@ -32,50 +32,51 @@ class ReferencesTest : public SlotTest {
   // The number of interfaces still held after the mixer at `index` was opened
   // and closed.
   int LeftAfterClosing(std::uint32_t index) {
-    TheWorld().held = Held{};
+    CurrentWorld().held = Held{};
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, index), 0u);
     closeUSB(&slot);
     Held expected;
-    expected.interfaces = TheWorld().held.interfaces;
-    EXPECT_EQ(TheWorld().held, expected) << "something else is held too";
-    return TheWorld().held.interfaces;
+    expected.interfaces = CurrentWorld().held.interfaces;
+    EXPECT_EQ(CurrentWorld().held, expected) << "something else is held too";
+    return CurrentWorld().held.interfaces;
   }
 };
 
 TEST_F(ReferencesTest, AreAllGivenBackWhenTheChosenMixerIsLast) {
-  TheWorld().bus = {Stranger(), Mixer(), Stranger(), Mixer()};
+  CurrentWorld().bus = {OtherDevice(), Mixer(), OtherDevice(), Mixer()};
   EXPECT_EQ(LeftAfterClosing(1), 0);
 }
 
 TEST_F(ReferencesTest, OfEveryDeviceAfterTheChosenMixerStay) {
-  TheWorld().bus = {Mixer(), Stranger(), Mixer(), SameMakersOtherProduct()};
+  CurrentWorld().bus = {Mixer(), OtherDevice(), Mixer(),
+                        SameMakersOtherProduct()};
   EXPECT_EQ(LeftAfterClosing(0), 3);
   EXPECT_EQ(LeftAfterClosing(1), 1);
 }
 
 TEST_F(ReferencesTest, GrowWithEverySearch) {
-  TheWorld().bus = {Stranger(), Mixer(), Stranger(), Stranger()};
+  CurrentWorld().bus = {OtherDevice(), Mixer(), OtherDevice(), OtherDevice()};
   Connection slot = nullptr;
   open_pipes(&slot, 0);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 3}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 3}));
   closeUSB(&slot);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 2}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 2}));
   open_pipes(&slot, 0);
   closeUSB(&slot);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 4}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 4}));
 }
 
 TEST_F(ReferencesTest, AreAllGivenBackWhenNoMixerIsChosen) {
-  TheWorld().bus = {Stranger(), Mixer(), MixerFailing(kDefects[4])};
+  CurrentWorld().bus = {OtherDevice(), Mixer(), MixerFailing(kDefects[4])};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 1), kGeneralError);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(ReferencesTest, AreNotHeldOfDevicesThatGiveNoInterface) {
-  TheWorld().bus = {Mixer(), MixerFailingAtPlugIn(), WithoutInterface(),
-                    Stranger()};
+  CurrentWorld().bus = {Mixer(), MixerFailingAtPlugIn(), WithoutInterface(),
+                        OtherDevice()};
   EXPECT_EQ(LeftAfterClosing(0), 1);
 }
 
@@ -83,25 +84,25 @@ TEST_F(ReferencesTest, OfADeviceThatFailsAfterTheChosenMixerStay) {
   for (const Defect &defect : kDefects) {
     if (defect.result == &fake::Device::plugInResult) continue;
     SCOPED_TRACE(defect.name);
-    TheWorld() = World{};
-    TheWorld().bus = {Mixer(), MixerFailing(defect)};
+    CurrentWorld() = World{};
+    CurrentWorld().bus = {Mixer(), MixerFailing(defect)};
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, 0), kNotResponding);
-    EXPECT_EQ(TheWorld().held, (Held{.interfaces = 2}));
+    EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 2}));
   }
 }
 
 TEST_F(ReferencesTest, OfDevicesAfterAMixerOutOfReachStay) {
-  TheWorld().bus = {OutOfReach(), Stranger(), Mixer()};
+  CurrentWorld().bus = {OutOfReach(), OtherDevice(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 2}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 2}));
 }
 
 class OpenUSBTest : public SlotTest {};
 
 TEST_F(OpenUSBTest, OpensIntoAnEmptySlot) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(openUSB(&slot, 0), 0u);
   EXPECT_NE(slot, nullptr);
@@ -110,11 +111,11 @@ TEST_F(OpenUSBTest, OpensIntoAnEmptySlot) {
 
 TEST_F(OpenUSBTest, LeavesAnOccupiedSlotAloneAndStopsAtTheMixer) {
   const Connection old = Occupied();
-  TheWorld().bus = {Mixer(), Stranger(), Mixer()};
+  CurrentWorld().bus = {Mixer(), OtherDevice(), Mixer()};
   Connection slot = old;
   EXPECT_EQ(openUSB(&slot, 0), kGeneralError);
   EXPECT_EQ(slot, old);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
   EXPECT_THAT(
       TakeCalls(),
       ElementsAre("get master port", "create matching IOUSBDevice",
@@ -127,18 +128,18 @@ TEST_F(OpenUSBTest, LeavesAnOccupiedSlotAloneAndStopsAtTheMixer) {
 
 TEST_F(OpenUSBTest, StopsAtALaterMixerOfAnOccupiedSlotToo) {
   const Connection old = Occupied();
-  TheWorld().bus = {Mixer(), Mixer(), Stranger()};
+  CurrentWorld().bus = {Mixer(), Mixer(), OtherDevice()};
   Connection slot = old;
   EXPECT_EQ(openUSB(&slot, 1), kGeneralError);
   EXPECT_EQ(slot, old);
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
 }
 
 TEST_F(OpenUSBTest, AnswersTheReleaseOfTheLastDeviceForAnOccupiedSlot) {
   Connection slot = Occupied();
-  TheWorld().bus = {Mixer(), StrangerHeldByOthers(5)};
+  CurrentWorld().bus = {Mixer(), OtherDeviceHeldByOthers(5)};
   EXPECT_EQ(openUSB(&slot, 1), 5u);
-  TheWorld().bus = {StrangerHeldByOthers(5), Mixer()};
+  CurrentWorld().bus = {OtherDeviceHeldByOthers(5), Mixer()};
   EXPECT_EQ(openUSB(&slot, 1), 0u);
   EXPECT_NE(slot, nullptr);
 }
@@ -148,22 +149,22 @@ TEST_F(OpenUSBTest, AnswersTheReleaseAndNotTheQueryThatFailedBeforeIt) {
   for (const Defect &defect : kDefects) {
     if (defect.result == &fake::Device::plugInResult) continue;
     SCOPED_TRACE(defect.name);
-    TheWorld().bus = {Mixer(), MixerFailing(defect)};
+    CurrentWorld().bus = {Mixer(), MixerFailing(defect)};
     EXPECT_EQ(openUSB(&slot, 1), 0u);
   }
 }
 
 TEST_F(OpenUSBTest, AnswersThePlugInThatFailedLastForAnOccupiedSlot) {
   Connection slot = Occupied();
-  TheWorld().bus = {Mixer(), MixerFailingAtPlugIn()};
+  CurrentWorld().bus = {Mixer(), MixerFailingAtPlugIn()};
   EXPECT_EQ(openUSB(&slot, 1), kNotResponding);
-  TheWorld().bus = {MixerFailingAtPlugIn(), WithoutInterface()};
+  CurrentWorld().bus = {MixerFailingAtPlugIn(), WithoutInterface()};
   EXPECT_EQ(openUSB(&slot, 0), 0u);
 }
 
 TEST_F(OpenUSBTest, AnswersZeroForAnOccupiedSlotOnAnEmptyBus) {
   Connection slot = Occupied();
-  TheWorld().bus = {};
+  CurrentWorld().bus = {};
   EXPECT_EQ(openUSB(&slot, 0), 0u);
   EXPECT_NE(slot, nullptr);
 }
@@ -180,18 +181,19 @@ TEST_F(OpenUSBTest, AnswersWhyTheBusCannotBeReadForAnOccupiedSlot) {
   };
   for (const auto &row : kRows) {
     SCOPED_TRACE(row.defect.name);
-    TheWorld() = World{};
+    CurrentWorld() = World{};
     const Connection old = Occupied();
-    row.defect.breakIt(&TheWorld());
+    row.defect.breakIt(&CurrentWorld());
     Connection slot = old;
     EXPECT_EQ(openUSB(&slot, 0), row.expected);
     EXPECT_EQ(slot, old);
-    EXPECT_EQ(TheWorld().held, (Held{.interfaces = 1}));
+    EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
   }
 }
 
 TEST_F(OpenUSBTest, DropsTheReleaseResultOnceAMixerIsChosen) {
-  TheWorld().bus = {StrangerHeldByOthers(5), Mixer(), StrangerHeldByOthers(7)};
+  CurrentWorld().bus = {OtherDeviceHeldByOthers(5), Mixer(),
+                        OtherDeviceHeldByOthers(7)};
   Connection slot = nullptr;
   EXPECT_EQ(openUSB(&slot, 0), 0u);
   EXPECT_NE(slot, nullptr);
@@ -212,7 +214,7 @@ TEST_F(CloseUSBTest, ClosesThenReleasesThenEmptiesTheSlot) {
   EXPECT_EQ(slot, nullptr);
   EXPECT_THAT(TakeCalls(),
               ElementsAre("close device", "release device interface"));
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(CloseUSBTest, ClosesOnceWhenCalledTwice) {
@@ -223,13 +225,13 @@ TEST_F(CloseUSBTest, ClosesOnceWhenCalledTwice) {
 }
 
 TEST_F(CloseUSBTest, ReleasesOnceEvenIfOthersHoldTheInterface) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().bus[0].referencesOfOthers = 3;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().bus[0].referencesOfOthers = 3;
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   closeUSB(&slot);
   EXPECT_EQ(slot, nullptr);
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 }  // namespace

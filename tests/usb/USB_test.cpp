@@ -16,16 +16,16 @@ class CheckUSBAudioTest : public CoreTest {};
 
 TEST_F(CheckUSBAudioTest, CountsTheMixersAndNobodyElse) {
   EXPECT_EQ(CheckUSBAudio(10), 0);
-  TheWorld().bus = {SameMakersOtherProduct(), OtherMakersSameProduct(),
-                    Stranger()};
+  CurrentWorld().bus = {SameMakersOtherProduct(), OtherMakersSameProduct(),
+                        OtherDevice()};
   EXPECT_EQ(CheckUSBAudio(10), 0);
-  TheWorld().bus = {Mixer(),    SameMakersOtherProduct(), Mixer(),
-                    Stranger(), OtherMakersSameProduct(), Mixer()};
+  CurrentWorld().bus = {Mixer(),       SameMakersOtherProduct(), Mixer(),
+                        OtherDevice(), OtherMakersSameProduct(), Mixer()};
   EXPECT_EQ(CheckUSBAudio(10), 3);
 }
 
 TEST_F(CheckUSBAudioTest, IgnoresTheProductId) {
-  TheWorld().bus = {Mixer(), Mixer()};
+  CurrentWorld().bus = {Mixer(), Mixer()};
   for (const std::uint32_t productId : {0u, 8u, 10u, 11u, 0xFFFFFFFFu}) {
     SCOPED_TRACE(productId);
     EXPECT_EQ(CheckUSBAudio(productId), 2);
@@ -33,15 +33,15 @@ TEST_F(CheckUSBAudioTest, IgnoresTheProductId) {
 }
 
 TEST_F(CheckUSBAudioTest, LeavesTwoNumbersAndOnePortAndNothingElse) {
-  TheWorld().bus = {Stranger(), Mixer(), Mixer()};
+  CurrentWorld().bus = {OtherDevice(), Mixer(), Mixer()};
   EXPECT_EQ(CheckUSBAudio(10), 2);
-  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
+  EXPECT_EQ(CurrentWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
   EXPECT_EQ(CheckUSBAudio(10), 2);
-  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 2, .numbers = 4}));
+  EXPECT_EQ(CurrentWorld().held, (fake::Held{.ports = 2, .numbers = 4}));
 }
 
 TEST_F(CheckUSBAudioTest, NarrowsTheMatchingAndOpensNothing) {
-  TheWorld().bus = {Stranger(), Mixer(), Mixer()};
+  CurrentWorld().bus = {OtherDevice(), Mixer(), Mixer()};
   CheckUSBAudio(10);
   EXPECT_THAT(
       TakeCalls(),
@@ -53,50 +53,51 @@ TEST_F(CheckUSBAudioTest, NarrowsTheMatchingAndOpensNothing) {
 }
 
 TEST_F(CheckUSBAudioTest, CountsMixersThatCannotBeOpened) {
-  TheWorld().bus = {OutOfReach(), WithoutInterface(), MixerFailingAtPlugIn()};
+  CurrentWorld().bus = {OutOfReach(), WithoutInterface(),
+                        MixerFailingAtPlugIn()};
   EXPECT_EQ(CheckUSBAudio(10), 3);
 }
 
 TEST_F(CheckUSBAudioTest, GoesOnWithoutAMasterPort) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().masterPortResult = kNotResponding;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().masterPortResult = kNotResponding;
   EXPECT_EQ(CheckUSBAudio(10), 1);
-  EXPECT_EQ(TheWorld().held, (fake::Held{.numbers = 2}));
+  EXPECT_EQ(CurrentWorld().held, (fake::Held{.numbers = 2}));
 }
 
 TEST_F(CheckUSBAudioTest, IsZeroWithoutAMatching) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().hasMatching = false;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().hasMatching = false;
   EXPECT_EQ(CheckUSBAudio(10), 0);
   EXPECT_THAT(TakeCalls(),
               ElementsAre("get master port", "create matching IOUSBDevice"));
-  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 1}));
+  EXPECT_EQ(CurrentWorld().held, (fake::Held{.ports = 1}));
 }
 
 TEST_F(CheckUSBAudioTest, IsZeroWhenTheEnumerationFails) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().findResult = kNotResponding;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().findResult = kNotResponding;
   EXPECT_EQ(CheckUSBAudio(10), 0);
-  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
+  EXPECT_EQ(CurrentWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
 }
 
 TEST_F(CheckUSBAudioTest, IsZeroWithoutAnIterator) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().hasIterator = false;
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().hasIterator = false;
   EXPECT_EQ(CheckUSBAudio(10), 0);
-  EXPECT_EQ(TheWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
+  EXPECT_EQ(CurrentWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
 }
 
 class OpenPipesTest : public CoreTest {};
 
 TEST_F(OpenPipesTest, TouchesNothingForANullSlot) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(open_pipes(nullptr, 0), kGeneralError);
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
 TEST_F(OpenPipesTest, EmptiesTheSlotFirst) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   Connection old = nullptr;
   ASSERT_EQ(open_pipes(&old, 0), 0u);
   Connection slot = old;
@@ -110,7 +111,8 @@ TEST_F(OpenPipesTest, EmptiesTheSlotFirst) {
 }
 
 TEST_F(OpenPipesTest, OpensTheMixersInRegistryOrder) {
-  TheWorld().bus = {Stranger(), Mixer(), SameMakersOtherProduct(), Mixer()};
+  CurrentWorld().bus = {OtherDevice(), Mixer(), SameMakersOtherProduct(),
+                        Mixer()};
   Connection first = nullptr;
   Connection second = nullptr;
   EXPECT_EQ(open_pipes(&first, 0), 0u);
@@ -120,18 +122,18 @@ TEST_F(OpenPipesTest, OpensTheMixersInRegistryOrder) {
 }
 
 TEST_F(OpenPipesTest, ChoosesNoDeviceOfAnotherMakerOrWithAnotherProduct) {
-  TheWorld().bus = {OtherMakersSameProduct(), SameMakersOtherProduct(),
-                    Stranger()};
+  CurrentWorld().bus = {OtherMakersSameProduct(), SameMakersOtherProduct(),
+                        OtherDevice()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
   EXPECT_EQ(slot, nullptr);
-  TheWorld().bus.push_back(Mixer());
+  CurrentWorld().bus.push_back(Mixer());
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   EXPECT_THAT(TakeSteps(), ElementsAre("open 1"));
 }
 
 TEST_F(OpenPipesTest, ReportsAnIndexBeyondTheMixers) {
-  TheWorld().bus = {Mixer(), Mixer(), Stranger()};
+  CurrentWorld().bus = {Mixer(), Mixer(), OtherDevice()};
   for (const std::uint32_t index : {2u, 3u, 0x80000000u, 0xFFFFFFFFu}) {
     SCOPED_TRACE(index);
     Connection slot = nullptr;
@@ -139,11 +141,11 @@ TEST_F(OpenPipesTest, ReportsAnIndexBeyondTheMixers) {
     EXPECT_EQ(slot, nullptr);
   }
   EXPECT_THAT(TakeSteps(), IsEmpty());
-  EXPECT_EQ(TheWorld().held, fake::Held{});
+  EXPECT_EQ(CurrentWorld().held, fake::Held{});
 }
 
 TEST_F(OpenPipesTest, SearchesEveryDeviceAndAsksEachForItsIdentity) {
-  TheWorld().bus = {Stranger(), Mixer(), Stranger()};
+  CurrentWorld().bus = {OtherDevice(), Mixer(), OtherDevice()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   EXPECT_THAT(
@@ -169,7 +171,7 @@ TEST_F(OpenPipesTest, SearchesEveryDeviceAndAsksEachForItsIdentity) {
 }
 
 TEST_F(OpenPipesTest, AsksNothingFurtherOfADeviceThatFailedOnce) {
-  TheWorld().bus = {MixerFailing(kDefects[2]), Mixer()};
+  CurrentWorld().bus = {MixerFailing(kDefects[2]), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   EXPECT_THAT(
@@ -188,21 +190,21 @@ TEST_F(OpenPipesTest, AsksNothingFurtherOfADeviceThatFailedOnce) {
 TEST_F(OpenPipesTest, PassesOverADeviceBeforeTheChosenOneThatFails) {
   for (const Defect &defect : kDefects) {
     SCOPED_TRACE(defect.name);
-    TheWorld() = World{};
-    TheWorld().bus = {MixerFailing(defect), Mixer()};
+    CurrentWorld() = World{};
+    CurrentWorld().bus = {MixerFailing(defect), Mixer()};
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, 0), 0u);
     ASSERT_NE(slot, nullptr);
     closeUSB(&slot);
-    EXPECT_EQ(TheWorld().held, fake::Held{});
+    EXPECT_EQ(CurrentWorld().held, fake::Held{});
   }
 }
 
 TEST_F(OpenPipesTest, HoldsTheMixerYetFailsWhenADeviceAfterItFails) {
   for (const Defect &defect : kDefects) {
     SCOPED_TRACE(defect.name);
-    TheWorld() = World{};
-    TheWorld().bus = {Mixer(), MixerFailing(defect)};
+    CurrentWorld() = World{};
+    CurrentWorld().bus = {Mixer(), MixerFailing(defect)};
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, 0), kNotResponding);
     ASSERT_NE(slot, nullptr);
@@ -213,34 +215,34 @@ TEST_F(OpenPipesTest, HoldsTheMixerYetFailsWhenADeviceAfterItFails) {
 }
 
 TEST_F(OpenPipesTest, AnswersForTheLastDeviceOnly) {
-  TheWorld().bus = {Mixer(), MixerFailingAtPlugIn(), Stranger()};
+  CurrentWorld().bus = {Mixer(), MixerFailingAtPlugIn(), OtherDevice()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   EXPECT_NE(slot, nullptr);
 }
 
 TEST_F(OpenPipesTest, PassesOverADeviceWithoutAnInterface) {
-  TheWorld().bus = {WithoutInterface(), Mixer(), WithoutInterface()};
+  CurrentWorld().bus = {WithoutInterface(), Mixer(), WithoutInterface()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   ASSERT_NE(slot, nullptr);
   closeUSB(&slot);
-  EXPECT_EQ(TheWorld().held, fake::Held{});
+  EXPECT_EQ(CurrentWorld().held, fake::Held{});
   EXPECT_EQ(open_pipes(&slot, 1), kGeneralError);
 }
 
 TEST_F(OpenPipesTest, PassesOverADeviceWhosePlugInIsNoneAlthoughItSucceeds) {
-  TheWorld().bus = {WithoutPlugIn(), Mixer(), WithoutPlugIn()};
+  CurrentWorld().bus = {WithoutPlugIn(), Mixer(), WithoutPlugIn()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   EXPECT_THAT(TakeSteps(), ElementsAre("open 2"));
   ASSERT_NE(slot, nullptr);
   closeUSB(&slot);
-  EXPECT_EQ(TheWorld().held, fake::Held{});
+  EXPECT_EQ(CurrentWorld().held, fake::Held{});
 }
 
 TEST_F(OpenPipesTest, FailsAndLeavesTheSlotEmptyForAMixerOutOfReach) {
-  TheWorld().bus = {OutOfReach(), Mixer()};
+  CurrentWorld().bus = {OutOfReach(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
   EXPECT_EQ(slot, nullptr);
@@ -253,19 +255,19 @@ TEST_F(OpenPipesTest, FailsWhenTheBusCannotBeReadAndHoldsNothing) {
   for (const BusDefect &defect :
        {kNoPort, kNoMatching, kNoServices, kNoIterator}) {
     SCOPED_TRACE(defect.name);
-    TheWorld() = World{};
-    TheWorld().bus = {Mixer()};
-    defect.breakIt(&TheWorld());
+    CurrentWorld() = World{};
+    CurrentWorld().bus = {Mixer()};
+    defect.breakIt(&CurrentWorld());
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
     EXPECT_EQ(slot, nullptr);
     EXPECT_THAT(TakeSteps(), IsEmpty());
-    EXPECT_EQ(TheWorld().held, fake::Held{});
+    EXPECT_EQ(CurrentWorld().held, fake::Held{});
   }
 }
 
 TEST_F(OpenPipesTest, AsksNothingOfARegistryThatHasNoPort) {
-  TheWorld().masterPortResult = kNotResponding;
+  CurrentWorld().masterPortResult = kNotResponding;
   Connection slot = nullptr;
   open_pipes(&slot, 0);
   EXPECT_THAT(TakeCalls(), ElementsAre("get master port"));

@@ -11,8 +11,8 @@ namespace {
 class EveryRequest : public CoreTest {};
 
 TEST_F(EveryRequest, HasTheFormThatItHasOnRealDevices) {
-  TheWorld().bus = {Mixer()};
-  TheWorld().bus[0].answers = {
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().bus[0].answers = {
       {0x8001, {.result = 0, .bytes = {0x36, 0x04}}},
       {0x8002, {.result = 0, .bytes = {0, 4, 4, 4, 4}}},
       {0x8004, {.result = 0, .bytes = {0, 0}}},

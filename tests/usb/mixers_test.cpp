@@ -14,7 +14,7 @@ using fake::Held;
 class OpenMixer : public CoreTest {};
 
 TEST_F(OpenMixer, ClosesWhatItOpenedAtTheEndOfTheScope) {
-  TheWorld().bus = {Stranger(), Mixer(), Mixer()};
+  CurrentWorld().bus = {OtherDevice(), Mixer(), Mixer()};
   {
     const usb::OpenMixer mixer(1);
     EXPECT_TRUE(mixer);
@@ -22,17 +22,17 @@ TEST_F(OpenMixer, ClosesWhatItOpenedAtTheEndOfTheScope) {
     EXPECT_THAT(TakeSteps(), ElementsAre("open 2"));
   }
   EXPECT_THAT(TakeSteps(), ElementsAre("close 2"));
-  EXPECT_EQ(TheWorld().held, Held{});
+  EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 TEST_F(OpenMixer, IsEmptyAndClosesNothingWhereThereIsNone) {
-  TheWorld().bus = {Mixer()};
+  CurrentWorld().bus = {Mixer()};
   { EXPECT_FALSE(usb::OpenMixer(1)); }
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
 TEST_F(OpenMixer, IsEmptyForAMixerOutOfReach) {
-  TheWorld().bus = {OutOfReach()};
+  CurrentWorld().bus = {OutOfReach()};
   { EXPECT_FALSE(usb::OpenMixer(0)); }
   EXPECT_THAT(TakeSteps(), ElementsAre("cannot open 1"));
 }
@@ -40,20 +40,20 @@ TEST_F(OpenMixer, IsEmptyForAMixerOutOfReach) {
 // The search returns an error although the slot is filled, so nothing closes
 // it.
 TEST_F(OpenMixer, IsEmptyAndClosesNothingWhenADeviceAfterTheMixerFails) {
-  TheWorld().bus = {Mixer(), MixerFailingAtPlugIn()};
+  CurrentWorld().bus = {Mixer(), MixerFailingAtPlugIn()};
   {
     const usb::OpenMixer mixer(0);
     EXPECT_FALSE(mixer);
     EXPECT_NE(mixer.connection(), nullptr);
   }
   EXPECT_THAT(TakeSteps(), ElementsAre("open 1"));
-  EXPECT_EQ(TheWorld().held, (Held{.interfaces = 1}));
+  EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
 }
 
 class SendToEveryMixer : public CoreTest {};
 
 TEST_F(SendToEveryMixer, CountsThenOpensSendsAndClosesEachInTurn) {
-  TheWorld().bus = {Mixer(), Stranger(), Mixer()};
+  CurrentWorld().bus = {Mixer(), OtherDevice(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8002, 0x0206), 2);
   EXPECT_THAT(
       TakeSteps(),
@@ -62,7 +62,7 @@ TEST_F(SendToEveryMixer, CountsThenOpensSendsAndClosesEachInTurn) {
 }
 
 TEST_F(SendToEveryMixer, OnlyCountsWithoutAMixer) {
-  TheWorld().bus = {Stranger(), SameMakersOtherProduct()};
+  CurrentWorld().bus = {OtherDevice(), SameMakersOtherProduct()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8002, 0x0206), 0);
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
 }
@@ -73,11 +73,12 @@ TEST_F(SendToEveryMixer, WalksOnceToCountAndOnceForEachMixer) {
   const struct {
     std::vector<fake::Device> bus;
     std::ptrdiff_t walks;
-  } rows[] = {
-      {{Stranger()}, 1}, {{Mixer()}, 2}, {{Mixer(), Stranger(), Mixer()}, 3}};
+  } rows[] = {{{OtherDevice()}, 1},
+              {{Mixer()}, 2},
+              {{Mixer(), OtherDevice(), Mixer()}, 3}};
   for (const auto &row : rows) {
-    TheWorld() = World{};
-    TheWorld().bus = row.bus;
+    CurrentWorld() = World{};
+    CurrentWorld().bus = row.bus;
     usb::SendToEveryMixer(10, 0x8002, 0x0206);
     const std::vector<std::string> calls = TakeCalls();
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "get master port"),
@@ -86,7 +87,7 @@ TEST_F(SendToEveryMixer, WalksOnceToCountAndOnceForEachMixer) {
 }
 
 TEST_F(SendToEveryMixer, SkipsAMixerThatDoesNotOpenAndGoesOn) {
-  TheWorld().bus = {OutOfReach(), Mixer()};
+  CurrentWorld().bus = {OutOfReach(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8004, 0x0F00), 2);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "cannot open 1", "open 2",
@@ -94,8 +95,8 @@ TEST_F(SendToEveryMixer, SkipsAMixerThatDoesNotOpenAndGoesOn) {
 }
 
 TEST_F(SendToEveryMixer, GoesOnAfterAMixerThatRefuses) {
-  TheWorld().bus = {Mixer(), Mixer()};
-  TheWorld().bus[0].writeResult = 0xE000404F;
+  CurrentWorld().bus = {Mixer(), Mixer()};
+  CurrentWorld().bus[0].writeResult = 0xE000404F;
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 2);
   EXPECT_THAT(
       TakeSteps(),
@@ -107,7 +108,7 @@ TEST_F(SendToEveryMixer, GoesOnAfterAMixerThatRefuses) {
 // The count finds two mixers, the search only the second one: it is at position
 // 0, and position 1 is empty.
 TEST_F(SendToEveryMixer, PassesOverAMixerThatGivesNoInterface) {
-  TheWorld().bus = {WithoutInterface(), Mixer()};
+  CurrentWorld().bus = {WithoutInterface(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8016, 0x0102), 2);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 2", "mixer 2: 40 03 0102 8016 0000",
@@ -115,8 +116,8 @@ TEST_F(SendToEveryMixer, PassesOverAMixerThatGivesNoInterface) {
 }
 
 TEST_F(SendToEveryMixer, SendsToNobodyWhenADeviceAfterTheMixersFails) {
-  TheWorld().bus = {Mixer(), Mixer(), MixerFailing(kDefects[2])};
-  TheWorld().bus[2].product = 28;
+  CurrentWorld().bus = {Mixer(), Mixer(), MixerFailing(kDefects[2])};
+  CurrentWorld().bus[2].product = 28;
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8002, 0x0206), 2);
   EXPECT_THAT(TakeSteps(), ElementsAre("count", "open 1", "open 2"));
 }

@@ -62,10 +62,10 @@ inline fake::Device OutOfReach() {
   return mixer;
 }
 
-inline fake::Device StrangerHeldByOthers(std::uint32_t references) {
-  fake::Device stranger = fake::Stranger();
-  stranger.referencesOfOthers = references;
-  return stranger;
+inline fake::Device OtherDeviceHeldByOthers(std::uint32_t references) {
+  fake::Device device = fake::OtherDevice();
+  device.referencesOfOthers = references;
+  return device;
 }
 
 // One way in which the bus cannot be read.

@@ -19,7 +19,7 @@ class RequestTest : public CoreTest {
  protected:
   // The connection to the only mixer. The log starts after that.
   Connection Open(const fake::Device &mixer) {
-    TheWorld().bus = {mixer};
+    CurrentWorld().bus = {mixer};
     Connection slot = nullptr;
     EXPECT_EQ(open_pipes(&slot, 0), 0u);
     TakeSteps();

@@ -39,9 +39,9 @@ class Autoapply : public CliWorld {
   std::unique_ptr<FakeUserManager> manager_;
 };
 
-#define SKIP_WITHOUT_NAMESPACE(result)  \
-  if ((result).status == kCannotPlant)  \
-  GTEST_SKIP() << "no mount namespace " \
+#define SKIP_WITHOUT_NAMESPACE(result)     \
+  if ((result).status == kNoTemporaryRoot) \
+  GTEST_SKIP() << "no mount namespace "    \
                   "here"
 
 TEST_F(Autoapply, IsOffUntilAskedFor) {

@@ -41,21 +41,21 @@ void CliWorld::SetUp() {
   if (!bus_.Start()) GTEST_SKIP() << "no dbus-daemon to run";
 }
 
-Result CliWorld::InPlantedRoot(const Planted &files,
-                               const std::vector<std::string> &options,
-                               const std::string &script) {
+Result CliWorld::InTemporaryRoot(const RootFiles &files,
+                                 const std::vector<std::string> &options,
+                                 const std::string &script) {
   std::vector<std::string> all{"--log", (home_.path() / "requests").string()};
   all.insert(all.end(), options.begin(), options.end());
-  return RunProgram(SandboxWords(ZTK_VIRTUAL_MIXER, all, script), home_.path(),
-                    [&files] {
-                      if (files.empty()) return 0;
-                      return EnterPlantedRoot(files).empty() ? 0 : kCannotPlant;
-                    });
+  return RunProgram(
+      SandboxWords(ZTK_VIRTUAL_MIXER, all, script), home_.path(), [&files] {
+        if (files.empty()) return 0;
+        return EnterTemporaryRoot(files).empty() ? 0 : kNoTemporaryRoot;
+      });
 }
 
 Result CliWorld::Inside(const std::vector<std::string> &options,
                         const std::string &script) {
-  return InPlantedRoot({}, options, script);
+  return InTemporaryRoot({}, options, script);
 }
 
 std::vector<std::string> CliWorld::Requests() const {

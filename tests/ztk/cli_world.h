@@ -12,10 +12,10 @@
 #include <string>
 #include <vector>
 
-#include "support/planted_root.h"
 #include "support/private_bus.h"
 #include "support/run_program.h"
 #include "support/temp_home.h"
+#include "support/temporary_root.h"
 
 namespace ztk::test {
 
@@ -46,11 +46,11 @@ class CliWorld : public testing::Test {
     return Inside({"-n", "0"}, script);
   }
   // The same with these files in addition to those of the real system; the
-  // status is kCannotPlant when this system does not allow that.
-  static constexpr int kCannotPlant = 98;
-  Result InPlantedRoot(const Planted &files,
-                       const std::vector<std::string> &options,
-                       const std::string &script);
+  // status is kNoTemporaryRoot when this system does not allow that.
+  static constexpr int kNoTemporaryRoot = 98;
+  Result InTemporaryRoot(const RootFiles &files,
+                         const std::vector<std::string> &options,
+                         const std::string &script);
 
   // The requests that the mixers received during the last run.
   std::vector<std::string> Requests() const;

@@ -13,7 +13,7 @@ class DoctorSettings : public DoctorWorld {
   }
   // The same as a user who owns no file there; skips the test when the process
   // cannot become one.
-  Json AsStranger() {
+  Json AsOtherUser() {
     const Result result = NoMixer(
         "run='setpriv --reuid 65534 --clear-groups'\n"
         "$run ztk --version > /dev/null || exit 97\n"
@@ -83,11 +83,11 @@ TEST_F(DoctorSettings, NameAFileThatStandsWhereAFolderHasToBe) {
 TEST_F(DoctorSettings, AreNotWritableOnAFileSystemThatIsReadOnly) {
   Remember("VRM-D6", {{"MaxLevel", 1}});
   const Result result =
-      InPlantedRoot({}, {"-n", "0"},
-                    "mount --bind $DIR/.config $DIR/.config &&"
-                    "mount -o remount,ro,bind $DIR/.config || exit 97\n"
-                    "ztk doctor --json");
-  if (result.status == kCannotPlant || result.status == kCannotSet) {
+      InTemporaryRoot({}, {"-n", "0"},
+                      "mount --bind $DIR/.config $DIR/.config &&"
+                      "mount -o remount,ro,bind $DIR/.config || exit 97\n"
+                      "ztk doctor --json");
+  if (result.status == kNoTemporaryRoot || result.status == kCannotSet) {
     GTEST_SKIP() << "nothing can be mounted here";
   }
   const Json finding = OnlyOneIn("settings", result);
@@ -98,13 +98,13 @@ TEST_F(DoctorSettings, AreNotWritableOnAFileSystemThatIsReadOnly) {
 
 TEST_F(DoctorSettings, AreNotWritableOnAFullDisk) {
   std::filesystem::create_directories(folder_);
-  const Result result = InPlantedRoot(
+  const Result result = InTemporaryRoot(
       {}, {"-n", "0"},
       "mount -t tmpfs -o size=64k none $DIR/.config/tarvix/Preferences ||"
       " exit 97\n"
       "cat /dev/zero > $DIR/.config/tarvix/Preferences/full 2> /dev/null\n"
       "ztk doctor --json");
-  if (result.status == kCannotPlant || result.status == kCannotSet) {
+  if (result.status == kNoTemporaryRoot || result.status == kCannotSet) {
     GTEST_SKIP() << "nothing can be mounted here";
   }
   const Json finding = OnlyOneIn("settings", result);
@@ -122,7 +122,7 @@ TEST_F(DoctorSettings, BelongToSomebodyElse) {
        path = path.parent_path()) {
     std::filesystem::permissions(path, std::filesystem::perms(0777));
   }
-  const Json finding = AsStranger();
+  const Json finding = AsOtherUser();
   if (finding.is_null()) GTEST_SKIP() << "the program cannot be run by others";
   EXPECT_EQ(Word(finding, "id"), "settings-unreadable");
   EXPECT_EQ(Word(finding, "cause"), "you have no permission to read it");
@@ -134,7 +134,7 @@ TEST_F(DoctorSettings, BelongToSomebodyElse) {
 TEST_F(DoctorSettings, LieInAFolderOfSomebodyElse) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can be two users";
   std::filesystem::permissions(home_.path(), std::filesystem::perms(0755));
-  const Json finding = AsStranger();
+  const Json finding = AsOtherUser();
   if (finding.is_null()) GTEST_SKIP() << "the program cannot be run by others";
   EXPECT_EQ(Word(finding, "id"), "settings-not-writable");
   EXPECT_EQ(Word(finding, "cause"), "you have no permission to write there");

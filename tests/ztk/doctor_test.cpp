@@ -22,11 +22,12 @@ constexpr char kBundle[] =
 
 class Doctor : public DoctorWorld {
  protected:
-  // Skips the test when the system does not allow planted files.
-  void Plant(const Planted &files, const std::vector<std::string> &options,
-             const std::string &script) {
-    result_ = InPlantedRoot(files, options, script);
-    if (result_.status == kCannotPlant) {
+  // Skips the test when the system does not allow a temporary root.
+  void RunWithFiles(const RootFiles &files,
+                    const std::vector<std::string> &options,
+                    const std::string &script) {
+    result_ = InTemporaryRoot(files, options, script);
+    if (result_.status == kNoTemporaryRoot) {
       GTEST_SKIP() << "no mount namespace here";
     }
     if (result_.status == kCannotSet) GTEST_SKIP() << result_.err;
@@ -45,10 +46,10 @@ class Doctor : public DoctorWorld {
 };
 
 TEST_F(Doctor, FindsNothingWhereAllIsWell) {
-  Plant({{std::string(kBundle) + "English.lproj/Localizable.strings",
-          "<plist version=\"1.0\"><dict><key>WARNING1</key>"
-          "<string>none</string></dict></plist>"}},
-        {"-n", "2"}, "ztk doctor; echo $?; ztk doctor --json");
+  RunWithFiles({{std::string(kBundle) + "English.lproj/Localizable.strings",
+                 "<plist version=\"1.0\"><dict><key>WARNING1</key>"
+                 "<string>none</string></dict></plist>"}},
+               {"-n", "2"}, "ztk doctor; echo $?; ztk doctor --json");
   EXPECT_EQ(result_.status, 0) << result_.err;
   EXPECT_EQ(Line(result_.out, 0),
             "mixers    ok: 2 mixers are attached and answer");
@@ -200,8 +201,8 @@ TEST_F(Doctor, FindsThatTheRuleIsMissing) {
 TEST_F(Doctor, FindsThatTheRuleIsDisabledOrForAnotherMixer) {
   for (const char *contents :
        {"", "ATTR{idVendor}==\"1234\", ATTR{idProduct}==\"001b\""}) {
-    Plant({{kRule, contents}}, {"-n", "1", "--forbid", "1"},
-          kAsOnARealSystem + std::string("ztk doctor --json"));
+    RunWithFiles({{kRule, contents}}, {"-n", "1", "--forbid", "1"},
+                 kAsOnARealSystem + std::string("ztk doctor --json"));
     const Json finding = OnlyOneIn("mixers", result_);
     EXPECT_EQ(Word(finding, "id"), "rule-disabled");
     EXPECT_THAT(Word(finding, "cause"), HasSubstr(kRule));
@@ -209,7 +210,7 @@ TEST_F(Doctor, FindsThatTheRuleIsDisabledOrForAnotherMixer) {
 }
 
 TEST_F(Doctor, FindsThatTheRuleCameAfterTheMixer) {
-  Plant(
+  RunWithFiles(
       {{kRule, kGoodRule}, {"/run/udev/data/c189:1", "I:12345\nG:seat\nV:1\n"}},
       {"-n", "1", "--forbid", "1"},
       kAsOnARealSystem + std::string("ztk doctor --json"));
@@ -219,7 +220,7 @@ TEST_F(Doctor, FindsThatTheRuleCameAfterTheMixer) {
 }
 
 TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
-  const Planted files{
+  const RootFiles files{
       {"/usr/lib/udev/rules.d/70-tarvix-mixer.rules", kGoodRule},
       {"/run/udev/data/c189:1", "I:12345\n"}};
   // Written again from inside: later versions of umockdev look for these files
@@ -230,10 +231,10 @@ TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
           "mkdir -p /run/udev/data && "
           "printf 'I:12345\\nG:uaccess\\nQ:uaccess\\nV:1\\n' "
           "> /run/udev/data/c189:1; ");
-  Plant(files, {"-n", "1", "--forbid", "1"},
-        tagged +
-            "id -un; USER=dj SSH_CONNECTION='::1 1 ::1 22' "
-            "ztk doctor --json");
+  RunWithFiles(files, {"-n", "1", "--forbid", "1"},
+               tagged +
+                   "id -un; USER=dj SSH_CONNECTION='::1 1 ::1 22' "
+                   "ztk doctor --json");
   Json finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
   EXPECT_THAT(Word(finding, "cause"), HasSubstr("you are logged in over ssh"));
@@ -241,8 +242,8 @@ TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
               HasSubstr(", OWNER=\"" + Line(result_.out, 0) +
                         "\"' | sudo tee "
                         "/etc/udev/rules.d/71-tarvix-mixer-owner.rules && "));
-  Plant(files, {"-n", "1", "--forbid", "1"},
-        tagged + "unset SSH_CONNECTION SSH_TTY; ztk doctor --json");
+  RunWithFiles(files, {"-n", "1", "--forbid", "1"},
+               tagged + "unset SSH_CONNECTION SSH_TTY; ztk doctor --json");
   finding = OnlyOneIn("mixers", result_);
   EXPECT_EQ(Word(finding, "id"), "no-seat");
   EXPECT_THAT(Word(finding, "cause"), Not(HasSubstr("ssh")));
@@ -252,7 +253,7 @@ TEST_F(Doctor, FindsAContainerThatTheDeviceWasNotLetInto) {
   const std::string script =
       "rm $UMOCKDEV_DIR/dev/bus/usb/001/002; ztk doctor --json";
   const struct {
-    Planted files;
+    RootFiles files;
     const char *cause;
     const char *command;
   } rows[] = {
@@ -266,7 +267,7 @@ TEST_F(Doctor, FindsAContainerThatTheDeviceWasNotLetInto) {
        "productid=001b"},
   };
   for (const auto &row : rows) {
-    Plant(row.files, {"-n", "1"}, script);
+    RunWithFiles(row.files, {"-n", "1"}, script);
     const Json finding = OnlyOneIn("mixers", result_);
     EXPECT_EQ(Word(finding, "id"), "no-node");
     EXPECT_THAT(Word(finding, "cause"), StartsWith(row.cause));
@@ -277,11 +278,11 @@ TEST_F(Doctor, FindsAContainerThatTheDeviceWasNotLetInto) {
 TEST_F(Doctor, FindsThatAServiceOrContainerMayNotUseTheDevice) {
   // No user may write such a file, whatever their rights are: the same error as
   // from a device controller.
-  Plant({{"/.dockerenv", ""}}, {"-n", "1"},
-        "node=$UMOCKDEV_DIR/dev/bus/usb/001/002\n"
-        "chattr +i $node || exit 97\n"
-        "trap 'chattr -i $node' EXIT\n"
-        "ztk doctor --json; ztk boost set 1 2> /dev/null");
+  RunWithFiles({{"/.dockerenv", ""}}, {"-n", "1"},
+               "node=$UMOCKDEV_DIR/dev/bus/usb/001/002\n"
+               "chattr +i $node || exit 97\n"
+               "trap 'chattr -i $node' EXIT\n"
+               "ztk doctor --json; ztk boost set 1 2> /dev/null");
   if (IsSkipped()) return;
   const Result first{
       .status = result_.status, .out = Line(result_.out, 0), .err = {}};
@@ -381,8 +382,8 @@ TEST_F(Doctor, SaysThatRootHasNoBusOfYours) {
 TEST_F(Doctor, FindsThatTheTextsAreMissingOrBroken) {
   const Json missing = OnlyOneIn("texts", NoMixer("ztk doctor --json"));
   EXPECT_EQ(Word(missing, "id"), "texts-missing");
-  Plant({{std::string(kBundle) + "Info.plist", ""}}, {"-n", "0"},
-        "ztk doctor --json");
+  RunWithFiles({{std::string(kBundle) + "Info.plist", ""}}, {"-n", "0"},
+               "ztk doctor --json");
   EXPECT_EQ(Word(OnlyOneIn("texts", result_), "id"), "texts-broken");
 }
 

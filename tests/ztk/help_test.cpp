@@ -138,14 +138,14 @@ TEST_F(Help, GivesAnExampleOfWatchingThatWorks) {
 }
 
 TEST_F(Help, GivesAnExampleOfAWarningThatWorks) {
-  const Result result = InPlantedRoot(
+  const Result result = InTemporaryRoot(
       {{"/System/Library/Frameworks/VRM-D6Setup.framework/Resources/"
         "German.lproj/Localizable.strings",
         "<plist version=\"1.0\"><dict><key>WARNING3</key>"
         "<string>Selbst</string><key>WARNING2</key><string>Selbst</string>"
         "</dict></plist>"}},
       {}, "ztk warning --language de");
-  if (result.status == kCannotPlant) {
+  if (result.status == kNoTemporaryRoot) {
     GTEST_SKIP() << "no mount namespace here";
   }
   EXPECT_EQ(result.status, 0) << result.err;

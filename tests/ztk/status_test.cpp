@@ -277,11 +277,12 @@ TEST_F(Versions, SaysWhatIsNotInstalled) {
 
 TEST_F(Versions, ShowsWhatIs) {
   const Result result =
-      InPlantedRoot({{"/private/var/db/receipts/com.tarvix.VRM-D6.pkg.plist",
-                      "<plist version=\"1.0\"><dict><key>PackageVersion</key>"
-                      "<string>2.0.1</string></dict></plist>"}},
-                    {"-n", "0"}, "ztk versions");
-  if (result.status == kCannotPlant) GTEST_SKIP() << "no mount namespace here";
+      InTemporaryRoot({{"/private/var/db/receipts/com.tarvix.VRM-D6.pkg.plist",
+                        "<plist version=\"1.0\"><dict><key>PackageVersion</key>"
+                        "<string>2.0.1</string></dict></plist>"}},
+                      {"-n", "0"}, "ztk versions");
+  if (result.status == kNoTemporaryRoot)
+    GTEST_SKIP() << "no mount namespace here";
   EXPECT_THAT(result.out, StartsWith("Package  2.0.1\nDriver   not"));
 }
 

@@ -15,7 +15,7 @@ std::string Strings(const std::string &language) {
   return text + "</dict></plist>";
 }
 
-Planted Bundle() {
+RootFiles Bundle() {
   const std::string folder =
       "/System/Library/Frameworks/VRM-D6Setup.framework/Resources/";
   return {{folder + "English.lproj/Localizable.strings", Strings("English")},
@@ -25,11 +25,11 @@ Planted Bundle() {
 
 class Warning : public CliWorld {
  protected:
-  // Skips the test when the system does not allow a planted bundle.
+  // Skips the test when the system does not allow a temporary root.
   void WithBundle(const std::vector<std::string> &options,
                   const std::string &script) {
-    result_ = InPlantedRoot(Bundle(), options, script);
-    if (result_.status == kCannotPlant) {
+    result_ = InTemporaryRoot(Bundle(), options, script);
+    if (result_.status == kNoTemporaryRoot) {
       GTEST_SKIP() << "no mount namespace here";
     }
   }

@@ -16,7 +16,7 @@
 #include "platform/common/file_descriptor.h"
 #include "platform/common/new_file.h"
 #include "platform/common/owner_identity.h"
-#include "platform/common/signal_hold.h"
+#include "platform/common/signal_blocker.h"
 
 namespace ztk::platform {
 namespace {
@@ -131,7 +131,7 @@ FileDescriptor LockOldFile(const std::string &file,
 // Answers 0 or the error number.
 int Replace(const std::string &path, std::string_view content, bool keepOld,
             const struct stat *expected) {
-  const SignalHold hold;
+  const SignalBlocker blocker;
   MakeFolders(path, kMaxMissingFolders);
   const std::optional<std::string> file = FollowLinks(path);
   if (!file) return errno;

@@ -18,10 +18,10 @@ namespace fs = std::filesystem;
 constexpr char kNew[] = "/Library/Frameworks/VRM-D6Setup.framework";
 constexpr char kOld[] = "/System/Library/Frameworks/VRM-D6Setup.framework";
 
-class MacBundle : public PlantedRootTest {
+class MacBundle : public TemporaryRootTest {
  protected:
   void SetUp() override {
-    PlantedRootTest::SetUp();
+    TemporaryRootTest::SetUp();
     if (IsSkipped()) return;
     WriteAll("/System/Library/CoreServices/SystemVersion.plist",
              PropertyList("<key>ProductVersion</key><string>10.13.6</string>"));
@@ -55,7 +55,7 @@ class MacBundle : public PlantedRootTest {
   static void Attach(std::vector<std::uint8_t> portInfo) {
     iokit::Device mixer = iokit::Mixer();
     mixer.replies[0x8006] = {.bytes = std::move(portInfo)};
-    TheWorld().bus = {mixer};
+    CurrentWorld().bus = {mixer};
   }
 
   static std::string Warning(std::uint32_t language) {

@@ -91,7 +91,7 @@ int Set(std::span<char *> words) {
 }
 
 int Warn(std::span<char *> languages) {
-  iokit::TheWorld().bus = {iokit::Mixer()};
+  iokit::CurrentWorld().bus = {iokit::Mixer()};
   for (const char *language : languages) {
     ZTKTextRef text = ZTK_TEXT("untouched");
     const ZTKResult result = ZTK_GetWarningTextForSetUSBAudioInput(

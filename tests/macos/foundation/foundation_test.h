@@ -20,7 +20,7 @@
 
 namespace ztk::test {
 
-using iokit::TheWorld;
+using iokit::CurrentWorld;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
@@ -36,7 +36,7 @@ class FoundationTest : public testing::Test {
 };
 
 // The one whose root may be written to; skipped where there is no such root.
-class PlantedRootTest : public FoundationTest {
+class TemporaryRootTest : public FoundationTest {
  protected:
   void SetUp() override;
 };

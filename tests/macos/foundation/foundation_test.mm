@@ -18,7 +18,7 @@ FoundationTest::FoundationTest() : pool_([[NSAutoreleasePool alloc] init]) {
 }
 
 FoundationTest::~FoundationTest() {
-  EXPECT_THAT(TheWorld().misuse, IsEmpty());
+  EXPECT_THAT(CurrentWorld().misuse, IsEmpty());
   // The center waits for observers that do not run their loop, and everybody
   // else with it.
   if (_ZTKFunc != nullptr) {
@@ -28,7 +28,7 @@ FoundationTest::~FoundationTest() {
   [pool_ release];
 }
 
-void PlantedRootTest::SetUp() {
+void TemporaryRootTest::SetUp() {
   const char *why = std::getenv(kNoRoot);
   if (why != nullptr) GTEST_SKIP() << why;
   for (const char *folder :

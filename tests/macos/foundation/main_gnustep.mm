@@ -18,8 +18,8 @@
 
 #include "client.h"
 #include "foundation_test.h"
-#include "support/planted_root.h"
 #include "support/temp_home.h"
+#include "support/temporary_root.h"
 
 namespace ztk::test {
 
@@ -80,9 +80,8 @@ bool CenterAnswers(const TempHome &home, pid_t center) {
 int RunInside(char **arguments) {
   const TempHome home;
   SetSurroundings(home);
-  const std::string refusal = EnterPlantedRoot({{"/System/planted", ""},
-                                                {"/Library/planted", ""},
-                                                {"/private/planted", ""}});
+  const std::string refusal = EnterTemporaryRoot(
+      {{"/System/probe", ""}, {"/Library/probe", ""}, {"/private/probe", ""}});
   if (!refusal.empty()) setenv(kNoRoot, refusal.c_str(), 1);
 
   const pid_t center = StartCenter();

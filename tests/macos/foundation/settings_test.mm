@@ -51,7 +51,7 @@ TEST_F(MacSettings, AreTheDefaultsWithoutAFileAndMakeNone) {
 TEST_F(MacSettings, AreMergedIntoTheFileAndLeaveUnknownKeysAlone) {
   Put("VRM-D6", "<key>MaxLevel</key><integer>2</integer>"
                 "<key>Foo</key><string>bar</string>");
-  TheWorld().bus = {iokit::Mixer()};
+  CurrentWorld().bus = {iokit::Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 2), 100u);
   EXPECT_EQ(Held("VRM-D6"),
             (Values{{"Foo", "bar"}, {"MaxLevel", "2"}, {"Output0", "2"}}));
@@ -105,14 +105,14 @@ TEST_F(MacSettings, ThatAreRefusedTouchNothing) {
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 4), 102u);
   EXPECT_EQ(ZTK_SetBoostLevelIndex(8, 1), 102u);
   EXPECT_TRUE(NothingIsWritten());
-  EXPECT_THAT(TheWorld().calls, IsEmpty());
+  EXPECT_THAT(CurrentWorld().calls, IsEmpty());
 }
 
 TEST_F(MacSettings, GoToEveryMixerAndAreSentAgain) {
-  TheWorld().bus = {iokit::Mixer(), iokit::Hub(), iokit::Mixer()};
+  CurrentWorld().bus = {iokit::Mixer(), iokit::Hub(), iokit::Mixer()};
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 0), 100u);
   EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 100u);
-  EXPECT_THAT(TheWorld().requests,
+  EXPECT_THAT(CurrentWorld().requests,
               ElementsAre("mixer 1: 40 03 0300 8003 0000",
                           "mixer 2: 40 03 0300 8003 0000",
                           "mixer 1: 40 03 0300 8003 0000",

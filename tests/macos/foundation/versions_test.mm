@@ -13,7 +13,7 @@ std::string Text(const std::string &key, const std::string &value) {
   return "<key>" + key + "</key><string>" + value + "</string>";
 }
 
-class MacVersions : public PlantedRootTest {
+class MacVersions : public TemporaryRootTest {
  protected:
   static void PutSystem(const std::string &version) {
     WriteAll(kSystem, PropertyList(Text("ProductVersion", version)));

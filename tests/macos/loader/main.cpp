@@ -17,7 +17,7 @@ int main(int count, char **arguments, char **environment) {
   // The bus of a program that does not describe one.
   const char *mixers = std::getenv("MACHO_RUN_MIXERS");
   if (mixers != nullptr) {
-    ztk::iokit::TheWorld().bus.assign(
+    ztk::iokit::CurrentWorld().bus.assign(
         static_cast<std::size_t>(std::atoi(mixers)), ztk::iokit::Mixer());
   }
   const std::vector<Image *> images = Load(arguments[1]);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef ZTK_PLATFORM_COMMON_SIGNAL_HOLD_H_
-#define ZTK_PLATFORM_COMMON_SIGNAL_HOLD_H_
+#ifndef ZTK_PLATFORM_COMMON_SIGNAL_BLOCKER_H_
+#define ZTK_PLATFORM_COMMON_SIGNAL_BLOCKER_H_
 
 #include <signal.h>
 
@@ -10,9 +10,9 @@ namespace ztk::platform {
 // its thread. The signals that ask a program to end arrive after that, so that
 // no unfinished file remains. SIGXFSZ, which a write raises when the file would
 // become too large, is discarded, because by default it ends the process.
-class SignalHold {
+class SignalBlocker {
  public:
-  SignalHold() {
+  SignalBlocker() {
     sigset_t held;
     sigemptyset(&held);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGXFSZ}) {
@@ -21,7 +21,7 @@ class SignalHold {
     wasPending_ = FileSizeSignalIsPending();
     held_ = pthread_sigmask(SIG_BLOCK, &held, &before_) == 0;
   }
-  ~SignalHold() {
+  ~SignalBlocker() {
     if (!held_) return;
     if (!wasPending_ && FileSizeSignalIsPending()) {
       sigset_t fileSize;
@@ -34,8 +34,8 @@ class SignalHold {
     }
     pthread_sigmask(SIG_SETMASK, &before_, nullptr);
   }
-  SignalHold(const SignalHold &) = delete;
-  SignalHold &operator=(const SignalHold &) = delete;
+  SignalBlocker(const SignalBlocker &) = delete;
+  SignalBlocker &operator=(const SignalBlocker &) = delete;
 
  private:
   static bool FileSizeSignalIsPending() {
@@ -50,4 +50,4 @@ class SignalHold {
 
 }  // namespace ztk::platform
 
-#endif  // ZTK_PLATFORM_COMMON_SIGNAL_HOLD_H_
+#endif  // ZTK_PLATFORM_COMMON_SIGNAL_BLOCKER_H_

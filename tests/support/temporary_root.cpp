@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/planted_root.h"
+#include "support/temporary_root.h"
 
 #include <fcntl.h>
 #include <sched.h>
@@ -58,17 +58,17 @@ bool Show(const fs::directory_entry &entry, const fs::path &place) {
                nullptr) == 0;
 }
 
-bool LeadsTo(const fs::path &folder, const Planted &files) {
+bool LeadsTo(const fs::path &folder, const RootFiles &files) {
   const std::string start = folder.string() + "/";
   return std::any_of(files.begin(), files.end(), [&start](const auto &file) {
     return file.first.starts_with(start);
   });
 }
 
-// Shows all entries of a folder except those that are planted. A folder that
-// receives planted files is made anew, so that the real one does not change.
+// Shows all entries of a folder except those that are replaced. A folder that
+// receives new files is made anew, so that the real one does not change.
 std::string ShowFolder(const fs::path &folder, const fs::path &root,
-                       const Planted &files) {
+                       const RootFiles &files) {
   for (const auto &entry : fs::directory_iterator(folder)) {
     const fs::path &path = entry.path();
     const fs::path place = root / path.relative_path();
@@ -87,14 +87,14 @@ std::string ShowFolder(const fs::path &folder, const fs::path &root,
 
 }  // namespace
 
-std::string EnterPlantedRoot(const Planted &files) {
+std::string EnterTemporaryRoot(const RootFiles &files) {
   if (!Unshare()) return Failure("no mount namespace");
   if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
     return Failure("the root stays shared");
   }
   // /mnt exists on every system, and its content is not needed.
   const fs::path root = "/mnt";
-  if (mount("planted", root.c_str(), "tmpfs", 0, nullptr) != 0) {
+  if (mount("temporary-root", root.c_str(), "tmpfs", 0, nullptr) != 0) {
     return Failure("no tmpfs");
   }
   if (std::string reason = ShowFolder("/", root, files); !reason.empty()) {
