@@ -50,7 +50,8 @@ State FullState() {
                                              "was plugged in; this command has "
                                              "the same effect as plugging it "
                                              "in again",
-                                    .command = "ztk doctor"}));
+                                    .command = "ztk doctor",
+                                    .mixer = 1}));
   state.canUndo = true;
   state.undoes = PlaceText(model::kInput, 1);
   return state;

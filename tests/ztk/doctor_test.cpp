@@ -117,6 +117,9 @@ TEST_F(Doctor, NamesThePortWhereThereAreSeveralMixers) {
   EXPECT_EQ(Word(found[1], "command"), "ztk-virtual-mixer fault -m 2 none");
   EXPECT_EQ(Word(found[2], "finding"),
             "mixer 3, port 1-3, is attached, but you cannot open it");
+  EXPECT_EQ(found[0].value("mixer", 0), 1);
+  EXPECT_EQ(found[1].value("mixer", 0), 2);
+  EXPECT_EQ(found[2].value("mixer", 0), 3);
 }
 
 TEST_F(Doctor, FindsAHistoryThatUndoCannotUse) {

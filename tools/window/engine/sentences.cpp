@@ -68,7 +68,7 @@ QString MixerSentence(const model::Mixer &mixer) {
   return Sentences::tr("The request to mixer %1 failed.").arg(mixer.number);
 }
 
-// "mixer 2 does not answer": the number is the only part that changes.
+// What a finding with this id says about its mixer.
 struct Opening {
   const char *id;
   const char *sentence;
@@ -82,25 +82,14 @@ constexpr Opening kOpenings[] = {
 constexpr char kNotOpened[] =
     QT_TRANSLATE_NOOP("Engine", "You have no permission to open mixer %1.");
 
-// The number in "mixer 2 is attached, but ..." and "mixer 2, port 1-2, does not
-// answer"; empty in other sentences.
-QString MixerNumber(const std::string &sentence) {
-  constexpr char kStart[] = "mixer ";
-  if (!sentence.starts_with(kStart)) return {};
-  const QString rest =
-      QString::fromStdString(sentence.substr(sizeof kStart - 1));
-  return rest.section(QLatin1Char(' '), 0, 0).remove(QLatin1Char(','));
-}
-
 QString WhatFails(const model::Finding &finding) {
-  const QString number = MixerNumber(finding.what);
-  if (number.isEmpty()) return FromModel(finding.what);
+  if (finding.mixer == 0) return FromModel(finding.what);
   for (const Opening &opening : kOpenings) {
     if (finding.id == opening.id) {
-      return Sentences::tr(opening.sentence).arg(number);
+      return Sentences::tr(opening.sentence).arg(finding.mixer);
     }
   }
-  return Sentences::tr(kNotOpened).arg(number);
+  return Sentences::tr(kNotOpened).arg(finding.mixer);
 }
 
 }  // namespace

@@ -22,7 +22,8 @@ void AddFinding(const char *part, const Finding &finding, Report *report) {
        {"severity", finding.isNote ? "note" : "problem"},
        {"finding", finding.what},
        {"cause", finding.cause},
-       {"command", finding.command}});
+       {"command", finding.command},
+       {"mixer", finding.mixer == 0 ? Json() : Json(finding.mixer)}});
   report->text += cli::Padded(part, kColumn) +
                   (finding.isNote ? "note: " : "") +
                   cli::OneLine(finding.what) + "\n" + cli::Padded("", kColumn) +

@@ -16,6 +16,7 @@ struct Finding {
   std::string command;  // what to type; nothing else is needed
   // A note: worth knowing, but nothing fails because of it.
   bool isNote = false;
+  int mixer = 0;  // the number of the mixer that it is about; 0 for none
 };
 
 using Findings = std::vector<Finding>;

@@ -43,14 +43,16 @@ Finding ExplainSilence(const SilentRouting &routing, bool namesMixer) {
           .isNote = true};
 }
 
-// "mixer 2 does not answer" becomes "mixer 2, port 1-2, does not answer".
-std::string WithPort(const std::string &what, int number,
-                     const std::string &place) {
+// With several mixers, "mixer 2 does not answer" becomes "mixer 2, port 1-2,
+// does not answer".
+Finding About(int number, const std::string &place, bool several,
+              Finding finding) {
+  finding.mixer = number;
   const std::string name = "mixer " + std::to_string(number);
-  const std::size_t begin = what.find(name + " ");
-  if (begin == std::string::npos) return what;
-  std::string named = what;
-  return named.insert(begin + name.size(), ", port " + place + ",");
+  if (several && finding.what.starts_with(name + " ")) {
+    finding.what.insert(name.size(), ", port " + place + ",");
+  }
+  return finding;
 }
 
 // Mixers that were attached and are not any more.
@@ -64,11 +66,9 @@ Findings FindGone(const std::vector<std::string> &places,
         mixers.begin(), mixers.end(),
         [&place](const MixerStatus &mixer) { return mixer.place == place; });
     if (isHere) continue;
-    findings.push_back(ExplainUnanswered(
-        Unanswering(number, platform::usb::kNoDevice), place));
-    if (places.size() > 1) {
-      findings.back().what = WithPort(findings.back().what, number, place);
-    }
+    const Mixer gone = Unanswering(number, platform::usb::kNoDevice);
+    findings.push_back(About(number, place, places.size() > 1,
+                             ExplainUnanswered(gone, place)));
   }
   return findings;
 }
@@ -80,17 +80,12 @@ Findings CheckMixers(std::string *good) {
   const std::vector<MixerStatus> mixers = AskEveryMixer();
   Findings findings = FindGone(places, mixers);
   for (const MixerStatus &one : mixers) {
-    if (one.mixer.state == MixerState::NotOpened) {
-      findings.push_back(ExplainUnopened(one.mixer.number, one.place));
-    } else if (!one.works() && one.failure) {
-      findings.push_back(ExplainUnanswered(*one.failure, one.place));
-    } else {
-      continue;
-    }
-    if (mixers.size() > 1) {
-      findings.back().what =
-          WithPort(findings.back().what, one.mixer.number, one.place);
-    }
+    const bool isForbidden = one.mixer.state == MixerState::NotOpened;
+    if (!isForbidden && (one.works() || !one.failure)) continue;
+    findings.push_back(About(one.mixer.number, one.place, mixers.size() > 1,
+                             isForbidden
+                                 ? ExplainUnopened(one.mixer.number, one.place)
+                                 : ExplainUnanswered(*one.failure, one.place)));
   }
   for (const SilentRouting &routing : FindSilentRoutings(mixers)) {
     findings.push_back(ExplainSilence(routing, mixers.size() > 1));
