@@ -138,17 +138,12 @@ StepOutcome UndoIn(History *history) {
     return outcome;
   }
   const std::vector<model::UndoItem> items = model::PlanUndo(history->steps());
-  const MadeChanges made = model::MakeChanges(model::ChangesOf(items));
-  outcome = OutcomeOf(made);
+  const model::UndoneSteps undone =
+      model::UndoSteps(model::ChangesOf(items), 1, history);
+  outcome = OutcomeOf(undone.made);
   outcome.report =
       (UndoneText(outcome) + QLatin1Char(' ') + LeftAloneText(items)).trimmed();
-  bool done = true;
-  for (const MadeChange &one : made.changes) {
-    done =
-        done && (one.remembered || one.forgotten || one.result == ZTK_REJECTED);
-  }
-  if (done) history->DropLast();
-  if (!history->Save()) {
+  if (!undone.saved) {
     outcome.report = Steps::tr(
         "The history of changes cannot be written, so the same step "
         "may be undone again.");

@@ -182,18 +182,11 @@ std::string SendingAgain(const MadeChanges &made) {
   return joined + (remembersDefault ? " (set also remembers the default)" : "");
 }
 
-// True when undo has finished with the step, with or without success.
-bool UndoStep(const std::vector<UndoItem> &undoings, Report *report) {
-  const MadeChanges made = [&undoings] {
-    const std::vector<Change> changes = ChangesOf(undoings);
-    const Progress progress = WaitForChanges(changes);
-    return MakeChanges(changes);
-  }();
-  bool done = true;
+void ReportUndone(const MadeChanges &made,
+                  const std::vector<UndoItem> &undoings, Report *report) {
+  report->fields["settings"] = Json::array();
   for (const MadeChange &one : made.changes) {
     AddUndone(one, PastOf(one.change, undoings), made, report);
-    done =
-        done && (one.remembered || one.forgotten || one.result == ZTK_REJECTED);
   }
   const MadeChanges accepted = Accepted(made);
   if (!accepted.changes.empty()) {
@@ -202,7 +195,6 @@ bool UndoStep(const std::vector<UndoItem> &undoings, Report *report) {
     ExplainWarnings(accepted, report);
   }
   AddRefused(made, report);
-  return done;
 }
 
 void UndoLast(std::size_t count, bool dryRun, History *history,
@@ -221,14 +213,16 @@ void UndoLast(std::size_t count, bool dryRun, History *history,
     report->fields["undoneSteps"].push_back(
         steps[steps.size() - 1 - i].command);
   }
-  report->fields["settings"] = Json::array();
-  const bool done = changes.empty() || UndoStep(undoings, report);
-  if (done) history->DropLast(count);
-  if (!history->Save()) {
+  const UndoneSteps undone = [&] {
+    const Progress progress = WaitForChanges(changes);
+    return UndoSteps(changes, count, history);
+  }();
+  ReportUndone(undone.made, undoings, report);
+  if (!undone.saved) {
     report->warnings.push_back("the history cannot be written to " +
                                StateFolder());
   }
-  AddLeftAlone(foreign, done, report);
+  AddLeftAlone(foreign, undone.dropped, report);
   report->fields["stepsLeft"] = history->steps().size();
 }
 

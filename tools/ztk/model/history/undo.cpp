@@ -112,4 +112,17 @@ std::vector<Change> ChangesOf(const std::vector<UndoItem> &items) {
   return changes;
 }
 
+UndoneSteps UndoSteps(const std::vector<Change> &changes, std::size_t count,
+                      History *history) {
+  UndoneSteps undone{.made = MakeChanges(changes)};
+  undone.dropped = std::all_of(
+      undone.made.changes.begin(), undone.made.changes.end(),
+      [](const MadeChange &one) {
+        return one.remembered || one.forgotten || one.result == ZTK_REJECTED;
+      });
+  if (undone.dropped) history->DropLast(count);
+  undone.saved = history->Save();
+  return undone;
+}
+
 }  // namespace ztk::model

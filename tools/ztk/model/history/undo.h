@@ -49,6 +49,20 @@ std::size_t DropVoidSteps(History *history);
 // before, the default is sent, and nothing is remembered again.
 std::vector<Change> ChangesOf(const std::vector<UndoItem> &items);
 
+struct UndoneSteps {
+  MadeChanges made;
+  // The history does not contain the steps any more. It still does when a value
+  // could not be stored.
+  bool dropped = false;
+  bool saved = false;  // the history file was written
+};
+
+// Makes these changes, which take back the last `count` steps, and removes the
+// steps from the history. A rejected change stays undone: a second try would be
+// rejected too.
+UndoneSteps UndoSteps(const std::vector<Change> &changes, std::size_t count,
+                      History *history);
+
 }  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_UNDO_H_
