@@ -136,10 +136,10 @@ TEST(Parse, SaysWhatIsWrongWhatIsAcceptedAndWhatToDo) {
        "no option \"--mixr\" after \"show\"; nearest: --mixer; accepted: "
        "--mixer, --log, --json, --help, --version; see mix show --help"},
       {{"show", "json"},
-       "one word too many after \"show\": \"json\"; nearest: --json; see mix "
+       "unexpected word \"json\" after \"show\"; nearest: --json; see mix "
        "show --help"},
       {{"run", "ls"},
-       "one word too many after \"run\": \"ls\"; put \"--\" before the "
+       "unexpected word \"ls\" after \"run\"; put \"--\" before the "
        "command; "
        "see mix run --help"},
       {{"input", "set"},

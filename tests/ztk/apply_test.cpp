@@ -194,8 +194,8 @@ TEST_F(Apply, SkipsAValueThatIsNoNumber) {
 TEST_F(Apply, WarnsThatTheAttachedMixerIsOfAnotherModel) {
   Remember("VRM-B5", {{"Input0", 2}, {"Input1", 2}});
   EXPECT_EQ(OneMixer("ztk apply").err,
-            "ztk: warning: USB output audio belongs to the VRM-B5. What is "
-            "attached is a VRM-D6\n");
+            "ztk: warning: USB output audio belongs to the VRM-B5. The "
+            "attached mixer is a VRM-D6\n");
   EXPECT_EQ(SplitLines(OneMixer("ztk output apply").err).size(), 1U);
   EXPECT_THAT(NoMixer("ztk apply").err, Not(HasSubstr("attached is a")));
 }
@@ -206,11 +206,12 @@ TEST_F(Apply, WarnsOnceOfSilentChannels) {
                                 "2=3", "--selector", "3=2"},
                                "ztk apply; ztk input apply 2");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.err,
-            "ztk: warning: silent, as the input selector is not in position "
-            "4: USB input 1, USB input 2; ztk status shows the positions\n"
-            "ztk: warning: silent, as the input selector is not in position "
-            "4: USB input 2; ztk status shows the positions\n");
+  EXPECT_EQ(
+      result.err,
+      "ztk: warning: silent, because the input selector is not in position "
+      "4: USB input 1, USB input 2; ztk status shows the positions\n"
+      "ztk: warning: silent, because the input selector is not in position "
+      "4: USB input 2; ztk status shows the positions\n");
   EXPECT_EQ(OneMixer("ztk apply").err, "");
 }
 

@@ -185,7 +185,7 @@ TEST_F(Doctor, TellsProblemsAndCommandsWhenQuiet) {
 TEST_F(Doctor, WritesAReportToFilesOnly) {
   const Result result = NoMixer("ztk doctor --report -; echo $?");
   EXPECT_EQ(result.out, "2\n");
-  EXPECT_THAT(result.err, StartsWith("ztk: --report takes the name of a file"));
+  EXPECT_THAT(result.err, StartsWith("ztk: --report needs the name of a file"));
 }
 
 TEST_F(Doctor, FindsThatTheRuleIsMissing) {

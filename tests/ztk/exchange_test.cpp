@@ -148,12 +148,13 @@ TEST_F(Import, ChecksAllOfItBeforeItChangesAnything) {
 TEST_F(Import, RefusesWhatIsNoExport) {
   EXPECT_THAT(Errors(""), ElementsAre(StartsWith("not JSON (byte ")));
   EXPECT_THAT(Errors("{\"version\":1,"), ElementsAre("not JSON (byte 14)"));
-  EXPECT_THAT(Errors("[]"), ElementsAre(StartsWith("there are no settings")));
+  EXPECT_THAT(Errors("[]"),
+              ElementsAre(StartsWith("it contains no \"settings\"")));
   EXPECT_THAT(Errors("{\"settings\":{}}"),
               ElementsAre("version: it is missing"));
   EXPECT_THAT(Errors(R"({"version":1,"settings":{"VRM-D6":{
                          "boost":"-5 dB","boost":"-10 dB"}}})"),
-              ElementsAre("\"boost\" stands twice"));
+              ElementsAre("\"boost\" is there twice"));
 }
 
 TEST_F(Import, TellsErrorsInJsonToo) {
@@ -174,7 +175,7 @@ TEST_F(Import, NeedsAFileThatCanBeRead) {
   EXPECT_EQ(result.out, "2\n2\n2\n2\n");
   EXPECT_EQ(SplitLines(result.err).size(), 4U) << result.err;
   EXPECT_THAT(Line(result.err, 1), HasSubstr("No such file or directory"));
-  EXPECT_THAT(Line(result.err, 3), HasSubstr("too large"));
+  EXPECT_THAT(Line(result.err, 3), HasSubstr("larger than any file"));
 }
 
 TEST_F(Import, ShowsInADryRunWhatItWouldDo) {
@@ -199,10 +200,11 @@ TEST_F(Import, NamesWhatItKeeps) {
   Remember("VRM-D6", {{"Output1", 5}, {"MaxLevel", 1}});
   WriteAll(home_.path() / "file",
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
-  EXPECT_EQ(OneMixer("ztk import $DIR/file").out,
-            "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n"
-            "Kept, as the file does not name it: USB input 2: 6 MIC (ztk "
-            "import --only forgets it)\n");
+  EXPECT_EQ(
+      OneMixer("ztk import $DIR/file").out,
+      "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n"
+      "Kept, because the file does not contain it: USB input 2: 6 MIC (ztk "
+      "import --only forgets it)\n");
   const Json json = OneObject(OneMixer("ztk import $DIR/file --json").out);
   EXPECT_EQ(json["kept"], Json::parse(R"([{"setting":"input","model":"VRM-D6",
       "channel":2,"number":6,"text":"MIC","value":5}])"));
@@ -253,7 +255,7 @@ TEST_F(Import, ShowsTheFirstErrorsAndTheirNumber) {
   EXPECT_EQ(json.value("errorCount", 0), 2000);
   EXPECT_EQ(json.value("errors", Json()).size(), 20U);
   EXPECT_THAT(LastLine(result.err),
-              HasSubstr("2000 errors, of which the first 20 are shown,"));
+              HasSubstr("2000 errors (the first 20 are shown) in "));
 }
 
 TEST_F(Import, RefusesANumberThatIsTooLarge) {
@@ -273,7 +275,7 @@ TEST_F(Import, NamesTheCommandsThatSendTheDefaultsOfWhatItForgets) {
              "cd $DIR; ztk import --only c.json; ztk-virtual-mixer fault none\n"
              "> $DIR/seen; ztk input set 4 1; ztk import --only c.json");
   EXPECT_EQ(Line(result.err, 0),
-            "ztk: what the file holds is saved or forgotten, but the mixer "
+            "ztk: the content of the file is saved or forgotten, but the mixer "
             "refused it; switch it off and on again, then run: ztk "
             "input set 4 1; ztk import --only c.json");
   EXPECT_EQ(LastLine(result.out),

@@ -51,11 +51,10 @@ TEST_F(Status, SaysThatNoMixerIsAttached) {
   const Result result =
       Inside({"-n", "0", "--other-devices", "4"}, "ztk status");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(
-      result.out,
-      "No mixer is attached\nNothing is remembered\n"
-      "Next: plug the mixer in and switch it on; ztk doctor tells what is "
-      "missing\n");
+  EXPECT_EQ(result.out,
+            "No mixer is attached\nNothing is remembered\n"
+            "Next: plug the mixer in and switch it on; if that does not help, "
+            "run ztk doctor\n");
   const Json json = OneObject(NoMixer("ztk status --json").out);
   EXPECT_EQ(json["connected"], false);
   EXPECT_EQ(json["found"], 0);
@@ -123,8 +122,8 @@ TEST_F(Status, AsksASilentMixerOnlyOnce) {
   EXPECT_EQ(result.out,
             "Mixer 1 does not answer\n"
             "Nothing is remembered\n"
-            "Next: switch the mixer that does not answer off and on again; ztk "
-            "doctor tells more\n");
+            "Next: switch the mixer that does not answer off and on again; if "
+            "that does not help, run ztk doctor\n");
   EXPECT_EQ(Requests().size(), 1U);
   const Json json = OneObject(
       Inside({"-n", "1", "--fault", "silence@8007"}, "ztk status --json").out);
@@ -157,8 +156,8 @@ TEST_F(Status, ShowsAllOfSeveralMixersWhenToldSo) {
       "  Serato        not active\n"
       "Mixer 2, port 1-2, does not answer\n"
       "Nothing is remembered\n"
-      "Next: switch the mixer that does not answer off and on again; ztk "
-      "doctor tells more\n");
+      "Next: switch the mixer that does not answer off and on again; if that "
+      "does not help, run ztk doctor\n");
 }
 
 TEST_F(Status, SaysWhyAChannelIsSilent) {
@@ -196,13 +195,14 @@ TEST_F(Status, TellsToTurnTheSelectorOfASilentChannel) {
 TEST_F(Status, DoesNotCallAMixerReachableThatRefusesEverything) {
   const Result result = Inside({"-n", "2", "--fault", "2:stall"},
                                "ztk status; ztk status --json");
-  EXPECT_THAT(result.out,
-              StartsWith("2 mixers are attached, 1 is reachable\n"
-                         "Mixer 1, port 1-1, is reachable, firmware 4.36\n"
-                         "Mixer 2, port 1-2, refuses what it is asked\n"
-                         "Nothing is remembered\n"
-                         "Next: switch the mixer that refuses what it is asked "
-                         "off and on again; ztk doctor tells more\n"));
+  EXPECT_THAT(
+      result.out,
+      StartsWith("2 mixers are attached, 1 is reachable\n"
+                 "Mixer 1, port 1-1, is reachable, firmware 4.36\n"
+                 "Mixer 2, port 1-2, refuses what it is asked\n"
+                 "Nothing is remembered\n"
+                 "Next: switch the mixer that refuses what it is asked "
+                 "off and on again; if that does not help, run ztk doctor\n"));
   const Json json = OneObject(LastLine(result.out) + "\n");
   EXPECT_EQ(json["reached"], 2);
   EXPECT_EQ(json["answering"], 1);
@@ -215,14 +215,14 @@ TEST_F(Status, TellsToSwitchAllStuckMixersOffAndOn) {
                              "2:silence"},
                             "ztk status")
                          .out),
-            "Next: switch the mixers that do not answer off and on again; ztk "
-            "doctor tells more");
+            "Next: switch the mixers that do not answer off and on again; if "
+            "that does not help, run ztk doctor");
   EXPECT_EQ(
       LastLine(Inside({"-n", "3", "--fault", "1:silence", "--fault", "2:stall"},
                       "ztk status")
                    .out),
       "Next: switch the mixers that do not answer or refuse what they "
-      "are asked off and on again; ztk doctor tells more");
+      "are asked off and on again; if that does not help, run ztk doctor");
 }
 
 TEST_F(Status, ShowsAReplyThatIsNotWholeAsUnknown) {
@@ -242,7 +242,7 @@ TEST_F(Status, ShowsAReplyThatIsNotWholeAsUnknown) {
 TEST_F(Status, SendsToTheDoctorWhenASettingsFileCannotBeRead) {
   WriteAll(home_.SettingsFile("VRM-D6"), "broken");
   EXPECT_EQ(LastLine(OneMixer("ztk status").out),
-            "Next: ztk doctor tells why, and what to do");
+            "Next: run ztk doctor; it shows the cause and what to do");
 }
 
 TEST_F(Status, DoesNotTrustRepliesThatAreTooShortOrTooLarge) {

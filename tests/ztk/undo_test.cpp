@@ -81,10 +81,11 @@ TEST_F(Undo, LeavesAloneWhatAnotherProgramHasChangedSince) {
   Remember("VRM-D6", {{"Output0", 5}, {"MaxLevel", 1}});
   const Result result = OneMixer("ztk undo; echo $?; ztk undo; echo $?");
   EXPECT_EQ(Line(result.out, 0), "4");
-  EXPECT_THAT(Line(result.err, 0),
-              HasSubstr("left alone, as another program has changed it since: "
-                        "USB input 1 is 6 MIC (for what it was, type: ztk "
-                        "input set 1 2)"));
+  EXPECT_THAT(
+      Line(result.err, 0),
+      HasSubstr("not undone, because another program has changed it since: USB "
+                "input 1 is 6 MIC (to restore the earlier value, run: ztk "
+                "input set 1 2)"));
   // Each undo decides about one step only.
   EXPECT_THAT(Line(result.out, 1), HasSubstr("Boost level: 2 -10 dB undone"));
   EXPECT_EQ(Line(result.out, 2), "0");
@@ -114,7 +115,7 @@ TEST_F(Undo, SaysWhatCannotBePutBack) {
   EXPECT_EQ(Line(result.out, 0),
             "Boost level: 2 -10 dB undone, 77, which is not a choice refused");
   EXPECT_EQ(Line(result.out, 1), "4");
-  EXPECT_THAT(result.err, HasSubstr("cannot be put back, as the library "
+  EXPECT_THAT(result.err, HasSubstr("cannot be restored, because the library "
                                     "refuses it: Boost level: 77"));
   EXPECT_EQ(Line(result.out, 2), "Nothing to undo.");
 }
@@ -256,9 +257,9 @@ TEST_F(Reset, IsUndone) {
   Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 5}});
   const std::string before = ReadAll(home_.SettingsFile("VRM-D6"));
   EXPECT_EQ(OneMixer("ztk reset > /dev/null; ztk undo").out,
-            "Boost level: no longer forgotten, 1 -5 dB, sent to 1 mixer, "
+            "Boost level: restored, 1 -5 dB, sent to 1 mixer, "
             "remembered\n"
-            "USB input 2: no longer forgotten, 6 MIC, sent to 1 mixer, "
+            "USB input 2: restored, 6 MIC, sent to 1 mixer, "
             "remembered\n");
   EXPECT_EQ(OneMixer("ztk status | tail -n 2").out,
             "  USB input 2   6 MIC  (VRM-D6)\n"
@@ -313,7 +314,7 @@ TEST_F(Undo, IsMissedWithAWarningAndNothingElse) {
   EXPECT_EQ(Line(result.out, 1), "0");
   EXPECT_EQ(Line(result.out, 2), "5");
   EXPECT_THAT(Line(result.err, 0),
-              StartsWith("ztk: warning: ztk undo will not know of this: "));
+              StartsWith("ztk: warning: ztk undo cannot undo this: "));
 }
 
 TEST_F(Undo, GoesBackAHundredStepsAndNoFurther) {
@@ -355,8 +356,8 @@ TEST_F(Undo, NeverReplacesAHistoryThatCannotBeRead) {
   EXPECT_EQ(Line(result.out, 1), "0");
   EXPECT_EQ(Line(result.out, 2), "5");
   EXPECT_THAT(Line(result.err, 0),
-              HasSubstr("ztk undo will not know of this: " +
-                        History().string() + ": it is a symbolic link"));
+              HasSubstr("ztk undo cannot undo this: " + History().string() +
+                        ": it is a symbolic link"));
   EXPECT_THAT(Line(result.err, 1), HasSubstr("nothing can be undone: "));
   EXPECT_TRUE(std::filesystem::is_symlink(History()));
   EXPECT_EQ(File("other"), "other\n");
@@ -416,7 +417,7 @@ TEST_F(Undo, DoesNotCreateAMissingHome) {
   const Result result = OneMixer(
       "export HOME=$DIR/missing; ztk boost set 2; ztk undo; "
       "ls -d $DIR/missing");
-  EXPECT_THAT(result.err, HasSubstr("ztk undo will not know of this: "));
+  EXPECT_THAT(result.err, HasSubstr("ztk undo cannot undo this: "));
   EXPECT_THAT(result.out, HasSubstr("not remembered"));
   EXPECT_FALSE(std::filesystem::exists(home_.path() / "missing"));
 }
@@ -467,7 +468,7 @@ TEST_F(Undo, TellsApartWhatIsSavedAndWhatIsForgotten) {
       "ztk boost set 2 2> /dev/null; ztk output set 1 2 2> /dev/null\n"
       "ztk undo 2");
   EXPECT_EQ(LastLine(result.err),
-            "ztk: what was put back is saved or forgotten, but not sent: no "
+            "ztk: what was restored is saved or forgotten, but not sent: no "
             "mixer is attached; once one is, run: ztk output default 1; ztk "
             "apply");
 }

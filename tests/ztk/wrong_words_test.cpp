@@ -183,7 +183,7 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
        "ztk: a CHANNEL is missing; accepted: 1 to 5; see ztk input set "
        "--help\n"},
       {"status now",
-       "ztk: one word too many after \"status\": \"now\"; see ztk status "
+       "ztk: unexpected word \"now\" after \"status\"; see ztk status "
        "--help\n"},
       {"status --all",
        "ztk: no option \"--all\" after \"status\"; accepted: --verbose, "

@@ -262,7 +262,7 @@ class CommandLine {
     if (found != extras.end()) FailOption(*found, options);
     // It may be an option without its dashes.
     const std::string nearest = Nearest(extras.front(), LongNames(options));
-    Fail("one word too many" + Place() + ": " + Quoted(extras.front()) +
+    Fail("unexpected word " + Quoted(extras.front()) + Place() +
          (TakesCommand(command) ? "; put \"--\" before the command"
           : nearest.empty()     ? ""
                                 : "; nearest: " + nearest));

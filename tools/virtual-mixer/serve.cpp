@@ -75,7 +75,7 @@ void WaitForSignal(const SignalGuard &signals) {
 int Serve(const ServeOptions &options) {
   if (!cli::Variable("UMOCKDEV_DIR").empty()) {
     throw std::runtime_error(
-        "inside a sandbox there is no kernel to serve; leave it first");
+        "serve needs the kernel of this machine; leave the sandbox first");
   }
   FillStandardStreams();
   const SignalGuard signals;

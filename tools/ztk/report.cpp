@@ -9,9 +9,9 @@ constexpr ExitMeaning kExitMeanings[] = {
     {.exit = ExitCode::Done,
      .word = "",
      .text =
-         "done: each mixer that received something answered, and what was\n"
-         "set is remembered; a command that only shows something has shown\n"
-         "it, even when no mixer answers; there may be warnings"},
+         "done: every mixer answered, and what was set is remembered. A\n"
+         "command that only shows something also ends with 0 when no mixer\n"
+         "answers. There may be warnings"},
     {.exit = ExitCode::Found,
      .word = "found",
      .text = "ztk doctor has found a problem"},
@@ -20,17 +20,20 @@ constexpr ExitMeaning kExitMeanings[] = {
      .text = "invalid command line or import file; nothing was sent"},
     {.exit = ExitCode::NoMixer,
      .word = "no-mixer",
-     .text = "no mixer answered; what was set, imported or undone is\n"
-             "remembered, raw values and defaults are not"},
+     .text = "no mixer answered; set, import and undo have changed the\n"
+             "settings file nevertheless. Raw values and the defaults of ztk\n"
+             "output default are not stored"},
     {.exit = ExitCode::Rejected,
      .word = "rejected",
-     .text = "rejected: the library does not accept the model or the value, a\n"
-             "remembered value is not valid for its channel, or ztk undo left\n"
-             "alone what another program has changed since"},
+     .text =
+         "rejected: the library does not accept the model or the value, a\n"
+         "remembered value is not valid for its channel, or ztk undo did not\n"
+         "change a setting because another program has changed it since"},
     {.exit = ExitCode::Failed,
      .word = "failed",
-     .text = "another error, which the message describes; there is no message\n"
-             "when the reader of the output has ended"},
+     .text =
+         "another error; the message describes it. There is no message when\n"
+         "the program that reads the output has ended"},
     {.exit = ExitCode::SomeMixers,
      .word = "some-mixers",
      .text = "some mixers answered, others did not; a choice is remembered"},

@@ -160,7 +160,7 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
       {{"run", "--mixrs", "2", "--", "true"},
        2,
        "no option \"--mixrs\" after \"run\"; nearest: --mixers; accepted: "},
-      {{"show", "me"}, 2, "one word too many after \"show\": \"me\"; see "},
+      {{"show", "me"}, 2, "unexpected word \"me\" after \"show\"; see "},
       {{}, 2, "a command is missing; accepted: run, serve, turn"},
       {{"run", "ls"}, 2, "put \"--\" before the command"},
       {{"run", "-n", "128", "--", "true"},

@@ -118,12 +118,12 @@ TEST_F(Reports, ThatCannotBeReplayedAreRefusedInOneLine) {
     EXPECT_THAT(result.err, HasSubstr(row.expected));
   }
   EXPECT_THAT(Tool({"run", "--device", "x", "-n", "2"}).err,
-              HasSubstr("--device excludes --mixers"));
+              HasSubstr("--device and --mixers cannot be used"));
   EXPECT_EQ(Tool({"run", "--device", "", "--", "true"}).status, 2);
   EXPECT_THAT(Tool({"run", "--device", "", "--", "true"}).err,
-              HasSubstr("--device takes the name of a file, and \"\" is none"));
+              HasSubstr("--device needs the name of a file, not \"\""));
   EXPECT_THAT(Tool({"run", "--log", "", "--", "true"}).err,
-              HasSubstr("--log takes the name of a file, and \"\" is none"));
+              HasSubstr("--log needs the name of a file, not \"\""));
   EXPECT_THAT(Tool({"run", "--delays"}).err,
               HasSubstr("--delays needs --device"));
 }

@@ -151,10 +151,10 @@ TEST_F(World, RefusesToOpenAForbiddenMixer) {
              "$PROBE read 1 8001 2; $PROBE read 2 8001 2; "
              "$TOOL allow; $PROBE read 2 8001 2; "
              "$TOOL forbid --mixer 1; $PROBE read 1 8001 2");
-  EXPECT_EQ(
-      result.out,
-      "2: 36 04\nopen EACCES\n2 mixers: may be opened\n2: 36 04\nmixer "
-      "1: may not be opened, until: ztk-virtual-mixer allow\nopen EACCES\n");
+  EXPECT_EQ(result.out,
+            "2: 36 04\nopen EACCES\n2 mixers: may be opened\n2: 36 04\nmixer "
+            "1: cannot be opened until you run: ztk-virtual-mixer allow\nopen "
+            "EACCES\n");
   EXPECT_EQ(result.err, "");
 }
 

@@ -26,9 +26,9 @@ std::string Ask(const std::string &line) {
   const std::string path = cli::Variable(kControlVariable);
   if (path.empty()) {
     throw std::runtime_error(
-        "no virtual mixers here; start some with: ztk-virtual-mixer run; or, "
-        "for mixers that are served, export ZTK_VIRTUAL_MIXER_CONTROL as "
-        "\"serve\" prints it");
+        "there are no virtual mixers here; start some with: ztk-virtual-mixer "
+        "run; for mixers of \"serve\", first type the export line that it "
+        "prints");
   }
   const std::string answer = AskControl(path, line);
   if (answer.compare(0, 2, "ok") != 0) {
@@ -111,13 +111,13 @@ constexpr Simple kUnplug{
 constexpr Simple kForbid{.name = "forbid",
                          .summary = "Forbid opening mixers",
                          .done =
-                             "may not be opened, until: "
+                             "cannot be opened until you run: "
                              "ztk-virtual-mixer allow",
                          .where = kInsideRun,
                          .note =
-                             "Programs see the same as with a real mixer; ztk "
-                             "doctor shows the remedy for a\nreal one. Here, "
-                             "ztk-virtual-mixer allow ends it."};
+                             "Programs see the same as with a real mixer that "
+                             "you may not open.\nztk-virtual-mixer allow ends "
+                             "it."};
 constexpr Simple kAllow{.name = "allow",
                         .summary = "Allow opening them again",
                         .done = "may be opened",

@@ -85,22 +85,23 @@ std::vector<cli::Value> FaultKinds() {
 
 ztk::cli::Program ztk::cli::ThisProgram(const std::string & /*firstWord*/) {
   using namespace ztk::virtual_mixer;
-  return {.name = "ztk-virtual-mixer",
-          .version = build::kVersion,
-          .summary = "run programs with virtual VRM-D6 mixers",
-          .about =
-              "Virtual VRM-D6 mixers for any program, no hardware needed.\n"
-              "\n"
-              "run and serve start the mixers; the other commands, inside, "
-              "change them. The\nlibrary inside is the real one, only the "
-              "devices are virtual. They remember what\nthey were sent until "
-              "the command ends.",
-          .examples = {"ztk-virtual-mixer run -n 2 -- ztk status"},
-          .options = {},
-          .groups = {},
-          .commands = MakeCommands(),
-          .exitStatuses = ExitStatuses,
-          .introduction = ManualIntroduction,
-          .sections = ManualSections,
-          .seeAlso = {"ztk(1)", "ZTKFunc(3)"}};
+  return {
+      .name = "ztk-virtual-mixer",
+      .version = build::kVersion,
+      .summary = "run programs with virtual VRM-D6 mixers",
+      .about =
+          "Virtual VRM-D6 mixers for any program, no hardware needed.\n"
+          "\n"
+          "run and serve start the mixers and a command. While that command "
+          "runs, the other\ncommands change the mixers. Programs use the "
+          "real library; only the devices are\nvirtual. The mixers keep "
+          "what they receive until the command ends.",
+      .examples = {"ztk-virtual-mixer run -n 2 -- ztk status"},
+      .options = {},
+      .groups = {},
+      .commands = MakeCommands(),
+      .exitStatuses = ExitStatuses,
+      .introduction = ManualIntroduction,
+      .sections = ManualSections,
+      .seeAlso = {"ztk(1)", "ZTKFunc(3)"}};
 }

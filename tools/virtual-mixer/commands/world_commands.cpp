@@ -28,9 +28,7 @@ void TakeNumber(const Arguments &arguments, const char *name, const char *what,
 // The name of a file; empty without the option.
 std::string FileName(const Arguments &arguments, const char *name) {
   if (arguments.Has(name) && arguments.One(name).empty()) {
-    throw UsageError(std::string(name) +
-                     " takes the name of a file, and \"\" "
-                     "is none");
+    throw UsageError(std::string(name) + " needs the name of a file, not \"\"");
   }
   return arguments.One(name);
 }
@@ -46,11 +44,13 @@ WorldOptions World(const Arguments &arguments) {
   options.reportFile = FileName(arguments, "--device");
   if (arguments.Has("--device") && arguments.Has("--mixers")) {
     throw UsageError(
-        "--device excludes --mixers: the report tells how many there are");
+        "--device and --mixers cannot be used together: the report contains "
+        "the number of mixers");
   }
   if (arguments.Has("--delays")) {
     if (!arguments.Has("--device")) {
-      throw UsageError("--delays needs --device, whose delays are replayed");
+      throw UsageError(
+          "--delays needs --device: it replays the delays of a report");
     }
     options.delays = Delays::Replayed;
   }
@@ -75,7 +75,8 @@ int RunServe(const Arguments &arguments) {
   options.command = arguments.command;
   if (arguments.Has("--listen")) {
     if (options.attach) {
-      throw UsageError("--attach excludes --listen: give one of them");
+      throw UsageError(
+          "--attach and --listen cannot be used together; leave one out");
     }
     options.listen = arguments.One("--listen");
   }

@@ -79,8 +79,10 @@ std::size_t AddCheck(const CheckedPart &part, bool quiet, Report *report) {
 Report Diagnose(const Arguments &arguments) {
   const std::string *file = arguments.Find(Parameter::kReportFile);
   if (file != nullptr && (*file == "-" || file->empty())) {
-    throw Failure(ExitCode::Usage, "--report takes the name of a file, and " +
-                                       cli::Quoted(*file) + " is none");
+    throw Failure(ExitCode::Usage, "--report needs the name of a file, not " +
+                                       cli::Quoted(*file) +
+                                       "; for example: ztk doctor --report "
+                                       "mixer.json");
   }
   Report report;
   report.fields["checks"] = Json::array();

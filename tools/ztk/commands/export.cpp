@@ -14,12 +14,11 @@ Report Export(const Arguments & /*arguments*/) {
   report.text = text;
   report.fields = Json::parse(text);
   for (const std::string &value : leftOut) {
-    report.warnings.push_back("left out, as there are no words for it: " +
-                              value);
+    report.warnings.push_back("left out, because it is not a choice: " + value);
   }
   if (report.fields["settings"].empty()) {
     report.warnings.emplace_back(
-        "nothing is remembered: ztk import of this sets nothing");
+        "nothing is remembered, so the output contains no settings");
   }
   return report;
 }

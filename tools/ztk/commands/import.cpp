@@ -42,7 +42,7 @@ std::string Contents(const std::string &file) {
   }
   if (text.size() > kLargestImport) {
     throw Failure(ExitCode::Usage,
-                  cli::Quoted(file) + " is too large to hold settings");
+                  cli::Quoted(file) + " is larger than any file of settings");
   }
   return text;
 }
@@ -59,8 +59,8 @@ Report Refused(const std::string &file, const ImportedSettings &import) {
   std::string counted =
       std::to_string(count) + (count == 1 ? " error" : " errors");
   if (count > import.errors.size()) {
-    counted += ", of which the first " + std::to_string(import.errors.size()) +
-               " are shown,";
+    counted +=
+        " (the first " + std::to_string(import.errors.size()) + " are shown)";
   }
   report.fields["errorCount"] = count;
   report.problem = {
@@ -100,8 +100,9 @@ void AddKept(const std::vector<StoredValue> &kept, Report *report) {
                     DescribedValue(*value.setting, value.channel, value.index));
   }
   if (kept.empty()) return;
-  report->text += "Kept, as the file does not name it: " + cli::Listed(names) +
-                  " (ztk import --only forgets it)\n";
+  report->text +=
+      "Kept, because the file does not contain it: " + cli::Listed(names) +
+      " (ztk import --only forgets it)\n";
 }
 
 Report PlanOfImport(const std::vector<Change> &changes) {
@@ -140,7 +141,7 @@ Report MakeImported(const std::vector<Change> &changes,
   report.fields["settings"] = Json::array();
   const MadeChanges made = RunStep("import", changes, quiet, &report);
   for (const MadeChange &one : made.changes) AddImported(one, made, &report);
-  ReportOutcome(made, "what the file holds", SendingAgain(made, command),
+  ReportOutcome(made, "the content of the file", SendingAgain(made, command),
                 &report);
   ExplainWarnings(made, &report);
   return report;
@@ -150,11 +151,6 @@ Report MakeImported(const std::vector<Change> &changes,
 
 Report Import(const Arguments &arguments) {
   const std::string *file = arguments.Find(Parameter::kFile);
-  if (file == nullptr) {
-    throw Failure(ExitCode::Usage,
-                  "FILE is missing: one that ztk export has written, or - for "
-                  "the input; see ztk import --help");
-  }
   ImportedSettings import = ParseImport(Contents(*file));
   if (import.errorCount > 0) return Refused(*file, import);
   std::vector<Change> &changes = import.changes;

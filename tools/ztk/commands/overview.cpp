@@ -15,7 +15,8 @@ namespace {
 constexpr std::size_t kColumn = 20;
 
 std::string Attached(std::size_t count) {
-  if (count == 0) return "No mixer is attached. Why: ztk doctor\n";
+  if (count == 0)
+    return "No mixer is attached. To find out why, run: ztk doctor\n";
   if (count == 1) return "1 mixer is attached.\n";
   return std::to_string(count) + " mixers are attached.\n";
 }

@@ -86,7 +86,7 @@ void AddForgotten(const ForgottenStep &step, Report *report) {
   if (!why.empty()) {
     report->problem = {.exit = ExitCode::Failed,
                        .message = "not everything is forgotten: " + why +
-                                  "; ztk doctor tells what to do"};
+                                  "; run ztk doctor; it shows what to do"};
   }
 }
 
@@ -104,8 +104,7 @@ Report Reset(const Arguments &arguments) {
   SharedHistory history;
   const ForgottenStep step = ForgetValues("reset", values, history.get());
   if (!step.notRecorded.empty()) {
-    report.warnings.push_back("ztk undo will not know of this: " +
-                              step.notRecorded);
+    report.warnings.push_back("ztk undo cannot undo this: " + step.notRecorded);
   }
   AddForgotten(step, &report);
   report.text +=

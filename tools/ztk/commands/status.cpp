@@ -218,19 +218,19 @@ std::string StuckMixers(const Mixers &mixers) {
 std::string NextStep(const Mixers &mixers, bool unreadable,
                      const std::vector<SilentRouting> &silent) {
   if (mixers.empty()) {
-    return "Next: plug the mixer in and switch it on; ztk doctor tells what "
-           "is missing\n";
+    return "Next: plug the mixer in and switch it on; if that does not help, "
+           "run ztk doctor\n";
   }
   const std::string stuck = StuckMixers(mixers);
   if (!stuck.empty()) {
     return "Next: switch " + stuck +
-           " off and on again; ztk doctor tells more\n";
+           " off and on again; if that does not help, run ztk doctor\n";
   }
   const bool allWork =
       std::all_of(mixers.begin(), mixers.end(),
                   [](const MixerStatus &mixer) { return mixer.works(); });
   if (!allWork || unreadable) {
-    return "Next: ztk doctor tells why, and what to do\n";
+    return "Next: run ztk doctor; it shows the cause and what to do\n";
   }
   if (silent.empty()) return "";
   const SilentRouting &first = silent.front();

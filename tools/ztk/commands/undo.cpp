@@ -33,7 +33,7 @@ std::vector<std::string> ForeignOnes(const std::vector<UndoItem> &undoings) {
         PlaceName(*past.setting, past.channel) + " is " +
         (now ? DescribedValue(*past.setting, past.channel, *now)
              : "not remembered any more") +
-        " (for what it was, type: " +
+        " (to restore the earlier value, run: " +
         SetCommand(*past.setting, past.channel, FormerIndex(past)) + ")");
   }
   return foreign;
@@ -48,15 +48,14 @@ void AddLeftAlone(const std::vector<std::string> &foreign, bool dropped,
   report->problem = {
       .exit = ExitCode::Rejected,
       .message =
-          "left alone, as another program has changed it "
-          "since: " +
+          "not undone, because another program has changed it since: " +
           cli::Listed(foreign) +
           (dropped ? "; ztk undo --list does not show it any more" : "")};
 }
 
 // "6 MIC undone, "
 std::string UndoneWords(const PastChange &past) {
-  if (!past.after) return "no longer forgotten, ";
+  if (!past.after) return "restored, ";
   return DescribedValue(*past.setting, past.channel, *past.after) + " undone, ";
 }
 
@@ -114,7 +113,7 @@ void AddRefused(const MadeChanges &made, Report *report) {
   if (report->problem) report->warnings.push_back(report->problem->message);
   report->problem = {
       .exit = ExitCode::Rejected,
-      .message = "cannot be put back, as the library refuses it: " +
+      .message = "cannot be restored, because the library refuses it: " +
                  cli::Listed(refused)};
 }
 
@@ -190,7 +189,7 @@ void ReportUndone(const MadeChanges &made,
   }
   const MadeChanges accepted = Accepted(made);
   if (!accepted.changes.empty()) {
-    ReportOutcome(accepted, "what was put back", SendingAgain(accepted),
+    ReportOutcome(accepted, "what was restored", SendingAgain(accepted),
                   report);
     ExplainWarnings(accepted, report);
   }
@@ -219,7 +218,7 @@ void UndoLast(std::size_t count, bool dryRun, History *history,
   }();
   ReportUndone(undone.made, undoings, report);
   if (!undone.saved) {
-    report->warnings.push_back("the history cannot be written to " +
+    report->warnings.push_back("the undo history cannot be written to " +
                                StateFolder());
   }
   AddLeftAlone(foreign, undone.dropped, report);
@@ -320,7 +319,7 @@ Report Undo(const Arguments &arguments) {
   Report report;
   if (history.damaged()) {
     report.warnings.emplace_back(
-        "the history is damaged; what can be read of it is used");
+        "the undo history is damaged; only its readable part is used");
   }
   if (arguments.Has(Parameter::kList)) {
     ListSteps(history.steps(), &report);

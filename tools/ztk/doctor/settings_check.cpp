@@ -46,7 +46,7 @@ void FindUnreadable(const std::string &path, Findings *findings) {
   platform::property_list::Release(settings);
   if (settings != nullptr) return;
   Finding finding{.id = "settings-unreadable",
-                  .what = path + " cannot be read, so defaults stand in",
+                  .what = path + " cannot be read, so the defaults are used",
                   .cause = "it is not a settings file, or it is damaged",
                   .command = MoveAwayCommand(path)};
   const int opened = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
@@ -118,7 +118,7 @@ Finding Unwritable(const std::string &folder, int error) {
       break;
     case ENOSPC:
     case EDQUOT:
-      finding.cause = "the disk, or your share of it, is full";
+      finding.cause = "the disk or your quota is full";
       finding.command = "df -h " + ShellQuoted(folder);
       break;
     default:
@@ -161,7 +161,8 @@ Findings CheckSettingsFiles(const std::vector<std::string> &models,
   if (library.get() == nullptr) {
     return {{.id = "settings-no-home",
              .what = "settings are not remembered: you have no home folder",
-             .cause = "HOME is not set, and no user of this system is you",
+             .cause = "HOME is not set, and the list of users has no entry for "
+                      "you",
              .command = "export HOME=/path/to/your/home"}};
   }
   Findings findings;

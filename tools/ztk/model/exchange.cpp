@@ -81,7 +81,7 @@ class ImportReader {
       if (event == Json::parse_event_t::key &&
           !names.back().insert(parsed.get<std::string>()).second) {
         AddError("", [&parsed] {
-          return cli::Quoted(parsed.get<std::string>()) + " stands twice";
+          return cli::Quoted(parsed.get<std::string>()) + " is there twice";
         });
       }
       return true;
@@ -101,8 +101,8 @@ class ImportReader {
   void ReadDocument(const Json &json) {
     if (!json.is_object() || !json.contains("settings")) {
       return AddError("",
-                      "there are no settings in it; accepted: what ztk export "
-                      "writes");
+                      "it contains no \"settings\"; accepted: a file that ztk "
+                      "export has written");
     }
     for (const auto &[name, value] : json.items()) ReadEntry(name, value);
     if (!json.contains("version")) AddError("version", "it is missing");

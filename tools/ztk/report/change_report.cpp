@@ -197,7 +197,7 @@ MadeChanges RunStep(const std::string &command,
   const Progress progress = WaitForChanges(changes);
   MadeStep step = MakeStep(command, changes, history.get());
   if (!step.notRecorded.empty()) {
-    report->warnings.push_back("ztk undo will not know of this: " +
+    report->warnings.push_back("ztk undo cannot undo this: " +
                                step.notRecorded);
   }
   return std::move(step.made);

@@ -94,7 +94,7 @@ std::vector<Choice> ServedChoices(const Setting &setting, std::uint32_t product,
   std::vector<Choice> choices = ChoicesOf(setting, product, channel);
   if (choices.empty()) {
     throw Failure(ExitCode::Rejected,
-                  "the " + ProductName(product) + " is not served: " +
+                  "the " + ProductName(product) + " is not accepted: " +
                       Belonging(setting) + " Leave --product out");
   }
   return choices;

@@ -30,14 +30,15 @@ cli::Command MakeUndo() {
   cli::Command command = MakeOther(
       "undo", "Undo the last change",
       "ztk keeps the last 100 changes; --list numbers them from the last one\n"
-      "backwards. A setting that another program has changed since is left\n"
-      "alone. Where nothing was remembered before, the default is sent, and\n"
-      "nothing is remembered again. Raw values, defaults and apply cannot be\n"
-      "undone.",
+      "backwards. A setting that another program has changed since is not\n"
+      "changed. If nothing was remembered before, the default is sent, and\n"
+      "nothing is remembered afterwards. Raw values, the defaults of ztk "
+      "output\n"
+      "default, and apply cannot be undone.",
       "ztk undo --list", Undo);
   command.options = {{.names = Parameter::kSteps,
                       .value = "",
-                      .description = "Take back the changes 1 to N of --list; "
+                      .description = "Undo the changes 1 to N of --list; only "
                                      "the last one when left out"},
                      {.names = Parameter::kList,
                       .value = "",
@@ -49,10 +50,10 @@ cli::Command MakeUndo() {
 cli::Command MakeReset() {
   cli::Command command = MakeOther(
       "reset", "Forget what is remembered",
-      "The settings file does not hold it any longer. Nothing is sent: the\n"
-      "mixer keeps its settings until it is switched off. Nothing is "
-      "announced\n"
-      "either, so ztk watch does not show it.",
+      "Removes it from the settings file. Nothing is sent: the mixer keeps "
+      "its\n"
+      "settings until it is switched off. Nothing is announced either, so ztk\n"
+      "watch does not show it.",
       "ztk reset input 2", Reset);
   command.options = {
       cli::Offering({.names = Parameter::kSetting,
@@ -70,8 +71,8 @@ cli::Command MakeReset() {
 cli::Command MakeImport() {
   cli::Command command = MakeOther(
       "import", "Restore the settings in a file written by ztk export",
-      "The whole file is checked before anything is changed. What is\n"
-      "remembered and not in the file is kept, and named.",
+      "The whole file is checked before anything is changed. Remembered\n"
+      "settings that are not in the file are kept, and listed.",
       "ztk import club.json --dry-run", Import);
   command.options = {
       {.names = Parameter::kFile,
@@ -82,7 +83,8 @@ cli::Command MakeImport() {
        .fill = cli::Fill::File},
       {.names = Parameter::kOnly,
        .value = "",
-       .description = "Forget what is not in the file, and send its default"},
+       .description = "Forget settings that are not in the file, and send "
+                      "their defaults"},
       DryRunOption()};
   return command;
 }
@@ -90,20 +92,21 @@ cli::Command MakeImport() {
 cli::Command MakeApply() {
   cli::Command command = MakeOther(
       "apply", "Send all remembered settings again",
-      "Sends what is remembered for the VRM-D6; where that is nothing, what\n"
-      "is remembered for its sister models. A setting without a remembered\n"
-      "value is not sent.",
+      "Sends what is remembered for the VRM-D6. If nothing is remembered for\n"
+      "it, sends what is remembered for its sister models. A setting without "
+      "a\n"
+      "remembered value is not sent.",
       "ztk apply", ApplyAll);
   command.options = {
       {.names = Parameter::kProduct,
        .value = "MODEL",
-       .description = "Only what is remembered for this model",
+       .description = "Send only what is remembered for this model",
        .fill = cli::Fill::Values,
        .values = [](const Arguments &,
                     const std::string &) { return ProductValues(); }},
       {.names = Parameter::kAll,
        .value = "",
-       .description = "What is remembered for every model"},
+       .description = "Send what is remembered for every model"},
       DryRunOption()};
   return command;
 }
@@ -145,13 +148,14 @@ cli::Command MakeDoctor() {
 cli::Command MakeStatus() {
   cli::Command command =
       MakeOther("status", "Show the mixers and the remembered settings",
-                "Mixers are numbered in the order of the bus. Of several, each "
-                "has one\nline with its port.",
+                "Mixers are numbered in the order of the bus. If there are "
+                "several, each has\none line with its port.",
                 "ztk status", ShowStatus);
   command.options = {{.names = Parameter::kVerbose,
                       .value = "",
-                      .description = "Show of several mixers all that they "
-                                     "tell"}};
+                      .description =
+                          "Show all details, also if there are several "
+                          "mixers"}};
   return command;
 }
 

@@ -120,7 +120,7 @@ void WarnOfSilence(const std::vector<StoredValue> &settings, Report *report) {
   }
   if (names.empty()) return;
   report->warnings.push_back(
-      "silent, as the input selector is not in position " +
+      "silent, because the input selector is not in position " +
       std::to_string(ZTK_SELECTOR_AUDIBLE) + ": " + cli::Listed(names) +
       "; ztk status shows the positions");
 }
@@ -242,8 +242,8 @@ void RequireSettings(std::uint32_t product) {
     return;
   }
   throw Failure(ExitCode::Rejected,
-                "no value belongs to the " + ProductName(product) +
-                    "; those of these models are remembered: " +
+                "the " + ProductName(product) +
+                    " has no settings; models with settings: " +
                     cli::Listed(ModelNames()));
 }
 
@@ -254,7 +254,7 @@ Report ApplyAll(const Arguments &arguments) {
   const bool all = arguments.Has(Parameter::kAll);
   if (word != nullptr && all) {
     throw Failure(ExitCode::Usage,
-                  "--all and --product exclude each other; leave one out");
+                  "--all and --product cannot be used together; leave one out");
   }
   if (word != nullptr) {
     const std::uint32_t product = ParseProduct(*word);

@@ -96,7 +96,10 @@ void WarnOfOtherModel(const Setting &setting, const Reach &reach,
   for (const std::uint32_t product : attached) {
     names.push_back(ProductName(product));
   }
-  report->warnings.push_back(Belonging(setting) + " What is attached is a " +
+  report->warnings.push_back(Belonging(setting) +
+                             (names.size() == 1
+                                  ? " The attached mixer is a "
+                                  : " The attached mixers are: ") +
                              cli::Listed(names));
 }
 

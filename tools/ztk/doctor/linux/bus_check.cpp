@@ -70,12 +70,12 @@ Finding ExplainNoBus() {
     finding.isNote = false;
   } else if (geteuid() == 0 && Variable("SUDO_USER")) {
     finding.cause =
-        "this runs as root, whose programs are not yours; do "
-        "without sudo";
+        "ztk runs as root, and the message bus belongs to your own user; run "
+        "it without sudo";
     finding.command = "ztk doctor";
     finding.isNote = false;
   } else if (address != usual && AnswersAt(usual)) {
-    finding.cause = "the message bus of your session is not told to this shell";
+    finding.cause = "this shell does not know the message bus of your session";
     finding.command = "export DBUS_SESSION_BUS_ADDRESS=" + ShellQuoted(usual);
     finding.isNote = false;
   } else if (address) {

@@ -27,9 +27,8 @@ const char *FilesFact() {
 const char *SettingsFolderFact() { return "tarvix/Preferences/"; }
 
 const char *AutoapplyFact() {
-  return "Off until you turn it on, for you alone. What was sent, and when, is "
-         "in\n"
-         "your journal:\n"
+  return "It is off until you turn it on, and applies to your user only. Your\n"
+         "journal shows what was sent, and when:\n"
          "  journalctl --user -t ztk-apply";
 }
 
