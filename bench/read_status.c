@@ -2,10 +2,13 @@
  *
  *   read_status [once]
  *
- * The smallest program that reads what "ztk status" reads: every device's
- * identity, to count the mixers and again to find each of them, four registers
- * of each, the settings files. It links only the C library and prints the bytes
- * unchanged. With "once" it asks the mixers during the count.
+ * The smallest program that reads what "ztk status" reads. It reads the
+ * identity of every device once to count the mixers, and once more for each
+ * mixer to find it. Then it reads four registers of each mixer, and the
+ * settings files. It links only the C library. It prints the registers as raw
+ * bytes, and the length of each settings file. With "once" it walks over the
+ * devices a single time, and reads the registers of each mixer as soon as it is
+ * found.
  */
 #include <dirent.h>
 #include <fcntl.h>
@@ -79,7 +82,8 @@ static void ShowSettings(const char *model) {
 
 enum { kCountOnly = -1, kShowAll = -2 };
 
-/* Counts the mixers; shows the one at that position, all, or none. */
+/* Counts the mixers. Shows the mixer at position `shown`, or all of them for
+ * kShowAll, or none for kCountOnly. */
 static int Walk(int shown) {
   DIR *directory = opendir(kDevices);
   if (directory == NULL) exit(1);

@@ -202,19 +202,19 @@ copy_work_tree() {  # folder
 }
 
 # Copies the files that git tracks, with their uncommitted changes.
-copy_known_files() {  # folder
+copy_tracked_files() {  # folder
   git ls-files -z | copy_files "$1"
 }
 
-# Runs a command that finds the texts of the bundle as if they were installed, in
-# a mount namespace of its own. Where the system allows none, ztk doctor reports
-# that the texts are missing.
+# Runs a command in a mount namespace of its own, in which the texts of the build
+# appear to be installed. If the system does not allow such a namespace, the
+# command runs without it, and ztk doctor reports that the texts are missing.
 with_texts() {
   local datadir namespace=(unshare --mount) as_oneself=()
   datadir=$(sed -n 's/^CMAKE_INSTALL_PREFIX:[A-Z]*=//p' \
     build/CMakeCache.txt)/share
   if [[ $(id -u) != 0 ]]; then
-    # Mounting takes root, but the command runs as the user.
+    # Mounting needs root, but the command runs as the user.
     namespace+=(--map-root-user)
     as_oneself=(unshare "--map-user=$(id -u)" "--map-group=$(id -g)")
   fi

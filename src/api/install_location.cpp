@@ -25,7 +25,7 @@ bool IsInstalledInLibrary() {
   bool newer = false;
   const ZTKTextRef version = plist::TextValue(system, kSystemVersionKey);
   if (version != nullptr) {
-    const platform::text::Made component(
+    const platform::text::OwnedText component(
         platform::text::DotComponent(version, kDecidingComponent));
     newer = component.get() != nullptr &&
             platform::text::CompareNumerically(component.get(),

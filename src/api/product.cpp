@@ -14,7 +14,7 @@ using ztk::product::Model;
 ZTKResult ZTK_GetProductId(ZTKTextRef name, uint32_t *outId) {
   if (name == nullptr || outId == nullptr) return ZTK_REJECTED;
 
-  const platform::text::Made upper(platform::text::UpperCase(name));
+  const platform::text::OwnedText upper(platform::text::UpperCase(name));
   for (const Model &model : kModels) {
     if (!platform::text::Contains(upper.get(), model.name)) continue;
     *outId = model.id;

@@ -19,7 +19,7 @@ namespace {
 
 namespace plist = platform::property_list;
 namespace bundle = platform::bundle;
-using platform::text::Made;
+using platform::text::OwnedText;
 
 const ZTKTextRef kTablePath = ZTK_TEXT("%@/%@.lproj/Localizable.strings");
 
@@ -37,10 +37,10 @@ bool IsOnOtherPort() {
 
 ZTKTextRef TextOfLanguage(const bundle::Bundle *library, std::uint32_t language,
                           ZTKTextRef key) {
-  const Made resources(bundle::ResourcePath(library));
+  const OwnedText resources(bundle::ResourcePath(library));
   if (resources.get() == nullptr) return nullptr;
-  const Made path(platform::text::Format(kTablePath, resources.get(),
-                                         kLanguages[language]));
+  const OwnedText path(platform::text::Format(kTablePath, resources.get(),
+                                              kLanguages[language]));
   plist::Dictionary *table = nullptr;
   store::RecordReading(plist::Read(path.get(), &table));
   if (table == nullptr) return nullptr;

@@ -84,7 +84,7 @@ ZTKResult Register(const Registration<Callback> &registration,
   *registration.lastInfo = nullptr;
 
   const AnnouncedSetting &family = registration.family;
-  const platform::text::Made name(
+  const platform::text::OwnedText name(
       platform::text::Format(family.nameFormat, family.observedModel));
   center::AddObserver(_ZTKFunc, registration.method, name.get());
 

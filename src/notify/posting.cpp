@@ -33,7 +33,7 @@ void Post(const AnnouncedSetting &family, UserInfo **lastInfo,
   center::Release(*lastInfo);
   *lastInfo = center::MakeUserInfo(entries, count);
 
-  const platform::text::Made name(
+  const platform::text::OwnedText name(
       platform::text::Format(family.nameFormat, family.postedModel));
   const center::PostResult result =
       center::Post(name.get(), *lastInfo, family.delivery);

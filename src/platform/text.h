@@ -36,12 +36,12 @@ int CompareNumerically(ZTKTextRef first, ZTKTextRef second);
 void Release(ZTKTextRef made);
 
 // A made text that goes back by itself.
-class Made {
+class OwnedText {
  public:
-  explicit Made(ZTKTextRef made) : text_(made) {}
-  ~Made() { Release(text_); }
-  Made(const Made &) = delete;
-  Made &operator=(const Made &) = delete;
+  explicit OwnedText(ZTKTextRef made) : text_(made) {}
+  ~OwnedText() { Release(text_); }
+  OwnedText(const OwnedText &) = delete;
+  OwnedText &operator=(const OwnedText &) = delete;
   ZTKTextRef get() const { return text_; }
 
  private:

@@ -12,7 +12,7 @@ namespace ztk::store {
 namespace {
 
 namespace plist = platform::property_list;
-using platform::text::Made;
+using platform::text::OwnedText;
 
 ZTKTextRef MakeKey(ZTKTextRef keyFormat, std::uint32_t channel) {
   return platform::text::Format(keyFormat, static_cast<std::int32_t>(channel));
@@ -38,7 +38,7 @@ bool Merge(ZTKTextRef path, ZTKTextRef key, std::int32_t value) {
 }  // namespace
 
 std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback) {
-  const Made path(MakePath(model));
+  const OwnedText path(MakePath(model));
   if (path.get() == nullptr) {
     RecordReadingWithoutHome();
     return fallback;
@@ -54,19 +54,21 @@ std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback) {
 
 std::int32_t ReadChannel(ZTKTextRef model, ZTKTextRef keyFormat,
                          std::uint32_t channel, std::int32_t fallback) {
-  const Made key(MakeKey(keyFormat, channel));
+  const OwnedText key(MakeKey(keyFormat, channel));
   return Read(model, key.get(), fallback);
 }
 
 void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value) {
-  const Made path(MakePath(model));
+  const OwnedText path(MakePath(model));
   if (path.get() == nullptr) {
     RecordStoringWithoutHome();
     return;
   }
-  // The lock may be missing, on some file systems or after waiting too long.
-  // Each attempt waits for it anew: without it, a process that changes the file
-  // all the time would be faster each time.
+  // BeginChange() may return without the lock: some file systems have none, and
+  // the wait for it is limited. Then another process can replace the file
+  // during Merge(), and the attempt is repeated. Each attempt waits for the
+  // lock again, or else a process that changes the file all the time could
+  // always be faster.
   constexpr int kAttempts = 20;
   bool done = false;
   for (int left = kAttempts; left > 0 && !done; --left) {
@@ -78,7 +80,7 @@ void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value) {
 
 void WriteChannel(ZTKTextRef model, ZTKTextRef keyFormat, std::uint32_t channel,
                   std::uint32_t value) {
-  const Made key(MakeKey(keyFormat, channel));
+  const OwnedText key(MakeKey(keyFormat, channel));
   Write(model, key.get(), value);
 }
 

@@ -15,7 +15,7 @@ const ZTKTextRef kPathFormat =
 }  // namespace
 
 ZTKTextRef MakePath(ZTKTextRef model) {
-  const platform::text::Made library(platform::paths::UserLibrary());
+  const platform::text::OwnedText library(platform::paths::UserLibrary());
   if (library.get() == nullptr) return nullptr;
   return platform::text::Format(kPathFormat, library.get(), model);
 }

@@ -138,7 +138,7 @@ TEST_F(GetCurrentBoostLevelIndex, IsThreeWithoutAFileOrAKey) {
   EXPECT_THAT(CurrentWorld().files, IsEmpty());
   CurrentWorld().files[kD6File] = {{"Output0", 1}};
   EXPECT_EQ(Index(), 3u);
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   EXPECT_EQ(Index(), 3u);
   EXPECT_EQ(CurrentWorld().held, Held{});
 }

@@ -23,11 +23,11 @@ TEST_F(GetCurrentUSBInputAudioIndex, IsZeroWithoutAFileAndCreatesNone) {
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
-TEST_F(GetCurrentUSBInputAudioIndex, IsZeroWithoutALibraryOrAKey) {
+TEST_F(GetCurrentUSBInputAudioIndex, IsZeroWithoutALibraryFolderOrAKey) {
   CurrentWorld().files[kD6File] = {
       {"MaxLevel", 2}, {"Input0", 3}, {"output0", 4}};
   EXPECT_EQ(IndexOf(0), 0u);
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   EXPECT_EQ(IndexOf(0), 0u);
 }
 
@@ -58,7 +58,7 @@ TEST_F(GetCurrentUSBInputAudioIndex, RejectsChannelSixAndNegativeOnes) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(GetCurrentUSBInputAudioIndex, TellsAnyIntegerAsItStands) {
+TEST_F(GetCurrentUSBInputAudioIndex, ReturnsAnyStoredNumberUnchecked) {
   const struct {
     const char *name;
     fake::Value stored;
@@ -69,7 +69,7 @@ TEST_F(GetCurrentUSBInputAudioIndex, TellsAnyIntegerAsItStands) {
               {"minus one", -1, 4294967295},
               {"the lowest", kLowest, 2147483648},
               {"a text", "5", 5},
-              {"a text with more behind", "6 dB", 6},
+              {"a text that begins with a number", "6 dB", 6},
               {"a text without a number", "five", 0},
               {"another kind counts as absent", std::monostate{}, 0}};
   for (const auto &row : rows) {
@@ -89,7 +89,7 @@ TEST_F(GetCurrentUSBInputAudioIndex, ReadsTheFileAfreshAndHoldsNothing) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(GetCurrentUSBInputAudioIndex, TellsWhatWasSet) {
+TEST_F(GetCurrentUSBInputAudioIndex, ReturnsWhatWasSet) {
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 4, 8), 100u);
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 3), 100u);
   EXPECT_EQ(IndexOf(4), 8u);
@@ -142,7 +142,9 @@ TEST_F(SetCurrentUSBInputAudio, NeverWarns) {
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 0), 100u);
 }
 
-TEST_F(SetCurrentUSBInputAudio, SendsPositions0To41WhicheverRowTheyStandIn) {
+// The choice is at position channel * 8 + index of one table, from 0 to 41. A
+// large index is the choice of another channel.
+TEST_F(SetCurrentUSBInputAudio, SendsAnyPositionOfTheTableOfAllChannels) {
   const struct {
     std::uint32_t channel;
     const char *key;
@@ -168,8 +170,8 @@ TEST_F(SetCurrentUSBInputAudio, SendsPositions0To41WhicheverRowTheyStandIn) {
   }
 }
 
-// The negative ones would meet the table again if the position were added up
-// in 32 bits: -8 on channel 1 is position 0.
+// In 32-bit arithmetic a negative index could wrap around to a position of the
+// table: index -8 on channel 1 would be position 0.
 TEST_F(SetCurrentUSBInputAudio, RejectsAPositionPastTheTableAndSendsNothing) {
   const struct {
     std::uint32_t channel;

@@ -332,7 +332,7 @@ TEST_F(SetUSBInputAudio, StoresAndPostsAlthoughEveryRequestFails) {
 TEST_F(SetUSBInputAudio, PostsAlthoughTheFileCannotBeWritten) {
   CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 2, 5), 100u);
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 2, 6), 100u);
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", Written(kD6File, "Output2=5"),

@@ -123,7 +123,7 @@ TEST_F(GetCurrentMidiChannelIndex, IsZeroWithoutAFileOrAKey) {
   EXPECT_THAT(CurrentWorld().files, IsEmpty());
   CurrentWorld().files[kK2File] = {{"MaxLevel", 1}};
   EXPECT_EQ(Index(), 0u);
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   EXPECT_EQ(Index(), 0u);
   EXPECT_EQ(CurrentWorld().held, Held{});
 }

@@ -246,7 +246,7 @@ TEST_F(GetCurrentUSBOutputAudioIndex, IsTheChannelItselfWithoutAFile) {
     EXPECT_EQ(IndexOf(channel), channel);
   }
   EXPECT_THAT(CurrentWorld().files, IsEmpty());
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   EXPECT_EQ(IndexOf(2), 2u);
 }
 

@@ -9,7 +9,7 @@ namespace ztk::platform::paths {
 
 ZTKTextRef UserLibrary() {
   const fake::World &world = fake::CurrentWorld();
-  if (!world.hasLibrary) return nullptr;
+  if (!world.hasLibraryFolder) return nullptr;
   return text::Format(ZTK_TEXT("%@"), test::Lasting(world.library));
 }
 

@@ -103,7 +103,7 @@ struct World {
   std::vector<Device> bus;
 
   // Files, by path: those that can be read as a dictionary.
-  bool hasLibrary = true;
+  bool hasLibraryFolder = true;
   std::string library = "/Users/dj/Library";
   std::map<std::string, Entries> files;
   // By path: files that exist but cannot be read.

@@ -82,7 +82,7 @@ TEST(ResourcePath, IsTheFirstFolderThatExists) {
   const std::string path = folder / "B.framework";
   const auto resources = [&path] {
     Bundle *bundle = AtPath(path.c_str());
-    const ztk::platform::text::Made made(ResourcePath(bundle));
+    const ztk::platform::text::OwnedText made(ResourcePath(bundle));
     Release(bundle);
     return std::string(made.get());
   };

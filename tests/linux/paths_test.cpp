@@ -13,13 +13,13 @@
 
 namespace {
 
-using ztk::platform::text::Made;
+using ztk::platform::text::OwnedText;
 using ztk::test::NamesIn;
 using ztk::test::TempFolder;
 using ztk::test::Variable;
 
 std::string Library() {
-  const Made library(ztk::platform::paths::UserLibrary());
+  const OwnedText library(ztk::platform::paths::UserLibrary());
   return library.get() == nullptr ? "(null)" : library.get();
 }
 

@@ -11,7 +11,7 @@ using namespace ztk::platform::text;
 
 // The made text as a value; "(null)" for none.
 std::string Take(ZTKTextRef made) {
-  const Made holder(made);
+  const OwnedText holder(made);
   return made == nullptr ? "(null)" : made;
 }
 
@@ -57,12 +57,12 @@ TEST(Format, OfATextThatIsMissingIsNone) {
 
 // They may be called from any thread, so each result has memory of its own.
 TEST(MadeTexts, DoNotOverwriteOneAnother) {
-  const Made upper(UpperCase("one"));
-  const Made upperToo(UpperCase("two"));
-  const Made format(Format("%@ %@", "one", "x"));
-  const Made formatToo(Format("%d", 2));
-  const Made part(DotComponent("1.2", 0));
-  const Made partToo(DotComponent("1.2", 1));
+  const OwnedText upper(UpperCase("one"));
+  const OwnedText upperToo(UpperCase("two"));
+  const OwnedText format(Format("%@ %@", "one", "x"));
+  const OwnedText formatToo(Format("%d", 2));
+  const OwnedText part(DotComponent("1.2", 0));
+  const OwnedText partToo(DotComponent("1.2", 1));
   EXPECT_STREQ(upper.get(), "ONE");
   EXPECT_STREQ(upperToo.get(), "TWO");
   EXPECT_STREQ(format.get(), "one x");

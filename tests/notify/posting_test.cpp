@@ -137,7 +137,8 @@ TEST_F(Post, HappensWithoutAMixerAndAfterEveryFailure) {
       {"mixer out of reach",
        [](World *world) { world->bus[0].canBeReached = false; }},
       {"file not written", [](World *world) { world->canWrite = false; }},
-      {"no library directory", [](World *world) { world->hasLibrary = false; }},
+      {"no library directory",
+       [](World *world) { world->hasLibraryFolder = false; }},
   };
   for (const auto &row : kRows) {
     for (const Poster &poster : kPosters) {

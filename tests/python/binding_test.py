@@ -114,7 +114,7 @@ class MixerTest(BindingTest):
             midi.apply()
 
     def test_a_setting_of_another_model_is_rejected(self) -> None:
-        with self.assertRaisesRegex(ztkfunc.Rejected, "belongs to the VRM-B5"):
+        with self.assertRaisesRegex(ztkfunc.Rejected, "is a setting of the VRM-B5"):
             ztkfunc.Mixer().output
 
     def test_a_wrong_choice_names_what_is_accepted(self) -> None:

@@ -5,10 +5,10 @@
     attacks.py BIN_FOLDER FAIL_ALLOCATION_LIBRARY [--report FILE]
 
 Run in a sandbox with three mixers (ztk-virtual-mixer run -n 3), so that no real
-device is touched; they are unplugged before the files are attacked. The settings
+device is touched. The virtual mixers are unplugged before the files are attacked. The settings
 are in a temporary folder. With ZTK_RELIABILITY=long in the environment everything
 is tried many more times, which takes up to half an hour. Exits with 1 if
-anything was lost. With --report the results are written as a table in Markdown.
+an attack did not end as expected, for example if a setting was lost. With --report the results are written as a table in Markdown.
 """
 
 import pathlib

@@ -70,7 +70,7 @@ TEST_F(Read, KeepsNothingFromCallToCall) {
 }
 
 TEST_F(Read, AnswersTheFallbackWithoutALibraryDirectory) {
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
@@ -194,7 +194,7 @@ TEST_F(Write, IgnoresAFailureAndLeavesTheOldFile) {
 }
 
 TEST_F(Write, DoesNothingWithoutALibraryDirectory) {
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_THAT(TakeCalls(), IsEmpty());
   EXPECT_THAT(CurrentWorld().files, IsEmpty());
@@ -245,7 +245,7 @@ TEST_F(FileOutcome, TellsHowReadingEnded) {
   store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_EQ(Record().read.result, ZTK_FILE_OK);
   EXPECT_EQ(Record().store.result, ZTK_FILE_NONE);
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_EQ(Record().read.result, ZTK_FILE_NO_HOME);
 }
@@ -269,7 +269,7 @@ TEST_F(FileOutcome, TellsWhyNothingIsStored) {
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(Record().store.result, ZTK_FILE_CANNOT_BE_READ_NOW);
   EXPECT_EQ(Record().store.systemCode, EMFILE);
-  CurrentWorld().hasLibrary = false;
+  CurrentWorld().hasLibraryFolder = false;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(Record().store.result, ZTK_FILE_NO_HOME);
 }

@@ -193,7 +193,7 @@ TEST_F(Settings, HaveNoPlaceWithoutALibraryDirectoryAndArePostedAllTheSame) {
   for (const Setter &row : kSetters) {
     SCOPED_TRACE(row.name);
     CurrentWorld() = World{};
-    CurrentWorld().hasLibrary = false;
+    CurrentWorld().hasLibraryFolder = false;
     EXPECT_EQ(row.set(), 100u);
     EXPECT_THAT(TakeSteps(), ElementsAre("count", StartsWith("post ")));
   }

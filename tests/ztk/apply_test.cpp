@@ -194,7 +194,7 @@ TEST_F(Apply, SkipsAValueThatIsNoNumber) {
 TEST_F(Apply, WarnsThatTheAttachedMixerIsOfAnotherModel) {
   Remember("VRM-B5", {{"Input0", 2}, {"Input1", 2}});
   EXPECT_EQ(OneMixer("ztk apply").err,
-            "ztk: warning: USB output audio belongs to the VRM-B5. The "
+            "ztk: warning: USB output audio is a setting of the VRM-B5. The "
             "attached mixer is a VRM-D6\n");
   EXPECT_EQ(SplitLines(OneMixer("ztk output apply").err).size(), 1U);
   EXPECT_THAT(NoMixer("ztk apply").err, Not(HasSubstr("attached is a")));

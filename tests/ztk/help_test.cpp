@@ -65,10 +65,10 @@ TEST_F(Help, SaysToWhichModelEachSettingBelongs) {
   const Result result = NoMixer(
       "ztk input --help; ztk output set --help; ztk boost --help;"
       "ztk midi list --help");
-  for (const char *line :
-       {"USB input audio of the VRM-D6: ",
-        "USB output audio belongs to the VRM-B5.",
-        "Boost level of the VRM-D6: ", "MIDI channel belongs to the VRM-K2."}) {
+  for (const char *line : {"USB input audio of the VRM-D6: ",
+                           "USB output audio is a setting of the VRM-B5.",
+                           "Boost level of the VRM-D6: ",
+                           "MIDI channel is a setting of the VRM-K2."}) {
     EXPECT_THAT(result.out, HasSubstr(line));
   }
 }

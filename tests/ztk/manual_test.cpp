@@ -83,7 +83,7 @@ TEST_F(Manual, TellsEveryCommandAndOptionWithItsExample) {
     EXPECT_THAT(section, HasSubstr(command.summary));
     for (const std::string &line : SplitLines(command.note)) {
       // A group names its model in its first line.
-      if (line.find(" belongs to the ") != std::string::npos) continue;
+      if (line.find(" is a setting of the ") != std::string::npos) continue;
       EXPECT_THAT(section, HasSubstr(line));
     }
     EXPECT_THAT(section, HasSubstr(command.examples.front()));

@@ -190,11 +190,12 @@ TEST_F(Reach, SaysOfEachValueHowManyMixersHaveAcceptedIt) {
 
 TEST_F(Reach, SaysThatTheAttachedMixerIsOfAnotherModel) {
   const Result result = OneMixer("ztk output set 2 aux; ztk midi set 2");
-  EXPECT_EQ(result.err,
-            "ztk: warning: USB output audio belongs to the VRM-B5. The "
-            "attached mixer is a VRM-D6\n"
-            "ztk: warning: MIDI channel belongs to the VRM-K2. The attached "
-            "mixer is a VRM-D6\n");
+  EXPECT_EQ(
+      result.err,
+      "ztk: warning: USB output audio is a setting of the VRM-B5. The "
+      "attached mixer is a VRM-D6\n"
+      "ztk: warning: MIDI channel is a setting of the VRM-K2. The attached "
+      "mixer is a VRM-D6\n");
   EXPECT_EQ(NoMixer("ztk midi set 3 2> $DIR/err").status, 3);
   EXPECT_THAT(File("err"), Not(HasSubstr("attached is a")));
 }

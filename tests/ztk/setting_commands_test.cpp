@@ -123,7 +123,8 @@ TEST_F(InputSet, IsRejectedForAnotherModel) {
   const Result result = OneMixer("ztk input set 1 3 --product VRM-K2 --json");
   EXPECT_EQ(result.status, 4);
   EXPECT_EQ(OneObject(result.out)["error"]["code"], "rejected");
-  EXPECT_THAT(result.err, HasSubstr("USB input audio belongs to the VRM-D6"));
+  EXPECT_THAT(result.err,
+              HasSubstr("USB input audio is a setting of the VRM-D6"));
   EXPECT_THAT(Requests(), IsEmpty());
 }
 
@@ -221,7 +222,7 @@ TEST_F(BoostSet, IsRejectedForAModelThatCanOnlyBeListed) {
       "ztk boost get --product VRM-B5; echo $?;"
       "ztk boost list --product VRM-B5 > /dev/null; echo $?");
   EXPECT_EQ(result.out, "4\n4\n0\n");
-  EXPECT_THAT(result.err, HasSubstr("Boost level belongs to the VRM-D6"));
+  EXPECT_THAT(result.err, HasSubstr("Boost level is a setting of the VRM-D6"));
   EXPECT_THAT(Requests(), IsEmpty());
 }
 
@@ -241,7 +242,7 @@ TEST_F(List, MarksTheRememberedChoice) {
   const Result result = NoMixer("ztk input list 2");
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out,
-            "USB input audio belongs to the VRM-D6. * marks the current "
+            "USB input audio is a setting of the VRM-D6. * marks the current "
             "choice.\n"
             "\n"
             "USB input 2\n"
@@ -265,7 +266,8 @@ TEST_F(List, AlignsTwoDigits) {
   const Result result = NoMixer("ztk midi list");
   EXPECT_THAT(result.out, HasSubstr("\n*  1  CH 1\n"));
   EXPECT_THAT(result.out, HasSubstr("\n  10  CH 10\n"));
-  EXPECT_THAT(result.out, HasSubstr("MIDI channel belongs to the VRM-K2."));
+  EXPECT_THAT(result.out,
+              HasSubstr("MIDI channel is a setting of the VRM-K2."));
 }
 
 TEST_F(List, ShowsAllChannelsAndNoPlaceholder) {
@@ -283,7 +285,7 @@ TEST_F(Get, TellsRememberedValuesFromDefaults) {
   const Result result = NoMixer("ztk input get");
   EXPECT_EQ(
       result.out,
-      "USB input audio belongs to the VRM-D6.\n"
+      "USB input audio is a setting of the VRM-D6.\n"
       "USB input 1  3 Post CH1 Fader\n"
       "USB input 2  1 CH2 Control Tone PHONO (default; nothing remembered)\n"
       "USB input 3  1 CH3 Control Tone PHONO (default; nothing remembered)\n"

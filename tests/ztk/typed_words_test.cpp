@@ -13,7 +13,7 @@ TEST_F(TypedWords, NameAChannelAsStatusCallsIt) {
       "ztk input set CH2 mic > /dev/null && ztk input get ch2; "
       "ztk input get CH6; echo $?; ztk input get CH; echo $?");
   EXPECT_EQ(result.out,
-            "USB input audio belongs to the VRM-D6.\n"
+            "USB input audio is a setting of the VRM-D6.\n"
             "USB input 2  6 MIC\n2\n2\n");
   EXPECT_THAT(result.err, HasSubstr("has no channel \"CH6\""));
 }

@@ -105,8 +105,8 @@ class CommandLine {
          NearestAndAccepted(word, LongNames(accepted)));
   }
 
-  // The words that an option takes; its value as the help names it where any
-  // word may be right.
+  // The accepted words of an option. If it accepts any word: the name of its
+  // value in the help, or the description of a positional argument.
   static std::string AcceptedBy(const Option &option) {
     if (option.fill != Fill::Values) {
       return IsPositional(option) ? option.description : option.value;
@@ -130,17 +130,18 @@ class CommandLine {
     Fail("exactly one value has to follow " + name + accepted);
   }
 
-  // An option of a command that stands before its command.
+  // Fails for an option of a command that was typed before the command.
   [[noreturn]] void FailEarlyOption(const std::string &word) const {
     for (const Command &command : program_.commands) {
       if (HasName(command.options, word)) {
-        Fail("the option " + Quoted(word) + " goes behind the command");
+        Fail("the option " + Quoted(word) + " has to follow its command");
       }
     }
     FailOption(word, common_);
   }
 
-  // Takes the words of the path, and "help", out of the words.
+  // Reads the path of the command, and removes its words and a leading "help"
+  // from words_.
   void FindPath() {
     auto word = words_.begin();
     while (word != words_.end() && *word != kEndOfOptions &&
@@ -170,7 +171,8 @@ class CommandLine {
     path_ = path;
   }
 
-  // A second word that was typed alone is nearer than any that is similar.
+  // If only the second word of commands was typed ("set"), the commands that
+  // end with it ("input set") are better suggestions than similar words.
   std::string NearestCommand(const std::string &word) const {
     const std::vector<std::string> accepted =
         WordsOf(NextWords(program_, path_));
@@ -185,8 +187,9 @@ class CommandLine {
   }
 
   // The only use of CLI11: it splits the words into options, their values and
-  // positional arguments. Nothing is required of it and extra words are let
-  // through, because the messages here say more.
+  // positional arguments. CLI11 is not told which options are required, and it
+  // lets extra words pass: the code here checks both, and its messages say
+  // more.
   void ReadArguments(const Command &command, Arguments *arguments) {
     std::vector<Option> options = command.options;
     options.insert(options.end(), common_.begin(), common_.end());
@@ -252,8 +255,8 @@ class CommandLine {
     }
   }
 
-  // Fails when words are left over. An option is named before others, because
-  // the word that follows it may have been its value.
+  // Fails when words are left over. An unknown option is reported first,
+  // because another word that is left over may have been meant as its value.
   void CheckExtras(const Command &command, const std::vector<Option> &options,
                    std::vector<std::string> extras) const {
     std::erase(extras, kEndOfOptions);

@@ -25,16 +25,17 @@ from typing import NamedTuple
 
 from . import functions
 
-# What only the annotations need, and asyncio, which only changes() needs, are
-# not imported with the module: they would double the time of the import.
+# Not imported here, because it would double the time of the import: asyncio, which
+# only changes() needs, and the modules that only the annotations need.
 TYPE_CHECKING = False
 if TYPE_CHECKING:
     import asyncio
     from collections.abc import Callable
     from typing import Any
 
-#: The models under which the library receives changes of each family.
-_INPUT_MODEL = 10
+#: The models for which the callbacks are registered: the VRM-D6 for input, output
+#: and boost, and the VRM-K2 for MIDI.
+_MIXER_MODEL = 10
 _MIDI_MODEL = 1
 
 
@@ -45,7 +46,7 @@ class Change(NamedTuple):
     setting: str
     #: Channel, from 1; None for a setting without channels.
     channel: int | None
-    #: The choice, from 1, as lists and ``ztk`` number it.
+    #: The number of the choice, from 1, as in the output of ``ztk``.
     number: int
     #: The choice as a text, such as "Post CH2 Fader"; None if the number is not
     #: one of the choices.
@@ -88,7 +89,7 @@ def _choice_text(setting: str, channel: int | None, index: int) -> str | None:
     if index < 0:
         return None
     if setting == "boost":
-        return functions.ZTK_GetBoostLevelText(10, index)[1]
+        return functions.ZTK_GetBoostLevelText(_MIXER_MODEL, index)[1]
     if setting == "midi":
         return functions.ZTK_GetMidiChannelText(_MIDI_MODEL, index)[1]
     assert channel is not None
@@ -99,10 +100,10 @@ def _choice_text(setting: str, channel: int | None, index: int) -> str | None:
         if count is None or index >= count:
             return None
         return functions.ZTK_GetUSBOutputAudioText(8, channel, index)[1]
-    count = functions.ZTK_GetNumOfInputAudioIndex(_INPUT_MODEL, channel)[1]
+    count = functions.ZTK_GetNumOfInputAudioIndex(_MIXER_MODEL, channel)[1]
     if count is None or index >= count:
         return None
-    return functions.ZTK_GetUSBInputAudioText(_INPUT_MODEL, channel, index)[1]
+    return functions.ZTK_GetUSBInputAudioText(_MIXER_MODEL, channel, index)[1]
 
 
 def _deliver(setting: str, channel: int | None, index: int) -> None:
@@ -124,13 +125,13 @@ def _deliver(setting: str, channel: int | None, index: int) -> None:
 def _register_all() -> None:
     """Registers the module's callbacks, which stay until the process ends."""
     functions.ZTK_RegisterInputAudioChangedCallback(
-        _INPUT_MODEL, lambda channel, index: _deliver("input", channel, index)
+        _MIXER_MODEL, lambda channel, index: _deliver("input", channel, index)
     )
     functions.ZTK_RegisterOutputAudioChangedCallback(
-        _INPUT_MODEL, lambda channel, index: _deliver("output", channel, index)
+        _MIXER_MODEL, lambda channel, index: _deliver("output", channel, index)
     )
     functions.ZTK_RegisterBoostLevelChangedCallback(
-        10, lambda index: _deliver("boost", None, index)
+        _MIXER_MODEL, lambda index: _deliver("boost", None, index)
     )
     functions.ZTK_RegisterMidiChannelChangedCallback(
         _MIDI_MODEL, lambda index: _deliver("midi", None, index)
@@ -222,8 +223,9 @@ def use_glib_main_loop() -> None:
 def subscribe(callback: Callable[[Change], object]) -> Subscription:
     """Calls a function with every :class:`Change` from now on.
 
-    Gives a RuntimeWarning where there is no message bus. The description of this module names the thread. A function that raises does
-    not disturb the other subscribers; its error goes to ``sys.excepthook``.
+    Issues a RuntimeWarning if there is no message bus. The text at the top of this
+    module says on which thread the function is called. If it raises an exception, the
+    other subscribers are still called, and the error goes to ``sys.excepthook``.
     """
     subscription = Subscription(callback)
     with _state.lock:

@@ -269,7 +269,7 @@ class Mixer:
     def _require(self, owner: int, setting: str) -> None:
         if self.product_id != owner:
             raise Rejected(
-                f"the {self.model} has no {setting}; it belongs to the {_MODEL_NAMES[owner]}"
+                f"the {self.model} has no {setting}; it is a setting of the {_MODEL_NAMES[owner]}"
             )
 
     @property

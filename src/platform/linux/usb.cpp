@@ -4,8 +4,8 @@
 // go through the device's usbfs node. A vendor request to the device itself
 // needs no claimed interface, so nothing is taken away from other programs.
 //
-// No node but the chosen mixer's is ever opened: opening wakes a sleeping
-// device, reading sysfs does not.
+// Only the node of the chosen mixer is ever opened, because opening a node
+// resumes a suspended device. Reading sysfs does not resume it.
 #include "platform/usb.h"
 
 #include <errno.h>
@@ -38,8 +38,8 @@ struct Device {
   int node = -1;  // descriptor, of a connection that is open
 };
 
-// Services, plug-ins and devices are the same entry of the snapshot, with three
-// types of handle: nothing has to be allocated for them.
+// The handles Service, PlugIn and Device of one device all point to the same
+// entry of the snapshot, so that no memory has to be allocated for a handle.
 struct IteratorObject {
   std::vector<Device> devices;
   std::size_t next = 0;
@@ -97,8 +97,8 @@ Matching *CreateMatching(const char * /*className*/) {
   return new (std::nothrow) Matching;
 }
 
-// The core does not release ports, so a port must not need memory: the handle
-// contains the number itself.
+// The core never releases a Number, so a Number must not use memory: the handle
+// contains the value itself.
 Number *MakeNumber(std::int32_t value) {
   return reinterpret_cast<Number *>(static_cast<std::intptr_t>(value));
 }
@@ -167,8 +167,8 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
   return kSuccess;
 }
 
-// The interface in the snapshot is freed with its iterator; a connection exists
-// longer, so it is a separate object.
+// A device of the snapshot is freed with the iterator, but a connection has to
+// exist longer, so it is a separate object.
 Device *MakeReady(Device *device, Result *result) try {
   const int node = OpenNode(device->facts, result);
   if (node < 0) return nullptr;
@@ -214,8 +214,8 @@ Code CloseDevice(Device *device) {
   return kSuccess;
 }
 
-// An interface of the snapshot is freed with its iterator. A connection was
-// closed before, and is freed here.
+// A device of the snapshot is freed with its iterator. A connection has been
+// closed already, and is freed here.
 std::uint32_t ReleaseDevice(Device *device) {
   if (device->isConnection) delete device;
   return 0;

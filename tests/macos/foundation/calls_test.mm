@@ -194,7 +194,7 @@ TEST_F(MacCallsOfFoundation, ReadAnIntegerByItsIntValue) {
 
 TEST_F(MacCallsOfFoundation, AskForTheHomeFolderByItsPath) {
   theCalls.clear();
-  const platform::text::Made folder(platform::paths::UserLibrary());
+  const platform::text::OwnedText folder(platform::paths::UserLibrary());
   // The library folder (5) of the user (1).
   ASSERT_FALSE(theCalls.empty());
   EXPECT_EQ(theCalls.front(), "search 5 1 with the home folder");

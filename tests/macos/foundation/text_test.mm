@@ -8,12 +8,12 @@ namespace ztk::test {
 namespace {
 
 namespace text = platform::text;
-using text::Made;
+using text::OwnedText;
 
 class MacText : public FoundationTest {
  protected:
   static std::string Taken(ZTKTextRef made) {
-    const Made owner(made);
+    const OwnedText owner(made);
     return StringOf(made);
   }
 };

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Functions of macOS's C library that take or answer something else than those
-// of the same name here: the loader finds them by "darwin_" before the name.
+// Replacements for functions of macOS's C and C++ libraries whose arguments or
+// results differ from those of the Linux functions of the same name. The loader
+// finds them by the prefix "darwin_".
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <pthread.h>
@@ -24,15 +25,15 @@
 
 namespace {
 
-// The numbers of errors that differ.
+// The error numbers that differ: on Linux, on macOS.
 constexpr int kErrors[][2] = {{EAGAIN, 35}, {EDEADLK, 11},   {ENAMETOOLONG, 63},
                               {ELOOP, 62},  {ENOTEMPTY, 66}, {EOVERFLOW, 84},
                               {EDQUOT, 69}, {ENOSYS, 78},    {ETIMEDOUT, 60},
                               {EILSEQ, 92}, {ENOTSUP, 45},   {ECANCELED, 89}};
 
 int DarwinError(int error) {
-  for (const auto &[here, there] : kErrors) {
-    if (here == error) return there;
+  for (const auto &[linuxError, darwinError] : kErrors) {
+    if (linuxError == error) return darwinError;
   }
   return error;
 }
@@ -42,11 +43,11 @@ int OpenFlags(int flags) {
       {0x4, O_NONBLOCK},   {0x8, O_APPEND},         {0x100, O_NOFOLLOW},
       {0x200, O_CREAT},    {0x400, O_TRUNC},        {0x800, O_EXCL},
       {0x20000, O_NOCTTY}, {0x100000, O_DIRECTORY}, {0x1000000, O_CLOEXEC}};
-  int made = flags & O_ACCMODE;
-  for (const auto &[there, here] : kFlags) {
-    if ((flags & there) != 0) made |= here;
+  int result = flags & O_ACCMODE;
+  for (const auto &[darwinFlag, linuxFlag] : kFlags) {
+    if ((flags & darwinFlag) != 0) result |= linuxFlag;
   }
-  return made;
+  return result;
 }
 
 struct DarwinStatus {
@@ -79,7 +80,7 @@ int Convert(int result, const struct stat &from, DarwinStatus *to) {
   return 0;
 }
 
-// A set of signals is a number of 32 bits there.
+// On macOS a signal set is a 32-bit number.
 sigset_t SetOf(std::uint32_t bits) {
   sigset_t set;
   sigemptyset(&set);
@@ -97,8 +98,9 @@ std::uint32_t BitsOf(const sigset_t &set) {
   return bits;
 }
 
-// What a lock or a condition holds before its first use.
-void *Prepared(void *object, std::size_t size) {
+// macOS marks a mutex or condition variable that was statically initialised
+// with a signature, where Linux needs zeros. Clears it before the first use.
+void *WithoutSignature(void *object, std::size_t size) {
   std::uint64_t mark = 0;
   std::memcpy(&mark, object, sizeof mark);
   if (mark == 0x32AAABA7 || mark == 0x3CB0B1BB) {
@@ -107,7 +109,7 @@ void *Prepared(void *object, std::size_t size) {
   return object;
 }
 
-// Kinds of characters, as the tables of macOS tell them.
+// The classes of a character, with the bit values of macOS.
 constexpr std::uint32_t KindOf(int c) {
   const bool upper = c >= 'A' && c <= 'Z';
   const bool lower = c >= 'a' && c <= 'z';
@@ -139,7 +141,7 @@ constexpr RuneTable MakeTable() {
 }
 
 template <typename Function>
-Function *Next(const char *name) {
+Function *LinuxFunction(const char *name) {
   return reinterpret_cast<Function *>(dlsym(RTLD_DEFAULT, name));
 }
 
@@ -152,11 +154,12 @@ std::uintptr_t darwin___stack_chk_guard = 0x595E9FBD94FDA766;
 FILE *darwin___stdoutp = stdout;
 FILE *darwin___stderrp = stderr;
 
-// The number is put right in its place: programs write there, too.
+// Converts the number inside errno itself, because programs also write to it
+// through the returned pointer.
 int *darwin___error() {
-  thread_local int told = -1;
+  thread_local int lastConverted = -1;
   int *error = &errno;
-  if (*error != told) *error = told = DarwinError(*error);
+  if (*error != lastConverted) *error = lastConverted = DarwinError(*error);
   return error;
 }
 
@@ -213,7 +216,7 @@ int darwin_pthread_sigmask(int how, const std::uint32_t *bits,
                            std::uint32_t *before) {
   sigset_t old;
   const sigset_t set = SetOf(bits == nullptr ? 0 : *bits);
-  // The ways are counted from 1 there.
+  // The values of `how` start at 1 on macOS, and at 0 on Linux.
   const int result =
       pthread_sigmask(how - 1, bits == nullptr ? nullptr : &set, &old);
   if (before != nullptr) *before = BitsOf(old);
@@ -252,8 +255,8 @@ int darwin_sigaction(int number, const DarwinAction *action,
 }
 
 int darwin_pthread_mutex_lock(void *lock) {
-  return pthread_mutex_lock(
-      static_cast<pthread_mutex_t *>(Prepared(lock, sizeof(pthread_mutex_t))));
+  return pthread_mutex_lock(static_cast<pthread_mutex_t *>(
+      WithoutSignature(lock, sizeof(pthread_mutex_t))));
 }
 int darwin_pthread_mutex_unlock(void *lock) {
   return pthread_mutex_unlock(static_cast<pthread_mutex_t *>(lock));
@@ -266,13 +269,13 @@ int darwin_pthread_key_create(unsigned long *key, void (*end)(void *)) {
 }
 
 void darwin__ZNSt3__15mutex4lockEv(void *lock) {
-  Next<void(void *)>("_ZNSt3__15mutex4lockEv")(
-      Prepared(lock, sizeof(pthread_mutex_t)));
+  LinuxFunction<void(void *)>("_ZNSt3__15mutex4lockEv")(
+      WithoutSignature(lock, sizeof(pthread_mutex_t)));
 }
 void darwin__ZNSt3__15mutexD1Ev(void * /*lock*/) {}
 void darwin__ZNSt3__118condition_variable10notify_oneEv(void *condition) {
-  Next<void(void *)>("_ZNSt3__118condition_variable10notify_oneEv")(
-      Prepared(condition, sizeof(pthread_cond_t)));
+  LinuxFunction<void(void *)>("_ZNSt3__118condition_variable10notify_oneEv")(
+      WithoutSignature(condition, sizeof(pthread_cond_t)));
 }
 void darwin__ZNSt3__118condition_variableD1Ev(void * /*condition*/) {}
 constexpr char kTimedWait[] =
@@ -284,12 +287,13 @@ void TimedWait(void *condition, void *lock, long until) asm(
     "_5mutexEEENS_6chrono10time_pointINS5_12system_clockENS5_8durationIxNS_5rat"
     "ioILl1ELl1000000000EEEEEEE");
 void TimedWait(void *condition, void *lock, long until) {
-  Next<void(void *, void *, long)>(kTimedWait)(
-      Prepared(condition, sizeof(pthread_cond_t)), lock, until);
+  LinuxFunction<void(void *, void *, long)>(kTimedWait)(
+      WithoutSignature(condition, sizeof(pthread_cond_t)), lock, until);
 }
 
-// The facet of characters reads its table in the program's own code, where the
-// kinds have the numbers of macOS: programs get one with such a table.
+// The inline functions of std::ctype<char> are compiled into the program, where
+// the character classes have the bit values of macOS. So programs get a facet
+// with a table of those values.
 const std::locale::facet *UseFacet(
     const std::locale *locale,
     std::locale::id *id) asm("darwin__ZNKSt3__16locale9use_facetERNS0_2idE");
@@ -299,7 +303,7 @@ const std::locale::facet *UseFacet(const std::locale *locale,
   using Use =
       const std::locale::facet *(const std::locale *, std::locale::id *);
   const auto *facet =
-      Next<Use>("_ZNKSt3__16locale9use_facetERNS0_2idE")(locale, id);
+      LinuxFunction<Use>("_ZNKSt3__16locale9use_facetERNS0_2idE")(locale, id);
   if (id != &Facet::id) return facet;
   alignas(Facet) static std::array<char, sizeof(Facet)> made;
   constexpr std::size_t kTable = 16;  // behind the virtual table and the count

@@ -69,11 +69,11 @@ TEST_F(Settings, GoWithThePrivateRunThatMadeThem) {
 TEST_F(Settings, AreNotThereAtFirstInAPrivateRun) {
   Inside({}, "ztk boost set 2");
   EXPECT_EQ(Private("ztk boost get; ztk undo").out,
-            "Boost level belongs to the VRM-D6.\n"
+            "Boost level is a setting of the VRM-D6.\n"
             "Boost level  4 -19 dB (default; nothing remembered)\n"
             "Nothing to undo.\n");
   EXPECT_EQ(Inside({}, "ztk boost get").out,
-            "Boost level belongs to the VRM-D6.\nBoost level  2 -10 dB\n");
+            "Boost level is a setting of the VRM-D6.\nBoost level  2 -10 dB\n");
 }
 
 TEST_F(Settings, OfOtherProgramsAreTheUsersOwnEvenThen) {

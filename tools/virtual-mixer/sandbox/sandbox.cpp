@@ -48,8 +48,8 @@ void AddRecord(UMockdevTestbed *testbed, const std::string &record) {
   throw std::runtime_error("cannot add a device: " + why);
 }
 
-// Removes the files of an entry. The function of umockdev sends an event first,
-// which fails with a message in a process outside the sandbox.
+// Removes the files of an entry. umockdev_testbed_remove_device() would send an
+// event first, which fails with a message in a process outside the sandbox.
 void RemoveEntry(UMockdevTestbed *testbed, const std::string &root,
                  const std::string &sysPath, const std::string &name) {
   if (umockdev_in_mock_environment() != FALSE) {
@@ -130,7 +130,8 @@ Sandbox::Sandbox(const std::vector<Placement> &placements, LogSink log)
 }
 
 Sandbox::~Sandbox() {
-  // The thread of umockdev still has to send the last answers.
+  // The thread of umockdev, which the testbed owns, sends the last answers of
+  // Stop().
   front_.Stop();
   testbed_.reset();
 }
@@ -186,7 +187,8 @@ void Sandbox::Announce(const Device &device) {
   const auto sendDevice = [&] {
     send(devPath, DeviceProperties(address, device.descriptors));
   };
-  // In the order of the kernel: interfaces are part of the device.
+  // The kernel's order: a device is added before its interfaces, and removed
+  // after them.
   if (device.pluggedIn) sendDevice();
   for (const Interface &interface : device.descriptors.Interfaces()) {
     send(devPath + "/" + address.InterfaceName(interface),
@@ -195,8 +197,8 @@ void Sandbox::Announce(const Device &device) {
   if (!device.pluggedIn) sendDevice();
 }
 
-// The socket stays attached while the device is away: umockdev ends a program
-// that finds it missing between two steps of opening the node.
+// The socket stays attached while the device is unplugged. If a program is just
+// opening the node and the socket is missing, umockdev ends that program.
 void Sandbox::AttachIoctl(const Device &device) {
   GError *error = nullptr;
   if (umockdev_testbed_attach_ioctl(testbed_.get(),
@@ -206,7 +208,7 @@ void Sandbox::AttachIoctl(const Device &device) {
   }
   const std::string why = error == nullptr ? "no reason" : error->message;
   g_clear_error(&error);
-  throw std::runtime_error("cannot answer for a device: " + why);
+  throw std::runtime_error("cannot emulate the requests to a device: " + why);
 }
 
 void Sandbox::Disappear(const Device &device) {

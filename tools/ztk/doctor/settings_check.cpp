@@ -157,7 +157,7 @@ void FindUnwritable(std::string folder, Findings *findings) {
 
 Findings CheckSettingsFiles(const std::vector<std::string> &models,
                             std::string *good) {
-  const platform::text::Made library(platform::paths::UserLibrary());
+  const platform::text::OwnedText library(platform::paths::UserLibrary());
   if (library.get() == nullptr) {
     return {{.id = "settings-no-home",
              .what = "settings are not remembered: you have no home folder",
@@ -168,7 +168,7 @@ Findings CheckSettingsFiles(const std::vector<std::string> &models,
   Findings findings;
   const std::string folder = Utf8(library.get()) + "/Preferences";
   for (const std::string &model : models) {
-    const platform::text::Made file(WithText(model, store::MakePath));
+    const platform::text::OwnedText file(WithText(model, store::MakePath));
     const std::string path = Utf8(file.get());
     FindUnreadable(path, &findings);
     FindKept(path, &findings);

@@ -13,7 +13,7 @@ namespace ztk::model {
 
 namespace {
 
-using platform::text::Made;
+using platform::text::OwnedText;
 
 constexpr std::uint8_t kRead = 0xC0;
 constexpr std::uint8_t kReadRequest = 0;
@@ -38,7 +38,7 @@ Setup Writing(std::uint16_t index, std::uint16_t value) {
 
 std::string KeyOf(const Setting &setting, std::uint32_t channel) {
   if (setting.channels == 0) return Utf8(setting.key);
-  const Made key(
+  const OwnedText key(
       platform::text::Format(setting.key, static_cast<std::int32_t>(channel)));
   return Utf8(key.get());
 }
@@ -88,7 +88,7 @@ void Plan::AddSelectors(const Setting &setting, bool stops) {
 
 void Plan::AddAnnouncement(const Change &change) {
   const notify::AnnouncedSetting &notice = *change.setting->notice;
-  const Made name(
+  const OwnedText name(
       platform::text::Format(notice.nameFormat, notice.postedModel));
   PlannedAnnouncement planned{
       .name = Utf8(name.get()),
@@ -104,7 +104,7 @@ void Plan::AddAnnouncement(const Change &change) {
 
 void Plan::AddWrite(const Setting &setting, std::uint32_t channel,
                     std::optional<std::uint32_t> after) {
-  const Made file(store::MakePath(setting.model));
+  const OwnedText file(store::MakePath(setting.model));
   writes_.push_back({.file = Utf8(file.get()),
                      .key = KeyOf(setting, channel),
                      .setting = &setting,

@@ -10,7 +10,7 @@
 namespace ztk::model {
 
 namespace plist = platform::property_list;
-using platform::text::Made;
+using platform::text::OwnedText;
 
 namespace {
 
@@ -33,7 +33,7 @@ std::string Reason(const plist::ReadResult &result) {
 const SettingsSnapshot::File &SettingsSnapshot::FileOf(const Setting &setting) {
   const auto [entry, isNew] = files_.try_emplace(ModelName(setting));
   File &file = entry->second;
-  const Made path(isNew ? store::MakePath(setting.model) : nullptr);
+  const OwnedText path(isNew ? store::MakePath(setting.model) : nullptr);
   if (path.get() == nullptr) return file;
   plist::Dictionary *entries = nullptr;
   const std::string reason = Reason(plist::Read(path.get(), &entries));
@@ -52,7 +52,7 @@ std::optional<std::uint32_t> SettingsSnapshot::Remembered(
   if (file == nullptr) return std::nullopt;
   std::int32_t value = 0;
   // A key without a channel has no placeholder for it.
-  const Made key(
+  const OwnedText key(
       platform::text::Format(setting.key, static_cast<std::int32_t>(channel)));
   if (!plist::IntegerValue(file, key.get(), &value)) return std::nullopt;
   return static_cast<std::uint32_t>(value);

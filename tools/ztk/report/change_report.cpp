@@ -79,7 +79,7 @@ std::string WhyNotStored(const MadeChanges &made) {
 }
 
 std::string SettingsFolder() {
-  const platform::text::Made library(platform::paths::UserLibrary());
+  const platform::text::OwnedText library(platform::paths::UserLibrary());
   if (library.get() == nullptr) return "your home folder";
   return Utf8(library.get()) + "/Preferences";
 }
@@ -122,7 +122,7 @@ void ReportReplacedFile(const MadeChanges &made, Report *report) {
       made.changes.begin(), made.changes.end(),
       [](const MadeChange &change) { return !change.oldFileKept.empty(); });
   if (replaced == made.changes.end()) return;
-  const platform::text::Made path(
+  const platform::text::OwnedText path(
       store::MakePath(replaced->change.setting->model));
   const std::string file = Utf8(path.get());
   std::string warning = "the settings file " + replaced->oldFileKept +

@@ -32,8 +32,8 @@ bool HasWord(const std::string &text, const std::string &beginning) {
 }  // namespace
 
 std::string Belonging(const Setting &setting) {
-  return std::string(setting.title) + " belongs to the " + ModelName(setting) +
-         ".";
+  return std::string(setting.title) + " is a setting of the " +
+         ModelName(setting) + ".";
 }
 
 std::string LimitSentence(const Setting &setting) {

@@ -13,7 +13,7 @@
 
 namespace ztk::program {
 
-// "USB output audio belongs to the VRM-B5."
+// "USB output audio is a setting of the VRM-B5."
 std::string Belonging(const Setting &setting);
 
 // A sentence about the choices that are not sent again; empty when all are.

@@ -62,13 +62,13 @@ cli::Command MakeSet(const Setting &setting) {
   cli::Command command = MakeSettingCommand(
       setting, "set", "Choose a value: send it to every mixer and remember it",
       setting.example, SetChoice);
-  AddChannel(setting, "; in a terminal, ztk asks when left out",
+  AddChannel(setting, "; if it is left out in a terminal, ztk asks for it",
              &command.options);
   command.options.push_back(
       {.names = Parameter::kChoice,
        .value = "",
        .description = "Number as listed, text, or the beginning of the text; "
-                      "in a terminal, ztk asks when left out",
+                      "if it is left out in a terminal, ztk asks for it",
        .repeats = true,
        .fill = cli::Fill::Values,
        .values = [&setting](const Arguments &before, const std::string &begun) {
@@ -105,8 +105,8 @@ cli::Command MakeRaw() {
 cli::Option ProductOption() {
   return cli::Offering({.names = Parameter::kProduct,
                         .value = "MODEL",
-                        .description = "Model, by name or number; the one that "
-                                       "the setting belongs to when left out"},
+                        .description = "Model, by name or number; default: the "
+                                       "model that has this setting"},
                        ProductValues);
 }
 

@@ -12,7 +12,7 @@
 namespace ztk::model {
 
 namespace plist = platform::property_list;
-using platform::text::Made;
+using platform::text::OwnedText;
 
 namespace {
 
@@ -37,10 +37,10 @@ int TryToRemove(ZTKTextRef path, ZTKTextRef key) {
 }  // namespace
 
 std::string RemoveRemembered(const Setting &setting, std::uint32_t channel) {
-  const Made path(store::MakePath(setting.model));
+  const OwnedText path(store::MakePath(setting.model));
   if (path.get() == nullptr) return "you have no home folder";
   // A key without a channel has no placeholder for it.
-  const Made key(
+  const OwnedText key(
       platform::text::Format(setting.key, static_cast<std::int32_t>(channel)));
   plist::Change *change = plist::BeginChange(path.get());
   // Another program may replace the file in between when the file cannot be

@@ -79,7 +79,7 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
   static OutputObserver observer;
   observer = {.listener = listener, .context = context};
   const notify::AnnouncedSetting &setting = notify::kOutputAudio;
-  const platform::text::Made name(
+  const platform::text::OwnedText name(
       platform::text::Format(setting.nameFormat, setting.postedModel));
   center::AddObserver(
       &observer, {.selector = "outputAudioChanged:", .code = OnOutputAudio},

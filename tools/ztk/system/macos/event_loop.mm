@@ -82,7 +82,7 @@ dispatch_source_t EverySecond() {
 void ListenToOutputAudio(OutputListener listener, void *context) {
   theOutputListener = {.listener = listener, .context = context};
   const notify::AnnouncedSetting &setting = notify::kOutputAudio;
-  const platform::text::Made name(
+  const platform::text::OwnedText name(
       platform::text::Format(setting.nameFormat, setting.postedModel));
   // Observers exist as long as the process.
   platform::notification_center::AddObserver(
