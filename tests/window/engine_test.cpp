@@ -98,6 +98,9 @@ void EngineTest::SetsEverySetting() {
 void EngineTest::WarnsInTheWordsOfTheLibrary() {
   Mixer({"turn", "2", "1"});
   StartEngine();
+  if (Ztk({"doctor"}).contains(QStringLiteral("warning texts are"))) {
+    QSKIP("the warning texts are not installed");
+  }
   engine().choose(kInput, 1, 1);
   EVENTUALLY(Row(kInput, 1).delivery == Delivery::Sent);
   QVERIFY2(Row(kInput, 1).warning.contains(QStringLiteral("selector")),
@@ -234,8 +237,7 @@ void EngineTest::SendsAllAgain() {
   EVENTUALLY(state().mixers.isEmpty());
   Mixer({"plug"});
   EVENTUALLY(state().mixers.size() == 2);
-  EVENTUALLY(Row(kInput, 1).delivery == Delivery::RememberedOnly);
-  QCOMPARE(Row(kInput, 0).delivery, Delivery::Idle);
+  QCOMPARE(Row(kInput, 1).delivery, Delivery::Idle);
   engine().resendAll();
   EVENTUALLY(Row(kInput, 1).delivery == Delivery::Sent);
   QCOMPARE(Row(kInput, 1).accepted, 2);

@@ -41,6 +41,9 @@ State FullState() {
                             .reason = {},
                             .message = {}};
   failed.reason = WhyNotSent(0, {.mixers = {silent, silent}});
+  RowState &notKnown = RowOf(&state, model::kInput, 2);
+  notKnown.delivery = Delivery::Idle;
+  notKnown.inMixers = InMixers::NotKnown;
   RowOf(&state, model::kInput, 3).delivery = Delivery::Sent;
   RowOf(&state, model::kInput, 3).accepted = 2;
   state.findings.append(Translated({.id = "silent",
@@ -59,17 +62,18 @@ State FullState() {
 
 void AddLanguages() {
   QTest::addColumn<QString>("noMixer");
-  QTest::newRow("de") << "Es ist kein Mischpult angeschlossen.";
-  QTest::newRow("es") << "No hay ninguna mesa conectada.";
-  QTest::newRow("fr") << "Aucune table de mixage n’est connectée.";
-  QTest::newRow("it") << "Nessun mixer è collegato.";
-  QTest::newRow("ja") << "ミキサーが接続されていません。";
-  QTest::newRow("ko") << "믹서가 연결되어 있지 않습니다.";
-  QTest::newRow("nl") << "Er is geen mengpaneel aangesloten.";
-  QTest::newRow("pt") << "Nenhuma mesa está ligada.";
-  QTest::newRow("ru") << "Микшер не подключён.";
-  QTest::newRow("zh_CN") << "未连接混音台。";
-  QTest::newRow("zh_TW") << "未連接混音器。";
+  QTest::addColumn<unsigned>("library");
+  QTest::newRow("de") << "Es ist kein Mischpult angeschlossen." << 3U;
+  QTest::newRow("es") << "No hay ninguna mesa conectada." << 6U;
+  QTest::newRow("fr") << "Aucune table de mixage n’est connectée." << 2U;
+  QTest::newRow("it") << "Nessun mixer è collegato." << 4U;
+  QTest::newRow("ja") << "ミキサーが接続されていません。" << 1U;
+  QTest::newRow("ko") << "믹서가 연결되어 있지 않습니다." << 11U;
+  QTest::newRow("nl") << "Er is geen mengpaneel aangesloten." << 5U;
+  QTest::newRow("pt") << "Nenhuma mesa está ligada." << 8U;
+  QTest::newRow("ru") << "Микшер не подключён." << 7U;
+  QTest::newRow("zh_CN") << "未连接混音台。" << 9U;
+  QTest::newRow("zh_TW") << "未連接混音器。" << 10U;
 }
 
 // Shows the application in the language of the row while it lives.
@@ -91,7 +95,9 @@ void LanguagesTest::SpeakTheUsersLanguage_data() { AddLanguages(); }
 void LanguagesTest::SpeakTheUsersLanguage() {
   QFETCH(QString, noMixer);
   const InLanguage language;
+  QFETCH(unsigned, library);
   QCOMPARE(WhyNotSent(0, {}), noMixer);
+  QCOMPARE(LibraryLanguage(), library);
   // Every text of the window is another one than in English.
   const MainWindow window;
   QVERIFY(window.windowTitle() != QStringLiteral("Mixer settings"));

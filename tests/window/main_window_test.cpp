@@ -52,7 +52,13 @@ class MainWindowTest : public QObject {
   void BlamesNoSelectorWhereThereIsNone();
   void TellsWhatBecameOfAChange_data();
   void TellsWhatBecameOfAChange();
-  void DashesWhatNoMixerHas();
+  void TellsWhatIsKnownOfTheMixers_data();
+  void TellsWhatIsKnownOfTheMixers();
+  void DoesNotCallTheDefaultRemembered_data();
+  void DoesNotCallTheDefaultRemembered();
+  void SaysOnceThatSomethingIsNotKnown();
+  void ExplainsTheWires();
+  void ExplainsASilentChannelInTheWordsOfTheLibrary();
   void ShowsANumberThatIsNoChoice();
   void AChoiceInARowIsWanted();
   void EachArrowKeyIsAChoice();
@@ -130,8 +136,9 @@ void MainWindowTest::TellsWhichSelectorToTurn() {
   window_->showState(state_);
   QCOMPARE(InputRow(1)->text(),
            QStringLiteral("USB 2 is silent: turn the selector of CH2 from 1 to "
-                          "4. Remembered."));
-  QCOMPARE(InputRow(3)->text(), QStringLiteral("Remembered."));
+                          "4. Sent to the mixer, and remembered."));
+  QCOMPARE(InputRow(3)->text(),
+           QStringLiteral("Sent to the mixer, and remembered."));
   const PictureState picture = PictureOf(state_);
   QCOMPARE(picture.selectors[1].position, QStringLiteral("1"));
   QCOMPARE(
@@ -226,7 +233,8 @@ void MainWindowTest::NamesTheMixerWhereThereAreTwo() {
   window_->showState(state_);
   QCOMPARE(InputRow(3)->text(),
            QStringLiteral("USB 4 is silent: turn the selector of CH4 on mixer "
-                          "2 from 2 to 4. Remembered."));
+                          "2 from 2 to 4. Sent to the mixer, and "
+                          "remembered."));
   QCOMPARE(PictureOf(state_).selectors[3].position, QStringLiteral("4/2"));
 }
 
@@ -235,14 +243,18 @@ void MainWindowTest::BlamesNoSelectorThatWasNotRead() {
   state_.mixers[0].selectors = {};
   RowOf(&state_, model::kInput, 1).warning = "The selector has to be turned.";
   window_->showState(state_);
-  QCOMPARE(InputRow(1)->text(), QStringLiteral("Remembered."));
+  QCOMPARE(InputRow(1)->text(),
+           QStringLiteral("Sent to the mixer, and remembered."));
+  QCOMPARE(InputRow(1)->toolTip(), QString());
 }
 
 // The library warns of USB channel 5 although no selector belongs to it.
 void MainWindowTest::BlamesNoSelectorWhereThereIsNone() {
   RowOf(&state_, model::kInput, 4).warning = "The selector has to be turned.";
   window_->showState(state_);
-  QCOMPARE(InputRow(4)->text(), QStringLiteral("Remembered."));
+  QCOMPARE(InputRow(4)->text(),
+           QStringLiteral("Sent to the mixer, and remembered."));
+  QCOMPARE(InputRow(4)->toolTip(), QString());
 }
 
 void MainWindowTest::TellsWhatBecameOfAChange_data() {
@@ -256,7 +268,7 @@ void MainWindowTest::TellsWhatBecameOfAChange_data() {
                         << QString::fromUtf8(reason)
                         << QString::fromUtf8(expected);
   };
-  row("idle", Delivery::Idle, 0, "", "Remembered.");
+  row("idle", Delivery::Idle, 0, "", "Remembered; not confirmed.");
   row("sending", Delivery::Sending, 0, "", "Sending…");
   row("sent", Delivery::Sent, 1, "", "Sent to the mixer, and remembered.");
   row("sent to two", Delivery::Sent, 2, "",
@@ -283,15 +295,107 @@ void MainWindowTest::TellsWhatBecameOfAChange() {
   QCOMPARE(InputRow(0)->box()->accessibleDescription(), expected);
 }
 
-void MainWindowTest::DashesWhatNoMixerHas() {
-  QVERIFY(!PictureOf(state_).channels[0].onlyRemembered);
-  RowOf(&state_, model::kInput, 0).delivery = Delivery::RememberedOnly;
-  QVERIFY(PictureOf(state_).channels[0].onlyRemembered);
-  QVERIFY(!PictureOf(state_).channels[1].onlyRemembered);
+void MainWindowTest::TellsWhatIsKnownOfTheMixers_data() {
+  QTest::addColumn<int>("inMixers");
+  QTest::addColumn<bool>("isStored");
+  QTest::addColumn<QString>("expected");
+  const auto row = [](const char *name, InMixers inMixers, bool isStored,
+                      const char *expected) {
+    QTest::newRow(name) << static_cast<int>(inMixers) << isStored << expected;
+  };
+  row("not known", InMixers::NotKnown, true, "Remembered; not confirmed.");
+  row("in none", InMixers::None, true, "Remembered; no mixer has it.");
+  row("not known, default", InMixers::NotKnown, false,
+      "Nothing is remembered; this is the default.");
+  row("in none, default", InMixers::None, false,
+      "Nothing is remembered; this is the default.");
+}
+
+void MainWindowTest::TellsWhatIsKnownOfTheMixers() {
+  QFETCH(const int, inMixers);
+  QFETCH(const bool, isStored);
+  QFETCH(const QString, expected);
+  RowState &row = RowOf(&state_, model::kInput, 0);
+  row.delivery = Delivery::Idle;
+  row.inMixers = static_cast<InMixers>(inMixers);
+  if (!isStored) row.stored.reset();
+  window_->showState(state_);
+  QCOMPARE(InputRow(0)->text(), expected);
+  QCOMPARE(static_cast<int>(PictureOf(state_).channels[0].inMixers), inMixers);
+}
+
+// Undo can bring back the default, after which nothing is remembered.
+void MainWindowTest::DoesNotCallTheDefaultRemembered_data() {
+  QTest::addColumn<int>("accepted");
+  QTest::addColumn<QString>("reason");
+  QTest::addColumn<QString>("expected");
+  QTest::newRow("one mixer")
+      << 1 << ""
+      << "Sent to the mixer. Nothing is remembered; this is the default.";
+  QTest::newRow("two mixers")
+      << 2 << ""
+      << "Sent to 2 mixers. Nothing is remembered; this is the default.";
+  QTest::newRow("no mixer") << 0 << "No mixer is attached."
+                            << "Nothing is remembered; this is the default. "
+                               "No mixer is attached.";
+}
+
+void MainWindowTest::DoesNotCallTheDefaultRemembered() {
+  QFETCH(const int, accepted);
+  QFETCH(const QString, reason);
+  QFETCH(const QString, expected);
+  RowState &row = RowOf(&state_, model::kInput, 0);
+  row.stored.reset();
+  row.delivery = accepted == 0 ? Delivery::RememberedOnly : Delivery::Sent;
+  row.accepted = accepted;
+  row.reason = reason;
+  window_->showState(state_);
+  QCOMPARE(InputRow(0)->text(), expected);
+}
+
+void MainWindowTest::SaysOnceThatSomethingIsNotKnown() {
+  const auto *notKnown = window_->findChild<QLabel *>("notKnown");
+  QVERIFY(!notKnown->isVisible());
+  for (RowState &row : state_.rows) {
+    row.delivery = Delivery::Idle;
+    row.inMixers = InMixers::NotKnown;
+  }
+  window_->showState(state_);
+  QVERIFY(notKnown->isVisible());
+  QCOMPARE(notKnown->text(),
+           QStringLiteral("It is not known whether every mixer has what is "
+                          "remembered. Send all again to be sure."));
+  // The button that ends it is beside the sentence.
+  QSignalSpy resend(window_.get(), &MainWindow::resendWanted);
+  for (QPushButton *button : notKnown->parentWidget()
+                                 ->parentWidget()
+                                 ->findChildren<QPushButton *>()) {
+    if (button->text() == QLatin1String("&Send all again")) button->click();
+  }
+  QCOMPARE(resend.size(), 1);
+  // A mixer that does not answer would not receive it.
   state_.mixers[0].answer = MixerAnswer::Silent;
-  QVERIFY(!PictureOf(state_).channels[1].onlyRemembered);
-  state_.mixers.clear();
-  QVERIFY(PictureOf(state_).channels[1].onlyRemembered);
+  window_->showState(state_);
+  QVERIFY(!notKnown->isVisible());
+}
+
+void MainWindowTest::ExplainsTheWires() {
+  QStringList texts;
+  for (QLabel *label : window_->routingPage()->findChildren<QLabel *>()) {
+    texts.append(label->text());
+  }
+  QVERIFY(texts.join(' ').contains(
+      QStringLiteral("Solid wire: every mixer has it. Dotted: not confirmed. "
+                     "Dashed: no mixer has it.")));
+}
+
+// The library's text about a choice that cannot be heard.
+void MainWindowTest::ExplainsASilentChannelInTheWordsOfTheLibrary() {
+  RowOf(&state_, model::kInput, 1).warning = "Set the input selector.";
+  state_.mixers[0].selectors[1] = 1;
+  window_->showState(state_);
+  QCOMPARE(InputRow(1)->toolTip(), QStringLiteral("Set the input selector."));
+  QCOMPARE(InputRow(0)->toolTip(), QString());
 }
 
 void MainWindowTest::ShowsANumberThatIsNoChoice() {
@@ -367,7 +471,6 @@ void MainWindowTest::WithoutAMixerEverythingStaysUsable() {
   state_.mixers.clear();
   window_->showState(state_);
   QVERIFY(TextOf("mixers").startsWith(QLatin1String("No mixer is attached.")));
-  QCOMPARE(InputRow(0)->text(), QStringLiteral("Remembered; no mixer has it."));
   QSignalSpy chosen(window_.get(), &MainWindow::chosen);
   InputRow(0)->box()->setFocus();
   QTest::keyClick(InputRow(0)->box(), Qt::Key_Up);

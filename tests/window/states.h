@@ -29,7 +29,7 @@ inline RowState &RowOf(State *state, const model::Setting &setting,
   qFatal("The state has no such row");
 }
 
-// One mixer, and for each USB channel a choice that is remembered.
+// One mixer, which has accepted what is remembered.
 inline State UsualState() {
   State state;
   state.known = true;
@@ -42,6 +42,9 @@ inline State UsualState() {
       row.setting = setting;
       row.channel = channel;
       row.stored = 0;
+      row.delivery = Delivery::Sent;
+      row.accepted = 1;
+      row.inMixers = InMixers::Every;
       state.rows.append(row);
     }
   }

@@ -34,6 +34,7 @@ class WholeWindowTest : public EngineWorld {
   void TellsWhyAChannelIsSilent();
   void UndoesTwoChanges();
   void DashesTheWiresWhenTheMixerIsUnplugged();
+  void SendingAllEndsTheDoubt();
   void SavesAndAppliesAClub();
   void ClosesWhileAMixerIsSilent();
 
@@ -117,7 +118,8 @@ void WholeWindowTest::TellsWhyAChannelIsSilent() {
   EVENTUALLY(InputRow(0).text().startsWith(QStringLiteral(
       "USB 1 is silent: turn the selector of CH1 on mixer 1 from 2 to 4.")));
   Mixer({"turn", "1", "4"});
-  EVENTUALLY(InputRow(0).text() == QStringLiteral("Remembered."));
+  EVENTUALLY(InputRow(0).text() ==
+             QStringLiteral("Remembered; not confirmed."));
 }
 
 void WholeWindowTest::UndoesTwoChanges() {
@@ -141,15 +143,29 @@ void WholeWindowTest::UndoesTwoChanges() {
 void WholeWindowTest::DashesTheWiresWhenTheMixerIsUnplugged() {
   Ztk({"input", "set", "1", "4"});
   Open();
+  QCOMPARE(InputRow(0).text(), QStringLiteral("Remembered; not confirmed."));
   Mixer({"unplug"});
   EVENTUALLY(InputRow(0).text() ==
              QStringLiteral("Remembered; no mixer has it."));
-  QVERIFY(PictureOf(state()).channels[0].onlyRemembered);
+  QCOMPARE(PictureOf(state()).channels[0].inMixers, InMixers::None);
   InputRow(0).box()->setFocus();
   Click({.source = Source::Mic});
   EVENTUALLY(InputRow(0).text() ==
              QStringLiteral("Remembered only. No mixer is attached."));
   EVENTUALLY(window_->findChild<QWidget *>("finding") != nullptr);
+}
+
+void WholeWindowTest::SendingAllEndsTheDoubt() {
+  Ztk({"input", "set", "1", "4"});
+  Open();
+  const auto *notKnown = window_->findChild<QLabel *>("notKnown");
+  QVERIFY(notKnown->isVisible());
+  QCOMPARE(PictureOf(state()).channels[0].inMixers, InMixers::NotKnown);
+  Action("Send all again").trigger();
+  EVENTUALLY(!notKnown->isVisible());
+  QCOMPARE(PictureOf(state()).channels[0].inMixers, InMixers::Every);
+  QCOMPARE(InputRow(0).text(),
+           QStringLiteral("Sent to 2 mixers, and remembered."));
 }
 
 void WholeWindowTest::SavesAndAppliesAClub() {

@@ -20,7 +20,7 @@ void Connect(MainWindow *window, Engine *engine) {
                    &Engine::applyClub);
   QObject::connect(window, &MainWindow::saveWanted, engine, &Engine::saveClub);
   QObject::connect(window, &MainWindow::clubsWanted, engine,
-                   &Engine::lookAtClubs);
+                   &Engine::readClubs);
   QObject::connect(window, &MainWindow::visibilityChanged, engine,
                    &Engine::setVisible);
   QObject::connect(engine, &Engine::stateChanged, window,

@@ -39,6 +39,19 @@ QList<const model::Setting *> SettingsOf(const std::string &modelName) {
   return settings;
 }
 
+QLabel *MakeSentence(QWidget *parent, const char *name) {
+  auto *label = new QLabel(parent);
+  label->setWordWrap(true);
+  label->setTextFormat(Qt::PlainText);
+  label->setObjectName(QLatin1String(name));
+  return label;
+}
+
+void ReadOut(QLabel *label) {
+  QAccessibleEvent event(label, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
+}
+
 }  // namespace
 
 MainWindow::MainWindow() {
@@ -150,10 +163,14 @@ void MainWindow::MakeMenus() {
 
 QWidget *MainWindow::MakeLowerBar() {
   auto *bar = new QWidget(this);
-  message_ = new QLabel(bar);
-  message_->setWordWrap(true);
-  message_->setTextFormat(Qt::PlainText);
-  message_->setObjectName(QStringLiteral("message"));
+  auto *sentences = new QWidget(bar);
+  message_ = MakeSentence(sentences, "message");
+  notKnown_ = MakeSentence(sentences, "notKnown");
+  notKnown_->setText(
+      tr("It is not known whether every mixer has what is remembered. Send all "
+         "again to be sure."));
+  message_->hide();
+  notKnown_->hide();
   undoButton_ = new QPushButton(bar);
   connect(undoButton_, &QPushButton::clicked, undo_, &QAction::trigger);
   resendButton_ = new QPushButton(resend_->text(), bar);
@@ -163,7 +180,11 @@ QWidget *MainWindow::MakeLowerBar() {
   auto *layout = new QHBoxLayout(bar);
   const int unit = bar->fontMetrics().height();
   layout->setContentsMargins(unit, 0, unit, unit / 2);
-  layout->addWidget(message_, 1);
+  auto *column = new QVBoxLayout(sentences);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(message_);
+  column->addWidget(notKnown_);
+  layout->addWidget(sentences, 1);
   layout->addWidget(undoButton_);
   layout->addWidget(resendButton_);
   return bar;
@@ -175,6 +196,7 @@ void MainWindow::showState(const State &state) {
   for (RowsPage *page : otherPages_) page->showState(state);
   ShowUndo(state);
   ShowResend(state);
+  ShowNotKnown(state.NeedsSending());
   ShowAutoapply(state);
   if (state.clubs != clubs_) ShowClubs(state.clubs);
   // After the layouts have taken in what is new.
@@ -272,9 +294,15 @@ void MainWindow::showPreview(const ClubPreview &preview) {
 void MainWindow::showMessage(const QString &message) {
   if (message_->text() == message) return;
   message_->setText(message);
-  if (message.isEmpty()) return;
-  QAccessibleEvent event(message_, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  message_->setVisible(!message.isEmpty());
+  if (!message.isEmpty()) ReadOut(message_);
+}
+
+// Beside the button that ends it.
+void MainWindow::ShowNotKnown(bool notKnown) {
+  if (notKnown_->isHidden() != notKnown) return;
+  notKnown_->setVisible(notKnown);
+  if (notKnown) ReadOut(notKnown_);
 }
 
 void MainWindow::TellVisibility() {

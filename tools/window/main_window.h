@@ -67,6 +67,7 @@ class MainWindow : public QMainWindow {
   void ShowAutoapply(const State &state);
   void ShowClubs(const QList<ClubState> &clubs);
   void ShowResend(const State &state);
+  void ShowNotKnown(bool notKnown);
   void AskForName();
   void Save(const QString &name);
   void TellVisibility();
@@ -82,6 +83,7 @@ class MainWindow : public QMainWindow {
   RoutingPage *routing_ = nullptr;
   QList<RowsPage *> otherPages_;
   QLabel *message_ = nullptr;
+  QLabel *notKnown_ = nullptr;
   QPushButton *undoButton_ = nullptr;
   QPushButton *resendButton_ = nullptr;
 };

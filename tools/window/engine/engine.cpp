@@ -2,7 +2,6 @@
 #include "window/engine/engine.h"
 
 #include <QSocketNotifier>
-#include <QStringList>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
@@ -10,7 +9,8 @@
 
 #include "window/engine/clubs.h"
 #include "window/engine/hearing.h"
-#include "window/engine/looks.h"
+#include "window/engine/readings.h"
+#include "window/engine/row_tracker.h"
 #include "window/engine/steps.h"
 #include "window/engine/usb_watch.h"
 #include "window/engine/worker.h"
@@ -22,12 +22,6 @@ namespace {
 
 constexpr int kSelectorMilliseconds = 1000;
 constexpr int kSilentSelectorMilliseconds = 10'000;
-
-// A change that waits or is on its way, and what the row showed last.
-struct Wish {
-  std::uint64_t ticket = 0;  // 0: none
-  std::uint32_t index = 0;
-};
 
 bool Answers(const MixerState &mixer) {
   return mixer.answer == MixerAnswer::Answers;
@@ -48,35 +42,28 @@ class Engine::Private {
               std::uint32_t index);
   // A step that is no choice of a row.
   void PostStep(const char *name, std::function<StepOutcome()> step);
-  void Look();
-  void LookAtSettings();
-  void LookAtClubs();
+  void CheckMixers();  // and for problems
+  void ReadSettings();
+  void ReadClubs();
   void SwitchAutoapplyTo(bool on);
   void SetVisible(bool visible);
 
   Worker worker;
 
  private:
-  void LookAtProblems();
-  void LookAtBus();
-  void OnStored(const StoredState &stored);
-  void OnOutcome(const StepOutcome &outcome, std::uint64_t ticket);
-  void OnRowOutcome(const RowOutcome &outcome, std::uint64_t ticket);
+  void ReadProblems();
+  void WatchBus();
+  void OnOutcome(const StepOutcome &outcome, std::uint64_t choice);
   void OnMixers(const QList<MixerState> &mixers);
   void OnSelectors(const QList<MixerState> &mixers);
   void OnBus(std::shared_ptr<model::BusWatch> bus);
-  void MarkUnsent(const QList<MixerState> &mixers);
-  static void MarkNoMixer(RowState *row);
-  static void MarkLate(RowState *row);
-  static QString LateText();
   void TimeSelectors();
   void ReadSelectors();
 
   Engine *engine_;
   State &state_;
-  std::vector<Wish> wishes_;  // of the rows
-  std::uint64_t lastTicket_ = 0;
-  QStringList late_;  // places of mixers plugged in since the window knows them
+  RowTracker rows_;
+  std::uint64_t steps_ = 0;  // that were asked for
   bool visible_ = true;
   Hearing hearing_;
   UsbWatch usb_;
@@ -89,24 +76,23 @@ Engine::Private::Private(Engine *engine)
     : worker(engine),
       engine_(engine),
       state_(engine->state_),
+      rows_(&engine->state_),
       hearing_(engine),
       usb_(engine) {
-  state_.rows = EmptyRows();
-  wishes_.resize(static_cast<std::size_t>(state_.rows.size()));
   selectors_.setSingleShot(true);
-  connect(&hearing_, &Hearing::heard, engine, [this] { LookAtSettings(); });
-  connect(&usb_, &UsbWatch::changed, engine, [this] { Look(); });
+  connect(&hearing_, &Hearing::heard, engine, [this] { ReadSettings(); });
+  connect(&usb_, &UsbWatch::changed, engine, [this] { CheckMixers(); });
   connect(&selectors_, &QTimer::timeout, engine, [this] { ReadSelectors(); });
 }
 
 void Engine::Private::Start() {
   hearing_.Register();
-  LookAtSettings();
-  Look();
-  LookAtBus();
-  LookAtClubs();
-  worker.Post(Worker::Kind::Look, "autoapply", [this]() -> Worker::Result {
-    const AutoapplyLook look = window::LookAtAutoapply();
+  ReadSettings();
+  CheckMixers();
+  WatchBus();
+  ReadClubs();
+  worker.Post(Worker::Kind::Reading, "autoapply", [this]() -> Worker::Result {
+    const AutoapplyStatus look = window::ReadAutoapply();
     return [this, look] {
       state_.autoapply = look.state;
       state_.whyNoAutoapply = look.why;
@@ -118,31 +104,22 @@ void Engine::Private::Start() {
 
 void Engine::Private::Choose(const model::Setting &setting,
                              std::uint32_t channel, std::uint32_t index) {
-  for (qsizetype i = 0; i < state_.rows.size(); ++i) {
-    RowState &row = state_.rows[i];
-    if (row.setting != &setting || row.channel != channel) continue;
-    const std::uint64_t ticket = ++lastTicket_;
-    wishes_[static_cast<std::size_t>(i)] = {.ticket = ticket, .index = index};
-    row.shown = index;
-    row.delivery = Delivery::Sending;
-    row.reason.clear();
-    row.warning.clear();
-    const std::string name = setting.name + std::to_string(channel);
-    worker.Post(
-        Worker::Kind::Change, name,
-        [this, &setting, channel, index, ticket]() -> Worker::Result {
-          const StepOutcome outcome = window::Choose(setting, channel, index);
-          return [this, outcome, ticket] { OnOutcome(outcome, ticket); };
-        });
-    emit engine_->stateChanged();
-    return;
-  }
+  const std::uint64_t choice = rows_.TakeChoice(setting, channel, index);
+  if (choice == 0) return;
+  const std::string name = setting.name + std::to_string(channel);
+  worker.Post(Worker::Kind::Change, name,
+              [this, &setting, channel, index, choice]() -> Worker::Result {
+                const StepOutcome outcome =
+                    window::Choose(setting, channel, index);
+                return [this, outcome, choice] { OnOutcome(outcome, choice); };
+              });
+  emit engine_->stateChanged();
 }
 
 void Engine::Private::PostStep(const char *name,
                                std::function<StepOutcome()> step) {
   // No two of these replace each other: "undo" twice takes back two steps.
-  const std::string unique = name + std::to_string(++lastTicket_);
+  const std::string unique = name + std::to_string(++steps_);
   worker.Post(Worker::Kind::Change, unique,
               [this, step = std::move(step)]() -> Worker::Result {
                 const StepOutcome outcome = step();
@@ -150,16 +127,16 @@ void Engine::Private::PostStep(const char *name,
               });
 }
 
-void Engine::Private::Look() {
-  worker.Post(Worker::Kind::Look, "mixers", [this]() -> Worker::Result {
-    const QList<MixerState> mixers = LookAtMixers();
+void Engine::Private::CheckMixers() {
+  worker.Post(Worker::Kind::Reading, "mixers", [this]() -> Worker::Result {
+    const QList<MixerState> mixers = AskMixers();
     return [this, mixers] { OnMixers(mixers); };
   });
-  LookAtProblems();
+  ReadProblems();
 }
 
-void Engine::Private::LookAtProblems() {
-  worker.Post(Worker::Kind::Look, "problems", [this]() -> Worker::Result {
+void Engine::Private::ReadProblems() {
+  worker.Post(Worker::Kind::Reading, "problems", [this]() -> Worker::Result {
     const QList<FindingState> findings = FindProblems();
     return [this, findings] {
       if (state_.findings == findings) return;
@@ -169,15 +146,18 @@ void Engine::Private::LookAtProblems() {
   });
 }
 
-void Engine::Private::LookAtSettings() {
-  worker.Post(Worker::Kind::Look, "settings", [this]() -> Worker::Result {
+void Engine::Private::ReadSettings() {
+  worker.Post(Worker::Kind::Reading, "settings", [this]() -> Worker::Result {
     const StoredState stored = ReadStored();
-    return [this, stored] { OnStored(stored); };
+    return [this, stored] {
+      rows_.TakeStored(stored);
+      emit engine_->stateChanged();
+    };
   });
 }
 
-void Engine::Private::LookAtClubs() {
-  worker.Post(Worker::Kind::Look, "clubs", [this]() -> Worker::Result {
+void Engine::Private::ReadClubs() {
+  worker.Post(Worker::Kind::Reading, "clubs", [this]() -> Worker::Result {
     const QList<ClubState> clubs = FindClubs();
     return [this, clubs] {
       state_.clubs = clubs;
@@ -186,7 +166,7 @@ void Engine::Private::LookAtClubs() {
   });
 }
 
-void Engine::Private::LookAtBus() {
+void Engine::Private::WatchBus() {
   if (!LoopDelivers()) {
     state_.hearsOthers = false;
     state_.whyNotHeard = Engine::tr(
@@ -194,7 +174,7 @@ void Engine::Private::LookAtBus() {
         "Start the window without it.");
     return;
   }
-  worker.Post(Worker::Kind::Look, "bus", [this]() -> Worker::Result {
+  worker.Post(Worker::Kind::Reading, "bus", [this]() -> Worker::Result {
     const auto bus = std::make_shared<model::BusWatch>();
     return [this, bus] { OnBus(bus); };
   });
@@ -219,122 +199,19 @@ void Engine::Private::OnBus(std::shared_ptr<model::BusWatch> bus) {
   emit engine_->stateChanged();
 }
 
-void Engine::Private::OnStored(const StoredState &stored) {
-  for (qsizetype i = 0; i < state_.rows.size(); ++i) {
-    RowState &row = state_.rows[i];
-    const StoredRow &now = stored.rows[i];
-    Wish &wish = wishes_[static_cast<std::size_t>(i)];
-    row.unreadable = now.unreadable;
-    const bool changed = row.stored != now.stored;
-    row.stored = now.stored;
-    // Until an own change has arrived, an older value must not be shown again.
-    if (wish.ticket != 0) continue;
-    row.shown = row.stored.value_or(row.setting->defaultIndex(row.channel));
-    if (changed && row.stored != wish.index) {
-      row.delivery = Delivery::Idle;
-      row.accepted = 0;
-      row.reason.clear();
-      row.warning.clear();
-    }
-  }
-  state_.canUndo = stored.canUndo;
-  state_.undoes = stored.undoes;
-  state_.known = true;
-  emit engine_->stateChanged();
-}
-
 void Engine::Private::OnOutcome(const StepOutcome &outcome,
-                                std::uint64_t ticket) {
-  bool allArrived = true;
-  for (const RowOutcome &row : outcome.rows) {
-    OnRowOutcome(row, ticket);
-    allArrived = allArrived && row.delivery == Delivery::Sent;
-  }
-  OnStored(outcome.stored);
-  if (!allArrived) Look();
+                                std::uint64_t choice) {
+  rows_.TakeOutcome(outcome, choice);
+  emit engine_->stateChanged();
+  const bool allArrived = std::all_of(
+      outcome.rows.begin(), outcome.rows.end(),
+      [](const RowOutcome &row) { return row.delivery == Delivery::Sent; });
+  if (!allArrived) CheckMixers();
   if (!outcome.report.isEmpty()) emit engine_->reported(outcome.report);
 }
 
-void Engine::Private::OnRowOutcome(const RowOutcome &outcome,
-                                   std::uint64_t ticket) {
-  for (qsizetype i = 0; i < state_.rows.size(); ++i) {
-    RowState &row = state_.rows[i];
-    if (row.setting != outcome.setting || row.channel != outcome.channel) {
-      continue;
-    }
-    Wish &wish = wishes_[static_cast<std::size_t>(i)];
-    // A newer wish waits, and the row shows that one.
-    if (wish.ticket != 0 && wish.ticket != ticket) return;
-    wish = {.ticket = 0, .index = outcome.index};
-    row.delivery = outcome.delivery;
-    row.accepted = outcome.accepted;
-    row.reason = outcome.reason;
-    row.warning = outcome.warning;
-  }
-}
-
-// A mixer that was plugged in meanwhile has none of the settings, unless the
-// system sends them to it.
-void Engine::Private::MarkUnsent(const QList<MixerState> &mixers) {
-  if (!state_.mixersKnown) return;
-  const bool hadLate = !late_.isEmpty();
-  QStringList late;
-  bool isNew = false;
-  bool isBack = false;
-  for (const MixerState &mixer : mixers) {
-    if (late_.contains(mixer.place)) late.append(mixer.place);
-    if (!Answers(mixer)) continue;
-    const auto before = std::find_if(
-        state_.mixers.begin(), state_.mixers.end(),
-        [&](const MixerState &one) { return one.place == mixer.place; });
-    if (before == state_.mixers.end() || before->answer == MixerAnswer::Gone) {
-      isNew = true;
-      if (!late.contains(mixer.place)) late.append(mixer.place);
-    } else {
-      isBack = isBack || !Answers(*before);
-    }
-  }
-  late_ = late;
-  for (RowState &row : state_.rows) {
-    if (mixers.isEmpty()) {
-      MarkNoMixer(&row);
-    } else if (isNew && state_.autoapply != Autoapply::On) {
-      MarkLate(&row);
-    } else if (hadLate && late_.isEmpty() && row.reason == LateText()) {
-      // The mixer that did not have it is away again.
-      row.delivery = row.accepted > 0 ? Delivery::Sent : Delivery::Idle;
-      row.reason.clear();
-    } else if (isBack && row.delivery == Delivery::RememberedOnly) {
-      // That it does not answer is not true any more.
-      row.reason.clear();
-    }
-  }
-}
-
-void Engine::Private::MarkNoMixer(RowState *row) {
-  if (row->delivery != Delivery::Sent &&
-      row->delivery != Delivery::RememberedOnly) {
-    return;
-  }
-  row->delivery = Delivery::RememberedOnly;
-  row->accepted = 0;
-  row->reason = Engine::tr("No mixer is attached.");
-}
-
-void Engine::Private::MarkLate(RowState *row) {
-  if (!row->stored || row->delivery == Delivery::Sending) return;
-  row->delivery = Delivery::RememberedOnly;
-  row->reason = LateText();
-}
-
-QString Engine::Private::LateText() {
-  return Engine::tr(
-      "A mixer was plugged in since. Send all again, so that it gets this "
-      "choice.");
-}
-
 void Engine::Private::OnMixers(const QList<MixerState> &mixers) {
-  MarkUnsent(mixers);
+  rows_.TakeMixers(mixers);
   state_.mixers = mixers;
   state_.mixersKnown = true;
   TimeSelectors();
@@ -359,7 +236,7 @@ void Engine::Private::OnSelectors(const QList<MixerState> &mixers) {
   if (same) {
     TimeSelectors();
   } else {
-    Look();
+    CheckMixers();
   }
 }
 
@@ -371,8 +248,8 @@ void Engine::Private::TimeSelectors() {
 }
 
 void Engine::Private::ReadSelectors() {
-  worker.Post(Worker::Kind::Look, "selectors", [this]() -> Worker::Result {
-    const QList<MixerState> mixers = LookAtSelectors();
+  worker.Post(Worker::Kind::Reading, "selectors", [this]() -> Worker::Result {
+    const QList<MixerState> mixers = AskForSelectors();
     return [this, mixers] { OnSelectors(mixers); };
   });
 }
@@ -381,7 +258,7 @@ void Engine::Private::SetVisible(bool visible) {
   if (visible == visible_) return;
   visible_ = visible;
   if (visible) {
-    Look();
+    CheckMixers();
   } else {
     selectors_.stop();
   }
@@ -391,12 +268,12 @@ void Engine::Private::SwitchAutoapplyTo(bool on) {
   worker.Post(Worker::Kind::Change, "autoapply",
               [this, on]() -> Worker::Result {
                 QString error;
-                AutoapplyLook look;
+                AutoapplyStatus look;
                 try {
                   look = SwitchAutoapply(on);
                 } catch (const std::runtime_error &failure) {
                   error = QString::fromUtf8(failure.what());
-                  look = LookAtAutoapply();
+                  look = ReadAutoapply();
                 }
                 return [this, look, error] {
                   state_.autoapply = look.state;
@@ -425,13 +302,13 @@ void Engine::resendAll() { private_->PostStep("resend", ResendAll); }
 
 void Engine::setAutoapply(bool on) { private_->SwitchAutoapplyTo(on); }
 
-void Engine::checkNow() { private_->Look(); }
+void Engine::checkNow() { private_->CheckMixers(); }
 
 void Engine::setVisible(bool visible) { private_->SetVisible(visible); }
 
 void Engine::previewClub(const QString &path) {
   private_->worker.Post(
-      Worker::Kind::Look, "preview", [this, path]() -> Worker::Result {
+      Worker::Kind::Reading, "preview", [this, path]() -> Worker::Result {
         const ClubPreview preview = PreviewOf(path);
         return [this, preview] { emit clubPreviewed(preview); };
       });
@@ -447,7 +324,7 @@ void Engine::saveClub(const QString &name) {
       [this, name]() -> Worker::Result {
         const QString problem = SaveClub(name);
         return [this, name, problem] {
-          private_->LookAtClubs();
+          private_->ReadClubs();
           emit reported(problem.isEmpty()
                             ? tr("Saved as “%1”.").arg(ListedClubName(name))
                             : problem);
@@ -455,6 +332,6 @@ void Engine::saveClub(const QString &name) {
       });
 }
 
-void Engine::lookAtClubs() { private_->LookAtClubs(); }
+void Engine::readClubs() { private_->ReadClubs(); }
 
 }  // namespace ztk::window

@@ -49,7 +49,7 @@ class Engine : public QObject {
   void applyClub(const QString &path);
   void saveClub(const QString &name);
   // Lists the clubs again; other programs may write them too.
-  void lookAtClubs();
+  void readClubs();
 
  signals:
   // Some part of state() is different now.

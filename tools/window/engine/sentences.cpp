@@ -3,10 +3,15 @@
 
 #include <QCoreApplication>
 #include <QStringList>
+#include <iterator>
 
 namespace ztk::window {
 
 namespace {
+
+// The languages of the library's texts. The number of each is its place.
+constexpr const char *kLanguages[] = {"en", "ja", "fr", "de",    "it",    "nl",
+                                      "es", "ru", "pt", "zh_CN", "zh_TW", "ko"};
 
 struct Sentences {
   Q_DECLARE_TR_FUNCTIONS(Engine)
@@ -92,6 +97,11 @@ QString WhatFails(const model::Finding &finding) {
   return Sentences::tr(kNotOpened).arg(finding.mixer);
 }
 
+QString LanguageCode() {
+  //: The code of the language of these translations.
+  return Sentences::tr("en");
+}
+
 }  // namespace
 
 QString WhyNotSent(std::size_t accepted, const model::Reach &reach) {
@@ -129,6 +139,14 @@ QString ChoiceText(const model::Setting &setting, std::uint32_t channel,
   return choice ? QString::fromStdString(choice->text)
                 : Sentences::tr("%1, which is not a choice")
                       .arg(static_cast<std::int32_t>(index));
+}
+
+std::uint32_t LibraryLanguage() {
+  const QString language = LanguageCode();
+  for (std::uint32_t i = 0; i < std::size(kLanguages); ++i) {
+    if (language == QLatin1String(kLanguages[i])) return i;
+  }
+  return 0;
 }
 
 FindingState Translated(const model::Finding &finding) {

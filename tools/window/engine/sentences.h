@@ -6,6 +6,7 @@
 #define ZTK_TOOLS_WINDOW_ENGINE_SENTENCES_H_
 
 #include <QString>
+#include <cstdint>
 
 #include "window/engine/state.h"
 #include "ztk/doctor/finding.h"
@@ -25,6 +26,9 @@ QString PlaceText(const model::Setting &setting, std::uint32_t channel);
 // The text of a choice. A number that is not a choice is shown as a number.
 QString ChoiceText(const model::Setting &setting, std::uint32_t channel,
                    std::uint32_t index);
+
+// The number that the library gives to the language of the window.
+std::uint32_t LibraryLanguage();
 
 FindingState Translated(const model::Finding &finding);
 

@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QString>
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -39,11 +40,19 @@ struct MixerState {
 
 // What became of the last change of a row.
 enum class Delivery : std::uint8_t {
-  Idle,            // no change was made since the window was opened
+  Idle,            // this window has made no change that still counts
   Sending,         // it waits, or is on its way
   Sent,            // stored, and every mixer has accepted it
   RememberedOnly,  // stored, but not every mixer has accepted it
   Failed,          // not stored
+};
+
+// Which mixers have the choice of a row. A mixer cannot be asked for it, so
+// this is known only of what this window itself has sent.
+enum class InMixers : std::uint8_t {
+  NotKnown,  // every mixer may have it, or none
+  None,      // no mixer is attached, or none has accepted it
+  Every,     // every attached mixer has accepted it
 };
 
 // One channel of a setting; the only channel of one without channels.
@@ -61,11 +70,12 @@ struct RowState {
   Delivery delivery = Delivery::Idle;
   // How many mixers have accepted the last change.
   int accepted = 0;
+  InMixers inMixers = InMixers::NotKnown;
   // A sentence for the user: why a change was not sent or not stored. Empty for
   // a change that arrived.
   QString reason;
-  // The library's sentence about a choice that cannot be heard, in the user's
-  // language; empty where there is none.
+  // The library's text about a choice that cannot be heard, in the language of
+  // the window; empty where there is none.
   QString warning;
 
   bool operator==(const RowState &) const = default;
@@ -116,6 +126,21 @@ struct State {
       if (row.setting == &setting && row.channel == channel) return &row;
     }
     return nullptr;
+  }
+
+  // A mixer answers, and it is not known whether every mixer has what is
+  // remembered. Sending all again ends this.
+  bool NeedsSending() const {
+    const bool anyAnswers =
+        std::any_of(mixers.begin(), mixers.end(), [](const MixerState &mixer) {
+          return mixer.answer == MixerAnswer::Answers;
+        });
+    return anyAnswers &&
+           std::any_of(rows.begin(), rows.end(), [](const RowState &row) {
+             return row.stored && row.inMixers == InMixers::NotKnown &&
+                    (row.delivery == Delivery::Idle ||
+                     row.delivery == Delivery::Failed);
+           });
   }
 
   bool operator==(const State &) const = default;

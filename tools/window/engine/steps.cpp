@@ -2,6 +2,7 @@
 #include "window/engine/steps.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <vector>
 
 #include "window/engine/clubs.h"
@@ -9,12 +10,11 @@
 #include "ztk/model/history/undo.h"
 #include "ztk/model/resend.h"
 #include "ztk/system/library_text.h"
+#include "ztk/system/places.h"
 
 namespace ztk::window {
 
 namespace {
-
-constexpr std::uint32_t kUsersLanguage = 99;
 
 struct Steps {
   Q_DECLARE_TR_FUNCTIONS(Engine)
@@ -26,7 +26,8 @@ using model::MadeChange;
 using model::MadeChanges;
 using model::Reach;
 
-// The library's warning text for a choice that cannot be heard.
+// The library's text about a choice that cannot be heard, in the language of
+// the window. Empty if the texts are not installed.
 QString WarningText(const MadeChange &one, const Reach &reach) {
   // If no mixer is attached, the row already says so.
   if (one.result != ZTK_WARNING || !one.selectorsKnown || reach.found() == 0) {
@@ -34,11 +35,18 @@ QString WarningText(const MadeChange &one, const Reach &reach) {
   }
   ZTKTextRef text = nullptr;
   ZTK_GetWarningTextForSetUSBAudioInput(one.change.product, one.change.channel,
-                                        ZTK_WARNING, kUsersLanguage, &text);
-  if (text != nullptr) return QString::fromStdString(model::Utf8(text));
-  // The library's texts are not installed.
-  return Steps::tr(
-      "This cannot be heard: the input selector has another position.");
+                                        ZTK_WARNING, LibraryLanguage(), &text);
+  return text == nullptr ? QString()
+                         : QString::fromStdString(model::Utf8(text));
+}
+
+InMixers Receivers(std::size_t accepted, const Reach &reach) {
+  const auto attached = static_cast<std::size_t>(std::count_if(
+      reach.mixers.begin(), reach.mixers.end(), [](const model::Mixer &mixer) {
+        return mixer.state != model::MixerState::Gone;
+      }));
+  if (accepted == 0) return InMixers::None;
+  return accepted >= attached ? InMixers::Every : InMixers::NotKnown;
 }
 
 RowOutcome OutcomeOf(const MadeChange &one, const Reach &reach) {
@@ -47,6 +55,7 @@ RowOutcome OutcomeOf(const MadeChange &one, const Reach &reach) {
                  .index = one.change.index,
                  .delivery = Delivery::Failed,
                  .accepted = static_cast<int>(one.accepted),
+                 .inMixers = Receivers(one.accepted, reach),
                  .reason = {},
                  .warning = {}};
   if (!one.remembered && !one.forgotten) {
@@ -83,6 +92,7 @@ StepOutcome Make(const char *command, const std::vector<Change> &changes) {
                            .index = change.index,
                            .delivery = Delivery::Failed,
                            .accepted = 0,
+                           .inMixers = InMixers::NotKnown,
                            .reason = BusyText(),
                            .warning = {}});
     }
@@ -157,6 +167,7 @@ RowOutcome OutcomeOf(const model::StoredValue &value, const Reach &reach) {
                  .index = value.index,
                  .delivery = Delivery::RememberedOnly,
                  .accepted = static_cast<int>(value.accepted),
+                 .inMixers = InMixers::NotKnown,
                  .reason = {},
                  .warning = {}};
   if (value.refused) {
@@ -164,70 +175,83 @@ RowOutcome OutcomeOf(const model::StoredValue &value, const Reach &reach) {
         Steps::tr("This choice cannot be sent again. Choose it once more.");
     return row;
   }
+  row.inMixers = Receivers(value.accepted, reach);
   row.reason = WhyNotSent(value.accepted, reach);
   if (row.reason.isEmpty()) row.delivery = Delivery::Sent;
   return row;
+}
+
+// Makes a step, and adds what is true before and after it.
+template <typename Step>
+StepOutcome Complete(Step step) {
+  QStringList places;
+  for (const std::string &place : model::MixerPlaces()) {
+    places.append(QString::fromStdString(place));
+  }
+  StepOutcome outcome = step();
+  outcome.places = places;
+  outcome.stored = ReadStored();
+  return outcome;
+}
+
+StepOutcome Undo() {
+  History history;
+  StepOutcome outcome;
+  switch (history.state()) {
+    case History::State::Usable:
+      return UndoIn(&history);
+    case History::State::Busy:
+      outcome.report = BusyText();
+      break;
+    case History::State::Unavailable:
+      outcome.report = Steps::tr("Nothing can be undone: %1.")
+                           .arg(QString::fromStdString(history.reason()));
+      break;
+  }
+  return outcome;
+}
+
+StepOutcome Resend() {
+  std::vector<model::StoredValue> values = model::AllStoredValues();
+  StepOutcome outcome;
+  if (values.empty()) {
+    outcome.report = Steps::tr("Nothing is remembered, so nothing was sent.");
+    return outcome;
+  }
+  const Reach reach = model::SendAgain(&values);
+  for (const model::StoredValue &value : values) {
+    outcome.rows.append(OutcomeOf(value, reach));
+  }
+  return outcome;
+}
+
+StepOutcome Apply(const QString &path) {
+  const ClubFile file = ReadClub(path);
+  if (file.error.isEmpty()) return Make("import", file.changes);
+  StepOutcome outcome;
+  outcome.report = file.error;
+  return outcome;
 }
 
 }  // namespace
 
 StepOutcome Choose(const model::Setting &setting, std::uint32_t channel,
                    std::uint32_t index) {
-  const std::string command = std::string(setting.name) + " set";
-  StepOutcome outcome = Make(command.c_str(), {{.setting = &setting,
-                                                .product = setting.product,
-                                                .channel = channel,
-                                                .index = index}});
-  outcome.stored = ReadStored();
-  return outcome;
+  return Complete([&] {
+    const std::string command = std::string(setting.name) + " set";
+    return Make(command.c_str(), {{.setting = &setting,
+                                   .product = setting.product,
+                                   .channel = channel,
+                                   .index = index}});
+  });
 }
 
-StepOutcome UndoLast() {
-  StepOutcome outcome;
-  {
-    History history;
-    switch (history.state()) {
-      case History::State::Usable:
-        outcome = UndoIn(&history);
-        break;
-      case History::State::Busy:
-        outcome.report = BusyText();
-        break;
-      case History::State::Unavailable:
-        outcome.report = Steps::tr("Nothing can be undone: %1.")
-                             .arg(QString::fromStdString(history.reason()));
-        break;
-    }
-  }
-  outcome.stored = ReadStored();
-  return outcome;
-}
+StepOutcome UndoLast() { return Complete(Undo); }
 
-StepOutcome ResendAll() {
-  std::vector<model::StoredValue> values = model::AllStoredValues();
-  StepOutcome outcome;
-  if (values.empty()) {
-    outcome.report = Steps::tr("Nothing is remembered, so nothing was sent.");
-  } else {
-    const Reach reach = model::SendAgain(&values);
-    for (const model::StoredValue &value : values) {
-      outcome.rows.append(OutcomeOf(value, reach));
-    }
-  }
-  outcome.stored = ReadStored();
-  return outcome;
-}
+StepOutcome ResendAll() { return Complete(Resend); }
 
 StepOutcome ApplyFile(const QString &path) {
-  const ClubFile file = ReadClub(path);
-  StepOutcome outcome;
-  if (file.error.isEmpty()) {
-    outcome = Make("import", file.changes);
-  } else {
-    outcome.report = file.error;
-  }
-  outcome.stored = ReadStored();
-  return outcome;
+  return Complete([&path] { return Apply(path); });
 }
 
 }  // namespace ztk::window

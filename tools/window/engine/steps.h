@@ -6,9 +6,10 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 
-#include "window/engine/looks.h"
+#include "window/engine/readings.h"
 #include "window/engine/state.h"
 
 namespace ztk::window {
@@ -19,12 +20,15 @@ struct RowOutcome {
   std::uint32_t index = 0;
   Delivery delivery = Delivery::Failed;
   int accepted = 0;
+  InMixers inMixers = InMixers::NotKnown;
   QString reason;
   QString warning;
 };
 
 struct StepOutcome {
   QList<RowOutcome> rows;
+  // Where mixers were attached before the step.
+  QStringList places;
   // What is stored afterwards.
   StoredState stored;
   // A sentence about the step as a whole; empty where there is none.

@@ -27,7 +27,7 @@ struct Worker::Shared {
   std::mutex mutex;
   std::condition_variable changed;
   std::deque<NamedJob> changes;
-  std::deque<NamedJob> looks;
+  std::deque<NamedJob> readings;
   QObject *receiver = nullptr;
   bool started = false;
   bool stopping = false;
@@ -36,10 +36,10 @@ struct Worker::Shared {
   // The next job; none when the worker is to end. Called with the lock held.
   Job Next(std::unique_lock<std::mutex> *lock) {
     changed.wait(*lock, [this] {
-      return stopping || !changes.empty() || !looks.empty();
+      return stopping || !changes.empty() || !readings.empty();
     });
-    if (stopping) looks.clear();
-    std::deque<NamedJob> &queue = changes.empty() ? looks : changes;
+    if (stopping) readings.clear();
+    std::deque<NamedJob> &queue = changes.empty() ? readings : changes;
     if (queue.empty()) return nullptr;
     Job job = std::move(queue.front().job);
     queue.pop_front();
@@ -68,7 +68,7 @@ void Worker::Start() {
 void Worker::Post(Kind kind, const std::string &name, Job job) {
   const std::lock_guard lock(shared_->mutex);
   std::deque<NamedJob> &queue =
-      kind == Kind::Change ? shared_->changes : shared_->looks;
+      kind == Kind::Change ? shared_->changes : shared_->readings;
   const auto waiting =
       std::find_if(queue.begin(), queue.end(),
                    [&name](const NamedJob &one) { return one.name == name; });

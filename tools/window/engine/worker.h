@@ -21,7 +21,7 @@ class Worker {
 
   enum class Kind : std::uint8_t {
     Change,  // the user has asked for it
-    Look     // reads something again; done when no change waits
+    Reading  // of something that may have changed; waits for all changes
   };
 
   explicit Worker(QObject *receiver);

@@ -43,7 +43,7 @@ PictureState PictureOf(const State &state) {
     const RowState *row = state.Row(model::kInput, channel);
     if (row == nullptr) continue;
     picture.channels[i] = {.tap = model::TapOf(channel, row->shown),
-                           .onlyRemembered = IsOnlyRemembered(*row, state)};
+                           .inMixers = row->inMixers};
   }
   for (std::size_t lane = 0; lane < picture.selectors.size(); ++lane) {
     picture.selectors[lane] = SelectorOf(state, lane);
@@ -104,7 +104,10 @@ void RoutingPage::SetActive(int channel) {
   hint_->setText(
       tr("Click a circle to record it on USB %1, or drag a number to "
          "another circle.")
-          .arg(channel + 1));
+          .arg(channel + 1) +
+      QLatin1Char('\n') +
+      tr("Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no "
+         "mixer has it."));
   for (ChoiceRow *row : rows_) {
     row->setActive(&row->setting() == &model::kInput &&
                    static_cast<int>(row->channel()) == channel);

@@ -249,7 +249,7 @@ void Picture::paintEvent(QPaintEvent * /*event*/) {
       if ((wire.channel == active_) != active) continue;
       const auto &channel =
           state_.channels[static_cast<std::size_t>(wire.channel)];
-      drawing.DrawWire(wire, channel.onlyRemembered, active);
+      drawing.DrawWire(wire, channel.inMixers, active);
     }
   }
   for (const TapSpot &spot : layout_.taps) {

@@ -168,11 +168,29 @@ void PicturePainter::DrawTap(const TapSpot &spot, bool canBeChosen,
   painter_->drawEllipse(spot.centre, radius, radius);
 }
 
-void PicturePainter::DrawWire(const Wire &wire, bool dashed, bool active) {
-  const qreal u = layout_.unit;
-  const QColor colour = WireColour(palette_, wire.channel);
+QPen PicturePainter::WirePen(const QColor &colour, InMixers inMixers,
+                             bool active) const {
   QPen pen(colour, active ? Thick() * 1.5 : Thick(), Qt::SolidLine, Qt::FlatCap,
            Qt::RoundJoin);
+  switch (inMixers) {
+    case InMixers::Every:
+      break;
+    case InMixers::None:
+      pen.setDashPattern({3.0, 2.0});
+      break;
+    case InMixers::NotKnown:
+      pen.setWidthF(pen.widthF() * 0.7);
+      pen.setDashPattern({1.0, 1.5});
+      break;
+  }
+  return pen;
+}
+
+void PicturePainter::DrawWire(const Wire &wire, InMixers inMixers,
+                              bool active) {
+  const qreal u = layout_.unit;
+  const QColor colour = WireColour(palette_, wire.channel);
+  const QPen pen = WirePen(colour, inMixers, active);
   const QPointF tip = wire.points.back();
   Wire shortened = wire;
   shortened.points.back() = tip - QPointF(u * 0.5, 0);
@@ -183,7 +201,6 @@ void PicturePainter::DrawWire(const Wire &wire, bool dashed, bool active) {
                         pen.widthF() + Thin() * 2, Qt::SolidLine, Qt::FlatCap,
                         Qt::RoundJoin));
   painter_->drawPath(path);
-  if (dashed) pen.setDashPattern({3.0, 2.0});
   painter_->setPen(pen);
   painter_->drawPath(path);
   painter_->setPen(Qt::NoPen);

@@ -27,7 +27,7 @@ class PicturePainter {
   // The tap can be chosen with a click; `pointedAt`: the mouse is over it.
   void DrawTap(const TapSpot &spot, bool canBeChosen, bool pointedAt,
                const QColor &colour);
-  void DrawWire(const Wire &wire, bool dashed, bool active);
+  void DrawWire(const Wire &wire, InMixers inMixers, bool active);
   void DrawNumber(const Wire &wire, bool active);
   // A wire whose end is being dragged.
   void DrawDragged(int channel, QPointF from, QPointF to);
@@ -36,6 +36,7 @@ class PicturePainter {
  private:
   qreal Thin() const { return layout_.unit * 0.09; }
   qreal Thick() const { return layout_.unit * 0.17; }
+  QPen WirePen(const QColor &colour, InMixers inMixers, bool active) const;
   void DrawKnob(const Knob &knob, const PictureState &state);
   void DrawSelector(const Knob &knob, const PictureState::Selector &selector);
   void DrawSlider(const QRectF &track, const QRectF &thumb);

@@ -6,6 +6,7 @@
 #include <array>
 #include <optional>
 
+#include "window/engine/state.h"
 #include "window/picture/wires.h"
 #include "ztk/model/routing.h"
 
@@ -16,7 +17,7 @@ struct PictureState {
   struct Channel {
     // The signal that is recorded; empty if the stored number is not a choice.
     std::optional<model::Tap> tap;
-    bool onlyRemembered = false;  // no mixer has received it
+    InMixers inMixers = InMixers::NotKnown;
     bool operator==(const Channel &) const = default;
   };
   struct Selector {

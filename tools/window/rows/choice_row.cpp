@@ -83,6 +83,7 @@ void ChoiceRow::showState(const State &state) {
   ShowChoice(row->shown);
   const RowText text = TextOf(*row, state);
   sign_->setVisible(text.needsAttention);
+  setToolTip(text.details);
   if (text_->text() == text.text) return;
   text_->setText(text.text);
   // Read out together with the choice.

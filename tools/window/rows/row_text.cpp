@@ -19,33 +19,43 @@ std::optional<std::uint32_t> SelectorOf(const RowState &row) {
   return model::DecidingSelector(row.channel, row.shown);
 }
 
+QString NotStoredText() {
+  return Row::tr("Nothing is remembered; this is the default.");
+}
+
 QString SentText(const RowState &row) {
+  if (!row.stored) {
+    const QString sent = row.accepted == 1 ? Row::tr("Sent to the mixer.")
+                                           : Row::tr("Sent to %n mixers.",
+                                                     nullptr, row.accepted);
+    return sent + QLatin1Char(' ') + NotStoredText();
+  }
   if (row.accepted == 1) return Row::tr("Sent to the mixer, and remembered.");
   return Row::tr("Sent to %n mixers, and remembered.", nullptr, row.accepted);
 }
 
-QString IdleText(const RowState &row, const State &state) {
-  if (!row.stored)
-    return Row::tr("Nothing is remembered; this is the default.");
-  if (IsOnlyRemembered(row, state)) {
-    return Row::tr("Remembered; no mixer has it.");
-  }
-  return Row::tr("Remembered.");
+QString IdleText(const RowState &row) {
+  if (!row.stored) return NotStoredText();
+  return row.inMixers == InMixers::None
+             ? Row::tr("Remembered; no mixer has it.")
+             : Row::tr("Remembered; not confirmed.");
 }
 
-QString DeliveryText(const RowState &row, const State &state) {
+QString RememberedOnlyText(const RowState &row) {
+  if (row.accepted > 0) return SentText(row);
+  return row.stored ? Row::tr("Remembered only.") : NotStoredText();
+}
+
+QString DeliveryText(const RowState &row) {
   switch (row.delivery) {
     case Delivery::Idle:
-      return IdleText(row, state);
+      return IdleText(row);
     case Delivery::Sending:
       return Row::tr("Sending…");
     case Delivery::Sent:
       return SentText(row);
     case Delivery::RememberedOnly:
-      if (row.accepted > 0) {
-        return SentText(row) + QLatin1Char(' ') + row.reason;
-      }
-      return Row::tr("Remembered only.") + QLatin1Char(' ') + row.reason;
+      return RememberedOnlyText(row) + QLatin1Char(' ') + row.reason;
     case Delivery::Failed:
       break;
   }
@@ -103,20 +113,15 @@ QStringList SilenceTexts(const RowState &row, const State &state) {
   return turns;
 }
 
-bool IsOnlyRemembered(const RowState &row, const State &state) {
-  if (row.delivery == Delivery::RememberedOnly) return row.accepted == 0;
-  // What a mixer has that does not answer is not known.
-  return state.mixersKnown && state.mixers.isEmpty();
-}
-
 RowText TextOf(const RowState &row, const State &state) {
   if (!row.unreadable.isEmpty()) {
-    return {.text = row.unreadable, .needsAttention = true};
+    return {.text = row.unreadable, .details = {}, .needsAttention = true};
   }
   const QStringList warnings = SilenceTexts(row, state);
   const QStringList sentences =
-      warnings + QStringList(DeliveryText(row, state).trimmed());
+      warnings + QStringList(DeliveryText(row).trimmed());
   return {.text = sentences.join(QLatin1Char(' ')),
+          .details = warnings.isEmpty() ? QString() : row.warning,
           .needsAttention = !warnings.isEmpty() ||
                             row.delivery == Delivery::RememberedOnly ||
                             row.delivery == Delivery::Failed};

@@ -13,6 +13,8 @@ namespace ztk::window {
 
 struct RowText {
   QString text;
+  // The library's explanation of a choice that cannot be heard; else empty.
+  QString details;
   // Something is not as the user wants it to be.
   bool needsAttention = false;
 };
@@ -22,9 +24,6 @@ QString RowLabel(const model::Setting &setting, std::uint32_t channel);
 
 // What became of the last change, and whether it can be heard.
 RowText TextOf(const RowState &row, const State &state);
-
-// No mixer has what this row remembers.
-bool IsOnlyRemembered(const RowState &row, const State &state);
 
 // "USB 2 is silent: turn the selector of CH2 from 1 to 4.", once for each
 // mixer.

@@ -74,10 +74,6 @@
             <translation>Es ist kein Mischpult angeschlossen.</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>Seitdem wurde ein Mischpult angeschlossen. Senden Sie alles erneut, damit es diese Wahl erhält.</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>Mischpult %1 lehnt den Wert ab.</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1, keine gültige Wahl</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>Das ist nicht zu hören: Der Eingangswahlschalter steht anders.</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>Ein anderes Programm ändert gerade die Einstellungen. Versuchen Sie es gleich noch einmal.</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>Rückgängig gemacht: %1.</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>de</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>Es gibt schon einen Club „%1“. Soll er ersetzt werden?</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>Es ist nicht bekannt, ob jedes Mischpult das Gespeicherte hat. Senden Sie alles erneut, um sicher zu sein.</translation>
         </message>
     </context>
     <context>
@@ -482,6 +482,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>Klicken Sie auf einen Kreis, um ihn auf USB %1 aufzunehmen, oder ziehen Sie eine Zahl auf einen anderen Kreis.</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>Durchgezogene Linie: Jedes Mischpult hat es. Gepunktet: nicht bestätigt. Gestrichelt: Kein Mischpult hat es.</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -503,10 +507,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>Gespeichert; kein Mischpult hat es.</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>Gespeichert.</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -539,6 +539,21 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 ist stumm: Drehen Sie am Mischpult %5 den Wahlschalter von CH%2 von %3 auf %4.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>An das Mischpult gesendet.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>An %n Mischpult gesendet.</numerusform>
+                <numerusform>An %n Mischpulte gesendet.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>Gespeichert; nicht bestätigt.</translation>
         </message>
     </context>
 </TS>

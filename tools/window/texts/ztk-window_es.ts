@@ -74,10 +74,6 @@
             <translation>No hay ninguna mesa conectada.</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>Después se ha conectado una mesa. Envíe todo de nuevo para que reciba esta opción.</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>La mesa %1 rechaza el valor.</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1, que no es una opción</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>Esto no se oye: el selector de entrada está en otra posición.</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>Otro programa está cambiando los ajustes. Inténtelo de nuevo en un momento.</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>Deshecho: %1.</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>es</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>Ya existe un club «%1». ¿Quiere reemplazarlo?</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>No se sabe si todas las mesas tienen lo guardado. Envíe todo de nuevo para estar seguro.</translation>
         </message>
     </context>
     <context>
@@ -482,6 +482,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>Haga clic en un círculo para grabarlo en USB %1, o arrastre un número a otro círculo.</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>Línea continua: todas las mesas lo tienen. Punteada: sin confirmar. Discontinua: ninguna mesa lo tiene.</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -503,10 +507,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>Guardado; ninguna mesa lo tiene.</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>Guardado.</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -539,6 +539,21 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 está en silencio: gire el selector de CH%2 de la mesa %5 de %3 a %4.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>Enviado a la mesa.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>Enviado a %n mesa.</numerusform>
+                <numerusform>Enviado a %n mesas.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>Guardado; sin confirmar.</translation>
         </message>
     </context>
 </TS>

@@ -74,10 +74,6 @@
             <translation>Aucune table de mixage n’est connectée.</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>Une table a été connectée depuis. Renvoyez tout pour qu’elle reçoive ce choix.</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>La table %1 refuse la valeur.</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1, qui n’est pas un choix</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>Ceci ne s’entend pas : le sélecteur d’entrée a une autre position.</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>Un autre programme modifie les réglages. Réessayez dans un instant.</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>Annulé : %1.</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>fr</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>Il existe déjà un club « %1 ». Le remplacer ?</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>On ne sait pas si toutes les tables de mixage ont ce qui est enregistré. Renvoyez tout pour en être sûr.</translation>
         </message>
     </context>
     <context>
@@ -482,6 +482,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>Cliquez sur un cercle pour l’enregistrer sur USB %1, ou faites glisser un numéro vers un autre cercle.</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>Trait plein : toutes les tables l’ont. Pointillé : non confirmé. Tirets : aucune table ne l’a.</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -503,10 +507,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>Enregistré ; aucune table ne l’a.</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>Enregistré.</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -539,6 +539,21 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 est muet : tournez le sélecteur de CH%2 de la table %5 de %3 à %4.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>Envoyé à la table de mixage.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>Envoyé à %n table de mixage.</numerusform>
+                <numerusform>Envoyé à %n tables de mixage.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>Enregistré ; non confirmé.</translation>
         </message>
     </context>
 </TS>

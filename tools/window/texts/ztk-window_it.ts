@@ -74,10 +74,6 @@
             <translation>Nessun mixer è collegato.</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>Da allora è stato collegato un mixer. Inviare di nuovo tutto perché riceva questa scelta.</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>Il mixer %1 rifiuta il valore.</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1, che non è una scelta</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>Questo non si sente: il selettore d’ingresso è in un’altra posizione.</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>Un altro programma sta cambiando le impostazioni. Riprovare tra un momento.</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>Annullato: %1.</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>it</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>Esiste già un club «%1». Sostituirlo?</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>Non è noto se ogni mixer ha ciò che è memorizzato. Invii di nuovo tutto per esserne certo.</translation>
         </message>
     </context>
     <context>
@@ -482,6 +482,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>Fare clic su un cerchio per registrarlo su USB %1, o trascinare un numero su un altro cerchio.</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>Linea continua: ogni mixer lo ha. Punteggiata: non confermato. Tratteggiata: nessun mixer lo ha.</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -503,10 +507,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>Memorizzato; nessun mixer lo ha.</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>Memorizzato.</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -539,6 +539,21 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 è muto: girare il selettore di CH%2 del mixer %5 da %3 a %4.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>Inviato al mixer.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>Inviato a %n mixer.</numerusform>
+                <numerusform>Inviato a %n mixer.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>Memorizzato; non confermato.</translation>
         </message>
     </context>
 </TS>

@@ -74,10 +74,6 @@
             <translation>ミキサーが接続されていません。</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>その後ミキサーが接続されました。この選択を送るには、すべてを再送信してください。</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>ミキサー %1 が値を拒否しました。</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1（選択肢にありません）</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>この信号は聞こえません。入力セレクターの位置が違います。</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>ほかのプログラムが設定を変更しています。しばらくしてからもう一度お試しください。</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>元に戻しました：%1。</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>ja</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>クラブ「%1」はすでにあります。置き換えますか？</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>保存されている内容がすべてのミキサーに届いているかは不明です。確実にするには、すべて再送信してください。</translation>
         </message>
     </context>
     <context>
@@ -481,6 +481,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>円をクリックすると USB %1 に録音します。番号を別の円へドラッグすることもできます。</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>実線: すべてのミキサーに届いています。点線: 未確認。破線: ミキサーに届いていません。</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -501,10 +505,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>保存済み。ミキサーには届いていません。</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>保存済み。</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -537,6 +537,20 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 は無音です。ミキサー %5 の CH%2 のセレクターを %3 から %4 に回してください。</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>ミキサーに送信しました。</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>%n 台のミキサーに送信しました。</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>保存済み。未確認です。</translation>
         </message>
     </context>
 </TS>

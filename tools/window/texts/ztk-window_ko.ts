@@ -74,10 +74,6 @@
             <translation>믹서가 연결되어 있지 않습니다.</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>그 후에 믹서가 연결되었습니다. 이 선택이 전달되도록 모두 다시 보내십시오.</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>믹서 %1이(가) 값을 거부합니다.</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1(선택 항목이 아님)</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>들리지 않습니다. 입력 셀렉터의 위치가 다릅니다.</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>다른 프로그램이 설정을 변경하고 있습니다. 잠시 후 다시 시도하십시오.</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>실행 취소함: %1.</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>ko</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>클럽 “%1”이(가) 이미 있습니다. 바꾸시겠습니까?</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>저장된 설정이 모든 믹서에 있는지 알 수 없습니다. 확실히 하려면 모두 다시 보내십시오.</translation>
         </message>
     </context>
     <context>
@@ -481,6 +481,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>원을 클릭하면 USB %1에 녹음합니다. 번호를 다른 원으로 끌 수도 있습니다.</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>실선: 모든 믹서에 있음. 점선: 확인되지 않음. 파선: 믹서에 없음.</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -501,10 +505,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>저장됨. 이 값을 가진 믹서가 없습니다.</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>저장됨.</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -537,6 +537,20 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1에 소리가 없습니다. 믹서 %5에서 CH%2의 셀렉터를 %3에서 %4(으)로 돌리십시오.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>믹서로 보냈습니다.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>믹서 %n대로 보냈습니다.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>저장됨. 확인되지 않았습니다.</translation>
         </message>
     </context>
 </TS>

@@ -74,10 +74,6 @@
             <translation>Er is geen mengpaneel aangesloten.</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>Sindsdien is een mengpaneel aangesloten. Stuur alles opnieuw, zodat het deze keuze krijgt.</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>Mengpaneel %1 weigert de waarde.</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1, geen geldige keuze</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>Dit is niet te horen: de ingangskeuzeschakelaar staat anders.</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>Een ander programma wijzigt de instellingen. Probeer het zo meteen opnieuw.</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>Ongedaan gemaakt: %1.</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>nl</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>Er is al een club ‘%1’. Vervangen?</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>Het is niet bekend of elk mengpaneel heeft wat is opgeslagen. Verzend alles opnieuw om zeker te zijn.</translation>
         </message>
     </context>
     <context>
@@ -482,6 +482,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>Klik op een cirkel om die op USB %1 op te nemen, of sleep een nummer naar een andere cirkel.</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>Doorgetrokken lijn: elk mengpaneel heeft het. Gestippeld: niet bevestigd. Gestreept: geen mengpaneel heeft het.</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -503,10 +507,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>Opgeslagen; geen mengpaneel heeft het.</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>Opgeslagen.</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -539,6 +539,21 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 is stil: draai op mengpaneel %5 de schakelaar van CH%2 van %3 naar %4.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>Naar het mengpaneel verzonden.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>Naar %n mengpaneel verzonden.</numerusform>
+                <numerusform>Naar %n mengpanelen verzonden.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>Opgeslagen; niet bevestigd.</translation>
         </message>
     </context>
 </TS>

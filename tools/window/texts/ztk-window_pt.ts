@@ -74,10 +74,6 @@
             <translation>Nenhuma mesa está ligada.</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>Entretanto foi ligada uma mesa. Envie tudo novamente para que receba esta opção.</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>A mesa %1 recusa o valor.</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1, que não é uma opção</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>Isto não se ouve: o seletor de entrada está noutra posição.</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>Outro programa está a alterar as definições. Tente novamente dentro de momentos.</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>Anulado: %1.</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>pt</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>Já existe um clube “%1”. Substituí-lo?</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>Não se sabe se todas as mesas têm o que está guardado. Envie tudo novamente para ter a certeza.</translation>
         </message>
     </context>
     <context>
@@ -482,6 +482,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>Clique num círculo para o gravar em USB %1, ou arraste um número para outro círculo.</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>Linha contínua: todas as mesas o têm. Pontilhada: não confirmado. Tracejada: nenhuma mesa o tem.</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -503,10 +507,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>Guardado; nenhuma mesa o tem.</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>Guardado.</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -539,6 +539,21 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 está sem som: rode o seletor de CH%2 da mesa %5 de %3 para %4.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>Enviado à mesa.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>Enviado a %n mesa.</numerusform>
+                <numerusform>Enviado a %n mesas.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>Guardado; não confirmado.</translation>
         </message>
     </context>
 </TS>

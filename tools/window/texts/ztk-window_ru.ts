@@ -74,10 +74,6 @@
             <translation>Микшер не подключён.</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>С тех пор подключили микшер. Отправьте всё ещё раз, чтобы он получил этот выбор.</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>Микшер %1 не принимает значение.</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1 — такого варианта нет</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>Этого не слышно: селектор входа в другом положении.</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>Настройки меняет другая программа. Повторите через некоторое время.</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>Отменено: %1.</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>ru</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>Клуб «%1» уже есть. Заменить его?</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>Неизвестно, есть ли сохранённое на каждом микшере. Чтобы быть уверенным, отправьте всё ещё раз.</translation>
         </message>
     </context>
     <context>
@@ -483,6 +483,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>Щёлкните кружок, чтобы записывать его на USB %1, или перетащите номер на другой кружок.</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>Сплошная линия: есть на каждом микшере. Точечная: не подтверждено. Штриховая: нет ни на одном микшере.</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -505,10 +509,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>Сохранено; ни на одном микшере этого нет.</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>Сохранено.</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -541,6 +541,22 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>На USB %1 нет звука: на микшере %5 поверните селектор CH%2 с %3 на %4.</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>Отправлено на микшер.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>Отправлено на %n микшер.</numerusform>
+                <numerusform>Отправлено на %n микшера.</numerusform>
+                <numerusform>Отправлено на %n микшеров.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>Сохранено; не подтверждено.</translation>
         </message>
     </context>
 </TS>

@@ -74,10 +74,6 @@
             <translation>未连接混音台。</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>之后连接了混音台。请重新发送全部设置，使其收到此选择。</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>混音台 %1 拒绝该值。</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1（不是可选项）</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>听不到此信号：输入选择器处于其他位置。</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>另一个程序正在更改设置。请稍后重试。</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>已撤消：%1。</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>zh_CN</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>已存在俱乐部“%1”。要替换吗？</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>不清楚每台混音台是否都有已保存的设置。请重新发送全部，以便确定。</translation>
         </message>
     </context>
     <context>
@@ -481,6 +481,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>单击圆圈以在 USB %1 上录制，或将数字拖到另一个圆圈。</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>实线：每台混音台都有。点线：未确认。虚线：混音台都没有。</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -501,10 +505,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>已保存；没有混音台收到它。</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>已保存。</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -537,6 +537,20 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 无声：在混音台 %5 上将 CH%2 的选择器从 %3 转到 %4。</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>已发送到混音台。</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>已发送到 %n 台混音台。</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>已保存；未确认。</translation>
         </message>
     </context>
 </TS>

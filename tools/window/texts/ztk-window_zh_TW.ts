@@ -74,10 +74,6 @@
             <translation>未連接混音器。</translation>
         </message>
         <message>
-            <source>A mixer was plugged in since. Send all again, so that it gets this choice.</source>
-            <translation>之後連接了混音器。請重新傳送全部設定，使其收到此選擇。</translation>
-        </message>
-        <message>
             <source>Mixer %1 refuses the value.</source>
             <translation>混音器 %1 拒絕該值。</translation>
         </message>
@@ -130,10 +126,6 @@
             <translation>%1（不是可選項）</translation>
         </message>
         <message>
-            <source>This cannot be heard: the input selector has another position.</source>
-            <translation>聽不到此訊號：輸入選擇器處於其他位置。</translation>
-        </message>
-        <message>
             <source>Another program is changing the settings. Try again in a moment.</source>
             <translation>另一個程式正在變更設定。請稍後重試。</translation>
         </message>
@@ -172,6 +164,10 @@
         <message>
             <source>Undone: %1.</source>
             <translation>已復原：%1。</translation>
+        </message>
+        <message>
+            <source>en</source>
+            <translation>zh_TW</translation>
         </message>
     </context>
     <context>
@@ -243,6 +239,10 @@
         <message>
             <source>There is already a club “%1”. Replace it?</source>
             <translation>已有俱樂部「%1」。要取代嗎？</translation>
+        </message>
+        <message>
+            <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
+            <translation>不確定每台混音器是否都有已儲存的設定。請重新傳送全部，以便確定。</translation>
         </message>
     </context>
     <context>
@@ -481,6 +481,10 @@
             <source>Click a circle to record it on USB %1, or drag a number to another circle.</source>
             <translation>按一下圓圈以在 USB %1 上錄製，或將數字拖到另一個圓圈。</translation>
         </message>
+        <message>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
+            <translation>實線：每台混音器都有。點線：未確認。虛線：混音器都沒有。</translation>
+        </message>
     </context>
     <context>
         <name>Row</name>
@@ -501,10 +505,6 @@
         <message>
             <source>Remembered; no mixer has it.</source>
             <translation>已儲存；沒有混音器收到它。</translation>
-        </message>
-        <message>
-            <source>Remembered.</source>
-            <translation>已儲存。</translation>
         </message>
         <message>
             <source>Sending…</source>
@@ -537,6 +537,20 @@
         <message>
             <source>USB %1 is silent: turn the selector of CH%2 on mixer %5 from %3 to %4.</source>
             <translation>USB %1 無聲：在混音器 %5 上將 CH%2 的選擇器從 %3 轉到 %4。</translation>
+        </message>
+        <message>
+            <source>Sent to the mixer.</source>
+            <translation>已傳送到混音器。</translation>
+        </message>
+        <message numerus="yes">
+            <source>Sent to %n mixers.</source>
+            <translation>
+                <numerusform>已傳送到 %n 台混音器。</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Remembered; not confirmed.</source>
+            <translation>已儲存；未確認。</translation>
         </message>
     </context>
 </TS>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "window/engine/looks.h"
+#include "window/engine/readings.h"
 
 #include <QStringList>
 #include <stdexcept>
@@ -105,9 +105,9 @@ QList<RowState> EmptyRows() {
   return rows;
 }
 
-QList<MixerState> LookAtMixers() { return Shown(model::AskEveryMixer()); }
+QList<MixerState> AskMixers() { return Shown(model::AskEveryMixer()); }
 
-QList<MixerState> LookAtSelectors() { return Shown(model::AskForSelectors()); }
+QList<MixerState> AskForSelectors() { return Shown(model::AskForSelectors()); }
 
 QList<FindingState> FindProblems() {
   QList<FindingState> findings;
@@ -120,7 +120,7 @@ QList<FindingState> FindProblems() {
   return findings;
 }
 
-AutoapplyLook LookAtAutoapply() try {
+AutoapplyStatus ReadAutoapply() try {
   return {.state = model::IsAutoapplyOn() ? Autoapply::On : Autoapply::Off,
           .why = {}};
 } catch (const std::runtime_error &error) {
@@ -128,9 +128,9 @@ AutoapplyLook LookAtAutoapply() try {
           .why = QString::fromUtf8(error.what())};
 }
 
-AutoapplyLook SwitchAutoapply(bool on) {
+AutoapplyStatus SwitchAutoapply(bool on) {
   model::SetAutoapply(on);
-  return LookAtAutoapply();
+  return ReadAutoapply();
 }
 
 }  // namespace ztk::window

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // What the worker reads: settings, mixers, and what does not work.
-#ifndef ZTK_TOOLS_WINDOW_ENGINE_LOOKS_H_
-#define ZTK_TOOLS_WINDOW_ENGINE_LOOKS_H_
+#ifndef ZTK_TOOLS_WINDOW_ENGINE_READINGS_H_
+#define ZTK_TOOLS_WINDOW_ENGINE_READINGS_H_
 
 #include <QList>
 #include <QString>
@@ -32,22 +32,22 @@ StoredState ReadStored();
 QList<RowState> EmptyRows();
 
 // Asks every mixer for all values that the window shows.
-QList<MixerState> LookAtMixers();
+QList<MixerState> AskMixers();
 // Asks only for the selectors.
-QList<MixerState> LookAtSelectors();
+QList<MixerState> AskForSelectors();
 
 QList<FindingState> FindProblems();
 
 // Whether the settings are sent when a mixer is plugged in.
-struct AutoapplyLook {
+struct AutoapplyStatus {
   Autoapply state = Autoapply::Unavailable;
   QString why;
 };
-AutoapplyLook LookAtAutoapply();
+AutoapplyStatus ReadAutoapply();
 // Switches it on or off and returns the new state. Throws std::runtime_error if
 // the system does not do it.
-AutoapplyLook SwitchAutoapply(bool on);
+AutoapplyStatus SwitchAutoapply(bool on);
 
 }  // namespace ztk::window
 
-#endif  // ZTK_TOOLS_WINDOW_ENGINE_LOOKS_H_
+#endif  // ZTK_TOOLS_WINDOW_ENGINE_READINGS_H_
