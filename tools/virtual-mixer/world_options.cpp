@@ -9,10 +9,12 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <iostream>
 #include <string_view>
 #include <utility>
 
 #include "cli/strings.h"
+#include "cli/terminal.h"
 #include "virtual-mixer/control/control_commands.h"
 
 namespace ztk::virtual_mixer {
@@ -58,6 +60,23 @@ void WriteLine(int file, const std::string &line) {
   });
 }
 
+// Names the mixers that the report has and that are not replayed.
+RecordedMixers RecordedIn(const WorldOptions &options) {
+  try {
+    RecordedMixers recorded = ReadReport(options.reportFile, options.delays);
+    for (const std::size_t number : recorded.leftOut) {
+      std::cerr << cli::MessageLine(
+          "ztk-virtual-mixer",
+          "warning: mixer " + std::to_string(number) +
+              " of the report could not be opened when the report was made; "
+              "it is left out");
+    }
+    return recorded;
+  } catch (const std::exception &error) {
+    throw UsageError(error.what());
+  }
+}
+
 // "NAME=" of "NAME=value".
 std::string_view NameOf(std::string_view variable) {
   return variable.substr(0, variable.find('=') + 1);
@@ -69,12 +88,7 @@ std::vector<Placement> PlacementsFor(const WorldOptions &options) {
   if (options.reportFile.empty()) {
     return SpreadDevices(options.mixers, options.otherDevices, options.buses);
   }
-  std::vector<RecordedMixer> recorded;
-  try {
-    recorded = ReadReport(options.reportFile, options.delays);
-  } catch (const std::exception &error) {
-    throw UsageError(error.what());
-  }
+  std::vector<RecordedMixer> recorded = RecordedIn(options).mixers;
   std::vector<Placement> placements = SpreadDevices(
       static_cast<int>(recorded.size()), options.otherDevices, options.buses);
   std::size_t next = 0;

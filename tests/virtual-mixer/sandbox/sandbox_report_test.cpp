@@ -95,6 +95,23 @@ TEST_F(Reports, ThatCannotBeWrittenAreAnError) {
                                     Folder() + "/no/such/folder\": No such"));
 }
 
+TEST_F(Reports, NameTheMixersThatAreNotReplayed) {
+  Inside({"-n", "3", "--private-settings", "--forbid", "2"},
+         "ztk doctor --report $DIR/report >$DIR/said");
+  const ToolResult result =
+      Inside({"--device", Folder() + "/report", "--private-settings"},
+             "ztk-virtual-mixer show | grep -c selectors");
+  EXPECT_EQ(result.out, "2\n");
+  EXPECT_EQ(result.err,
+            "ztk-virtual-mixer: warning: mixer 2 of the report could not be "
+            "opened when the report was made; it is left out\n");
+  Inside({"-n", "1", "--private-settings", "--forbid", "1"},
+         "ztk doctor --report $DIR/report >$DIR/said");
+  EXPECT_THAT(
+      Tool({"run", "--device", Folder() + "/report", "--", "true"}).err,
+      HasSubstr("/report: no mixer could be opened when the report was made"));
+}
+
 TEST_F(Reports, ThatCannotBeReplayedAreRefusedInOneLine) {
   std::ofstream(Folder() + "/newer")
       << R"({"format": "ztk-report", "formatVersion": 2})";

@@ -266,7 +266,7 @@ std::string FileContents(const std::string &name) {
 
 }  // namespace
 
-std::vector<RecordedMixer> ParseReport(const std::string &text, Delays delays) {
+RecordedMixers ParseReport(const std::string &text, Delays delays) {
   if (text.size() > kLongestReport) {
     Refuse("it has more than 1 MiB, which no report has");
   }
@@ -277,19 +277,25 @@ std::vector<RecordedMixer> ParseReport(const std::string &text, Delays delays) {
     Refuse("it is not JSON (byte " + std::to_string(error.byte) + ")");
   }
   CheckVersion(report);
-  std::vector<RecordedMixer> mixers;
+  RecordedMixers recorded;
+  std::size_t number = 0;
   for (const Field &field :
        Field(report, "").Member("mixers").Elements(kMostMixers)) {
-    if (field.Member("access").Text() != "ok") continue;
-    mixers.push_back(ReadMixer(field, delays));
+    ++number;
+    if (field.Member("access").Text() == "ok") {
+      recorded.mixers.push_back(ReadMixer(field, delays));
+    } else {
+      recorded.leftOut.push_back(number);
+    }
   }
-  if (mixers.empty()) {
-    Refuse("the report has no mixer that was attached and could be opened");
+  if (number == 0) Refuse("no mixer was attached when the report was made");
+  if (recorded.mixers.empty()) {
+    Refuse("no mixer could be opened when the report was made");
   }
-  return mixers;
+  return recorded;
 }
 
-std::vector<RecordedMixer> ReadReport(const std::string &file, Delays delays) {
+RecordedMixers ReadReport(const std::string &file, Delays delays) {
   try {
     return ParseReport(FileContents(file), delays);
   } catch (const std::exception &error) {

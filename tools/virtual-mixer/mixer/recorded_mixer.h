@@ -29,13 +29,19 @@ struct RecordedMixer {
 
 enum class Delays { Ignored, Replayed };
 
-// The mixers of a report, without those that could not be opened. Throws
-// std::runtime_error, with one sentence, when the text is no report that this
-// program understands, or has no mixer that was opened.
-std::vector<RecordedMixer> ParseReport(const std::string &text, Delays delays);
+struct RecordedMixers {
+  std::vector<RecordedMixer> mixers;
+  // The numbers, from 1, of the mixers that could not be opened when the report
+  // was made.
+  std::vector<std::size_t> leftOut;
+};
+
+// Throws std::runtime_error, with one sentence, when the text is no report that
+// this program understands, or has no mixer that was opened.
+RecordedMixers ParseReport(const std::string &text, Delays delays);
 
 // The same, of the report in a file, which the sentence names.
-std::vector<RecordedMixer> ReadReport(const std::string &file, Delays delays);
+RecordedMixers ReadReport(const std::string &file, Delays delays);
 
 }  // namespace ztk::virtual_mixer
 
