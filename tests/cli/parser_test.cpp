@@ -155,7 +155,7 @@ TEST(Parse, SaysWhatIsWrongWhatIsAcceptedAndWhatToDo) {
   for (const Words &words :
        {Words{"show", "--mixer"}, Words{"show", "-m", "1", "--mixer", "2"}}) {
     EXPECT_EQ(ErrorOf(words),
-              "exactly one value has to follow --mixer; accepted: 1, 2; see "
+              "--mixer needs exactly one value; accepted: 1, 2; see "
               "mix show --help");
   }
 }

@@ -77,6 +77,17 @@ TEST(NearestAndAccepted, SaysWhatCanStandThere) {
   EXPECT_EQ(NearestAndAccepted("bost", {}), "");
 }
 
+TEST(NearestAndAccepted, ListsNoMoreThanEightWordsBesideTheNearest) {
+  std::vector<std::string> accepted{"input", "boost", "c", "d", "e", "f", "g"};
+  accepted.emplace_back("h");
+  EXPECT_EQ(NearestAndAccepted("bost", accepted),
+            "; nearest: boost; accepted: input, boost, c, d, e, f, g, h");
+  accepted.emplace_back("i");
+  EXPECT_EQ(NearestAndAccepted("bost", accepted), "; nearest: boost");
+  EXPECT_EQ(NearestAndAccepted("zzz", accepted),
+            "; accepted: input, boost, c, d, e, f, g, h, i");
+}
+
 TEST(NearestAndAccepted, KnowsTheNumberThatIsNearest) {
   const struct {
     const char *word;

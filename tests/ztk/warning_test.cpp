@@ -150,7 +150,8 @@ TEST_F(Warning, RefusesWrongWords) {
       "ztk: no language \"klingon\"; accepted, by number, name or code: "
       "0 English en, 1 Japanese ja, 2 French fr, 3 German de, 4 Italian it, "
       "5 Dutch nl, 6 Spanish es, 7 Russian ru, 8 Portuguese pt, 9 Simplified "
-      "Chinese zh-CN, 10 Traditional Chinese zh-TW, 11 Korean ko, 99 your own");
+      "Chinese zh-CN, 10 Traditional Chinese zh-TW, 11 Korean ko, 99 your own; "
+      "see ztk warning --help");
   EXPECT_THAT(Requests(), IsEmpty());
 }
 

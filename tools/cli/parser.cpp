@@ -108,14 +108,12 @@ class CommandLine {
   // The accepted words of an option. If it accepts any word: the name of its
   // value in the help, or the description of a positional argument.
   static std::string AcceptedBy(const Option &option) {
-    if (option.fill != Fill::Values) {
-      return IsPositional(option) ? option.description : option.value;
-    }
-    std::vector<std::string> words;
-    for (const Value &value : option.values({}, "")) {
-      words.push_back(value.word);
-    }
-    return Listed(words);
+    if (option.fill == Fill::Values)
+      return Listed(WordsOf(option.values({}, "")));
+    if (!IsPositional(option)) return option.value;
+    std::string text = option.description;
+    text.front() = LowerCase(text.front());
+    return text;
   }
 
   // CLI11's message begins with the name of the option and a colon.
@@ -127,7 +125,7 @@ class CommandLine {
       if (!HasName({option}, name)) continue;
       accepted = "; accepted: " + AcceptedBy(option);
     }
-    Fail("exactly one value has to follow " + name + accepted);
+    Fail(name + " needs exactly one value" + accepted);
   }
 
   // Fails for an option of a command that was typed before the command.
@@ -183,7 +181,7 @@ class CommandLine {
     if (whole.empty() || !path_.empty()) {
       return NearestAndAccepted(word, accepted);
     }
-    return "; nearest: " + Listed(whole) + "; accepted: " + Listed(accepted);
+    return Suggestion(Listed(whole), accepted);
   }
 
   // The only use of CLI11: it splits the words into options, their values and
@@ -275,8 +273,7 @@ class CommandLine {
     for (const Option &option : command.options) {
       if (!option.required || arguments.Has(KeyOf(option))) continue;
       Fail(KeyOf(option) + " is missing" + Place() +
-           (option.fill == Fill::Values ? "; accepted: " + AcceptedBy(option)
-                                        : ": " + option.description));
+           "; accepted: " + AcceptedBy(option));
     }
   }
 

@@ -88,11 +88,19 @@ std::string Nearest(const std::string &word,
   return closest;
 }
 
+std::string Suggestion(const std::string &nearest,
+                       const std::vector<std::string> &accepted,
+                       const std::string &how) {
+  if (accepted.empty()) return "";
+  if (!nearest.empty() && accepted.size() > kMostListed) {
+    return NearestPart(nearest);
+  }
+  return NearestPart(nearest) + "; accepted" + how + ": " + Listed(accepted);
+}
+
 std::string NearestAndAccepted(const std::string &word,
                                const std::vector<std::string> &accepted) {
-  if (accepted.empty()) return "";
-  return NearestPart(Nearest(word, accepted)) +
-         "; accepted: " + Listed(accepted);
+  return Suggestion(Nearest(word, accepted), accepted);
 }
 
 std::string NearestAndAccepted(const std::string &word, std::uint32_t least,

@@ -16,8 +16,17 @@ namespace ztk::cli {
 std::string Nearest(const std::string &word,
                     const std::vector<std::string> &accepted);
 
-// "; nearest: input; accepted: status, input". Without the nearest when there
-// is none; empty when nothing is accepted.
+// Beside the nearest word, a list of more words than these would hide it.
+inline constexpr std::size_t kMostListed = 8;
+
+// "; nearest: input; accepted: status, input". The nearest word is left out
+// when it is empty, and a long list when there is a nearest word. `how` follows
+// "accepted". Empty when nothing is accepted.
+std::string Suggestion(const std::string &nearest,
+                       const std::vector<std::string> &accepted,
+                       const std::string &how = "");
+
+// The suggestion for a mistyped word.
 std::string NearestAndAccepted(const std::string &word,
                                const std::vector<std::string> &accepted);
 

@@ -37,7 +37,10 @@ TEST(ParseFault, SaysWhatIsWrongAndWhatIsAccepted) {
   };
   const std::vector<Row> rows{
       {"", "unknown fault \"\""},
-      {"stal", "unknown fault \"stal\""},
+      {"stal", "unknown fault \"stal\"; nearest: stall; accepted: stall"},
+      {"silent", "unknown fault \"silent\"; nearest: silence; accepted"},
+      {"delays:20", "unknown fault \"delays\"; nearest: delay:MS; accepted"},
+      {"non", "unknown fault \"non\"; nearest: none; accepted"},
       {"Stall", "unknown fault \"Stall\""},
       {"stall:1", "bad or missing amount in fault \"stall:1\""},
       {"delay", "bad or missing amount in fault \"delay\""},
@@ -65,7 +68,7 @@ TEST(ParseFault, SaysWhatIsWrongAndWhatIsAccepted) {
     EXPECT_FALSE(ParseFault(row.text, &error).has_value());
     EXPECT_THAT(error, HasSubstr(row.wrong));
     EXPECT_THAT(error, HasSubstr("; accepted: stall, silence, delay:MS, "
-                                 "short:N, bytes:HEX, unplug"));
+                                 "short:N, bytes:HEX, unplug, none; @REG"));
   }
 }
 

@@ -147,19 +147,17 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
       {{"turn", "1", "256"}, 2, "bad position \"256\"; accepted: 0 to 255"},
       {{"turn", "1"},
        2,
-       "POSITION is missing after \"turn\": Position, 0 to 255; "
+       "POSITION is missing after \"turn\"; accepted: position, 0 to 255; "
        "see ztk-virtual-mixer turn --help"},
       {{"turn", "-m", "0", "1", "3"}, 2, "bad mixer \"0\"; accepted: 1 to 127"},
       {{"fault", "x"}, 2, "unknown fault \"x\"; accepted: stall, silence"},
       {{"reply", "80", "00"}, 2, "bad register \"80\"; accepted: 8001, 8002"},
       {{"reply", "8001", "0"}, 2, "bad bytes \"0\"; accepted: 1 to 64 pairs"},
-      {{"rnu", "--", "true"},
-       2,
-       "no command \"rnu\"; nearest: run; accepted: run, serve, turn"},
+      {{"rnu", "--", "true"}, 2, "no command \"rnu\"; nearest: run; see "},
       {{"--versoin"}, 2, "no option \"--versoin\"; nearest: --version; acc"},
       {{"run", "--mixrs", "2", "--", "true"},
        2,
-       "no option \"--mixrs\" after \"run\"; nearest: --mixers; accepted: "},
+       "no option \"--mixrs\" after \"run\"; nearest: --mixers; see "},
       {{"show", "me"}, 2, "unexpected word \"me\" after \"show\"; see "},
       {{}, 2, "a command is missing; accepted: run, serve, turn"},
       {{"run", "ls"}, 2, "put \"--\" before the command"},
@@ -176,7 +174,7 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
        2,
        "--forbid x: no mixer \"x\"; there"},
       {{"run", "--log", "/nowhere/log", "--", "true"}, 1, "/nowhere/log"},
-      {{"show"}, 1, "no virtual mixers here; start some with"},
+      {{"show"}, 1, "there are no virtual mixers here; start some with"},
   };
   for (const Row &row : rows) {
     SCOPED_TRACE(row.error);

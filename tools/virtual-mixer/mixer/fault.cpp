@@ -7,13 +7,15 @@
 #include <cstdio>
 
 #include "cli/strings.h"
+#include "cli/suggest.h"
 
 namespace ztk::virtual_mixer {
 namespace {
 
-constexpr std::string_view kAccepted =
-    "; accepted: stall, silence, delay:MS, short:N, bytes:HEX, unplug, each "
-    "with @REGISTER and, except unplug, *TIMES behind it, as in stall@8002*3";
+const std::vector<std::string> kAccepted{
+    "stall", "silence", "delay:MS", "short:N", "bytes:HEX", "unplug", "none"};
+constexpr std::string_view kForm =
+    "; @REGISTER and, except for unplug, *TIMES may follow, as in stall@8002*3";
 
 struct KindName {
   Fault::Kind kind;
@@ -30,8 +32,15 @@ constexpr std::array<KindName, 6> kKinds{{
 
 std::optional<Fault> Refuse(std::string_view what, std::string_view part,
                             std::string *error) {
-  *error = std::string(what) + " \"" + std::string(part) + "\"" +
-           std::string(kAccepted);
+  *error = std::string(what) + " " + cli::Quoted(std::string(part)) +
+           "; accepted: " + cli::Listed(kAccepted) + std::string(kForm);
+  return std::nullopt;
+}
+
+std::optional<Fault> RefuseKind(std::string_view name, std::string *error) {
+  const std::string word(name);
+  *error = "unknown fault " + cli::Quoted(word) +
+           cli::NearestAndAccepted(word, kAccepted) + std::string(kForm);
   return std::nullopt;
 }
 
@@ -116,7 +125,7 @@ std::optional<Fault> ParseFault(std::string_view text, std::string *error) {
     }
   }
   const auto argument = CutTail(&text, ':');
-  if (!ReadKind(text, &fault)) return Refuse("unknown fault", text, error);
+  if (!ReadKind(text, &fault)) return RefuseKind(text, error);
   if (!ReadArgument(argument, &fault)) {
     return Refuse("bad or missing amount in fault", whole, error);
   }

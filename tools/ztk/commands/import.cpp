@@ -37,7 +37,8 @@ std::string Contents(const std::string &file) {
       throw Failure(ExitCode::Usage, "cannot read " + cli::Quoted(file) + ": " +
                                          std::strerror(errno) +
                                          "; accepted: a file that ztk export "
-                                         "has written, or - for the input");
+                                         "has written, or - for the standard "
+                                         "input");
     }
   }
   if (text.size() > kLargestImport) {

@@ -73,12 +73,12 @@ std::uint32_t ParseLanguage(const std::string &word) {
                        " " + language.code);
   }
   if (number == kUsersLanguage) return kUsersLanguage;
-  const std::string nearest = cli::Nearest(word, names);
+  accepted.emplace_back("99 your own");
   throw Failure(ExitCode::Usage,
                 "no language " + cli::Quoted(word) +
-                    (nearest.empty() ? "" : "; nearest: " + nearest) +
-                    "; accepted, by number, name or code: " +
-                    cli::Listed(accepted) + ", 99 your own");
+                    cli::Suggestion(cli::Nearest(word, names), accepted,
+                                    ", by number, name or code") +
+                    "; see ztk warning --help");
 }
 
 // Null when the library has no sentence.

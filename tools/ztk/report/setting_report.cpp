@@ -108,11 +108,11 @@ std::uint32_t ParseProduct(const std::string &word) {
     names.emplace_back(product.name);
     accepted.push_back(std::to_string(product.id) + " " + product.name);
   }
-  const std::string nearest = cli::Nearest(word, names);
   throw Failure(ExitCode::Usage,
                 "no model " + cli::Quoted(word) +
-                    (nearest.empty() ? "" : "; nearest: " + nearest) +
-                    "; accepted, by number or name: " + cli::Listed(accepted));
+                    cli::Suggestion(cli::Nearest(word, names), accepted,
+                                    ", by number or name") +
+                    "; see ztk models");
 }
 
 void AddValueFields(const Setting &setting, std::uint32_t channel,

@@ -2,6 +2,7 @@
 #include "ztk/commands/setting/setting_commands.h"
 
 #include "cli/strings.h"
+#include "cli/suggest.h"
 #include "ztk/commands/setting/pick.h"
 #include "ztk/commands/setting/setting_parts.h"
 #include "ztk/commands/warning.h"
@@ -29,10 +30,13 @@ Choice Choose(const Setting &setting, std::uint32_t product,
   const Match match = FindChoice(choices, *words);
   if (match.choice) return *match.choice;
   if (match.candidates.empty()) {
-    throw Failure(ExitCode::Usage, place + " has no choice " +
-                                       cli::Quoted(*words) +
-                                       NearestChoice(*words, choices) +
-                                       "; accepted: " + Described(choices));
+    const std::string nearest = NearestChoice(*words, choices);
+    const bool listsAll = nearest.empty() || choices.size() <= cli::kMostListed;
+    throw Failure(
+        ExitCode::Usage,
+        place + " has no choice " + cli::Quoted(*words) + nearest +
+            (listsAll ? "; accepted: " + Described(choices)
+                      : std::string("; see ztk ") + setting.name + " list"));
   }
   throw Failure(ExitCode::Usage,
                 "choice " + cli::Quoted(*words) +
