@@ -13,7 +13,8 @@
 using namespace ztk;
 using namespace ztk::boost_level;
 
-// In display order; the device counts in the opposite order.
+// The texts are in display order. The device numbers the levels in the opposite
+// order.
 const ZTKTextRef BoostLevelText[4] = {ZTK_TEXT("-5 dB"), ZTK_TEXT("-10 dB"),
                                       ZTK_TEXT("-15 dB"), ZTK_TEXT("-19 dB")};
 const std::uint8_t _convDbTable[4] = {3, 2, 1, 0};

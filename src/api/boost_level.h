@@ -29,12 +29,14 @@ inline constexpr std::uint32_t kChoices = 4;
 
 inline constexpr std::uint16_t kWriteRegister = usb::kUsbOutputLevelRegister;
 
-// The level code is in the high byte. `index` is a choice.
+// Returns the value that mixers receive: the level code is in its high byte.
+// Requires an index below kChoices.
 inline std::uint16_t DeviceValue(std::uint32_t index) {
   return static_cast<std::uint16_t>(_convDbTable[index] << 8);
 }
 
-// Whether a remembered index can be sent again. It may be any number.
+// Returns whether a remembered index can be sent again. The settings file may
+// contain any number.
 constexpr bool CanBeResent(std::uint32_t index) { return index < kChoices; }
 
 }  // namespace ztk::boost_level

@@ -13,8 +13,8 @@
 using namespace ztk;
 using namespace ztk::input_audio;
 
-// The texts of several models. The choices below refer to the entries that this
-// model uses.
+// This table has the texts of several models. PC_INPUT_PULLDOWN_TEXT refers to
+// the entries that this model uses.
 const ZTKTextRef InputAudioText[44] = {
     ZTK_TEXT("CH1 Timecode PHONO"),        // 0
     ZTK_TEXT("CH1 Timecode CD/LINE"),      // 1
@@ -75,7 +75,7 @@ const std::int32_t PC_INPUT_PULLDOWN_TEXT[42] = {
     //  REC     post   post   post   post   cross  cross
     //  OUT     CH1    CH2    CH3    CH4    A      B      MIC
     39, 4, 9, 14, 19, 20, 21, 22,  // channel 4
-    42, 42};                       // behind it
+    42, 42};                       // after the last row
 
 // High byte: channel + 1. Low byte: source code.
 const std::uint16_t _convTable_PC_INPUT[42] = {
@@ -88,7 +88,7 @@ const std::uint16_t _convTable_PC_INPUT[42] = {
     //  REC     post    post    post    post    cross   cross
     //  OUT     CH1     CH2     CH3     CH4     A       B       MIC
     0x050A, 0x0511, 0x0512, 0x0513, 0x0514, 0x0507, 0x0508, 0x0509,  // 4
-    0x050F, 0x050F};                                                 // behind
+    0x050F, 0x050F};  // after the last row
 // clang-format on
 
 static_assert(std::size(PC_INPUT_PULLDOWN_TEXT) == kTableLength);
@@ -99,8 +99,9 @@ static_assert(PositionOf(kLastChannel, kLastRowBounds.textBelow) ==
 namespace {
 
 // Asks one mixer after the other for the position of the channel's input
-// selector. The first mixer with another position than the audible one decides.
-// `choice` is compared with the thresholds.
+// selector. Returns ZTK_WARNING if `choice` is below the threshold and the
+// selector of a mixer is not in the audible position. A mixer that cannot be
+// opened is skipped. Without mixers, only the threshold decides.
 ZTKResult WarnIfInaudible(std::int32_t mixers, std::uint32_t channel,
                           std::uint32_t choice, const Thresholds &warnsBelow) {
   if (mixers == 0) {

@@ -18,16 +18,17 @@ inline constexpr std::uint32_t kProduct = ZTK_PRODUCT_VRM_D6;
 inline constexpr ProductSet kServed{kProduct};
 
 inline const ZTKTextRef kModel = product::kNameOfD6;
-// Deliberate: the key says Output, although it holds the routing of what the
-// computer records. It takes the channel, counted from 0.
+// Deliberate: the key is named Output, although its value is the routing of the
+// audio that the computer records. "%d" is the channel, counted from 0.
 inline const ZTKTextRef kKeyFormat = ZTK_TEXT("Output%d");
 inline constexpr std::int32_t kDefaultIndex = 0;
 
 inline constexpr std::int32_t kChannels = 5;
-// This channel has other choices than the rest, and no input selector.
+// This channel has other choices than the other channels, and no input
+// selector.
 inline constexpr std::uint32_t kLastChannel = 4;
-// Deliberate: a remembered choice can be read and sent again for one more
-// channel than exists. Channel 5 has no key.
+// Deliberate: a remembered choice can be read and sent again for one channel
+// more than exists. Channel 5 has no key, so its choice is always the default.
 inline constexpr std::int32_t kRememberedChannels = 6;
 
 // Deliberate: the three functions have three different limits.
@@ -55,17 +56,18 @@ constexpr std::uint64_t PositionOf(std::uint32_t channel, std::uint32_t index) {
 
 inline constexpr std::uint16_t kWriteRegister = usb::kMixerOutputRegister;
 
-// The value that mixers receive, if CanBeResent() or the index can be set.
+// Returns the value that mixers receive. Requires CanBeResent(channel, index),
+// which is true for every index that can be set.
 inline std::uint16_t DeviceValue(std::uint32_t channel, std::uint32_t index) {
   return _convTable_PC_INPUT[PositionOf(channel, index)];
 }
 
-// Whether a remembered index can be sent again.
+// Returns whether a remembered index can be sent again.
 constexpr bool CanBeResent(std::uint32_t channel, std::uint32_t index) {
   return PositionOf(channel, index) < kTableLength;
 }
 
-// The direct setter: the number of sources, and the value for a mixer.
+// The direct setter accepts a source below kSources and sends DirectValue().
 inline constexpr std::uint32_t kSources = 16;
 constexpr std::uint16_t DirectValue(std::uint32_t channel, std::uint32_t high,
                                     std::uint32_t source) {
@@ -74,8 +76,8 @@ constexpr std::uint16_t DirectValue(std::uint32_t channel, std::uint32_t high,
                                     (source & 0x00FF));
 }
 
-// When a setter warns that the new routing cannot be heard: a routing below a
-// threshold needs the input selector of the channel in this position.
+// A routing whose number is below a threshold can be heard only if the input
+// selector of the channel is in this position. Otherwise the setter warns.
 inline constexpr std::uint8_t kAudiblePosition = ZTK_SELECTOR_AUDIBLE;
 inline constexpr std::uint16_t kSelectorInfoLength = 5;  // bytes
 // Deliberate: the thresholds depend on the setter and on whether a mixer is

@@ -69,8 +69,8 @@ ZTKResult ZTK_SetCurrentMidiChannelIndex(uint32_t productId) {
   return ZTK_SUCCESS;
 }
 
-// Deliberate: the functions of the key mode exist for programs that were built
-// with them, and serve no product.
+// Deliberate: the functions of the key mode serve no product. They exist for
+// programs that were built with them.
 
 ZTKResult ZTK_GetNumOfMidiKeyModeIndex(uint32_t /*productId*/,
                                        uint32_t * /*outCount*/) {

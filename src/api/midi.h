@@ -21,18 +21,19 @@ inline const ZTKTextRef kKey = ZTK_TEXT("MidiChannel");
 inline constexpr std::int32_t kDefaultIndex = 0;
 
 inline constexpr std::uint32_t kChoices = 16;
-// Deliberate: all sixteen channels can be set, only the first four are sent
+// Deliberate: all sixteen channels can be set, but only the first four are sent
 // again.
 inline constexpr std::uint32_t kResendBelow = 4;
 
 inline constexpr std::uint16_t kWriteRegister = usb::kMidiChannelRegister;
 
-// The channel is in the high byte.
+// Returns the value that mixers receive: the channel is in its high byte.
 constexpr std::uint16_t DeviceValue(std::uint32_t index) {
   return static_cast<std::uint16_t>(index << 8);
 }
 
-// Whether a remembered index can be sent again. It may be any number.
+// Returns whether a remembered index can be sent again. The settings file may
+// contain any number.
 constexpr bool CanBeResent(std::uint32_t index) { return index < kResendBelow; }
 
 }  // namespace ztk::midi

@@ -16,16 +16,16 @@ using namespace ztk::output_audio;
 const ZTKTextRef OutputAudioText[3] = {ZTK_TEXT("CH1"), ZTK_TEXT("CH2"),
                                        ZTK_TEXT("AUX")};
 
-// Three choices for each channel, in one array without bounds between the
-// channels: the entry is channel * 3 + index, so that index 3 of a channel is
-// the first choice of the next channel.
+// The table has three choices for each channel. The entry is at
+// channel * 3 + index, so index 3 of a channel is the first choice of the next
+// channel.
 // clang-format off
 const std::int32_t VRMB5_OUT_TEXT[12] = {
     //  CH1  CH2  AUX
     0, 1, 2,   // channel 0
     0, 1, 2,   // channel 1
     0, 1, 2,   // channel 2
-    0, 0, 0};  // index 3 and above of channel 2
+    0, 0, 0};  // index 3 of channel 2, then two entries that are not used
 
 // High byte: channel + 1. Low byte: code of the choice.
 const std::uint16_t _convTableOut_B5[9] = {
@@ -39,8 +39,8 @@ static_assert(std::size(_convTableOut_B5) == kTableLength);
 
 namespace {
 
-// Sends the device value of a choice to every mixer, or nothing when there is
-// none. Returns the number of mixers, which are counted in both cases.
+// Sends the device value of a choice to every mixer. Sends nothing if the
+// choice has no device value. Returns the number of mixers in both cases.
 std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
                         std::uint32_t index) {
   if (!HasDeviceValue(channel, index)) return usb::CountMixers(productId);
@@ -48,7 +48,8 @@ std::int32_t SendChoice(std::uint32_t productId, std::uint32_t channel,
                                DeviceValue(channel, index));
 }
 
-// The answers are deliberately not used: the setters of this file never warn.
+// Deliberate: the replies are not used, because the setters of this file never
+// warn.
 void ReadSelectors(std::int32_t mixers) {
   for (std::int32_t i = 0; i < mixers; ++i) {
     usb::Reply unused;

@@ -18,8 +18,8 @@ inline constexpr std::uint32_t kProduct = ZTK_PRODUCT_VRM_B5;
 inline constexpr ProductSet kServed{kProduct};
 
 inline const ZTKTextRef kModel = product::kNameOfB5;
-// Deliberate: the key says Input, although it holds the routing of what the
-// computer plays. It takes the channel, counted from 0.
+// Deliberate: the key is named Input, although its value is the routing of the
+// audio that the computer plays. "%d" is the channel, counted from 0.
 inline const ZTKTextRef kKeyFormat = ZTK_TEXT("Input%d");
 
 inline constexpr std::int32_t kChannels = 3;
@@ -33,24 +33,25 @@ inline constexpr std::uint32_t kTextBelow = 4;
 inline constexpr std::uint64_t kTableLength = 9;
 
 inline constexpr std::uint16_t kWriteRegister = usb::kMixerInputRegister;
-// The number of bytes that are read of the input selectors after each change.
+// Length in bytes of the input selectors' reply, which is read after each
+// change.
 inline constexpr std::uint16_t kSelectorInfoLength = 4;
 
-// The number of a channel's default choice is the number of the channel.
+// Returns the default choice of a channel, which has the channel's number.
 constexpr std::uint32_t DefaultIndex(std::uint32_t channel) { return channel; }
 
-// The position of the device value of a choice in its table. The index may be
-// any remembered number; 64 bits hold every position.
+// Returns the position of a choice in the table of device values. The index may
+// be any remembered number; 64 bits hold every position.
 constexpr std::uint64_t PositionOf(std::uint32_t channel, std::uint32_t index) {
   return std::uint64_t{channel} * kChoices + index;
 }
 
-// Whether there is a device value. Without one, nothing is sent.
+// Returns whether a choice has a device value. Nothing is sent without one.
 constexpr bool HasDeviceValue(std::uint32_t channel, std::uint32_t index) {
   return PositionOf(channel, index) < kTableLength;
 }
 
-// The value that mixers receive, if HasDeviceValue().
+// Returns the value that mixers receive. Requires HasDeviceValue().
 inline std::uint16_t DeviceValue(std::uint32_t channel, std::uint32_t index) {
   return _convTableOut_B5[PositionOf(channel, index)];
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// The models: their names and numbers.
+// The names and numbers of the models.
 //
-// The headers <family>.h of this folder hold the facts of the settings: its
-// models, its key in the settings file, its channels and choices, and the
-// values that mixers receive. Programs of this project read the facts from
-// there as well, so that each is written once. Of the library, these headers
-// use only the exported tables.
+// Each family of settings has a header <family>.h in this folder. It contains
+// the facts of the family: its models, its key in the settings file, its
+// channels and choices, and the values that mixers receive. The programs of
+// this project include these headers too, so that each fact is written once.
+// The headers use only those names of the library that it exports.
 #ifndef ZTK_API_PRODUCT_H_
 #define ZTK_API_PRODUCT_H_
 
@@ -25,8 +25,9 @@ inline const ZTKTextRef kNameOfK2 = ZTK_TEXT("VRM-K2");
 inline const ZTKTextRef kNameOfB5 = ZTK_TEXT("VRM-B5");
 inline const ZTKTextRef kNameOfD6 = ZTK_TEXT("VRM-D6");
 
-// In the order in which a text is searched for them: if it contains two names,
-// the first one in this list counts. The numbers 7 and 9 are not used.
+// ZTK_GetProductId() searches a text for these names in this order. If the text
+// contains two names, the first one in this list counts. The numbers 7 and 9
+// are not used.
 inline const Model kModels[] = {
     {.name = ZTK_TEXT("VRM-Q8X"), .id = ZTK_PRODUCT_VRM_Q8X},
     {.name = ZTK_TEXT("VRM-K2"), .id = ZTK_PRODUCT_VRM_K2},

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Which models a function serves, as data.
+// The set of models that a function serves.
 #ifndef ZTK_API_PRODUCT_SET_H_
 #define ZTK_API_PRODUCT_SET_H_
 
@@ -9,7 +9,7 @@
 
 namespace ztk {
 
-// A set of product ids, each at most 31; any larger id is in no set.
+// A set of product ids from 0 to 31. No set contains a larger id.
 class ProductSet {
  public:
   constexpr ProductSet(std::initializer_list<std::uint32_t> ids) {
@@ -23,7 +23,8 @@ class ProductSet {
   std::uint32_t bits_ = 0;
 };
 
-// A channel is tested as a signed number: one with its top bit set is below 0.
+// Returns whether the number is one of `count` channels. The number is tested
+// as a signed one: if its highest bit is set, it is negative and no channel.
 constexpr bool IsChannel(std::uint32_t channel, std::int32_t count) {
   const auto number = static_cast<std::int32_t>(channel);
   return number >= 0 && number < count;

@@ -11,8 +11,8 @@ using namespace ztk::status;
 
 namespace {
 
-// The reply is preset to this value, which is not a state, because a read may
-// deliver no bytes.
+// A read may return no bytes. So the reply is preset to this value, which is
+// not a state.
 constexpr std::uint8_t kNoSeratoAnswer = 0xFF;
 
 }  // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The facts of the replies that tell the status of a mixer.
+// The facts of the replies that contain the status of a mixer.
 #ifndef ZTK_API_STATUS_H_
 #define ZTK_API_STATUS_H_
 
@@ -19,8 +19,8 @@ inline constexpr std::uint16_t kFirmwareVersionLength = 2;
 inline constexpr std::uint16_t kSelectorInfoLength = 5;
 inline constexpr std::uint16_t kSeratoActiveLength = 2;
 
-// Channels that can be asked about. Only the first four have a selector; the
-// byte of a channel is at channel + 1.
+// Callers can ask for five channels, but only the first four have a selector.
+// The byte of a channel is at channel + 1 in the reply.
 inline constexpr std::int32_t kChannels = 5;
 inline constexpr std::int32_t kSelectors = 4;
 inline constexpr std::uint8_t kSelectorPositions = ZTK_SELECTOR_POSITIONS;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The constant tables that are visible in the library; this header is not
-// installed. Each is declared here before its family defines it: C++ would
-// otherwise give a const table internal linkage, and it would silently drop
-// out of the library. Their lengths are binary interface.
+// The constant tables that the library exports. This header is not installed.
+// Each table is declared here before its source defines it: without the
+// declaration a const table has internal linkage in C++, and the library would
+// not export it. The lengths of the tables are part of the binary interface.
 #ifndef ZTK_API_TABLES_H_
 #define ZTK_API_TABLES_H_
 

@@ -32,8 +32,8 @@ const ZTKTextRef kOldLibraryFile = ZTK_TEXT(
     "Info.plist");
 
 const ZTKTextRef kPkgKey = ZTK_TEXT("PackageVersion");
-// Deliberate: for the driver the short version is read, for the other two the
-// build version.
+// Deliberate: the version of the driver is its short version. The version of
+// the utility and of the library is the build version.
 const ZTKTextRef kDriverKey = ZTK_TEXT("CFBundleShortVersionString");
 const ZTKTextRef kBundleKey = ZTK_TEXT("CFBundleVersion");
 

@@ -26,8 +26,8 @@ const ZTKTextRef kTablePath = ZTK_TEXT("%@/%@.lproj/Localizable.strings");
 constexpr std::uint16_t kPortInfoLength = 2;  // bytes
 constexpr std::uint8_t kOtherPort = 1;
 
-// Whether the first mixer answers that its port is in the other state. False if
-// it does not answer.
+// Returns whether the port information of the first mixer has the value
+// kOtherPort. Returns false if the mixer does not answer.
 bool IsOnOtherPort() {
   usb::Reply reply;
   usb::ReadFromMixer(0, usb::kPortInfoRegister, &reply, kPortInfoLength);
@@ -67,7 +67,7 @@ ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
   if (usb::CountMixers(productId) != 0) {
     key = IsOnOtherPort() ? kSelectorOtherPort : kSelector;
   }
-  // Deliberate: the language is tested only after the mixer was asked.
+  // Deliberate: the language is tested only after the request to the mixer.
   const bool byPreference = language == kUsersLanguage;
   if (!byPreference && language >= std::size(kLanguages)) return ZTK_REJECTED;
 

@@ -28,7 +28,8 @@ inline const ZTKTextRef kNoMixer = ZTK_TEXT("WARNING1");
 inline const ZTKTextRef kSelector = ZTK_TEXT("WARNING2");
 inline const ZTKTextRef kSelectorOtherPort = ZTK_TEXT("WARNING3");
 
-// The folders of the languages; a language's number is its place here.
+// The folders of the languages. The number of a language is its position in
+// this list.
 inline const ZTKTextRef kLanguages[] = {
     ZTK_TEXT("English"), ZTK_TEXT("Japanese"), ZTK_TEXT("French"),
     ZTK_TEXT("German"),  ZTK_TEXT("Italian"),  ZTK_TEXT("Dutch"),

@@ -30,16 +30,16 @@ inline const AnnouncedSetting kInputAudio{
     .observedModel = ZTK_TEXT("VRM-D6"),
     .delivery = Delivery::Immediately};
 
-// Deliberate: posted under one model and observed under another, so that the
-// library's own changes never reach a callback for this setting.
+// Deliberate: this setting is posted under one model and observed under another
+// one. So a change that the library announces never reaches its own callback.
 inline const AnnouncedSetting kOutputAudio{
     .nameFormat = ZTK_TEXT("%@ OutputAudio Change"),
     .postedModel = ZTK_TEXT("VRM-B5"),
     .observedModel = ZTK_TEXT("VRM-D6"),
     .delivery = Delivery::Immediately};
 
-// Deliberate: for these two settings the notification center decides when it
-// delivers.
+// Deliberate: the notification center decides when it delivers the changes of
+// these two settings.
 inline const AnnouncedSetting kBoostLevel{
     .nameFormat = ZTK_TEXT("%@ BoostLevel Change"),
     .postedModel = ZTK_TEXT("VRM-D6"),

@@ -34,16 +34,17 @@ namespace {
 
 namespace center = platform::notification_center;
 
-// Deliberate: for three settings more products can be unregistered than
-// registered.
+// Deliberate: the callbacks of three settings can be unregistered for more
+// products than they can be registered for.
 constexpr ProductSet kRegisteredFor{10};
 constexpr ProductSet kUnregisteredFor{0, 1, 5, 6, 8, 10};
 constexpr ProductSet kMidiFor{1};
 
-// The tables of a setting, and how its changes are received.
+// A setting with the method that receives its changes, and with its exported
+// tables.
 template <typename Callback>
 struct Registration {
-  const AnnouncedSetting &family;
+  const AnnouncedSetting &setting;
   const Method &method;
   Callback *callbacks;
   void **contexts;
@@ -51,25 +52,25 @@ struct Registration {
 };
 
 constinit const Registration<ZTKChannelCallback> kInputAudioRegistration{
-    .family = kInputAudio,
+    .setting = kInputAudio,
     .method = kInputAudioChanged,
     .callbacks = InputAudioChangedCallback,
     .contexts = InputAudioChangedContext,
     .lastInfo = &inputAudioInfo};
 constinit const Registration<ZTKChannelCallback> kOutputAudioRegistration{
-    .family = kOutputAudio,
+    .setting = kOutputAudio,
     .method = kOutputAudioChanged,
     .callbacks = OutputAudioChangedCallback,
     .contexts = OutputAudioChangedContext,
     .lastInfo = &outputAudioInfo};
 constinit const Registration<ZTKIndexCallback> kBoostLevelRegistration{
-    .family = kBoostLevel,
+    .setting = kBoostLevel,
     .method = kBoostLevelChanged,
     .callbacks = BoostLevelChangedCallback,
     .contexts = BoostLevelChangedContext,
     .lastInfo = &boostLevelInfo};
 constinit const Registration<ZTKIndexCallback> kMidiChannelRegistration{
-    .family = kMidiChannel,
+    .setting = kMidiChannel,
     .method = kMidiChannelChanged,
     .callbacks = MidiChannelChangedCallback,
     .contexts = MidiChannelChangedContext,
@@ -79,13 +80,13 @@ template <typename Callback>
 ZTKResult Register(const Registration<Callback> &registration,
                    std::uint32_t productId, Callback callback, void *context) {
   if (_ZTKFunc == nullptr) _ZTKFunc = AllocateObserver();
-  // Deliberate: the record is dropped without being released, so the next
-  // announcement does not release it either.
+  // Deliberate: the pointer is cleared, but the record is not released. The
+  // next announcement does not release it either.
   *registration.lastInfo = nullptr;
 
-  const AnnouncedSetting &family = registration.family;
+  const AnnouncedSetting &setting = registration.setting;
   const platform::text::OwnedText name(
-      platform::text::Format(family.nameFormat, family.observedModel));
+      platform::text::Format(setting.nameFormat, setting.observedModel));
   center::AddObserver(_ZTKFunc, registration.method, name.get());
 
   registration.callbacks[productId] = callback;
@@ -93,8 +94,8 @@ ZTKResult Register(const Registration<Callback> &registration,
   return ZTK_SUCCESS;
 }
 
-// The slot of the product in a notification; -1 if another program posted a
-// product that has no slot.
+// Returns the slot of the product in a notification. Returns -1 if the product
+// has no slot: another program may have posted any number.
 std::int32_t SlotOf(const UserInfo *userInfo) {
   const std::int32_t productId = center::ReadNumber(userInfo, kProductKey);
   return productId >= 0 && productId < kSlots ? productId : -1;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The registered callbacks of the process. The tables are exported by the
-// library, but this header is not installed. The functions that register and
-// unregister, and the setters that announce, write them on the thread of the
-// caller and without a lock.
+// The registered callbacks of the process. The library exports the tables, but
+// this header is not installed. The functions that register and unregister
+// callbacks and the setters that announce changes write these variables on the
+// thread of the caller, without a lock.
 #ifndef ZTK_NOTIFY_CALLBACK_REGISTRY_H_
 #define ZTK_NOTIFY_CALLBACK_REGISTRY_H_
 
@@ -35,14 +35,15 @@ ZTK_EXPORT extern ZTKIndexCallback
 ZTK_EXPORT extern ZTKIndexCallback
     MidiKeyModeChangedCallback[ztk::notify::kSlots];
 
-// The context of each callback. It stays after unregistering.
+// The context of each callback. Unregistering does not clear it.
 ZTK_EXPORT extern void *InputAudioChangedContext[ztk::notify::kSlots];
 ZTK_EXPORT extern void *OutputAudioChangedContext[ztk::notify::kSlots];
 ZTK_EXPORT extern void *BoostLevelChangedContext[ztk::notify::kSlots];
 ZTK_EXPORT extern void *MidiChannelChangedContext[ztk::notify::kSlots];
 ZTK_EXPORT extern void *MidiKeyModeChangedContext[ztk::notify::kSlots];
 
-// The record of the last announcement of a setting, owned until the next one.
+// The record of a setting's last announcement. The library owns it until the
+// next announcement.
 ZTK_EXPORT extern ztk::notify::UserInfo *inputAudioInfo;
 ZTK_EXPORT extern ztk::notify::UserInfo *outputAudioInfo;
 ZTK_EXPORT extern ztk::notify::UserInfo *boostLevelInfo;
@@ -50,8 +51,8 @@ ZTK_EXPORT extern ztk::notify::UserInfo *midiChannelInfo;
 // Exported like the others, but neither written nor read.
 ZTK_EXPORT extern ztk::notify::UserInfo *midiKeyModeInfo;
 
-// The only observer; null until the first callback is registered. It then
-// exists until the process ends.
+// The only observer. It is null until the first callback is registered, and
+// then exists until the process ends.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,*-naming): fixed name
 ZTK_EXPORT extern void *_ZTKFunc;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer on Linux: a C++ object. On macOS it is an Objective-C class; see
-// observer.mm.
+// On Linux the observer is a C++ object. On macOS it is an object of an
+// Objective-C class: see observer.mm.
 #include "notify/observer.h"
 
 namespace {
@@ -36,7 +36,7 @@ void Call(void *observer, const ztk::notify::UserInfo *userInfo) {
 
 namespace ztk::notify {
 
-// It has no state, so a single one is enough for the whole process.
+// The observer has no state, so one object is enough for the whole process.
 void *AllocateObserver() {
   static ZTKFunc observer;
   return &observer;

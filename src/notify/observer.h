@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer that receives the notifications of all processes and calls the
+// The observer receives the notifications of all processes and calls the
 // registered callbacks. It has no state.
 #ifndef ZTK_NOTIFY_OBSERVER_H_
 #define ZTK_NOTIFY_OBSERVER_H_
@@ -12,18 +12,19 @@ namespace ztk::notify {
 using UserInfo = platform::notification_center::UserInfo;
 using Method = platform::notification_center::Method;
 
-// Makes the observer; it exists until the process ends.
+// Makes the observer, which exists until the process ends.
 void *AllocateObserver();
 
-// What the five methods of the observer do with the record of a notification:
-// each calls the callbacks that are registered for its setting.
+// Each of these functions is the body of one method of the observer. It calls
+// the callback that is registered for its setting and for the product in the
+// notification.
 void InputAudioChanged(const UserInfo *userInfo);
 void OutputAudioChanged(const UserInfo *userInfo);
 void BoostLevelChanged(const UserInfo *userInfo);
 void MidiChannelChanged(const UserInfo *userInfo);
 void MidiKeyModeChanged(const UserInfo *userInfo);
 
-// The methods by name and by code, in the observer's order.
+// The methods of the observer.
 extern const Method kInputAudioChanged;
 extern const Method kOutputAudioChanged;
 extern const Method kBoostLevelChanged;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer on macOS. The notification center calls its methods by name, so
-// it is an Objective-C class.
+// On macOS the observer is an object of an Objective-C class, because the
+// notification center calls its methods by name.
 #include "notify/observer.h"
 
 #import <Foundation/Foundation.h>
 
-// The library exports this class under its name.
+// The library exports this class.
 ZTK_EXPORT
 @interface ZTKFunc : NSObject
 - (void)inputAudioChanged:(NSNotification *)notification;

@@ -28,34 +28,34 @@ std::uint32_t ResultOf(center::Handover handover) {
   return ZTK_ANNOUNCEMENT_FAILED;
 }
 
-void Post(const AnnouncedSetting &family, UserInfo **lastInfo,
+void Post(const AnnouncedSetting &setting, UserInfo **lastInfo,
           const Entry *entries, std::size_t count) {
   center::Release(*lastInfo);
   *lastInfo = center::MakeUserInfo(entries, count);
 
   const platform::text::OwnedText name(
-      platform::text::Format(family.nameFormat, family.postedModel));
+      platform::text::Format(setting.nameFormat, setting.postedModel));
   const center::PostResult result =
-      center::Post(name.get(), *lastInfo, family.delivery);
-  outcome::Announced(ResultOf(result.handover), result.systemCode);
+      center::Post(name.get(), *lastInfo, setting.delivery);
+  outcome::RecordAnnouncement(ResultOf(result.handover), result.systemCode);
 }
 
 }  // namespace
 
-void PostIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
+void PostIndex(const AnnouncedSetting &setting, UserInfo **lastInfo,
                std::uint32_t productId, std::uint32_t index) {
   const Entry entries[] = {Number(kProductKey, productId),
                            Number(kIndexKey, index)};
-  Post(family, lastInfo, entries, std::size(entries));
+  Post(setting, lastInfo, entries, std::size(entries));
 }
 
-void PostChannelIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
+void PostChannelIndex(const AnnouncedSetting &setting, UserInfo **lastInfo,
                       std::uint32_t productId, std::uint32_t channel,
                       std::uint32_t index) {
   const Entry entries[] = {Number(kProductKey, productId),
                            Number(kChannelKey, channel),
                            Number(kIndexKey, index)};
-  Post(family, lastInfo, entries, std::size(entries));
+  Post(setting, lastInfo, entries, std::size(entries));
 }
 
 }  // namespace ztk::notify

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The announcement of a change, the last step of each setter that announces.
+// Announces a change of a setting to every process.
 #ifndef ZTK_NOTIFY_POSTING_H_
 #define ZTK_NOTIFY_POSTING_H_
 
@@ -11,11 +11,11 @@
 
 namespace ztk::notify {
 
-// Releases the last record of the setting, makes a new one and sends it to
-// every process. `lastInfo` is the exported variable of the setting.
-void PostIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
+// Releases the last record of the setting, makes a new one and posts it.
+// `lastInfo` is the exported variable of the setting.
+void PostIndex(const AnnouncedSetting &setting, UserInfo **lastInfo,
                std::uint32_t productId, std::uint32_t index);
-void PostChannelIndex(const AnnouncedSetting &family, UserInfo **lastInfo,
+void PostChannelIndex(const AnnouncedSetting &setting, UserInfo **lastInfo,
                       std::uint32_t productId, std::uint32_t channel,
                       std::uint32_t index);
 

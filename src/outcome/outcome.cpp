@@ -9,8 +9,8 @@ using namespace ztk;
 
 namespace {
 
-// It has neither constructor nor destructor, so that no thread registers a
-// function for its end.
+// The record has neither a constructor nor a destructor, so no thread has to
+// register a function that runs when it ends.
 constinit thread_local ZTKOutcome theRecord = {};
 
 std::uint32_t ResultOf(platform::usb::Code code) {
@@ -33,8 +33,8 @@ std::uint32_t ResultOf(platform::usb::Code code) {
   }
 }
 
-void Write(std::int32_t position, outcome::Direction direction,
-           const ZTKRequestOutcome &request) {
+void SetRequest(std::int32_t position, outcome::Direction direction,
+                const ZTKRequestOutcome &request) {
   if (static_cast<std::uint32_t>(position) >= theRecord.mixersListed) return;
   ZTKMixerOutcome &mixer = theRecord.mixers[position];
   (direction == outcome::Direction::Write ? mixer.write : mixer.read) = request;
@@ -44,44 +44,44 @@ void Write(std::int32_t position, outcome::Direction direction,
 
 namespace ztk::outcome {
 
-// An entry of a mixer is cleared when it is added, not before each call: most
-// calls use only one.
+// Clears the record except the entries of the mixers. RecordMixersFound()
+// clears the entries that a call uses, which are few.
 void Begin() { std::memset(&theRecord, 0, offsetof(ZTKOutcome, mixers)); }
 
-void MixersFound(std::int32_t count) {
+void RecordMixersFound(std::int32_t count) {
   theRecord.mixersFound = static_cast<std::uint32_t>(count);
   theRecord.mixersListed = std::min(theRecord.mixersFound, ZTK_OUTCOME_MIXERS);
   std::memset(theRecord.mixers, 0,
               theRecord.mixersListed * sizeof *theRecord.mixers);
 }
 
-void NotOpened(std::int32_t position, Direction direction,
-               platform::usb::Result result) {
-  Write(position, direction,
-        {.result = ResultOf(result.code),
-         .opened = 0,
-         .length = 0,
-         .systemCode = result.systemCode});
+void RecordOpenFailure(std::int32_t position, Direction direction,
+                       platform::usb::Result result) {
+  SetRequest(position, direction,
+             {.result = ResultOf(result.code),
+              .opened = 0,
+              .length = 0,
+              .systemCode = result.systemCode});
 }
 
-void Requested(std::int32_t position, Direction direction,
-               platform::usb::Result result, std::uint32_t length) {
-  Write(position, direction,
-        {.result = ResultOf(result.code),
-         .opened = 1,
-         .length = length,
-         .systemCode = result.systemCode});
+void RecordRequest(std::int32_t position, Direction direction,
+                   platform::usb::Result result, std::uint32_t length) {
+  SetRequest(position, direction,
+             {.result = ResultOf(result.code),
+              .opened = 1,
+              .length = length,
+              .systemCode = result.systemCode});
 }
 
-void Read(std::uint32_t result, std::int32_t systemCode) {
+void RecordFileRead(std::uint32_t result, std::int32_t systemCode) {
   theRecord.read = {.result = result, .systemCode = systemCode};
 }
 
-void Stored(std::uint32_t result, std::int32_t systemCode) {
+void RecordFileStored(std::uint32_t result, std::int32_t systemCode) {
   theRecord.store = {.result = result, .systemCode = systemCode};
 }
 
-void Announced(std::uint32_t result, std::int32_t systemCode) {
+void RecordAnnouncement(std::uint32_t result, std::int32_t systemCode) {
   theRecord.announcement = {.result = result, .systemCode = systemCode};
 }
 

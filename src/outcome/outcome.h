@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The writing side of the record that ZTKOutcome.h describes. Each function
-// changes the record of the calling thread; none of them allocates or fails.
-// Nothing in the library reads the record.
+// Writes the record that ZTKOutcome.h describes. Each function changes the
+// record of the calling thread; none of them allocates or fails. Only
+// ZTK_GetLastOutcome() reads the record.
 #ifndef ZTK_OUTCOME_OUTCOME_H_
 #define ZTK_OUTCOME_OUTCOME_H_
 
@@ -13,28 +13,30 @@
 
 namespace ztk::outcome {
 
-// The first step of every function that sends, stores, reads or announces.
+// Clears the record. This is the first step of every function that sends,
+// stores, reads or announces something.
 void Begin();
 
-// The mixers were counted; a call counts them once.
-void MixersFound(std::int32_t count);
+// Records the number of mixers. A call of the library counts them once.
+void RecordMixersFound(std::int32_t count);
 
 enum class Direction { Write, Read };
 
-// A mixer, by its position from 0, could not be opened.
-void NotOpened(std::int32_t position, Direction direction,
-               platform::usb::Result result);
+// Records that a mixer could not be opened. Positions are counted from 0.
+void RecordOpenFailure(std::int32_t position, Direction direction,
+                       platform::usb::Result result);
 
-// A request to an opened mixer ended. `length` is what the mixer sent.
-void Requested(std::int32_t position, Direction direction,
-               platform::usb::Result result, std::uint32_t length);
+// Records how a request to an opened mixer ended. `length` is the number of
+// bytes that the mixer sent.
+void RecordRequest(std::int32_t position, Direction direction,
+                   platform::usb::Result result, std::uint32_t length);
 
-// `result` is one of the ZTK_FILE_ constants. The last one of a call stays.
-void Read(std::uint32_t result, std::int32_t systemCode = 0);
-void Stored(std::uint32_t result, std::int32_t systemCode = 0);
+// `result` is one of the ZTK_FILE_ constants. The last result of a call counts.
+void RecordFileRead(std::uint32_t result, std::int32_t systemCode = 0);
+void RecordFileStored(std::uint32_t result, std::int32_t systemCode = 0);
 
 // `result` is one of the ZTK_ANNOUNCEMENT_ constants.
-void Announced(std::uint32_t result, std::int32_t systemCode = 0);
+void RecordAnnouncement(std::uint32_t result, std::int32_t systemCode = 0);
 
 }  // namespace ztk::outcome
 

@@ -8,19 +8,21 @@ namespace ztk::platform::bundle {
 
 struct Bundle;
 
-// The bundle at a path, or null. On a system without a fixed place for bundles,
-// the port may look for the same bundle in its data directories when there is
-// none at the path. The caller gives it back with Release().
+// Returns the bundle at a path, or null. On a system without a fixed folder for
+// bundles, the port may search its data directories when there is no bundle at
+// the path. The caller releases the bundle with Release().
 Bundle *AtPath(ZTKTextRef path);
 
-// Makes the path of the folder that holds the <language>.lproj folders; the
-// caller gives it back with text::Release(). Null for a null bundle.
+// Makes the path of the folder that contains the <language>.lproj folders. The
+// caller releases the path with text::Release(). Returns null for a null
+// bundle.
 ZTKTextRef ResourcePath(const Bundle *bundle);
 
-// The text of a key in a string table, in the language that the user prefers of
-// those that have the table. When the table is missing, or does not have the
-// key, the result is the key itself; for a null bundle it is null. Not owned by
-// the caller: see ZTKTextRef in the public header for how long it lives.
+// Returns the text of a key in a string table. Among the languages that have
+// the table, the one that the user prefers is used. Returns the key itself if
+// no language has the table or if that table does not contain the key; returns
+// null for a null bundle. The caller does not own the text: ZTKTextRef in the
+// public header says how long it is valid.
 ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
                          ZTKTextRef table);
 

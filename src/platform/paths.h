@@ -6,9 +6,9 @@
 
 namespace ztk::platform::paths {
 
-// Makes the path of the user's Library directory, the one that holds
-// Preferences; the caller gives it back with text::Release(). Null when the
-// user has none. Creates nothing.
+// Makes the path of the user's Library folder, which contains the folder
+// Preferences. The caller releases the path with text::Release(). Returns null
+// if the user has no such folder. Creates nothing.
 ZTKTextRef UserLibrary();
 
 }  // namespace ztk::platform::paths

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Property-list files whose root is a dictionary, XML or binary.
+// Reads and writes property-list files whose root is a dictionary. XML and
+// binary files can be read.
 #ifndef ZTK_PLATFORM_PROPERTY_LIST_H_
 #define ZTK_PLATFORM_PROPERTY_LIST_H_
 
@@ -18,82 +19,95 @@ struct Change;
 enum class ReadState {
   Read,    // The entries were read.
   Absent,  // There is no file.
-  // There is a file, and it could not be read: no permission, no descriptor or
-  // memory left, an error of the disk, no regular file, or another program was
-  // writing to it all the time. It may hold settings: see MayBeReplaced().
+  // There is a file, but it could not be read. Possible reasons: no permission,
+  // no more descriptors or memory, an error of the disk, not a regular file, or
+  // another program was writing to it all the time. The file may contain
+  // settings: see MayBeReplaced().
   Unavailable,
-  // The file was read in full, and its root is not a dictionary, or the reader
-  // refuses it. It did not change for a while. It may be replaced.
+  // The file is too large, or its content is not a property list that the
+  // reader accepts, or its root is not a dictionary. It may be replaced.
   Damaged,
 };
 
 struct ReadResult {
   ReadState state = ReadState::Absent;
-  // Why a file is unavailable: the error number of the system (errno). 0
-  // otherwise, and when the system gives no number.
+  // The reason why a file is unavailable, as an error number of the system
+  // (errno). 0 in all other states.
   int error = 0;
 
   bool operator==(const ReadResult &) const = default;
 };
 
-// Whether a file may be replaced after it was read with this result. A file
-// that cannot be read now may contain settings, which would be lost. But a
-// missing permission is permanent, and nothing could be stored any more: so
-// such a file is kept under another name, like a damaged one.
+// Returns whether a file may be replaced after it was read with this result. A
+// file that is unavailable may contain settings that would be lost, so it must
+// not be replaced. A missing permission is the exception: it is permanent, so
+// nothing could be stored any more. Such a file is kept under another name,
+// like a damaged one.
 constexpr bool MayBeReplaced(const ReadResult &result) {
   return result.state != ReadState::Unavailable || result.error == EACCES;
 }
 
-// Reads a file. Writes the dictionary to *dictionary when the state is Read,
-// else null; the caller gives it back with Release(). Never creates anything.
+// Reads a file. Sets *dictionary to the dictionary if the state is Read, else
+// to null. The caller releases the dictionary with Release(). Creates nothing.
 ReadResult Read(ZTKTextRef path, Dictionary **dictionary);
-// The same for callers that treat a file that cannot be read as missing.
+// Reads a file and returns the dictionary, or null if the file is missing or
+// cannot be read.
 Dictionary *ReadFile(ZTKTextRef path);
 
-// Begins to change a file: between BeginChange() and EndChange() the file is
-// read, and then replaced or left as it is. Other processes that change a file
-// of the same folder wait meanwhile. The wait is short; it ends without the
-// lock where the folder cannot be locked or another process keeps it too long.
-// Where the port creates a missing folder when it writes a file, this creates
-// it. Changes are not nested, and one thread begins, uses and ends each of
-// them. The caller gives it back with EndChange().
+// Begins to change a file. Between BeginChange() and EndChange() the caller
+// reads the file, and then replaces it or leaves it as it is. Other processes
+// that change a file of the same folder wait until EndChange(). This function
+// waits for a short time for the other processes. It returns without the lock
+// if the folder cannot be locked or another process keeps the lock too long. If
+// the port creates a missing folder when it writes a file, this function
+// creates it.
+//
+// Changes must not be nested. The thread that begins a change also ends it. The
+// caller releases the change with EndChange().
 Change *BeginChange(ZTKTextRef path);
 // Null is allowed.
 void EndChange(Change *change);
 
-// Makes an empty dictionary that can be filled.
+// Makes an empty dictionary that can be changed.
 Dictionary *MakeDictionary();
-// Adds all entries of a file, if it can be read.
+// Adds all entries of a file if the file can be read.
 ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path);
-// Sets an integer, and replaces an earlier value of the key.
+// Sets the value of a key to an integer.
 void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value);
-// Removes an entry; does nothing where there is none.
+// Removes the entry of a key. Does nothing if there is no such entry.
 void RemoveEntry(Dictionary *dictionary, ZTKTextRef key);
 
-// Reads an entry as a 32-bit integer: an integer's low 32 bits; a real towards
-// zero, the lowest integer for NaN and what is out of range (on Apple silicon
-// Foundation returns the nearest limit, and 0 for NaN); a boolean as 0 or 1; a
-// text by its leading number, held at the limits, 0 without one. False, with
-// *value untouched, for an absent key or any other kind of entry.
+// Reads an entry as a 32-bit integer. Returns false and does not write *value
+// if the key is absent or the entry is of another kind than these:
+// - integer: its low 32 bits.
+// - real: rounded towards zero. NaN and numbers out of range become the lowest
+//   integer. On Apple silicon, Foundation returns the nearest limit for numbers
+//   out of range, and 0 for NaN.
+// - boolean: 0 or 1.
+// - text: the number at its beginning, or the nearest limit if the number is
+// out
+//   of range; 0 if there is no number.
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
                   std::int32_t *value);
 
-// A text entry; null when the key is absent or its value is not a text. It
-// outlives Release(): see ZTKTextRef in the public header for how long.
+// Returns the text of an entry, or null if the key is absent or its value is
+// not a text. The text is still valid after Release() of the dictionary:
+// ZTKTextRef in the public header says how long.
 ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key);
 
-// Replaces the file in XML form. A reader sees the old file or the new one,
-// never a part. Only a regular file is replaced. False when the file could not
-// be replaced; then the old file is untouched, and *error, where `error` is not
-// null, has the system's error number, or 0 when the system gives no number.
+// Replaces the file by the dictionary in XML form. A reader sees either the
+// complete old file or the complete new file. Only a regular file is replaced.
+// Returns false if the file could not be replaced. Then the old file is
+// unchanged, and *error is the error number of the system, or 0 if the system
+// gives no number (if `error` is not null).
 //
-// If another process has replaced the file since AddEntriesOfFile() read it,
-// nothing is written where the system can tell, and *error is ESTALE: the
-// change has to be made again on the new file.
-//
-// After AddEntriesOfFile() has found the same file unavailable, nothing is
-// written. A file that it found damaged, or from which it could not take every
-// character, is kept beside the new one where the system can.
+// If AddEntriesOfFile() has read the same file, its result counts:
+// - If another process has replaced the file since then, nothing is written and
+//   *error is ESTALE. The caller has to make the change again on the new file.
+// - If MayBeReplaced() is false for the result, nothing is written.
+// - If the file was damaged, or if MayBeReplaced() is true although it was
+//   unavailable, it is kept under another name. The Linux port also keeps a
+//   file in which it had to replace characters.
 bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
                      int *error = nullptr);
 

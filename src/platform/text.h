@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// What the core does with texts; ZTKTextRef and ZTK_TEXT are in the public
-// header. The caller owns a text that one of these functions makes, and gives
-// it back with Release(). It is null when memory has run out; every function of
-// the platform accepts a null text.
+// The operations on texts that the core needs. ZTKTextRef and ZTK_TEXT are in
+// the public header. The caller owns a text that one of these functions makes,
+// and releases it with Release(). A function that makes a text returns null
+// when memory has run out. Every function of the platform accepts a null text.
 #ifndef ZTK_PLATFORM_TEXT_H_
 #define ZTK_PLATFORM_TEXT_H_
 
@@ -13,32 +13,35 @@
 
 namespace ztk::platform::text {
 
-// Makes the upper-case form; at least ASCII letters are mapped.
+// Makes the text in upper case. At least ASCII letters are mapped.
 ZTKTextRef UpperCase(ZTKTextRef text);
 
-// True when `part` stands anywhere in `text`.
+// Returns true if `text` contains `part`.
 bool Contains(ZTKTextRef text, ZTKTextRef part);
 
-// Make a text from a format: each "%@" takes the next text, "%d" the number.
+// Make a text from a format. Each "%@" is replaced by the next text, and "%d"
+// by the number.
 ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first);
 ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first, ZTKTextRef second);
 ZTKTextRef Format(ZTKTextRef format, std::int32_t number);
 
-// Makes the component at `position`, counted from 0, of a text split at every
-// "."; null when there are fewer. Components may be empty.
+// Splits a text at every "." and makes a copy of the component at `position`,
+// counted from 0. Returns null if there are fewer components. A component may
+// be empty.
 ZTKTextRef DotComponent(ZTKTextRef text, unsigned position);
 
-// Compares runs of digits as numbers ("9" is below "10"), the rest by
-// character. Below 0, 0 or above 0, as the first is less, equal or greater.
+// Compares two texts. Digits are compared as numbers, so that "9" is less than
+// "10"; everything else is compared by characters. Returns a number below 0 if
+// the first text is less, 0 if the texts are equal, a number above 0 otherwise.
 int CompareNumerically(ZTKTextRef first, ZTKTextRef second);
 
-// Gives back a made text; null is allowed.
-void Release(ZTKTextRef made);
+// Releases a text that one of the functions above made. Null is allowed.
+void Release(ZTKTextRef text);
 
-// A made text that goes back by itself.
+// Owns a text and releases it.
 class OwnedText {
  public:
-  explicit OwnedText(ZTKTextRef made) : text_(made) {}
+  explicit OwnedText(ZTKTextRef text) : text_(text) {}
   ~OwnedText() { Release(text_); }
   OwnedText(const OwnedText &) = delete;
   OwnedText &operator=(const OwnedText &) = delete;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// USB access; each function is one operation of the system. src/usb/USB.cpp
-// decides what is counted, chosen, released or not released; a port only
-// executes it.
+// USB access. Each function is one operation of the system. src/usb/USB.cpp
+// decides which devices are counted, chosen or released; a port only executes
+// the operations.
 //
 // No function keeps state between calls and any thread may call it. The caller
 // owns a handle until it passes the handle to the function that releases it.
@@ -59,9 +59,11 @@ struct ControlRequest {
   std::uint16_t index;
   std::uint16_t length;
   void *data;
-  std::uint32_t lengthDone;  // filled in by the port; after a failure the
-                             // bytes before it, 0 if that is not known
-  std::int32_t systemCode;   // filled in by the port, as in Result
+  // The port writes the number of transferred bytes. After a failure this is
+  // the number before the failure, or 0 if it is not known.
+  std::uint32_t lengthDone;
+  // The port writes the system's number of a failure, as in Result.
+  std::int32_t systemCode;
 };
 
 // Gets the port for access to the registry. On failure *port is null.
@@ -72,42 +74,44 @@ void ReleaseMasterPort(Port port);
 Matching *CreateMatching(const char *className);
 // Makes a signed 32-bit number object; the caller owns it.
 Number *MakeNumber(std::int32_t value);
-// Narrows the matching to services whose property `key` equals the number.
-// The matching takes its own hold of the number.
+// Restricts the matching to services whose property `key` equals the number.
+// The matching takes its own reference to the number.
 void SetMatchingValue(Matching *matching, const char *key, Number *number);
 
-// Finds the matching services and consumes `matching`, whatever the result. On
-// success *iterator may be null: no service matches.
+// Finds the matching services. Always releases `matching`. On success *iterator
+// is null if no service matches.
 Code FindServices(Port port, Matching *matching, Iterator *iterator);
-// The next service in registry order, owned by the caller; null at the end.
+// Returns the next service in registry order, or null at the end. The caller
+// owns the service.
 Service NextService(Iterator iterator);
 void ReleaseService(Service service);
 void ReleaseIterator(Iterator iterator);
 
-// Makes the loader of a service's device interface, owned by the caller.
-// On failure *plugIn is null, and it may be null on success as well.
+// Makes the plug-in that loads the device interface of a service. The caller
+// owns the plug-in. *plugIn is null on failure, and may be null on success too.
 Code CreatePlugIn(Service service, PlugIn **plugIn);
-// The device interface with one reference, which the caller owns; or null.
+// Returns the device interface with one reference, which the caller owns; or
+// null.
 Device *QueryDevice(PlugIn *plugIn);
 void ReleasePlugIn(PlugIn *plugIn);
 
-// Facts of the device descriptor. Outputs are written on success only.
+// Read a field of the device descriptor. The output is written only on success.
 Code GetDeviceClass(Device *device, std::uint8_t *deviceClass);
 Code GetDeviceSubClass(Device *device, std::uint8_t *deviceSubClass);
 Code GetDeviceVendor(Device *device, std::uint16_t *vendor);
 Code GetDeviceProduct(Device *device, std::uint16_t *product);
 
-// Makes a found device ready for requests and returns the interface to use from
-// now on: the same one or another one. Takes the caller's reference; the
-// returned interface has one. Null when the device cannot be reached; then
-// there is no reference, and *result is the reason.
+// Prepares a device for requests. Takes the caller's reference to `device` and
+// returns the interface for the requests, with one reference: the same
+// interface or another one. Returns null if the device cannot be accessed. Then
+// nothing remains to be released, and *result is the reason.
 Device *MakeReady(Device *device, Result *result);
 
-// Sends the request and waits for its end.
+// Sends the request and waits until it has ended.
 Code Request(Device *device, ControlRequest *request);
 
 Code CloseDevice(Device *device);
-// Releases one reference; returns the number of those that remain.
+// Releases one reference. Returns the number of remaining references.
 std::uint32_t ReleaseDevice(Device *device);
 
 }  // namespace ztk::platform::usb

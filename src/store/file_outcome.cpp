@@ -11,7 +11,7 @@ namespace {
 using platform::property_list::ReadResult;
 using platform::property_list::ReadState;
 
-// Why a file that is there was not read.
+// Returns the reason why an existing file was not read.
 std::uint32_t ReasonOfReading(int error) {
   switch (error) {
     case EACCES:
@@ -51,29 +51,30 @@ std::uint32_t ReasonOfWriting(int error) {
 void RecordReading(const ReadResult &result) {
   switch (result.state) {
     case ReadState::Read:
-      return outcome::Read(ZTK_FILE_OK);
+      return outcome::RecordFileRead(ZTK_FILE_OK);
     case ReadState::Absent:
-      return outcome::Read(ZTK_FILE_ABSENT);
+      return outcome::RecordFileRead(ZTK_FILE_ABSENT);
     case ReadState::Damaged:
-      return outcome::Read(ZTK_FILE_DAMAGED);
+      return outcome::RecordFileRead(ZTK_FILE_DAMAGED);
     case ReadState::Unavailable:
-      return outcome::Read(ReasonOfReading(result.error), result.error);
+      return outcome::RecordFileRead(ReasonOfReading(result.error),
+                                     result.error);
   }
 }
 
 void RecordStoring(const ReadResult &read, bool written, int error) {
   RecordReading(read);
   if (written) {
-    outcome::Stored(ZTK_FILE_OK);
+    outcome::RecordFileStored(ZTK_FILE_OK);
   } else if (read.state == ReadState::Unavailable) {
-    outcome::Stored(ReasonOfReading(read.error), read.error);
+    outcome::RecordFileStored(ReasonOfReading(read.error), read.error);
   } else {
-    outcome::Stored(ReasonOfWriting(error), error);
+    outcome::RecordFileStored(ReasonOfWriting(error), error);
   }
 }
 
-void RecordReadingWithoutHome() { outcome::Read(ZTK_FILE_NO_HOME); }
+void RecordReadingWithoutHome() { outcome::RecordFileRead(ZTK_FILE_NO_HOME); }
 
-void RecordStoringWithoutHome() { outcome::Stored(ZTK_FILE_NO_HOME); }
+void RecordStoringWithoutHome() { outcome::RecordFileStored(ZTK_FILE_NO_HOME); }
 
 }  // namespace ztk::store

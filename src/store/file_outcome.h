@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Notes in the record of the call (ZTKOutcome.h) how reading or storing a file
-// ended.
+// Records how reading or storing a file ended, for ZTKOutcome.h.
 #ifndef ZTK_STORE_FILE_OUTCOME_H_
 #define ZTK_STORE_FILE_OUTCOME_H_
 
@@ -11,9 +10,9 @@ namespace ztk::store {
 
 void RecordReading(const platform::property_list::ReadResult &result);
 
-// For a file that a call reads and then replaces. `read` tells how the reading
-// ended, `written` whether the file was replaced. `error` is the error number
-// of the system for the writing, or 0 if there is none.
+// For a file that a call reads and then replaces. `read` is the result of the
+// reading. `written` says whether the file was replaced; if it was not, `error`
+// is the error number of the system, or 0 if there is none.
 void RecordStoring(const platform::property_list::ReadResult &read,
                    bool written, int error);
 

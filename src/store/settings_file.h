@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The remembered settings: one integer for each, in one property-list file for
-// each model: <Library>/Preferences/com.tarvix.<model>autosetup.plist. There is
-// no cache: every call reads the file. Between processes, a change of a file is
-// locked; within the process there is no lock.
+// The remembered settings. Each model has one property-list file,
+// <Library>/Preferences/com.tarvix.<model>autosetup.plist, with one integer for
+// each setting. There is no cache: every call reads the file. A lock separates
+// the changes of different processes; there is no lock within a process.
 #ifndef ZTK_STORE_SETTINGS_FILE_H_
 #define ZTK_STORE_SETTINGS_FILE_H_
 
@@ -13,18 +13,18 @@
 
 namespace ztk::store {
 
-// Answers the integer under a key of the model's file, whatever its value, or
-// `fallback` when the file is missing or cannot be read, or has no such key.
-// Creates nothing.
+// Returns the integer of a key in the file of the model. It may be any number.
+// Returns `fallback` if the file is missing or cannot be read, or has no such
+// key. Creates nothing.
 std::int32_t Read(ZTKTextRef model, ZTKTextRef key, std::int32_t fallback);
 
-// The same for a key made from a format with "%d" and a channel.
+// Does the same for a key that is made from a format with "%d" and a channel.
 std::int32_t ReadChannel(ZTKTextRef model, ZTKTextRef keyFormat,
                          std::uint32_t channel, std::int32_t fallback);
 
-// Puts an integer into the model's file and keeps everything else in it.
-// Nothing is written when the file is there but cannot be read. A failure is
-// not reported to the caller.
+// Stores an integer in the file of the model and keeps all other entries.
+// Writes nothing if the file exists but cannot be read now, because it may
+// contain settings. A failure is recorded (file_outcome.h) but not returned.
 void Write(ZTKTextRef model, ZTKTextRef key, std::uint32_t value);
 void WriteChannel(ZTKTextRef model, ZTKTextRef keyFormat, std::uint32_t channel,
                   std::uint32_t value);

@@ -8,7 +8,7 @@ namespace ztk::store {
 
 namespace {
 
-// Fixed: no separator stands between the model and "autosetup".
+// There is no separator between the model and "autosetup". The name is fixed.
 const ZTKTextRef kPathFormat =
     ZTK_TEXT("%@/Preferences/com.tarvix.%@autosetup.plist");
 

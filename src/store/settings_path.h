@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Where the settings files are:
+// The path of a settings file is
 // <Library>/Preferences/com.tarvix.<model>autosetup.plist.
 #ifndef ZTK_STORE_SETTINGS_PATH_H_
 #define ZTK_STORE_SETTINGS_PATH_H_
@@ -9,8 +9,9 @@
 
 namespace ztk::store {
 
-// Makes the path of the model's file; the caller releases it with
-// text::Release(). Null if the user has no home folder. The file may not exist.
+// Makes the path of the settings file of a model. The caller releases it with
+// text::Release(). Returns null if the user has no home folder. The file need
+// not exist.
 ZTKTextRef MakePath(ZTKTextRef model);
 
 }  // namespace ztk::store

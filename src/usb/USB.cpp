@@ -20,8 +20,8 @@ constexpr std::uint8_t kWriteRequestType = 0x40;  // host to device, vendor
 constexpr std::uint8_t kReadRequest = 0;
 constexpr std::uint8_t kWriteRequest = 3;
 
-// What the descriptor of a device says. After the first failure nothing more is
-// asked.
+// The result of reading the device descriptor. After the first failure, the
+// other fields are not read.
 struct Identity {
   Code result;
   std::uint16_t vendor = 0;
@@ -35,7 +35,8 @@ struct Identity {
 
 Identity Identify(port::Device *device) {
   Identity identity{.result = port::kSuccess};
-  // Read but not used: a device that does not answer these is skipped as well.
+  // The class and subclass are read but not used. A device whose class cannot
+  // be read is skipped.
   std::uint8_t unusedClass = 0;
   identity.result = port::GetDeviceClass(device, &unusedClass);
   if (identity.result != port::kSuccess) return identity;
@@ -47,8 +48,8 @@ Identity Identify(port::Device *device) {
   return identity;
 }
 
-// The device interface of a service; null if the device has to be skipped. The
-// service is released. *result is the result of making the plug-in.
+// Returns the device interface of a service, or null if the device has to be
+// skipped. Releases the service. *result is the result of CreatePlugIn().
 port::Device *InterfaceOf(port::Service service, Code *result) {
   port::PlugIn *plugIn = nullptr;
   *result = port::CreatePlugIn(service, &plugIn);
@@ -60,9 +61,9 @@ port::Device *InterfaceOf(port::Service service, Code *result) {
   return device;
 }
 
-// Walks over all devices and puts the mixer at position `index` into the slot.
-// Deliberate: the walk goes on after this mixer. The interfaces of the devices
-// after it are not released, and their failures change the result.
+// Visits all devices and puts the mixer at position `index` into the slot.
+// Deliberate: the loop does not end at this mixer. The interfaces of the
+// devices after it are not released, and their failures change the result.
 Code ChooseMixer(port::Iterator iterator, Connection *slot, std::uint32_t index,
                  port::Result *cause) {
   Code result = port::kSuccess;
@@ -82,7 +83,8 @@ Code ChooseMixer(port::Iterator iterator, Connection *slot, std::uint32_t index,
         }
         *slot = port::MakeReady(device, cause);
       }
-      // After the chosen mixer it wraps around and does not reach 0 again.
+      // For the mixers after the chosen one, the index wraps around to large
+      // numbers and does not become 0 again.
       --index;
     }
     if (!chosen) result = port::ReleaseDevice(device);
@@ -96,7 +98,7 @@ Code FindEveryDevice(port::Port masterPort, port::Iterator *iterator) {
   return port::FindServices(masterPort, matching, iterator);
 }
 
-// Callers use the content of their buffer, not the number of bytes that came.
+// Does not return the number of transferred bytes, which callers do not use.
 Code Read(Connection device, std::uint16_t reg, std::uint8_t *buffer,
           std::uint16_t length) {
   std::uint32_t unused = 0;
@@ -112,7 +114,7 @@ Code Write(Connection device, std::uint16_t reg, std::uint16_t value) {
 namespace ztk::usb {
 
 Code Open(Connection *slot, std::uint32_t index, port::Result *cause) {
-  // What remains if the walk does not reach the mixer.
+  // The cause if there is no mixer at this position.
   *cause = {.code = port::kNoDevice};
   port::Port masterPort = nullptr;
   port::Iterator iterator = nullptr;
@@ -126,7 +128,7 @@ Code Open(Connection *slot, std::uint32_t index, port::Result *cause) {
   if (*slot == nullptr) result = port::kError;
   if (iterator != nullptr) port::ReleaseIterator(iterator);
   if (masterPort != nullptr) port::ReleaseMasterPort(masterPort);
-  // The mixer was reached, and a device after it failed.
+  // The mixer could be opened, but a device after it failed.
   if (result != port::kSuccess && cause->code == port::kSuccess) {
     *cause = {.code = result};
   }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What openUSB() and the ten requests of USB.h do, with the cause of a failure.
-// For the library only: these names are not visible.
+// The functions of USB.h that also return the cause of a failure. The library
+// does not export them.
 #ifndef ZTK_USB_CONNECTION_H_
 #define ZTK_USB_CONNECTION_H_
 
@@ -11,11 +11,12 @@
 
 namespace ztk::usb {
 
-// openUSB(). Where it does not return kSuccess, *cause tells why: kNoDevice if
-// there is no mixer at this position.
+// Does what openUSB() does. If the result is not kSuccess, *cause is the
+// reason: kNoDevice if there is no mixer at this position.
 Code Open(Connection *slot, std::uint32_t index, platform::usb::Result *cause);
 
-// Asks for `length` bytes. *lengthDone is what came, also after a failure.
+// Requests `length` bytes. *lengthDone is the number of bytes that the mixer
+// sent, even after a failure.
 platform::usb::Result ReadRegister(Connection device, std::uint16_t reg,
                                    std::uint8_t *buffer, std::uint16_t length,
                                    std::uint32_t *lengthDone);

@@ -11,12 +11,12 @@ OpenMixer::OpenMixer(std::int32_t position, Direction direction) {
   platform::usb::Result cause;
   opened_ = Open(&slot_, static_cast<std::uint32_t>(position), &cause) ==
             platform::usb::kSuccess;
-  if (!opened_) outcome::NotOpened(position, direction, cause);
+  if (!opened_) outcome::RecordOpenFailure(position, direction, cause);
 }
 
 std::int32_t CountMixers(std::uint32_t productId) {
   const std::int32_t count = CheckUSBAudio(productId);
-  outcome::MixersFound(count);
+  outcome::RecordMixersFound(count);
   return count;
 }
 
@@ -26,8 +26,8 @@ std::int32_t SendToEveryMixer(std::uint32_t productId, std::uint16_t reg,
   for (std::int32_t i = 0; i < count; ++i) {
     const OpenMixer mixer(i, Direction::Write);
     if (!mixer) continue;
-    outcome::Requested(i, Direction::Write,
-                       WriteRegister(mixer.connection(), reg, value), 0);
+    outcome::RecordRequest(i, Direction::Write,
+                           WriteRegister(mixer.connection(), reg, value), 0);
   }
   return count;
 }
@@ -39,7 +39,7 @@ bool ReadFromMixer(std::int32_t position, std::uint16_t reg, Reply *reply,
   std::uint32_t lengthDone = 0;
   const platform::usb::Result result =
       ReadRegister(mixer.connection(), reg, reply->bytes, length, &lengthDone);
-  outcome::Requested(position, Direction::Read, result, lengthDone);
+  outcome::RecordRequest(position, Direction::Read, result, lengthDone);
   return true;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The walk over all attached mixers, which the settings share. The result of
-// each request is recorded; see outcome/outcome.h.
+// Sends requests to the attached mixers and records their results (see
+// outcome/outcome.h). All families of settings use these functions.
 #ifndef ZTK_USB_MIXERS_H_
 #define ZTK_USB_MIXERS_H_
 
@@ -16,11 +16,12 @@ namespace ztk::usb {
 // be opened, the object is empty: nothing is sent and nothing is closed.
 class OpenMixer {
  public:
-  // For programs: uses visible functions only and records nothing.
+  // For programs: uses only functions that the library exports, and records
+  // nothing.
   explicit OpenMixer(std::int32_t position)
       : opened_(open_pipes(&slot_, static_cast<std::uint32_t>(position)) ==
                 platform::usb::kSuccess) {}
-  // For the library: records why a mixer does not open for this request.
+  // For the library: records the reason if the mixer cannot be opened.
   OpenMixer(std::int32_t position, outcome::Direction direction);
   ~OpenMixer() {
     if (opened_) closeUSB(&slot_);
@@ -40,18 +41,20 @@ class OpenMixer {
 std::int32_t CountMixers(std::uint32_t productId);
 
 // Counts the mixers and writes the value to a register of each. Returns the
-// count, so that a second pass visits the same positions.
+// number of mixers, so that the caller can visit the same positions again.
 std::int32_t SendToEveryMixer(std::uint32_t productId, std::uint16_t reg,
                               std::uint16_t value);
 
-// A reply buffer. Larger than any reply, because the byte of the fifth channel
-// is behind the five that a mixer sends: it keeps what it is preset to.
+// A reply buffer. It is larger than any reply: a mixer sends five bytes for its
+// selectors, and the byte of the fifth channel, which is after them, keeps its
+// preset value.
 struct Reply {
   std::uint8_t bytes[8] = {};
 };
 
 // Opens the mixer, reads a register into the preset reply and closes the mixer.
-// False when it does not open. A request that fails leaves the reply as it is.
+// Returns false if the mixer cannot be opened. If the request fails, the bytes
+// that the mixer has not sent keep their preset values.
 bool ReadFromMixer(std::int32_t position, std::uint16_t reg, Reply *reply,
                    std::uint16_t length);
 

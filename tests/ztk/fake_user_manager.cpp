@@ -31,7 +31,7 @@ std::string Described(sd_bus_message *message, bool twoFlags) {
 }  // namespace
 
 FakeUserManager::FakeUserManager()
-    : bus_(center::ConnectToSessionBus(center::PatienceEnds())) {
+    : bus_(center::ConnectToSessionBus(center::WaitDeadline())) {
   if (bus_ == nullptr ||
       sd_bus_add_object(bus_.get(), nullptr, "/org/freedesktop/systemd1",
                         OnMessage, this) < 0 ||

@@ -11,20 +11,20 @@
 namespace ztk::platform {
 
 // Locks an open file or folder exclusively (flock). Tries again after short
-// pauses until `patience` has passed. False, with errno set, when another
+// pauses until `maxWait` has passed. Returns false and sets errno if another
 // process still holds the lock (EWOULDBLOCK) or the file system has no locks.
-bool LockExclusively(int descriptor, std::chrono::milliseconds patience);
+bool LockExclusively(int descriptor, std::chrono::milliseconds maxWait);
 
-// Whether a missing folder of the file is created.
+// Whether FileChange creates the folder of the file if it is missing.
 enum class MissingFolders { Create, Leave };
 
-// While it exists, other processes that change a file of the same folder wait:
-// it holds a lock on the folder itself, so no file is left behind, and the lock
-// ends with the process. It also takes the identity of the folder's owner
-// (owner_identity.h) and creates the folder where it is missing.
+// While this object exists, other processes that change a file of the same
+// folder wait. The object holds a lock on the folder itself, so no lock file
+// remains, and the lock ends when the process ends. The thread also has the
+// identity of the owner of the path meanwhile (owner_identity.h).
 //
-// A file system without locks, or a process that keeps the lock for more than a
-// second, does not prevent the change: it goes on without the lock.
+// If the file system has no locks, or another process keeps the lock for more
+// than a second, the change is made without the lock.
 class FileChange {
  public:
   FileChange(const std::string &path, MissingFolders missing);

@@ -11,8 +11,8 @@
 
 namespace ztk::platform {
 
-// Owns a file descriptor and closes it. A number below 0 means that there is
-// none.
+// Owns a file descriptor and closes it. A number below 0 means that the object
+// has no descriptor.
 class FileDescriptor {
  public:
   explicit FileDescriptor(int number = -1) : number_(number) {}
@@ -38,7 +38,7 @@ class FileDescriptor {
 };
 
 // Calls `write(data, size)`, for example write() or send(), until the whole
-// text is written. False, with errno set, on an error.
+// text is written. Returns false and sets errno on an error.
 template <typename Write>
 bool WriteAll(std::string_view text, Write write) {
   while (!text.empty()) {

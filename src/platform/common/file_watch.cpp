@@ -14,9 +14,10 @@ using property_list::ReadState;
 using std::chrono::milliseconds;
 
 constexpr milliseconds kPause{10};
-// A copy goes on sooner than this, even on a busy machine.
+// A program that copies a file does not pause longer than this, even on a busy
+// machine.
 constexpr milliseconds kQuiet{250};
-constexpr milliseconds kPatience{500};
+constexpr milliseconds kMaxWait{500};
 
 ReadResult ResultOf(int error) {
   switch (error) {
@@ -39,7 +40,7 @@ std::optional<ReadResult> FileWatch::Judge(int error, const std::string &bytes,
   if (unchanged && IsSettled(status)) {
     return ReadResult{.state = ReadState::Damaged};
   }
-  if (watched_ >= kPatience) return ResultOf(EBUSY);
+  if (watched_ >= kMaxWait) return ResultOf(EBUSY);
   lastBytes_ = error == 0 ? std::optional(bytes) : std::nullopt;
   Pause(kPause);
   watched_ += kPause;

@@ -12,25 +12,25 @@
 
 namespace ztk::platform {
 
-// Decides whether a settings file that does not parse is damaged, or whether
-// another program is copying over it and has stopped in the middle. Such a file
-// is read again and again, with pauses, until there is a verdict: it is damaged
-// when two readings gave the same bytes and it has not changed for a quarter of
-// a second; it is unavailable (EBUSY) when it still changes after half a
-// second.
+// Decides whether a settings file that cannot be parsed is damaged, or whether
+// another program is still writing it. The caller reads the file again, with
+// pauses, until Judge() returns a result. The file is damaged if two readings
+// returned the same bytes and the file has not changed for a quarter of a
+// second. It is unavailable (EBUSY) if it still changes after half a second.
 class FileWatch {
  public:
-  // Takes the result of one reading by ReadRegularFile(), whose bytes did not
-  // parse. Returns the verdict, or nothing after a pause: read the file again.
+  // Takes the result of ReadRegularFile(). If it succeeded, the caller could
+  // not parse `bytes`. Returns the result for the file. If the file has to be
+  // read again, Judge() waits for a moment and returns no value.
   std::optional<property_list::ReadResult> Judge(int error,
                                                  const std::string &bytes,
                                                  const struct stat &status);
 
  private:
-  // Whether a file that had the same bytes at the last two readings counts as
-  // damaged: its last change is long ago, or it has not changed for as long
-  // while it was watched. The clock of a network file system may differ from
-  // ours.
+  // Whether the file has not changed for long enough: according to its
+  // modification time, or according to its bytes since the first reading. The
+  // second test is necessary because the clock of a network file system may
+  // differ from the clock of this machine.
   bool IsSettled(const struct stat &status) const;
 
   std::chrono::milliseconds watched_{0};

@@ -8,9 +8,9 @@
 namespace ztk::platform::common {
 namespace {
 
-// A set of nodes does not move its texts when it grows. Never destroyed: a text
-// must outlive even the destructors that run when the process ends. The pointer
-// keeps it reachable, so leak checkers accept it.
+// The set does not move its texts when it grows. It is never destroyed, because
+// a text must be valid even in the destructors that run when the process ends.
+// Leak checkers accept this, because the pointer still refers to the set.
 constinit std::unordered_set<std::string> *allTexts = nullptr;
 
 }  // namespace

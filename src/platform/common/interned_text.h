@@ -6,11 +6,11 @@
 
 namespace ztk::platform::common {
 
-// The permanent copy of a text: equal texts give the same pointer, which stays
-// valid until the process ends. Reading an unchanged file again therefore needs
-// no more memory; every new content is kept. Takes no lock: only one thread at
-// a time may call it, as the functions that return such texts require. Stops at
-// a zero byte, as a C string does.
+// Returns the permanent copy of a text, or null when memory has run out. Equal
+// texts have the same copy, which stays valid until the process ends. So
+// reading an unchanged file again needs no more memory. The copy ends at the
+// first zero byte. There is no lock: only one thread at a time may call this
+// function, and the same is true for the functions that return such texts.
 const char *Intern(std::string_view text);
 
 }  // namespace ztk::platform::common

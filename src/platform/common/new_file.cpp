@@ -22,29 +22,33 @@ constexpr std::string_view kLetters =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
 constexpr std::size_t kNameLetters = 6;
 
-// Gives the new file the owner and mode of the one it replaces.
-bool TakeOver(int file, const NewFileModel &model) {
+// Sets the owner and the mode of the new file to those of the old file.
+bool CopyOwnerAndMode(int file, const NewFileProperties &properties) {
   constexpr mode_t kPermissions = 0777;
-  const struct stat &old = *model.old;
-  // Only root may give a file away; others keep at least its group if they can.
+  const struct stat &old = *properties.old;
+  // Only root may change the owner of a file. For other users, the new file
+  // gets at least the group of the old file, if the system allows that.
   if (fchown(file, old.st_uid, old.st_gid) != 0 &&
       fchown(file, static_cast<uid_t>(-1), old.st_gid) != 0) {
     errno = 0;
   }
-  return fchmod(file, (old.st_mode & kPermissions) | model.moreMode) == 0;
+  return fchmod(file, (old.st_mode & kPermissions) | properties.addedMode) == 0;
 }
 
-int Fill(int file, std::string_view content, const NewFileModel &model) {
-  const bool done = WriteAll(file, content) &&
-                    (model.old == nullptr || TakeOver(file, model)) &&
-                    fsync(file) == 0;
+int WriteContent(int file, std::string_view content,
+                 const NewFileProperties &properties) {
+  const bool done =
+      WriteAll(file, content) &&
+      (properties.old == nullptr || CopyOwnerAndMode(file, properties)) &&
+      fsync(file) == 0;
   return done ? 0 : errno;
 }
 
 #if defined(O_TMPFILE)
 
-// A name that is probably free; the caller tries another one if it is not.
-std::string MadeUpName(const std::string &file) {
+// Returns a name that is probably free. The caller tries another name if it is
+// not.
+std::string CandidateName(const std::string &file) {
   auto number = static_cast<std::uint64_t>(
       std::chrono::steady_clock::now().time_since_epoch().count());
   std::string name = file + '.';
@@ -55,13 +59,13 @@ std::string MadeUpName(const std::string &file) {
   return name;
 }
 
-// Links a file without a name into the folder. Linking cannot replace a file,
-// so this is not yet the name of the old one.
-bool GiveName(int nameless, const std::string &file, std::string *name) {
+// Gives an unnamed file a new name in the folder. It cannot have the name of
+// the old file yet, because linkat() does not replace a file.
+bool LinkWithNewName(int unnamed, const std::string &file, std::string *name) {
   constexpr int kTries = 100;
-  const std::string from = "/proc/self/fd/" + std::to_string(nameless);
+  const std::string from = "/proc/self/fd/" + std::to_string(unnamed);
   for (int i = 0; i < kTries; ++i) {
-    *name = MadeUpName(file);
+    *name = CandidateName(file);
     if (linkat(AT_FDCWD, from.c_str(), AT_FDCWD, name->c_str(),
                AT_SYMLINK_FOLLOW) == 0) {
       return true;
@@ -71,33 +75,36 @@ bool GiveName(int nameless, const std::string &file, std::string *name) {
   return false;
 }
 
-// No value when the file system does not support files without a name, or when
-// /proc is missing; else 0 or the error number.
-std::optional<int> WriteNamelessFile(const std::string &file,
-                                     std::string_view content,
-                                     const NewFileModel &model,
-                                     std::string *name) {
+// Writes the content to a file that gets its name at the end. Returns no value
+// if the file system has no unnamed files or /proc is missing. Otherwise
+// returns 0 or the error number.
+std::optional<int> WriteUnnamedFile(const std::string &file,
+                                    std::string_view content,
+                                    const NewFileProperties &properties,
+                                    std::string *name) {
   const std::string folder = FolderOf(file);
   const FileDescriptor made(open(folder.empty() ? "." : folder.c_str(),
                                  O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600));
   if (!made.valid()) return std::nullopt;
-  const int error = Fill(made.get(), content, model);
+  const int error = WriteContent(made.get(), content, properties);
   if (error != 0) return error;
-  return GiveName(made.get(), file, name) ? std::optional(0) : std::nullopt;
+  return LinkWithNewName(made.get(), file, name) ? std::optional(0)
+                                                 : std::nullopt;
 }
 
 #else
 
-std::optional<int> WriteNamelessFile(const std::string & /*file*/,
-                                     std::string_view /*content*/,
-                                     const NewFileModel & /*model*/,
-                                     std::string * /*name*/) {
+std::optional<int> WriteUnnamedFile(const std::string & /*file*/,
+                                    std::string_view /*content*/,
+                                    const NewFileProperties & /*properties*/,
+                                    std::string * /*name*/) {
   return std::nullopt;
 }
 
 #endif
 
-// True for the name of a new file for `base`, made here or by mkostemp().
+// Returns true if the name is one that CandidateName() or mkostemp() makes for
+// `base`.
 bool IsNewFileName(std::string_view name, std::string_view base) {
   if (name.size() != base.size() + 1 + kNameLetters) return false;
   if (!name.starts_with(base) || name[base.size()] != '.') return false;
@@ -113,15 +120,15 @@ bool IsOlderThanADay(const struct stat &status) {
 }  // namespace
 
 int WriteNewFile(const std::string &file, std::string_view content,
-                 const NewFileModel &model, std::string *name) {
-  const std::optional<int> nameless =
-      WriteNamelessFile(file, content, model, name);
-  if (nameless) return *nameless;
+                 const NewFileProperties &properties, std::string *name) {
+  const std::optional<int> unnamed =
+      WriteUnnamedFile(file, content, properties, name);
+  if (unnamed) return *unnamed;
 
   *name = file + "." + std::string(kNameLetters, 'X');
   const FileDescriptor made(mkostemp(name->data(), O_CLOEXEC));
   if (!made.valid()) return errno;
-  const int error = Fill(made.get(), content, model);
+  const int error = WriteContent(made.get(), content, properties);
   if (error != 0) unlink(name->c_str());
   return error;
 }

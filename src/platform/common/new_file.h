@@ -10,22 +10,22 @@
 
 namespace ztk::platform {
 
-// Properties of a new file that come from the file that it will replace.
-struct NewFileModel {
+// The properties of a new file that depend on the file that it will replace.
+struct NewFileProperties {
   const struct stat *old = nullptr;  // null where there is none
-  mode_t moreMode = 0;               // permissions in addition to the old ones
+  mode_t addedMode = 0;              // permissions in addition to the old ones
 };
 
-// Writes a complete new file beside `file`, down to the disk. *name gets its
-// name: that of `file`, a dot and six letters or digits. If the file system
-// supports it, the file has no name until it is complete, so that nothing is
-// left of it when the program is killed before. Returns 0 or the error number;
-// on an error nothing is left.
+// Writes a complete new file into the folder of `file` and syncs it to the
+// disk. *name becomes its name: the name of `file`, a dot and six letters or
+// digits. If the file system supports it, the file has no name until it is
+// complete, so that nothing remains if the program is killed before. Returns 0
+// or the error number. No file remains after an error.
 int WriteNewFile(const std::string &file, std::string_view content,
-                 const NewFileModel &model, std::string *name);
+                 const NewFileProperties &properties, std::string *name);
 
-// Syncs the folder of `file`. Then removes files older than a day that killed
-// programs have left beside `file`.
+// Syncs the folder of `file`. Then removes the new files for `file` that are
+// older than a day: programs left them when they were killed.
 void SyncAndCleanFolderOf(const std::string &file);
 
 }  // namespace ztk::platform

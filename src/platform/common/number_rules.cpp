@@ -11,7 +11,7 @@ namespace {
 constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
 
-// The characters that Foundation's intValue skips, first and last of each row.
+// The ranges of characters that intValue of Foundation skips.
 constexpr struct {
   std::uint32_t first, last;
 } kSkipped[] = {{0x00, 0x20}, {0x7F, 0xA0}, {0x2000, 0x200B}, {0x3000, 0x3000}};
@@ -23,9 +23,8 @@ bool IsSkipped(std::uint32_t character) {
   return false;
 }
 
-// The length in bytes of the skipped character at the beginning of the text; 0
-// for any other character. The skipped characters have at most three bytes in
-// UTF-8.
+// Returns the length in bytes of the first character if it is skipped, else 0.
+// The skipped characters have at most three bytes in UTF-8.
 std::size_t SkippedBytes(std::string_view text) {
   const auto byte = [text](std::size_t at) {
     return at < text.size() ? static_cast<std::uint8_t>(text[at]) : 0U;
@@ -54,8 +53,8 @@ std::int32_t IntegerFromInteger(std::uint64_t bits) {
 }
 
 std::int32_t IntegerFromReal(double real) {
-  // Converting a real outside of the range is undefined, so the range is tested
-  // first. Every comparison with NaN is false.
+  // The conversion of a real outside of the range is undefined, so the range is
+  // tested first. For NaN the test is false, like every comparison with NaN.
   constexpr double kBelow = double{kLowest} - 1;
   constexpr double kAbove = double{kHighest} + 1;
   const bool fits = real > kBelow && real < kAbove;
@@ -70,13 +69,14 @@ std::int32_t IntegerFromText(std::string_view text) {
   if (negative || text.starts_with('+')) {
     text = WithoutLeadingSpace(text.substr(1));
   }
-  // The magnitude stops growing just above the limits.
-  constexpr std::int64_t kFarEnough = std::int64_t{kHighest} + 1;
+  // This limit is one more than the highest result, so the magnitude cannot
+  // overflow.
+  constexpr std::int64_t kMagnitudeLimit = std::int64_t{kHighest} + 1;
   std::int64_t magnitude = 0;
   for (const char digit : text) {
     if (digit < '0' || digit > '9') break;
     magnitude = magnitude * 10 + (digit - '0');
-    if (magnitude > kFarEnough) magnitude = kFarEnough;
+    if (magnitude > kMagnitudeLimit) magnitude = kMagnitudeLimit;
   }
   if (negative) return static_cast<std::int32_t>(-magnitude);
   return magnitude > kHighest ? kHighest : static_cast<std::int32_t>(magnitude);

@@ -17,10 +17,10 @@ struct Owner {
   gid_t group = 0;
 };
 
-// The owner of the first component that does not belong to root; root when
-// there is none. A symbolic link counts as a component, because its owner
-// decides where the path leads. A file at the end does not count: its owner may
-// have no right to its folder.
+// Returns the owner of the first component of the path that does not belong to
+// root, or root if there is no such component. A symbolic link counts as a
+// component, because its owner decides where the path leads. A file at the end
+// does not count, because its owner may have no rights in the folder.
 Owner OwnerOfPlace(const std::string &path) {
   for (std::size_t end = 1; end != std::string::npos;) {
     end = path.find('/', end);
@@ -41,7 +41,8 @@ Owner OwnerOfPlace(const std::string &path) {
 
 namespace {
 
-// The functions of the C library would change the groups of every thread.
+// The system call is used because setgroups() of the C library would change the
+// groups of every thread.
 #if defined(SYS_setgroups32)
 constexpr long kSetGroups = SYS_setgroups32;
 #else
@@ -52,16 +53,18 @@ bool SetGroups(const std::vector<gid_t> &groups) {
   return syscall(kSetGroups, groups.size(), groups.data()) == 0;
 }
 
-// setfsuid() and setfsgid() do not report failures: for an invalid number they
-// change nothing and return the current one.
-constexpr auto kNobodyAtAll = static_cast<uid_t>(-1);
-uid_t CurrentUser() { return static_cast<uid_t>(setfsuid(kNobodyAtAll)); }
-gid_t CurrentGroup() { return static_cast<gid_t>(setfsgid(kNobodyAtAll)); }
+// setfsuid() and setfsgid() do not report failures. For an invalid number they
+// change nothing and return the current number, so a call with it reads the
+// current number.
+constexpr auto kInvalidId = static_cast<uid_t>(-1);
+uid_t CurrentUser() { return static_cast<uid_t>(setfsuid(kInvalidId)); }
+gid_t CurrentGroup() { return static_cast<gid_t>(setfsgid(kInvalidId)); }
 
 }  // namespace
 
-// With another file system user the kernel also takes from the thread the
-// capabilities that override permissions, until root's number returns.
+// While the file system user is not root, the thread also lacks the
+// capabilities that override file permissions: the kernel removes them in
+// setfsuid() and restores them when the user is root again.
 OwnerIdentity::OwnerIdentity(const std::string &path) {
   if (geteuid() != 0) return;
   const Owner owner = OwnerOfPlace(path);
@@ -90,11 +93,12 @@ OwnerIdentity::~OwnerIdentity() {
 
 namespace {
 
-// The number that ends a thread's own identity.
+// With this number, the thread has the identity of the process again.
 constexpr auto kNoIdentity = static_cast<uid_t>(-101);
 
 bool SetThreadIdentity(uid_t user, gid_t group) {
-// This function is deprecated, but no other one does this for a single thread.
+// pthread_setugid_np() is deprecated, but no other function changes the
+// identity of a single thread.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wdeprecated-declarations"
   return pthread_setugid_np(user, group) == 0;
@@ -103,7 +107,8 @@ bool SetThreadIdentity(uid_t user, gid_t group) {
 
 }  // namespace
 
-// While a thread has an identity of its own, geteuid() returns that one.
+// While a thread has its own identity, geteuid() returns the user of that
+// identity. So a nested object changes nothing.
 OwnerIdentity::OwnerIdentity(const std::string &path) {
   if (geteuid() != 0) return;
   const Owner owner = OwnerOfPlace(path);

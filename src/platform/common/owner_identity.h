@@ -9,15 +9,16 @@
 
 namespace ztk::platform {
 
-// While it exists, this thread accesses files as the user who owns the place of
-// a file. Changes something only when the effective user is root and the place
-// belongs to someone else, as after `sudo` with the user's HOME. Files and
-// folders that root creates there then belong to the user, and a symbolic link
-// of that user gives root no more access than the user has.
+// While this object exists, its thread accesses files as the owner of a path.
+// The owner is the user who owns the first component of the path that does not
+// belong to root: this user controls everything below that component.
 //
-// The place belongs to the owner of the first component of the path, counted
-// from the top, that does not belong to root: this user controls everything
-// below it. Other threads keep their identity. May be nested for one path.
+// The identity changes only if the effective user is root and the owner is
+// another user, for example after `sudo` with the HOME of a user. Then the
+// files and folders that root creates belong to the owner, and a symbolic link
+// of the owner gives root no more access than the owner has.
+//
+// Other threads keep their identity. Objects for the same path may be nested.
 class OwnerIdentity {
  public:
   explicit OwnerIdentity(const std::string &path);
@@ -25,8 +26,8 @@ class OwnerIdentity {
   OwnerIdentity(const OwnerIdentity &) = delete;
   OwnerIdentity &operator=(const OwnerIdentity &) = delete;
 
-  // False when the system refused the identity: then the files must not be
-  // accessed.
+  // False if the system refused to change the identity. The caller must not
+  // access the files then.
   bool good() const { return good_; }
 
  private:

@@ -6,8 +6,8 @@
 
 namespace ztk::platform {
 
-// Suspends the calling thread. In a source of its own, so that the fuzz targets
-// can do without the pauses.
+// Suspends the calling thread. This function has a source file of its own, so
+// that the fuzz targets can replace it by one that does not wait.
 void Pause(std::chrono::microseconds time);
 
 }  // namespace ztk::platform

@@ -21,7 +21,7 @@
 namespace ztk::platform {
 namespace {
 
-// Copies a regular file into a new one, which is removed on failure.
+// Copies a regular file to a new file. Removes the new file on failure.
 bool CopyFile(const std::string &from, const std::string &to) {
   const FileDescriptor source(
       open(from.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
@@ -51,14 +51,15 @@ bool CopyFile(const std::string &from, const std::string &to) {
   return false;
 }
 
-// The old file under its second name.
-struct Kept {
-  std::string name;    // empty when there was none to keep
-  bool moved = false;  // and has lost its first name
+// The old file after KeepBeside().
+struct KeptFile {
+  std::string name;    // its additional name; empty if there was no old file
+  bool moved = false;  // true if the file no longer has its first name
 };
 
-// Keeps the file under a second, numbered name. False when it cannot.
-bool KeepBeside(const std::string &file, Kept *kept) {
+// Keeps the content of the file under the first free numbered name. Returns
+// false if that is not possible.
+bool KeepBeside(const std::string &file, KeptFile *kept) {
   constexpr int kMaxKept = 1000;
   for (int number = 1; number <= kMaxKept; ++number) {
     const std::string name = file + ".unreadable-" + std::to_string(number);
@@ -74,7 +75,8 @@ bool KeepBeside(const std::string &file, Kept *kept) {
       return true;
     }
     if (errno == EEXIST) continue;
-    // A file of another user in a folder of this user.
+    // The file belongs to another user, and only the folder to this user: the
+    // file can be renamed, but neither linked nor read.
     *kept = {.name = name, .moved = true};
     return rename(file.c_str(), name.c_str()) == 0;
   }
@@ -83,11 +85,11 @@ bool KeepBeside(const std::string &file, Kept *kept) {
 
 // Moves the complete new file to the place of the old one. Returns 0 or the
 // error number.
-int PutInPlace(const std::string &fresh, const std::string &file,
+int PutInPlace(const std::string &newFile, const std::string &file,
                bool keepOld) {
-  Kept kept;
+  KeptFile kept;
   if (keepOld && !KeepBeside(file, &kept)) return errno;
-  if (std::rename(fresh.c_str(), file.c_str()) == 0) return 0;
+  if (std::rename(newFile.c_str(), file.c_str()) == 0) return 0;
   const int error = errno;
   if (kept.moved) {
     std::rename(kept.name.c_str(), file.c_str());
@@ -97,9 +99,9 @@ int PutInPlace(const std::string &fresh, const std::string &file,
   return error;
 }
 
-// 0 when there is nothing at the place or a regular file, which *old then
-// describes; else the error number.
-int LookAtOldFile(const std::string &file, std::optional<struct stat> *old) {
+// Returns 0 if there is no file at the path, or a regular file, which *old then
+// describes. Returns the error number otherwise.
+int CheckOldFile(const std::string &file, std::optional<struct stat> *old) {
   struct stat status = {};
   if (lstat(file.c_str(), &status) != 0) return errno == ENOENT ? 0 : errno;
   if (S_ISDIR(status.st_mode)) return EISDIR;
@@ -108,27 +110,28 @@ int LookAtOldFile(const std::string &file, std::optional<struct stat> *old) {
   return 0;
 }
 
-// True when the file is still the one that `expected` describes.
+// Returns true if the file is still the one that `expected` describes.
 bool IsStill(const struct stat &expected, const std::string &file) {
   struct stat now = {};
   return lstat(file.c_str(), &now) == 0 && IsSameFile(expected, now);
 }
 
-// Locks the file that is to be replaced. Not every process holds the lock of
-// the folder, and of several that have read the same file, only one may find it
-// unchanged and replace it. The others then hold the lock of a file that has
-// lost its name.
+// Locks the old file before it is compared with `expected` and replaced,
+// because not every process holds the lock of the folder. If several processes
+// have read the same file, only one of them finds it unchanged and replaces it.
+// The others then lock a file that no longer has the name, and find another
+// file there.
 FileDescriptor LockOldFile(const std::string &file,
                            const struct stat *expected) {
-  constexpr std::chrono::milliseconds kPatience{250};
+  constexpr std::chrono::milliseconds kMaxWait{250};
   if (expected == nullptr) return FileDescriptor();
   FileDescriptor old(
       open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
-  if (old.valid()) LockExclusively(old.get(), kPatience);
+  if (old.valid()) LockExclusively(old.get(), kMaxWait);
   return old;
 }
 
-// Answers 0 or the error number.
+// Returns 0 or the error number.
 int Replace(const std::string &path, std::string_view content, bool keepOld,
             const struct stat *expected) {
   const SignalBlocker blocker;
@@ -136,24 +139,24 @@ int Replace(const std::string &path, std::string_view content, bool keepOld,
   const std::optional<std::string> file = FollowLinks(path);
   if (!file) return errno;
   std::optional<struct stat> old;
-  int error = LookAtOldFile(*file, &old);
+  int error = CheckOldFile(*file, &old);
   if (error != 0) return error;
 
-  const NewFileModel model = {
+  const NewFileProperties properties = {
       .old = old ? &*old : nullptr,
-      // Perhaps the old file could not be read because of its mode.
-      .moreMode = keepOld ? mode_t{S_IRUSR | S_IWUSR} : mode_t{0}};
-  std::string fresh;
-  error = WriteNewFile(*file, content, model, &fresh);
+      // The old file may have been unreadable because of its mode.
+      .addedMode = keepOld ? mode_t{S_IRUSR | S_IWUSR} : mode_t{0}};
+  std::string newFile;
+  error = WriteNewFile(*file, content, properties, &newFile);
   if (error != 0) return error;
   const FileDescriptor lock = LockOldFile(*file, expected);
   const bool changed = expected != nullptr && !IsStill(*expected, *file);
-  error = changed ? ESTALE : PutInPlace(fresh, *file, keepOld);
+  error = changed ? ESTALE : PutInPlace(newFile, *file, keepOld);
   if (error != 0) {
-    unlink(fresh.c_str());
+    unlink(newFile.c_str());
     return error;
   }
-  // The new file is in its place: a later failure does not change that.
+  // The file is replaced already, so a failure to sync is not an error.
   SyncAndCleanFolderOf(*file);
   return 0;
 }

@@ -6,10 +6,10 @@
 
 namespace ztk::platform {
 
-// As long as an object of this class exists, it blocks two kinds of signals in
-// its thread. The signals that ask a program to end arrive after that, so that
-// no unfinished file remains. SIGXFSZ, which a write raises when the file would
-// become too large, is discarded, because by default it ends the process.
+// While this object exists, it blocks two kinds of signals in its thread. The
+// signals that ask a program to end are delivered when the object is destroyed,
+// so that no unfinished file remains. SIGXFSZ, which a write raises if the file
+// would become too large, is discarded, because by default it ends the process.
 class SignalBlocker {
  public:
   SignalBlocker() {
@@ -27,8 +27,7 @@ class SignalBlocker {
       sigset_t fileSize;
       sigemptyset(&fileSize);
       sigaddset(&fileSize, SIGXFSZ);
-      // A write raises it in this thread, so it is pending already and
-      // sigwait() does not wait.
+      // The signal is pending already, so sigwait() returns at once.
       int taken = 0;
       sigwait(&fileSize, &taken);
     }

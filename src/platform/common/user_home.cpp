@@ -12,7 +12,8 @@
 namespace ztk::platform {
 namespace {
 
-// The home of the user in the password database; empty without an entry.
+// Returns the user's home folder from the password database. Empty if the user
+// has no entry.
 std::string HomeFromPasswordDatabase() {
   constexpr std::size_t kLargestEntry = std::size_t{1} << 20;
   for (std::size_t size = 1024; size <= kLargestEntry; size *= 2) {

@@ -6,8 +6,8 @@
 
 namespace ztk::platform {
 
-// The home folder of the user: HOME if it is an absolute path, else the one in
-// the password database. Empty when there is none.
+// Returns the home folder of the user: HOME if it is an absolute path, else the
+// folder in the password database. Empty if there is none.
 std::string UserHome();
 
 }  // namespace ztk::platform

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Texts of systems on which ZTKTextRef is UTF-8. A made text is allocated with
-// malloc().
+// The functions of text.h for systems on which ZTKTextRef is a UTF-8 string. A
+// new text is allocated with malloc().
 #include "platform/text.h"
 
 #include <algorithm>
@@ -24,7 +24,8 @@ ZTKTextRef Make(std::string_view content) {
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
-// Splits the run of digits off the front; leading zeros are left out.
+// Removes the digits at the beginning of `rest` and returns them without
+// leading zeros.
 std::string_view TakeNumber(std::string_view *rest) {
   std::size_t end = 0;
   while (end < rest->size() && IsDigit((*rest)[end])) ++end;
@@ -34,8 +35,8 @@ std::string_view TakeNumber(std::string_view *rest) {
   return digits;
 }
 
-// Of two numbers without leading zeros the longer one is greater. So digits are
-// compared, and no number can overflow.
+// Compares two numbers without leading zeros. The number with more digits is
+// greater. The digits are compared as text, so no number can overflow.
 int CompareNumbers(std::string_view first, std::string_view second) {
   if (first.size() != second.size()) {
     return first.size() < second.size() ? -1 : 1;
@@ -43,8 +44,8 @@ int CompareNumbers(std::string_view first, std::string_view second) {
   return first.compare(second);
 }
 
-// Fills "%@" from `texts` in turn and "%d" with the number; "%%" is a percent
-// sign. A "%@" without a text gives nothing.
+// The arguments of a format. Each "%@" is replaced by the next text, "%d" by
+// the number and "%%" by a percent sign. A "%@" without a text is removed.
 struct Arguments {
   const ZTKTextRef *texts;
   std::size_t textCount;
@@ -83,7 +84,8 @@ ZTKTextRef Fill(ZTKTextRef format, const Arguments &arguments) try {
 
 }  // namespace
 
-// Only ASCII letters are mapped: the rules for others depend on the language.
+// Only ASCII letters are mapped, because the rules for other letters depend on
+// the language.
 ZTKTextRef UpperCase(ZTKTextRef text) try {
   if (text == nullptr) return nullptr;
   std::string upper(text);
@@ -126,7 +128,7 @@ ZTKTextRef DotComponent(ZTKTextRef text, unsigned position) {
   return Make(rest.substr(0, rest.find('.')));
 }
 
-// No text at all is below every text.
+// A null text is less than every other text.
 int CompareNumerically(ZTKTextRef first, ZTKTextRef second) {
   if (first == nullptr || second == nullptr) {
     return (first != nullptr) - (second != nullptr);
@@ -140,7 +142,8 @@ int CompareNumerically(ZTKTextRef first, ZTKTextRef second) {
       if (order != 0) return order;
       continue;
     }
-    // Bytes are compared as unsigned numbers: this sorts UTF-8 by code points.
+    // string_view compares bytes as unsigned numbers, so UTF-8 is sorted by
+    // code points.
     const int order = left.substr(0, 1).compare(right.substr(0, 1));
     if (order != 0) return order;
     left.remove_prefix(1);
@@ -149,6 +152,6 @@ int CompareNumerically(ZTKTextRef first, ZTKTextRef second) {
   return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
 }
 
-void Release(ZTKTextRef made) { std::free(const_cast<char *>(made)); }
+void Release(ZTKTextRef text) { std::free(const_cast<char *>(text)); }
 
 }  // namespace ztk::platform::text

@@ -82,8 +82,8 @@ ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
       if (texts == nullptr) continue;
       const ZTKTextRef text = property_list::TextValue(texts, key);
       property_list::Release(texts);
-      // Only the first language that has the table is used: when this table
-      // does not have the key, the result is the key.
+      // Only the first language that has the table is used. If this table does
+      // not contain the key, the result is the key.
       return text != nullptr ? text : common::Intern(key);
     }
   }

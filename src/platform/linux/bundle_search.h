@@ -7,8 +7,9 @@
 
 namespace ztk::platform::bundle {
 
-// The path itself when it is a folder; else the folder of the same name in the
-// maker's folder below `dataFolder`; empty when neither exists.
+// Returns the path itself if it is a folder. Otherwise returns the folder of
+// the same name in the maker's folder below `dataFolder`. Empty if neither
+// exists.
 std::string FindBundle(std::string_view path, std::string_view dataFolder);
 
 }  // namespace ztk::platform::bundle

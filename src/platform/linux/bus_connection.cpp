@@ -15,8 +15,8 @@ bool IsDrained(sd_bus *bus) {
   return sd_bus_get_n_queued_write(bus, &unsent) >= 0 && unsent == 0;
 }
 
-// Works on the connection until it is in the wanted state. Returns 0, or an
-// error number when the connection breaks or the deadline passes (ETIMEDOUT).
+// Processes the connection until `reached` returns true. Returns 0, or an error
+// number if the connection breaks or the deadline passes (ETIMEDOUT).
 int WorkUntil(bool (*reached)(sd_bus *), sd_bus *bus, std::uint64_t deadline) {
   while (!reached(bus)) {
     const int progress = sd_bus_process(bus, nullptr);
@@ -30,7 +30,7 @@ int WorkUntil(bool (*reached)(sd_bus *), sd_bus *bus, std::uint64_t deadline) {
   return 0;
 }
 
-// Returns null, and writes the cause to *error unless `error` is null.
+// Writes the cause to *error unless `error` is null. Returns null.
 OwnedBus NoBus(int cause, int *error) {
   if (error != nullptr) *error = cause;
   return nullptr;
@@ -45,7 +45,7 @@ std::uint64_t Now() {
          static_cast<std::uint64_t>(now.tv_nsec) / 1'000;
 }
 
-std::uint64_t PatienceEnds() { return Now() + kPatience; }
+std::uint64_t WaitDeadline() { return Now() + kMaxWait; }
 
 OwnedBus ConnectToSessionBus(std::uint64_t deadline, int *error) {
   if (SdBus() == nullptr) return NoBus(ENOSYS, error);
@@ -54,7 +54,7 @@ OwnedBus ConnectToSessionBus(std::uint64_t deadline, int *error) {
     return NoBus(-result, error);
   }
   OwnedBus bus(opened);
-  // A library must not end its program when the bus ends.
+  // The end of the bus must not end the program that uses this library.
   sd_bus_set_exit_on_disconnect(bus.get(), 0);
   const int result = WorkUntil(IsReady, bus.get(), deadline);
   if (result != 0) return NoBus(result, error);

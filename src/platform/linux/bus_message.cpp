@@ -9,8 +9,9 @@ namespace ztk::platform::notification_center {
 
 namespace {
 
-// Name, record, and whether it has to be delivered immediately. The last one is
-// for receivers that can be suspended; the observer of this library never is.
+// The body has three parts: the name, the record, and whether the notification
+// has to be delivered immediately. The third part is for receivers that can be
+// suspended. The observer of this library ignores it.
 constexpr char kSignature[] = "sa{si}b";
 constexpr char kRecord[] = "{si}";
 constexpr char kEntry[] = "si";
@@ -45,8 +46,8 @@ bool ReadRecord(sd_bus_message *message, UserInfo *userInfo) {
   return more == 0 && sd_bus_message_exit_container(message) >= 0;
 }
 
-// True when the text can be written between apostrophes unchanged. The bus and
-// sd-bus do not escape apostrophes and backslashes in the same way.
+// Returns true if the text can be written between apostrophes without escapes.
+// The bus and sd-bus escape apostrophes and backslashes differently.
 bool CanBeQuoted(ZTKTextRef text) {
   return std::strpbrk(text, "'\\") == nullptr;
 }

@@ -19,7 +19,8 @@ inline constexpr char kBusInterface[] =
     "com.tarvix.DistributedNotificationCenter";
 inline constexpr char kBusMember[] = "Notification";
 
-// Holds are counted without a lock: a record is used by one thread only.
+// The references are counted without a lock, because only one thread uses a
+// record.
 struct UserInfo {
   struct Number {
     std::string key;
@@ -29,17 +30,18 @@ struct UserInfo {
   std::vector<Number> numbers;
 };
 
-// Makes the unsent signal of a notification; the caller owns it. Null when the
-// bus cannot transport it, for example a name that is not UTF-8.
+// Makes the signal of a notification but does not send it. The caller owns the
+// signal. Returns null if a signal cannot contain the notification, for example
+// because the name is not UTF-8.
 sd_bus_message *MakeMessage(sd_bus *bus, ZTKTextRef name,
                             const UserInfo *userInfo, Delivery delivery);
 
-// Reads the record of a signal, from its start; the caller owns one hold. Null
-// when the signal does not come from this library or has another name.
+// Reads the record of a signal. The caller owns one reference to the record.
+// Returns null if the signal has another form or another name.
 UserInfo *ReadMessage(sd_bus_message *message, ZTKTextRef name);
 
-// The match rule with which the bus delivers the notifications of a name. It
-// may match other names too.
+// Returns the match rule for the notifications of a name. The rule may match
+// other names too, so ReadMessage() compares the name.
 std::string MatchRule(ZTKTextRef name);
 
 }  // namespace ztk::platform::notification_center

@@ -10,37 +10,39 @@ namespace ztk::platform::notification_center {
 
 namespace {
 
-// GLib allocates it; its first member is the GSource.
+// The event source of a connection. GLib allocates it and requires that its
+// first member is the GSource.
 struct BusSource {
   GSource base;
   sd_bus *bus;
-  gpointer polled;      // the connection's descriptor in the context's poll
-  GIOCondition events;  // what it is polled for
+  gpointer polled;      // GLib's tag for the descriptor of the connection
+  GIOCondition events;  // the events for which the descriptor is polled
 };
 
 BusSource *FromBase(GSource *source) {
   return reinterpret_cast<BusSource *>(source);
 }
 
-// Below 0 once the connection is broken.
+// Returns a number below 0 if the connection is broken.
 int WantedEvents(sd_bus *bus, GIOCondition *events) {
   const int wanted = sd_bus_get_events(bus);
-  // GLib's bits are those of poll().
+  // GIOCondition has the same bits as poll().
   if (wanted >= 0) *events = static_cast<GIOCondition>(wanted);
   return wanted;
 }
 
-// The time in milliseconds until the connection has to be processed: -1 for no
-// limit; 0 when it has work that its descriptor does not show, for example
-// messages that arrived while a call waited for its answer.
+// Returns the time in milliseconds until the connection has to be processed, or
+// -1 for no limit. The time is 0 if poll() would not show that there is
+// something to process, for example a message that arrived while a method call
+// waited for its reply.
 gint IdleMilliseconds(sd_bus *bus) {
   std::uint64_t due = 0;
   if (sd_bus_get_timeout(bus, &due) < 0) return 0;
   if (due == UINT64_MAX) return -1;
   const std::uint64_t now = Now();
   if (due <= now) return 0;
-  // Rounded up, so that the loop does not spin during the last part of a
-  // millisecond.
+  // The time is rounded up. Otherwise the loop would run without a pause during
+  // the last part of a millisecond.
   const std::uint64_t milliseconds = (due - now + 999) / 1000;
   return milliseconds < G_MAXINT ? static_cast<gint>(milliseconds) : G_MAXINT;
 }
@@ -48,10 +50,11 @@ gint IdleMilliseconds(sd_bus *bus) {
 gboolean Prepare(GSource *base, gint *timeout) {
   BusSource *source = FromBase(base);
   GIOCondition events{};
-  // A broken connection is ready: dispatching it removes it.
+  // A broken connection counts as ready, because Dispatch() then removes its
+  // source.
   if (WantedEvents(source->bus, &events) < 0) return TRUE;
-  // A modification wakes the context up. If it were made each time, the context
-  // would never wait.
+  // g_source_modify_unix_fd() wakes the context up, so it is called only if the
+  // events have changed. Otherwise the context would never wait.
   if (events != source->events) {
     g_source_modify_unix_fd(base, source->polled, events);
     source->events = events;
@@ -60,21 +63,22 @@ gboolean Prepare(GSource *base, gint *timeout) {
   return *timeout == 0;
 }
 
-// One message at a time, so that the program's other sources run between the
-// messages of a burst. A callback that runs the loop gets the next notification
-// when it has returned: GLib does not dispatch a source from within itself.
+// Processes one message, so that other sources of the program can run between
+// many messages. If a callback itself runs the event loop, the next
+// notification is delivered only after the callback has returned, because GLib
+// does not dispatch a source while it is being dispatched.
 gboolean Dispatch(GSource *base, GSourceFunc /*callback*/, gpointer /*data*/) {
   sd_bus *bus = FromBase(base)->bus;
   if (sd_bus_process(bus, nullptr) < 0) return G_SOURCE_REMOVE;
-  // Removed now and not in the next iteration, because sd-bus is about to close
-  // the polled descriptor.
+  // The source of a closed connection is removed at once, because sd-bus closes
+  // the descriptor that GLib polls.
   return sd_bus_is_open(bus) > 0 ? G_SOURCE_CONTINUE : G_SOURCE_REMOVE;
 }
 
 void Finalize(GSource *base) { BusCloser()(FromBase(base)->bus); }
 
-// Not const, because GLib requires that. Its address identifies the sources of
-// this library.
+// GLib requires that this variable is not const. Its address identifies the
+// sources of this library.
 GSourceFuncs sourceFuncs = {.prepare = Prepare,
                             .check = nullptr,
                             .dispatch = Dispatch,
@@ -87,18 +91,19 @@ GSource *Find(GMainContext *context) {
                                                        &sourceFuncs);
 }
 
-// The context owns the source. Null when there is no bus.
+// Connects to the session bus and adds the connection to the context, which
+// owns the source. Returns null if there is no bus.
 GSource *Attach(GMainContext *context) {
-  OwnedBus bus = ConnectToSessionBus(PatienceEnds());
+  OwnedBus bus = ConnectToSessionBus(WaitDeadline());
   if (bus == nullptr) return nullptr;
   const int descriptor = sd_bus_get_fd(bus.get());
   GIOCondition events{};
   if (descriptor < 0 || WantedEvents(bus.get(), &events) < 0) return nullptr;
-  sd_bus_set_method_call_timeout(bus.get(), kPatience);
+  sd_bus_set_method_call_timeout(bus.get(), kMaxWait);
 
   GSource *base = g_source_new(&sourceFuncs, guint{sizeof(BusSource)});
   g_source_set_name(base, "ztk notifications");
-  // GLib finds only sources that have callback data.
+  // Find() finds only sources that have callback data.
   g_source_set_callback(base, nullptr, &sourceFuncs, nullptr);
   BusSource *source = FromBase(base);
   source->bus = bus.release();
@@ -116,8 +121,7 @@ int Receive(sd_bus_message *message, void *userData, sd_bus_error * /*error*/) {
     registration->code(registration->observer, userInfo);
     Release(userInfo);
   }
-  // Another result than 0 would prevent the delivery to the other
-  // registrations.
+  // With a result other than 0, sd-bus would not call the other registrations.
   return 0;
 }
 
@@ -143,15 +147,17 @@ bool AddRegistration(sd_bus *bus, std::unique_ptr<Registration> *registration) {
 
 void Register(GMainContext *context,
               std::unique_ptr<Registration> registration) {
-  // The connection may have ended, or may come from the parent process, and its
-  // context has not run since. So a second try is made with a new connection.
+  // The existing connection may be closed, or may belong to the parent process,
+  // without the context having noticed it. So there is a second try with a new
+  // connection.
   for (int tries = 0; tries < 2; ++tries) {
     GSource *source = Find(context);
     if (source == nullptr) source = Attach(context);
     if (source == nullptr) return;
     sd_bus *bus = FromBase(source)->bus;
     if (AddRegistration(bus, &registration)) return;
-    if (sd_bus_is_open(bus) > 0) return;  // the bus refuses or does not answer
+    // The connection works, but the bus refused the match or did not answer.
+    if (sd_bus_is_open(bus) > 0) return;
     g_source_destroy(source);
   }
 }

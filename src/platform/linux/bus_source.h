@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Receiving: a connection to the session bus that a GLib main context works
-// on, and the registrations on it.
+// Receives notifications: each GLib main context that needs one has a
+// connection to the session bus, with the registrations of the observers.
 #ifndef ZTK_PLATFORM_LINUX_BUS_SOURCE_H_
 #define ZTK_PLATFORM_LINUX_BUS_SOURCE_H_
 
@@ -14,7 +14,7 @@
 
 namespace ztk::platform::notification_center {
 
-// One observer of one name.
+// The registration of one observer for one name.
 struct Registration {
   void *observer;
   void (*code)(void *observer, const UserInfo *userInfo);
@@ -22,13 +22,14 @@ struct Registration {
 };
 
 // Makes the connection call the registration for each notification of its name.
-// Waits until the bus accepts. On success the connection owns the registration
-// and leaves it empty; on failure it is untouched.
+// Waits until the bus has accepted the match rule. On success the connection
+// owns the registration and *registration is empty. On failure *registration is
+// unchanged.
 bool AddRegistration(sd_bus *bus, std::unique_ptr<Registration> *registration);
 
-// Adds a registration to the context's connection, which is made on the first
-// call and belongs to the context. Only the thread that owns the context may
-// call it. Without a bus it does nothing.
+// Adds a registration to the connection of the context. The first call makes
+// the connection, which the context owns. Only the thread that owns the context
+// may call this function. Without a bus it does nothing.
 void Register(GMainContext *context,
               std::unique_ptr<Registration> registration);
 

@@ -6,9 +6,9 @@
 
 namespace ztk::platform {
 
-// While it exists, the calling thread reads and writes numbers as in the C
-// locale: in a locale with a decimal comma libplist would read 3.25 as 3. Other
-// threads and the locale of the program do not change.
+// While this object exists, the calling thread reads and writes numbers as in
+// the C locale. In a locale with a decimal comma, libplist would read 3.25
+// as 3. The locale of other threads and of the program does not change.
 class ScopedCLocale {
  public:
   ScopedCLocale() : previous_(uselocale(CLocale())) {}
@@ -17,8 +17,8 @@ class ScopedCLocale {
   ScopedCLocale &operator=(const ScopedCLocale &) = delete;
 
  private:
-  // Made once and kept until the process ends. If it is null, uselocale()
-  // changes nothing.
+  // The locale is made once and never freed. If it could not be made, it is
+  // null and uselocale() changes nothing.
   static locale_t CLocale() {
     static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
     return locale;

@@ -17,7 +17,7 @@ bool IsCodePoint(std::uint32_t number) {
   return number < 0xD800 || (number > 0xDFFF && number <= 0x10FFFF);
 }
 
-bool XmlHolds(std::uint32_t codePoint) {
+bool IsAllowedInXml(std::uint32_t codePoint) {
   if (codePoint < 0x20) {
     return codePoint == '\t' || codePoint == '\n' || codePoint == '\r';
   }
@@ -28,9 +28,10 @@ struct Character {
   std::size_t length;  // in bytes
   bool good;
 };
-constexpr Character kNone = {.length = 1, .good = false};
+constexpr Character kInvalidByte = {.length = 1, .good = false};
 
-// The first character; one invalid byte when it is not a character.
+// Returns the first character of the text, or kInvalidByte if the text does not
+// begin with valid UTF-8.
 Character FirstCharacter(std::string_view text) {
   const std::uint8_t lead = ByteAt(text, 0);
   std::size_t length = 1;
@@ -49,16 +50,16 @@ Character FirstCharacter(std::string_view text) {
     codePoint = lead & 0x1FU;
     lowest = 0x80;
   } else if (lead >= 0x80) {
-    return kNone;
+    return kInvalidByte;
   }
   for (std::size_t at = 1; at < length; ++at) {
     const std::uint8_t next = ByteAt(text, at);
-    if ((next & 0xC0U) != 0x80) return kNone;
+    if ((next & 0xC0U) != 0x80) return kInvalidByte;
     codePoint = codePoint << 6U | (next & 0x3FU);
   }
   // Overlong forms and surrogates are not UTF-8.
-  if (codePoint < lowest || !IsCodePoint(codePoint)) return kNone;
-  return {.length = length, .good = XmlHolds(codePoint)};
+  if (codePoint < lowest || !IsCodePoint(codePoint)) return kInvalidByte;
+  return {.length = length, .good = IsAllowedInXml(codePoint)};
 }
 
 }  // namespace

@@ -7,10 +7,11 @@
 
 namespace ztk::platform {
 
-// The text, in which U+FFFD replaces everything that XML 1.0 cannot contain:
-// each byte that is not UTF-8 (surrogates are not), U+FFFE and U+FFFF, and the
-// control characters below a space other than tab, line feed and carriage
-// return. A strict reader refuses the whole file because of one of them.
+// Returns the text with U+FFFD in place of everything that XML 1.0 cannot
+// contain: each byte that is not part of valid UTF-8 (surrogates are not
+// valid), U+FFFE, U+FFFF, and the control characters below U+0020 other than
+// tab, line feed and carriage return. One such character would make a strict
+// reader refuse the whole file.
 std::string CleanText(std::string_view text);
 
 }  // namespace ztk::platform

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The functions of GLib's main loop. The library is loaded when the first
-// callback is registered. A program that receives callbacks runs that loop, so
-// it has loaded the same library already: both use the soname.
+// The functions of GLib's main loop. GLib is loaded when the first callback is
+// registered. A program that receives callbacks runs this main loop, so it has
+// usually loaded GLib already. dlopen() then returns the same library, because
+// it is loaded by its soname.
 #ifndef ZTK_PLATFORM_LINUX_GLIB_LIBRARY_H_
 #define ZTK_PLATFORM_LINUX_GLIB_LIBRARY_H_
 
@@ -11,7 +12,7 @@
 
 #include "platform/linux/loaded_library.h"
 
-// All that are used.
+// The functions that this project uses.
 // clang-format off
 #define ZTK_FOR_EVERY_GLIB_FUNCTION(Do)             \
   Do(g_main_context_default)                        \
@@ -42,14 +43,15 @@ struct GLibFunctions {
   ZTK_FOR_EVERY_GLIB_FUNCTION(ZTK_LOADED_POINTER)
 };
 
-// The soname that is loaded.
+// The soname of the library.
 extern const char *const kGLibLibrary;
 
-// All of them, or null; see LoadedLibrary.
+// Returns all functions, or null if they cannot be loaded: see LoadedLibrary.
 const GLibFunctions *GLib();
 
-// May be called only after GLib() has found them. A function that has a
-// context, a source or a loop can rely on that.
+// Each function under its own name. It may be called only after GLib() has
+// returned the functions. This is certain for code that has a context, a source
+// or a loop.
 #define ZTK_DEFINE(name) ZTK_LOADED_FUNCTION(GLib(), name)
 ZTK_FOR_EVERY_GLIB_FUNCTION(ZTK_DEFINE)
 #undef ZTK_DEFINE

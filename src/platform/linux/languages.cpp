@@ -10,7 +10,7 @@ namespace {
 
 using std::string_view;
 
-// Older bundles name a folder by the English name of its language.
+// In older bundles, a folder has the English name of its language.
 struct OlderName {
   string_view language;
   string_view folder;
@@ -34,7 +34,7 @@ string_view FromEnvironment(const char *name) {
 }
 
 // "C.UTF-8" is the C locale with another character set.
-bool IsPlain(string_view locale) {
+bool IsCLocale(string_view locale) {
   return locale == "C" || locale == "POSIX" || locale.starts_with("C.");
 }
 
@@ -50,8 +50,9 @@ bool IsChinese(string_view language) {
   return language == "zh" || language == "yue";
 }
 
-// The folder for a form of Chinese: by script, else by the country. Cantonese
-// ("yue") is written in traditional characters.
+// Returns the folder for a form of Chinese, which depends on the script or the
+// country in the locale. Cantonese ("yue") is written in traditional
+// characters.
 string_view ChineseFolder(string_view language, string_view rest) {
   constexpr std::array<string_view, 5> kTraditionalForms = {"Hant", "hant",
                                                             "TW", "HK", "MO"};
@@ -82,12 +83,12 @@ void AddOnce(string_view name, std::vector<std::string> *names) {
 std::vector<std::string> PreferredLocales() {
   std::vector<std::string> locales;
   const string_view locale = MessagesLocale();
-  if (IsPlain(locale)) return locales;
+  if (IsCLocale(locale)) return locales;
 
   string_view list = FromEnvironment("LANGUAGE");
   while (!list.empty()) {
     const string_view entry = list.substr(0, list.find(':'));
-    if (IsPlain(entry)) return locales;
+    if (IsCLocale(entry)) return locales;
     if (!entry.empty()) locales.emplace_back(entry);
     list.remove_prefix(std::min(entry.size() + 1, list.size()));
   }
@@ -96,10 +97,12 @@ std::vector<std::string> PreferredLocales() {
 }
 
 std::vector<std::string> FolderNames(string_view locale) {
-  // Removes the character set and the modifier; "zh-Hant" is another spelling.
+  // Removes the character set and the modifier, and replaces "-" because
+  // "zh-Hant" is another spelling of "zh_Hant".
   std::string full(locale.substr(0, locale.find_first_of(".@")));
   std::replace(full.begin(), full.end(), '-', '_');
-  // A locale name must not lead to a folder outside of the bundle.
+  // A locale name with other characters could lead to a folder outside of the
+  // bundle.
   if (full.empty() ||
       !std::all_of(full.begin(), full.end(), IsLocaleCharacter)) {
     return {};

@@ -8,17 +8,18 @@
 
 namespace ztk::platform::bundle {
 
-// The languages that the user prefers, as locale names, best first: the list of
-// LANGUAGE, then the first of LC_ALL, LC_MESSAGES and LANG that is set. As with
-// gettext, LANGUAGE does not count when that locale is unset, "C" or "POSIX",
-// and such an entry in the list ends it. English is not in the list, because it
-// always comes last.
+// Returns the languages that the user prefers as locale names, the best first:
+// the entries of LANGUAGE, then the first of LC_ALL, LC_MESSAGES and LANG that
+// is set. The rules are those of gettext: LANGUAGE is ignored if none of the
+// three is set or the locale is "C" or "POSIX". An entry "C" or "POSIX" in
+// LANGUAGE ends the list. English is not added, because callers use it last in
+// any case.
 std::vector<std::string> PreferredLocales();
 
-// Names of the <name>.lproj folders to look for, best first, for a locale such
-// as "pt_BR.UTF-8": with the country, with the script's usual country for
-// Chinese, the language alone, its English name as older bundles have it. Empty
-// for a text that is not a locale name.
+// Returns the names of the <name>.lproj folders for a locale such as
+// "pt_BR.UTF-8", the best first: the locale without the character set, for
+// Chinese "zh_TW" or "zh_CN", the language alone, the English name of the
+// language, which older bundles use. Empty if the text is not a locale name.
 std::vector<std::string> FolderNames(std::string_view locale);
 
 }  // namespace ztk::platform::bundle

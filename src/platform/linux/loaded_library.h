@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// Lazy loading of shared libraries (dlopen on first use), to keep the start of
-// programs short. A header lists the functions as
+// Lazy loading of shared libraries (dlopen on first use), which keeps the start
+// of programs short. For each library, a header lists the functions as
 //
 //   #define ZTK_FOR_EVERY_THING_FUNCTION(Do) Do(thing_new) Do(thing_free)
 //
-// and defines a struct of pointers and the functions under their own names from
-// that list; a source names the library that has them.
+// and uses the list to define a struct of pointers and the functions under
+// their own names. A source defines the LoadedLibrary with the soname.
 #ifndef ZTK_PLATFORM_LINUX_LOADED_LIBRARY_H_
 #define ZTK_PLATFORM_LINUX_LOADED_LIBRARY_H_
 
@@ -19,8 +19,8 @@
 
 namespace ztk::platform {
 
-// `Functions` is a struct of pointers. `findAll` fills it, and returns false
-// when a function is missing.
+// `Functions` is a struct of pointers. `findAll` sets the pointers, and returns
+// false if a function is missing.
 template <typename Functions>
 class LoadedLibrary {
  public:
@@ -30,24 +30,25 @@ class LoadedLibrary {
   constexpr LoadedLibrary(const char *soname, FindAll findAll)
       : soname_(soname), findAll_(findAll) {}
 
-  // All functions, until the process ends. Null when the library is missing,
-  // lacks a function, or cannot be loaded now; the next call tries again. Any
-  // thread may call this, also a child after fork().
+  // Returns the functions, which are valid until the process ends. Returns null
+  // if the library is missing, lacks a function or cannot be loaded now; the
+  // next call then tries again. May be called from any thread, and from a child
+  // process after fork().
   const Functions *Get() {
     const Functions *known = functions_.load();
     return known != nullptr ? known : Load();
   }
 
  private:
-  // The library is never closed, because objects that it made may exist as long
-  // as the process.
+  // The library is never closed, because objects of the library may exist until
+  // the process ends.
   const Functions *Load() {
     void *library = dlopen(soname_, RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr) return nullptr;
     auto functions = std::make_unique<Functions>();
     if (!findAll_(library, functions.get())) return nullptr;
     const Functions *known = nullptr;
-    // Another thread may have set it first.
+    // Another thread may have set functions_ first.
     return functions_.compare_exchange_strong(known, functions.get())
                ? functions.release()
                : known;
@@ -55,13 +56,14 @@ class LoadedLibrary {
 
   const char *soname_;
   FindAll findAll_;
-  // Set once, kept until the process ends. There is no lock: a lock that
-  // another thread holds during fork() would stay locked in the child.
+  // The pointer is set once and valid until the process ends. There is no lock,
+  // because a lock that another thread holds during fork() would stay locked in
+  // the child process.
   std::atomic<const Functions *> functions_ = nullptr;
 };
 
-// An entry of the section .note.dlopen, which tells packaging tools the
-// libraries that are loaded in this way. The format is systemd's "ELF dlopen
+// An entry of the section .note.dlopen, in which packaging tools find the
+// libraries that are loaded with dlopen(). The format is systemd's "ELF dlopen
 // metadata": an ELF note of the owner "FDO" whose content is JSON.
 template <std::size_t length>
 struct DlopenNote {
@@ -80,9 +82,10 @@ bool FindFunction(void *library, const char *name, Function *function) {
 
 }  // namespace ztk::platform
 
-// Defines the note about a loaded library: its soname, the feature that needs
-// it, and a sentence about the feature. All are string literals. The alignment
-// is explicit because gcc would use a larger one, with gaps between the notes.
+// Defines the note about a library. The arguments are string literals: the
+// soname, the feature that needs the library, and a description of the feature.
+// The alignment is explicit because gcc would use a larger one, which leaves
+// gaps between the notes.
 #define ZTK_DLOPEN_JSON(soname, feature, description)            \
   "[{\"feature\":\"" feature "\",\"description\":\"" description \
   "\",\"priority\":\"recommended\",\"soname\":[\"" soname "\"]}]"
@@ -93,18 +96,18 @@ bool FindFunction(void *library, const char *name, Function *function) {
           theDlopenNote{.json =                                         \
                             ZTK_DLOPEN_JSON(soname, feature, description)};
 
-// For the struct: the pointer to a function.
+// Declares the pointer to a function in the struct `Functions`.
 #define ZTK_LOADED_POINTER(name) decltype(&::name) name;
 
-// For the body of a FindAll: finds one function.
+// Finds one function, in the body of a FindAll function.
 #define ZTK_FIND_LOADED(name)                                           \
   if (!::ztk::platform::FindFunction(library, #name, &functions->name)) \
     return false;
 
-// Defines a function under its own name: inside the namespace, the name means
-// the loaded function, and the function of the header is not linked.
-// `functions` returns the struct, and must not be null when the function is
-// called.
+// Defines a function under its own name. Inside the namespace the name means
+// the loaded function, so the function in the header of the library is not
+// linked. `functions` is an expression for the struct. It must not be null when
+// the function is called.
 #define ZTK_LOADED_FUNCTION(functions, name)           \
   inline constexpr auto name = [](auto... arguments) { \
     return functions->name(arguments...);              \

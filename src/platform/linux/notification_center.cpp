@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Notifications are signals on the session bus. GLib's own D-Bus support would
-// start threads, which this library promises not to do; sd-bus does not.
+// Notifications are signals on the session bus. The library promises to start
+// no threads, so it uses sd-bus: GLib's own D-Bus support would start threads.
 #include "platform/notification_center.h"
 
 #include <cerrno>
@@ -18,7 +18,7 @@ namespace ztk::platform::notification_center {
 
 namespace {
 
-// A registration on its way to the thread that owns the context.
+// A registration that is passed to the thread that owns the context.
 struct Request {
   GMainContext *context;
   std::unique_ptr<Registration> registration;
@@ -60,20 +60,20 @@ std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
   return 0;
 }
 
-// The record is copied into the message during the call, so no hold of its own
-// is needed.
+// The message gets a copy of the record, so this function needs no reference of
+// its own.
 PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   if (name == nullptr) {
     return {.handover = Handover::Failed, .systemCode = ENOMEM};
   }
-  const std::uint64_t deadline = PatienceEnds();
-  // Each post uses a connection of its own: this works after fork() and in any
-  // thread, and takes no messages from the connection of the observers.
+  const std::uint64_t deadline = WaitDeadline();
+  // Each call of Post() uses a connection of its own. So it works after fork()
+  // and in any thread, and does not process messages for the observers.
   int error = 0;
   const OwnedBus bus = ConnectToSessionBus(deadline, &error);
   if (bus == nullptr) {
-    const bool isMute = error == ETIMEDOUT;
-    return {.handover = isMute ? Handover::Failed : Handover::NoCenter,
+    const bool timedOut = error == ETIMEDOUT;
+    return {.handover = timedOut ? Handover::Failed : Handover::NoCenter,
             .systemCode = error};
   }
   sd_bus_message *message = MakeMessage(bus.get(), name, userInfo, delivery);
@@ -87,7 +87,7 @@ PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
 }
 
 void AddObserver(void *observer, const Method &method, ZTKTextRef name) try {
-  // There is no name when memory has run out.
+  // The name is null if memory has run out.
   if (name == nullptr || GLib() == nullptr) return;
   GMainContext *context = g_main_context_get_thread_default();
   if (context == nullptr) context = g_main_context_default();
@@ -95,12 +95,12 @@ void AddObserver(void *observer, const Method &method, ZTKTextRef name) try {
       .context = context,
       .registration = std::make_unique<Registration>(Registration{
           .observer = observer, .code = method.code, .name = name})};
-  // Runs at once, unless another thread is running the context: then that
-  // thread registers, because it owns the connection.
+  // RunRequest() runs at once, unless another thread is running the context. In
+  // that case the other thread runs it, because it owns the connection.
   g_main_context_invoke_full(context, G_PRIORITY_DEFAULT, RunRequest, request,
                              DeleteRequest);
 } catch (const std::bad_alloc &) {
-  // Nothing is delivered then, as without a bus.
+  // Nothing will be delivered, as without a bus.
 }
 
 }  // namespace ztk::platform::notification_center

@@ -29,8 +29,8 @@ ZTKTextRef UserLibrary() try {
   if (config.empty()) return nullptr;
 
   const std::string library = config + kMakersFolder;
-  // A home that is shared with macOS keeps its settings in one place, unless
-  // settings were already written to the place of this system.
+  // A home folder may be shared with macOS. Both systems then use the folder of
+  // macOS, unless the folder of this system exists already.
   const bool shared = !home.empty() && !IsFolder(library) &&
                       IsFolder(home + "/Library/Preferences");
   const std::string chosen = shared ? home + "/Library" : library;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The scan of binary property lists: an 8-byte head, the objects, a table of
-// their offsets, a 32-byte trailer. Containers name their contents by index.
+// The scan of binary property lists. Such a file has a head of 8 bytes, the
+// objects, a table of their offsets, and a trailer of 32 bytes. Arrays and
+// dictionaries refer to their contents by index in the table.
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -17,10 +18,10 @@ using std::string_view;
 
 constexpr std::size_t kHeadSize = 8;
 constexpr std::size_t kTrailerSize = 32;
-// Seconds before and after 2001; about 30,000 years.
+// The largest distance of a date from 2001, in seconds: about 30,000 years.
 constexpr double kFarthestDate = 1e12;
 
-// The type, which is the upper half of the marker.
+// The type of an object is in the upper four bits of its marker byte.
 enum ObjectType : unsigned {
   kSimple = 0x0,
   kInteger = 0x1,
@@ -41,17 +42,18 @@ class BinaryScan {
   bool IsSafe() { return ReadTrailer() && Visit(root_, 1); }
 
  private:
-  // The expanded size of one object, with its contents.
+  // The expanded size of an object with its contents.
   struct Extent {
     enum { Unseen, Open, Closed } state = Unseen;
     std::size_t height = 0;
     std::size_t nodes = 1;
     std::size_t bytes = 0;
   };
-  // The position of the contents of an object.
+  // An object as its marker describes it. The contents start at `begin`.
   struct Object {
     unsigned type;
-    std::uint64_t size;  // the marker's lower half, or the number after it
+    std::uint64_t size;  // the lower four bits of the marker, or the number
+                         // that follows the marker
     std::size_t begin;
   };
 
@@ -63,8 +65,8 @@ class BinaryScan {
     return number;
   }
 
-  // True when `count` items of `itemSize` bytes fit between the object and
-  // the offset table.
+  // Returns true if `count` items of `itemSize` bytes fit between the start of
+  // the contents and the offset table.
   bool Fits(const Object &object, std::uint64_t count,
             std::size_t itemSize) const {
     return count <= (table_ - object.begin) / itemSize;
@@ -83,8 +85,9 @@ class BinaryScan {
   std::size_t referenceSize_ = 0;
   std::size_t root_ = 0;
   std::vector<Extent> extents_;
-  // The bytes that were read so far. Each object is a part of the expanded
-  // size, so the limits of that size also limit this scan when objects overlap.
+  // The number of references and of bytes in texts and data that were scanned
+  // so far. They have the limits of the expanded size, so the scan takes a
+  // limited time even if objects overlap.
   std::size_t references_ = 0;
   std::size_t leafBytes_ = 0;
 };
@@ -131,7 +134,8 @@ bool BinaryScan::ReadObject(std::size_t index, Object *object) const {
   return true;
 }
 
-// Visits a text or data of `unit` bytes each; a text must not hold a NUL.
+// Visits a text or data with items of `unit` bytes. A text must not contain a
+// NUL.
 bool BinaryScan::VisitBytes(const Object &object, std::size_t unit,
                             Extent *extent) {
   if (!Fits(object, object.size, unit)) return false;
@@ -157,7 +161,7 @@ bool BinaryScan::VisitLeaf(const Object &object, Extent *extent) {
       return (object.size == 2 || object.size == 3) &&
              Fits(object, 1, std::size_t{1} << object.size);
     case kDate:
-      // NaN fails the comparison, and so is refused too.
+      // NaN is refused too, because the comparison is false for it.
       return object.size == 3 && Fits(object, 1, 8) &&
              std::fabs(std::bit_cast<double>(Number(object.begin, 8))) <=
                  kFarthestDate;
@@ -167,7 +171,7 @@ bool BinaryScan::VisitLeaf(const Object &object, Extent *extent) {
     case kAsciiText:
       return VisitBytes(object, 1, extent);
     case kUtf16Text:
-      // libplist refuses an empty one.
+      // libplist refuses an empty text.
       return object.size > 0 && VisitBytes(object, 2, extent);
     default:
       return false;
@@ -200,8 +204,8 @@ bool BinaryScan::VisitReferences(const Object &object, std::size_t level,
   return true;
 }
 
-// Visits an object once and remembers its expanded size; the recursion ends at
-// kMaxDepth.
+// Scans an object and stores its expanded size. Each object is scanned once.
+// The recursion ends at kMaxDepth.
 bool BinaryScan::Visit(std::size_t index, std::size_t level) {
   Extent extent = extents_[index];
   if (extent.state == Extent::Open) return false;  // contains itself

@@ -18,7 +18,7 @@
 namespace ztk::platform::property_list {
 namespace {
 
-// Which of two entries with one key stays.
+// Which of two entries with the same key is kept.
 enum class SameKey { First, Last };
 
 // Copies a tree and cleans its texts and keys.
@@ -26,7 +26,7 @@ class CleanCopy {
  public:
   explicit CleanCopy(SameKey sameKey) : sameKey_(sameKey) {}
 
-  // The guards bound the depth of this recursion.
+  // IsSafeXml() and IsSafeBinary() limit the depth of this recursion.
   plist_t Of(plist_t node) {
     switch (plist_get_node_type(node)) {
       case PLIST_STRING: {
@@ -65,7 +65,7 @@ class CleanCopy {
     return copy;
   }
 
-  // Two keys can be the same also because they have been cleaned.
+  // Two different keys may become the same when they are cleaned.
   plist_t OfDictionary(plist_t dictionary) {
     plist_t copy = plist_new_dict();
     plist_dict_iter position = nullptr;
@@ -89,7 +89,7 @@ class CleanCopy {
   bool incomplete_ = false;
 };
 
-// The parsed root, owned by the caller, or null.
+// Returns the parsed root, which the caller owns, or null.
 plist_t Parse(std::string_view bytes) {
   const ScopedCLocale cLocale;
   plist_t root = nullptr;
@@ -105,14 +105,15 @@ plist_t Parse(std::string_view bytes) {
   return root;
 }
 
-// The content of a file with these bytes. When memory runs out, libplist leaves
-// entries out and reports no error; errno shows it.
+// Returns the content of a file with these bytes. If memory runs out, libplist
+// omits entries and reports no error, so errno is tested.
 FileContent ContentOf(std::string_view bytes) {
   FileContent content = {.result = {.state = ReadState::Damaged}};
   errno = 0;
   plist_t parsed = Parse(bytes);
   if (plist_get_node_type(parsed) == PLIST_DICT) {
-    // As Foundation does in each of the two forms.
+    // Foundation keeps the first entry of a binary file and the last entry of
+    // an XML file.
     CleanCopy copy(IsBinary(bytes) ? SameKey::First : SameKey::Last);
     content.result.state = ReadState::Read;
     content.root = copy.Of(parsed);

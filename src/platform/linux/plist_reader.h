@@ -11,23 +11,24 @@
 
 namespace ztk::platform::property_list {
 
-// The content of a file. Characters that XML cannot contain are replaced in its
-// texts and keys, so that neither a caller nor a written file gets them.
+// The content of a file. In its texts and keys, characters that XML cannot
+// contain are replaced, so that neither a caller nor a new file gets them.
 struct FileContent {
   ReadResult result;
-  // The dictionary when the file was read, else null. Owned by the caller.
+  // The dictionary if the file was read, else null. The caller owns it.
   plist_t root = nullptr;
-  // A character was replaced by U+FFFD: the file has more than `root`.
+  // True if a character was replaced by U+FFFD, so that `root` differs from the
+  // file.
   bool incomplete = false;
-  // Describes the file where there is one that could be opened.
+  // The status of the file if it was read completely.
   std::optional<struct stat> status = {};
 };
 
-// Reads a file. Another program may be copying over a file that does not parse.
-// So it is read again after short pauses, and counts as damaged when two
-// readings gave the same bytes and its last change is at least a quarter of a
-// second ago. A file that still changes after half a second is unavailable
-// (EBUSY).
+// Reads a file. If the file cannot be parsed, another program may still be
+// writing it, so it is read again after short pauses. It counts as damaged if
+// two readings returned the same bytes and the file has not changed for a
+// quarter of a second. A file that still changes after half a second is
+// unavailable (EBUSY).
 FileContent ReadContent(const char *path);
 
 }  // namespace ztk::platform::property_list

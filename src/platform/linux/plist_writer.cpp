@@ -12,10 +12,10 @@
 namespace ztk::platform::property_list {
 namespace {
 
-// A date in the form that strict readers accept: the year has four digits, to
-// which libplist does not pad it. A date after the year 9999 becomes the latest
-// one; a text that is not a date, which comes from the file that was read,
-// becomes the earliest one.
+// Returns a date in the form that strict readers accept. They require a year of
+// four digits, but libplist writes years before 1000 with fewer digits. A date
+// after the year 9999 becomes the latest date. A text that is not a date
+// becomes the earliest date; such a text comes from the file that was read.
 std::string StrictDate(std::string_view date) {
   constexpr std::string_view kEarliest = "0001-01-01T00:00:00Z";
   constexpr std::string_view kLatest = "9999-12-31T23:59:59Z";
@@ -29,7 +29,8 @@ std::string StrictDate(std::string_view date) {
   return good ? strict : std::string(kEarliest);
 }
 
-// A text cannot be confused with an element: "<" is written as "&lt;" in texts.
+// Rewrites the <date> elements. A text that contains "<date>" is not changed,
+// because libplist writes "<" as "&lt;" in texts.
 void MakeDatesStrict(std::string *xml) {
   constexpr std::string_view kOpen = "<date>";
   constexpr std::string_view kClose = "</date>";
@@ -52,7 +53,7 @@ void MakeDatesStrict(std::string *xml) {
 
 }  // namespace
 
-// libplist does not report that memory has run out; errno shows it.
+// libplist does not report that memory has run out, so errno is tested.
 std::string MakeXml(plist_t root) {
   const ScopedCLocale cLocale;
   errno = 0;

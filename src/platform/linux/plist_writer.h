@@ -8,7 +8,8 @@
 
 namespace ztk::platform::property_list {
 
-// The XML form of a tree; empty when it could not be made.
+// Returns the XML form of a property list, or an empty text if it could not be
+// made.
 std::string MakeXml(plist_t root);
 
 }  // namespace ztk::platform::property_list

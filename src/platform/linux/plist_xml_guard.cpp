@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// The XML scan. It need not know property lists, but must see the same tags as
-// libplist, or a file could hide nesting from it. So everything that two
-// scanners could read differently is refused: unpaired quotes inside a tag, a
-// "<" inside a tag, a name with odd characters.
+// The scan of XML property lists. It does not need to understand the elements,
+// but it has to find the same tags as libplist: otherwise a file could contain
+// nesting that the scan does not count. So it refuses everything that two
+// parsers may read differently: unpaired quotes in a tag, a "<" in a tag, a tag
+// name with unusual characters.
 #include "platform/linux/plist_guards.h"
 
 #include <algorithm>
@@ -15,8 +16,8 @@ using std::string_view;
 
 constexpr string_view kWhiteSpace = " \t\r\n";
 
-// Ranges, not a text to be searched: every tag of every file that is read or
-// written goes through here.
+// The comparison of ranges is faster than a search in a text of all characters.
+// This function is called for every tag of every file.
 bool IsNameCharacter(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
          (c >= '0' && c <= '9') || c == '_' || c == ':' || c == '.' || c == '-';
@@ -26,8 +27,8 @@ bool QuotesPairUp(string_view text) {
   return std::count(text.begin(), text.end(), '"') % 2 == 0;
 }
 
-// Removes the first `size` bytes, and the end of `endSize` bytes after them,
-// from `rest`. False when there is no such end.
+// Removes the first `size` bytes from `rest` and returns them in *taken. Also
+// removes the `endSize` bytes after them. Returns false if `size` is npos.
 bool Take(std::size_t size, std::size_t endSize, string_view *rest,
           string_view *taken) {
   if (size == string_view::npos) return false;
@@ -36,8 +37,8 @@ bool Take(std::size_t size, std::size_t endSize, string_view *rest,
   return true;
 }
 
-// Removes everything up to and including `end` from the front of `rest`, and
-// returns the text before `end`. False when there is no `end`.
+// Removes the beginning of `rest` up to and including `end`, and returns the
+// text before `end` in *taken. Returns false if `rest` does not contain `end`.
 bool TakeUntil(string_view end, string_view *rest, string_view *taken) {
   return Take(rest->find(end), end.size(), rest, taken);
 }
@@ -51,34 +52,34 @@ bool TakePrefix(string_view prefix, string_view *rest) {
   return true;
 }
 
-enum class Tag { Opening, Closing, Empty, Odd };
+enum class Tag { Opening, Closing, Empty, Malformed };
 
-// The kind of a tag, from the text between "<" and ">".
+// Returns the kind of a tag. `tag` is the text between "<" and ">".
 Tag KindOf(string_view tag) {
   bool quoted = false;
   for (const char character : tag) {
-    if (character == '<') return Tag::Odd;
+    if (character == '<') return Tag::Malformed;
     if (character == '"') quoted = !quoted;
   }
-  if (quoted) return Tag::Odd;
+  if (quoted) return Tag::Malformed;
   const bool closing = TakePrefix("/", &tag);
   const bool empty = !tag.empty() && tag.back() == '/';
   if (empty) tag.remove_suffix(1);
 
   const auto nameEnd =
       std::find_if_not(tag.begin(), tag.end(), IsNameCharacter);
-  if (nameEnd == tag.begin()) return Tag::Odd;
+  if (nameEnd == tag.begin()) return Tag::Malformed;
   if (nameEnd != tag.end() && kWhiteSpace.find(*nameEnd) == string_view::npos) {
-    return Tag::Odd;
+    return Tag::Malformed;
   }
-  if (closing && empty) return Tag::Odd;
+  if (closing && empty) return Tag::Malformed;
   if (closing) return Tag::Closing;
   return empty ? Tag::Empty : Tag::Opening;
 }
 
-// Removes a comment, declaration or instruction from the front of `rest`, which
-// begins after a "<". *taken tells whether there was one; false when it is
-// malformed.
+// Removes a comment, character section, declaration or instruction from the
+// beginning of `rest`, which starts after a "<". Sets *taken to whether there
+// was one. Returns false if it is malformed.
 bool TakeMarkup(string_view *rest, bool *taken) {
   *taken = rest->starts_with('!') || rest->starts_with('?');
   if (!*taken) return true;
@@ -95,9 +96,9 @@ bool TakeMarkup(string_view *rest, bool *taken) {
          content.find_first_of("[<") == string_view::npos;
 }
 
-// libplist keeps only the text before the first comment in these elements.
+// Returns true if libplist ignores the text after a comment in this element.
 // `tag` is the last tag that was read.
-bool LosesWhatFollowsMarkup(string_view tag) {
+bool LosesTextAfterMarkup(string_view tag) {
   const string_view name = tag.substr(0, tag.find_first_of(kWhiteSpace));
   return name == "data" || name == "date";
 }
@@ -112,7 +113,8 @@ bool IsSafeXml(string_view bytes) {
   const std::size_t start = bytes.find_first_not_of(kWhiteSpace);
   if (start == string_view::npos || bytes[start] != '<') return false;
 
-  // Two more than arrays and dictionaries: <plist> around, a value inside.
+  // Besides arrays and dictionaries, two more elements can be open: the <plist>
+  // around them and one value inside.
   constexpr std::size_t kMaxOpen = kMaxDepth + 2;
   std::size_t open = 0;
   string_view rest = bytes;
@@ -121,7 +123,7 @@ bool IsSafeXml(string_view bytes) {
   while (TakeUntil('<', &rest, &text)) {
     bool isMarkup = false;
     if (!TakeMarkup(&rest, &isMarkup)) return false;
-    if (isMarkup && LosesWhatFollowsMarkup(tag)) return false;
+    if (isMarkup && LosesTextAfterMarkup(tag)) return false;
     if (isMarkup) continue;
 
     if (!TakeUntil('>', &rest, &tag)) return false;
@@ -134,7 +136,7 @@ bool IsSafeXml(string_view bytes) {
         break;
       case Tag::Empty:
         break;
-      case Tag::Odd:
+      case Tag::Malformed:
         return false;
     }
   }

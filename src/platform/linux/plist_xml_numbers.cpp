@@ -22,15 +22,16 @@ void SkipSpace(string_view *text) {
   text->remove_prefix(static_cast<std::size_t>(end - text->begin()));
 }
 
-// Removes a sign from the front. True for a minus.
+// Removes a sign at the beginning of the text. Returns true for a minus.
 bool TakeSign(string_view *text) {
   const char sign = text->empty() ? '\0' : text->front();
   if (sign == '-' || sign == '+') text->remove_prefix(1);
   return sign == '-';
 }
 
-// The digits of an integer in decimal form, or nothing: space, a sign, space,
-// digits, where "0x" makes the digits hexadecimal. No more than 64 bits.
+// Returns the integer in decimal form, or no value if the text is not an
+// integer of at most 64 bits. The text may contain white space, a sign, white
+// space, "0x" for a hexadecimal number, and the digits, in this order.
 std::optional<std::string> DecimalInteger(string_view text) {
   SkipSpace(&text);
   const bool negative = TakeSign(&text);
@@ -62,7 +63,8 @@ bool IsInfinityOrNan(string_view text) {
   return lower == "nan" || lower == "inf" || lower == "infinity";
 }
 
-// Space, a sign, digits with or without a point, an exponent.
+// Returns whether the text is a real number: white space, a sign, digits with
+// or without a point, and an exponent. Only the digits are required.
 bool IsReal(string_view text) {
   SkipSpace(&text);
   TakeSign(&text);
@@ -81,11 +83,11 @@ bool IsReal(string_view text) {
   return text.empty();
 }
 
-// Returns where the markup that begins at `at` ends, if it is a comment, a
-// character section or an instruction; `at` itself for anything else. Returns
-// npos when it does not end.
+// Returns the end of the comment, character section or instruction that begins
+// at `at`. Returns `at` itself if there is none, and npos if it has no end.
 std::size_t EndOfSection(string_view xml, std::size_t at) {
-  // "<?>" is a whole instruction, so its end is searched from the "?" on.
+  // "<?>" is a complete instruction for libplist. So the search for the end of
+  // an instruction begins at its first "?".
   constexpr struct {
     string_view open, close;
     std::size_t skipped;
@@ -126,7 +128,7 @@ bool NormalizeNumbers(std::string *xml) {
 
     const std::size_t begin = end + 1;
     const std::size_t close = xml->find('<', begin);
-    // The element may contain nothing else, not even a comment.
+    // The element must contain only the number, not even a comment.
     if (tag.ends_with('/') || close == kNone) return false;
     if (xml->compare(close, 2, "</") != 0) return false;
     const string_view content = string_view(*xml).substr(begin, close - begin);

@@ -13,8 +13,8 @@ namespace {
 
 using std::string_view;
 
-// The encodings that editors write. Only these are given to iconv(), because
-// its other converters have had security bugs.
+// The encodings that editors write. Only these are passed to iconv(), because
+// other converters of iconv() have had security bugs.
 struct Encoding {
   string_view declared;  // upper case, as in an XML declaration
   const char *converter;
@@ -26,7 +26,8 @@ constexpr Encoding kEncodings[] = {
     {.declared = "WINDOWS-1252", .converter = "CP1252"},
 };
 
-// Marks and first characters of the two orders of bytes in UTF-16.
+// The byte order mark and the first character "<" in the two byte orders of
+// UTF-16.
 struct Utf16Order {
   string_view mark;
   string_view begin;
@@ -37,12 +38,12 @@ constexpr Utf16Order kUtf16Orders[] = {
     {.mark = {"\xFE\xFF", 2}, .begin = {"\0<", 2}, .converter = "UTF-16BE"},
 };
 
-// Nothing when the system has no such converter, or the bytes do not convert
-// to at most twice the size of a file.
+// Converts the bytes to UTF-8. Returns no value if the system does not have
+// this converter, or if the bytes are not valid in the encoding.
 std::optional<std::string> Convert(string_view bytes, const char *converter) {
   const iconv_t conversion = iconv_open("UTF-8", converter);
   if (conversion == reinterpret_cast<iconv_t>(-1)) return std::nullopt;
-  // No character of these encodings takes more than three bytes for one.
+  // In these encodings, each byte becomes at most three bytes of UTF-8.
   std::string text(3 * bytes.size(), '\0');
   char *from = const_cast<char *>(bytes.data());
   std::size_t fromLeft = bytes.size();
@@ -55,8 +56,8 @@ std::optional<std::string> Convert(string_view bytes, const char *converter) {
   return text;
 }
 
-// The value of `encoding` in the XML declaration, in upper case; empty where
-// there is none.
+// Returns the value of `encoding` in the XML declaration, in upper case. Empty
+// if there is none.
 std::string DeclaredEncoding(string_view bytes) {
   constexpr string_view kKeyword = "encoding";
   if (!bytes.starts_with("<?xml")) return "";

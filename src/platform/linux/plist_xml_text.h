@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Converts XML property lists to UTF-8 before libplist, which knows no other
-// encoding, reads them.
+// Converts XML property lists to UTF-8, which is the only encoding that
+// libplist reads.
 #ifndef ZTK_PLATFORM_LINUX_PLIST_XML_TEXT_H_
 #define ZTK_PLATFORM_LINUX_PLIST_XML_TEXT_H_
 
@@ -11,10 +11,11 @@
 
 namespace ztk::platform::property_list {
 
-// The file as UTF-8 without a byte order mark. The encoding is that of the byte
-// order mark, else that of the XML declaration, else UTF-8. Nothing when the
-// declared encoding is not a known one, or the bytes are not text in it. Text
-// in UTF-8 is not checked.
+// Returns the XML text as UTF-8 without a byte order mark. The byte order mark
+// decides about the encoding, otherwise "<" in UTF-16, otherwise the XML
+// declaration. Without all of them the encoding is UTF-8. Returns no value if
+// the declared encoding is not known, or if the bytes are not valid in their
+// encoding. UTF-8 is not checked.
 std::optional<std::string> Utf8Xml(std::string_view bytes);
 
 }  // namespace ztk::platform::property_list

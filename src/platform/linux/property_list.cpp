@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Property lists by libplist. Known limits of libplist when a file is
-// rewritten: a binary UID becomes a dictionary { CF$UID = n }, a date loses its
-// fraction of a second, -0.0 becomes 0.0.
+// Reads and writes property lists with libplist. Known limits of libplist when
+// a file is rewritten: a binary UID becomes a dictionary { CF$UID = n }, a date
+// loses its fraction of a second, -0.0 becomes 0.0.
 #include "platform/property_list.h"
 
 #include <plist/plist.h>
@@ -25,12 +25,14 @@ namespace ztk::platform::property_list {
 
 struct Dictionary {
   plist_t root = nullptr;
-  // The result of AddEntriesOfFile(), and its path; empty before the call.
+  // The path of AddEntriesOfFile() and its result. The path is empty before the
+  // call.
   std::string addedFrom = {};
   ReadResult added = {};
   bool addedIncomplete = false;
   std::optional<struct stat> addedStatus = {};
-  // Memory ran out while it was filled, so entries may be missing.
+  // True if memory ran out while entries were added, so that some may be
+  // missing.
   bool lacksMemory = false;
 };
 
@@ -45,8 +47,8 @@ plist_t Entry(const Dictionary *dictionary, ZTKTextRef key) {
   return plist_dict_get_item(dictionary->root, key);
 }
 
-// Versions of libplist write negative numbers differently, except those that
-// they have read.
+// Different versions of libplist write a negative number differently, unless
+// they have read it from XML. So a negative number is made from XML.
 plist_t MakeInteger(std::int32_t value) {
   if (value >= 0) return plist_new_uint(static_cast<std::uint32_t>(value));
   const std::string xml = "<plist version=\"1.0\"><integer>" +
@@ -186,8 +188,8 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
     *reason = ENOMEM;
     return false;
   }
-  // A file that could not be read again would lose everything at the next
-  // write. A binary one can grow past the limit by becoming XML.
+  // A file that cannot be read again would lose all its entries at the next
+  // change. The XML form of a binary file can be larger than the limit.
   if (!IsSafeXml(xml)) {
     *reason = EFBIG;
     return false;

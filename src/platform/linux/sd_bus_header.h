@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The three libraries with the sd-bus interface install its header in different
-// folders.
+// Includes the header of sd-bus. The three libraries that contain sd-bus
+// install it in different folders.
 #ifndef ZTK_PLATFORM_LINUX_SD_BUS_HEADER_H_
 #define ZTK_PLATFORM_LINUX_SD_BUS_HEADER_H_
 

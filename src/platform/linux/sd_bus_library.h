@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The functions of sd-bus. The library is loaded when a process posts or
+// The functions of sd-bus. Their library is loaded when a process posts or
 // observes for the first time. It loads six other libraries, which would take a
 // third of the start-up time of a program that only queries a mixer.
 #ifndef ZTK_PLATFORM_LINUX_SD_BUS_LIBRARY_H_
@@ -9,7 +9,7 @@
 #include "platform/linux/loaded_library.h"
 #include "platform/linux/sd_bus_header.h"
 
-// All that are used.
+// The functions that this project uses.
 // clang-format off
 #define ZTK_FOR_EVERY_SD_BUS_FUNCTION(Do) \
   Do(sd_bus_add_match)                    \
@@ -52,14 +52,15 @@ struct SdBusFunctions {
   ZTK_FOR_EVERY_SD_BUS_FUNCTION(ZTK_LOADED_POINTER)
 };
 
-// The soname that is loaded.
+// The soname of the library.
 extern const char *const kSdBusLibrary;
 
-// All of them, or null; see LoadedLibrary.
+// Returns all functions, or null if they cannot be loaded: see LoadedLibrary.
 const SdBusFunctions *SdBus();
 
-// May be called only after SdBus() has found them. A function that has a
-// connection or a message can rely on that.
+// Each function under its own name. It may be called only after SdBus() has
+// returned the functions. This is certain for code that has a connection or a
+// message.
 #define ZTK_DEFINE(name) ZTK_LOADED_FUNCTION(SdBus(), name)
 ZTK_FOR_EVERY_SD_BUS_FUNCTION(ZTK_DEFINE)
 #undef ZTK_DEFINE

@@ -12,7 +12,7 @@ namespace ztk::platform::usb {
 // hangs must not delay the caller more than necessary.
 inline constexpr unsigned kRequestTimeoutMs = 1000;
 
-// The result code for an error number of the kernel.
+// Returns the result code for an error number of the kernel.
 constexpr Code CodeOfErrno(int error) {
   switch (error) {
     case EPIPE:

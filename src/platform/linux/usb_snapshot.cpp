@@ -22,16 +22,16 @@ constexpr std::uint8_t kDeviceDescriptorType = 1;
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
-// Entries of devices are "usb2" or begin with a digit; interfaces have a ':' in
-// their names.
+// The entry of a device is named "usb2" or begins with a digit. The entry of an
+// interface contains a ':'.
 bool IsDevice(std::string_view entry) {
   if (!IsDigit(entry.front()) && !entry.starts_with("usb")) return false;
   return entry.find(':') == std::string_view::npos;
 }
 
-// Reads the start of an attribute; the number of bytes, 0 on failure. The path
-// is absolute and contains the port, so the attributes of an unplugged device
-// cannot be confused with those of another one.
+// Reads the beginning of an attribute. Returns the number of bytes, or 0 on
+// failure. The path is absolute and contains the port of the device, so the
+// attribute cannot be that of another device.
 std::size_t ReadAttribute(std::string_view entry, std::string_view attribute,
                           void *bytes, std::size_t size) {
   std::string path(kDevices);
@@ -70,7 +70,7 @@ bool ParseDeviceDescriptor(const std::uint8_t *bytes, ByteOrder order,
 }
 
 std::uint64_t PlaceOf(const char *entry) {
-  constexpr int kPorts = 6;  // the most that USB allows
+  constexpr int kPorts = 6;  // the largest number of ports in a path
   constexpr int kPortBits = 8;
   const bool isRoot = !IsDigit(entry[0]) && std::strncmp(entry, "usb", 3) == 0;
   const char *rest = isRoot ? entry + 3 : entry;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The devices on the bus at one moment, read from sysfs.
+// The USB devices that are attached at one moment, read from sysfs.
 #ifndef ZTK_PLATFORM_LINUX_USB_SNAPSHOT_H_
 #define ZTK_PLATFORM_LINUX_USB_SNAPSHOT_H_
 
@@ -11,7 +11,8 @@
 
 namespace ztk::platform::usb {
 
-// The device descriptor, with which both `descriptors` and the node start.
+// The length of the device descriptor. The attribute `descriptors` and the
+// content of the device node begin with this descriptor.
 inline constexpr std::size_t kDeviceDescriptorLength = 18;
 
 struct DeviceIdentity {
@@ -23,7 +24,8 @@ struct DeviceIdentity {
   bool operator==(const DeviceIdentity &) const = default;
 };
 
-// The wanted devices. 0 matches no device, because no device has that number.
+// The devices to be listed. The number 0 is used by no device: a vendor or
+// product of 0 means that any number is accepted.
 struct WantedDevice {
   std::uint16_t vendor = 0;
   std::uint16_t product = 0;
@@ -35,37 +37,43 @@ struct WantedDevice {
   }
 };
 
-// Entry names are "usb2" for the root hub of bus 2, and "2-1.4" for the device
-// behind port 4 of the hub at port 1.
+// A device in sysfs. `entry` is the name of its folder: "usb2" is the root hub
+// of bus 2, "2-1.4" is the device at port 4 of the hub at port 1 of bus 2.
+// `place` is PlaceOf(entry).
 struct DeviceFacts {
   std::string entry = {};
   std::uint64_t place = 0;
   DeviceIdentity identity = {};
 };
 
-// sysfs has the descriptor as it was sent over the bus, low byte first; a node
-// has its numbers in the byte order of this machine.
+// The byte order of the numbers in a device descriptor. In sysfs it is the
+// order of USB, low byte first. In a device node it is the order of this
+// machine.
 enum class ByteOrder { Bus, Machine };
 
-// False when these bytes are not a device descriptor.
+// Returns false if the bytes are not a device descriptor.
 bool ParseDeviceDescriptor(const std::uint8_t *bytes, ByteOrder order,
                            DeviceIdentity *identity);
 
-// The place of a device as a number for sorting: its bus, then the ports on the
-// way to it, one byte each. A root hub comes before the devices behind it.
+// Returns the place of a device as a number for sorting: its bus, then the
+// ports on the path to the device, one byte each. A root hub comes before the
+// devices that are connected to it.
 std::uint64_t PlaceOf(const char *entry);
-// The bus of a place.
+// Returns the number of the bus in a place.
 int BusOf(std::uint64_t place);
 
-// Lists the wanted devices by place: unlike the order of device numbers, this
-// order stays the same when a mixer is unplugged and plugged in again. A device
-// that is unplugged during the reading is left out. False when there is no USB.
+// Lists the wanted devices, sorted by place. This order stays the same when a
+// mixer is unplugged and plugged in again; the order of device numbers does
+// not. A device that is unplugged during the reading is omitted. Returns false
+// if the system has no USB.
 bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices);
 
-// The number of the device's node on its bus; 0 when it is gone.
+// Returns the number of the device on its bus, or 0 if the device is no longer
+// attached.
 int ReadDeviceNumber(const DeviceFacts &facts);
 
-// The path of the node with that number, which is above 0.
+// Returns the path of the device node. `number` is from ReadDeviceNumber() and
+// not 0.
 std::string NodeOf(const DeviceFacts &facts, int number);
 
 }  // namespace ztk::platform::usb

@@ -15,8 +15,8 @@ NSBundle *BundleOf(const Bundle *bundle) { return (NSBundle *)bundle; }
 
 }  // namespace
 
-// Held by the caller until Release() and by the autorelease pool, so that its
-// texts stay valid until the pool drains.
+// The bundle has two references: one of the caller, until Release(), and one of
+// the autorelease pool, so that its texts stay valid until the pool is drained.
 Bundle *AtPath(ZTKTextRef path) {
   if (path == nullptr) return nullptr;
   return (Bundle *)[[NSBundle bundleWithPath:StringOf(path)] retain];

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A property list in memory, with what is known of its file.
+// A property list in memory, with the result of reading its file.
 #ifndef ZTK_PLATFORM_MACOS_DICTIONARY_H_
 #define ZTK_PLATFORM_MACOS_DICTIONARY_H_
 
@@ -16,9 +16,11 @@
 namespace ztk::platform::property_list {
 
 struct Dictionary {
-  // One retain; an NSMutableDictionary when MakeDictionary() has made it.
+  // This object owns one reference. The dictionary is an NSMutableDictionary if
+  // MakeDictionary() made it.
   NSDictionary *entries = nil;
-  // What AddEntriesOfFile() found, and where; an empty path before.
+  // The path of AddEntriesOfFile() and its result. The path is empty before the
+  // call.
   std::string addedFrom = {};
   ReadResult added = {};
   std::optional<struct stat> addedStatus = {};

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// Converts the texts of the library to NSString. Both types are the same
-// object; outside of these sources a text is always a CFStringRef, because
-// otherwise the mangled names of functions would differ between .cpp and .mm
-// files.
+// Converts between ZTKTextRef and NSString, which are two types for the same
+// object. Outside of this folder a text is always a CFStringRef: with another
+// type in .mm files, the mangled names of functions would differ from those in
+// .cpp files.
 //
-// References are counted manually in this folder: a made object has one retain
-// and is given back with release. Other returned objects belong to the
-// autorelease pool of the caller, so a function here must not have a pool
-// around them.
+// References are counted manually in this folder. If a function makes an
+// object, the caller owns one reference and releases it. Other returned objects
+// belong to the autorelease pool of the caller, so the function that returns
+// them must not use a pool of its own for them.
 #ifndef ZTK_PLATFORM_MACOS_FOUNDATION_H_
 #define ZTK_PLATFORM_MACOS_FOUNDATION_H_
 
@@ -20,7 +20,7 @@
 #error "These sources count references by hand: build them with -fno-objc-arc."
 #endif
 
-// Tells the static analyser that the caller owns the result.
+// For the static analyser: the caller owns the result.
 #ifndef CF_RETURNS_RETAINED
 #define CF_RETURNS_RETAINED __attribute__((cf_returns_retained))
 #endif

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // A UserInfo is an NSDictionary of numbers. The center calls the observer's
-// methods by name; Method::code stays unused.
+// methods by name, so Method::code is not used.
 #include "platform/notification_center.h"
 
 #include <span>
@@ -36,7 +36,7 @@ UserInfo *MakeUserInfo(const Entry *entries, std::size_t count) {
 
 void Release(UserInfo *userInfo) { [DictionaryOf(userInfo) release]; }
 
-// Another program may have posted any value for the key.
+// The value may be of any kind, because another program may have posted it.
 std::int32_t ReadNumber(const UserInfo *userInfo, ZTKTextRef key) {
   const id number = [DictionaryOf(userInfo) valueForKey:StringOf(key)];
   if (![number respondsToSelector:@selector(intValue)]) return 0;

@@ -25,12 +25,14 @@ namespace {
 using macos::StringOf;
 using macos::TextOf;
 
-// The value of an entry; nil also without a dictionary or a key.
+// Returns the value of an entry, or nil. The dictionary and the key may be
+// null.
 id Entry(const Dictionary *dictionary, ZTKTextRef key) {
   if (dictionary == nullptr || key == nullptr) return nil;
   return [dictionary->entries valueForKey:StringOf(key)];
 }
 
+// The dictionary must be one that MakeDictionary() made: others are immutable.
 void Add(Dictionary *dictionary, NSDictionary *entries) {
   [(NSMutableDictionary *)dictionary->entries addEntriesFromDictionary:entries];
 }
@@ -40,7 +42,7 @@ std::string PathOf(ZTKTextRef path) {
   return bytes == nullptr ? "" : bytes;
 }
 
-// Gives a file a second name, the first that is free, so that its content is
+// Links the file under the first free numbered name, so that its content is
 // kept when the file is replaced.
 bool KeepAside(const std::string &file) {
   constexpr int kNames = 1000;
@@ -52,9 +54,9 @@ bool KeepAside(const std::string &file) {
   return false;
 }
 
-// Reads the file into *entries, which belongs to the autorelease pool.
-// Foundation does not tell why it cannot read a file, so the file is also read
-// without it.
+// Reads the file into *entries, which belongs to the autorelease pool. If
+// Foundation cannot read the file, it does not report the reason. So the file
+// is then read without Foundation to find the reason.
 ReadResult ReadEntries(ZTKTextRef path, NSDictionary **entries) {
   constexpr std::size_t kLargest = std::size_t{1} << 20;
   const std::string file = PathOf(path);
@@ -73,15 +75,15 @@ ReadResult ReadEntries(ZTKTextRef path, NSDictionary **entries) {
   }
 }
 
-// Nothing when there is no such file.
+// Returns no value if there is no such file.
 std::optional<struct stat> StatusOf(const std::string &file) {
   struct stat status = {};
   if (stat(file.c_str(), &status) != 0) return std::nullopt;
   return status;
 }
 
-// True when the file that the entries were added from may be replaced now. One
-// that could not be read is kept beside the new one.
+// Returns true if the file from which the entries were added may be replaced
+// now. If that file could not be read, it is kept under another name.
 bool PrepareToReplace(const Dictionary &dictionary, int *error) {
   const ReadResult &added = dictionary.added;
   if (!MayBeReplaced(added)) {
@@ -106,8 +108,9 @@ bool PrepareToReplace(const Dictionary &dictionary, int *error) {
 
 }  // namespace
 
-// Foundation's dictionary is held twice: until Release(), and by the
-// autorelease pool, so that its texts stay valid until the pool drains.
+// Foundation's dictionary has two references: one of *dictionary, until
+// Release(), and one of the autorelease pool, so that its texts stay valid
+// until the pool is drained.
 ReadResult Read(ZTKTextRef path, Dictionary **dictionary) {
   *dictionary = nullptr;
   if (path == nullptr) return {};
@@ -127,7 +130,8 @@ Dictionary *ReadFile(ZTKTextRef path) {
 
 Change *BeginChange(ZTKTextRef path) {
   if (path == nullptr) return nullptr;
-  // The system creates this folder for each user: writing fails without it.
+  // The system creates the folder for each user. If it is missing, writing
+  // fails.
   return new Change{.change = FileChange(PathOf(path), MissingFolders::Leave)};
 }
 
@@ -138,8 +142,9 @@ Dictionary *MakeDictionary() {
                             [[NSMutableDictionary alloc] initWithCapacity:1]};
 }
 
-// The file is described before it is read: if another process replaces it
-// between the two, it is no longer the one described.
+// The status of the file is stored before the file is read. If another process
+// replaces the file between the two steps, WriteAtomically() finds a different
+// status.
 ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) {
   if (dictionary == nullptr || path == nullptr) return {};
   @autoreleasepool {
@@ -165,7 +170,7 @@ void SetInteger(Dictionary *dictionary, ZTKTextRef key, std::int32_t value) {
   }
 }
 
-// Of MakeDictionary(), as for Add().
+// The dictionary must be one that MakeDictionary() made, as for Add().
 void RemoveEntry(Dictionary *dictionary, ZTKTextRef key) {
   if (dictionary == nullptr || key == nullptr) return;
   @autoreleasepool {
@@ -177,7 +182,7 @@ void RemoveEntry(Dictionary *dictionary, ZTKTextRef key) {
 bool IntegerValue(const Dictionary *dictionary, ZTKTextRef key,
                   std::int32_t *value) {
   const id entry = Entry(dictionary, key);
-  // Dates, data, arrays and dictionaries have no number in them.
+  // Dates, data, arrays and dictionaries have no method intValue.
   if (![entry respondsToSelector:@selector(intValue)]) return false;
   *value = [entry intValue];
   return true;
@@ -199,7 +204,7 @@ bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,
     const std::string file = PathOf(path);
     const bool sameFile = dictionary->addedFrom == file;
     if (sameFile && !PrepareToReplace(*dictionary, reason)) return false;
-    // Foundation does not say why it could not write.
+    // Foundation does not report why it could not write the file.
     *reason = 0;
     return [dictionary->entries writeToFile:StringOf(path) atomically:YES];
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A made text has one retain.
+// The functions of text.h with NSString. The caller owns the one reference of a
+// text that a function makes.
 #include "platform/text.h"
 
 #include "platform/macos/foundation.h"
@@ -21,7 +22,7 @@ bool Contains(ZTKTextRef text, ZTKTextRef part) {
   return [StringOf(text) rangeOfString:StringOf(part)].location != NSNotFound;
 }
 
-// A missing text would be filled in as "(null)".
+// NSString would write "(null)" in place of a null text.
 CF_RETURNS_RETAINED ZTKTextRef Format(ZTKTextRef format, ZTKTextRef first) {
   if (format == nullptr || first == nullptr) return nullptr;
   return TextOf(
@@ -54,7 +55,7 @@ CF_RETURNS_RETAINED ZTKTextRef DotComponent(ZTKTextRef text,
   }
 }
 
-// No text at all is below every text.
+// A null text is less than every other text.
 int CompareNumerically(ZTKTextRef first, ZTKTextRef second) {
   if (first == nullptr || second == nullptr) {
     return (first != nullptr) - (second != nullptr);
@@ -63,6 +64,6 @@ int CompareNumerically(ZTKTextRef first, ZTKTextRef second) {
                                            options:NSNumericSearch]);
 }
 
-void Release(ZTKTextRef made) { [StringOf(made) release]; }
+void Release(ZTKTextRef text) { [StringOf(text) release]; }
 
 }  // namespace ztk::platform::text

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// USB by the device interface of IOKit; each function of the contract is one
-// call of it. Vendor requests use the default pipe of a device that is never
-// opened, so other programs can use the device at the same time.
+// USB access with the device interface of IOKit. Each function of usb.h is one
+// call of IOKit. Vendor requests use the default pipe, for which the device
+// need not be opened, so other programs can use the device at the same time.
 #include "platform/usb.h"
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -19,8 +19,8 @@ namespace {
 static_assert(kError == static_cast<Code>(kIOReturnError));
 static_assert(kExclusiveAccess == static_cast<Code>(kIOReturnExclusiveAccess));
 
-// Ports, iterators and services are small numbers of the kernel; a handle
-// contains the number itself, and null is 0.
+// The kernel identifies ports, iterators and services by numbers. A handle
+// contains the number itself; the null handle is the number 0.
 template <typename Handle>
 Handle HandleOf(mach_port_t name) {
   return reinterpret_cast<Handle>(static_cast<std::uintptr_t>(name));
@@ -31,9 +31,8 @@ mach_port_t NameOf(Handle handle) {
   return static_cast<mach_port_t>(reinterpret_cast<std::uintptr_t>(handle));
 }
 
-// Later versions of the device interface only append functions to the first
-// one, which is requested here. So only functions of the first version may be
-// called.
+// QueryDevice() asks for the first version of the device interface, so only
+// functions of that version may be called. Later versions only add functions.
 IOUSBDeviceInterface **InterfaceOf(Device *device) {
   return reinterpret_cast<IOUSBDeviceInterface **>(device);
 }
@@ -94,7 +93,7 @@ void ReleaseIterator(Iterator iterator) { IOObjectRelease(NameOf(iterator)); }
 
 Code CreatePlugIn(Service service, PlugIn **plugIn) {
   IOCFPlugInInterface **made = nullptr;
-  SInt32 score = 0;  // how well the plug-in fits; there is only one
+  SInt32 score = 0;  // not used, because there is only one plug-in
   const Code result = CodeOf(IOCreatePlugInInterfaceForService(
       NameOf(service), kIOUSBDeviceUserClientTypeID, kIOCFPlugInInterfaceID,
       &made, &score));
@@ -135,7 +134,7 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
   return CodeOf((*interface)->GetDeviceProduct(interface, product));
 }
 
-// Requests can be sent to every device that was found.
+// IOKit needs no preparation: requests can be sent to every device.
 Device *MakeReady(Device *device, Result *result) {
   *result = {};
   return device;

@@ -8,7 +8,7 @@ namespace ztk::model {
 namespace center = platform::notification_center;
 
 struct BusWatch::Connection {
-  center::OwnedBus bus = center::ConnectToSessionBus(center::PatienceEnds());
+  center::OwnedBus bus = center::ConnectToSessionBus(center::WaitDeadline());
 };
 
 BusWatch::BusWatch() : connection_(std::make_unique<Connection>()) {}

@@ -93,7 +93,7 @@ LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
   // The registrations do not report a bus that is missing or ends; this
   // connection does.
   const center::OwnedBus bus =
-      center::ConnectToSessionBus(center::PatienceEnds());
+      center::ConnectToSessionBus(center::WaitDeadline());
   if (bus == nullptr) return LoopEnd::NoBus;
 
   theLoop = {.loop = center::g_main_loop_new(nullptr, FALSE),

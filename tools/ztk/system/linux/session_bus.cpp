@@ -10,7 +10,7 @@ namespace ztk::model {
 namespace center = platform::notification_center;
 
 bool SessionBusAnswers() {
-  return center::ConnectToSessionBus(center::PatienceEnds()) != nullptr;
+  return center::ConnectToSessionBus(center::WaitDeadline()) != nullptr;
 }
 
 const char *MissingBusLibrary() {
