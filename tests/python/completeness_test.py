@@ -28,8 +28,8 @@ from ztkfunc import _library, _structures, functions, outcome
 
 HEADERS = ("ZTKFunc.h", "ZTKOutcome.h")
 
-# The ctypes of the type names in cffi.
-PLAIN = {
+# The type of ctypes for each type name of cffi.
+CTYPES = {
     "uint8_t": ctypes.c_uint8,
     "uint16_t": ctypes.c_uint16,
     "uint32_t": ctypes.c_uint32,
@@ -44,7 +44,7 @@ PLAIN = {
 
 
 def declarations(folder: pathlib.Path, compiler: str, header: str) -> str:
-    """The preprocessed header, without attributes and system headers."""
+    """Returns the preprocessed header without attributes and system headers."""
     text = subprocess.run(
         [compiler, "-E", "-P", "-x", "c", "-D__attribute__(x)=", str(folder / header)],
         check=True,
@@ -86,20 +86,18 @@ class Completeness(unittest.TestCase):
                     if theirs.cname.startswith("ZTKOutcome"):
                         self.assertIs(ours._type_, _structures.COutcome)
                     else:
-                        self.assertIs(ours, PLAIN[theirs.cname], theirs.cname)
+                        self.assertIs(ours, CTYPES[theirs.cname], theirs.cname)
 
-    def test_the_version_is_that_of_the_project(self) -> None:
+    def test_package_and_project_have_the_same_version(self) -> None:
         self.assertEqual(ztkfunc.__version__, self.version)
 
-    def test_every_function_can_be_called_from_python(self) -> None:
+    def test_every_function_is_documented_and_annotated(self) -> None:
         for name in self.names:
             if name == "ZTK_GetLastOutcome":
                 continue  # ztkfunc.last_outcome
             with self.subTest(name):
                 function = getattr(functions, name)
                 self.assertTrue(inspect.getdoc(function))
-                # In Python there are no outputs and no argument that the
-                # library ignores; everything else is a parameter.
                 self.assertNotIn(
                     inspect.Parameter.empty,
                     [p.annotation for p in inspect.signature(function).parameters.values()],
@@ -110,7 +108,7 @@ class Completeness(unittest.TestCase):
             full = f"ZTK_{name}"
             self.assertEqual(getattr(functions, full), self.constants()[full])
 
-    def test_the_words_of_the_outcome_are_the_same(self) -> None:
+    def test_the_constants_of_the_outcome_are_the_same(self) -> None:
         for prefix, ours in (
             ("ZTK_REQUEST_", outcome.Request),
             ("ZTK_FILE_", outcome.File),
@@ -135,7 +133,7 @@ class Completeness(unittest.TestCase):
         found = re.findall(r"#define (ZTK_[A-Z_]+) (\d+)u\n", macros)
         return {name: int(value) for name, value in found}
 
-    def test_structures_have_the_same_fields_at_the_same_places(self) -> None:
+    def test_structures_have_the_same_fields_at_the_same_offsets(self) -> None:
         for c_name, ours in _structures.STRUCTURES.items():
             with self.subTest(c_name):
                 theirs = self.ffi.typeof(c_name)

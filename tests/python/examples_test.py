@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""The examples, and the programs in the documents, as a user runs them.
+"""Runs the examples, and the programs in the documents, as a user does.
 
-To be run inside ``ztk-virtual-mixer run -n 2 --private-settings``, with a
+Must be run inside ``ztk-virtual-mixer run -n 2 --private-settings``, with a
 message bus of its own.
 
 Usage: examples_test.py EXAMPLES DOCUMENT...
@@ -19,7 +19,7 @@ import sys
 import tempfile
 import unittest
 
-WAIT = 60  # seconds until a program that does not answer counts as broken
+WAIT = 60  # seconds; a program that takes longer has failed
 
 
 def ztk(*arguments: str) -> str:
@@ -56,19 +56,21 @@ class SceneSwitcher(unittest.TestCase):
         self.assertIn("-5 dB", ztk("boost", "get"))
 
     def test_a_midi_note_sets_the_scene(self) -> None:
-        # Clock, note 61 on and off by velocity 0, then note 60 in running status.
+        # The stream is: a clock message, note 61 with velocity 100 and then 0 (which
+        # ends the note), and note 60 without a status byte, with a clock message
+        # in the middle.
         stream = self.folder / "midi"
         stream.write_bytes(bytes([0xF8, 0x90, 61, 100, 61, 0, 60, 0xF8, 99]))
         run = self.run_switcher("--midi", str(stream), f"60={self.folder}/club.json")
         self.assertEqual((run.stdout, run.returncode), ("scene 60 is set\n", 0))
 
-    def test_a_wrong_file_is_named(self) -> None:
+    def test_a_file_of_another_kind_is_refused(self) -> None:
         (self.folder / "bad.json").write_text("{}")
         run = self.run_switcher(f"1={self.folder}/bad.json")
         self.assertEqual(run.returncode, 2)
         self.assertIn("is not a file that ztk export has written", run.stderr)
 
-    def test_a_refusing_mixer_is_not_called_set(self) -> None:
+    def test_a_refused_value_is_reported(self) -> None:
         subprocess.run(["ztk-virtual-mixer", "fault", "stall@w8003"], check=True, stdout=subprocess.DEVNULL)
         self.addCleanup(
             subprocess.run,
@@ -79,11 +81,11 @@ class SceneSwitcher(unittest.TestCase):
         self.assertEqual(run.stdout, "scene 1 was not sent completely\n")
         self.assertIn("refused", run.stderr)
 
-    def test_a_missing_device_is_one_line(self) -> None:
+    def test_the_error_for_a_missing_device_is_one_line(self) -> None:
         run = self.run_switcher("--midi", "/nonexistent", f"60={self.folder}/club.json")
         self.assertEqual((run.returncode, len(run.stderr.splitlines())), (1, 1))
 
-    def test_an_unknown_key_is_answered(self) -> None:
+    def test_an_unknown_key_lists_the_scenes(self) -> None:
         run = self.run_switcher(f"1={self.folder}/club.json", keys="7\n")
         self.assertEqual(run.stdout, "no scene '7'; there are: 1\n")
 
@@ -148,7 +150,7 @@ class RoutingPage(unittest.TestCase):
             {"channel": 2, "text": "Post CH2 Fader"},
         )
 
-    def test_only_this_machine_under_its_own_name_is_answered(self) -> None:
+    def test_a_request_for_another_host_or_path_is_refused(self) -> None:
         self.assertEqual(self.get("/", Host="evil.example:80").status, 403)
         self.assertEqual(self.get("/nothing").status, 404)
 

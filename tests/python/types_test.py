@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""mypy --strict on the package and its examples.
+"""Runs mypy --strict on the package and its examples.
 
 Usage: types_test.py PACKAGE_FOLDER
 """

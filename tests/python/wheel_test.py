@@ -37,12 +37,12 @@ with tempfile.TemporaryDirectory() as name:
     run(python, "-m", "pip", "install", "--no-index", "--quiet", wheel)
     environment = {key: value for key, value in os.environ.items()
                    if key != "PYTHONPATH"}
-    said = subprocess.run(
+    output = subprocess.run(
         [str(python), "-c",
          "import ztkfunc, pathlib;"
          "print(ztkfunc.Mixer().boost_choices[3]);"
          "print((pathlib.Path(ztkfunc.__file__).parent / 'py.typed').exists())"],
         env=environment, cwd=folder, check=True, capture_output=True,
         text=True).stdout
-    if said != "-19 dB\nTrue\n":
-        sys.exit(f"the installed package said {said!r}")
+    if output != "-19 dB\nTrue\n":
+        sys.exit(f"the installed package printed {output!r}")

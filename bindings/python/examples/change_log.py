@@ -4,8 +4,8 @@
 
 Usage: change_log.py [FILE]
 
-Adds to FILE, or writes to standard output. Each row has the time (UTC), the
-setting, the channel, the number of the choice and its text.
+The rows are appended to FILE, or written to standard output. Each row has the
+time (UTC), the setting, the channel, the number of the choice and its text.
 """
 from __future__ import annotations
 

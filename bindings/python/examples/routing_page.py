@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Shows what each USB channel records on a web page of this machine.
+"""Shows on a web page which source the computer records on each USB channel.
 
 Usage: routing_page.py [--port PORT]
 
@@ -50,8 +50,8 @@ class Handler(http.server.BaseHTTPRequestHandler):
             "127.0.0.1",
             "localhost",
         ):
-            # A page of another site must not reach this server under another
-            # name.
+            # The page of another site could use a name of its own for the address
+            # 127.0.0.1 and read this page.
             self.send_error(403)
         elif self.path == "/":
             self.send_page()
@@ -86,7 +86,8 @@ class Handler(http.server.BaseHTTPRequestHandler):
         try:
             change = changes.get(timeout=15)
         except queue.Empty:
-            self.wfile.write(b": still here\n\n")
+            # A comment keeps the connection open.
+            self.wfile.write(b": keep-alive\n\n")
             return
         if change.setting == "input":
             text = change.text or "not a choice"

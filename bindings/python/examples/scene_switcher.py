@@ -6,14 +6,14 @@ Usage: scene_switcher.py [--midi DEVICE] KEY=FILE...
 
 Each FILE is a file that ``ztk export`` has written. With --midi, KEY is the
 number of a MIDI note, 0 to 127, and DEVICE is the raw MIDI device of a
-controller, such as /dev/snd/midiC1D0. Without it, KEY is a word to type,
-followed by Enter.
+controller, such as /dev/snd/midiC1D0. Without --midi, KEY is a word that the user
+types, followed by Enter.
 
     ztk export > club.json
     scene_switcher.py 1=club.json 2=home.json
     scene_switcher.py --midi /dev/snd/midiC1D0 60=club.json 62=home.json
 
-Ends at the end of its input.
+The program ends at the end of its input.
 """
 from __future__ import annotations
 
@@ -31,7 +31,7 @@ SETTINGS = {"input", "output", "boost", "midi"}
 
 
 def load(path: str) -> Scene:
-    """Reads a file of ``ztk export``; raises ValueError if it is not one."""
+    """Reads a file of ``ztk export``. Raises ValueError for any other file."""
     with open(path, encoding="utf-8") as file:
         try:
             data = json.load(file)
@@ -50,7 +50,7 @@ def load(path: str) -> Scene:
 
 
 def apply(scene: Scene) -> None:
-    """Sets all settings of the scene, model by model."""
+    """Sets all settings of the scene."""
     for model, settings in scene.items():
         mixer = ztkfunc.Mixer(model)
         for name, value in settings.items():
@@ -63,27 +63,27 @@ def apply(scene: Scene) -> None:
 
 
 def notes(device: BinaryIO) -> Iterator[int]:
-    """The numbers of the notes that are played, from a stream of MIDI bytes."""
+    """Yields the numbers of the notes that start, from a stream of MIDI bytes."""
     status = 0
     data: list[int] = []
     while byte := device.read(1):
         value = byte[0]
-        if value >= 0xF8:  # real-time messages may stand anywhere
+        if value >= 0xF8:  # a real-time message may come between any two bytes
             continue
         if value & 0x80:
             status, data = value, []
             continue
         data.append(value)
         if len(data) == 2:
-            # A note-on with velocity 0 ends a note. The status byte may be left
-            # out of the messages that follow (running status).
+            # A note-on with velocity 0 ends a note. The next messages may have no
+            # status byte if it is the same (running status).
             if status & 0xF0 == 0x90 and data[1] > 0:
                 yield data[0]
             data = []
 
 
 def keys(stream: TextIO) -> Iterator[str]:
-    """The words that are typed, one on each line."""
+    """Yields the words that the user types, one on each line."""
     for line in stream:
         if line.strip():
             yield line.strip()

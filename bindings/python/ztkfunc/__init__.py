@@ -6,10 +6,10 @@
     mixer = ztkfunc.Mixer()
     mixer.input[2] = "Post CH2 Fader"
 
-The package calls the installed shared library ZTKFunc. :mod:`ztkfunc.mixer` has
-the settings as objects, :mod:`ztkfunc.changes` delivers changes as they happen,
-:mod:`ztkfunc.outcome` has the effects of the last call, and
-:mod:`ztkfunc.functions` has the functions of the C headers unchanged.
+The package calls the installed shared library ZTKFunc. It has these modules:
+:mod:`ztkfunc.mixer` for the settings as objects, :mod:`ztkfunc.changes` for the
+changes that any program makes, :mod:`ztkfunc.outcome` for the effects of the last
+call, and :mod:`ztkfunc.functions` for the functions of the C header.
 """
 from ._library import LibraryMissingError
 from ._version import VERSION as __version__

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Loads the shared library and declares the C types of its functions.
 
-The library is loaded by its soname, so the runtime package is enough.
+The library is loaded by its soname, so its development package is not needed.
 """
 from __future__ import annotations
 
@@ -76,9 +76,9 @@ PROTOTYPES: dict[str, list[Any]] = {
     "ZTK_GetLastOutcome": [POINTER(COutcome)],
 }
 
-# The library must be called from one thread at a time, but Python programs use
-# threads freely. Each call holds this lock. Other threads of the program keep
-# running, because ctypes releases the interpreter's lock during a call.
+# The library must be called from one thread at a time, so each call holds this
+# lock. Threads that do not call the library keep running, because ctypes releases
+# the interpreter's lock during a call.
 LOCK = threading.RLock()
 
 

@@ -38,7 +38,7 @@ if sys.platform == "darwin":
     _cf.CFRelease.argtypes = [ctypes.c_void_p]
 
     class TextArgument:
-        """A text that lives as long as the library may read it."""
+        """A text for the library, which is valid as long as this object exists."""
 
         def __init__(self, text: str) -> None:
             data = text.encode("utf-8")
@@ -51,7 +51,7 @@ if sys.platform == "darwin":
                 _cf.CFRelease(self.ref)
 
     def to_str(ref: ctypes.c_void_p) -> str | None:
-        """Copies a text of the library; None for null."""
+        """Copies a text of the library. Returns None for null."""
         if not ref:
             return None
         length = _cf.CFStringGetLength(ref)
@@ -65,15 +65,14 @@ else:
     TextRef = ctypes.c_char_p
 
     class TextArgument:
-        """A text that lives as long as the library may read it."""
+        """A text for the library, which is valid as long as this object exists."""
 
         def __init__(self, text: str) -> None:
-            # The library reads up to the first zero byte and would ignore the
-            # rest.
+            # The library would ignore everything after the first zero byte.
             if "\0" in text:
                 raise ValueError("a text must not contain a zero character")
             self.ref = ctypes.c_char_p(text.encode("utf-8"))
 
     def to_str(ref: ctypes.c_char_p) -> str | None:
-        """Copies a text of the library; None for null."""
+        """Copies a text of the library. Returns None for null."""
         return None if ref.value is None else ref.value.decode("utf-8")

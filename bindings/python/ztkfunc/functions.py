@@ -1,19 +1,19 @@
 # SPDX-License-Identifier: MIT
 """The functions of the C header ``ZTKFunc.h``, under their own names.
 
-Nothing is added and nothing is hidden here: a function returns the result code
-and, where it has an output, a pair of the code and the output. No code becomes
-an exception. :mod:`ztkfunc.mixer` is the layer to use in a program.
+Each function calls the C function of the same name. It returns the result code,
+or a pair of the code and the output if the C function has an output. No code
+raises an exception. Most programs should use :mod:`ztkfunc.mixer` instead.
 
-Channels and indexes count from 0. Arguments must fit into 32 bits; others raise
-:class:`OverflowError` before the library is called.
+Channels and indexes count from 0. An argument that does not fit into 32 bits
+raises :class:`OverflowError`, and the library is not called.
 
-An output that the library did not write is None, except in the three queries
-whose last parameter is ``initial``: they return 100 and do not change the output
-when no mixer can be opened.
+An output is None if the code is not 100. The two queries with a parameter
+``initial`` are different: if no mixer can be opened, they return 100 and the
+output is ``initial``.
 
-Every call waits for other threads of the program that are in the library, as
-it must be called from one thread at a time. A request that a mixer does not
+The library must be called from one thread at a time, so every call waits until
+no other thread of the program is in the library. A request that a mixer does not
 answer takes 1 second.
 """
 from __future__ import annotations
@@ -28,11 +28,11 @@ if TYPE_CHECKING:
     from collections.abc import Callable
     from typing import Any
 
-#: Done.
+#: The call succeeded.
 ZTK_SUCCESS = 100
-#: Done, with a warning: the routing is not audible with the current selectors.
+#: The call succeeded, but the routing cannot be heard with the current selectors.
 ZTK_WARNING = 101
-#: Refused: an argument is out of range or not served.
+#: The call was refused: an argument is out of range or not served.
 ZTK_REJECTED = 102
 #: At least one mixer is attached.
 ZTK_CONNECTED = 103
@@ -79,10 +79,10 @@ def _text(name: str, *arguments: Any) -> tuple[int, str | None]:
 
 
 def ZTK_GetProductId(name: str) -> tuple[int, int | None]:
-    """Finds the number of a model from a name that contains the model's text.
+    """Finds the number of the model whose name is in a text.
 
-    Returns (100, number) with the number 0 to 6, 8 or 10; (102, None) when no
-    model's text is found.
+    Returns (100, number) with the number 0 to 6, 8 or 10, or (102, None) if the
+    text contains no name of a model.
     """
     out = ctypes.c_uint32()
     text = TextArgument(name)
@@ -91,7 +91,7 @@ def ZTK_GetProductId(name: str) -> tuple[int, int | None]:
 
 
 def ZTK_IsUSBConnection(product_id: int) -> int:
-    """Tells whether a mixer is attached: 103, or 104 if none is.
+    """Returns 103 if at least one mixer is attached, else 104.
 
     ``product_id`` is ignored by the library.
     """
@@ -141,7 +141,8 @@ def ZTK_GetUSBInputAudioText(
 ) -> tuple[int, str | None]:
     """Names a choice of a USB channel, index 0 to 8 (channel 4: 0 to 9).
 
-    An index without a choice has the text "PARAM ERROR". Serves the model 10.
+    The text of index 7 (channel 4: 8 and 9) is "PARAM ERROR". Index 8 of the
+    channels 0 to 3 is the first choice of the next channel. Serves the model 10.
     """
     return _text(
         "ZTK_GetUSBInputAudioText",
@@ -155,7 +156,7 @@ def ZTK_GetUSBInputAudioText(
 def ZTK_SetUSBInputAudio(product_id: int, channel: int, index: int) -> int:
     """Sends a choice to every mixer, stores it and announces it.
 
-    Channel 0 to 4; index 0 to 7, on channel 4 up to 8. Returns 100, 101 when the
+    Channel 0 to 4; index 0 to 7, on channel 4 up to 8. Returns 100, or 101 if the
     routing cannot be heard, or 102. Serves the model 10.
     """
     return _call(
@@ -197,7 +198,7 @@ def ZTK_GetCurrentUSBInputAudioIndex(
 
 
 def ZTK_SetCurrentUSBInputAudio(product_id: int, channel: int) -> int:
-    """Sends the stored choice of a USB channel again: 100, or 102.
+    """Sends the stored choice of a USB channel again. Returns 100 or 102.
 
     Channel 0 to 5. Serves the model 10.
     """
@@ -209,12 +210,12 @@ def ZTK_SetCurrentUSBInputAudio(product_id: int, channel: int) -> int:
 def ZTK_GetWarningTextForSetUSBAudioInput(
     product_id: int, channel: int, result_code: int, language: int
 ) -> tuple[int, str | None]:
-    """Gives the sentence for a result 101 of :func:`ZTK_SetUSBInputAudio`.
+    """Returns the sentence for a result 101 of :func:`ZTK_SetUSBInputAudio`.
 
     Channel 0 to 3; ``result_code`` must be 101; ``language`` 0 English,
     1 Japanese, 2 French, 3 German, 4 Italian, 5 Dutch, 6 Spanish, 7 Russian,
     8 Portuguese, 9 simplified Chinese, 10 traditional Chinese, 11 Korean, 99 the
-    user's own. (100, None) means that the texts are not installed.
+    language of the user. (100, None) means that the texts are not installed.
     """
     return _text(
         "ZTK_GetWarningTextForSetUSBAudioInput",
@@ -251,10 +252,10 @@ def ZTK_GetUSBOutputAudioText(
 
 
 def ZTK_SetUSBOutputAudio(product_id: int, channel: int, index: int) -> int:
-    """Sends a choice to every mixer, stores it and announces it: 100, or 102.
+    """Sends a choice to every mixer, stores it and announces it.
 
-    Channel 0 to 4, of which 3 and 4 have nothing to send; index 0 to 2. Serves
-    the model 8.
+    Channel 0 to 4; index 0 to 2. Nothing is sent for the channels 3 and 4.
+    Returns 100 or 102. Serves the model 8.
     """
     return _call(
         "ZTK_SetUSBOutputAudio",
@@ -277,7 +278,9 @@ def ZTK_SetUSBOutputAudioDefault(product_id: int, channel: int) -> int:
 def ZTK_GetCurrentUSBOutputAudioIndex(
     product_id: int, channel: int
 ) -> tuple[int, int | None]:
-    """Reads the stored choice of a channel, the channel itself if none is stored.
+    """Reads the stored choice of a channel.
+
+    Returns the number of the channel as the choice if none is stored.
 
     Channel 0 to 2. Serves the model 8.
     """
@@ -287,7 +290,7 @@ def ZTK_GetCurrentUSBOutputAudioIndex(
 
 
 def ZTK_SetCurrentUSBOutputAudio(product_id: int, channel: int) -> int:
-    """Sends the stored choice of a channel again: 100, or 102.
+    """Sends the stored choice of a channel again. Returns 100 or 102.
 
     Channel 0 to 2. Serves the model 8.
     """
@@ -333,7 +336,7 @@ def ZTK_GetCurrentBoostLevelIndex(product_id: int) -> tuple[int, int | None]:
 
 
 def ZTK_SetCurrentBoostLevelIndex(product_id: int) -> int:
-    """Sends the stored boost level again: 100, or 102. Serves the model 10."""
+    """Sends the stored boost level again. Returns 100 or 102. Serves the model 10."""
     return _call("ZTK_SetCurrentBoostLevelIndex", _unsigned(product_id))
 
 
@@ -371,7 +374,7 @@ def ZTK_GetCurrentMidiChannelIndex(product_id: int) -> tuple[int, int | None]:
 
 
 def ZTK_SetCurrentMidiChannelIndex(product_id: int) -> int:
-    """Sends the stored MIDI channel again: 100, or 102 if it is above 3.
+    """Sends the stored MIDI channel again. Returns 100, or 102 if it is above 3.
 
     Serves the model 1.
     """
@@ -414,7 +417,7 @@ def ZTK_SetCurrentMidiKeyModeIndex(product_id: int) -> int:
 
 
 def ZTK_GetMixerCertifyLevel(product_id: int) -> tuple[int, int | None]:
-    """Asks for the certification level; 0 when no mixer answers.
+    """Asks for the certification level, which is 0 if no mixer answers.
 
     Serves the model 10.
     """
@@ -424,7 +427,7 @@ def ZTK_GetMixerCertifyLevel(product_id: int) -> tuple[int, int | None]:
 def ZTK_GetFirmwareVersionIndex(product_id: int) -> tuple[int, int | None]:
     """Asks the first mixer for its firmware version, such as 1078.
 
-    0 when the first mixer does not answer. Serves the model 10.
+    The version is 0 if the first mixer does not answer. Serves the model 10.
     """
     return _number("ZTK_GetFirmwareVersionIndex", _unsigned(product_id))
 
@@ -434,9 +437,9 @@ def ZTK_GetMixerInputSelectorStatus(
 ) -> tuple[int, int]:
     """Asks for the position of the input selector of a mixer channel, 0 to 16.
 
-    Channel 0 to 4. The position stays ``initial`` when no mixer can be opened.
-    With 102, the position is the number above 16 that a mixer reported, or
-    ``initial`` when an argument was refused. Serves the model 10.
+    Channel 0 to 4. The position is ``initial`` if no mixer can be opened. With
+    102, the position is the number above 16 that a mixer reported, or
+    ``initial`` if an argument was refused. Serves the model 10.
     """
     return _number_from(
         initial,
@@ -451,8 +454,8 @@ def ZTK_GetMixerSeratoActiveStatus(
 ) -> tuple[int, int]:
     """Asks whether the Serato DJ software is active on the mixer: 0 or 1.
 
-    The answer stays ``initial`` when no mixer can be opened. 102 when a mixer
-    reports something else or nothing. Serves the model 10.
+    The output is ``initial`` if no mixer can be opened. The result is 102 if a
+    mixer reports another number or sends no data. Serves the model 10.
     """
     return _number_from(
         initial, "ZTK_GetMixerSeratoActiveStatus", _unsigned(product_id)
@@ -461,9 +464,9 @@ def ZTK_GetMixerSeratoActiveStatus(
 
 # Change callbacks
 #
-# The library keeps the address of a callback for as long as the process runs,
-# and a notification that is on its way may still call one that was replaced.
-# The objects behind the addresses are therefore never released.
+# The library keeps the address of a callback until the process ends, and a
+# notification that has not been delivered yet may still call a callback that was
+# replaced. So the callback objects are never released.
 
 _kept: list[Any] = []
 
@@ -493,10 +496,11 @@ def ZTK_RegisterInputAudioChangedCallback(
 ) -> int:
     """Registers a function that is called with the channel and the new index.
 
-    It is called on the GLib main context of the registering thread (macOS: on
-    the main thread's run loop). There is one callback for each family and
-    model: this replaces the one of :func:`ztkfunc.subscribe`. After n
-    registrations it is called n times for each change. Serves the model 10.
+    The function is called on the GLib main context of the thread that registers
+    it (on macOS: on the run loop of the main thread). There is one callback for
+    each family and model, so this call replaces the callback of
+    :func:`ztkfunc.subscribe`. After n registrations the function is called n
+    times for each change. Serves the model 10.
     """
     return _register(
         "ZTK_RegisterInputAudioChangedCallback",
@@ -516,10 +520,11 @@ def ZTK_UnregisterInputAudioChangedCallback(product_id: int) -> int:
 def ZTK_RegisterOutputAudioChangedCallback(
     product_id: int, callback: Callable[[int, int], object] | None
 ) -> int:
-    """Registers for USB output audio, as for USB input audio.
+    """Registers a function for USB output audio, as for USB input audio.
 
-    The setters of this family announce under another model's name: changes that
-    this library makes never call it. Serves the model 10.
+    The setters of this family announce their changes with the name of another
+    model. So a change by this library never calls the function. Serves the
+    model 10.
     """
     return _register(
         "ZTK_RegisterOutputAudioChangedCallback",
@@ -539,9 +544,9 @@ def ZTK_UnregisterOutputAudioChangedCallback(product_id: int) -> int:
 def ZTK_RegisterBoostLevelChangedCallback(
     product_id: int, callback: Callable[[int], object] | None
 ) -> int:
-    """Registers a function that is called with the new boost level's index.
+    """Registers a function that is called with the index of the new boost level.
 
-    The rest is as for USB input audio. Serves the model 10.
+    Everything else is as for USB input audio. Serves the model 10.
     """
     return _register(
         "ZTK_RegisterBoostLevelChangedCallback",
@@ -561,9 +566,9 @@ def ZTK_UnregisterBoostLevelChangedCallback(product_id: int) -> int:
 def ZTK_RegisterMidiChannelChangedCallback(
     product_id: int, callback: Callable[[int], object] | None
 ) -> int:
-    """Registers a function that is called with the new MIDI channel's index.
+    """Registers a function that is called with the index of the new MIDI channel.
 
-    The rest is as for USB input audio. Serves the model 1.
+    Everything else is as for USB input audio. Serves the model 1.
     """
     return _register(
         "ZTK_RegisterMidiChannelChangedCallback",

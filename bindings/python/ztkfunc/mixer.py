@@ -1,21 +1,22 @@
 # SPDX-License-Identifier: MIT
-"""The settings as objects: channels and choices count from 1, as ``ztk`` has them.
+"""The settings as objects. Channels and choices count from 1, as in ``ztk``.
 
     mixer = Mixer()
     mixer.input[2] = "Post CH2 Fader"
     mixer.boost = "-10 dB"
 
-A setting reaches every attached mixer, is stored for the user and announced to
-every program of the session. What is refused raises :class:`Rejected` or
-:class:`ValueError`, and nothing is sent. What was set but did not arrive
-everywhere is a warning of Python's :mod:`warnings`:
+A new value is sent to every attached mixer, stored for the user and announced to
+every program of the session. A value that is not accepted raises
+:class:`Rejected` or :class:`ValueError`, and nothing is sent. If a value was set
+but a step failed, the package issues a warning of Python's :mod:`warnings`:
 
 - :class:`NotSent`: not every attached mixer has accepted the value, or none is
   attached. The value is stored; :meth:`Mixer.apply` sends it again.
 - :class:`NotStored`: the value is not in the settings file.
 - :class:`Inaudible`: the input selector of the channel makes the routing silent.
 
-``warnings.simplefilter("error", ztkfunc.NotSent)`` makes an exception of one.
+``warnings.simplefilter("error", ztkfunc.NotSent)`` turns such a warning into an
+exception.
 """
 from __future__ import annotations
 
@@ -39,8 +40,9 @@ _MODEL_NAMES = {
     10: "VRM-D6",
 }
 _USERS_OWN_LANGUAGE = 99
-# A position that no mixer can report; it shows that no mixer has reported one.
-_NO_POSITION = 0xFFFFFFFF
+# The initial output of a query. No mixer can report this number, so an output with
+# this number shows that no mixer has answered.
+_NO_ANSWER = 0xFFFFFFFF
 # Channels with an input selector.
 _SELECTORS = range(1, 5)
 
@@ -66,11 +68,11 @@ def _folded(text: str) -> str:
     return "".join(text.split()).casefold()
 
 
-def _index_of(choice: str | int, choices: tuple[str, ...], place: str) -> int:
+def _index_of(choice: str | int, choices: tuple[str, ...], label: str) -> int:
     """Finds a choice by its text or by its number from 1."""
     accepted = ", ".join(f"{n} {text}" for n, text in enumerate(choices, 1))
     if isinstance(choice, bool) or not isinstance(choice, (str, int)):
-        raise TypeError(f"{place} takes a text or a number; accepted: {accepted}")
+        raise TypeError(f"{label} takes a text or a number; accepted: {accepted}")
     if isinstance(choice, int):
         if 1 <= choice <= len(choices):
             return choice - 1
@@ -78,11 +80,11 @@ def _index_of(choice: str | int, choices: tuple[str, ...], place: str) -> int:
         for index, text in enumerate(choices):
             if _folded(text) == _folded(choice):
                 return index
-    raise ValueError(f"{choice!r} is not a choice of {place}; accepted: {accepted}")
+    raise ValueError(f"{choice!r} is not a choice of {label}; accepted: {accepted}")
 
 
 def _warn(text: str, category: type[Warning]) -> None:
-    """Warns at the line of the program that called the package."""
+    """Issues a warning for the line of the program that called the package."""
     level = 1
     frame: FrameType | None = sys._getframe()
     while frame is not None and frame.f_globals.get("__name__") == __name__:
@@ -91,25 +93,25 @@ def _warn(text: str, category: type[Warning]) -> None:
     warnings.warn(text, category, stacklevel=level)
 
 
-def _report(place: str, outcome: Outcome, stores: bool) -> None:
-    """Warns when the last call did not do everything."""
+def _report(label: str, outcome: Outcome, stores: bool) -> None:
+    """Issues a warning for each step of the last call that failed."""
     if outcome.mixers_found == 0:
-        _warn(f"{place}: no mixer is attached", NotSent)
+        _warn(f"{label}: no mixer is attached", NotSent)
     else:
         failed = [mixer for mixer in outcome.mixers if not mixer.accepted]
         if failed:
             reasons = "; ".join(mixer.describe() for mixer in failed)
-            _warn(f"{place}: {reasons}", NotSent)
+            _warn(f"{label}: {reasons}", NotSent)
     if stores and not outcome.stored:
-        _warn(f"{place}: {outcome.store.describe()}", NotStored)
+        _warn(f"{label}: {outcome.store.describe()}", NotStored)
 
 
 class ChannelSetting(MutableMapping[int, "str | None"]):
-    """A setting with channels: a mapping from the channel, from 1, to a text.
+    """A setting with channels: a mapping from a channel, counted from 1, to a text.
 
-    Reading gives the stored choice, or the default if none is stored; None if
-    the settings file holds a number that is no choice. Assigning takes a text
-    or the number of a choice, from 1, and sends it to every mixer.
+    Reading returns the stored choice, or the default if none is stored, or None
+    if the number in the settings file is not a choice. Assigning accepts a text or
+    the number of a choice, counted from 1, and sends the choice to every mixer.
     """
 
     def __init__(
@@ -142,7 +144,7 @@ class ChannelSetting(MutableMapping[int, "str | None"]):
         return channel - 1
 
     def choices(self, channel: int) -> tuple[str, ...]:
-        """The texts of the choices of a channel, in the order of their numbers."""
+        """Returns the texts of a channel's choices, in the order of their numbers."""
         number = self._check(channel)
         count = self._count(self._model, number)[1]
         assert count is not None
@@ -159,24 +161,24 @@ class ChannelSetting(MutableMapping[int, "str | None"]):
 
     def __setitem__(self, channel: int, choice: str | int | None) -> None:
         number = self._check(channel)
-        place = f"{self._title} {channel}"
+        label = f"{self._title} {channel}"
         if choice is None:
-            raise TypeError(f"{place} cannot be set to None")
-        index = _index_of(choice, self.choices(channel), place)
+            raise TypeError(f"{label} cannot be set to None")
+        index = _index_of(choice, self.choices(channel), label)
         result = self._assign(self._model, number, index)
         outcome = last_outcome()
         if result == functions.ZTK_REJECTED:
-            raise Rejected(f"{place}: the library refused index {index}")
-        _report(place, outcome, stores=True)
-        # There is no warning for USB channel 5, which has no input selector,
-        # nor when a mixer has not reported its positions.
+            raise Rejected(f"{label}: the library refused index {index}")
+        _report(label, outcome, stores=True)
+        # There is no warning for USB channel 5, because it has no input selector,
+        # and none if no mixer has reported its positions.
         if (
             result == functions.ZTK_WARNING
             and outcome.answered
             and channel in _SELECTORS
         ):
             _warn(
-                f"{place}: cannot be heard until the input selector of CH{channel} "
+                f"{label}: cannot be heard until the input selector of CH{channel} "
                 "is turned to position 4",
                 Inaudible,
             )
@@ -191,31 +193,31 @@ class ChannelSetting(MutableMapping[int, "str | None"]):
         return self._channels
 
     def apply(self, channel: int | None = None) -> None:
-        """Sends the stored choice of one channel, or of all, again.
+        """Sends the stored choice of one channel, or of all channels, again.
 
-        A channel without a stored choice sends its default.
+        For a channel without a stored choice, the default is sent.
         """
         for each in list(self) if channel is None else [channel]:
             number = self._check(each)
-            place = f"{self._title} {each}"
+            label = f"{self._title} {each}"
             result = self._apply(self._model, number)
             outcome = last_outcome()
             if result == functions.ZTK_REJECTED:
-                raise Rejected(f"{place}: the stored value cannot be sent")
-            _report(place, outcome, stores=False)
+                raise Rejected(f"{label}: the stored value cannot be sent")
+            _report(label, outcome, stores=False)
 
 
 class Selectors(Mapping[int, "int | None"]):
     """The positions of the input selectors of the mixer: channels 1 to 4.
 
-    Each access asks the mixers. None if no mixer answers.
+    Each access asks the mixers. The position is None if no mixer answers.
     """
 
     def __getitem__(self, channel: int) -> int | None:
         if channel not in _SELECTORS:
             raise KeyError(f"there is no input selector {channel}; accepted: 1 to 4")
         result, position = functions.ZTK_GetMixerInputSelectorStatus(
-            10, channel - 1, _NO_POSITION
+            10, channel - 1, _NO_ANSWER
         )
         if result != functions.ZTK_SUCCESS or not last_outcome().answered:
             return None
@@ -229,11 +231,11 @@ class Selectors(Mapping[int, "int | None"]):
 
 
 def warning_text(channel: int, language: int = _USERS_OWN_LANGUAGE) -> str | None:
-    """The library's sentence for a routing that cannot be heard.
+    """Returns the library's sentence for a routing that cannot be heard.
 
-    Channel 1 to 4; for the languages see
-    :func:`ztkfunc.functions.ZTK_GetWarningTextForSetUSBAudioInput`. None for
-    channel 5 and when the texts are not installed.
+    Channel 1 to 4. The numbers of the languages are at
+    :func:`ztkfunc.functions.ZTK_GetWarningTextForSetUSBAudioInput`. Returns None
+    for channel 5, and if the texts are not installed.
     """
     return functions.ZTK_GetWarningTextForSetUSBAudioInput(
         10, channel - 1, functions.ZTK_WARNING, language
@@ -241,13 +243,13 @@ def warning_text(channel: int, language: int = _USERS_OWN_LANGUAGE) -> str | Non
 
 
 class Mixer:
-    """The settings of one model, VRM-D6 unless another one is named.
+    """The settings of one model. Without an argument, the model is the VRM-D6.
 
-    All attached mixers are served at once: the library does not tell them
-    apart. Objects of this class have no open resources.
+    A value is sent to all attached mixers, because the library does not
+    distinguish them. Objects of this class have no open resources.
     """
 
-    # A mistyped name of a setting must not be taken for a new attribute.
+    # With __slots__, assigning to a mistyped name of a setting is an error.
     __slots__ = ("model", "product_id")
 
     #: The name of the model.
@@ -279,7 +281,7 @@ class Mixer:
 
     @property
     def input(self) -> ChannelSetting:
-        """What is recorded on each of the USB channels 1 to 5 (VRM-D6)."""
+        """The source that the computer records on each USB channel, 1 to 5 (VRM-D6)."""
         self._require(10, "USB input audio")
         return ChannelSetting(
             "USB input",
@@ -294,7 +296,7 @@ class Mixer:
 
     @property
     def output(self) -> ChannelSetting:
-        """Where each of the playback channels 1 to 3 goes (VRM-B5)."""
+        """The destination of each playback channel, 1 to 3 (VRM-B5)."""
         self._require(8, "USB output audio")
         return ChannelSetting(
             "USB output",
@@ -318,9 +320,9 @@ class Mixer:
     def boost(self) -> str | None:
         """The boost level, which is the level of the USB output (VRM-D6).
 
-        Reading gives the stored level, or "-19 dB" if none is stored; None if
-        the settings file holds a number that is no level. Assigning takes a
-        text, or the number of a level from 1.
+        Reading returns the stored level, or "-19 dB" if none is stored, or None if
+        the number in the settings file is not a level. Assigning accepts a text,
+        or the number of a level, counted from 1.
         """
         choices = self.boost_choices
         index = functions.ZTK_GetCurrentBoostLevelIndex(10)[1]
@@ -329,7 +331,7 @@ class Mixer:
     @boost.setter
     def boost(self, choice: str | int) -> None:
         index = _index_of(choice, self.boost_choices, "boost level")
-        _single("boost level", functions.ZTK_SetBoostLevelIndex(10, index), stores=True)
+        _check_result("boost level", functions.ZTK_SetBoostLevelIndex(10, index), stores=True)
 
     @property
     def midi_choices(self) -> tuple[str, ...]:
@@ -340,10 +342,11 @@ class Mixer:
 
     @property
     def midi(self) -> str | None:
-        """The MIDI channel that the controls of the mixer send on (VRM-K2).
+        """The MIDI channel on which the controls of the mixer send (VRM-K2).
 
-        Reading gives the stored channel, or "CH 1" if none is stored. Assigning
-        takes a text, or a number from 1 to 16.
+        Reading returns the stored channel, or "CH 1" if none is stored, or None if
+        the number in the settings file is not a channel. Assigning accepts a text,
+        or a number from 1 to 16.
         """
         choices = self.midi_choices
         index = functions.ZTK_GetCurrentMidiChannelIndex(1)[1]
@@ -352,24 +355,24 @@ class Mixer:
     @midi.setter
     def midi(self, choice: str | int) -> None:
         index = _index_of(choice, self.midi_choices, "MIDI channel")
-        _single("MIDI channel", functions.ZTK_SetMidiChannelIndex(1, index), stores=True)
+        _check_result("MIDI channel", functions.ZTK_SetMidiChannelIndex(1, index), stores=True)
 
     def apply(self) -> None:
-        """Sends all stored settings of the model again, after the mixer was off.
+        """Sends all stored settings of the model again, for example after power-on.
 
-        A setting that is not stored sends its default. Raises
+        For a setting that is not stored, the default is sent. Raises
         :class:`Rejected` for a stored value that cannot be sent, such as a MIDI
         channel above 4.
         """
         if self.product_id == 10:
             self.input.apply()
             result = functions.ZTK_SetCurrentBoostLevelIndex(10)
-            _single("boost level", result, stores=False)
+            _check_result("boost level", result, stores=False)
         elif self.product_id == 8:
             self.output.apply()
         elif self.product_id == 1:
             result = functions.ZTK_SetCurrentMidiChannelIndex(1)
-            _single("MIDI channel", result, stores=False)
+            _check_result("MIDI channel", result, stores=False)
         else:
             raise Rejected(f"the {self.model} has no settings")
 
@@ -377,7 +380,7 @@ class Mixer:
     def firmware(self) -> str | None:
         """The firmware version of the first mixer, such as "4.36".
 
-        None if it does not answer.
+        The version is None if the first mixer does not answer.
         """
         self._require(10, "firmware query")
         version = functions.ZTK_GetFirmwareVersionIndex(10)[1]
@@ -388,7 +391,7 @@ class Mixer:
 
     @property
     def certification(self) -> int | None:
-        """The certification level; None if no mixer answers."""
+        """The certification level, or None if no mixer answers."""
         self._require(10, "certification query")
         level = functions.ZTK_GetMixerCertifyLevel(10)[1]
         return level if last_outcome().answered else None
@@ -401,16 +404,16 @@ class Mixer:
 
     @property
     def serato_active(self) -> bool | None:
-        """Whether the Serato DJ software is active; None if no mixer answers."""
+        """Whether the Serato DJ software is active, or None if no mixer answers."""
         self._require(10, "Serato query")
-        result, active = functions.ZTK_GetMixerSeratoActiveStatus(10, _NO_POSITION)
-        if result != functions.ZTK_SUCCESS or active == _NO_POSITION:
+        result, active = functions.ZTK_GetMixerSeratoActiveStatus(10, _NO_ANSWER)
+        if result != functions.ZTK_SUCCESS or active == _NO_ANSWER:
             return None
         return active == 1
 
 
-def _single(place: str, result: int, *, stores: bool) -> None:
+def _check_result(label: str, result: int, *, stores: bool) -> None:
     outcome = last_outcome()
     if result == functions.ZTK_REJECTED:
-        raise Rejected(f"{place}: the value cannot be sent")
-    _report(place, outcome, stores=stores)
+        raise Rejected(f"{label}: the value cannot be sent")
+    _report(label, outcome, stores=stores)

@@ -1,9 +1,10 @@
 # SPDX-License-Identifier: MIT
 """The effects of the last call on this thread.
 
-The result codes of the library do not report a mixer that refuses a request, a
-file that cannot be written or a missing message bus. :func:`last_outcome` does.
-Ask directly after the call, on the thread that made it.
+The result codes of the library do not report that a mixer refused a request, that
+a file could not be written or that there is no message bus. :func:`last_outcome`
+returns this information. It must be called directly after the call in question,
+on the same thread.
 """
 from __future__ import annotations
 
@@ -22,7 +23,7 @@ class Request(IntEnum):
 
     #: The call had no such request.
     NONE = 0
-    #: The mixer accepted the value, or answered the question.
+    #: The mixer accepted the value, or answered the query.
     ACCEPTED = 1
     #: The mixer refused the request.
     REFUSED = 2
@@ -39,7 +40,7 @@ class Request(IntEnum):
 class File(IntEnum):
     """The result of reading or storing a file."""
 
-    #: The call had nothing to do with the file.
+    #: The call did not use a file.
     NONE = 0
     OK = 1
     ABSENT = 2
@@ -50,7 +51,7 @@ class File(IntEnum):
     FULL = 7
     #: Nothing was stored, and the file was left as it is.
     CANNOT_BE_READ_NOW = 8
-    #: The file holds no property list; storing keeps it under another name.
+    #: The file is not a property list. Storing keeps it under another name.
     DAMAGED = 9
     NOT_REGULAR = 10
     #: Another error; see the system code.
@@ -63,7 +64,7 @@ class Announcement(IntEnum):
     #: The call had nothing to announce.
     NONE = 0
     SENT = 1
-    #: The session has no message bus, so no program listens.
+    #: The session has no message bus, so no program was informed.
     NO_BUS = 2
     FAILED = 3
 
@@ -95,7 +96,7 @@ _FILE_WORDS = {
 
 
 def _request(value: int) -> Request:
-    # A newer library may have more codes; all of them are failures.
+    # A newer library may have more codes, which are failures.
     return Request(value) if value in Request._value2member_map_ else Request.FAILED
 
 
@@ -164,15 +165,15 @@ class FileOutcome(NamedTuple):
 class Outcome(NamedTuple):
     """The effects of one call."""
 
-    #: Mixers that the call counted.
+    #: The number of mixers that the call counted.
     mixers_found: int
     #: The mixers in the order of the bus; at most the first 127.
     mixers: tuple[MixerOutcome, ...]
-    #: Reading a file.
+    #: The result of reading a file.
     read: FileOutcome
-    #: Storing the value in the settings file.
+    #: The result of storing the value in the settings file.
     store: FileOutcome
-    #: The announcement to other programs.
+    #: The result of the announcement to other programs.
     announcement: Announcement
 
     @property
@@ -182,7 +183,7 @@ class Outcome(NamedTuple):
 
     @property
     def answered(self) -> bool:
-        """Whether at least one mixer answered a question."""
+        """Whether at least one mixer answered a query."""
         return any(mixer.read.result == Request.ACCEPTED for mixer in self.mixers)
 
 
@@ -210,8 +211,8 @@ def _file_outcome(record: CFileOutcome) -> FileOutcome:
 def last_outcome() -> Outcome:
     """Returns the effects of the last call of the library on this thread.
 
-    Functions that answer from constant tables, such as those for texts and
-    counts, leave the record of the call before them.
+    Functions that only read constant tables, such as those for texts and counts,
+    do not change the record of the call before them.
     """
     record = COutcome(size=ctypes.sizeof(COutcome))
     LIB.ZTK_GetLastOutcome(ctypes.byref(record))
