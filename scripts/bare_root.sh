@@ -1,14 +1,14 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 #
-# Makes a Debian with nothing but its base system in a temporary folder, for the
-# commands that try things there. They source lib.sh first.
+# Makes a Debian root with only the base system in a temporary folder. Commands
+# that use such a root source lib.sh and then this file.
 
-# The release; set by make_bare_root.
+# The release, which make_bare_root sets.
 suite=
 
-# Prints the server from which this machine gets the packages of the release, if
-# there is one. Reads both forms of source lists.
+# Prints the servers from which this machine gets the packages of the release.
+# Reads source lists in both formats.
 mirror() {
   local lists=(/etc/apt/sources.list /etc/apt/sources.list.d/*.list)
   { cat /etc/apt/sources.list.d/*.sources 2>/dev/null || true; } |
@@ -27,8 +27,8 @@ mirror() {
     awk -v suite="$suite" '$1 == "deb" && $3 == suite { print $2; exit }'
 }
 
-# Lets apt work in the root as it does on this machine. The source lists are
-# copied only if they offer the release of the root.
+# Makes apt use the same servers and settings in the root as on this machine. The
+# source lists are copied only if they contain the release of the root.
 copy_apt_settings() {  # root
   local file lists=()
   if [[ -n $(mirror) ]]; then
@@ -42,14 +42,14 @@ copy_apt_settings() {  # root
     mkdir -p "$1/${file%/*}"
     cp -aL --remove-destination "$file" "$1/${file%/*}/"
   done
-  # Copies only the settings for downloads: others may run programs that a bare
-  # system does not have.
+  # Only the settings for downloads are copied, because other settings may run
+  # programs that the root does not have.
   apt-config dump | grep -E '^Acquire::(https?|Check|Allow)' \
     >"$1/etc/apt/apt.conf.d/90machine" || true
 }
 
-# Call this in new mount and process namespaces, so that mounts and remaining
-# processes end with them.
+# Mounts the file systems that the root needs. Must be called in new mount and
+# process namespaces, so that the mounts and remaining processes end with them.
 mount_system() {  # root
   local device
   mount --bind "$1" "$1"
@@ -67,19 +67,19 @@ mount_system() {  # root
   ln -s /proc/self/fd "$1/dev/fd"
 }
 
-# Runs a command in the root with the environment of a fresh login of root.
+# Runs a command in the root as user root, with the environment of a new login.
 in_bare_root() {  # root command...
   as_user_in_bare_root "$1" root /root 022 /root/project "${@:2}"
 }
 
-# Runs a command in a folder of the root with the environment of a fresh login.
+# Runs a command in the root as a user, with the environment of a new login.
 as_user_in_bare_root() {  # root user home umask folder command...
   local bare=$1 user=$2 home=$3 mask=$4 folder=$5 settings=() name
   shift 5
   for name in http_proxy https_proxy no_proxy; do
     [[ -z ${!name:-} ]] || settings+=("$name=${!name}")
   done
-  # shellcheck disable=SC2016  # expanded inside
+  # shellcheck disable=SC2016  # expanded by the inner shell
   env -i PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin \
     HOME="$home" USER="$user" LOGNAME="$user" TERM="${TERM:-dumb}" \
     LANG=C.UTF-8 "${settings[@]}" chroot "$bare" \
@@ -88,8 +88,8 @@ as_user_in_bare_root() {  # root user home umask folder command...
     "$@" </dev/null
 }
 
-# Makes the root and sets $bare to its folder, which is removed when the command
-# ends.
+# Makes the root and sets $bare to its folder. The folder is removed when the
+# command ends.
 make_bare_root() {  # release
   suite=$1
   [[ $(id -u) == 0 ]] || fail "Only root can make a bare Debian root."

@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-"""Makes faulty versions of a C++ source, by a few rewriting rules.
+"""Makes faulty versions of a C++ source with a few rewriting rules.
 
-The rules work on text that is laid out by clang-format: operators stand between
-spaces, and a function starts in the first column. A fault that does not compile
-is harmless, so the rules need not understand the language.
+The rules expect a source in the layout of clang-format: operators have spaces
+around them, and a function starts in the first column. The rules do not parse C++.
+They may make a fault that does not compile, which does no harm.
 """
 
 import re
@@ -18,7 +18,7 @@ class Fault(NamedTuple):
 
 
 def masked(text):
-    """The text with comments, literals and directives blanked, same length."""
+    """Blanks comments, literals and directives. The length stays the same."""
     token = re.compile(
         r"//[^\n]*|/\*.*?\*/|R\"\((?:.*?)\)\"|\"(?:\\.|[^\"\\])*\"|"
         r"(?<![0-9A-Fa-f])'(?:\\.|[^'\\])*'|^[ ]*#(?:\\\n|[^\n])*",
@@ -30,7 +30,7 @@ def masked(text):
         return re.sub(r"[^\n]", filler, piece)
 
     masked_text = token.sub(blank, text)
-    # The compiler checks assertions, and the brackets of a template are not
+    # Faults in assertions do not compile, and the brackets of a template are not
     # comparisons.
     for pattern in (r"static_assert\(.*?\);", r"template <.*?>"):
         masked_text = re.sub(
@@ -40,7 +40,7 @@ def masked(text):
 
 
 def replaced(rule, table):
-    """A rule that replaces one operator or word by another."""
+    """Returns a rule that replaces one operator or word by another."""
     pattern = re.compile("|".join(
         rf"(?<![\w:]){re.escape(old)}(?!\w)" if old[0].isalpha()
         else rf"(?<= ){re.escape(old)}(?=\s)" for old in table))
@@ -82,7 +82,7 @@ def count_one_more(code, text):
 
 
 def closing(code, start):
-    """The place of the bracket that closes the one at `start`."""
+    """Returns the position of the bracket that closes the one at `start`."""
     depth = 0
     for place in range(start, len(code)):
         if code[place] in "([{":
@@ -95,7 +95,8 @@ def closing(code, start):
 
 
 def drop_statement(code, _text):
-    # A call, an assignment, a jump: not a declaration and not a function.
+    # This matches calls, assignments, increments, break and continue, but not
+    # declarations and functions.
     statement = re.compile(
         r"(?:(?<=[;{}):])|(?<=\belse))\s+(?P<text>"
         r"(?:(?:break|continue)|\+\+[\w.>\-]+|[*\w:.\[\]\->]+\+\+|"
@@ -112,7 +113,7 @@ def drop_statement(code, _text):
 
 
 def arguments(code, start, last):
-    """The places of the arguments between two brackets, without the spaces."""
+    """Returns the positions of the arguments between two brackets."""
     places, depth, begin = [], 0, start + 1
     for place in range(start + 1, last + 1):
         if place == last or (code[place] == "," and depth == 0):
@@ -132,10 +133,10 @@ def swap_arguments(code, text):
         last = closing(code, match.start(1))
         places = arguments(code, match.start(1), last)
         pieces = [text[begin:end] for begin, end in places]
-        # A function that begins in the first column is declared, not called.
+        # A function in the first column is a declaration and not a call.
         if not code[code.rfind("\n", 0, match.start()) + 1].isspace():
             continue
-        # A parameter is a type and a name; an argument seldom has a space.
+        # In a declaration, each parameter is a type and a name.
         if any(re.match(r"(?:const )?[\w:<>]+ [*&]*\w+$|[\w:]+ \*\w*$", piece)
                for piece in pieces):
             continue
@@ -152,7 +153,7 @@ RULES = (flip_comparison, move_bound, negate, count_one_more, drop_statement,
 
 
 def faults_in(text):
-    """Every fault of a source, in the order of their places."""
+    """Returns all faults of a source, sorted by position."""
     code = masked(text)
     found = {fault for rule in RULES for fault in rule(code, text)}
     return sorted(found, key=lambda fault: (fault.start, fault))
@@ -163,7 +164,7 @@ def with_fault(text, fault):
 
 
 def function_of(text, fault):
-    """The name of the function that the fault is in; empty outside of one."""
+    """Returns the name of the function that contains the fault, or ""."""
     before = text[:fault.start]
     heads = list(re.finditer(r"^[A-Za-z_][^\n;{}=#]*?(\w+)\(", before, re.M))
     if not heads or re.search(r"^}", before[heads[-1].start():], re.M):
@@ -172,7 +173,7 @@ def function_of(text, fault):
 
 
 def description(text, fault):
-    """One line that names the fault: the dropped text, or the changed line."""
+    """Describes the fault in one line: the dropped text, or the changed line."""
     if fault.rule == "drop a statement":
         begin, end = fault.start, fault.end
         if fault.replacement:
