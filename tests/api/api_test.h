@@ -35,7 +35,7 @@ inline const ZTKTextRef kUntouchedText = ZTK_TEXT("untouched");
 // A mixer that is counted and does not open.
 inline Device UnreachableMixer() {
   Device mixer = Mixer();
-  mixer.canBeReached = false;
+  mixer.canBeOpened = false;
   return mixer;
 }
 

@@ -26,7 +26,7 @@ class GetProductId : public ApiTest {
   static Found Find(const char *name) {
     std::uint32_t id = kUntouched;
     const ZTKResult result =
-        ZTK_GetProductId(name == nullptr ? nullptr : Lasting(name), &id);
+        ZTK_GetProductId(name == nullptr ? nullptr : PermanentText(name), &id);
     return {.result = result, .id = id};
   }
 };
@@ -95,7 +95,7 @@ TEST_F(GetProductId, LeavesTheCallersTextAndAsksNothing) {
   CurrentWorld().bus = {Mixer()};
   std::string name = "vrm-d6 in lower case";
   std::uint32_t id = 0;
-  EXPECT_EQ(ZTK_GetProductId(Lasting(name), &id), 100u);
+  EXPECT_EQ(ZTK_GetProductId(PermanentText(name), &id), 100u);
   EXPECT_EQ(name, "vrm-d6 in lower case");
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }

@@ -28,7 +28,7 @@ Bundle *AtPath(ZTKTextRef path) {
 ZTKTextRef ResourcePath(const Bundle *bundle) {
   if (bundle == nullptr) return nullptr;
   return text::Format(ZTK_TEXT("%@"),
-                      test::Lasting(bundle->contents.resourcePath));
+                      test::PermanentText(bundle->contents.resourcePath));
 }
 
 ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
@@ -40,7 +40,7 @@ ZTKTextRef LocalizedText(const Bundle *bundle, ZTKTextRef key,
   if (texts != tables.end()) {
     const auto text = texts->second.find(Plain(key));
     if (text != texts->second.end()) {
-      return test::Lasting(text->second);
+      return test::PermanentText(text->second);
     }
   }
   return key;

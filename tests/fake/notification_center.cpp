@@ -10,8 +10,8 @@
 
 namespace ztk::platform::notification_center {
 
-// Not freed before the process ends: a record that the core drops without
-// releasing it is counted, and leak checkers do not report it.
+// Records are not freed before the process ends. So a record that the core does
+// not release is counted in `held`, but leak checkers do not report it.
 struct UserInfo {
   int references;
   std::vector<std::pair<std::string, std::int32_t>> entries;
@@ -100,7 +100,7 @@ void Deliver(const std::string &name,
              const std::vector<std::pair<std::string, std::int32_t>> &entries) {
   const platform::notification_center::UserInfo userInfo{.references = 1,
                                                          .entries = entries};
-  // A method may register more observers; these get the next notification.
+  // A method may add observers. They only get later notifications.
   const std::vector<Observation> observations = CurrentWorld().observations;
   for (const Observation &observation : observations) {
     if (observation.name != name) continue;

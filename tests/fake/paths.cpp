@@ -10,7 +10,7 @@ namespace ztk::platform::paths {
 ZTKTextRef UserLibrary() {
   const fake::World &world = fake::CurrentWorld();
   if (!world.hasLibraryFolder) return nullptr;
-  return text::Format(ZTK_TEXT("%@"), test::Lasting(world.library));
+  return text::Format(ZTK_TEXT("%@"), test::PermanentText(world.libraryFolder));
 }
 
 }  // namespace ztk::platform::paths

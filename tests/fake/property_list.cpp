@@ -34,7 +34,7 @@ std::string Describe(const fake::Value &value) {
   return "(other)";
 }
 
-// The result of reading the file, and its entries when it can be read.
+// Returns the result of reading the file. Sets *entries if it can be read.
 ReadResult Find(const std::string &path, fake::Entries *entries) {
   const auto failure = CurrentWorld().readFailures.find(path);
   if (failure != CurrentWorld().readFailures.end()) return failure->second;
@@ -120,7 +120,7 @@ ZTKTextRef TextValue(const Dictionary *dictionary, ZTKTextRef key) {
   const auto entry = dictionary->entries.find(Plain(key));
   if (entry == dictionary->entries.end()) return nullptr;
   const auto *text = std::get_if<std::string>(&entry->second);
-  return text == nullptr ? nullptr : test::Lasting(*text);
+  return text == nullptr ? nullptr : test::PermanentText(*text);
 }
 
 bool WriteAtomically(const Dictionary *dictionary, ZTKTextRef path,

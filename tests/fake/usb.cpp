@@ -13,7 +13,7 @@
 
 namespace ztk::platform::usb {
 
-// Handles are not freed before the process ends, so that a use after the last
+// Objects are not freed before the process ends. So a use after the last
 // release is detected and has defined behaviour.
 struct PortObject {
   int references;
@@ -80,7 +80,7 @@ fake::Device &DeviceAt(std::size_t position) {
   return CurrentWorld().bus.at(position);
 }
 
-// Counts mixers only, from 1.
+// Returns the number of the mixer, from 1. Only mixers are counted.
 int MixerNumber(std::size_t position) {
   const auto &bus = CurrentWorld().bus;
   const auto end = bus.begin() + static_cast<std::ptrdiff_t>(position) + 1;
@@ -230,7 +230,7 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
 Device *MakeReady(Device *device, Result *result) {
   Use(device, "device interface");
   const std::string mixer = std::to_string(MixerNumber(device->position));
-  if (!DeviceAt(device->position).canBeReached) {
+  if (!DeviceAt(device->position).canBeOpened) {
     LogStep("cannot open " + mixer);
     device->references = 0;
     --CurrentWorld().held.interfaces;
@@ -284,7 +284,7 @@ Code CloseDevice(Device *device) {
 
 std::uint32_t ReleaseDevice(Device *device) {
   Release(device, &CurrentWorld().held.interfaces, "device interface");
-  return device == nullptr ? 0 : DeviceAt(device->position).referencesOfOthers;
+  return device == nullptr ? 0 : DeviceAt(device->position).releaseResult;
 }
 
 }  // namespace ztk::platform::usb

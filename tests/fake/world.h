@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The recording port: a world that a test sets up as a value, changes in one
-// place, and reads back as one ordered log of what the core asked for.
+// The recording port. A test assigns a World, which defines how this port
+// behaves. Then the World contains an ordered log of the calls that the core
+// made.
 #ifndef ZTK_TESTS_FAKE_WORLD_H_
 #define ZTK_TESTS_FAKE_WORLD_H_
 
@@ -24,14 +25,14 @@ namespace ztk::fake {
 
 using Code = platform::usb::Code;
 
-// The answer of a device to a read: the result, and the bytes that it delivers
-// (the buffer receives at most as many as were asked for).
+// The answer of a device to a read: the result and the bytes. The buffer
+// receives at most as many bytes as the core requests.
 struct Answer {
   Code result = 0;
   std::vector<std::uint8_t> bytes;
 };
 
-// One device on the bus. It answers as a mixer unless a test changes that.
+// One device on the bus. With the default values it has the ids of a mixer.
 struct Device {
   std::uint16_t vendor = build::kUsbVendorId;
   std::uint16_t product = 27;
@@ -42,36 +43,34 @@ struct Device {
   Code subClassResult = 0;
   Code vendorResult = 0;
   Code productResult = 0;
-  bool canBeReached = true;  // else MakeReady() yields nothing
-  // Why it cannot be reached, and the error number of the system for a failed
-  // request.
+  bool canBeOpened = true;  // if false, MakeReady() returns null and openResult
   platform::usb::Result openResult = {.code = platform::usb::kNotPermitted,
                                       .systemCode = 13};
-  std::int32_t systemCodeOfRequests = 0;
-  std::uint32_t referencesOfOthers = 0;     // what a release returns
+  std::int32_t systemCodeOfRequests = 0;    // the errno of a failed request
+  std::uint32_t releaseResult = 0;          // the result of ReleaseDevice()
   std::map<std::uint16_t, Answer> answers;  // to reads, by register
   Code writeResult = 0;
 };
 
-// A mixer whose selectors all stand at position 4.
+// Returns a mixer whose input selectors are all at position 4.
 Device Mixer();
-// The same with another answer to one read.
+// Returns such a mixer with another answer to one read.
 Device MixerAnswering(std::uint16_t reg, Answer answer);
-// A device of another maker.
+// Returns a device of another maker.
 Device OtherDevice();
 
-// A value in a settings file; monostate is any value that is neither an integer
-// nor a text.
+// A value in a settings file. monostate stands for every value that is neither
+// an integer nor a text.
 using Value = std::variant<std::monostate, std::int32_t, std::string>;
 using Entries = std::map<std::string, Value>;
 
 struct Bundle {
   std::string resourcePath;
-  // By table and key.
+  // The texts by table and key.
   std::map<std::string, std::map<std::string, std::string>> preferredTexts;
 };
 
-// The objects that the core holds, by kind; a test checks how many are left.
+// The numbers of objects that the core has not released, by kind.
 struct Held {
   int ports = 0;
   int matchings = 0;
@@ -102,14 +101,15 @@ struct World {
   bool hasIterator = true;
   std::vector<Device> bus;
 
-  // Files, by path: those that can be read as a dictionary.
+  // The user's Library folder.
   bool hasLibraryFolder = true;
-  std::string library = "/Users/dj/Library";
+  std::string libraryFolder = "/Users/dj/Library";
+  // The files that can be read as a dictionary, by path.
   std::map<std::string, Entries> files;
-  // By path: files that exist but cannot be read.
+  // The files that exist but cannot be read, by path.
   std::map<std::string, platform::property_list::ReadResult> readFailures;
   bool canWrite = true;
-  int writeError = EACCES;  // the reason where canWrite is false
+  int writeError = EACCES;  // the error if canWrite is false
   std::map<std::string, Bundle> bundles;
 
   // The message bus.
@@ -117,17 +117,18 @@ struct World {
   // Runs while an observer is added.
   std::function<void()> onObserve;
 
-  // The results. `steps` is the log as steps of a setter: count, open, request,
-  // close, file, post. `calls` has every call.
+  // The log. `calls` contains every call of the core. `steps` contains only the
+  // steps of a setter: count, open, request, close, file, post.
   std::vector<std::string> steps;
   std::vector<std::string> calls;
   Held held;
   std::vector<Observation> observations;
-  // Uses of an object after its last release, and releases of nothing.
+  // Errors of the core: an object was used or released after its last release,
+  // or null was released.
   std::vector<std::string> misuse;
 };
 
-// The one world. Assigning to it starts afresh.
+// Returns the only world. A test starts by assigning a new World to it.
 World &CurrentWorld();
 
 // Delivers a notification to all observers of its name, as if another process
@@ -135,7 +136,7 @@ World &CurrentWorld();
 void Deliver(const std::string &name,
              const std::vector<std::pair<std::string, std::int32_t>> &entries);
 
-// Shared by the services of this port.
+// Append to the log.
 void LogCall(std::string call);
 void LogStep(std::string step);
 

@@ -25,11 +25,11 @@ using testing::Not;
 class KernelPrograms : public testing::Test {
  protected:
   void SetUp() override {
-    const std::string refusal = WorldRefusal();
+    const std::string refusal = WhyNoWorld();
     if (!refusal.empty()) GTEST_SKIP() << refusal;
   }
   void TearDown() override {
-    if (!WorldRefusal().empty()) return;
+    if (!WhyNoWorld().empty()) return;
     WaitFor("the bus is empty", [] { return DevicesOnTheBus().empty(); });
   }
 

@@ -112,7 +112,7 @@ std::unique_ptr<MixerWorld> MakeWorld(const std::vector<Placement> &placements,
   return std::make_unique<KernelWorld>(placements, log);
 }
 
-std::string WorldRefusal() {
+std::string WhyNoWorld() {
   if (!fs::exists(kVhci)) {
     return "this kernel has no vhci-hcd; guest-run boots one that has";
   }

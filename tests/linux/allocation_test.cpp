@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Each allocation of a call fails once, one after the other. No std::bad_alloc
-// may leave the library, and a setter returns its normal result. It runs in the
-// sandbox, with the core and the port linked in: the allocations of the shared
-// library cannot be replaced.
+// Makes each allocation of a call fail once, one after the other. No
+// std::bad_alloc may leave the library, and a setter must return its normal
+// result. The core and the port are linked into this program, because the
+// allocations of the shared library cannot be replaced. The program runs in the
+// sandbox.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -13,7 +14,7 @@
 
 namespace {
 
-// The allocation that fails, counted from 1; 0 for none.
+// The number of the allocation that fails, from 1; 0 if none fails.
 long failing = 0;
 long counted = 0;
 
@@ -31,7 +32,7 @@ struct Call {
   const char *name;
   ZTKResult (*call)();
   ZTKResult expected;
-  ZTKResult expectedToo;  // the result when a text or file is missing
+  ZTKResult expectedToo;  // the result if a text or file is missing
 };
 
 const Call kCalls[] = {
@@ -66,7 +67,8 @@ const Call kCalls[] = {
      },
      100, 100}};
 
-// Fails each allocation of a call. Returns their number; -1 for a wrong result.
+// Makes each allocation of a call fail once. Returns the number of allocations,
+// or -1 after a wrong result.
 long FailEach(const Call &call) {
   for (long which = 1;; ++which) {
     counted = 0;
@@ -84,7 +86,8 @@ long FailEach(const Call &call) {
 
 }  // namespace
 
-// The compiler must not know that these do not return null.
+// The operators are defined after their callers, so that the compiler does not
+// assume that they never return null.
 void *operator new(std::size_t size) {
   void *memory = Allocate(size);
   if (memory == nullptr) throw std::bad_alloc();
@@ -99,8 +102,7 @@ void operator delete(void *memory, std::size_t) noexcept { std::free(memory); }
 int main() {
   int failures = 0;
   for (const Call &call : kCalls) {
-    // Everything that is loaded or made only once exists before the first
-    // count.
+    // The first call loads or makes what exists only once. It is not counted.
     call.call();
     const long allocations = FailEach(call);
     if (allocations < 0) ++failures;

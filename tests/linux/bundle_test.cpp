@@ -26,7 +26,7 @@ using ztk::test::Put;
 using ztk::test::TempFolder;
 using ztk::test::Variable;
 
-// No language is preferred, whatever the tester's own environment says.
+// The environment prefers no language in these tests.
 class NoLanguage : public testing::Test {
  protected:
   Variable language_{"LANGUAGE", std::nullopt};
@@ -39,7 +39,7 @@ std::string Table(const std::string &text) {
   return ztk::test::Xml("<key>WARNING1</key><string>" + text + "</string>\n");
 }
 
-TEST(FindBundle, TakesAFolderAsItStands) {
+TEST(FindBundle, ReturnsThePathIfItIsAFolder) {
   const TempFolder folder;
   std::filesystem::create_directories(folder / "here/B.framework");
   std::filesystem::create_directories(folder / "data/tarvix/B.framework");
@@ -47,7 +47,7 @@ TEST(FindBundle, TakesAFolderAsItStands) {
             folder / "here/B.framework");
 }
 
-TEST(FindBundle, ElseLooksForTheSameNameUnderTheDataFolder) {
+TEST(FindBundle, OtherwiseSearchesTheSameNameInTheDataFolder) {
   const TempFolder folder;
   std::filesystem::create_directories(folder / "data/tarvix/B.framework");
   for (const char *path : {"/Library/Frameworks/B.framework",
@@ -58,7 +58,7 @@ TEST(FindBundle, ElseLooksForTheSameNameUnderTheDataFolder) {
   }
 }
 
-TEST(FindBundle, FindsNothingElse) {
+TEST(FindBundle, ReturnsAnEmptyTextIfThereIsNoFolder) {
   const TempFolder folder;
   std::filesystem::create_directories(folder / "data/tarvix");
   Put(folder / "data/tarvix/File.framework", "no folder");
@@ -70,7 +70,7 @@ TEST(FindBundle, FindsNothingElse) {
   }
 }
 
-TEST(AtPath, IsNullWhereNoFolderIs) {
+TEST(AtPath, ReturnsNullIfThereIsNoFolder) {
   const TempFolder folder;
   EXPECT_EQ(AtPath((folder / "None.framework").c_str()), nullptr);
   EXPECT_EQ(AtPath(nullptr), nullptr);
@@ -96,7 +96,7 @@ TEST(ResourcePath, IsTheFirstFolderThatExists) {
   EXPECT_EQ(ResourcePath(nullptr), nullptr);
 }
 
-TEST(FolderNames, GoFromTheExactToTheGeneral) {
+TEST(FolderNames, BeginWithTheExactLocaleAndEndWithTheLanguage) {
   const struct {
     const char *locale;
     std::vector<std::string> expected;
@@ -131,7 +131,7 @@ TEST(FolderNames, GoFromTheExactToTheGeneral) {
   }
 }
 
-TEST(FolderNames, LeadToTheFolderThatMacOSTakes) {
+TEST(FolderNames, SelectTheSameFolderAsMacOS) {
   const std::span<const char *const> folders = ztk::test::kLanguageFolders;
   for (const ztk::test::LanguageRow &row : ztk::test::kLanguageRows) {
     SCOPED_TRACE(row.language);
@@ -147,11 +147,11 @@ TEST(FolderNames, LeadToTheFolderThatMacOSTakes) {
 
 class PreferredLocales : public NoLanguage {};
 
-TEST_F(PreferredLocales, AreNoneWithoutALocale) {
+TEST_F(PreferredLocales, AreEmptyWithoutALocale) {
   EXPECT_THAT(ztk::platform::bundle::PreferredLocales(), IsEmpty());
 }
 
-TEST_F(PreferredLocales, TakeTheFirstVariableThatIsSet) {
+TEST_F(PreferredLocales, UseTheFirstVariableThatIsSet) {
   const Variable lang("LANG", "de_DE.UTF-8");
   EXPECT_THAT(ztk::platform::bundle::PreferredLocales(),
               ElementsAre("de_DE.UTF-8"));
@@ -170,13 +170,13 @@ TEST_F(PreferredLocales, BeginWithTheLanguageList) {
               ElementsAre("sv", "nl", "ja_JP", "de_DE.UTF-8"));
 }
 
-TEST_F(PreferredLocales, EndAtAnEntryForNoLanguage) {
+TEST_F(PreferredLocales, EndAtAnEntryForTheCLocale) {
   const Variable lang("LANG", "de_DE.UTF-8");
   const Variable language("LANGUAGE", "sv:C:nl");
   EXPECT_THAT(ztk::platform::bundle::PreferredLocales(), ElementsAre("sv"));
 }
 
-TEST_F(PreferredLocales, IgnoreTheLanguageListInThePlainLocale) {
+TEST_F(PreferredLocales, IgnoreTheLanguageListInTheCLocale) {
   const Variable language("LANGUAGE", "nl");
   for (const char *plain : {"C", "POSIX", "C.UTF-8", ""}) {
     SCOPED_TRACE(plain);
@@ -216,7 +216,7 @@ class LocalizedText : public NoLanguage {
   Bundle *bundle_ = nullptr;
 };
 
-TEST_F(LocalizedText, FollowsThePreferredLanguage) {
+TEST_F(LocalizedText, IsInThePreferredLanguage) {
   const struct {
     const char *lang;
     const char *expected;
@@ -233,33 +233,33 @@ TEST_F(LocalizedText, FollowsThePreferredLanguage) {
   }
 }
 
-TEST_F(LocalizedText, AnswersTheKeyWhereThePreferredLanguageLacksIt) {
+TEST_F(LocalizedText, ReturnsTheKeyIfThePreferredLanguageDoesNotContainIt) {
   const Variable lang("LANG", "de_DE.UTF-8");
   EXPECT_EQ(Text("WARNING2"), "WARNING2");
 }
 
-TEST_F(LocalizedText, TakesTheFirstLanguageThatHasTheTable) {
+TEST_F(LocalizedText, UsesTheFirstLanguageThatHasTheTable) {
   const Variable lang("LANG", "de_DE.UTF-8");
   const Variable language("LANGUAGE", "sv:ru:de");
   EXPECT_EQ(Text("WARNING1"), "\xD0\xB4\xD0\xB0");
 }
 
-TEST_F(LocalizedText, AnswersTheKeyItselfWhenNoLanguageHasIt) {
+TEST_F(LocalizedText, ReturnsTheKeyIfNoLanguageContainsIt) {
   const std::string key = "WARNING9";
   const ZTKTextRef text =
       ztk::platform::bundle::LocalizedText(bundle_, key.c_str(), "Localizable");
-  EXPECT_NE(text, key.c_str()) << "the caller's text need not stay";
+  EXPECT_NE(text, key.c_str()) << "the caller may free its text";
   EXPECT_STREQ(text, "WARNING9");
   EXPECT_EQ(Text("WARNING1", "Other"), "WARNING1");
 }
 
-TEST_F(LocalizedText, OfNoBundleIsNull) {
+TEST_F(LocalizedText, IsNullForANullBundle) {
   EXPECT_EQ(
       ztk::platform::bundle::LocalizedText(nullptr, "WARNING1", "Localizable"),
       nullptr);
 }
 
-TEST_F(LocalizedText, OutlivesTheBundleAndDoesNotGrow) {
+TEST_F(LocalizedText, IsValidAfterTheBundleIsReleasedAndStoredOnlyOnce) {
   const ZTKTextRef text =
       ztk::platform::bundle::LocalizedText(bundle_, "WARNING1", "Localizable");
   Release(bundle_);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Another program copies over the settings file in place, as `cp` does, and
-// stops in the middle for some time. The pauses between two readings are
-// replaced: they take no time, and the copy goes on in them.
+// Another program overwrites the settings file, as `cp` does, and stops in the
+// middle for some time. Pause() is replaced: it does not wait, but continues
+// the copy.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -35,11 +35,12 @@ using ztk::test::NamesIn;
 using ztk::test::TempFolder;
 using ztk::test::Xml;
 
-// Called in each pause with the time that the pauses have taken until then.
+// Pause() calls this function with the sum of all pauses so far.
 std::function<void(milliseconds)> duringPause;
 milliseconds paused{0};
 
-// Unlike the one of the other tests, the file was changed this moment.
+// Writes a file whose modification time is now. Put() of the other tests sets
+// an earlier time.
 void Put(const std::string &file, const std::string &content) {
   std::ofstream(file, std::ios::binary) << content;
 }
@@ -55,7 +56,7 @@ class FileWatch : public testing::Test {
     std::ofstream(path_, std::ios::app) << old_.substr(from, count);
   }
 
-  // Sets "new" to 1 as the core does it; how reading the file ended.
+  // Sets "new" to 1 as the core does. Returns the result of reading the file.
   ReadResult Set() {
     plist::Dictionary *dictionary = plist::MakeDictionary();
     const ReadResult read = plist::AddEntriesOfFile(dictionary, path_.c_str());
@@ -67,7 +68,7 @@ class FileWatch : public testing::Test {
     return read;
   }
 
-  // Moves the last change of the file, into the past for a negative number.
+  // Sets the modification time of the file, relative to now.
   void MoveTime(std::time_t seconds) {
     const timeval then = {.tv_sec = std::time(nullptr) + seconds, .tv_usec = 0};
     const timeval times[2] = {then, then};
@@ -103,7 +104,7 @@ TEST_F(FileWatch, WaitsAgainWhenTheCopyStopsTwice) {
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(FileWatch, LeavesAFileThatKeepsChanging) {
+TEST_F(FileWatch, DoesNotReplaceAFileThatChangesAllTheTime) {
   Put(path_, "");
   std::size_t length = 0;
   duringPause = [this, &length](milliseconds) { Append(length++, 1); };
@@ -114,9 +115,9 @@ TEST_F(FileWatch, LeavesAFileThatKeepsChanging) {
   EXPECT_EQ(paused, milliseconds(500));
 }
 
-TEST_F(FileWatch, TakesAFileForDamagedAfterAQuarterOfASecond) {
+TEST_F(FileWatch, CallsAFileDamagedAfterAQuarterOfASecond) {
   Put(path_, "broken");
-  MoveTime(3600);  // a clock that is ahead of ours
+  MoveTime(3600);  // as if the clock of the file system were fast
   EXPECT_EQ(Set(), (ReadResult{.state = ReadState::Damaged}));
   EXPECT_THAT(NamesIn(folder_.path()),
               ElementsAre("a.plist", "a.plist.unreadable-1"));
@@ -132,8 +133,9 @@ TEST_F(FileWatch, ReadsAnOldDamagedFileOnlyTwice) {
 }
 
 // Two processes without the lock of the folder have read the same file. The
-// other one has found it unchanged and is about to replace it.
-TEST_F(FileWatch, WaitsForAProcessThatReplacesTheFileThisMoment) {
+// other process has locked the file and found it unchanged, and now replaces
+// it.
+TEST_F(FileWatch, WaitsForAnotherProcessThatIsReplacingTheFile) {
   Put(path_, old_);
   const int other = open(path_.c_str(), O_RDONLY | O_CLOEXEC);
   ASSERT_EQ(flock(other, LOCK_EX), 0);
@@ -157,6 +159,6 @@ TEST_F(FileWatch, WaitsForAProcessThatReplacesTheFileThisMoment) {
 
 void ztk::platform::Pause(std::chrono::microseconds time) {
   paused += std::chrono::duration_cast<milliseconds>(time);
-  const auto hook = duringPause;  // which may replace itself
+  const auto hook = duringPause;  // a copy, because it may assign duringPause
   hook(paused);
 }

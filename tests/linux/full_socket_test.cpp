@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The socket of the message bus takes nothing for a moment: sd-bus then keeps
-// the message in its queue, and closing the connection would lose it.
+// The socket of the message bus is full for a moment. Then sd-bus keeps the
+// message in its queue, and the message would be lost if the connection were
+// closed.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
@@ -15,7 +16,7 @@
 
 namespace {
 
-// How many attempts to send an announcement find the socket full.
+// The number of attempts to send an announcement that still have to fail.
 int refusals = 0;
 
 bool HasAnnouncement(const msghdr &message) {
@@ -30,7 +31,7 @@ bool HasAnnouncement(const msghdr &message) {
 
 }  // namespace
 
-// What sd-bus calls in place of the C library's.
+// sd-bus calls this function instead of the one of the C library.
 extern "C" __attribute__((visibility("default"))) ssize_t sendmsg(
     int socket, const msghdr *message, int flags) {
   if (refusals > 0 && HasAnnouncement(*message)) {
@@ -45,7 +46,7 @@ namespace {
 
 class FullSocket : public ztk::test::OnPrivateBus {};
 
-TEST_F(FullSocket, StillGetsTheAnnouncementBeforeTheConnectionIsClosed) {
+TEST_F(FullSocket, ReceivesTheAnnouncementBeforeTheConnectionIsClosed) {
   ztk::test::Probe probe;
   probe.Observe(ztk::test::kName);
   refusals = 3;

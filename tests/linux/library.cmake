@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 #
-# The shipped library, unchanged, on virtual mixers in the sandbox.
+# Tests the complete shared library with virtual mixers in the sandbox.
 if(NOT TARGET ztk_virtual_mixer)
   return()
 endif()
@@ -14,14 +14,14 @@ target_link_libraries(plain_child PRIVATE ZTKFunc)
 target_compile_definitions(plain_child PRIVATE
   $<TARGET_PROPERTY:ztk_platform_linux,COMPILE_DEFINITIONS>)
 
-# The core and the port, linked into the test.
+# The core and the port are linked into this test.
 add_executable(allocation_test allocation_test.cpp)
 target_link_libraries(allocation_test PRIVATE
   ztk_headers ztk_core ztk_platform_linux)
 add_dependencies(allocation_test ztk-virtual-mixer)
 add_test(NAME allocation_test
   COMMAND ztk-virtual-mixer run --private-settings -- $<TARGET_FILE:allocation_test>)
-# libplist's objects are lost when memory runs out between two of its calls.
+# libplist leaks objects if memory runs out in it.
 set_tests_properties(allocation_test PROPERTIES LABELS sandbox TIMEOUT 300
   ENVIRONMENT ASAN_OPTIONS=detect_leaks=0)
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Another process of the tests: a simple client of the library. Its arguments
-// say what it does, and it prints one line for each event.
+// A simple client of the library, which the tests start as another process. The
+// first argument is the command. The program prints one line for each event.
 #include <dlfcn.h>
 #include <glib.h>
 #include <malloc.h>
@@ -81,7 +81,7 @@ uint32_t Number(const char *text) {
   return static_cast<uint32_t>(std::strtoul(text, nullptr, 0));
 }
 
-// One call of every kind that reaches the platform.
+// Calls every function that uses the platform.
 void CallEverything() {
   uint32_t number = 0;
   ZTKTextRef text = nullptr;
@@ -114,7 +114,7 @@ int CountThreads() {
   return 0;
 }
 
-// Changes a setting, reads it and asks for a text.
+// Changes a setting, reads it and reads two texts.
 void ChangeAndRead(uint32_t round) {
   uint32_t index = 0;
   ZTKTextRef text = nullptr;
@@ -124,8 +124,8 @@ void ChangeAndRead(uint32_t round) {
   ZTK_GetWarningTextForSetUSBAudioInput(10, 1, 101, 99, &text);
 }
 
-// Calls functions many times and prints the growth of memory. A growth of 100
-// bytes for each round would be detected.
+// Calls functions many times. Prints how many more descriptors are open then,
+// and whether the memory grew by 100 bytes or more for each round.
 int CountGrowth(uint32_t calls) {
   for (uint32_t i = 0; i < 100; ++i) ChangeAndRead(i);
   const int descriptors = CountEntries("/proc/self/fd");
@@ -139,7 +139,8 @@ int CountGrowth(uint32_t calls) {
   return 0;
 }
 
-// Loaded, registered, unloaded, and then notified.
+// Loads the library, registers a callback and unloads the library. Then waits
+// for notifications.
 int Unload(const char *library) {
   void *handle = dlopen(library, RTLD_NOW | RTLD_LOCAL);
   if (handle == nullptr) return 3;
@@ -153,8 +154,8 @@ int Unload(const char *library) {
   return 0;
 }
 
-// Posts and registers alternately: each Register drops the record of the post
-// before it.
+// Posts and registers alternately. Each registration clears the pointer to the
+// record of the last post without releasing the record.
 int DropRecords(uint32_t times) {
   for (uint32_t i = 0; i < times; ++i) {
     ZTK_SetUSBInputAudio(10, 0, 3);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library and the device nodes: which are opened, and how.
+// Tests with the complete library which device nodes are opened, and how.
 #include <fcntl.h>
 
 #include <cstdlib>
@@ -18,8 +18,8 @@ namespace fs = std::filesystem;
 
 class LibraryDevices : public LibraryWorld {};
 
-// Ordered as texts, port 10 would come before port 2.
-TEST_F(LibraryDevices, TwelveMixersAreServedInTheOrderOfTheirPorts) {
+// In alphabetical order, port 10 would come before port 2.
+TEST_F(LibraryDevices, TwelveMixersReceiveTheValueInTheOrderOfTheirPorts) {
   PlugMixers(12);
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   std::vector<std::string> expected;
@@ -30,7 +30,7 @@ TEST_F(LibraryDevices, TwelveMixersAreServedInTheOrderOfTheirPorts) {
   EXPECT_EQ(TakeLog(), expected);
 }
 
-// The file descriptors of this process for nodes of USB devices.
+// Returns the open file descriptors of this process for nodes of USB devices.
 std::vector<int> OpenNodes() {
   std::vector<int> nodes;
   for (const auto &entry : fs::directory_iterator("/proc/self/fd")) {
@@ -43,7 +43,7 @@ std::vector<int> OpenNodes() {
   return nodes;
 }
 
-TEST_F(LibraryDevices, AnOpenMixerIsNotHandedToOtherPrograms) {
+TEST_F(LibraryDevices, OtherProgramsDoNotInheritTheDescriptorOfAMixer) {
   PlugMixers(1);
   usb::Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 0), 0u);
@@ -54,8 +54,8 @@ TEST_F(LibraryDevices, AnOpenMixerIsNotHandedToOtherPrograms) {
   EXPECT_THAT(OpenNodes(), IsEmpty());
 }
 
-// As after another device has been given the number of the mixer.
-TEST_F(LibraryDevices, AnotherDeviceBehindTheNodeIsNotTakenForTheMixer) {
+// This happens if the mixer is unplugged and another device gets its number.
+TEST_F(LibraryDevices, AMixerIsSkippedIfItsNodeBelongsToAnotherDevice) {
   PlugMixers(1);
   const fs::path nodes =
       std::string(std::getenv("UMOCKDEV_DIR")) + "/dev/bus/usb";
@@ -78,9 +78,9 @@ TEST_F(LibraryDevices, AnotherDeviceBehindTheNodeIsNotTakenForTheMixer) {
   EXPECT_THAT(OpenNodes(), IsEmpty());
 }
 
-// One request for each mixer and no second try: three silent mixers delay a
-// setter of this family by six time-outs.
-TEST_F(LibraryDevices, SilentMixersAreAskedOnceForEachStep) {
+// No request is repeated. So three mixers that do not answer delay this setter,
+// which writes and reads, by six time-outs.
+TEST_F(LibraryDevices, EachMixerReceivesEachRequestOnce) {
   PlugMixers(3);
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 7), 100u);
   EXPECT_EQ(TakeLog().size(), 6u);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library with test files at their absolute paths, in a mount
-// namespace of the test's own.
+// Tests the complete library with files at absolute paths. The files exist only
+// in a mount namespace of the test.
 #include "ZTKFunc.h"
 #include "build_config.h"
 #include "support/library_world.h"
@@ -60,8 +60,8 @@ RootFiles Installed(const std::string &systemVersion) {
 
 class LibraryFiles : public LibraryWorld {
  protected:
-  // The output of the child with these files; skips the test when the system
-  // does not allow a temporary root.
+  // Runs the child with these files and stores its output. Skips the test if
+  // the system does not allow a temporary root.
   void Run(const RootFiles &files, const std::vector<std::string> &arguments) {
     output_ = RunChildInTemporaryRoot(files, arguments);
     if (output_.starts_with("skip: ")) GTEST_SKIP() << output_;
@@ -70,7 +70,7 @@ class LibraryFiles : public LibraryWorld {
   std::string output_;
 };
 
-TEST_F(LibraryFiles, VersionsComeFromTheNewerOrTheOlderPlace) {
+TEST_F(LibraryFiles, TheSystemVersionDecidesWhichFilesHaveTheVersions) {
   const struct {
     const char *system;
     const char *expected;
@@ -88,7 +88,7 @@ TEST_F(LibraryFiles, VersionsComeFromTheNewerOrTheOlderPlace) {
   }
 }
 
-TEST_F(LibraryFiles, OtherProductsHaveNoVersionsThoughAllFilesExist) {
+TEST_F(LibraryFiles, OtherProductsHaveNoVersionsEvenIfAllFilesExist) {
   for (const char *product : {"8", "11"}) {
     Run(Installed("10.15.7"), {"versions", product});
     EXPECT_EQ(output_,
@@ -97,7 +97,7 @@ TEST_F(LibraryFiles, OtherProductsHaveNoVersionsThoughAllFilesExist) {
   }
 }
 
-TEST_F(LibraryFiles, AMissingFileOrKeyIsRefusedWithoutASecondTry) {
+TEST_F(LibraryFiles, NoOtherFileIsTriedIfAFileOrKeyIsMissing) {
   RootFiles files = Installed("10.10.5");
   files.erase(kOldDriver);
   files.erase(kOldLibrary);
@@ -109,7 +109,7 @@ TEST_F(LibraryFiles, AMissingFileOrKeyIsRefusedWithoutASecondTry) {
             "utility 102 untouched\nlibrary 102 untouched\n");
 }
 
-TEST_F(LibraryFiles, WithoutASystemVersionTheOlderPlaceIsRead) {
+TEST_F(LibraryFiles, WithoutASystemVersionTheOlderFilesAreRead) {
   RootFiles files = Installed("10.15.7");
   files.erase(kSystem);
   Run(files, {"versions", "10"});
@@ -118,7 +118,7 @@ TEST_F(LibraryFiles, WithoutASystemVersionTheOlderPlaceIsRead) {
             "library 100 4.old\n");
 }
 
-TEST_F(LibraryFiles, AVersionThatIsNoTextIsRefused) {
+TEST_F(LibraryFiles, AVersionThatIsNotATextIsRefused) {
   RootFiles files = Installed("10.15.7");
   files[kReceipt] =
       "<plist version=\"1.0\"><dict><key>PackageVersion</key>"
@@ -127,7 +127,7 @@ TEST_F(LibraryFiles, AVersionThatIsNoTextIsRefused) {
   EXPECT_EQ(output_.substr(0, 18), "pkg 102 untouched\n");
 }
 
-// A bundle with an English and a Japanese table.
+// Adds a bundle with an English and a Japanese table.
 void AddBundle(RootFiles *files, const std::string &place,
                const std::string &mark) {
   const std::string resources =
@@ -147,7 +147,7 @@ RootFiles Bundles(const std::string &systemVersion) {
   return files;
 }
 
-TEST_F(LibraryFiles, TheWarningComesFromTheNewerOrTheOlderBundle) {
+TEST_F(LibraryFiles, TheSystemVersionDecidesWhichBundleHasTheWarning) {
   PlugMixers(1);
   const struct {
     const char *system;
@@ -163,7 +163,7 @@ TEST_F(LibraryFiles, TheWarningComesFromTheNewerOrTheOlderBundle) {
   }
 }
 
-TEST_F(LibraryFiles, ThePortStateChoosesTheSentence) {
+TEST_F(LibraryFiles, ThePortStateDecidesWhichSentenceIsReturned) {
   PlugMixers(1);
   const struct {
     virtual_mixer::Bytes reply;
@@ -179,7 +179,7 @@ TEST_F(LibraryFiles, ThePortStateChoosesTheSentence) {
   }
 }
 
-TEST_F(LibraryFiles, ALanguageWithoutTheSentenceYieldsNull) {
+TEST_F(LibraryFiles, TheTextIsNullIfTheLanguageDoesNotContainTheSentence) {
   PlugMixers(1);
   world().WithMixer(1, [](MixerModel &mixer) {
     mixer.SetReply(0x8006, {1, 0});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The record of the last call, from the shipped library on virtual mixers: the
-// error of the system for each fault.
+// Tests with the complete library and virtual mixers that the record of the
+// last call contains the error of the system for each fault.
 #include <cerrno>
 #include <thread>
 
@@ -31,8 +31,8 @@ class LibraryOutcome : public LibraryWorld {
     return outcome;
   }
 
-  // "result/opened/length/system code" of a request.
-  static std::string Told(const ZTKRequestOutcome &request) {
+  // Returns "result/opened/length/system code" of a request.
+  static std::string Describe(const ZTKRequestOutcome &request) {
     return std::to_string(request.result) + "/" +
            std::to_string(request.opened) + "/" +
            std::to_string(request.length) + "/" +
@@ -40,22 +40,22 @@ class LibraryOutcome : public LibraryWorld {
   }
 };
 
-TEST_F(LibraryOutcome, TellsThatEverythingWorked) {
+TEST_F(LibraryOutcome, ReportsThatEverythingWorked) {
   PlugMixers(2);
   ASSERT_TRUE(bus_.Start());
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 100u);
   const ZTKOutcome outcome = Last();
   EXPECT_EQ(outcome.mixersFound, 2u);
   for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(Told(outcome.mixers[i].write), "1/1/0/0");
-    EXPECT_EQ(Told(outcome.mixers[i].read), "1/1/5/0");
+    EXPECT_EQ(Describe(outcome.mixers[i].write), "1/1/0/0");
+    EXPECT_EQ(Describe(outcome.mixers[i].read), "1/1/5/0");
   }
   EXPECT_EQ(outcome.announcement.result, 1u);
   EXPECT_EQ(outcome.announcement.systemCode, 0);
 }
 
 // The numbers at the end are EPIPE, ETIMEDOUT and ENODEV.
-TEST_F(LibraryOutcome, TellsEachFaultOfAMixer) {
+TEST_F(LibraryOutcome, ReportsEachFaultOfAMixer) {
   const struct {
     const char *fault;
     const char *expected;
@@ -69,28 +69,28 @@ TEST_F(LibraryOutcome, TellsEachFaultOfAMixer) {
     EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
     const ZTKOutcome outcome = Last();
     EXPECT_EQ(outcome.mixersFound, 2u);
-    EXPECT_EQ(Told(outcome.mixers[0].write), row.expected);
+    EXPECT_EQ(Describe(outcome.mixers[0].write), row.expected);
   }
 }
 
-TEST_F(LibraryOutcome, TellsOfAReplyThatIsTooShort) {
+TEST_F(LibraryOutcome, ReportsTheLengthOfAShortReply) {
   PlugMixers(1);
   Inject(1, "short:1");
   std::uint32_t version = 0;
   EXPECT_EQ(ZTK_GetFirmwareVersionIndex(10, &version), 100u);
-  EXPECT_EQ(Told(Last().mixers[0].read), "1/1/1/0");
+  EXPECT_EQ(Describe(Last().mixers[0].read), "1/1/1/0");
 }
 
-TEST_F(LibraryOutcome, TellsThatAMixerMayNotBeOpened) {
+TEST_F(LibraryOutcome, ReportsThatThereIsNoPermissionToOpenAMixer) {
   PlugMixers(2);
   world().SetForbidden(1, true);
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   const ZTKOutcome outcome = Last();
-  EXPECT_EQ(Told(outcome.mixers[0].write), "5/0/0/13");
-  EXPECT_EQ(Told(outcome.mixers[1].write), "1/1/0/0");
+  EXPECT_EQ(Describe(outcome.mixers[0].write), "5/0/0/13");
+  EXPECT_EQ(Describe(outcome.mixers[1].write), "1/1/0/0");
 }
 
-TEST_F(LibraryOutcome, TellsThatThereIsNoBusAndThatABusIsMute) {
+TEST_F(LibraryOutcome, ReportsAMissingBusAndABusThatDoesNotAnswer) {
   PlugMixers(0);
   bus_.Stop();
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
@@ -98,14 +98,14 @@ TEST_F(LibraryOutcome, TellsThatThereIsNoBusAndThatABusIsMute) {
   EXPECT_NE(Last().announcement.systemCode, 0);
 
   ASSERT_TRUE(bus_.Start());
-  bus_.Freeze();
+  bus_.Suspend();
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   EXPECT_EQ(Last().announcement.result, 3u);
   EXPECT_EQ(Last().announcement.systemCode, ETIMEDOUT);
 }
 
-// Both threads only ask about the connection, which any thread may do.
-TEST_F(LibraryOutcome, IsKeptForEachThread) {
+// Both threads call only ZTK_IsUSBConnection(), which any thread may call.
+TEST_F(LibraryOutcome, HasOneRecordForEachThread) {
   PlugMixers(3);
   const auto ask = [] {
     for (int i = 0; i < 50; ++i) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library in several processes, and what it costs its own process.
+// Tests the complete library in several processes, and its use of threads,
+// memory and descriptors.
 #include "ZTKFunc.h"
 #include "support/library_world.h"
 #include "support/preload.h"
@@ -18,7 +19,7 @@ std::string Environment(const char *name) {
   return value == nullptr ? "" : value;
 }
 
-// Quick by default; ./check --full asks for many more.
+// Returns the number of calls. ./check --full sets a much larger one.
 std::string GrowthCalls() {
   const std::string asked = Environment("ZTK_GROWTH_CALLS");
   return asked.empty() ? "2000" : asked;
@@ -43,7 +44,7 @@ std::string GrowthCalls() {
   return count;
 }
 
-TEST_F(LibraryProcess, AMixerThatMayNotBeOpenedIsSkipped) {
+TEST_F(LibraryProcess, AMixerWithoutPermissionIsSkipped) {
   PlugMixers(2);
   world().SetForbidden(1, true);
   EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
@@ -53,7 +54,7 @@ TEST_F(LibraryProcess, AMixerThatMayNotBeOpenedIsSkipped) {
                           "mixer 2: c0 00 0000 8002 0005 -> 00 04 04 04 04"));
 }
 
-TEST_F(LibraryProcess, ACallbackRunsWhenAnotherProcessSets) {
+TEST_F(LibraryProcess, ACallbackRunsWhenAnotherProcessChangesTheSetting) {
   PlugMixers(1);
   Child listener({"listen", "input"});
   ASSERT_EQ(listener.ReadLine(), "ready");
@@ -62,7 +63,7 @@ TEST_F(LibraryProcess, ACallbackRunsWhenAnotherProcessSets) {
   EXPECT_EQ(listener.Finish(), 0);
 }
 
-TEST_F(LibraryProcess, RegisteredTwiceItRunsTwice) {
+TEST_F(LibraryProcess, ACallbackThatIsRegisteredTwiceRunsTwice) {
   Child listener({"listen", "input", "input", "boost"});
   ASSERT_EQ(listener.ReadLine(), "ready");
   ZTK_SetUSBInputAudio(10, 0, 1);
@@ -72,8 +73,8 @@ TEST_F(LibraryProcess, RegisteredTwiceItRunsTwice) {
   EXPECT_EQ(listener.ReadLine(), "boost 2");
 }
 
-// To show that a notification does not arrive, a test waits for a later one.
-TEST_F(LibraryProcess, AfterUnregisterItNeverRuns) {
+// To show that a notification does not arrive, the test waits for a later one.
+TEST_F(LibraryProcess, AnUnregisteredCallbackDoesNotRun) {
   Child listener({"listen", "input", "input", "-input", "boost"});
   ASSERT_EQ(listener.ReadLine(), "ready");
   ZTK_SetUSBInputAudio(10, 0, 1);
@@ -81,7 +82,7 @@ TEST_F(LibraryProcess, AfterUnregisterItNeverRuns) {
   EXPECT_EQ(listener.ReadLine(), "boost 2");
 }
 
-TEST_F(LibraryProcess, OutputAudioNeverHearsTheLibrarysOwnChanges) {
+TEST_F(LibraryProcess, TheOutputAudioCallbackDoesNotRunForTheLibrarysChanges) {
   Child listener({"listen", "output", "midi"});
   ASSERT_EQ(listener.ReadLine(), "ready");
   ZTK_SetUSBOutputAudio(8, 0, 1);
@@ -90,7 +91,7 @@ TEST_F(LibraryProcess, OutputAudioNeverHearsTheLibrarysOwnChanges) {
   EXPECT_EQ(listener.ReadLine(), "midi 15");
 }
 
-TEST_F(LibraryProcess, DirectAndReSendingAnnounceNothing) {
+TEST_F(LibraryProcess, TheDirectSetterAndReSendingAnnounceNothing) {
   PlugMixers(1);
   Child listener({"listen", "input", "boost", "midi"});
   ASSERT_EQ(listener.ReadLine(), "ready");
@@ -102,7 +103,7 @@ TEST_F(LibraryProcess, DirectAndReSendingAnnounceNothing) {
   EXPECT_EQ(listener.ReadLine(), "boost 1");
 }
 
-TEST_F(LibraryProcess, HasOneThreadAfterAnyCall) {
+TEST_F(LibraryProcess, NoCallStartsAThread) {
   PlugMixers(1);
   EXPECT_EQ(RunChild({"threads"}), "threads 1\n");
 }
@@ -116,20 +117,20 @@ TEST_F(LibraryProcess, WithoutABusEverythingElseWorks) {
             SettingsText({{"Output0", 2}}));
 }
 
-// Makes a child find another file under the name of this library.
-class StandIn {
+// Makes a child load another file in place of a library.
+class ReplacedLibrary {
  public:
-  StandIn(const TempHome &home, const std::string &soname,
-          const std::string &file)
+  ReplacedLibrary(const TempHome &home, const std::string &soname,
+                  const std::string &file)
       : folder_(home.path() / "libraries") {
     std::filesystem::create_directory(folder_);
     std::filesystem::create_symlink(file, folder_ / soname);
   }
-  ~StandIn() { std::filesystem::remove_all(folder_); }
-  StandIn(const StandIn &) = delete;
-  StandIn &operator=(const StandIn &) = delete;
+  ~ReplacedLibrary() { std::filesystem::remove_all(folder_); }
+  ReplacedLibrary(const ReplacedLibrary &) = delete;
+  ReplacedLibrary &operator=(const ReplacedLibrary &) = delete;
 
-  // The environment variable with which a child finds it.
+  // Returns a function that sets the environment of the child.
   std::function<std::string()> Preparation() const {
     return [this] {
       setenv("LD_LIBRARY_PATH", folder_.c_str(), 1);
@@ -141,15 +142,15 @@ class StandIn {
   std::filesystem::path folder_;
 };
 
-// What replaces a library: nothing, or a file that is not this library.
+// The files in place of a library.
 const struct {
   const char *name;
   const char *file;
-} kStandIns[] = {{"no library at all", "/dev/null"},
-                 {"a library without its functions", ZTK_LIBRARY_FILE}};
+} kReplacements[] = {{"no library at all", "/dev/null"},
+                     {"a library without its functions", ZTK_LIBRARY_FILE}};
 
-// The output of a client that links only the library.
-std::vector<std::string> SayOfPlainChild(
+// Runs a client that links only the library. Returns its output.
+std::vector<std::string> OutputOfPlainChild(
     const std::vector<std::string> &words,
     const std::function<std::string()> &prepare = nullptr) {
   std::vector<std::string> command{ZTK_PLAIN_CHILD};
@@ -166,32 +167,32 @@ std::vector<std::string> SayOfPlainChild(
 TEST_F(LibraryProcess, LoadsOtherLibrariesOnlyWhenTheyAreNeeded) {
   PlugMixers(1);
   EXPECT_THAT(
-      SayOfPlainChild({"get", "set", "get", "set"}),
+      OutputOfPlainChild({"get", "set", "get", "set"}),
       ElementsAre("get 100", "set 100 bus", "get 100 bus", "set 100 bus"));
   EXPECT_THAT(
-      SayOfPlainChild({"get", "register", "set"}),
+      OutputOfPlainChild({"get", "register", "set"}),
       ElementsAre("get 100", "register 100 bus loop", "set 100 bus loop"));
 }
 
-TEST_F(LibraryProcess, WithoutGLibNothingIsHeardAndAllElseWorks) {
+TEST_F(LibraryProcess, WithoutGLibOnlyTheCallbacksDoNotWork) {
   Child listener({"listen", "boost"});
   ASSERT_EQ(listener.ReadLine(), "ready");
-  for (const auto &row : kStandIns) {
+  for (const auto &row : kReplacements) {
     SCOPED_TRACE(row.name);
-    const StandIn standIn(home_, ZTK_GLIB_LIBRARY, row.file);
-    ASSERT_THAT(SayOfPlainChild({"register", "set"}, standIn.Preparation()),
+    const ReplacedLibrary replaced(home_, ZTK_GLIB_LIBRARY, row.file);
+    ASSERT_THAT(OutputOfPlainChild({"register", "set"}, replaced.Preparation()),
                 ElementsAre("register 100", "set 100 bus"));
     EXPECT_EQ(listener.ReadLine(), "boost 2");
   }
 }
 
 TEST_F(LibraryProcess, ALibraryThatWasMissingIsTriedAgain) {
-  const StandIn glib(home_, ZTK_GLIB_LIBRARY, "/dev/null");
+  const ReplacedLibrary glib(home_, ZTK_GLIB_LIBRARY, "/dev/null");
   EXPECT_THAT(
-      SayOfPlainChild({"register", "mend", "register"}, glib.Preparation()),
+      OutputOfPlainChild({"register", "mend", "register"}, glib.Preparation()),
       ElementsAre("register 100", "mend 0", "register 100 bus loop"));
-  const StandIn bus(home_, ZTK_SD_BUS_LIBRARY, "/dev/null");
-  EXPECT_THAT(SayOfPlainChild({"set", "mend", "set"}, bus.Preparation()),
+  const ReplacedLibrary bus(home_, ZTK_SD_BUS_LIBRARY, "/dev/null");
+  EXPECT_THAT(OutputOfPlainChild({"set", "mend", "set"}, bus.Preparation()),
               ElementsAre("set 100", "mend 0", "set 100 bus"));
 }
 
@@ -199,10 +200,10 @@ TEST_F(LibraryProcess, WithoutSdBusEverythingElseWorks) {
   PlugMixers(1);
   Child listener({"listen", "input", "boost"});
   ASSERT_EQ(listener.ReadLine(), "ready");
-  for (const auto &row : kStandIns) {
+  for (const auto &row : kReplacements) {
     SCOPED_TRACE(row.name);
-    const StandIn standIn(home_, ZTK_SD_BUS_LIBRARY, row.file);
-    Child child({"set-input", "2", "5"}, standIn.Preparation());
+    const ReplacedLibrary replaced(home_, ZTK_SD_BUS_LIBRARY, row.file);
+    Child child({"set-input", "2", "5"}, replaced.Preparation());
     EXPECT_EQ(child.ReadLine(), "100");
     EXPECT_EQ(child.Finish(), 0);
     EXPECT_THAT(TakeLog(),
@@ -215,7 +216,7 @@ TEST_F(LibraryProcess, WithoutSdBusEverythingElseWorks) {
   EXPECT_EQ(listener.ReadLine(), "boost 2");
 }
 
-TEST_F(LibraryProcess, UnloadedAndThenNotifiedItDoesNotCrash) {
+TEST_F(LibraryProcess, ANotificationAfterDlcloseDoesNotCrash) {
   Child client({"unload", ZTK_LIBRARY_FILE});
   ASSERT_EQ(client.ReadLine(), "ready");
   ZTK_SetUSBInputAudio(10, 1, 3);
@@ -223,9 +224,10 @@ TEST_F(LibraryProcess, UnloadedAndThenNotifiedItDoesNotCrash) {
   EXPECT_EQ(client.Finish(), 0);
 }
 
-// Register drops the record of the last post by design. The leak sanitizer
-// finds these, and nothing else, when a process ends.
-TEST_F(LibraryProcess, LeavesExactlyTheRecordsThatRegisterDrops) {
+// A registration clears the pointer to the record of the last post without
+// releasing the record. The leak sanitizer must find these records and nothing
+// else.
+TEST_F(LibraryProcess, LeaksOnlyTheRecordsThatRegistrationsDoNotRelease) {
 #if !defined(ZTK_TEST_ASAN)
   GTEST_SKIP() << "built without the leak sanitizer";
 #endif
@@ -233,7 +235,8 @@ TEST_F(LibraryProcess, LeavesExactlyTheRecordsThatRegisterDrops) {
   const std::string before = Environment("LSAN_OPTIONS");
   const std::string options = "suppressions=:exitcode=0:log_path=";
   setenv("LSAN_OPTIONS", (options + report.string()).c_str(), 1);
-  // Not preloaded: the sanitizer cannot open its report through the sandbox.
+  // The sandbox is not preloaded, because the sanitizer cannot write its report
+  // through it.
   Child child({"drop-records", "5"}, [] {
     unsetenv("LD_PRELOAD");
     return std::string();
@@ -247,7 +250,7 @@ TEST_F(LibraryProcess, LeavesExactlyTheRecordsThatRegisterDrops) {
   EXPECT_EQ(CountOf("Direct leak of", leaks), 1) << leaks;
 }
 
-TEST_F(LibraryProcess, ManySettersLeaveNoDescriptorAndNoMemory) {
+TEST_F(LibraryProcess, ManySettersUseNoMoreDescriptorsAndMemory) {
   std::vector<Placement> placements = {{.kind = DeviceKind::Mixer, .bus = 1}};
   for (int i = 0; i < 12; ++i) {
     placements.push_back({.kind = DeviceKind::Keyboard, .bus = 2});

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library: every request that it makes, as the mixer sees it.
+// Tests with the complete library every request that a mixer receives.
 #include "support/every_request.h"
 #include "support/library_world.h"
 

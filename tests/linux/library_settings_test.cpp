@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library on virtual mixers: what the mixer, the settings file and
-// the caller receive.
+// Tests with the complete library and virtual mixers what the mixer, the
+// settings file and the caller receive.
 #include "ZTKFunc.h"
 #include "support/library_world.h"
 #include "usb/USB.h"
@@ -37,7 +37,7 @@ TEST_F(LibrarySettings, SetUSBInputAudioReachesEveryMixerInBusOrder) {
                           "mixer 2: c0 00 0000 8002 0005 -> 00 04 04 04 04"));
 }
 
-TEST_F(LibrarySettings, AnotherProductOfTheMakerIsNoMixer) {
+TEST_F(LibrarySettings, AnotherProductOfTheMakerIsNotAMixer) {
   Plug({{.kind = DeviceKind::Sibling, .bus = 1},
         {.kind = DeviceKind::Keyboard, .bus = 1}});
   EXPECT_EQ(CheckUSBAudio(10), 0);
@@ -47,7 +47,7 @@ TEST_F(LibrarySettings, AnotherProductOfTheMakerIsNoMixer) {
   EXPECT_EQ(slot, nullptr);
 }
 
-TEST_F(LibrarySettings, TheProductIdDoesNotNarrowTheConnectionCheck) {
+TEST_F(LibrarySettings, TheConnectionCheckIgnoresTheProductId) {
   PlugMixers(1);
   EXPECT_EQ(CheckUSBAudio(0), 1);
   EXPECT_EQ(CheckUSBAudio(10), 1);
@@ -55,7 +55,7 @@ TEST_F(LibrarySettings, TheProductIdDoesNotNarrowTheConnectionCheck) {
   EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
 }
 
-TEST_F(LibrarySettings, PositionsOpenDifferentMixersAndOneBeyondIsAnError) {
+TEST_F(LibrarySettings, EachPositionOpensAnotherMixerAndTheNextOneIsAnError) {
   PlugMixers(2);
   usb::Connection first = nullptr;
   usb::Connection second = nullptr;
@@ -84,7 +84,7 @@ TEST_F(LibrarySettings, AnOccupiedSlotKeepsItsConnection) {
   closeUSB(&slot);
 }
 
-TEST_F(LibrarySettings, ASelectorThatStandsWrongDrawsTheWarning) {
+TEST_F(LibrarySettings, TheSetterWarnsIfTheSelectorIsAtAnotherPosition) {
   PlugMixers(1);
   world().WithMixer(
       1, [](virtual_mixer::MixerModel &mixer) { mixer.TurnSelector(1, 3); });
@@ -95,7 +95,7 @@ TEST_F(LibrarySettings, ASelectorThatStandsWrongDrawsTheWarning) {
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 4, 8), 100u);
 }
 
-TEST_F(LibrarySettings, WithoutAMixerTheChoiceIsRememberedAndThreeWarn) {
+TEST_F(LibrarySettings, WithoutAMixerTheFirstThreeChoicesWarnAndAreStored) {
   PlugMixers(0);
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 1, 2), 101u);
   EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6")),
@@ -104,7 +104,7 @@ TEST_F(LibrarySettings, WithoutAMixerTheChoiceIsRememberedAndThreeWarn) {
   EXPECT_THAT(TakeLog(), IsEmpty());
 }
 
-TEST_F(LibrarySettings, DirectSendsAndNeitherRemembersNorReadsMore) {
+TEST_F(LibrarySettings, TheDirectSetterDoesNotStore) {
   PlugMixers(1);
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 2, 0, 3), 100u);
   EXPECT_THAT(TakeLog(),
@@ -113,7 +113,7 @@ TEST_F(LibrarySettings, DirectSendsAndNeitherRemembersNorReadsMore) {
   EXPECT_FALSE(fs::exists(home_.SettingsFile("VRM-D6")));
 }
 
-TEST_F(LibrarySettings, GettersWithoutAFileAnswerDefaultsAndCreateNothing) {
+TEST_F(LibrarySettings, GettersWithoutAFileReturnDefaultsAndCreateNothing) {
   uint32_t index = 77;
   EXPECT_EQ(ZTK_GetCurrentBoostLevelIndex(10, &index), 100u);
   EXPECT_EQ(index, 3u);
@@ -144,7 +144,7 @@ TEST_F(LibrarySettings, UnknownKeysAreKeptAndATextReadsAsItsNumber) {
       << text;
 }
 
-TEST_F(LibrarySettings, TheModelsHaveFilesOfTheirOwn) {
+TEST_F(LibrarySettings, EachModelHasItsOwnFile) {
   PlugMixers(1);
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 0), 100u);
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 1, 2), 100u);
@@ -162,7 +162,7 @@ TEST_F(LibrarySettings, TheModelsHaveFilesOfTheirOwn) {
                           "mixer 1: 40 03 0900 8004 0000"));
 }
 
-TEST_F(LibrarySettings, ReSendingUsesWhatIsRememberedOrTheDefault) {
+TEST_F(LibrarySettings, ReSendingUsesTheDefaultIfNothingIsStored) {
   PlugMixers(1);
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 4), 100u);
   EXPECT_EQ(ZTK_SetCurrentUSBInputAudio(10, 5), 100u);

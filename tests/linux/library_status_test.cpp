@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library's queries on virtual mixers, faults included.
+// Tests the queries of the complete library with virtual mixers, also with
+// faults.
 #include "ZTKFunc.h"
 #include "support/library_world.h"
 #include "usb/USB.h"
@@ -46,7 +47,7 @@ TEST_F(LibraryStatus, AsksTheMixerWithTheseRequests) {
                           "mixer 1: c0 00 0000 8004 0002 -> 00 00"));
 }
 
-TEST_F(LibraryStatus, WithoutAMixerOutputsAreNeutralOrUntouched) {
+TEST_F(LibraryStatus, WithoutAMixerOutputsAreZeroOrUnchanged) {
   PlugMixers(0);
   uint32_t value = 77;
   EXPECT_EQ(ZTK_GetMixerSeratoActiveStatus(10, &value), 100u);
@@ -59,7 +60,7 @@ TEST_F(LibraryStatus, WithoutAMixerOutputsAreNeutralOrUntouched) {
   EXPECT_EQ(value, 0u);
 }
 
-TEST_F(LibraryStatus, TheLastMixerStandsButTheFirstTellsItsFirmware) {
+TEST_F(LibraryStatus, TheLastMixerCountsExceptForTheFirmwareVersion) {
   PlugMixers(2);
   Reply(2, 0x8007, {0, 0, 0, 9});
   Reply(2, 0x8001, {1, 1});
@@ -87,7 +88,7 @@ TEST_F(LibraryStatus, ABadStateIsRefused) {
   EXPECT_EQ(value, 17u);
 }
 
-TEST_F(LibraryStatus, ARefusedReadLooksLikeNoAnswer) {
+TEST_F(LibraryStatus, ARefusedReadKeepsThePresetReply) {
   PlugMixers(1);
   Inject(1, "stall");
   uint32_t value = 77;
@@ -98,11 +99,11 @@ TEST_F(LibraryStatus, ARefusedReadLooksLikeNoAnswer) {
   value = 77;
   EXPECT_EQ(ZTK_GetFirmwareVersionIndex(10, &value), 100u);
   EXPECT_EQ(value, 0u);
-  // Setters do not check it.
+  // Setters ignore refused requests.
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
 }
 
-TEST_F(LibraryStatus, AShortReplyKeepsThePresetOfTheRest) {
+TEST_F(LibraryStatus, AfterAShortReplyTheOtherBytesKeepTheirPreset) {
   PlugMixers(1);
   Reply(1, 0x8007, {9, 9, 9, 9});
   Inject(1, "short:1");
@@ -113,7 +114,8 @@ TEST_F(LibraryStatus, AShortReplyKeepsThePresetOfTheRest) {
   EXPECT_EQ(value, 0x36u);
 }
 
-TEST_F(LibraryStatus, RequestsTellStalledSilentAndGone) {
+TEST_F(LibraryStatus,
+       RequestsReturnTheCodeOfAStallATimeOutAndAnUnpluggedMixer) {
   PlugMixers(3);
   Inject(1, "stall");
   Inject(2, "silence");
@@ -139,7 +141,7 @@ TEST_F(LibraryStatus, RequestsTellStalledSilentAndGone) {
   closeUSB(&slot);
 }
 
-TEST_F(LibraryStatus, AMixerThatComesBackIsFoundAgain) {
+TEST_F(LibraryStatus, AMixerThatIsPluggedInAgainIsFound) {
   PlugMixers(1);
   world().Unplug(1);
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);

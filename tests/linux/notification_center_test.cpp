@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A test that expects no notification waits for a later one: the bus keeps the
-// order of its messages.
+// To show that a notification does not arrive, a test waits for a later one.
+// The bus delivers messages in order.
 #include "platform/notification_center.h"
 
 #include <glib.h>
@@ -114,7 +114,7 @@ TEST_F(Post, ReachesTheSameProcess) {
   EXPECT_THAT(others, ElementsAre(10, 2, 0));
 }
 
-TEST_F(Post, ReachesAnotherProcessAlthoughThePosterExitsAtOnce) {
+TEST_F(Post, ReachesAnotherProcessEvenIfTheSenderExitsAtOnce) {
   Probe probe;
   probe.Observe(kName);
   std::vector<std::int32_t> expected;
@@ -130,7 +130,7 @@ TEST_F(Post, ReachesAnotherProcessAlthoughThePosterExitsAtOnce) {
   EXPECT_EQ(probe.indexes(), expected);
 }
 
-TEST_F(Post, CarriesAnEmptyRecordWhenThereIsNone) {
+TEST_F(Post, SendsAnEmptyRecordForANullRecord) {
   Probe probe;
   probe.Observe(kName);
   center::Post(kName, nullptr, center::Delivery::Default);
@@ -138,7 +138,7 @@ TEST_F(Post, CarriesAnEmptyRecordWhenThereIsNone) {
   EXPECT_THAT(probe.indexes(), ElementsAre(0));
 }
 
-TEST_F(Post, SendsNothingThatTheBusCannotCarry) {
+TEST_F(Post, SendsNothingIfATextIsNotUtf8) {
   Probe probe;
   probe.Observe(kName);
   PostIndex("\xff", 1);
@@ -181,7 +181,7 @@ TEST_F(Post, SaysWhetherToDeliverImmediately) {
   sd_bus_unref(bus);
 }
 
-TEST_F(AddObserver, HearsAProgramThatKnowsOnlyTheBus) {
+TEST_F(AddObserver, ReceivesASignalOfAProgramWithoutTheLibrary) {
   Probe probe;
   probe.Observe(kName);
   const int status = RunProgram(
@@ -207,9 +207,9 @@ TEST_F(AddObserver, DeliversOncePerRegistration) {
   EXPECT_THAT(second.indexes(), ElementsAre(4, 5));
 }
 
-TEST_F(AddObserver, KeepsToItsName) {
-  // The last three cannot be written into the match rule; the first of them
-  // would make it match more.
+TEST_F(AddObserver, ReceivesOnlyItsOwnName) {
+  // The last three names cannot be written into the match rule. The first of
+  // them would add a condition to the rule.
   const std::string names[] = {"",        "VRM-K2 MidiChannel Change",
                                "a, b",    "a',arg0='b",
                                "it's so", "back\\slash"};
@@ -224,14 +224,14 @@ TEST_F(AddObserver, KeepsToItsName) {
     PostIndex(name.c_str(), 3);
     EXPECT_TRUE(RunUntilReceived(probe, 1));
     EXPECT_THAT(probe.indexes(), ElementsAre(3));
-    // The observer ends together with its context.
+    // Ending the context removes the observer.
     TearDown();
     context_ = g_main_context_new();
     g_main_context_push_thread_default(context_);
   }
 }
 
-TEST_F(AddObserver, IgnoresSignalsThatAreNoneOfItsOwn) {
+TEST_F(AddObserver, IgnoresSignalsOfAnotherForm) {
   const struct {
     const char *name;
     const char *path;
@@ -259,7 +259,7 @@ TEST_F(AddObserver, IgnoresSignalsThatAreNoneOfItsOwn) {
        [](auto *m) {
          return sd_bus_message_append(m, "sa{su}b", kName, 1, "Index", 1U, 1);
        }},
-      {"more behind", kPath, kInterface, kMember,
+      {"one value more", kPath, kInterface, kMember,
        [](auto *m) {
          return sd_bus_message_append(m, "sa{si}bi", kName, 1, "Index", 1, 1,
                                       1);
@@ -310,7 +310,7 @@ TEST_F(AddObserver, DeliversABurstInOrder) {
   EXPECT_EQ(probe.indexes(), expected);
 }
 
-TEST_F(AddObserver, KeepsWhatArrivesWhileAnotherObserverIsAdded) {
+TEST_F(AddObserver, DeliversASignalThatArrivesWhileAnotherObserverIsAdded) {
   Probe probe;
   probe.Observe(kName);
   PostIndex(kName, 1);
@@ -351,9 +351,9 @@ gboolean Fulfil(gpointer promise) {
   return G_SOURCE_REMOVE;
 }
 
-// A worker that did not push a context of its own, while the main thread runs
-// the default one: the connection must not be used by both.
-TEST_F(AddObserver, LeavesARunningContextToItsThread) {
+// A thread without its own context adds an observer while another thread runs
+// the default context. Only one of them may use the connection.
+TEST_F(AddObserver, RegistersOnTheThreadThatRunsTheContext) {
   g_main_context_pop_thread_default(context_);
   GMainLoop *loop = g_main_loop_new(nullptr, 0);
   std::promise<void> running;
@@ -366,7 +366,7 @@ TEST_F(AddObserver, LeavesARunningContextToItsThread) {
   Probe probe;
   probe.then = [loop](const center::UserInfo *) { g_main_loop_quit(loop); };
   probe.Observe(kName);
-  // Runs after the work that AddObserver left to the loop.
+  // This runs after the request that AddObserver() passed to the other thread.
   std::promise<void> registered;
   g_main_context_invoke(nullptr, Fulfil, &registered);
   registered.get_future().wait();
@@ -378,7 +378,7 @@ TEST_F(AddObserver, LeavesARunningContextToItsThread) {
   g_main_context_push_thread_default(context_);
 }
 
-TEST_F(AddObserver, LetsACallbackObservePostAndRunTheLoop) {
+TEST_F(AddObserver, AllowsACallbackToObservePostAndRunTheLoop) {
   Probe outer;
   Probe inner;
   bool added = false;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The notification center without a bus, with a bus that does not answer, and
-// with one that ends. When a call does not return, the alarm of the fixture
+// Tests the notification center without a bus, with a bus that does not answer
+// and with a bus that ends. If a call does not return, the alarm of the fixture
 // ends the test.
 #include <glib.h>
 #include <gmock/gmock.h>
@@ -32,18 +32,18 @@ using ztk::test::Probe;
 using ztk::test::Threads;
 using ztk::test::TurnsOfAnIdleLoop;
 
-// A waiting loop wakes up for its timer only; a spinning one, some ten thousand
-// times.
+// A loop that waits wakes up only for its timer. A loop that does not wait
+// wakes up more than ten thousand times.
 constexpr int kFewTurns = 50;
 
-// The bus of the fixture is stopped: the address leads nowhere at first.
+// The bus of the fixture is stopped, so nothing listens at its address.
 class WithoutBus : public ztk::test::OnPrivateBus {
  protected:
   void SetUp() override {
     OnPrivateBus::SetUp();
     bus_.Stop();
   }
-  // Listens at the bus's address; never accepts by itself.
+  // Listens at the address of the bus. Clients can connect, but get no answer.
   int Listen() {
     const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_un place{};
@@ -57,10 +57,10 @@ class WithoutBus : public ztk::test::OnPrivateBus {
     return listener;
   }
 };
-class OnDyingBus : public ztk::test::OnPrivateBus {};
+class OnEndingBus : public ztk::test::OnPrivateBus {};
 class OnBus : public ztk::test::OnPrivateBus {};
 
-// Printed only; the test does not depend on it.
+// Prints the duration. No test depends on it.
 void Report(const char *what, const std::function<void()> &function) {
   const auto start = std::chrono::steady_clock::now();
   function();
@@ -69,7 +69,7 @@ void Report(const char *what, const std::function<void()> &function) {
   std::cout << what << ": " << taken.count() << " ms\n";
 }
 
-TEST_F(WithoutBus, DoesNothingAtOnce) {
+TEST_F(WithoutBus, CallsReturnWithoutAnEffect) {
   const struct {
     const char *name;
     const char *address;  // null: not set
@@ -114,20 +114,20 @@ TEST_F(WithoutBus, FindsTheBusInTheRuntimeFolderWhenNoAddressIsSet) {
   unsetenv("XDG_RUNTIME_DIR");
 }
 
-TEST_F(WithoutBus, ComesBackFromOneThatTakesConnectionsAndSaysNothing) {
+TEST_F(WithoutBus, CallsReturnIfTheServerDoesNotAnswer) {
   const int listener = Listen();
   const auto descriptors = OpenDescriptors();
   Probe probe;
   const std::clock_t worked = std::clock();
   Report("post", [] { PostIndex(kName, 1); });
   Report("observe", [&probe] { probe.Observe(kName); });
-  // Measures processor time: a call that waits must sleep.
+  // This is processor time: a call that waits must not use it.
   EXPECT_LT(std::clock() - worked, CLOCKS_PER_SEC / 2);
   EXPECT_EQ(OpenDescriptors(), descriptors);
   close(listener);
 }
 
-TEST_F(WithoutBus, SurvivesOneThatHangsUp) {
+TEST_F(WithoutBus, CallsReturnIfTheServerClosesTheConnection) {
   const int listener = Listen();
   const pid_t server = fork();
   if (server == 0) {
@@ -145,7 +145,7 @@ TEST_F(WithoutBus, SurvivesOneThatHangsUp) {
   close(listener);
 }
 
-TEST_F(OnDyingBus, LetsTheLoopRestAndClosesTheConnection) {
+TEST_F(OnEndingBus, ClosesTheConnectionAndDoesNotKeepTheLoopBusy) {
   const auto descriptors = OpenDescriptors();
   Probe probe;
   probe.Observe(kName);
@@ -156,7 +156,7 @@ TEST_F(OnDyingBus, LetsTheLoopRestAndClosesTheConnection) {
   EXPECT_EQ(OpenDescriptors(), descriptors);
 }
 
-TEST_F(OnDyingBus, DeliversWhatTheBusSentBefore) {
+TEST_F(OnEndingBus, DeliversSignalsThatTheBusSentBefore) {
   Probe probe;
   probe.Observe(kName);
   PostIndex(kName, 1);
@@ -168,7 +168,7 @@ TEST_F(OnDyingBus, DeliversWhatTheBusSentBefore) {
   EXPECT_THAT(probe.indexes(), ElementsAre(1, 2));
 }
 
-TEST_F(OnDyingBus, ConnectsAnewForTheNextObserver) {
+TEST_F(OnEndingBus, ConnectsAgainForTheNextObserver) {
   for (const bool loopHasSeenIt : {true, false}) {
     SCOPED_TRACE(loopHasSeenIt);
     Probe probe;
@@ -185,7 +185,7 @@ TEST_F(OnDyingBus, ConnectsAnewForTheNextObserver) {
   }
 }
 
-TEST_F(OnDyingBus, SurvivesTheDeathOfTheBusInACallback) {
+TEST_F(OnEndingBus, WorksAfterTheBusEndedInACallback) {
   Probe later;
   Probe probe;
   probe.then = [&](const auto *) {
@@ -201,21 +201,21 @@ TEST_F(OnDyingBus, SurvivesTheDeathOfTheBusInACallback) {
   EXPECT_THAT(later.indexes(), ElementsAre(2));
 }
 
-TEST_F(OnDyingBus, GoesOnWhenAFrozenBusThaws) {
+TEST_F(OnEndingBus, WorksAfterASuspendedBusResumes) {
   Probe probe;
   probe.Observe(kName);
-  bus_.Freeze();
+  bus_.Suspend();
   Probe refused;
   Report("post", [] { PostIndex(kName, 1); });
   Report("observe", [&refused] { refused.Observe("Other"); });
   EXPECT_LT(TurnsOfAnIdleLoop(context_), kFewTurns);
-  bus_.Thaw();
+  bus_.Resume();
   PostIndex(kName, 2);
   EXPECT_TRUE(RunUntilReceived(probe, 1));
   EXPECT_THAT(probe.indexes(), ElementsAre(2));
 }
 
-TEST_F(OnBus, RestsAfterADelivery) {
+TEST_F(OnBus, DoesNotKeepTheLoopBusyAfterADelivery) {
   Probe probe;
   probe.Observe(kName);
   PostIndex(kName, 1);
@@ -223,7 +223,7 @@ TEST_F(OnBus, RestsAfterADelivery) {
   EXPECT_LT(TurnsOfAnIdleLoop(context_), kFewTurns);
 }
 
-TEST_F(OnBus, CostsNoDescriptorOrThreadPerPost) {
+TEST_F(OnBus, PostsKeepNoDescriptorAndNoThread) {
   Probe probe;
   probe.Observe(kName);
   PostIndex(kName, 1);
@@ -265,7 +265,7 @@ TEST_F(OnBus, ClosesTheConnectionWithItsContext) {
   EXPECT_THAT(probe.indexes(), ElementsAre());
 }
 
-TEST_F(OnBus, WorksInAForkedChildAndLeavesTheParentAlone) {
+TEST_F(OnBus, WorksInAForkedChildAndThenInTheParent) {
   Probe probe;
   probe.Observe(kName);
   const int status = ztk::test::InChild([this] {
@@ -280,7 +280,7 @@ TEST_F(OnBus, WorksInAForkedChildAndLeavesTheParentAlone) {
   EXPECT_THAT(probe.indexes(), ElementsAre(1, 2));
 }
 
-TEST_F(OnBus, DoesNotSpinInAForkedChildThatRunsTheInheritedLoop) {
+TEST_F(OnBus, DoesNotKeepTheInheritedLoopBusyInAForkedChild) {
   Probe probe;
   probe.Observe(kName);
   PostIndex(kName, 1);

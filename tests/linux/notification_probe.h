@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Shared by the tests of the notification center: a private bus and main
-// context, an observer that stores what it receives, and counters of the
-// resources of the process.
+// For the tests of the notification center: a private bus and main context, an
+// observer that stores the notifications, and counters of the resources of the
+// process.
 #ifndef ZTK_TESTS_LINUX_NOTIFICATION_PROBE_H_
 #define ZTK_TESTS_LINUX_NOTIFICATION_PROBE_H_
 
@@ -29,7 +29,7 @@ namespace center = ztk::platform::notification_center;
 
 inline constexpr char kName[] = "VRM-D6 InputAudio Change";
 
-// An observer that stores the numbers under "Index".
+// An observer that stores the value of "Index" in each notification.
 class Probe {
  public:
   void Observe(const char *name) {
@@ -62,7 +62,7 @@ inline void PostIndex(const char *name, std::int32_t index) {
   center::Release(userInfo);
 }
 
-// A flag that the loop of the context sets after the time.
+// A flag that is set after a time, if the context runs.
 class Timer {
  public:
   Timer(GMainContext *context, unsigned milliseconds)
@@ -87,8 +87,7 @@ class Timer {
   bool raised_ = false;
 };
 
-// Runs the context until the condition is true; false when that takes far too
-// long.
+// Runs the context until the condition is true. Returns false after 10 seconds.
 inline bool RunUntil(GMainContext *context,
                      const std::function<bool()> &condition) {
   const Timer limit(context, 10'000);
@@ -96,7 +95,7 @@ inline bool RunUntil(GMainContext *context,
   return condition();
 }
 
-// How often the context wakes up in a fifth of a second with nothing to do.
+// Returns how often the context wakes up in a fifth of a second.
 inline int TurnsOfAnIdleLoop(GMainContext *context) {
   const Timer end(context, 200);
   int turns = 0;
@@ -104,7 +103,8 @@ inline int TurnsOfAnIdleLoop(GMainContext *context) {
   return turns;
 }
 
-// Runs the function in a child, which then exits without any clean-up.
+// Runs the function in a child process, which then exits without clean-up.
+// Returns the status of the child as waitpid() does.
 inline int InChild(const std::function<int()> &function) {
   const pid_t child = fork();
   if (child == 0) _exit(function());
@@ -124,7 +124,7 @@ inline std::ptrdiff_t Threads() { return CountEntries("/proc/self/task"); }
 class OnPrivateBus : public testing::Test {
  protected:
   void SetUp() override {
-    alarm(20);  // a call that does not come back fails instead of hanging
+    alarm(20);  // ends the test if a call does not return
     if (!bus_.Start()) GTEST_SKIP() << "dbus-daemon cannot be run";
     context_ = g_main_context_new();
     g_main_context_push_thread_default(context_);

@@ -14,14 +14,14 @@ namespace {
 
 using namespace ztk::platform::common;
 
-TEST(IntegerFromInteger, TakesTheLowHalf) {
+TEST(IntegerFromInteger, ReturnsTheLow32Bits) {
   EXPECT_EQ(IntegerFromInteger(5), 5);
   EXPECT_EQ(IntegerFromInteger(0xFFFFFFFFFFFFFFFEU), -2);
   EXPECT_EQ(IntegerFromInteger(0x80000000U), -2147483647 - 1);
   EXPECT_EQ(IntegerFromInteger(0x100000007U), 7);
 }
 
-TEST(IntegerFromReal, CutsTowardsZeroAndIsTheLowestOutOfRange) {
+TEST(IntegerFromReal, RoundsTowardsZeroAndIsTheLowestOutOfRange) {
   const struct {
     double real;
     std::int32_t expected;
@@ -64,7 +64,7 @@ TEST(IntegerFromText, StopsAtABrokenCharacter) {
   EXPECT_EQ(IntegerFromText("\xFF 5"), 0);
 }
 
-TEST(Intern, GivesEqualTextsOnePlaceThatNeverMoves) {
+TEST(Intern, ReturnsOneCopyOfEqualTextsThatNeverMoves) {
   const std::string first = "10.13.6";
   const std::string second = "10.13.6";
   const char *text = Intern(first);

@@ -34,12 +34,12 @@ class UserLibrary : public testing::Test {
   Variable configVariable_{"XDG_CONFIG_HOME", std::nullopt};
 };
 
-TEST_F(UserLibrary, LiesInTheConfigurationFolderAndIsNotCreated) {
+TEST_F(UserLibrary, IsInTheConfigurationFolderAndIsNotCreated) {
   EXPECT_EQ(Library(), home_ / ".config/tarvix");
   EXPECT_TRUE(NamesIn(home_.path()).empty());
 }
 
-TEST_F(UserLibrary, FollowsAnAbsoluteConfigurationHome) {
+TEST_F(UserLibrary, UsesAnAbsoluteConfigurationHome) {
   const Variable config("XDG_CONFIG_HOME", home_ / "elsewhere");
   EXPECT_EQ(Library(), home_ / "elsewhere/tarvix");
 }
@@ -57,18 +57,18 @@ TEST_F(UserLibrary, IsTheLibraryFolderOfAHomeSharedWithMacOs) {
   EXPECT_EQ(Library(), home_ / "Library");
 }
 
-TEST_F(UserLibrary, OfASharedHomeStaysWhereItWasBegun) {
+TEST_F(UserLibrary, OfASharedHomeIsTheLinuxFolderIfThatExists) {
   Make("Library/Preferences");
   Make(".config/tarvix");
   EXPECT_EQ(Library(), home_ / ".config/tarvix");
 }
 
-TEST_F(UserLibrary, NeedsPreferencesInALibraryFolder) {
+TEST_F(UserLibrary, OfASharedHomeMustContainPreferences) {
   Make("Library");
   EXPECT_EQ(Library(), home_ / ".config/tarvix");
 }
 
-TEST_F(UserLibrary, LooksIntoASharedHomeWhateverTheConfigurationHomeIs) {
+TEST_F(UserLibrary, OfASharedHomeDoesNotDependOnTheConfigurationHome) {
   Make("Library/Preferences");
   const Variable config("XDG_CONFIG_HOME", home_ / "elsewhere");
   EXPECT_EQ(Library(), home_ / "Library");
@@ -90,12 +90,12 @@ TEST_F(UserLibrary, WithoutHomeComesFromThePasswordDatabase) {
   }
 }
 
-TEST_F(UserLibrary, OfAUserWithoutAnyHomeIsNone) {
-  if (getuid() != 0) GTEST_SKIP() << "needs root, to become a user unknown";
+TEST_F(UserLibrary, IsNullForAUserWithoutAHome) {
+  if (getuid() != 0) GTEST_SKIP() << "only root can become another user";
   unsetenv("HOME");
   const int code = ztk::test::ExitCodeOf([] {
-    constexpr uid_t kNobodyHasThis = 3'999'999'999U;
-    if (setuid(kNobodyHasThis) != 0) return 2;
+    constexpr uid_t kUnusedId = 3'999'999'999U;
+    if (setuid(kUnusedId) != 0) return 2;
     return ztk::platform::paths::UserLibrary() == nullptr ? 0 : 1;
   });
   EXPECT_EQ(code, 0);

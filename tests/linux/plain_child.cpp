@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // A client that links only the library. For each argument it makes one call and
-// prints a line: the argument, the result, and the libraries that are loaded on
-// first use and are loaded by then.
+// prints a line with the argument, the result, "bus" if the library with sd-bus
+// is loaded, and "loop" if GLib is loaded.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Property-list files for tests, good and bad.
+// Makes valid and invalid property lists for tests.
 #ifndef ZTK_TESTS_LINUX_PLIST_FILES_H_
 #define ZTK_TESTS_LINUX_PLIST_FILES_H_
 
@@ -17,7 +17,7 @@ inline std::string Repeat(std::string_view part, std::size_t times) {
   return all;
 }
 
-// An XML file whose dictionary has these entries.
+// Returns an XML file whose dictionary has these entries.
 inline std::string Xml(const std::string &entries) {
   return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
          "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
@@ -34,8 +34,8 @@ inline std::string BigEndian(std::uint64_t number, int length) {
   return bytes;
 }
 
-// A binary file of these objects, the first of which is the root. Objects
-// refer to each other by two bytes. Fields of the trailer may be overridden.
+// A binary file with these objects. By default the first object is the root,
+// and a reference has two bytes. A test may set wrong fields of the trailer.
 struct Binary {
   std::vector<std::string> objects;
   std::uint64_t root = 0;
@@ -59,20 +59,20 @@ struct Binary {
   }
 };
 
-// A binary text of at most 14 ASCII bytes.
+// Returns a binary text of at most 14 ASCII bytes.
 inline std::string AsciiObject(const std::string &text) {
   return static_cast<char>(0x50 + text.size()) + text;
 }
 
-// A binary text of at most 14 UTF-16 units.
+// Returns a binary text of at most 14 UTF-16 units.
 inline std::string Utf16Object(const std::vector<std::uint16_t> &units) {
   std::string object(1, static_cast<char>(0x60 + units.size()));
   for (const std::uint16_t unit : units) object += BigEndian(unit, 2);
   return object;
 }
 
-// A binary array (marker 0xA0) or dictionary (0xD0: keys, then values) of at
-// most 14 entries.
+// Returns a binary array (marker 0xA0) or dictionary (0xD0: keys, then values)
+// of at most 14 entries.
 inline std::string ContainerObject(unsigned marker,
                                    const std::vector<std::uint16_t> &indexes) {
   const std::size_t count =
@@ -82,7 +82,7 @@ inline std::string ContainerObject(unsigned marker,
   return object;
 }
 
-// A binary file whose dictionary has one entry, "a".
+// Returns a binary file whose dictionary has one entry, "a".
 inline std::string BinaryWith(const std::string &valueObject) {
   return Binary{
       .objects = {ContainerObject(0xD0, {1, 2}), AsciiObject("a"), valueObject}}

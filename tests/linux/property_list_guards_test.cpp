@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Malicious files: a reader must refuse them without damage.
+// Malicious files: the reader must refuse them without crashing or hanging.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -33,7 +33,7 @@ using ztk::test::Xml;
 
 class BadFile : public testing::Test {
  protected:
-  void SetUp() override { alarm(60); }  // a hang ends the test, not the run
+  void SetUp() override { alarm(60); }  // ends a test that hangs
   void TearDown() override { alarm(0); }
 
   bool IsRead() {
@@ -62,7 +62,7 @@ class BadFile : public testing::Test {
 class XmlGuard : public BadFile {};
 class BinaryGuard : public BadFile {};
 
-TEST_F(XmlGuard, RefusesWhatIsNoXmlPropertyList) {
+TEST_F(XmlGuard, RefusesEverythingThatIsNotAnXmlPropertyList) {
   const std::string good = Xml("<key>a</key><integer>1</integer>");
   ASSERT_TRUE(IsRead(good));
   const struct {
@@ -117,7 +117,7 @@ TEST_F(XmlGuard, RefusesDeepNesting) {
   EXPECT_FALSE(IsRead(Repeat("<array>", 37000)));
 }
 
-TEST_F(XmlGuard, SeesNestingThatIsHidden) {
+TEST_F(XmlGuard, FindsHiddenNesting) {
   const std::string deep = Repeat("<array>", 200);
   const std::string ends = Repeat("</array>", 200);
   const struct {
@@ -149,12 +149,12 @@ TEST_F(XmlGuard, DoesNotCountNestingInCommentsAndTexts) {
       Xml("<key>a</key><array>" + Repeat("<array/>", 200) + "</array>")));
 }
 
-TEST_F(XmlGuard, RefusesEntitiesByTheMebibyte) {
+TEST_F(XmlGuard, RefusesAMebibyteOfEntities) {
   EXPECT_FALSE(IsRead(
       Xml("<key>a</key><string>" + Repeat("&lt;", 262144) + "</string>")));
 }
 
-TEST_F(BadFile, AboveTheSizeLimitIsRefused) {
+TEST_F(BadFile, IsRefusedAboveTheSizeLimit) {
   const std::string around = Xml("<key>a</key><string></string>");
   const std::size_t room = 262144 - around.size();
   const auto ofText = [](std::size_t length) {
@@ -168,7 +168,7 @@ TEST_F(BadFile, AboveTheSizeLimitIsRefused) {
   EXPECT_FALSE(IsRead());
 }
 
-TEST_F(BadFile, OfRandomBytesIsRefused) {
+TEST_F(BadFile, IsRefusedIfItHasRandomBytes) {
   std::mt19937 random(20240607);
   for (const char *start : {"", "bplist00", "<", "<plist>"}) {
     SCOPED_TRACE(start);
@@ -180,7 +180,7 @@ TEST_F(BadFile, OfRandomBytesIsRefused) {
   }
 }
 
-TEST_F(BadFile, ThatIsAFolderStands) {
+TEST_F(BadFile, IsNotReplacedIfItIsAFolder) {
   std::filesystem::create_directories(path_);
   EXPECT_FALSE(IsRead());
   EXPECT_FALSE(Write());
@@ -188,7 +188,7 @@ TEST_F(BadFile, ThatIsAFolderStands) {
   EXPECT_THAT(ztk::test::NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(BadFile, ThatIsAPipeDoesNotBlockAndStays) {
+TEST_F(BadFile, DoesNotBlockAndIsNotReplacedIfItIsAPipe) {
   ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
   EXPECT_FALSE(IsRead());
   EXPECT_FALSE(Write());
@@ -196,7 +196,7 @@ TEST_F(BadFile, ThatIsAPipeDoesNotBlockAndStays) {
   EXPECT_THAT(ztk::test::NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(BadFile, BehindALinkThatIsAPipeStays) {
+TEST_F(BadFile, IsNotReplacedIfItIsALinkToAPipe) {
   ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0600), 0);
   std::filesystem::create_symlink("pipe", path_);
   EXPECT_FALSE(Write());
@@ -205,7 +205,7 @@ TEST_F(BadFile, BehindALinkThatIsAPipeStays) {
               ElementsAre("a.plist", "pipe"));
 }
 
-TEST_F(BadFile, IsKeptBesideUnderTheFirstFreeNumber) {
+TEST_F(BadFile, IsKeptUnderTheFirstFreeNumber) {
   Put(path_ + ".unreadable-2", "of another time");
   const char *const names[] = {".unreadable-1", ".unreadable-3",
                                ".unreadable-4"};
@@ -223,7 +223,7 @@ TEST_F(BadFile, IsKeptBesideUnderTheFirstFreeNumber) {
       << "a readable file is not kept";
 }
 
-TEST_F(BadFile, IsNotKeptWhenItWasMetInAnotherPlace) {
+TEST_F(BadFile, IsNotKeptIfAnotherFileIsReplaced) {
   Put(folder_ / "other.plist", "broken");
   plist::Dictionary *dictionary = plist::MakeDictionary();
   plist::AddEntriesOfFile(dictionary, (folder_ / "other.plist").c_str());
@@ -233,7 +233,7 @@ TEST_F(BadFile, IsNotKeptWhenItWasMetInAnotherPlace) {
               ElementsAre("a.plist", "other.plist"));
 }
 
-TEST_F(BadFile, IsKeptBesideTheTargetOfALink) {
+TEST_F(BadFile, IsKeptInTheFolderOfALinksTarget) {
   Put(folder_ / "real/b.plist", "broken");
   std::filesystem::create_symlink("real/b.plist", path_);
   ASSERT_TRUE(Write());
@@ -286,8 +286,8 @@ TEST_F(BinaryGuard, RefusesBrokenObjects) {
       {"integer past the end", "\x13\x01"},
       {"real of one byte", "\x20\x01"},
       {"date of four bytes", "\x32" + std::string(4, '\1')},
-      {"date that is no number", "\x33" + BigEndian(0x7FF8000000000000U, 8)},
-      {"date without end", "\x33" + BigEndian(0xFFF0000000000000U, 8)},
+      {"date NaN", "\x33" + BigEndian(0x7FF8000000000000U, 8)},
+      {"date minus infinity", "\x33" + BigEndian(0xFFF0000000000000U, 8)},
       {"date in a million years", "\x33" + BigEndian(0x42C0000000000000U, 8)},
       {"data past the end", "\x4E\x01"},
       {"text past the end", "\x5Exy"},
@@ -295,7 +295,7 @@ TEST_F(BinaryGuard, RefusesBrokenObjects) {
       {"UTF-16 with NUL", std::string("\x62\0x\0\0", 5)},
       {"UTF-16 past the end", std::string("\x64\0x\0x", 5)},
       {"length without a number", "\x5F"},
-      {"length of no integer", "\x5F\x22xxxx"},
+      {"length is not an integer", "\x5F\x22xxxx"},
       {"length past the end", "\x5F\x13\x01"},
       {"length beyond memory", "\x4F\x13" + BigEndian(~0ULL, 8)},
       {"text length beyond memory", "\x6F\x13" + BigEndian(1ULL << 63U, 8)},
@@ -303,8 +303,8 @@ TEST_F(BinaryGuard, RefusesBrokenObjects) {
       {"index out of range", std::string("\xA1\0\3", 3)},
       {"array past the end", std::string("\xA2\0\1", 3)},
       {"key is a number", std::string("\xD1\0\2\0\1", 5)},
-      {"holds itself", std::string("\xA1\0\2", 3)},
-      {"holds the root", std::string("\xA1\0\0", 3)},
+      {"contains itself", std::string("\xA1\0\2", 3)},
+      {"contains the root", std::string("\xA1\0\0", 3)},
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
@@ -312,8 +312,8 @@ TEST_F(BinaryGuard, RefusesBrokenObjects) {
   }
 }
 
-// A dictionary over a chain of `depth` arrays, each holding the next `width`
-// times, and a leaf at the end.
+// Returns a file with `depth` nested arrays and a leaf in the last one. Each
+// array contains the next one `width` times.
 std::string Chain(std::uint16_t depth, std::size_t width,
                   const std::string &leaf) {
   Binary file{.objects = {ContainerObject(0xD0, {1, 2}), AsciiObject("a")}};
@@ -332,8 +332,9 @@ TEST_F(BinaryGuard, RefusesDeepNesting) {
   EXPECT_FALSE(IsRead(Chain(30000, 1, "\x09")));
 }
 
-TEST_F(BinaryGuard, SeesNestingBehindASharedObject) {
-  // "a" holds 100 arrays in each other; "b" holds them below another 60.
+TEST_F(BinaryGuard, FindsDeepNestingInASharedObject) {
+  // "a" contains 100 nested arrays. "b" contains `above` nested arrays with
+  // those of "a" inside.
   const auto file = [](std::uint16_t above) {
     Binary binary{.objects = {ContainerObject(0xD0, {1, 2, 3, 4}),
                               AsciiObject("a"), AsciiObject("b")}};
@@ -354,7 +355,7 @@ TEST_F(BinaryGuard, SeesNestingBehindASharedObject) {
   EXPECT_FALSE(IsRead(file(60)));
 }
 
-TEST_F(BinaryGuard, RefusesBombsOfSharedObjects) {
+TEST_F(BinaryGuard, RefusesSharedObjectsThatExpandTooMuch) {
   EXPECT_TRUE(IsRead(Chain(4, 14, "\x09")));     // 41,371 nodes
   EXPECT_FALSE(IsRead(Chain(5, 14, "\x09")));    // 579,195
   EXPECT_FALSE(IsRead(Chain(127, 14, "\x09")));  // beyond any number
@@ -364,8 +365,8 @@ TEST_F(BinaryGuard, RefusesBombsOfSharedObjects) {
   EXPECT_FALSE(IsRead(Chain(1, 6, large)));
 }
 
-TEST_F(BinaryGuard, IsNotSlowedByObjectsOverOneAnother) {
-  // 40,000 entries of the table lead to one long text.
+TEST_F(BinaryGuard, IsNotSlowIfObjectsOverlap) {
+  // Most of the 40,000 references lead to the same long text.
   constexpr std::uint32_t kCount = 40000;
   std::string bytes = "bplist00\xAF\x12" + BigEndian(kCount, 4);
   for (std::uint32_t i = 0; i < kCount; ++i) bytes += BigEndian(i % 32768, 2);

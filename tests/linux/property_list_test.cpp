@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Valid files: what is read from them and what is written.
+// Reads and rewrites valid files.
 #include "platform/property_list.h"
 
 #include <gmock/gmock.h>
@@ -37,7 +37,7 @@ using Dictionary =
 class File : public testing::Test {
  protected:
   Dictionary Read() { return {plist::ReadFile(path_.c_str()), plist::Release}; }
-  // The value of "a" in a file with this content.
+  // Returns the value of "a" in a file with this content.
   std::string IntegerOf(const std::string &content) {
     Put(path_, content);
     const Dictionary dictionary = Read();
@@ -128,7 +128,7 @@ TEST_F(IntegerValue, ConvertsEveryKindOfEntry) {
   }
 }
 
-TEST_F(IntegerValue, FollowsTheTableOfBothPorts) {
+TEST_F(IntegerValue, IsThatOfTheTableForBothPorts) {
   for (const ztk::test::EntryRow &row : ztk::test::kEntryRows) {
     SCOPED_TRACE(row.element);
     const std::string content = Xml(std::string("<key>a</key>") + row.element);
@@ -138,7 +138,7 @@ TEST_F(IntegerValue, FollowsTheTableOfBothPorts) {
   }
 }
 
-TEST_F(TextValue, IsOnlyThatOfATextEntry) {
+TEST_F(TextValue, IsTheTextOfATextEntry) {
   const struct {
     const char *name;
     std::string content;
@@ -178,7 +178,7 @@ TEST_F(TextValue, IsOnlyThatOfATextEntry) {
   }
 }
 
-TEST_F(TextValue, KeepsTwoTextsApart) {
+TEST_F(TextValue, DoesNotOverwriteAnotherText) {
   Put(path_, Xml("<key>a</key><string>one</string>"
                  "<key>b</key><string>two</string>"));
   const Dictionary dictionary = Read();
@@ -188,14 +188,14 @@ TEST_F(TextValue, KeepsTwoTextsApart) {
   EXPECT_STREQ(two, "two");
 }
 
-TEST_F(TextValue, OutlivesTheDictionaryAndDoesNotGrow) {
+TEST_F(TextValue, IsValidAfterReleaseAndStoredOnlyOnce) {
   Put(path_, Xml("<key>a</key><string>10.13.6</string>"));
   const ZTKTextRef text = plist::TextValue(Read().get(), "a");
   EXPECT_STREQ(text, "10.13.6");
   EXPECT_EQ(plist::TextValue(Read().get(), "a"), text);
 }
 
-TEST_F(ReadFile, TakesOrdinaryVariationsOfXml) {
+TEST_F(ReadFile, AcceptsOrdinaryVariationsOfXml) {
   const std::string entry = "<key>a</key><integer>4</integer>";
   const std::string body = "<plist><dict>" + entry + "</dict></plist>";
   const struct {
@@ -220,8 +220,8 @@ TEST_F(ReadFile, TakesOrdinaryVariationsOfXml) {
   }
 }
 
-// Differences from Foundation are deliberate: stricter or more tolerant.
-TEST_F(ReadFile, TakesTheFormsThatFoundationTakes) {
+// Deliberate: the rows with differsOnLinux are read differently by Foundation.
+TEST_F(ReadFile, AcceptsTheSameFormsAsFoundation) {
   for (const ztk::test::FormRow &row : ztk::test::FormRows()) {
     SCOPED_TRACE(row.name);
     const bool expected = row.read != row.differsOnLinux;
@@ -235,7 +235,7 @@ TEST_F(ReadFile, OfAMissingFileCreatesNothing) {
   EXPECT_TRUE(ztk::test::NamesIn(folder_.path()).empty());
 }
 
-TEST_F(SetInteger, ReplacesWhateverStoodThere) {
+TEST_F(SetInteger, ReplacesAValueOfAnyKind) {
   for (const char *old : {"<integer>1</integer>", "<string>x</string>",
                           "<dict><key>b</key><true/></dict>"}) {
     SCOPED_TRACE(old);
@@ -252,7 +252,7 @@ TEST_F(SetInteger, ReplacesWhateverStoodThere) {
   }
 }
 
-TEST_F(RemoveEntry, LeavesTheOthersAlone) {
+TEST_F(RemoveEntry, KeepsTheOtherEntries) {
   Put(path_, Xml("<key>a</key><integer>1</integer>"
                  "<key>b</key><string>kept</string>"));
   const Dictionary dictionary = Read();
@@ -294,7 +294,7 @@ TEST_F(Rewriting, WritesAnIntegerWithALeadingZeroAsADecimalOne) {
                 "\t<key>new</key>\n\t<integer>1</integer>\n"));
 }
 
-// The letter a with two dots, in every encoding that is read.
+// The files contain the letter a with two dots in every encoding that is read.
 TEST_F(Rewriting, ConvertsOtherEncodingsToUtf8) {
   const auto declared = [](const std::string &encoding) {
     return "<?xml version='1.0' encoding='" + encoding +
@@ -330,7 +330,7 @@ TEST_F(Rewriting, ConvertsOtherEncodingsToUtf8) {
   EXPECT_EQ(ztk::test::NamesIn(folder_.path()).size(), 1U);
 }
 
-TEST_F(Rewriting, KeepsAFileBesideWhoseCharactersItCannotTake) {
+TEST_F(Rewriting, KeepsTheOldFileIfItCannotReadAllCharacters) {
   const std::string rows[] = {
       "<?xml version=\"1.0\" encoding=\"KOI8-R\"?><plist><dict/></plist>",
       Xml("<key>a</key><string>\xE4 without a declaration</string>"),
@@ -349,7 +349,7 @@ TEST_F(Rewriting, TurnsABinaryFileIntoXml) {
                 "\t<key>new</key>\n\t<integer>1</integer>\n"));
 }
 
-TEST_F(Rewriting, CleansTextsAndKeysThatXmlCannotHold) {
+TEST_F(Rewriting, CleansTextsAndKeysThatXmlCannotContain) {
   const std::string binary =
       ztk::test::Binary{.objects = {ztk::test::ContainerObject(0xD0, {1, 2}),
                                     ztk::test::AsciiObject("k\x01"),
@@ -382,8 +382,8 @@ TEST_F(Rewriting, WritesEveryDateInTheStrictForm) {
   }
 }
 
-// Sets a locale with a decimal comma: an installed one, else one made in the
-// folder.
+// Sets a locale with a decimal comma: an installed one, or one that is made in
+// the folder.
 bool SetCommaLocale(const std::string &folder) {
   for (const char *name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "fr_FR.UTF-8",
                            "nl_NL.UTF-8", "it_IT.UTF-8", "ru_RU.UTF-8"}) {
@@ -396,7 +396,7 @@ bool SetCommaLocale(const std::string &folder) {
   return setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
 }
 
-TEST_F(Rewriting, KeepsRealsWhereTheDecimalSignIsAComma) {
+TEST_F(Rewriting, KeepsRealsInALocaleWithADecimalComma) {
   const Variable restored("LOCPATH", std::nullopt);
   const TempFolder locales;
   if (!SetCommaLocale(locales.path())) {
@@ -405,11 +405,12 @@ TEST_F(Rewriting, KeepsRealsWhereTheDecimalSignIsAComma) {
   ASSERT_STREQ(localeconv()->decimal_point, ",");
   EXPECT_THAT(Rewritten(Xml("<key>a</key><real>3.25</real>")),
               HasSubstr("<real>3.25</real>"));
-  EXPECT_STREQ(localeconv()->decimal_point, ",") << "the locale is put back";
+  EXPECT_STREQ(localeconv()->decimal_point, ",")
+      << "the locale must be restored";
   setlocale(LC_ALL, "C");
 }
 
-TEST_F(Rewriting, IsReadableByAStrictReader) {
+TEST_F(Rewriting, MakesAFileThatAStrictReaderAccepts) {
   if (std::system("python3 -c 'import plistlib' >/dev/null 2>&1") != 0) {
     GTEST_SKIP() << "no python3 with plistlib";
   }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How a file is replaced, and what the folder contains when that fails.
+// Tests how a file is replaced, and that a failure leaves no other file.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -35,7 +35,7 @@ using ztk::test::Xml;
 
 constexpr uid_t kNobody = 65534;
 
-// Writes { new = 1 } over the entries of the file.
+// Adds "new" = 1 to the entries of the file.
 bool Write(const std::string &path) {
   plist::Dictionary *dictionary = plist::MakeDictionary();
   plist::AddEntriesOfFile(dictionary, path.c_str());
@@ -56,7 +56,7 @@ class WriteAtomically : public testing::Test {
   std::string path_ = folder_ / "a.plist";
 };
 
-TEST_F(WriteAtomically, MakesANewFileForItsOwnerOnly) {
+TEST_F(WriteAtomically, MakesANewFileThatOnlyTheOwnerCanAccess) {
   const mode_t mask = umask(0);
   EXPECT_TRUE(Write(path_));
   umask(mask);
@@ -88,7 +88,7 @@ TEST_F(WriteAtomically, KeepsTheOwnerWhenRootWrites) {
   EXPECT_EQ(status.st_gid, 1234U);
 }
 
-TEST_F(WriteAtomically, PutsANewFileInPlaceOfTheOldOne) {
+TEST_F(WriteAtomically, DoesNotOverwriteTheOldFile) {
   Put(path_, old_);
   std::filesystem::create_hard_link(path_, folder_ / "second name");
   EXPECT_TRUE(Write(path_));
@@ -109,19 +109,19 @@ TEST_F(WriteAtomically, MakesUpToThreeMissingFolders) {
   }
 }
 
-TEST_F(WriteAtomically, DoesNotMakeAHome) {
+TEST_F(WriteAtomically, DoesNotMakeAHomeFolder) {
   EXPECT_FALSE(Write(folder_ / "home/.config/maker/Preferences/a.plist"));
   EXPECT_TRUE(NamesIn(folder_.path()).empty());
 }
 
-TEST_F(WriteAtomically, LeavesFoldersThatExistAsTheyAre) {
+TEST_F(WriteAtomically, DoesNotChangeExistingFolders) {
   std::filesystem::create_directories(folder_ / "Preferences");
   ASSERT_EQ(chmod((folder_ / "Preferences").c_str(), 0755), 0);
   EXPECT_TRUE(Write(folder_ / "Preferences/a.plist"));
   EXPECT_EQ(ModeOf(folder_ / "Preferences"), 0755U);
 }
 
-TEST_F(WriteAtomically, FailsBelowAFile) {
+TEST_F(WriteAtomically, FailsIfAFileHasTheNameOfTheFolder) {
   Put(folder_ / "Preferences", "a file");
   EXPECT_FALSE(Write(folder_ / "Preferences/a.plist"));
   EXPECT_EQ(ContentOf(folder_ / "Preferences"), "a file");
@@ -148,7 +148,7 @@ TEST_F(WriteAtomically, MakesTheTargetOfADanglingLink) {
   EXPECT_EQ(ContentOf(folder_ / "kept/real.plist"), fresh_);
 }
 
-TEST_F(WriteAtomically, FailsOnALoopOfLinksOrALinkToNowhere) {
+TEST_F(WriteAtomically, FailsForALoopOfLinksOrALinkIntoAMissingFolder) {
   std::filesystem::create_symlink("b.plist", path_);
   std::filesystem::create_symlink("a.plist", folder_ / "b.plist");
   EXPECT_FALSE(Write(path_));
@@ -158,8 +158,8 @@ TEST_F(WriteAtomically, FailsOnALoopOfLinksOrALinkToNowhere) {
               ElementsAre("a.plist", "b.plist", "c.plist"));
 }
 
-TEST_F(WriteAtomically, RefusesWhatCouldNotBeReadAgain) {
-  // As XML, each of these bytes takes five.
+TEST_F(WriteAtomically, DoesNotWriteAFileThatCouldNotBeReadAgain) {
+  // In XML, each "&" takes five bytes.
   const std::string binary = ztk::test::BinaryWith(
       "\x5F\x12" + ztk::test::BigEndian(60000, 4) + std::string(60000, '&'));
   Put(path_, binary);
@@ -168,7 +168,7 @@ TEST_F(WriteAtomically, RefusesWhatCouldNotBeReadAgain) {
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(WriteAtomically, SurvivesTheFileSizeLimit) {
+TEST_F(WriteAtomically, FailsAtTheFileSizeLimitWithoutEndingTheProcess) {
   Put(path_, old_);
   const int code = ExitCodeOf([this] {
     const struct rlimit limit = {.rlim_cur = 100, .rlim_max = 100};
@@ -185,7 +185,7 @@ TEST_F(WriteAtomically, SurvivesTheFileSizeLimit) {
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(WriteAtomically, LeavesASignalThatWasAlreadyPending) {
+TEST_F(WriteAtomically, KeepsASignalThatWasAlreadyPending) {
   const int code = ExitCodeOf([this] {
     sigset_t signals;
     sigemptyset(&signals);
@@ -204,10 +204,10 @@ TEST_F(WriteAtomically, LeavesASignalThatWasAlreadyPending) {
 const char *theWatchedFolder = nullptr;
 volatile sig_atomic_t theInterrupts = 0;
 
-// A signal that asks the process to end takes effect at once: no unfinished
-// file may exist then. Only functions that a signal handler may call are
-// called.
-void LookAround(int signal) {
+// The handler of SIGINT. No unfinished file may exist when it runs, because the
+// signal normally ends the process. Calls only functions that are allowed in a
+// signal handler.
+void CheckForUnfinishedFile(int signal) {
   if (signal == SIGALRM) {
     raise(SIGINT);
     return;
@@ -222,13 +222,13 @@ void LookAround(int signal) {
   if (names.find("a.plist.") != std::string_view::npos) _exit(3);
 }
 
-TEST_F(WriteAtomically, IsNotInterruptedHalfWay) {
+TEST_F(WriteAtomically, IsNotInterruptedWithAnUnfinishedFile) {
   Put(path_, old_);
   const std::string folder = folder_.path();
   theWatchedFolder = folder.c_str();
   const int code = ExitCodeOf([this] {
     struct sigaction action {};
-    action.sa_handler = LookAround;
+    action.sa_handler = CheckForUnfinishedFile;
     action.sa_flags = SA_RESTART;
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGALRM, &action, nullptr);
@@ -255,7 +255,7 @@ TEST_F(WriteAtomically, KeepsNoCopyOfABadFileThatItCannotReplace) {
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(WriteAtomically, FailsCleanlyOnAFullFileSystem) {
+TEST_F(WriteAtomically, KeepsTheOldFileOnAFullFileSystem) {
   constexpr int kCannotMount = 77;
   const int code = ExitCodeOf([this] {
     if (unshare(CLONE_NEWNS) != 0 ||
@@ -275,17 +275,18 @@ TEST_F(WriteAtomically, FailsCleanlyOnAFullFileSystem) {
   EXPECT_EQ(code, 0);
 }
 
-// Tests missing rights of an ordinary user; root becomes one in a child.
+// Tests with an ordinary user who lacks rights. If the tests run as root, a
+// child process becomes that user.
 constexpr char kNeedsRoot[] = "needs root, to own the file";
 class OfAnotherUser : public WriteAtomically {
  protected:
   void SetUp() override {
-    if (asRoot_) Give(folder_.path());
+    if (asRoot_) GiveToUser(folder_.path());
   }
-  void Give(const std::string &path) {
+  void GiveToUser(const std::string &path) {
     ASSERT_EQ(chown(path.c_str(), kNobody, kNobody), 0);
   }
-  // Whether the file is read (1) and written (2) by another user.
+  // Returns whether the other user could read (1) and write (2) the file.
   int ReadAndWritten() {
     return ExitCodeOf([this] {
       if (asRoot_ && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) return 4;
@@ -299,8 +300,8 @@ class OfAnotherUser : public WriteAtomically {
   const bool asRoot_ = getuid() == 0;
 };
 
-// As after sudo with the HOME of the user.
-TEST_F(OfAnotherUser, AFileWithoutPermissionIsMovedAside) {
+// This happens after sudo with the HOME of the user.
+TEST_F(OfAnotherUser, AFileWithoutPermissionIsRenamedAndReplaced) {
   if (!asRoot_) GTEST_SKIP() << kNeedsRoot;
   Put(path_, old_);
   ASSERT_EQ(chmod(path_.c_str(), 0600), 0);
@@ -313,11 +314,11 @@ TEST_F(OfAnotherUser, AFileWithoutPermissionIsMovedAside) {
   EXPECT_EQ(NamesIn(folder_.path()).size(), 2U);
 }
 
-TEST_F(OfAnotherUser, AFileThatMayNotEvenBeMovedStays) {
+TEST_F(OfAnotherUser, AFileThatCannotBeRenamedIsNotReplaced) {
   if (!asRoot_) GTEST_SKIP() << kNeedsRoot;
   Put(path_, old_);
   ASSERT_EQ(chmod(path_.c_str(), 0600), 0);
-  // In a folder for everyone only the owner may replace a file.
+  // In a folder with the sticky bit, only the owner may replace a file.
   ASSERT_EQ(chown(folder_.path().c_str(), 0, 0), 0);
   ASSERT_EQ(chmod(folder_.path().c_str(), 01777), 0);
   EXPECT_EQ(ReadAndWritten(), 0);
@@ -325,20 +326,20 @@ TEST_F(OfAnotherUser, AFileThatMayNotEvenBeMovedStays) {
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(OfAnotherUser, AFolderInTheFilesPlaceStays) {
+TEST_F(OfAnotherUser, AFolderWithTheNameOfTheFileIsNotReplaced) {
   std::filesystem::create_directory(path_);
   EXPECT_EQ(ReadAndWritten(), 0);
   EXPECT_TRUE(std::filesystem::is_directory(path_));
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-TEST_F(OfAnotherUser, AnOwnFileWithoutPermissionIsKeptBeside) {
+TEST_F(OfAnotherUser, TheUsersOwnFileWithoutPermissionIsKept) {
   Put(path_, old_);
-  if (asRoot_) Give(path_);
+  if (asRoot_) GiveToUser(path_);
   ASSERT_EQ(chmod(path_.c_str(), 0), 0);
   EXPECT_EQ(ReadAndWritten(), 2);
   EXPECT_EQ(ContentOf(path_), fresh_);
-  EXPECT_EQ(ModeOf(path_), 0600U) << "or the next write kept it again";
+  EXPECT_EQ(ModeOf(path_), 0600U) << "otherwise the next write keeps it again";
   EXPECT_EQ(ModeOf(path_ + ".unreadable-1"), 0U);
   ASSERT_EQ(chmod((path_ + ".unreadable-1").c_str(), 0600), 0);
   EXPECT_EQ(ContentOf(path_ + ".unreadable-1"), old_);
@@ -359,7 +360,8 @@ TEST_F(OfAnotherUser, AFileThatCannotBeLinkedIsCopied) {
   if (!asRoot_) GTEST_SKIP() << kNeedsRoot;
   const std::string protection = ContentOf("/proc/sys/fs/protected_hardlinks");
   if (protection != "1\n") GTEST_SKIP() << "anyone may link any file here";
-  Put(path_, "broken");  // root's, readable, not writable: no link for others
+  // Only users who may write a file may link it. This file belongs to root.
+  Put(path_, "broken");
   ASSERT_EQ(chmod(path_.c_str(), 0644), 0);
   EXPECT_EQ(ReadAndWritten(), 2);
   EXPECT_EQ(ContentOf(path_), fresh_);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What happens to a settings file when other processes, missing resources and
-// symbolic links of other users interfere.
+// Tests that a settings file is not lost or damaged by other processes, missing
+// resources and symbolic links of other users.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <grp.h>
@@ -88,7 +88,7 @@ class Locking : public Attack {};
 class Reading : public Attack {};
 class Leftovers : public Attack {};
 
-TEST_F(Locking, KeepsOthersOutBetweenBeginAndEnd) {
+TEST_F(Locking, LocksTheFolderBetweenBeginAndEnd) {
   plist::Change *change = plist::BeginChange(path_.c_str());
   EXPECT_TRUE(FolderIsLocked(folder_.path()));
   plist::EndChange(change);
@@ -96,7 +96,7 @@ TEST_F(Locking, KeepsOthersOutBetweenBeginAndEnd) {
   EXPECT_TRUE(NamesIn(folder_.path()).empty());
 }
 
-TEST_F(Locking, EndsThoughAChildProcessHasACopyOfTheDescriptor) {
+TEST_F(Locking, EndsEvenIfAChildProcessHasACopyOfTheDescriptor) {
   plist::Change *change = plist::BeginChange(path_.c_str());
   int end[2];
   ASSERT_EQ(pipe(end), 0);
@@ -114,7 +114,7 @@ TEST_F(Locking, EndsThoughAChildProcessHasACopyOfTheDescriptor) {
   close(end[0]);
 }
 
-TEST_F(Locking, IsOnTheFolderOfTheFileThatALinkNames) {
+TEST_F(Locking, LocksTheFolderOfALinksTarget) {
   Put(folder_ / "real/b.plist", old_);
   std::filesystem::create_symlink("real/b.plist", path_);
   const FileChange change(path_, MissingFolders::Create);
@@ -130,17 +130,17 @@ TEST_F(Locking, CreatesTheFolderForTheFirstChange) {
   EXPECT_TRUE(FolderIsLocked(folder_ / "maker/Preferences"));
 }
 
-TEST_F(Locking, GoesOnWhenAnotherProcessKeepsTheLock) {
+TEST_F(Locking, DoesNotPreventAChangeIfAnotherProcessKeepsTheLock) {
   Put(path_, old_);
   const int other = open(folder_.path().c_str(), O_RDONLY | O_DIRECTORY);
   ASSERT_EQ(flock(other, LOCK_EX), 0);
   EXPECT_EQ(Set(path_), 0);
   EXPECT_EQ(ContentOf(path_), both_);
-  EXPECT_TRUE(FolderIsLocked(folder_.path())) << "of the other process";
+  EXPECT_TRUE(FolderIsLocked(folder_.path())) << "by the other process";
   close(other);
 }
 
-TEST_F(Locking, IsNotAllThatKeepsAnotherProcessesValue) {
+TEST_F(Locking, IsNotNeededToKeepTheChangeOfAnotherProcess) {
   Put(path_, old_);
   plist::Dictionary *dictionary = plist::MakeDictionary();
   plist::AddEntriesOfFile(dictionary, path_.c_str());
@@ -153,13 +153,14 @@ TEST_F(Locking, IsNotAllThatKeepsAnotherProcessesValue) {
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-// As `cp` does it: the file keeps its inode and, here, its size.
-TEST_F(Reading, NoticesThatAFileWasWrittenOverAfterwards) {
+// `cp` overwrites a file in this way: the inode stays the same, and here the
+// size too.
+TEST_F(Reading, DetectsThatTheFileWasOverwrittenLater) {
   for (const std::string &before : {old_, std::string(old_.size(), 'x')}) {
     Put(path_, before);
     plist::Dictionary *dictionary = plist::MakeDictionary();
     plist::AddEntriesOfFile(dictionary, path_.c_str());
-    // The clock of a file system may go on in steps of 10 ms.
+    // The clock of a file system may advance in steps of 10 ms.
     ztk::platform::Pause(std::chrono::milliseconds(20));
     Put(path_, old_);
     int error = 0;
@@ -171,7 +172,7 @@ TEST_F(Reading, NoticesThatAFileWasWrittenOverAfterwards) {
   }
 }
 
-TEST_F(Reading, TellsAbsentUnavailableAndDamagedFilesApart) {
+TEST_F(Reading, DistinguishesAbsentUnavailableAndDamagedFiles) {
   using plist::ReadResult;
   EXPECT_EQ(Read(path_), (ReadResult{.state = ReadState::Absent}));
   EXPECT_EQ(Read(path_ + "/below"), (ReadResult{.state = ReadState::Absent}));
@@ -189,7 +190,7 @@ TEST_F(Reading, TellsAbsentUnavailableAndDamagedFilesApart) {
             (ReadResult{.state = ReadState::Unavailable, .error = ELOOP}));
 }
 
-TEST_F(Reading, AtTheDescriptorLimitLeavesTheFileAsItIs) {
+TEST_F(Reading, DoesNotReplaceTheFileAtTheDescriptorLimit) {
   Put(path_, old_);
   const int code = ExitCodeOf([this] {
     const struct rlimit limit = {.rlim_cur = 3, .rlim_max = 3};
@@ -203,8 +204,9 @@ TEST_F(Reading, AtTheDescriptorLimitLeavesTheFileAsItIs) {
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
-// Only the folder is locked with the last descriptor; the file is not read.
-TEST_F(Reading, WithOneDescriptorLeftLeavesTheFileAsItIs) {
+// The last descriptor is used for the lock of the folder, so the file cannot be
+// read.
+TEST_F(Reading, DoesNotReplaceTheFileWithOneDescriptorLeft) {
   Put(path_, old_);
   const int code = ExitCodeOf([this] {
     const struct rlimit limit = {.rlim_cur = 4, .rlim_max = 4};
@@ -216,17 +218,17 @@ TEST_F(Reading, WithOneDescriptorLeftLeavesTheFileAsItIs) {
   EXPECT_EQ(ContentOf(path_), old_);
 }
 
-void Age(const std::string &file) {
+void MakeTwoDaysOld(const std::string &file) {
   const timeval twoDaysAgo = {.tv_sec = time(nullptr) - 172800, .tv_usec = 0};
   const timeval times[2] = {twoDaysAgo, twoDaysAgo};
   ASSERT_EQ(utimes(file.c_str(), times), 0);
 }
 
-TEST_F(Leftovers, AreRemovedAtTheNextWriteOnceTheyAreOlderThanADay) {
+TEST_F(Leftovers, AreRemovedAtTheNextWriteIfTheyAreOlderThanADay) {
   for (const char *name : {"a.plist.AbCd09", "a.plist.XXXXXX", "b.plist.AbCd09",
                            "a.plist.unreadable-1", "a.plist.backup"}) {
     Put(folder_ / name, "x");
-    Age(folder_ / name);
+    MakeTwoDaysOld(folder_ / name);
   }
   Put(folder_ / "a.plist.recent", "x");
   EXPECT_EQ(Set(path_), 0);
@@ -235,8 +237,8 @@ TEST_F(Leftovers, AreRemovedAtTheNextWriteOnceTheyAreOlderThanADay) {
                           "b.plist.AbCd09"));
 }
 
-// Root writes below the folder of another user.
-class RootAtAUsersPlace : public Attack {
+// Root writes in the folder of another user.
+class RootInAUsersFolder : public Attack {
  protected:
   void SetUp() override {
     if (getuid() != 0) GTEST_SKIP() << "needs root";
@@ -248,7 +250,7 @@ class RootAtAUsersPlace : public Attack {
     Put(secret_, old_);
     ASSERT_EQ(chmod(secret_.c_str(), 0600), 0);
   }
-  // A link that the user has made.
+  // Makes a link that belongs to the user.
   void Link(const std::string &to, const std::string &at) {
     std::filesystem::create_symlink(to, at);
     ASSERT_EQ(lchown(at.c_str(), kUser, kGroup), 0);
@@ -265,7 +267,7 @@ class RootAtAUsersPlace : public Attack {
   const std::string file_ = home_ + "/.config/maker/Preferences/a.plist";
 };
 
-TEST_F(RootAtAUsersPlace, CreatesFilesAndFoldersThatAreTheUsers) {
+TEST_F(RootInAUsersFolder, CreatesFilesAndFoldersThatBelongToTheUser) {
   EXPECT_EQ(Set(file_), 0);
   ExpectOwnedByUser(home_ + "/.config");
   ExpectOwnedByUser(home_ + "/.config/maker/Preferences");
@@ -274,7 +276,7 @@ TEST_F(RootAtAUsersPlace, CreatesFilesAndFoldersThatAreTheUsers) {
   ExpectOwnedByUser(file_);
 }
 
-TEST_F(RootAtAUsersPlace, DoesNotFollowALinkToAFileOfRoots) {
+TEST_F(RootInAUsersFolder, DoesNotFollowALinkToAFileOfRoot) {
   std::filesystem::create_directories(
       std::filesystem::path(file_).parent_path());
   Link(secret_, file_);
@@ -283,7 +285,7 @@ TEST_F(RootAtAUsersPlace, DoesNotFollowALinkToAFileOfRoots) {
   EXPECT_THAT(NamesIn(folder_ / "roots"), ElementsAre("a.plist"));
 }
 
-TEST_F(RootAtAUsersPlace, DoesNotCreateAFileWhereALinkLeads) {
+TEST_F(RootInAUsersFolder, DoesNotCreateTheTargetOfALink) {
   std::filesystem::create_directories(
       std::filesystem::path(file_).parent_path());
   Link(folder_ / "roots/new.plist", file_);
@@ -291,7 +293,7 @@ TEST_F(RootAtAUsersPlace, DoesNotCreateAFileWhereALinkLeads) {
   EXPECT_THAT(NamesIn(folder_ / "roots"), ElementsAre("a.plist"));
 }
 
-TEST_F(RootAtAUsersPlace, DoesNotFollowALinkInPlaceOfAFolder) {
+TEST_F(RootInAUsersFolder, DoesNotFollowALinkInPlaceOfAFolder) {
   Link(folder_ / "roots", home_ + "/.config");
   EXPECT_EQ(Set(home_ + "/.config/a.plist"), EACCES);
   EXPECT_EQ(ContentOf(secret_), old_);
@@ -301,7 +303,7 @@ TEST_F(RootAtAUsersPlace, DoesNotFollowALinkInPlaceOfAFolder) {
   EXPECT_THAT(NamesIn(folder_ / "roots"), ElementsAre("a.plist"));
 }
 
-TEST_F(RootAtAUsersPlace, DoesNotUseTheGroupsOfRoot) {
+TEST_F(RootInAUsersFolder, DoesNotUseTheGroupsOfRoot) {
   ASSERT_EQ(chmod((folder_ / "roots").c_str(), 0775), 0);  // group root
   Link(folder_ / "roots/new.plist", home_ + "/a.plist");
   const int code = ExitCodeOf([this] {
@@ -313,7 +315,7 @@ TEST_F(RootAtAUsersPlace, DoesNotUseTheGroupsOfRoot) {
   EXPECT_THAT(NamesIn(folder_ / "roots"), ElementsAre("a.plist"));
 }
 
-TEST_F(RootAtAUsersPlace, IsRootAgainAfterwards) {
+TEST_F(RootInAUsersFolder, HasTheRightsOfRootAgainAfterwards) {
   EXPECT_EQ(Set(file_), 0);
   Put(secret_, "still root's");
   EXPECT_EQ(ContentOf(secret_), "still root's");

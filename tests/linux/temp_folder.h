@@ -20,7 +20,8 @@
 
 namespace ztk::test {
 
-// A new, empty folder, removed with its contents at the end.
+// A new, empty folder. It is removed with its contents when the object is
+// destroyed.
 class TempFolder {
  public:
   TempFolder() {
@@ -46,7 +47,8 @@ class TempFolder {
   std::filesystem::path path_;
 };
 
-// Sets or removes an environment variable while it exists.
+// Sets or removes an environment variable, and restores it when the object is
+// destroyed.
 class Variable {
  public:
   Variable(const char *name, const std::optional<std::string> &value)
@@ -70,7 +72,7 @@ class Variable {
   std::optional<std::string> former_;
 };
 
-// The whole of a file; empty when there is none.
+// Returns the content of a file, or an empty text if there is no file.
 inline std::string ContentOf(const std::string &file) {
   const std::ifstream stream(file, std::ios::binary);
   std::ostringstream content;
@@ -78,8 +80,9 @@ inline std::string ContentOf(const std::string &file) {
   return content.str();
 }
 
-// Makes a file, and the folders above it.
-// The file was last changed a minute ago: nobody is copying over it any more.
+// Makes a file, and the folders above it. The modification time is a minute
+// ago, so the library does not expect that another program is still writing the
+// file.
 inline void Put(const std::string &file, const std::string &content) {
   std::filesystem::create_directories(
       std::filesystem::path(file).parent_path());
@@ -98,14 +101,15 @@ inline std::vector<std::string> NamesIn(const std::string &folder) {
   return names;
 }
 
-// Permission bits; 0 when there is nothing.
+// Returns the permissions of a file, or 0 if there is no file.
 inline unsigned ModeOf(const std::string &file) {
   struct stat status = {};
   return stat(file.c_str(), &status) == 0 ? status.st_mode & 0777U : 0U;
 }
 
-// Runs the function in a child, which may change its user or its limits.
-// Returns the exit status; a number below 0 is the signal that ended it.
+// Runs the function in a child process, which may change its user or its
+// limits. Returns its exit status, or the negative number of the signal that
+// ended it.
 inline int ExitCodeOf(const std::function<int()> &function) {
   const pid_t child = fork();
   if (child == 0) _exit(function());

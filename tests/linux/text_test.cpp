@@ -9,7 +9,7 @@ namespace {
 
 using namespace ztk::platform::text;
 
-// The made text as a value; "(null)" for none.
+// Returns a copy of the text, or "(null)", and releases the text.
 std::string Take(ZTKTextRef made) {
   const OwnedText holder(made);
   return made == nullptr ? "(null)" : made;
@@ -32,7 +32,7 @@ TEST(Contains, FindsAPartAnywhere) {
   EXPECT_FALSE(Contains("vrm-d6", "VRM-D6"));
 }
 
-TEST(Format, FillsTextsInTurnAndTheNumber) {
+TEST(Format, ReplacesTextsInOrderAndTheNumber) {
   EXPECT_EQ(Take(Format("%@ BoostLevel Change", "VRM-D6")),
             "VRM-D6 BoostLevel Change");
   EXPECT_EQ(Take(Format("%@/Preferences/com.tarvix.%@autosetup.plist", "/home",
@@ -42,21 +42,22 @@ TEST(Format, FillsTextsInTurnAndTheNumber) {
   EXPECT_EQ(Take(Format("%d", -2147483647 - 1)), "-2147483648");
 }
 
-TEST(Format, TakesFilledTextsAsTheyAre) {
+TEST(Format, DoesNotInterpretTheInsertedTexts) {
   EXPECT_EQ(Take(Format("%@|%@", "%@ %d", "100%")), "%@ %d|100%");
 }
 
-TEST(Format, LeavesOtherPercentSigns) {
+TEST(Format, KeepsOtherPercentSigns) {
   EXPECT_EQ(Take(Format("%% %s %", "x")), "% %s %");
   EXPECT_EQ(Take(Format("%@%@", "only")), "only");
 }
 
-TEST(Format, OfATextThatIsMissingIsNone) {
+TEST(Format, ReturnsNullForANullText) {
   EXPECT_EQ(Take(Format("%@", nullptr)), "(null)");
 }
 
-// They may be called from any thread, so each result has memory of its own.
-TEST(MadeTexts, DoNotOverwriteOneAnother) {
+// The functions may be called from any thread, so each result has its own
+// memory.
+TEST(OwnedTexts, DoNotOverwriteEachOther) {
   const OwnedText upper(UpperCase("one"));
   const OwnedText upperToo(UpperCase("two"));
   const OwnedText format(Format("%@ %@", "one", "x"));
@@ -90,7 +91,7 @@ TEST(DotComponent, CountsFromZero) {
   }
 }
 
-TEST(CompareNumerically, ComparesDigitRunsAsNumbers) {
+TEST(CompareNumerically, ComparesDigitsAsNumbers) {
   const struct {
     ZTKTextRef first;
     ZTKTextRef second;

@@ -21,7 +21,7 @@ TEST(PlaceOf, OrdersByBusThenByPortsAsNumbers) {
   }
 }
 
-TEST(PlaceOf, HoldsTheBus) {
+TEST(PlaceOf, ContainsTheBus) {
   const struct {
     const char *entry;
     int expected;
@@ -31,7 +31,7 @@ TEST(PlaceOf, HoldsTheBus) {
   }
 }
 
-TEST(NodeOf, NamesBusAndNumberInThreeDigitsAtLeast) {
+TEST(NodeOf, WritesBusAndNumberWithAtLeastThreeDigits) {
   const struct {
     const char *entry;
     int number;
@@ -65,9 +65,9 @@ TEST(ParseDeviceDescriptor, ReadsIdentityAndRefusesOtherDescriptors) {
   EXPECT_FALSE(ParseDeviceDescriptor(bytes, ByteOrder::Bus, &identity));
 }
 
-TEST(Request, HasOneSecond) { EXPECT_EQ(kRequestTimeoutMs, 1000U); }
+TEST(Request, HasATimeOutOfOneSecond) { EXPECT_EQ(kRequestTimeoutMs, 1000U); }
 
-TEST(CodeOfErrno, GivesEachErrorItsCode) {
+TEST(CodeOfErrno, ReturnsTheCodeOfEachError) {
   const struct {
     int error;
     Code expected;

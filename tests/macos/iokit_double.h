@@ -35,7 +35,7 @@ struct Device {
   IOReturn productResult = kIOReturnSuccess;
   std::map<std::uint16_t, Reply> replies;  // to reads, by register
   IOReturn writeResult = kIOReturnSuccess;
-  std::uint32_t referencesOfOthers = 0;  // on each of its interfaces
+  std::uint32_t releaseResult = 0;  // on each of its interfaces
 };
 
 Device Mixer();

@@ -133,7 +133,7 @@ ULONG ReleaseInterface(void *self) {
   Interface *interface = InterfaceAt(self);
   interface->references.Remove();
   return static_cast<ULONG>(interface->references.count()) +
-         DeviceOf(*interface).referencesOfOthers;
+         DeviceOf(*interface).releaseResult;
 }
 
 const IOUSBDeviceInterface *FirstVersion() {

@@ -167,7 +167,7 @@ TEST_F(MacSearch, ClosesOnce) {
 
 TEST_F(MacSearch, AnswersWhatTheLastReleaseSaysRemains) {
   iokit::Device shared = Hub();
-  shared.referencesOfOthers = 5;
+  shared.releaseResult = 5;
   CurrentWorld().bus = {Mixer(), shared};
   Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 0), 0u);

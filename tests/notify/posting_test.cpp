@@ -135,7 +135,7 @@ TEST_F(Post, HappensWithoutAMixerAndAfterEveryFailure) {
       {"request refused",
        [](World *world) { world->bus[0].writeResult = 0xE000404F; }},
       {"mixer out of reach",
-       [](World *world) { world->bus[0].canBeReached = false; }},
+       [](World *world) { world->bus[0].canBeOpened = false; }},
       {"file not written", [](World *world) { world->canWrite = false; }},
       {"no library directory",
        [](World *world) { world->hasLibraryFolder = false; }},

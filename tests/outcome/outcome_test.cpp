@@ -101,7 +101,7 @@ TEST_F(Outcome, TellsWhyAMixerCouldNotBeOpened) {
     SCOPED_TRACE(row.name);
     CurrentWorld() = World{};
     CurrentWorld().bus = {Mixer(), WithSelectors()};
-    CurrentWorld().bus[0].canBeReached = false;
+    CurrentWorld().bus[0].canBeOpened = false;
     CurrentWorld().bus[0].openResult = {.code = row.code,
                                         .systemCode = row.systemCode};
     ZTK_SetUSBInputAudio(10, 1, 2);

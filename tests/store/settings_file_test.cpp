@@ -76,7 +76,7 @@ TEST_F(Read, AnswersTheFallbackWithoutALibraryDirectory) {
 }
 
 TEST_F(Read, LooksWhereTheUsersLibraryIs) {
-  CurrentWorld().library = "/home/dj/.config/tarvix";
+  CurrentWorld().libraryFolder = "/home/dj/.config/tarvix";
   store::Read(kB5, ZTK_TEXT("Input0"), 0);
   EXPECT_THAT(TakeCalls(),
               ElementsAre("read file /home/dj/.config/tarvix/Preferences/"

@@ -11,7 +11,8 @@ namespace ztk::test {
 
 namespace {
 
-// A pipe whose ends no other program gets. Not every system has pipe2().
+// Makes a pipe that other programs do not inherit. pipe2() is not used because
+// not every system has it.
 bool MakePipe(int *ends) {
   if (pipe(ends) != 0) return false;
   return fcntl(ends[0], F_SETFD, FD_CLOEXEC) == 0 &&
@@ -36,10 +37,10 @@ ChildProcess::ChildProcess(const std::vector<std::string> &words,
   if (process_ == 0) {
     dup2(in[0], STDIN_FILENO);
     dup2(out[1], STDOUT_FILENO);
-    const std::string refusal = prepare ? prepare() : "";
-    if (refusal.empty()) execv(line[0], line.data());
-    dprintf(STDOUT_FILENO, "%s\n", refusal.c_str());
-    _exit(refusal.empty() ? 127 : 0);
+    const std::string error = prepare ? prepare() : "";
+    if (error.empty()) execv(line[0], line.data());
+    dprintf(STDOUT_FILENO, "%s\n", error.c_str());
+    _exit(error.empty() ? 127 : 0);
   }
   close(in[0]);
   close(out[1]);

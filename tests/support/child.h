@@ -11,22 +11,23 @@
 
 namespace ztk::test {
 
-// Another program, running. Reads its lines as they come.
+// A running program. The test reads its output line by line.
 class ChildProcess {
  public:
-  // The first word is the program's path. `prepare`, if any, runs in the new
-  // process before the program does; when it returns a text, the text is
-  // printed and the process ends.
+  // The first word is the path of the program. `prepare`, if any, runs in the
+  // new process before the program. If it returns a text, the new process
+  // prints the text and ends.
   explicit ChildProcess(const std::vector<std::string> &words,
                         const std::function<std::string()> &prepare = nullptr);
   ~ChildProcess();
   ChildProcess(const ChildProcess &) = delete;
   ChildProcess &operator=(const ChildProcess &) = delete;
 
-  // The next line without its end; empty when the child has closed.
+  // Returns the next line without its line end, or an empty text at the end of
+  // the output.
   std::string ReadLine();
-  // Closes its standard input, which ends it, and returns its exit status, or
-  // 128 plus the number of the signal.
+  // Closes the standard input of the program, which makes it end. Returns its
+  // exit status, or 128 plus the number of the signal.
   int Finish();
 
  private:

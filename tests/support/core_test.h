@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The fixture of every test that runs the core on the recording port: a fresh
-// world, and the core's process-wide state as a new process has it.
+// The fixture of every test that runs the core on the recording port. Each test
+// has a new world, and the global variables of the core have their initial
+// values.
 #ifndef ZTK_TESTS_SUPPORT_CORE_TEST_H_
 #define ZTK_TESTS_SUPPORT_CORE_TEST_H_
 
@@ -18,7 +19,7 @@
 
 namespace ztk::fake {
 
-// Prints the held objects when a comparison fails.
+// Prints the counts of held objects when a comparison fails.
 inline void PrintTo(const Held &held, std::ostream *out) {
   *out << "{ports " << held.ports << ", matchings " << held.matchings
        << ", numbers " << held.numbers << ", iterators " << held.iterators
@@ -40,7 +41,7 @@ using fake::World;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// The settings files of the models, where the recording port's user has them.
+// The settings files of the models on the recording port.
 inline constexpr char kD6File[] =
     "/Users/dj/Library/Preferences/com.tarvix.VRM-D6autosetup.plist";
 inline constexpr char kB5File[] =
@@ -70,8 +71,9 @@ class CoreTest : public testing::Test {
     }
     inputAudioInfo = outputAudioInfo = boostLevelInfo = nullptr;
     midiChannelInfo = midiKeyModeInfo = nullptr;
-    // The core never frees its observer. A test process makes many, and keeps
-    // pointers to them, so that the leak sanitizer does not report them.
+    // The core never frees its observer. A test process makes many observers,
+    // and keeps pointers to them so that the leak sanitizer does not report
+    // them.
     static auto &observers = *new std::vector<void *>;
     observers.push_back(_ZTKFunc);
     _ZTKFunc = nullptr;
@@ -79,7 +81,7 @@ class CoreTest : public testing::Test {
 
   ~CoreTest() override { EXPECT_THAT(CurrentWorld().misuse, IsEmpty()); }
 
-  // The steps of the core since the last call.
+  // Returns the steps of the core since the last call of this function.
   static std::vector<std::string> TakeSteps() {
     return std::exchange(CurrentWorld().steps, {});
   }

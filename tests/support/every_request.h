@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // All functions of the library that send requests, with the requests that one
-// mixer receives, as text. The same list is used on the recording port, in the
-// sandbox and on a real kernel.
+// mixer receives, as text. The tests of the recording port, of the sandbox and
+// of a real kernel use the same list.
 #ifndef ZTK_TESTS_SUPPORT_EVERY_REQUEST_H_
 #define ZTK_TESTS_SUPPORT_EVERY_REQUEST_H_
 
@@ -23,7 +23,8 @@ struct EveryRequestRow {
   std::vector<std::string> lines;
 };
 
-// A call of a function that takes a connection.
+// Returns a function that opens the first mixer and calls `request` with the
+// connection.
 inline std::function<void()> OnTheMixer(
     const std::function<void(usb::Connection)> &request) {
   return [request] {
@@ -140,7 +141,7 @@ inline std::vector<EveryRequestRow> QueryRows() {
   };
 }
 
-// Makes every call, in order, in a world with one mixer and no settings file.
+// Makes every call in order. There must be one mixer and no settings file.
 // `takeLines` returns the request lines since its last call.
 inline void ExpectEveryRequest(
     const std::function<std::vector<std::string>()> &takeLines) {

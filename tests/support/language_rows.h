@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Which of the twelve folders of texts is used for the language of a user, as
-// Apple's library decides.
+// The folder of texts, out of twelve, that is used for the language of a user.
+// Apple's library defines the expected values.
 #ifndef ZTK_TESTS_SUPPORT_LANGUAGE_ROWS_H_
 #define ZTK_TESTS_SUPPORT_LANGUAGE_ROWS_H_
 
@@ -13,7 +13,7 @@ inline constexpr const char *kLanguageFolders[] = {
 
 struct LanguageRow {
   const char *language;
-  const char *folder;  // empty when no folder fits: then English is used
+  const char *folder;  // empty if there is no folder: then English is used
 };
 
 inline constexpr LanguageRow kLanguageRows[] = {

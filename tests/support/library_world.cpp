@@ -4,8 +4,8 @@
 namespace ztk::test {
 
 void LibraryWorld::SetUp() {
-  const std::string refusal = WorldRefusal();
-  if (!refusal.empty()) GTEST_SKIP() << refusal;
+  const std::string reason = WhyNoWorld();
+  if (!reason.empty()) GTEST_SKIP() << reason;
   if (!bus_.Start()) GTEST_SKIP() << "there is no dbus-daemon";
 }
 
@@ -72,8 +72,8 @@ std::string RunChild(const std::vector<std::string> &arguments) {
 std::string RunChildInTemporaryRoot(const RootFiles &files,
                                     const std::vector<std::string> &arguments) {
   Child child(arguments, [&files]() -> std::string {
-    const std::string refusal = EnterTemporaryRoot(files);
-    return refusal.empty() ? "" : "skip: " + refusal;
+    const std::string error = EnterTemporaryRoot(files);
+    return error.empty() ? "" : "skip: " + error;
   });
   return OutputOf(child);
 }

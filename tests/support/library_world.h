@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The fixture of the tests that run the shipped library, unchanged, on virtual
-// mixers, with a message bus and a home of their own. The test program decides
-// where the mixers are: in the sandbox, or on the bus of a real kernel.
+// The fixture of the tests that run the complete shared library with virtual
+// mixers. Each test has its own message bus and home folder. The test program
+// decides where the mixers are: in the sandbox, or on the USB bus of a real
+// kernel.
 #ifndef ZTK_TESTS_SUPPORT_LIBRARY_WORLD_H_
 #define ZTK_TESTS_SUPPORT_LIBRARY_WORLD_H_
 
@@ -31,22 +32,24 @@ using virtual_mixer::Placement;
 using virtual_mixer::LogSink;
 using virtual_mixer::MixerWorld;
 
-// Defined for each kind of world. `log` receives the vendor requests.
+// Each test program links one definition of MakeWorld() and WhyNoWorld(). `log`
+// receives the vendor requests.
 std::unique_ptr<MixerWorld> MakeWorld(const std::vector<Placement> &placements,
                                       LogSink log);
-// Why no world can be made here; empty when it can.
-std::string WorldRefusal();
+// Returns the reason why no world can be made on this machine, or an empty
+// text.
+std::string WhyNoWorld();
 
 class LibraryWorld : public testing::Test {
  protected:
   void SetUp() override;
 
-  // Builds the bus anew.
+  // Replaces the world by one with these devices.
   void Plug(const std::vector<Placement> &placements);
   void PlugMixers(int count);
   MixerWorld &world() { return *world_; }
 
-  // Request lines since the last call.
+  // Returns the request lines since the last call of this function.
   std::vector<std::string> TakeLog();
 
   TempHome home_;
@@ -58,20 +61,19 @@ class LibraryWorld : public testing::Test {
   std::unique_ptr<MixerWorld> world_;
 };
 
-// The text of a settings file with these entries only, each "<key>...</key>"
-// with its value.
+// Returns the text of a settings file that has only these entries.
 std::string SettingsText(
     const std::vector<std::pair<std::string, int>> &values);
 
-// Runs the child program with these arguments and returns its output; its exit
-// status must be 0.
+// Runs the child program with these arguments and returns its output. The test
+// fails if the exit status is not 0.
 std::string RunChild(const std::vector<std::string> &arguments);
-// The same in a root with these additional files. Returns "skip: " and the
-// reason when this system does not allow that.
+// Does the same in a root with these additional files. Returns "skip: " and the
+// reason if this system does not allow such a root.
 std::string RunChildInTemporaryRoot(const RootFiles &files,
                                     const std::vector<std::string> &arguments);
 
-// The child program, running.
+// A running child program.
 class Child : public ChildProcess {
  public:
   explicit Child(const std::vector<std::string> &arguments,

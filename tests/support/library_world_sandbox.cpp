@@ -9,6 +9,6 @@ std::unique_ptr<MixerWorld> MakeWorld(const std::vector<Placement> &placements,
   return std::make_unique<virtual_mixer::Sandbox>(placements, std::move(log));
 }
 
-std::string WorldRefusal() { return ""; }
+std::string WhyNoWorld() { return ""; }
 
 }  // namespace ztk::test

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The integers that entries of a property list are read as. Both ports are
-// tested with these tables, and Apple's CoreFoundation where it is installed:
-// it defines the expected values.
+// The integer as which each entry of a property list is read. Apple's
+// CoreFoundation defines the expected values. Both ports are tested with these
+// tables, and CoreFoundation too if it is installed.
 #ifndef ZTK_TESTS_SUPPORT_NUMBER_ROWS_H_
 #define ZTK_TESTS_SUPPORT_NUMBER_ROWS_H_
 
@@ -13,7 +13,7 @@ namespace ztk::test {
 struct NumberRow {
   const char *text;
   std::int32_t expected;
-  // GNUstep's Foundation gives another result.
+  // GNUstep's Foundation returns another value.
   bool onAppleOnly = false;
 };
 
@@ -55,10 +55,10 @@ inline constexpr std::int32_t kUnreadable = 0x5EADF11E;
 
 struct EntryRow {
   const char *element;
-  // kUnreadable when the whole file is.
+  // kUnreadable if the whole file is refused.
   std::int32_t expected;
-  // Foundation converts such a number as the processor does: on Apple silicon
-  // the answer is the nearest limit, and 0 for NaN.
+  // Only an Intel processor converts the number to this value. On Apple silicon
+  // the result is the nearest limit, and 0 for NaN.
   bool onIntel = false;
 };
 
@@ -82,7 +82,7 @@ inline constexpr EntryRow kEntryRows[] = {
     {"<integer>000</integer>", 0},
     {"<integer>0x10</integer>", 16},
     {"<integer>-0X1f</integer>", -31},
-    // The low 32 bits of a larger number.
+    // A larger number becomes its low 32 bits.
     {"<integer>2147483648</integer>", -2147483647 - 1},
     {"<integer>4294967301</integer>", 5},
     {"<integer>-9223372036854775808</integer>", 0},
@@ -110,7 +110,7 @@ inline constexpr EntryRow kEntryRows[] = {
     {"<real>5.</real>", 5},
     {"<real>1e3</real>", 1000},
     {"<real>2147483647.5</real>", 2147483647},
-    // Any real that is out of range is the lowest integer.
+    // Every real out of range becomes the lowest integer.
     {"<real>2147483648</real>", -2147483647 - 1, true},
     {"<real>-2147483649</real>", -2147483647 - 1, true},
     {"<real>4294967301.0</real>", -2147483647 - 1, true},
@@ -130,7 +130,7 @@ inline constexpr EntryRow kEntryRows[] = {
     {"<false/>", 0},
     {"<string>5x</string>", 5},
     {"<string><![CDATA[5]]></string>", 5},
-    // Of two entries with one key the later one counts.
+    // If two entries have the same key, the later one counts.
     {"<integer>1</integer><key>a</key><integer>5</integer>", 5},
     {"<string>1</string><key>b</key><true/><key>a</key><integer>5</integer>",
      5},

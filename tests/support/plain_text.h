@@ -16,7 +16,7 @@
 
 namespace ztk::test {
 
-// "(null)" for no text.
+// Returns the text in UTF-8, or "(null)" for a null text.
 inline std::string Plain(ZTKTextRef text) {
   if (text == nullptr) return "(null)";
 #if defined(__APPLE__)
@@ -38,8 +38,8 @@ std::vector<std::string> Plain(const ZTKTextRef (&texts)[kSize]) {
   return plain;
 }
 
-// A text that exists until the process ends.
-inline ZTKTextRef Lasting(const std::string &text) {
+// Returns a text of the library that is valid until the process ends.
+inline ZTKTextRef PermanentText(const std::string &text) {
 #if defined(__APPLE__)
   return CFStringCreateWithCString(kCFAllocatorDefault, text.c_str(),
                                    kCFStringEncodingUTF8);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The forms of a property list that are read. Each valid file has the key "a"
-// with 5, as a number or as a text.
+// Property lists in many forms, and whether the library reads them. Each valid
+// file has the key "a" with the value 5, as a number or as a text.
 #ifndef ZTK_TESTS_SUPPORT_PLIST_ROWS_H_
 #define ZTK_TESTS_SUPPORT_PLIST_ROWS_H_
 
@@ -18,7 +18,7 @@ struct FormRow {
   bool differsOnLinux = false;
 };
 
-// Each character as two bytes, the high one first or last.
+// Returns the ASCII text in UTF-16. `highFirst` is the byte order.
 inline std::string Utf16(const std::string &text, bool highFirst) {
   std::string bytes;
   for (const char c : text) {
@@ -27,8 +27,9 @@ inline std::string Utf16(const std::string &text, bool highFirst) {
   return bytes;
 }
 
-// A binary file whose dictionary has the key "a" with the value `object`. With
-// `again`, the key has a second value.
+// Returns a binary file whose dictionary has the key "a" with the value
+// `object`. If `again` is not empty, the dictionary has a second entry with
+// this key.
 inline std::string BinaryForm(const std::string &object,
                               const std::string &again = "") {
   std::vector<std::string> objects = {std::string("\xD1\x01\x02", 3),
@@ -73,7 +74,7 @@ inline std::vector<FormRow> FormRows() {
       {"no prolog", "<plist><dict>" + entry + "</dict></plist>", true},
       {"no plist element", "<dict>" + entry + "</dict>", true},
       {"space before", " \n\t" + whole, true},
-      {"a word behind", whole + "word", true},
+      {"a word after", whole + "word", true},
       {"a word before", "word" + whole, false},
       {"a comment", xml("<!-- a -->" + entry + "<!-- \" -->"), true},
       {"a key by number", xml("<key>&#97;</key><integer>5</integer>"), true},
@@ -82,7 +83,7 @@ inline std::vector<FormRow> FormRows() {
       {"a key without a value", xml(entry + "<key>b</key>"), false, true},
       {"a value without a key", xml(entry + "<integer>5</integer>"), false},
       {"an unknown element", xml(entry + "<key>b</key><word/>"), false},
-      {"an entity of its own",
+      {"an entity that the file defines",
        "<!DOCTYPE plist [<!ENTITY x \"5\">]><plist><dict><key>a</key>"
        "<string>&x;</string></dict></plist>",
        false},
@@ -93,8 +94,7 @@ inline std::vector<FormRow> FormRows() {
       {"the older form", "{ a = 5; }", true, true},
       {"the older form of texts", "\"a\" = \"5\";\n", true, true},
       {"UTF-8 with a mark", "\xEF\xBB\xBF" + whole, true},
-      {"UTF-8 that is not", xml("<key>a</key><string>5\xE4</string>"), false,
-       true},
+      {"invalid UTF-8", xml("<key>a</key><string>5\xE4</string>"), false, true},
       {"UTF-16, low byte first", "\xFF\xFE" + Utf16(utf16, false), true},
       {"UTF-16, high byte first", "\xFE\xFF" + Utf16(utf16, true), true},
       {"UTF-16, low byte first, no mark", Utf16(utf16, false), false, true},
@@ -115,7 +115,7 @@ inline std::vector<FormRow> FormRows() {
        BinaryForm("\x51"
                   "5"),
        true},
-      // Of two entries with one key the first one counts in this form.
+      // If two entries have the same key, the first one counts in this form.
       {"binary, a key twice", BinaryForm("\x10\x05", "\x10\x01"), true},
       {"binary, cut off", "bplist00\xD1\x01\x02", false},
   };

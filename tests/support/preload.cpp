@@ -12,7 +12,8 @@ namespace {
 
 constexpr char kSandboxLibrary[] = "libumockdev-preload.so.0";
 
-// The address sanitizer has to be the first library.
+// The address sanitizer must be the first library. With clang, it is linked
+// into the program.
 #if defined(ZTK_TEST_ASAN) && !defined(__clang__)
 constexpr char kLibraries[] = "libasan.so.8:libumockdev-preload.so.0";
 #else

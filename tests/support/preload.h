@@ -13,9 +13,9 @@
 
 namespace ztk::test {
 
-// Runs this program again with the library of the sandbox preloaded, unless it
-// is preloaded already. Must be the first call in main(); returns only in the
-// second run, or when the library is missing.
+// Starts this program again with the library of the sandbox preloaded, unless
+// the library is preloaded already. Must be the first call in main(). Returns
+// only in the new run.
 void PreloadSandbox(char **arguments);
 
 }  // namespace ztk::test

@@ -31,10 +31,11 @@ void WriteConfiguration(const std::string &file, const std::string &address) {
 }
 
 [[noreturn]] void RunDaemon(const char *configuration, int addressPipe) {
-  // A test that crashes leaves no bus behind.
+  // The bus also ends if the test crashes.
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   dup2(addressPipe, STDOUT_FILENO);
-  // It reports limits that it may not raise; they do not matter here.
+  // The daemon reports limits that it is not allowed to raise. The tests do not
+  // need them.
   const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
   dup2(nowhere, STDERR_FILENO);
   execlp("dbus-daemon", "dbus-daemon", configuration, "--print-address",
@@ -42,7 +43,8 @@ void WriteConfiguration(const std::string &file, const std::string &address) {
   _exit(127);
 }
 
-// True when something was written before the other end was closed.
+// Waits until a text arrives, and returns true. Returns false if the other end
+// is closed first.
 bool WaitForText(int descriptor) {
   char text[256];
   ssize_t length = 0;
@@ -100,13 +102,13 @@ void PrivateBus::Stop() {
   std::filesystem::remove(folder_ + "/bus", ignored);
 }
 
-void PrivateBus::Freeze() {
+void PrivateBus::Suspend() {
   kill(daemon_, SIGSTOP);
   int status = 0;
   while (waitpid(daemon_, &status, WUNTRACED) < 0 && errno == EINTR) {
   }
 }
 
-void PrivateBus::Thaw() { kill(daemon_, SIGCONT); }
+void PrivateBus::Resume() { kill(daemon_, SIGCONT); }
 
 }  // namespace ztk::test

@@ -9,9 +9,9 @@
 
 namespace ztk::test {
 
-// A private message bus. While this object exists, the environment names it as
-// the session bus of this process and its children, even while it is stopped;
-// its address does not change.
+// A private message bus. While this object exists, it is the session bus of
+// this process and of its children: the environment contains its address, which
+// does not change, even if the bus is stopped.
 class PrivateBus {
  public:
   PrivateBus();
@@ -19,13 +19,15 @@ class PrivateBus {
   PrivateBus(const PrivateBus &) = delete;
   PrivateBus &operator=(const PrivateBus &) = delete;
 
-  // Returns when the bus listens; false when there is no dbus-daemon.
+  // Starts the bus and waits until it accepts connections. Returns false if
+  // dbus-daemon is not installed.
   bool Start();
-  // Kills the bus and waits for its end.
+  // Kills the bus and waits until it has ended.
   void Stop();
-  // A frozen bus still accepts connections, but does not answer.
-  void Freeze();
-  void Thaw();
+  // Stops the daemon with SIGSTOP: clients can still connect, but get no
+  // answer.
+  void Suspend();
+  void Resume();
 
   const std::string &folder() const { return folder_; }
   const std::string &address() const { return address_; }

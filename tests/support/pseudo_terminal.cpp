@@ -15,8 +15,8 @@ namespace ztk::test {
 
 namespace {
 
-constexpr int kPatience =
-    60000;  // milliseconds; only a program that hangs takes so long
+// In milliseconds. Only a program that hangs takes so long.
+constexpr int kMaxWait = 60000;
 
 }  // namespace
 
@@ -51,7 +51,7 @@ PseudoTerminal::~PseudoTerminal() {
 
 bool PseudoTerminal::ReadMore() {
   pollfd polled{.fd = terminal_, .events = POLLIN, .revents = 0};
-  if (poll(&polled, 1, kPatience) != 1) return false;
+  if (poll(&polled, 1, kMaxWait) != 1) return false;
   std::array<char, 4096> part;
   const ssize_t length = read(terminal_, part.data(), part.size());
   if (length <= 0) return false;

@@ -15,14 +15,15 @@ struct ProgramResult {
   std::string err;
 };
 
-// Runs a program, whose path is the first word, until it ends. The files "out"
-// and "err" in the folder receive its output. `prepare`, if any, runs in the
-// new process before the program; a status other than 0 ends the process.
+// Runs a program until it ends. The first word is its path. The files "out" and
+// "err" in the folder receive its output. `prepare`, if any, runs in the new
+// process before the program. If it returns another number than 0, the process
+// ends with this status.
 ProgramResult RunProgram(const std::vector<std::string> &words,
                          const std::filesystem::path &folder,
                          const std::function<int()> &prepare = nullptr);
 
-// The words of "ztk-virtual-mixer run OPTIONS -- sh -c SCRIPT".
+// Returns the words of "ztk-virtual-mixer run OPTIONS -- sh -c SCRIPT".
 std::vector<std::string> SandboxWords(const std::string &program,
                                       const std::vector<std::string> &options,
                                       const std::string &script);

@@ -7,7 +7,8 @@
 
 namespace ztk::test {
 
-// A new, empty home of this process and its children, removed at the end.
+// A new, empty home folder for this process and its children. It is removed
+// when the object is destroyed.
 class TempHome {
  public:
   TempHome();
@@ -23,8 +24,9 @@ class TempHome {
   std::filesystem::path path_;
 };
 
-// The whole of a file; empty when there is none.
+// Returns the content of a file, or an empty text if there is no file.
 std::string ReadAll(const std::filesystem::path &file);
+// Writes a file, and creates its folder if necessary.
 void WriteAll(const std::filesystem::path &file, const std::string &bytes);
 
 }  // namespace ztk::test

@@ -18,11 +18,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Failure(const char *what) {
+std::string ErrorText(const char *what) {
   return std::string(what) + ": " + std::strerror(errno);
 }
 
-bool WriteShort(const char *file, const std::string &text) {
+bool WriteExistingFile(const char *file, const std::string &text) {
   const int descriptor = open(file, O_WRONLY | O_CLOEXEC);
   if (descriptor < 0) return false;
   const bool written = write(descriptor, text.data(), text.size()) ==
@@ -31,19 +31,20 @@ bool WriteShort(const char *file, const std::string &text) {
   return written;
 }
 
-// A user without rights gets them in a user namespace.
+// Makes a new mount namespace. A user without root's rights has them inside a
+// new user namespace.
 bool Unshare() {
   const std::string user = std::to_string(getuid());
   const std::string group = std::to_string(getgid());
   if (geteuid() == 0) return unshare(CLONE_NEWNS) == 0;
   return unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 &&
-         WriteShort("/proc/self/setgroups", "deny") &&
-         WriteShort("/proc/self/uid_map", user + " " + user + " 1") &&
-         WriteShort("/proc/self/gid_map", group + " " + group + " 1");
+         WriteExistingFile("/proc/self/setgroups", "deny") &&
+         WriteExistingFile("/proc/self/uid_map", user + " " + user + " 1") &&
+         WriteExistingFile("/proc/self/gid_map", group + " " + group + " 1");
 }
 
-// Shows an entry of the real system in the new root.
-bool Show(const fs::directory_entry &entry, const fs::path &place) {
+// Makes an entry of the real system available in the new root.
+bool MountEntry(const fs::directory_entry &entry, const fs::path &place) {
   std::error_code failed;
   if (entry.is_symlink()) {
     fs::copy_symlink(entry.path(), place, failed);
@@ -58,27 +59,29 @@ bool Show(const fs::directory_entry &entry, const fs::path &place) {
                nullptr) == 0;
 }
 
-bool LeadsTo(const fs::path &folder, const RootFiles &files) {
+bool ContainsAnyOf(const fs::path &folder, const RootFiles &files) {
   const std::string start = folder.string() + "/";
   return std::any_of(files.begin(), files.end(), [&start](const auto &file) {
     return file.first.starts_with(start);
   });
 }
 
-// Shows all entries of a folder except those that are replaced. A folder that
-// receives new files is made anew, so that the real one does not change.
-std::string ShowFolder(const fs::path &folder, const fs::path &root,
-                       const RootFiles &files) {
+// Makes all entries of a folder available in the new root, except those that
+// are replaced. A folder that receives new files is a new folder, so that the
+// real one does not change.
+std::string MountFolder(const fs::path &folder, const fs::path &root,
+                        const RootFiles &files) {
   for (const auto &entry : fs::directory_iterator(folder)) {
     const fs::path &path = entry.path();
     const fs::path place = root / path.relative_path();
     if (path == root || files.contains(path.string())) continue;
     std::string reason;
-    if (entry.is_directory() && !entry.is_symlink() && LeadsTo(path, files)) {
+    if (entry.is_directory() && !entry.is_symlink() &&
+        ContainsAnyOf(path, files)) {
       fs::create_directory(place);
-      reason = ShowFolder(path, root, files);
-    } else if (!Show(entry, place)) {
-      reason = Failure(path.c_str());
+      reason = MountFolder(path, root, files);
+    } else if (!MountEntry(entry, place)) {
+      reason = ErrorText(path.c_str());
     }
     if (!reason.empty()) return reason;
   }
@@ -88,22 +91,24 @@ std::string ShowFolder(const fs::path &folder, const fs::path &root,
 }  // namespace
 
 std::string EnterTemporaryRoot(const RootFiles &files) {
-  if (!Unshare()) return Failure("no mount namespace");
+  if (!Unshare()) return ErrorText("no mount namespace");
   if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
-    return Failure("the root stays shared");
+    return ErrorText("the root stays shared");
   }
-  // /mnt exists on every system, and its content is not needed.
+  // /mnt exists on every system, and the tests do not need its content.
   const fs::path root = "/mnt";
   if (mount("temporary-root", root.c_str(), "tmpfs", 0, nullptr) != 0) {
-    return Failure("no tmpfs");
+    return ErrorText("no tmpfs");
   }
-  if (std::string reason = ShowFolder("/", root, files); !reason.empty()) {
+  if (std::string reason = MountFolder("/", root, files); !reason.empty()) {
     return reason;
   }
   for (const auto &[path, contents] : files) {
     WriteAll(root / fs::path(path).relative_path(), contents);
   }
-  if (chroot(root.c_str()) != 0 || chdir("/") != 0) return Failure("no chroot");
+  if (chroot(root.c_str()) != 0 || chdir("/") != 0) {
+    return ErrorText("no chroot");
+  }
   return "";
 }
 

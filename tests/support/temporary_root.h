@@ -7,14 +7,14 @@
 
 namespace ztk::test {
 
-// Files with their contents, by absolute path.
+// The contents of files by their absolute paths.
 using RootFiles = std::map<std::string, std::string>;
 
-// Moves this process (a forked child that is about to run a program) into a
-// mount namespace whose root has everything of the real one, and these files in
-// addition or in place of real ones. No other process sees them. Their paths
-// must not contain a symbolic link. Returns why this is not possible here;
-// empty on success.
+// Moves this process into a new mount namespace. Its root contains everything
+// of the real root, and also these files, which may replace real ones. No other
+// process sees the files. Their paths must not contain a symbolic link. Must be
+// called in a forked child before it runs a program. Returns an empty text on
+// success, else the error.
 std::string EnterTemporaryRoot(const RootFiles &files);
 
 }  // namespace ztk::test

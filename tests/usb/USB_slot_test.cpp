@@ -226,7 +226,7 @@ TEST_F(CloseUSBTest, ClosesOnceWhenCalledTwice) {
 
 TEST_F(CloseUSBTest, ReleasesOnceEvenIfOthersHoldTheInterface) {
   CurrentWorld().bus = {Mixer()};
-  CurrentWorld().bus[0].referencesOfOthers = 3;
+  CurrentWorld().bus[0].releaseResult = 3;
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   closeUSB(&slot);

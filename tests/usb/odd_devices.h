@@ -58,13 +58,13 @@ inline fake::Device WithoutInterface() {
 
 inline fake::Device OutOfReach() {
   fake::Device mixer = fake::Mixer();
-  mixer.canBeReached = false;
+  mixer.canBeOpened = false;
   return mixer;
 }
 
 inline fake::Device OtherDeviceHeldByOthers(std::uint32_t references) {
   fake::Device device = fake::OtherDevice();
-  device.referencesOfOthers = references;
+  device.releaseResult = references;
   return device;
 }
 

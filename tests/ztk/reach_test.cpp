@@ -270,9 +270,9 @@ TEST_F(Reach, SaysNothingOfAMissingBus) {
 }
 
 TEST_F(Reach, DoesNotTakeAFrozenBusForOneThatHasHeard) {
-  bus_.Freeze();
+  bus_.Suspend();
   const Result result = OneMixer("ztk boost set 1 --json");
-  bus_.Thaw();
+  bus_.Resume();
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(OneObject(result.out)["announced"], false);
   EXPECT_THAT(result.err, StartsWith("ztk: warning: not announced: "));
