@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the tests of the families share: buses worth walking, and the steps of
-// a call on each of them.
+// For the tests of all families: different buses, and the steps of a call on
+// each of them.
 #ifndef ZTK_TESTS_API_API_TEST_H_
 #define ZTK_TESTS_API_API_TEST_H_
 
@@ -23,16 +23,16 @@ using testing::ElementsAreArray;
 using Bus = std::vector<Device>;
 using Steps = std::vector<std::string>;
 
-// Where the version of macOS is read.
+// The file with the version of macOS.
 inline constexpr char kSystemFile[] =
     "/System/Library/CoreServices/SystemVersion.plist";
 
-// What outputs hold before a call that must not write them.
+// The value of an output before a call that must not write it.
 inline constexpr std::uint32_t kUntouched = 0xA5A5A5A5;
 inline constexpr std::int32_t kLowest = -2147483647 - 1;
 inline const ZTKTextRef kUntouchedText = ZTK_TEXT("untouched");
 
-// A mixer that is counted and does not open.
+// Returns a mixer that is counted but cannot be opened.
 inline Device UnreachableMixer() {
   Device mixer = Mixer();
   mixer.canBeOpened = false;
@@ -44,7 +44,7 @@ inline Device WithoutPlugIn(Device device) {
   return device;
 }
 
-// A mixer that receives every write and refuses it, and answers no read.
+// Returns a mixer that refuses every request.
 inline Device RefusingMixer() {
   Device mixer;
   mixer.writeResult = platform::usb::kPipeStalled;
@@ -60,7 +60,7 @@ inline std::string Log(int mixer, const std::string &request) {
   return "mixer " + std::to_string(mixer) + ": " + request;
 }
 
-// One connection with one request.
+// Returns the steps of one connection with one request.
 inline Steps Visit(int mixer, const std::string &request) {
   const std::string number = std::to_string(mixer);
   return {"open " + number, Log(mixer, request), "close " + number};
@@ -76,8 +76,8 @@ inline Steps Join(const std::vector<Steps> &parts) {
 
 class ApiTest : public CoreTest {
  protected:
-  // For tests of many rows: as the fixture starts, and what the row before did
-  // wrong is reported first.
+  // For tests with many rows: first checks the world of the last row, then
+  // starts with a new world.
   static void StartAfresh(Bus bus = {}) {
     EXPECT_THAT(CurrentWorld().misuse, IsEmpty());
     CurrentWorld() = World{};
@@ -86,15 +86,15 @@ class ApiTest : public CoreTest {
     boostLevelInfo = midiChannelInfo = nullptr;
   }
 
-  // What one call does: the request that each mixer gets, what follows, and
-  // the request of the second walk where there is one.
+  // The steps of a call: the request to each mixer, the steps after it, and the
+  // request of the second loop over the mixers, if there is one.
   struct Rule {
     std::string request;
     Steps then = {};
     std::string secondRequest = {};
   };
 
-  // Makes the call on every kind of bus and compares the whole log.
+  // Makes the call with every kind of bus and compares the whole log.
   static void ExpectEveryWalk(const Rule &rule,
                               const std::function<ZTKResult()> &call) {
     const auto expect = [&](const char *bus, Bus devices, const auto &walk) {
@@ -129,17 +129,18 @@ class ApiTest : public CoreTest {
            [](const std::string &r) {
              return Join({Visit(1, r), {"cannot open 2"}});
            });
-    // The search meets the other device last and answers its failure, so
-    // nothing is sent to the mixer and it is not closed.
-    expect("another device without plug-in behind the mixer",
+    // The search visits the other device last and returns its failure. So
+    // nothing is sent to the mixer, and the mixer is not closed.
+    expect("another device without plug-in after the mixer",
            {Mixer(), WithoutPlugIn(OtherDevice())},
            [](const std::string &) { return Steps{"open 1"}; });
-    // Two are counted; the search sees the second one only, as its first.
+    // Two mixers are counted, but the search finds only the second one, at
+    // position 0.
     expect("the first of two has no plug-in", {WithoutPlugIn(Mixer()), Mixer()},
            visit2);
   }
 
-  // One count, and the record of the post where the call makes one.
+  // The objects that remain after one count, and after a post.
   static Held OneCount(int userInfos = 0) {
     return {.ports = 1, .numbers = 2, .userInfos = userInfos};
   }

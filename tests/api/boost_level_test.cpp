@@ -32,7 +32,7 @@ TEST_F(GetNumOfBoostLevelIndex, ServesMoreProductsThanCanBeSet) {
 
 class GetBoostLevelText : public ApiTest {};
 
-TEST_F(GetBoostLevelText, NamesTheFourLevelsWhateverTheThirdArgument) {
+TEST_F(GetBoostLevelText, ReturnsTheFourLevelsForAnyThirdArgument) {
   const char *const expected[] = {"-5 dB", "-10 dB", "-15 dB", "-19 dB"};
   for (std::uint32_t index = 0; index < 4; ++index) {
     for (const std::uint32_t ignored : {0u, 7u, 0x80000000u, 0xFFFFFFFFu}) {
@@ -43,7 +43,7 @@ TEST_F(GetBoostLevelText, NamesTheFourLevelsWhateverTheThirdArgument) {
   }
 }
 
-TEST_F(GetBoostLevelText, RejectsIndexFourAndLeavesTheOutput) {
+TEST_F(GetBoostLevelText, RejectsIndexFourAndDoesNotWriteTheOutput) {
   ZTKTextRef text = kUntouchedText;
   EXPECT_EQ(ZTK_GetBoostLevelText(10, 4, 0, &text), 102u);
   EXPECT_EQ(ZTK_GetBoostLevelText(10, 0xFFFFFFFF, 0, &text), 102u);
@@ -64,7 +64,7 @@ TEST_F(SetBoostLevelIndex, SendsStoresAndPostsByDefaultDelivery) {
                   "by default"));
 }
 
-TEST_F(SetBoostLevelIndex, PassesOverMixersThatDoNotOpen) {
+TEST_F(SetBoostLevelIndex, SkipsMixersThatCannotBeOpened) {
   ExpectEveryWalk(
       {.request = "40 03 0200 8003 0000",
        .then = {Written(kD6File, "MaxLevel=1"),
@@ -91,7 +91,7 @@ TEST_F(SetBoostLevelIndex, RejectsIndexFour) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(SetBoostLevelIndex, PostsAlthoughRequestsAndTheFileFail) {
+TEST_F(SetBoostLevelIndex, PostsEvenIfRequestsAndTheFileFail) {
   CurrentWorld().bus = {RefusingMixer()};
   CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 3), 100u);
@@ -104,7 +104,7 @@ TEST_F(SetBoostLevelIndex, PostsAlthoughRequestsAndTheFileFail) {
                     "by default"}})));
 }
 
-TEST_F(SetBoostLevelIndex, TouchesItsOwnKeyInItsOwnFileOnly) {
+TEST_F(SetBoostLevelIndex, ChangesOnlyItsKeyInItsFile) {
   CurrentWorld().files[kD6File] = {
       {"MaxLevel", 2}, {"Output0", 5}, {"Foo", "x"}};
   CurrentWorld().files[kB5File] = {{"MaxLevel", 3}};
@@ -116,7 +116,8 @@ TEST_F(SetBoostLevelIndex, TouchesItsOwnKeyInItsOwnFileOnly) {
   EXPECT_EQ(CurrentWorld().files[kK2File], (fake::Entries{{"MaxLevel", 3}}));
 }
 
-TEST_F(SetBoostLevelIndex, HoldsOnlyWhatACountLeavesAndTheLastRecord) {
+TEST_F(SetBoostLevelIndex,
+       ReleasesAllObjectsExceptThoseOfTheCountAndOneRecord) {
   CurrentWorld().bus = {Mixer()};
   ZTK_SetBoostLevelIndex(10, 0);
   ZTK_SetBoostLevelIndex(10, 1);
@@ -143,7 +144,7 @@ TEST_F(GetCurrentBoostLevelIndex, IsThreeWithoutAFileOrAKey) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(GetCurrentBoostLevelIndex, TellsAnyIntegerAsItStands) {
+TEST_F(GetCurrentBoostLevelIndex, ReturnsAnyStoredInteger) {
   const struct {
     const char *name;
     fake::Value stored;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the gates of the callbacks let into the tables. The callbacks
-// themselves are tested beside the registry.
+// Tests which products can be registered and unregistered. The calls of the
+// callbacks are tested in tests/notify/callback_registry_test.cpp.
 #include <algorithm>
 
 #include "api/api_test.h"
@@ -15,7 +15,8 @@ void *Context() {
   return &context;
 }
 
-// The callback tables, filled, so that a refused call that writes is seen.
+// All slots contain a callback, so that a refused call that writes to a slot is
+// detected.
 class CallbackGates : public ApiTest {
  protected:
   CallbackGates() { FillEverySlot(); }
@@ -35,7 +36,7 @@ class CallbackGates : public ApiTest {
     }
   }
 
-  // The slots of all families that no longer hold what was put there.
+  // Returns the slots whose callback or context has changed.
   static Steps ChangedSlots() {
     Steps changed;
     const auto look = [&changed](const std::string &family, int slot,
@@ -60,7 +61,7 @@ class CallbackGates : public ApiTest {
   }
 };
 
-TEST_F(CallbackGates, RegisterTakesOneProductAndUnregisterSix) {
+TEST_F(CallbackGates, RegisterAcceptsOneProductAndUnregisterSix) {
   using Unregister = ZTKResult (*)(std::uint32_t, void *);
   const struct {
     const char *family;
@@ -86,7 +87,7 @@ TEST_F(CallbackGates, RegisterTakesOneProductAndUnregisterSix) {
   EXPECT_EQ(ZTK_RegisterBoostLevelChangedCallback(8, OnIndex, nullptr), 102u);
 }
 
-TEST_F(CallbackGates, ARefusedRegisterTouchesNothing) {
+TEST_F(CallbackGates, ARefusedRegisterChangesNothing) {
   for (const std::uint32_t product : kIds) {
     SCOPED_TRACE(product);
     ZTK_RegisterMidiKeyModeChangedCallback(product, nullptr, nullptr);
@@ -106,7 +107,7 @@ TEST_F(CallbackGates, ARefusedRegisterTouchesNothing) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(CallbackGates, RegisterTakesANullCallbackInTheSlotOfItsProduct) {
+TEST_F(CallbackGates, RegisterAcceptsANullCallback) {
   EXPECT_EQ(ZTK_RegisterInputAudioChangedCallback(10, nullptr, nullptr), 100u);
   EXPECT_EQ(ZTK_RegisterMidiChannelChangedCallback(1, nullptr, nullptr), 100u);
   EXPECT_THAT(ChangedSlots(),

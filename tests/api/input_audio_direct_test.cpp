@@ -6,7 +6,7 @@ namespace {
 
 class SetUSBInputAudioDirect : public ApiTest {
  protected:
-  // The value that one call sends, in hexadecimal digits.
+  // Returns the log line of the value that one call sends.
   static std::string ValueSent(std::uint32_t channel, std::uint32_t high,
                                std::uint32_t source) {
     StartAfresh({Mixer()});
@@ -25,7 +25,7 @@ TEST_F(SetUSBInputAudioDirect, SendsAndReadsTheSelectorAndNothingElse) {
                   "close 1"));
 }
 
-TEST_F(SetUSBInputAudioDirect, PassesOverMixersThatDoNotOpen) {
+TEST_F(SetUSBInputAudioDirect, SkipsMixersThatCannotBeOpened) {
   ExpectEveryWalk({.request = "40 03 3107 8002 0000",
                    .secondRequest = "c0 00 0000 8002 0005 -> 00 04 04 04 04"},
                   [] { return ZTK_SetUSBInputAudioDirect(10, 0, 2, 7); });
@@ -52,7 +52,7 @@ TEST_F(SetUSBInputAudioDirect, PacksHighChannelAndSource) {
   }
 }
 
-TEST_F(SetUSBInputAudioDirect, CutsHighToItsLowFourBits) {
+TEST_F(SetUSBInputAudioDirect, UsesOnlyTheLowFourBitsOfHigh) {
   const struct {
     std::uint32_t high;
     const char *expected;
@@ -66,7 +66,7 @@ TEST_F(SetUSBInputAudioDirect, CutsHighToItsLowFourBits) {
   }
 }
 
-TEST_F(SetUSBInputAudioDirect, TakesSixteenSources) {
+TEST_F(SetUSBInputAudioDirect, AcceptsSixteenSources) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 15), 100u);
   TakeCalls();
@@ -77,7 +77,7 @@ TEST_F(SetUSBInputAudioDirect, TakesSixteenSources) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-// The index setter draws these lines at 3 and 2.
+// The thresholds of ZTK_SetUSBInputAudio() are 3 and 2.
 TEST_F(SetUSBInputAudioDirect, WarnsBelowSourceTwoWithoutAMixerAndFourWithOne) {
   for (std::uint32_t channel = 0; channel < 5; ++channel) {
     for (std::uint32_t source = 0; source < 16; ++source) {
@@ -93,7 +93,7 @@ TEST_F(SetUSBInputAudioDirect, WarnsBelowSourceTwoWithoutAMixerAndFourWithOne) {
   }
 }
 
-TEST_F(SetUSBInputAudioDirect, DoesNotWarnWhileTheSelectorStandsAtFour) {
+TEST_F(SetUSBInputAudioDirect, DoesNotWarnIfTheSelectorIsAtPositionFour) {
   for (std::uint32_t channel = 0; channel < 4; ++channel) {
     SCOPED_TRACE(channel);
     std::vector<std::uint8_t> onlyItIsRight = {0xFF, 0, 0, 0, 0};
@@ -112,7 +112,7 @@ TEST_F(SetUSBInputAudioDirect, AlwaysWarnsForTheLastChannelBelowSourceFour) {
   }
 }
 
-TEST_F(SetUSBInputAudioDirect, WarnsAtTheFirstMixerThatStandsWrong) {
+TEST_F(SetUSBInputAudioDirect, StopsAtTheFirstMixerForWhichItWarns) {
   CurrentWorld().bus = {MixerAnswering(0x8002, {.bytes = {0, 0, 0, 0, 0}}),
                         Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 3), 101u);
@@ -124,12 +124,12 @@ TEST_F(SetUSBInputAudioDirect, WarnsAtTheFirstMixerThatStandsWrong) {
                         Visit(1, "c0 00 0000 8002 0005 -> 00 00 00 00 00")})));
 }
 
-TEST_F(SetUSBInputAudioDirect, DoesNotWarnWhenNoCountedMixerOpens) {
+TEST_F(SetUSBInputAudioDirect, DoesNotWarnIfNoMixerCanBeOpened) {
   CurrentWorld().bus = {UnreachableMixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 0), 100u);
 }
 
-TEST_F(SetUSBInputAudioDirect, DoesNotLookAtTheResultsOfItsRequests) {
+TEST_F(SetUSBInputAudioDirect, IgnoresTheResultsOfItsRequests) {
   CurrentWorld().bus = {RefusingMixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 4), 100u);
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 0, 3), 101u);

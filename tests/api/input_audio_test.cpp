@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The choices of USB input audio and the setter that takes one. The raw setter
-// and the remembered choice have their own files.
+// Tests the choices of USB input audio and the setter of a choice. Other files
+// test the direct setter and the remembered choice.
 #include <cstdio>
 
 #include "api/api_test.h"
@@ -37,7 +37,7 @@ class GetUSBInputAudioText : public ApiTest {
   }
 };
 
-TEST_F(GetUSBInputAudioText, NamesEveryChoiceAndReadsOnIntoTheNextRow) {
+TEST_F(GetUSBInputAudioText, ReturnsEveryChoiceAndTheFirstOfTheNextRow) {
   const std::vector<std::vector<const char *>> expected = {
       {"CH1 Control Tone PHONO", "CH1 Control Tone LINE", "Post CH1 Fader",
        "Cross Fader A", "Cross Fader B", "MIC", "REC OUT", "PARAM ERROR",
@@ -64,7 +64,7 @@ TEST_F(GetUSBInputAudioText, NamesEveryChoiceAndReadsOnIntoTheNextRow) {
   }
 }
 
-TEST_F(GetUSBInputAudioText, EndsAtIndexEightAndAtNineOnTheLastChannel) {
+TEST_F(GetUSBInputAudioText, RejectsIndexNineAndOnTheLastChannelIndexTen) {
   for (std::int32_t channel = 0; channel < 4; ++channel) {
     EXPECT_EQ(TextOf(channel, 9), "102 untouched") << channel;
   }
@@ -80,7 +80,7 @@ TEST_F(GetUSBInputAudioText, IgnoresItsFourthArgument) {
   }
 }
 
-TEST_F(GetUSBInputAudioText, AsksNothing) {
+TEST_F(GetUSBInputAudioText, DoesNotUseThePlatform) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(TextOf(1, 2), "100 Post CH2 Fader");
   EXPECT_THAT(TakeCalls(), IsEmpty());
@@ -88,7 +88,7 @@ TEST_F(GetUSBInputAudioText, AsksNothing) {
 
 class SetUSBInputAudio : public ApiTest {
  protected:
-  // A mixer that answers the selector query with these bytes.
+  // Returns a mixer that answers the selector query with these bytes.
   static Device Selectors(std::vector<std::uint8_t> bytes,
                           fake::Code result = 0) {
     return MixerAnswering(0x8002, {.result = result, .bytes = bytes});
@@ -111,7 +111,7 @@ TEST_F(SetUSBInputAudio, SendsStoresPostsAndReadsTheSelectorInThisOrder) {
                   "close 1"));
 }
 
-TEST_F(SetUSBInputAudio, WalksTwoMixersTwice) {
+TEST_F(SetUSBInputAudio, WritesToBothMixersAndThenReadsFromBoth) {
   CurrentWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 100u);
   EXPECT_THAT(
@@ -128,7 +128,7 @@ TEST_F(SetUSBInputAudio, WalksTwoMixersTwice) {
                   "close 2"));
 }
 
-TEST_F(SetUSBInputAudio, PassesOverMixersThatDoNotOpen) {
+TEST_F(SetUSBInputAudio, SkipsMixersThatCannotBeOpened) {
   ExpectEveryWalk({.request = "40 03 0407 8002 0000",
                    .then = {Written(kD6File, "Output3=3"),
                             "post VRM-D6 InputAudio Change "
@@ -157,7 +157,7 @@ TEST_F(SetUSBInputAudio, SendsTheDeviceValueOfEveryChoice) {
   }
 }
 
-TEST_F(SetUSBInputAudio, TakesThePlaceholderOneBeyondTheChoices) {
+TEST_F(SetUSBInputAudio, AcceptsThePlaceholderAfterTheChoices) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 7), 100u);
   EXPECT_EQ(TakeSteps().at(2), "mixer 1: 40 03 010f 8002 0000");
@@ -165,7 +165,7 @@ TEST_F(SetUSBInputAudio, TakesThePlaceholderOneBeyondTheChoices) {
   EXPECT_EQ(TakeSteps().at(2), "mixer 1: 40 03 050f 8002 0000");
 }
 
-TEST_F(SetUSBInputAudio, RejectsWhatLiesBehindThePlaceholder) {
+TEST_F(SetUSBInputAudio, RejectsIndexesAfterThePlaceholder) {
   CurrentWorld().bus = {Mixer()};
   for (std::uint32_t channel = 0; channel < 4; ++channel) {
     EXPECT_EQ(ZTK_SetUSBInputAudio(10, channel, 8), 102u) << channel;
@@ -174,7 +174,7 @@ TEST_F(SetUSBInputAudio, RejectsWhatLiesBehindThePlaceholder) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(SetUSBInputAudio, KeepsTheIndexUnderTheChannelsOutputKey) {
+TEST_F(SetUSBInputAudio, StoresTheIndexUnderTheOutputKeyOfTheChannel) {
   const char *const expected[] = {"Output0=6", "Output1=6", "Output2=6",
                                   "Output3=6", "Output4=6"};
   for (std::uint32_t channel = 0; channel < 5; ++channel) {
@@ -226,7 +226,7 @@ TEST_F(SetUSBInputAudio, WithAMixerWarnsBelowIndexTwoOnly) {
   }
 }
 
-TEST_F(SetUSBInputAudio, NeverWarnsWhileTheSelectorsStandAtFour) {
+TEST_F(SetUSBInputAudio, NeverWarnsIfTheSelectorsAreAtPositionFour) {
   for (std::uint32_t channel = 0; channel < 4; ++channel) {
     for (std::uint32_t index = 0; index < 8; ++index) {
       StartAfresh({Mixer(), Mixer()});
@@ -236,7 +236,7 @@ TEST_F(SetUSBInputAudio, NeverWarnsWhileTheSelectorsStandAtFour) {
   }
 }
 
-TEST_F(SetUSBInputAudio, LooksAtTheSelectorOfItsOwnChannelOnly) {
+TEST_F(SetUSBInputAudio, UsesOnlyTheSelectorOfItsChannel) {
   for (std::uint32_t channel = 0; channel < 4; ++channel) {
     SCOPED_TRACE(channel);
     std::vector<std::uint8_t> onlyItIsRight = {0xFF, 0, 0, 0, 0};
@@ -252,7 +252,7 @@ TEST_F(SetUSBInputAudio, LooksAtTheSelectorOfItsOwnChannelOnly) {
 }
 
 TEST_F(SetUSBInputAudio, AlwaysWarnsForTheLastChannelWhichHasNoSelector) {
-  // The sixth byte is not asked for and never arrives.
+  // Five bytes are requested, so the mixer never sends the sixth one.
   for (const std::vector<std::uint8_t> &bytes :
        {std::vector<std::uint8_t>{0, 4, 4, 4, 4},
         std::vector<std::uint8_t>{4, 4, 4, 4, 4, 4, 4, 4}}) {
@@ -265,7 +265,7 @@ TEST_F(SetUSBInputAudio, AlwaysWarnsForTheLastChannelWhichHasNoSelector) {
   }
 }
 
-TEST_F(SetUSBInputAudio, WarnsByTheBytesThatCameAndNotByTheResult) {
+TEST_F(SetUSBInputAudio, WarnsDependingOnTheReceivedBytesAndNotOnTheResult) {
   const struct {
     const char *name;
     Device mixer;
@@ -284,7 +284,7 @@ TEST_F(SetUSBInputAudio, WarnsByTheBytesThatCameAndNotByTheResult) {
   }
 }
 
-TEST_F(SetUSBInputAudio, WarnsAtTheFirstMixerThatStandsWrong) {
+TEST_F(SetUSBInputAudio, StopsAtTheFirstMixerForWhichItWarns) {
   CurrentWorld().bus = {Selectors({0, 3, 3, 3, 3}), Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
   EXPECT_THAT(TakeSteps(),
@@ -298,25 +298,25 @@ TEST_F(SetUSBInputAudio, WarnsAtTheFirstMixerThatStandsWrong) {
                         Visit(1, "c0 00 0000 8002 0005 -> 00 03 03 03 03")})));
 }
 
-TEST_F(SetUSBInputAudio, WarnsAlsoWhenOnlyTheSecondMixerStandsWrong) {
+TEST_F(SetUSBInputAudio, WarnsIfOnlyTheSecondMixerHasAnotherPosition) {
   CurrentWorld().bus = {Mixer(), Selectors({0, 3, 3, 3, 3})};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
   CurrentWorld().bus = {UnreachableMixer(), Selectors({0, 3, 3, 3, 3})};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
 }
 
-TEST_F(SetUSBInputAudio, DoesNotTakeTheFirstMixersAnswerForTheSecond) {
+TEST_F(SetUSBInputAudio, DoesNotUseTheAnswerOfTheFirstMixerForTheSecond) {
   CurrentWorld().bus = {Mixer(), Selectors({})};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 101u);
 }
 
-TEST_F(SetUSBInputAudio, DoesNotWarnWhenNoCountedMixerOpens) {
+TEST_F(SetUSBInputAudio, DoesNotWarnIfNoMixerCanBeOpened) {
   CurrentWorld().bus = {UnreachableMixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 100u);
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 4, 0), 100u);
 }
 
-TEST_F(SetUSBInputAudio, StoresAndPostsAlthoughEveryRequestFails) {
+TEST_F(SetUSBInputAudio, StoresAndPostsEvenIfEveryRequestFails) {
   CurrentWorld().bus = {RefusingMixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 2, 5), 100u);
   EXPECT_THAT(
@@ -329,7 +329,7 @@ TEST_F(SetUSBInputAudio, StoresAndPostsAlthoughEveryRequestFails) {
                              Visit(1, "c0 00 0000 8002 0005 -> stall")})));
 }
 
-TEST_F(SetUSBInputAudio, PostsAlthoughTheFileCannotBeWritten) {
+TEST_F(SetUSBInputAudio, PostsEvenIfTheFileCannotBeWritten) {
   CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 2, 5), 100u);
   CurrentWorld().hasLibraryFolder = false;
@@ -344,7 +344,7 @@ TEST_F(SetUSBInputAudio, PostsAlthoughTheFileCannotBeWritten) {
   EXPECT_THAT(CurrentWorld().files, IsEmpty());
 }
 
-TEST_F(SetUSBInputAudio, HoldsOnlyWhatACountLeavesAndTheLastRecord) {
+TEST_F(SetUSBInputAudio, ReleasesAllObjectsExceptThoseOfTheCountAndOneRecord) {
   CurrentWorld().bus = {OtherDevice(), Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 100u);
   EXPECT_EQ(CurrentWorld().held,

@@ -6,7 +6,7 @@ namespace {
 
 class GetNumOfMidiChannelIndex : public ApiTest {};
 
-TEST_F(GetNumOfMidiChannelIndex, IsSixteenForItsOneProduct) {
+TEST_F(GetNumOfMidiChannelIndex, IsSixteenForTheOnlyProduct) {
   std::uint32_t count = kUntouched;
   EXPECT_EQ(ZTK_GetNumOfMidiChannelIndex(10, &count), 102u);
   EXPECT_EQ(count, kUntouched);
@@ -16,7 +16,7 @@ TEST_F(GetNumOfMidiChannelIndex, IsSixteenForItsOneProduct) {
 
 class GetMidiChannelText : public ApiTest {};
 
-TEST_F(GetMidiChannelText, NamesSixteenChannelsWhateverTheThirdArgument) {
+TEST_F(GetMidiChannelText, ReturnsSixteenChannelsForAnyThirdArgument) {
   const char *const expected[] = {
       "CH 1", "CH 2",  "CH 3",  "CH 4",  "CH 5",  "CH 6",  "CH 7",  "CH 8",
       "CH 9", "CH 10", "CH 11", "CH 12", "CH 13", "CH 14", "CH 15", "CH 16"};
@@ -29,7 +29,7 @@ TEST_F(GetMidiChannelText, NamesSixteenChannelsWhateverTheThirdArgument) {
   }
 }
 
-TEST_F(GetMidiChannelText, RejectsIndexSixteenAndLeavesTheOutput) {
+TEST_F(GetMidiChannelText, RejectsIndexSixteenAndDoesNotWriteTheOutput) {
   ZTKTextRef text = kUntouchedText;
   EXPECT_EQ(ZTK_GetMidiChannelText(1, 16, 0, &text), 102u);
   EXPECT_EQ(Plain(text), "untouched");
@@ -49,7 +49,7 @@ TEST_F(SetMidiChannelIndex, SendsStoresAndPostsByDefaultDelivery) {
                   "by default"));
 }
 
-TEST_F(SetMidiChannelIndex, PassesOverMixersThatDoNotOpen) {
+TEST_F(SetMidiChannelIndex, SkipsMixersThatCannotBeOpened) {
   ExpectEveryWalk(
       {.request = "40 03 0a00 8004 0000",
        .then = {Written(kK2File, "MidiChannel=10"),
@@ -79,7 +79,7 @@ TEST_F(SetMidiChannelIndex, RejectsIndexSixteenAndOtherProducts) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(SetMidiChannelIndex, PostsAlthoughRequestsAndTheFileFail) {
+TEST_F(SetMidiChannelIndex, PostsEvenIfRequestsAndTheFileFail) {
   CurrentWorld().bus = {RefusingMixer()};
   CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetMidiChannelIndex(1, 0), 100u);
@@ -92,7 +92,7 @@ TEST_F(SetMidiChannelIndex, PostsAlthoughRequestsAndTheFileFail) {
                     "by default"}})));
 }
 
-TEST_F(SetMidiChannelIndex, TouchesItsOwnFileOnly) {
+TEST_F(SetMidiChannelIndex, ChangesOnlyItsFile) {
   CurrentWorld().files[kD6File] = {{"MidiChannel", 3}};
   CurrentWorld().files[kK2File] = {{"MidiChannel", 4}, {"Foo", "x"}};
   EXPECT_EQ(ZTK_SetMidiChannelIndex(1, 5), 100u);
@@ -101,7 +101,8 @@ TEST_F(SetMidiChannelIndex, TouchesItsOwnFileOnly) {
   EXPECT_EQ(CurrentWorld().files[kD6File], (fake::Entries{{"MidiChannel", 3}}));
 }
 
-TEST_F(SetMidiChannelIndex, HoldsOnlyWhatACountLeavesAndTheLastRecord) {
+TEST_F(SetMidiChannelIndex,
+       ReleasesAllObjectsExceptThoseOfTheCountAndOneRecord) {
   CurrentWorld().bus = {Mixer()};
   ZTK_SetMidiChannelIndex(1, 0);
   ZTK_SetMidiChannelIndex(1, 1);
@@ -128,7 +129,7 @@ TEST_F(GetCurrentMidiChannelIndex, IsZeroWithoutAFileOrAKey) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(GetCurrentMidiChannelIndex, TellsAnyIntegerAsItStands) {
+TEST_F(GetCurrentMidiChannelIndex, ReturnsAnyStoredInteger) {
   const struct {
     const char *name;
     fake::Value stored;
@@ -178,7 +179,7 @@ TEST_F(SetCurrentMidiChannelIndex, ResendsOnlyTheFirstFourOfSixteenChannels) {
   }
 }
 
-TEST_F(SetCurrentMidiChannelIndex, SendsNothingForARememberedOddity) {
+TEST_F(SetCurrentMidiChannelIndex, SendsNothingForARememberedNumberOutOfRange) {
   for (const fake::Value &stored :
        {fake::Value{4}, fake::Value{9}, fake::Value{16}, fake::Value{-1},
         fake::Value{kLowest}, fake::Value{"5"}}) {

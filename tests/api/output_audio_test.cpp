@@ -36,7 +36,7 @@ class GetUSBOutputAudioText : public ApiTest {
   }
 };
 
-TEST_F(GetUSBOutputAudioText, NamesTheThreeChoicesAndTheFirstAgainAtIndex3) {
+TEST_F(GetUSBOutputAudioText, ReturnsThreeChoicesAndTheFirstAgainAtIndex3) {
   for (std::uint32_t channel = 0; channel < 3; ++channel) {
     SCOPED_TRACE(channel);
     EXPECT_EQ(TextOf(channel, 0), "100 CH1");
@@ -47,7 +47,7 @@ TEST_F(GetUSBOutputAudioText, NamesTheThreeChoicesAndTheFirstAgainAtIndex3) {
   }
 }
 
-TEST_F(GetUSBOutputAudioText, RejectsTheChannelsThatOnlyTheSettersTake) {
+TEST_F(GetUSBOutputAudioText, RejectsTheChannelsThatOnlyTheSettersAccept) {
   EXPECT_EQ(TextOf(3, 0), "102 untouched");
   EXPECT_EQ(TextOf(4, 0), "102 untouched");
 }
@@ -60,7 +60,8 @@ TEST_F(GetUSBOutputAudioText, IgnoresItsFourthArgument) {
 
 class SetUSBOutputAudio : public ApiTest {};
 
-// A search for a mixer that is not there would be invisible among the requests.
+// The log of requests would not show a search that finds no mixer, so all calls
+// are compared.
 TEST_F(SetUSBOutputAudio, SearchesTheBusOnceForEachRequest) {
   CurrentWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0, 1), 100u);
@@ -82,8 +83,8 @@ TEST_F(SetUSBOutputAudio, SendsStoresPostsAndReadsTheSelectorInThisOrder) {
                   "close 1"));
 }
 
-// Every device of these walks is the one kind of mixer there is: none is
-// chosen by product 8.
+// All mixers have the same USB product id, so product 8 does not select some of
+// them.
 TEST_F(SetUSBOutputAudio, SendsToEveryMixerThatOpens) {
   ExpectEveryWalk({.request = "40 03 0204 8016 0000",
                    .then = {Written(kB5File, "Input1=2"),
@@ -119,13 +120,13 @@ TEST_F(SetUSBOutputAudio, StoresAndPostsWithoutAMixerAndNeverWarns) {
                           "{ProductID=8, Channel=0, Index=0} immediately"));
 }
 
-TEST_F(SetUSBOutputAudio, NeverWarnsWhateverTheSelectorsSay) {
+TEST_F(SetUSBOutputAudio, NeverWarnsForAnyPositionOfTheSelectors) {
   CurrentWorld().bus = {MixerAnswering(0x8002, {.bytes = {0, 0, 0, 0, 0}}),
                         RefusingMixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0, 0), 100u);
 }
 
-TEST_F(SetUSBOutputAudio, TakesTwoMoreChannelsAndSendsNothingForThem) {
+TEST_F(SetUSBOutputAudio, AcceptsTwoMoreChannelsAndSendsNothingForThem) {
   CurrentWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 3, 0), 100u);
   EXPECT_THAT(TakeSteps(),
@@ -155,7 +156,7 @@ TEST_F(SetUSBOutputAudio, RejectsAFourthChoiceAChannelFiveAndOtherProducts) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(SetUSBOutputAudio, PostsAlthoughRequestsAndTheFileFail) {
+TEST_F(SetUSBOutputAudio, PostsEvenIfRequestsAndTheFileFail) {
   CurrentWorld().bus = {RefusingMixer()};
   CurrentWorld().canWrite = false;
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 0, 1), 100u);
@@ -169,7 +170,7 @@ TEST_F(SetUSBOutputAudio, PostsAlthoughRequestsAndTheFileFail) {
                              Visit(1, "c0 00 0000 8002 0004 -> stall")})));
 }
 
-TEST_F(SetUSBOutputAudio, HoldsOnlyWhatACountLeavesAndTheLastRecord) {
+TEST_F(SetUSBOutputAudio, ReleasesAllObjectsExceptThoseOfTheCountAndOneRecord) {
   CurrentWorld().bus = {Mixer()};
   ZTK_SetUSBOutputAudio(8, 0, 0);
   EXPECT_EQ(CurrentWorld().held, OneCount(1));
@@ -205,7 +206,7 @@ TEST_F(SetUSBOutputAudioDefault, SendsToEveryMixerThatOpens) {
                   [] { return ZTK_SetUSBOutputAudioDefault(8, 1); });
 }
 
-TEST_F(SetUSBOutputAudioDefault, SendsOneOtherValueForEachChannel) {
+TEST_F(SetUSBOutputAudioDefault, SendsAnotherValueForEachChannel) {
   const char *const expected[] = {"0100", "0201", "0304"};
   for (std::uint32_t channel = 0; channel < 3; ++channel) {
     StartAfresh({Mixer()});
@@ -215,7 +216,7 @@ TEST_F(SetUSBOutputAudioDefault, SendsOneOtherValueForEachChannel) {
   }
 }
 
-TEST_F(SetUSBOutputAudioDefault, PostsTheChannelAsIndexWhereNothingIsSent) {
+TEST_F(SetUSBOutputAudioDefault, PostsTheChannelAsIndexEvenIfNothingIsSent) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBOutputAudioDefault(8, 3), 100u);
   EXPECT_EQ(ZTK_SetUSBOutputAudioDefault(8, 4), 100u);
@@ -241,7 +242,7 @@ class GetCurrentUSBOutputAudioIndex : public ApiTest {
   }
 };
 
-TEST_F(GetCurrentUSBOutputAudioIndex, IsTheChannelItselfWithoutAFile) {
+TEST_F(GetCurrentUSBOutputAudioIndex, IsTheNumberOfTheChannelWithoutAFile) {
   for (std::uint32_t channel = 0; channel < 3; ++channel) {
     EXPECT_EQ(IndexOf(channel), channel);
   }
@@ -260,7 +261,7 @@ TEST_F(GetCurrentUSBOutputAudioIndex, ReadsTheKeyOfItsChannelOnly) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(GetCurrentUSBOutputAudioIndex, TellsAnyIntegerAsItStands) {
+TEST_F(GetCurrentUSBOutputAudioIndex, ReturnsAnyStoredInteger) {
   const struct {
     const char *name;
     fake::Value stored;
@@ -277,7 +278,7 @@ TEST_F(GetCurrentUSBOutputAudioIndex, TellsAnyIntegerAsItStands) {
   }
 }
 
-TEST_F(GetCurrentUSBOutputAudioIndex, RejectsTheChannelsThatOnlySettersTake) {
+TEST_F(GetCurrentUSBOutputAudioIndex, RejectsTheChannelsThatOnlySettersAccept) {
   CurrentWorld().files[kB5File] = {{"Input3", 1}};
   for (const std::uint32_t channel : {3u, 4u, 0x80000000u, 0xFFFFFFFFu}) {
     std::uint32_t index = kUntouched;
@@ -324,9 +325,9 @@ TEST_F(SetCurrentUSBOutputAudio, SendsAnotherChannelsValueWithinTheTable) {
   }
 }
 
-// The negative ones would meet the table again if the position were added up
-// in 32 bits: -6 on channel 2 is position 0.
-TEST_F(SetCurrentUSBOutputAudio, SendsNothingPastTheTableAndStillSucceeds) {
+// With 32 bits, the position of a negative index would be inside the table: -6
+// on channel 2 would be position 0.
+TEST_F(SetCurrentUSBOutputAudio, SendsNothingPastTheTableAndReturnsSuccess) {
   const struct {
     std::uint32_t channel;
     const char *key;
@@ -344,7 +345,7 @@ TEST_F(SetCurrentUSBOutputAudio, SendsNothingPastTheTableAndStillSucceeds) {
   }
 }
 
-TEST_F(SetCurrentUSBOutputAudio, RefusesWhatTheGetterRefuses) {
+TEST_F(SetCurrentUSBOutputAudio, RejectsTheSameArgumentsAsTheGetter) {
   CurrentWorld().bus = {Mixer()};
   for (const std::uint32_t channel : {3u, 4u, 0x80000000u, 0xFFFFFFFFu}) {
     EXPECT_EQ(ZTK_SetCurrentUSBOutputAudio(8, channel), 102u) << channel;

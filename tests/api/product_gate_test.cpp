@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Walks around every bound of the table of gates. What an accepted call does
-// is the business of the family's own tests.
+// Calls every function with arguments on both sides of each bound in the table
+// (product_gates.h). The tests of the families check what an accepted call
+// does.
 #include "api/api_test.h"
 #include "api/product_gates.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 class EveryFunction : public ApiTest {
  protected:
-  // A world in which nothing but the arguments can be refused.
+  // Returns a world in which a call is refused only because of its arguments.
   static World Complete() {
     World world;
     world.bus = {Mixer()};
@@ -32,7 +33,7 @@ class EveryFunction : public ApiTest {
     return world;
   }
 
-  // What a refused firmware query leaves; the only exception to "untouched".
+  // Returns the output after a refusal. Only the firmware query writes it.
   static std::uint32_t LeftByRefusal(const Gate &gate) {
     return std::string(gate.name) == "GetFirmwareVersionIndex" ? 0 : kUntouched;
   }
@@ -91,7 +92,7 @@ class EveryFunction : public ApiTest {
   }
 };
 
-TEST_F(EveryFunction, ServesTheArgumentsOfItsRowAndRefusesAllOthers) {
+TEST_F(EveryFunction, AcceptsTheArgumentsOfItsRowAndRefusesAllOthers) {
   for (const Gate &gate : kGates) {
     CurrentWorld() = Complete();
     inputAudioInfo = outputAudioInfo = boostLevelInfo = nullptr;
@@ -101,12 +102,12 @@ TEST_F(EveryFunction, ServesTheArgumentsOfItsRowAndRefusesAllOthers) {
   }
 }
 
-TEST_F(EveryFunction, StandsInTheTable) {
-  // Two functions stand there twice.
+TEST_F(EveryFunction, IsInTheTable) {
+  // Two functions have two rows.
   EXPECT_EQ(std::size(kGates), 48u + 2u);
 }
 
-TEST_F(EveryFunction, AnswersAnUnknownProductIdWith102) {
+TEST_F(EveryFunction, Returns102ForAnUnknownProductId) {
   for (const Gate &gate : kGates) {
     if (gate.products == kEveryProduct) continue;
     SCOPED_TRACE(gate.name);
@@ -125,7 +126,7 @@ TEST_F(EveryFunction, AnswersAnUnknownProductIdWith102) {
   }
 }
 
-TEST_F(EveryFunction, AnswersWithoutAMixerAlsoWhenTheBusCannotBeRead) {
+TEST_F(EveryFunction, ReturnsTheSameIfTheBusCannotBeReadAsWithoutAMixer) {
   for (const Gate &gate : kGates) {
     if (gate.products.empty()) continue;
     const bool isWarningText = gate.output == Output::TextNeverNull;
@@ -145,7 +146,7 @@ TEST_F(EveryFunction, AnswersWithoutAMixerAlsoWhenTheBusCannotBeRead) {
   }
 }
 
-// Where only the order of two tests decides what is left.
+// Only the order of two tests in a function decides these results.
 class OrderOfTests : public ApiTest {};
 
 TEST_F(OrderOfTests, FirmwareVersionWritesBeforeTheProductCertifyLevelAfterIt) {
@@ -161,7 +162,7 @@ TEST_F(OrderOfTests, ANullOutputIsTestedBeforeItIsWritten) {
   EXPECT_EQ(ZTK_GetFirmwareVersionIndex(10, nullptr), 102u);
 }
 
-TEST_F(OrderOfTests, ReApplyReadsTheFileBeforeItRefusesTheRememberedIndex) {
+TEST_F(OrderOfTests, ReSendingReadsTheFileBeforeItRefusesTheIndex) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", 9}};
   EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 102u);
   EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kD6File,

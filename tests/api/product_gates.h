@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Who is served, for every function of the public header: the one table of
-// accepted products, channels and indexes.
+// The products, channels and indexes that each function of the public header
+// accepts.
 #ifndef ZTK_TESTS_API_PRODUCT_GATES_H_
 #define ZTK_TESTS_API_PRODUCT_GATES_H_
 
@@ -32,11 +32,11 @@ struct Arguments {
   std::uint32_t product;
   std::uint32_t channel;
   std::uint32_t index;
-  std::uint32_t *number;  // null, or an output
-  ZTKTextRef *text;       // the same
+  std::uint32_t *number;  // an output, or null
+  ZTKTextRef *text;       // an output, or null
 };
 
-// Both ends are served.
+// Both ends are included.
 struct Range {
   std::uint32_t first;
   std::uint32_t last;
@@ -60,7 +60,7 @@ struct Gate {
   Output output;
   ZTKResult (*call)(const Arguments &arguments);
 
-  // A function that takes no channel accepts any.
+  // A function without a channel has the range kAny.
   bool TakesChannel() const {
     return std::any_of(served.begin(), served.end(), [](const Served &range) {
       return range.channels.first != kAny.first ||
@@ -82,7 +82,7 @@ inline const std::vector<std::uint32_t> kEveryProduct(std::begin(kIds),
                                                       std::end(kIds));
 inline const std::vector<std::uint32_t> kSixProducts = {0, 1, 5, 6, 8, 10};
 
-// For functions that take neither.
+// For functions without a channel and an index.
 inline const std::vector<Served> kNoBounds = {{kAny, kAny}};
 
 inline std::int32_t Signed(std::uint32_t channel) {
@@ -153,8 +153,8 @@ inline const Gate kGates[] = {
        return ZTK_SetCurrentUSBInputAudio(a.product, a.channel);
      }},
 
-    // The output is not tested for null; an unknown language is known only
-    // after the mixer was asked, so it is no matter of this table.
+    // The output is not tested for null. The language is tested only after the
+    // request to the mixer, so it is not in this table.
     {"GetWarningTextForSetUSBAudioInput", {10}, {{{0, 3}, {101, 101}}},
      Output::TextNeverNull,
      [](const Arguments &a) {
@@ -272,7 +272,8 @@ inline const Gate kGates[] = {
        return ZTK_GetMixerSeratoActiveStatus(a.product, a.number);
      }},
 
-    // Change callbacks. Three families let go of more than they take on.
+    // Change callbacks. Three families can be unregistered for more products than
+    // they can be registered for.
     {"RegisterInputAudioChangedCallback", {10}, kNoBounds, Output::None,
      [](const Arguments &a) {
        return ZTK_RegisterInputAudioChangedCallback(a.product, OnChannel,

@@ -53,7 +53,7 @@ TEST_F(GetProductId, FindsAModelAnywhereInUpperOrLowerCase) {
   }
 }
 
-TEST_F(GetProductId, TakesTheModelThatComesFirstInSearchOrderNotInTheName) {
+TEST_F(GetProductId, ReturnsTheModelThatIsFirstInTheListNotInTheText) {
   const struct {
     const char *name;
     std::uint32_t expected;
@@ -69,7 +69,7 @@ TEST_F(GetProductId, TakesTheModelThatComesFirstInSearchOrderNotInTheName) {
   }
 }
 
-TEST_F(GetProductId, RejectsANameWithoutAModelAndLeavesTheOutput) {
+TEST_F(GetProductId, RejectsANameWithoutAModelAndDoesNotWriteTheOutput) {
   for (const char *name : {"", "VRM-D", "vrm-d", "RM-D6", "VRM D6", "VRM-D 6",
                            "VRMD6", "VRM-Q8", "VRC-D6", "D6", "mixer"}) {
     SCOPED_TRACE(name);
@@ -77,7 +77,7 @@ TEST_F(GetProductId, RejectsANameWithoutAModelAndLeavesTheOutput) {
   }
 }
 
-TEST_F(GetProductId, NeverAnswersTheGapsSevenAndNine) {
+TEST_F(GetProductId, NeverReturnsTheUnusedNumbersSevenAndNine) {
   for (const char *name : {"7", "9", "VRM-7", "VRM-9", "VRM-A7", "VRM-C9",
                            "VRM-H7", "VRC-Q9", "VRM-D7", "VRM-D9"}) {
     SCOPED_TRACE(name);
@@ -91,7 +91,7 @@ TEST_F(GetProductId, RejectsANullNameAndANullOutput) {
   EXPECT_EQ(ZTK_GetProductId(nullptr, nullptr), 102u);
 }
 
-TEST_F(GetProductId, LeavesTheCallersTextAndAsksNothing) {
+TEST_F(GetProductId, DoesNotChangeTheCallersTextAndUsesNoPlatform) {
   CurrentWorld().bus = {Mixer()};
   std::string name = "vrm-d6 in lower case";
   std::uint32_t id = 0;
@@ -102,7 +102,7 @@ TEST_F(GetProductId, LeavesTheCallersTextAndAsksNothing) {
 
 class IsUSBConnection : public ApiTest {};
 
-TEST_F(IsUSBConnection, TellsWhetherAtLeastOneMixerIsCounted) {
+TEST_F(IsUSBConnection, ReturnsWhetherAtLeastOneMixerIsCounted) {
   Device othersMixer = Mixer();
   othersMixer.vendor = 0x6667;
   Device otherProduct = Mixer();
@@ -131,7 +131,7 @@ TEST_F(IsUSBConnection, TellsWhetherAtLeastOneMixerIsCounted) {
   }
 }
 
-TEST_F(IsUSBConnection, AnswersTheSameForEveryProduct) {
+TEST_F(IsUSBConnection, ReturnsTheSameForEveryProduct) {
   for (const std::uint32_t id :
        {0u, 1u, 7u, 8u, 10u, 11u, 32u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu}) {
     SCOPED_TRACE(id);
@@ -143,7 +143,7 @@ TEST_F(IsUSBConnection, AnswersTheSameForEveryProduct) {
   }
 }
 
-TEST_F(IsUSBConnection, CountsNothingWhenTheBusCannotBeRead) {
+TEST_F(IsUSBConnection, CountsNoMixersIfTheBusCannotBeRead) {
   CurrentWorld().bus = {Mixer()};
   CurrentWorld().hasMatching = false;
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);

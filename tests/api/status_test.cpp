@@ -18,18 +18,18 @@ constexpr std::uint16_t kCertify = 0x8007;
 constexpr Code kStalled = platform::usb::kPipeStalled;
 constexpr Code kTimedOut = platform::usb::kTimeout;
 
-// What a query answers and leaves in its output.
-struct Told {
+// The result of a query, and its output afterwards.
+struct QueryResult {
   ZTKResult result;
   std::uint32_t output;
-  bool operator==(const Told &) const = default;
+  bool operator==(const QueryResult &) const = default;
 };
 
 using Query = std::function<ZTKResult(std::uint32_t *)>;
 
 class StatusTest : public ApiTest {
  protected:
-  static Told Ask(Bus bus, const Query &query) {
+  static QueryResult Ask(Bus bus, const Query &query) {
     StartAfresh(std::move(bus));
     std::uint32_t output = kUntouched;
     const ZTKResult result = query(&output);
@@ -58,7 +58,7 @@ Query SelectorOf(std::uint32_t channel) {
 
 class GetMixerCertifyLevel : public StatusTest {};
 
-TEST_F(GetMixerCertifyLevel, TakesFourBytesBigEndianAndZeroForMissingOnes) {
+TEST_F(GetMixerCertifyLevel, ReadsFourBytesBigEndianAndZeroForMissingOnes) {
   const struct {
     const char *name;
     Answer answer;
@@ -80,11 +80,11 @@ TEST_F(GetMixerCertifyLevel, TakesFourBytesBigEndianAndZeroForMissingOnes) {
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(Ask({MixerAnswering(kCertify, row.answer)}, CertifyLevel),
-              (Told{.result = 100, .output = row.expected}));
+              (QueryResult{.result = 100, .output = row.expected}));
   }
 }
 
-TEST_F(GetMixerCertifyLevel, AsksEveryMixerThatOpens) {
+TEST_F(GetMixerCertifyLevel, AsksEveryMixerThatCanBeOpened) {
   ExpectEveryWalk({.request = "c0 00 0000 8007 0004 -> 00 00 00 01"}, [] {
     std::uint32_t level = 0;
     return ZTK_GetMixerCertifyLevel(10, &level);
@@ -92,25 +92,25 @@ TEST_F(GetMixerCertifyLevel, AsksEveryMixerThatOpens) {
 }
 
 TEST_F(GetMixerCertifyLevel, IsZeroWhenNoMixerAnswers) {
-  const Told zero{.result = 100, .output = 0};
+  const QueryResult zero{.result = 100, .output = 0};
   EXPECT_EQ(Ask({}, CertifyLevel), zero);
   EXPECT_EQ(Ask({UnreachableMixer()}, CertifyLevel), zero);
 }
 
-TEST_F(GetMixerCertifyLevel, TellsTheLastMixerThatOpens) {
+TEST_F(GetMixerCertifyLevel, ReturnsTheLevelOfTheLastMixerThatCanBeOpened) {
   const Device first = MixerAnswering(kCertify, {.bytes = {1, 2, 3, 4}});
   const Device second = MixerAnswering(kCertify, {.bytes = {0, 0, 0, 9}});
   const Device silent = SilentAt(kCertify);
   EXPECT_EQ(Ask({first, second}, CertifyLevel),
-            (Told{.result = 100, .output = 9}));
+            (QueryResult{.result = 100, .output = 9}));
   EXPECT_EQ(Ask({first, UnreachableMixer()}, CertifyLevel),
-            (Told{.result = 100, .output = 16909060}));
+            (QueryResult{.result = 100, .output = 16909060}));
   // The buffer is cleared for each mixer.
   EXPECT_EQ(Ask({first, silent}, CertifyLevel),
-            (Told{.result = 100, .output = 0}));
+            (QueryResult{.result = 100, .output = 0}));
 }
 
-TEST_F(GetMixerCertifyLevel, LeavesTheOutputForARefusedProduct) {
+TEST_F(GetMixerCertifyLevel, DoesNotWriteTheOutputForARefusedProduct) {
   std::uint32_t level = kUntouched;
   EXPECT_EQ(ZTK_GetMixerCertifyLevel(8, &level), 102u);
   EXPECT_EQ(level, kUntouched);
@@ -118,7 +118,7 @@ TEST_F(GetMixerCertifyLevel, LeavesTheOutputForARefusedProduct) {
 
 class GetFirmwareVersionIndex : public StatusTest {};
 
-TEST_F(GetFirmwareVersionIndex, TakesTwoBytesLowByteFirstAndUpperBitsZero) {
+TEST_F(GetFirmwareVersionIndex, ReadsTwoBytesLowByteFirst) {
   const struct {
     const char *name;
     Answer answer;
@@ -137,7 +137,7 @@ TEST_F(GetFirmwareVersionIndex, TakesTwoBytesLowByteFirstAndUpperBitsZero) {
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(Ask({MixerAnswering(kFirmware, row.answer)}, FirmwareVersion),
-              (Told{.result = 100, .output = row.expected}));
+              (QueryResult{.result = 100, .output = row.expected}));
   }
 }
 
@@ -145,17 +145,17 @@ TEST_F(GetFirmwareVersionIndex, AsksTheFirstMixerOnly) {
   const Device first = MixerAnswering(kFirmware, {.bytes = {1, 0}});
   const Device second = MixerAnswering(kFirmware, {.bytes = {2, 0}});
   EXPECT_EQ(Ask({first, second}, FirmwareVersion),
-            (Told{.result = 100, .output = 1}));
+            (QueryResult{.result = 100, .output = 1}));
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 1",
                           "mixer 1: c0 00 0000 8001 0002 -> 01 00", "close 1"));
   EXPECT_EQ(Ask({UnreachableMixer(), second}, FirmwareVersion),
-            (Told{.result = 100, .output = 0}));
+            (QueryResult{.result = 100, .output = 0}));
   EXPECT_THAT(TakeSteps(), ElementsAre("count", "cannot open 1"));
 }
 
 TEST_F(GetFirmwareVersionIndex, IsZeroWhenNoMixerAnswers) {
-  const Told zero{.result = 100, .output = 0};
+  const QueryResult zero{.result = 100, .output = 0};
   EXPECT_EQ(Ask({}, FirmwareVersion), zero);
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
   EXPECT_EQ(Ask({Mixer(), WithoutPlugIn(OtherDevice())}, FirmwareVersion),
@@ -163,9 +163,9 @@ TEST_F(GetFirmwareVersionIndex, IsZeroWhenNoMixerAnswers) {
   EXPECT_THAT(TakeSteps(), ElementsAre("count", "open 1"));
 }
 
-TEST_F(GetFirmwareVersionIndex, OpensNothingWhereNoMixerIsCounted) {
+TEST_F(GetFirmwareVersionIndex, OpensNothingIfNoMixerIsCounted) {
   EXPECT_EQ(Ask({OtherDevice(), OtherDevice()}, FirmwareVersion),
-            (Told{.result = 100, .output = 0}));
+            (QueryResult{.result = 100, .output = 0}));
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
   const auto calls = TakeCalls();
   EXPECT_EQ(std::count(calls.begin(), calls.end(), "find every service"), 0);
@@ -180,21 +180,22 @@ TEST_F(GetFirmwareVersionIndex, WritesZeroEvenForARefusedProduct) {
 
 class GetMixerInputSelectorStatus : public StatusTest {};
 
-TEST_F(GetMixerInputSelectorStatus, ReadsTheByteBehindTheChannelsNumber) {
+TEST_F(GetMixerInputSelectorStatus, ReadsTheByteAtChannelPlusOne) {
   const Device mixer =
       MixerAnswering(kSelectors, {.bytes = {0xFF, 1, 2, 3, 16}});
   const std::uint32_t expected[] = {1, 2, 3, 16};
   for (std::uint32_t channel = 0; channel < 4; ++channel) {
     SCOPED_TRACE(channel);
     EXPECT_EQ(Ask({mixer}, SelectorOf(channel)),
-              (Told{.result = 100, .output = expected[channel]}));
+              (QueryResult{.result = 100, .output = expected[channel]}));
   }
 }
 
-TEST_F(GetMixerInputSelectorStatus, IsZeroForTheLastChannelWhateverCame) {
+TEST_F(GetMixerInputSelectorStatus, IsZeroForTheLastChannelWithAnyReply) {
   const Device mixer =
       MixerAnswering(kSelectors, {.bytes = {99, 99, 99, 99, 99, 99, 99, 99}});
-  EXPECT_EQ(Ask({mixer}, SelectorOf(4)), (Told{.result = 100, .output = 0}));
+  EXPECT_EQ(Ask({mixer}, SelectorOf(4)),
+            (QueryResult{.result = 100, .output = 0}));
 }
 
 TEST_F(GetMixerInputSelectorStatus, RejectsAChannelOutOfRange) {
@@ -202,12 +203,12 @@ TEST_F(GetMixerInputSelectorStatus, RejectsAChannelOutOfRange) {
        {5u, 6u, 0x7FFFFFFFu, 0x80000000u, 4294967295u}) {
     SCOPED_TRACE(channel);
     EXPECT_EQ(Ask({Mixer()}, SelectorOf(channel)),
-              (Told{.result = 102, .output = kUntouched}));
+              (QueryResult{.result = 102, .output = kUntouched}));
     EXPECT_THAT(TakeCalls(), IsEmpty());
   }
 }
 
-TEST_F(GetMixerInputSelectorStatus, AnswersSixteenAndRejectsSeventeen) {
+TEST_F(GetMixerInputSelectorStatus, AcceptsSixteenAndRejectsSeventeen) {
   const struct {
     std::uint8_t position;
     ZTKResult expected;
@@ -215,12 +216,12 @@ TEST_F(GetMixerInputSelectorStatus, AnswersSixteenAndRejectsSeventeen) {
   for (const auto &row : rows) {
     EXPECT_EQ(Ask({MixerAnswering(kSelectors, {.bytes = {0, 0, row.position}})},
                   SelectorOf(1)),
-              (Told{.result = row.expected, .output = row.position}));
+              (QueryResult{.result = row.expected, .output = row.position}));
   }
 }
 
-TEST_F(GetMixerInputSelectorStatus, TakesZeroForAByteThatDidNotCome) {
-  const Told zero{.result = 100, .output = 0};
+TEST_F(GetMixerInputSelectorStatus, IsZeroIfTheMixerDoesNotSendTheByte) {
+  const QueryResult zero{.result = 100, .output = 0};
   const std::vector<std::uint8_t> all = {7, 7, 7, 7, 7};
   for (std::uint32_t length = 0; length <= 5; ++length) {
     const std::vector<std::uint8_t> bytes(all.begin(), all.begin() + length);
@@ -230,41 +231,42 @@ TEST_F(GetMixerInputSelectorStatus, TakesZeroForAByteThatDidNotCome) {
             Ask({MixerAnswering(kSelectors,
                                 {.result = result, .bytes = bytes})},
                 SelectorOf(channel)),
-            (length > channel + 1 ? Told{.result = 100, .output = 7} : zero))
+            (length > channel + 1 ? QueryResult{.result = 100, .output = 7}
+                                  : zero))
             << "length " << length << ", channel " << channel;
       }
     }
   }
 }
 
-TEST_F(GetMixerInputSelectorStatus, AsksEveryMixerThatOpens) {
+TEST_F(GetMixerInputSelectorStatus, AsksEveryMixerThatCanBeOpened) {
   ExpectEveryWalk({.request = "c0 00 0000 8002 0005 -> 00 04 04 04 04"}, [] {
     std::uint32_t position = 0;
     return ZTK_GetMixerInputSelectorStatus(10, 0, &position);
   });
 }
 
-TEST_F(GetMixerInputSelectorStatus, LeavesTheOutputWhenNoMixerOpens) {
-  const Told untouched{.result = 100, .output = kUntouched};
+TEST_F(GetMixerInputSelectorStatus, DoesNotWriteTheOutputIfNoMixerCanBeOpened) {
+  const QueryResult untouched{.result = 100, .output = kUntouched};
   EXPECT_EQ(Ask({}, SelectorOf(0)), untouched);
   EXPECT_EQ(Ask({UnreachableMixer()}, SelectorOf(0)), untouched);
 }
 
-TEST_F(GetMixerInputSelectorStatus, TellsTheLastMixerAndStopsAtABadOne) {
+TEST_F(GetMixerInputSelectorStatus, ReturnsTheLastMixerAndStopsAtABadPosition) {
   const Device good = MixerAnswering(kSelectors, {.bytes = {0, 3}});
   const Device other = MixerAnswering(kSelectors, {.bytes = {0, 5}});
   const Device bad = MixerAnswering(kSelectors, {.bytes = {0, 17}});
   const Device silent = SilentAt(kSelectors);
   EXPECT_EQ(Ask({good, other}, SelectorOf(0)),
-            (Told{.result = 100, .output = 5}));
+            (QueryResult{.result = 100, .output = 5}));
   EXPECT_EQ(Ask({good, UnreachableMixer()}, SelectorOf(0)),
-            (Told{.result = 100, .output = 3}));
+            (QueryResult{.result = 100, .output = 3}));
   EXPECT_EQ(Ask({good, silent}, SelectorOf(0)),
-            (Told{.result = 100, .output = 0}));
+            (QueryResult{.result = 100, .output = 0}));
   EXPECT_EQ(Ask({good, bad}, SelectorOf(0)),
-            (Told{.result = 102, .output = 17}));
+            (QueryResult{.result = 102, .output = 17}));
   EXPECT_EQ(Ask({bad, good}, SelectorOf(0)),
-            (Told{.result = 102, .output = 17}));
+            (QueryResult{.result = 102, .output = 17}));
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 1",
                           "mixer 1: c0 00 0000 8002 0005 -> 00 11", "close 1"));
@@ -272,14 +274,14 @@ TEST_F(GetMixerInputSelectorStatus, TellsTheLastMixerAndStopsAtABadOne) {
 
 class GetMixerSeratoActiveStatus : public StatusTest {};
 
-TEST_F(GetMixerSeratoActiveStatus, TakesTheFirstByteAndRejectsTwoAndMore) {
-  const Told unknown{.result = 102, .output = kUntouched};
-  const Told inactive{.result = 100, .output = 0};
-  const Told active{.result = 100, .output = 1};
+TEST_F(GetMixerSeratoActiveStatus, ReadsTheFirstByteAndRejectsTwoAndMore) {
+  const QueryResult unknown{.result = 102, .output = kUntouched};
+  const QueryResult inactive{.result = 100, .output = 0};
+  const QueryResult active{.result = 100, .output = 1};
   const struct {
     const char *name;
     Answer answer;
-    Told expected;
+    QueryResult expected;
   } rows[] = {
       {"inactive", {.bytes = {0, 0}}, inactive},
       {"active", {.bytes = {1, 0}}, active},
@@ -298,7 +300,7 @@ TEST_F(GetMixerSeratoActiveStatus, TakesTheFirstByteAndRejectsTwoAndMore) {
   }
 }
 
-TEST_F(GetMixerSeratoActiveStatus, AsksEveryMixerThatOpens) {
+TEST_F(GetMixerSeratoActiveStatus, AsksEveryMixerThatCanBeOpened) {
   ExpectEveryWalk({.request = "c0 00 0000 8004 0002 -> 00 00"}, [] {
     std::uint32_t active = 0;
     return ZTK_GetMixerSeratoActiveStatus(10, &active);
@@ -315,26 +317,28 @@ TEST_F(GetMixerSeratoActiveStatus, SearchesTheBusOnceForEachMixer) {
   EXPECT_EQ(std::count(calls.begin(), calls.end(), "find every service"), 2);
 }
 
-TEST_F(GetMixerSeratoActiveStatus, LeavesTheOutputWhenNoMixerOpens) {
-  const Told untouched{.result = 100, .output = kUntouched};
+TEST_F(GetMixerSeratoActiveStatus, DoesNotWriteTheOutputIfNoMixerCanBeOpened) {
+  const QueryResult untouched{.result = 100, .output = kUntouched};
   EXPECT_EQ(Ask({}, Serato), untouched);
   EXPECT_EQ(Ask({UnreachableMixer()}, Serato), untouched);
 }
 
-TEST_F(GetMixerSeratoActiveStatus, TellsTheLastMixerAndStopsAtABadOne) {
+TEST_F(GetMixerSeratoActiveStatus, ReturnsTheLastMixerAndStopsAtABadState) {
   const Device active = MixerAnswering(kSerato, {.bytes = {1, 0}});
   const Device inactive = MixerAnswering(kSerato, {.bytes = {0, 0}});
   const Device bad = MixerAnswering(kSerato, {.bytes = {2, 0}});
   const Device silent = SilentAt(kSerato);
   EXPECT_EQ(Ask({active, inactive}, Serato),
-            (Told{.result = 100, .output = 0}));
+            (QueryResult{.result = 100, .output = 0}));
   EXPECT_EQ(Ask({active, UnreachableMixer()}, Serato),
-            (Told{.result = 100, .output = 1}));
-  // What the first mixer said stays in the output.
-  EXPECT_EQ(Ask({active, bad}, Serato), (Told{.result = 102, .output = 1}));
-  EXPECT_EQ(Ask({active, silent}, Serato), (Told{.result = 102, .output = 1}));
+            (QueryResult{.result = 100, .output = 1}));
+  // The output contains the answer of the first mixer.
+  EXPECT_EQ(Ask({active, bad}, Serato),
+            (QueryResult{.result = 102, .output = 1}));
+  EXPECT_EQ(Ask({active, silent}, Serato),
+            (QueryResult{.result = 102, .output = 1}));
   EXPECT_EQ(Ask({bad, active}, Serato),
-            (Told{.result = 102, .output = kUntouched}));
+            (QueryResult{.result = 102, .output = kUntouched}));
   EXPECT_THAT(TakeSteps(),
               ElementsAre("count", "open 1",
                           "mixer 1: c0 00 0000 8004 0002 -> 02 00", "close 1"));
@@ -342,7 +346,7 @@ TEST_F(GetMixerSeratoActiveStatus, TellsTheLastMixerAndStopsAtABadOne) {
 
 class StatusQueries : public StatusTest {};
 
-TEST_F(StatusQueries, HoldOnlyWhatOneCountLeaves) {
+TEST_F(StatusQueries, ReleaseAllObjectsExceptThoseOfTheCount) {
   for (const Query &query : {Query(CertifyLevel), Query(FirmwareVersion),
                              SelectorOf(0), Query(Serato)}) {
     Ask({OtherDevice(), Mixer()}, query);

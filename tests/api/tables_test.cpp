@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Every entry of every visible table, those that no function reaches included:
-// programs may read the tables themselves.
+// Tests every entry of every exported table, including the entries that no
+// function uses, because programs may read the tables.
 #include "api/tables.h"
 
 #include "api/api_test.h"
@@ -69,7 +69,7 @@ TEST_F(VisibleTables, InputAudioTextHas43TextsAndANullAtItsEnd) {
   EXPECT_THAT(InputAudioText[43], IsNull());
 }
 
-TEST_F(VisibleTables, PulldownTextHasFiveRowsOfEightAndTwoEntriesBehind) {
+TEST_F(VisibleTables, PulldownTextHasFiveRowsOfEightAndTwoMoreEntries) {
   EXPECT_THAT(PC_INPUT_PULLDOWN_TEXT,
               ElementsAreArray({27, 28, 4,  20, 21, 22, 39, 42,  //
                                 30, 31, 9,  20, 21, 22, 39, 42,  //
@@ -79,7 +79,7 @@ TEST_F(VisibleTables, PulldownTextHasFiveRowsOfEightAndTwoEntriesBehind) {
                                 42, 42}));
 }
 
-TEST_F(VisibleTables, InputDeviceValuesHaveFiveRowsOfEightAndTwoBehind) {
+TEST_F(VisibleTables, InputDeviceValuesHaveFiveRowsOfEightAndTwoMore) {
   EXPECT_THAT(
       _convTable_PC_INPUT,
       ElementsAreArray(
@@ -95,7 +95,7 @@ TEST_F(VisibleTables, OutputAudioHasThreeTexts) {
   EXPECT_THAT(Plain(OutputAudioText), ElementsAre("CH1", "CH2", "AUX"));
 }
 
-TEST_F(VisibleTables, OutputTextPositionsHaveARowOfZerosBehind) {
+TEST_F(VisibleTables, OutputTextPositionsEndWithARowOfZeros) {
   EXPECT_THAT(VRMB5_OUT_TEXT, ElementsAreArray({0, 1, 2,  //
                                                 0, 1, 2,  //
                                                 0, 1, 2,  //
@@ -108,7 +108,7 @@ TEST_F(VisibleTables, OutputDeviceValuesCountChannelsFromOne) {
                                                   0x0300, 0x0301, 0x0304}));
 }
 
-TEST_F(VisibleTables, BoostLevelCodesRunAgainstTheTexts) {
+TEST_F(VisibleTables, BoostLevelCodesHaveTheOppositeOrderOfTheTexts) {
   EXPECT_THAT(Plain(BoostLevelText),
               ElementsAre("-5 dB", "-10 dB", "-15 dB", "-19 dB"));
   EXPECT_THAT(_convDbTable, ElementsAre(3, 2, 1, 0));
@@ -121,7 +121,7 @@ TEST_F(VisibleTables, MidiChannelTextsCountFromOne) {
                           "CH 13", "CH 14", "CH 15", "CH 16"));
 }
 
-TEST_F(VisibleTables, MidiKeyModeTextsAreThereAlthoughNothingReadsThem) {
+TEST_F(VisibleTables, MidiKeyModeTextsExistAlthoughNothingReadsThem) {
   EXPECT_THAT(Plain(MidiKeyModeText), ElementsAre("Toggle", "Trigger"));
 }
 

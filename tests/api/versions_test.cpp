@@ -26,7 +26,8 @@ class VersionTest : public ApiTest {
  protected:
   VersionTest() { InstallEverything(); }
 
-  // Every file at both places, each with another text under either key.
+  // Makes all files, for older and newer systems. Each file has another text
+  // under each key.
   static void InstallEverything() {
     CurrentWorld().files = {{kSystemFile, {{"ProductVersion", "10.13.6"}}},
                             {kPkgFile, {{"PackageVersion", "package"}}},
@@ -41,13 +42,13 @@ class VersionTest : public ApiTest {
     CurrentWorld().files[kSystemFile] = {{"ProductVersion", version}};
   }
 
-  static std::string Told(VersionFunction function) {
+  static std::string ResultOf(VersionFunction function) {
     ZTKTextRef text = kUntouchedText;
     const ZTKResult result = function(10, &text);
     return std::to_string(result) + " " + Plain(text);
   }
 
-  // The files that were read since the last question, in order.
+  // Returns the files that were read since the last call of this function.
   static Steps FilesRead() {
     Steps files;
     const std::string verb = "read file ";
@@ -64,7 +65,7 @@ class VersionTest : public ApiTest {
   }
 };
 
-// The system versions that decide between the two places.
+// System versions, and whether they are newer ones.
 const struct {
   const char *version;
   bool newer;
@@ -92,108 +93,108 @@ const struct {
 class GetPkgVersionText : public VersionTest {};
 
 TEST_F(GetPkgVersionText, ReadsTheReceiptAndNothingElse) {
-  EXPECT_EQ(Told(ZTK_GetPkgVersionText), "100 package");
+  EXPECT_EQ(ResultOf(ZTK_GetPkgVersionText), "100 package");
   EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kPkgFile,
                                        "release dictionary"));
 }
 
-TEST_F(GetPkgVersionText, RejectsAMissingReceiptAndOneWithoutItsKey) {
+TEST_F(GetPkgVersionText, RejectsAMissingReceiptAndAMissingKey) {
   CurrentWorld().files[kPkgFile] = {{"CFBundleVersion", "1"}};
-  EXPECT_EQ(Told(ZTK_GetPkgVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetPkgVersionText), "102 untouched");
   CurrentWorld().files.erase(kPkgFile);
-  EXPECT_EQ(Told(ZTK_GetPkgVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetPkgVersionText), "102 untouched");
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 class GetUtilityVersionText : public VersionTest {};
 
 TEST_F(GetUtilityVersionText, ReadsTheBuildVersionAndNothingElse) {
-  EXPECT_EQ(Told(ZTK_GetUtilityVersionText), "100 utility build");
+  EXPECT_EQ(ResultOf(ZTK_GetUtilityVersionText), "100 utility build");
   EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kUtilityFile,
                                        "release dictionary"));
 }
 
-TEST_F(GetUtilityVersionText, RejectsAMissingFileAndAShortVersionAlone) {
+TEST_F(GetUtilityVersionText, RejectsAMissingFileAndAMissingBuildVersion) {
   CurrentWorld().files[kUtilityFile] = {{"CFBundleShortVersionString", "1"}};
-  EXPECT_EQ(Told(ZTK_GetUtilityVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetUtilityVersionText), "102 untouched");
   CurrentWorld().files.erase(kUtilityFile);
-  EXPECT_EQ(Told(ZTK_GetUtilityVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetUtilityVersionText), "102 untouched");
 }
 
 class GetDriverVersionText : public VersionTest {};
 
-TEST_F(GetDriverVersionText, TellsTheShortVersionWhereTheOthersTellTheirBuild) {
-  EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 new driver short");
+TEST_F(GetDriverVersionText, ReturnsTheShortVersionAndNotTheBuildVersion) {
+  EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText), "100 new driver short");
   CurrentWorld().files[kNewDriver] = {{"CFBundleVersion", "1"}};
-  EXPECT_EQ(Told(ZTK_GetDriverVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText), "102 untouched");
 }
 
-TEST_F(GetDriverVersionText, ChoosesItsPlaceByTheSecondNumberOfTheSystem) {
+TEST_F(GetDriverVersionText, TheSecondNumberOfTheSystemVersionSelectsTheFile) {
   for (const auto &row : kSystems) {
     SCOPED_TRACE(row.version);
     SetSystem(row.version);
-    EXPECT_EQ(Told(ZTK_GetDriverVersionText),
+    EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText),
               row.newer ? "100 new driver short" : "100 old driver short");
     EXPECT_THAT(FilesRead(),
                 ElementsAre(kSystemFile, row.newer ? kNewDriver : kOldDriver));
   }
 }
 
-TEST_F(GetDriverVersionText, TakesTheOlderPlaceWhenTheSystemIsUnknown) {
+TEST_F(GetDriverVersionText, ReadsTheOlderFileIfTheSystemVersionIsUnknown) {
   SetSystem(1011);
-  EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 old driver short");
+  EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText), "100 old driver short");
   SetSystem(std::monostate{});
-  EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 old driver short");
+  EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText), "100 old driver short");
   CurrentWorld().files[kSystemFile] = {{"ProductBuildVersion", "10.15"}};
-  EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 old driver short");
+  EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText), "100 old driver short");
   CurrentWorld().files.erase(kSystemFile);
-  EXPECT_EQ(Told(ZTK_GetDriverVersionText), "100 old driver short");
+  EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText), "100 old driver short");
   EXPECT_THAT(FilesRead(),
               ElementsAre(kSystemFile, kOldDriver, kSystemFile, kOldDriver,
                           kSystemFile, kOldDriver, kSystemFile, kOldDriver));
 }
 
-TEST_F(GetDriverVersionText, DoesNotTryTheOtherPlace) {
+TEST_F(GetDriverVersionText, DoesNotTryTheOtherFile) {
   SetSystem("10.10");
   CurrentWorld().files.erase(kOldDriver);
-  EXPECT_EQ(Told(ZTK_GetDriverVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText), "102 untouched");
   EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, kOldDriver));
 
   InstallEverything();
   CurrentWorld().files.erase(kNewDriver);
-  EXPECT_EQ(Told(ZTK_GetDriverVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetDriverVersionText), "102 untouched");
   EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, kNewDriver));
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
 class GetLibraryVersionText : public VersionTest {};
 
-TEST_F(GetLibraryVersionText, TellsTheBuildVersion) {
-  EXPECT_EQ(Told(ZTK_GetLibraryVersionText), "100 new library build");
+TEST_F(GetLibraryVersionText, ReturnsTheBuildVersion) {
+  EXPECT_EQ(ResultOf(ZTK_GetLibraryVersionText), "100 new library build");
   CurrentWorld().files[kNewLibrary] = {{"CFBundleShortVersionString", "1"}};
-  EXPECT_EQ(Told(ZTK_GetLibraryVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetLibraryVersionText), "102 untouched");
 }
 
-TEST_F(GetLibraryVersionText, ChoosesItsPlaceByTheSecondNumberOfTheSystem) {
+TEST_F(GetLibraryVersionText, TheSecondNumberOfTheSystemVersionSelectsTheFile) {
   for (const auto &row : kSystems) {
     SCOPED_TRACE(row.version);
     SetSystem(row.version);
-    EXPECT_EQ(Told(ZTK_GetLibraryVersionText),
+    EXPECT_EQ(ResultOf(ZTK_GetLibraryVersionText),
               row.newer ? "100 new library build" : "100 old library build");
     EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, row.newer ? kNewLibrary
                                                                 : kOldLibrary));
   }
 }
 
-TEST_F(GetLibraryVersionText, DoesNotTryTheOtherPlace) {
+TEST_F(GetLibraryVersionText, DoesNotTryTheOtherFile) {
   CurrentWorld().files.erase(kNewLibrary);
-  EXPECT_EQ(Told(ZTK_GetLibraryVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetLibraryVersionText), "102 untouched");
   EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, kNewLibrary));
 
   InstallEverything();
   CurrentWorld().files.erase(kSystemFile);
   CurrentWorld().files.erase(kOldLibrary);
-  EXPECT_EQ(Told(ZTK_GetLibraryVersionText), "102 untouched");
+  EXPECT_EQ(ResultOf(ZTK_GetLibraryVersionText), "102 untouched");
   EXPECT_THAT(FilesRead(), ElementsAre(kSystemFile, kOldLibrary));
 }
 
@@ -213,28 +214,28 @@ class VersionTexts : public VersionTest {
   }
 };
 
-TEST_F(VersionTexts, AreHandedOutExactlyAsTheyStand) {
+TEST_F(VersionTexts, AreReturnedUnchanged) {
   for (const char *version :
        {"1.0.0", "  1.0 b2 \n", "", "not a version", "\u7248 1.0", "01.00"}) {
     SCOPED_TRACE(version);
     SetEveryVersion(version);
     for (const VersionFunction function : kAllFour) {
-      EXPECT_EQ(Told(function), std::string("100 ") + version);
+      EXPECT_EQ(ResultOf(function), std::string("100 ") + version);
     }
   }
 }
 
-TEST_F(VersionTexts, CountAsAbsentWhenTheyAreNotTexts) {
+TEST_F(VersionTexts, CountAsAbsentIfTheyAreNotTexts) {
   for (const fake::Value &version :
        {fake::Value{1}, fake::Value{std::monostate{}}}) {
     SetEveryVersion(version);
     for (const VersionFunction function : kAllFour) {
-      EXPECT_EQ(Told(function), "102 untouched");
+      EXPECT_EQ(ResultOf(function), "102 untouched");
     }
   }
 }
 
-TEST_F(VersionTexts, AreRefusedToOtherProductsAlthoughEveryFileIsThere) {
+TEST_F(VersionTexts, AreRefusedForOtherProductsEvenIfEveryFileExists) {
   for (const VersionFunction function : kAllFour) {
     for (const std::uint32_t product : {0u, 1u, 8u, 9u, 11u, 0xFFFFFFFFu}) {
       ZTKTextRef text = kUntouchedText;
@@ -246,16 +247,16 @@ TEST_F(VersionTexts, AreRefusedToOtherProductsAlthoughEveryFileIsThere) {
   }
 }
 
-TEST_F(VersionTexts, AskNoMixerAndHoldNothing) {
+TEST_F(VersionTexts, NeedNoMixerAndAllObjectsAreReleased) {
   CurrentWorld().bus = {Mixer()};
   for (const VersionFunction function : kAllFour) {
-    EXPECT_EQ(Told(function).substr(0, 3), "100");
+    EXPECT_EQ(ResultOf(function).substr(0, 3), "100");
   }
   EXPECT_THAT(TakeSteps(), IsEmpty());
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(VersionTexts, OutliveTheFileTheyCameFrom) {
+TEST_F(VersionTexts, AreValidAfterTheFileIsRemoved) {
   ZTKTextRef text = nullptr;
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 100u);
   CurrentWorld().files.clear();

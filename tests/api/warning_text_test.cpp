@@ -13,7 +13,7 @@ constexpr std::uint32_t kUsersOwn = 99;
 
 constexpr char kReadPort[] = "c0 00 0000 8006 0002 -> 00 00";
 
-// The folder of each language code; a test reads "/new/<folder>.lproj".
+// The folder of each language number.
 const char *const kFolders[] = {"English", "Japanese", "French",  "German",
                                 "Italian", "Dutch",    "Spanish", "ru",
                                 "pt",      "zh_CN",    "zh_TW",   "ko"};
@@ -22,8 +22,8 @@ class GetWarningTextForSetUSBAudioInput : public ApiTest {
  protected:
   GetWarningTextForSetUSBAudioInput() { Install(); }
 
-  // A new system, the bundle at both places, and every language in the newer
-  // one: "Japanese 2" stands under "WARNING2" there.
+  // Makes a newer system with both bundles. The newer bundle has every
+  // language: its text of "WARNING2" in Japanese is "Japanese 2".
   static void Install() {
     CurrentWorld().files[kSystemFile] = {{"ProductVersion", "10.13.6"}};
     CurrentWorld().bundles[kNewBundle] = BundleAt("/new");
@@ -44,7 +44,8 @@ class GetWarningTextForSetUSBAudioInput : public ApiTest {
     return std::to_string(result) + " " + Plain(text);
   }
 
-  // What was looked up since the last question, without the bus.
+  // Returns the files, bundles and texts that were read since the last call of
+  // this function.
   static Steps Lookups() {
     Steps lookups;
     for (const std::string &call : TakeCalls()) {
@@ -82,7 +83,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, ReadsTheFolderOfEachLanguage) {
   }
 }
 
-TEST_F(GetWarningTextForSetUSBAudioInput, TakesTheUsersLanguageFor99) {
+TEST_F(GetWarningTextForSetUSBAudioInput, UsesTheUsersLanguageFor99) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(Ask(kUsersOwn), "100 /new own 2");
   EXPECT_THAT(Lookups(), ElementsAre(std::string("read file ") + kSystemFile,
@@ -95,7 +96,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, TakesTheUsersLanguageFor99) {
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput,
-       TakesTheUsersLanguageWithoutAMixerWhateverIsAskedFor) {
+       UsesTheUsersLanguageForAnyLanguageNumberWithoutAMixer) {
   for (std::uint32_t language = 0; language < 12; ++language) {
     SCOPED_TRACE(language);
     EXPECT_EQ(Ask(language), "100 /new own 1");
@@ -106,7 +107,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput,
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput,
-       RefusesAnUnknownLanguageOnlyAfterTheMixerWasAsked) {
+       RefusesAnUnknownLanguageOnlyAfterTheRequestToTheMixer) {
   for (const std::uint32_t language :
        {12u, 13u, 98u, 100u, 0x80000000u, 0xFFFFFFFFu}) {
     SCOPED_TRACE(language);
@@ -137,7 +138,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput,
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(GetWarningTextForSetUSBAudioInput, RefusesAnythingButAWarning) {
+TEST_F(GetWarningTextForSetUSBAudioInput, RefusesEveryCodeExceptTheWarning) {
   CurrentWorld().bus = {Mixer()};
   for (const std::uint32_t code :
        {0u, 1u, 99u, 100u, 102u, 103u, 104u, 0x80000065u, 0xFFFFFFFFu}) {
@@ -149,7 +150,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, RefusesAnythingButAWarning) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-// A language of 12 would be refused too, but with a trace on the bus.
+// Language 12 is refused too, but only after a request to the mixer.
 TEST_F(GetWarningTextForSetUSBAudioInput, ChecksTheOtherArgumentsFirst) {
   CurrentWorld().bus = {Mixer()};
   ZTKTextRef text = kUntouchedText;
@@ -160,7 +161,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, ChecksTheOtherArgumentsFirst) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(GetWarningTextForSetUSBAudioInput, ChoosesTheSentenceByThePortState) {
+TEST_F(GetWarningTextForSetUSBAudioInput, ThePortStateSelectsTheSentence) {
   const struct {
     const char *name;
     Device mixer;
@@ -196,13 +197,13 @@ TEST_F(GetWarningTextForSetUSBAudioInput, AsksTheFirstMixerOnly) {
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput,
-       TakesAMixerForPresentThatIsCountedAndDoesNotOpen) {
+       AMixerThatCannotBeOpenedCountsAsAttached) {
   CurrentWorld().bus = {UnreachableMixer()};
   EXPECT_EQ(Ask(kJapanese), "100 Japanese 2");
   EXPECT_EQ(Ask(kUsersOwn), "100 /new own 2");
 }
 
-TEST_F(GetWarningTextForSetUSBAudioInput, ChoosesTheBundleByTheSystemVersion) {
+TEST_F(GetWarningTextForSetUSBAudioInput, TheSystemVersionSelectsTheBundle) {
   const struct {
     const char *version;
     const char *expected;
@@ -252,7 +253,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, IsNullWithoutTheLanguage) {
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput,
-       IsNullWhenTheLanguageLacksTheSentenceThatIsDue) {
+       IsNullIfTheLanguageDoesNotContainTheSentence) {
   const std::string file = "/new/Japanese.lproj/Localizable.strings";
   CurrentWorld().bus = {Port({1, 0})};
   CurrentWorld().files[file] = {{"WARNING2", "two"}};
@@ -264,7 +265,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput,
   EXPECT_EQ(Ask(kJapanese), "100 (null)");
 }
 
-TEST_F(GetWarningTextForSetUSBAudioInput, IsTheKeyWhenTheBundleLacksItsText) {
+TEST_F(GetWarningTextForSetUSBAudioInput, IsTheKeyIfTheBundleDoesNotContainIt) {
   CurrentWorld().bundles[kNewBundle].preferredTexts.clear();
   EXPECT_EQ(Ask(kJapanese), "100 WARNING1");
   CurrentWorld().bus = {Port({1, 0})};
@@ -272,7 +273,7 @@ TEST_F(GetWarningTextForSetUSBAudioInput, IsTheKeyWhenTheBundleLacksItsText) {
 }
 
 TEST_F(GetWarningTextForSetUSBAudioInput,
-       StoresAndPostsNothingAndHoldsNothing) {
+       StoresAndPostsNothingAndReleasesAllObjects) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(Ask(kJapanese), "100 Japanese 2");
   EXPECT_THAT(TakeSteps(),

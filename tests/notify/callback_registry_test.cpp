@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Registering and unregistering: which products are served, and which slots are
+// Tests which products can be registered and unregistered, and which slots are
 // written.
 #include "notify/callback_registry.h"
 
@@ -15,14 +15,15 @@ namespace {
 void OnChannelToo(std::int32_t, std::int32_t, void *) {}
 void OnIndexToo(std::int32_t, void *) {}
 
-// One family. Both types of callback are converted to one.
+// A family of settings. Both types of callback are converted to the same type.
 struct Family {
   const char *name;
   std::uint32_t productId;
-  // Registers one of two callbacks.
+  // Registers the first or the second callback.
   std::function<ZTKResult(std::uint32_t, bool second, void *)> registerOne;
   ZTKResult (*unregister)(std::uint32_t, void *);
-  // True when the slot holds the first callback, the second, or null.
+  // Returns true if the slot contains the first callback, the second one, or
+  // null.
   std::function<bool(int)> holdsFirst;
   std::function<bool(int)> holdsSecond;
   std::function<bool(int)> isEmpty;
@@ -82,7 +83,7 @@ constexpr std::uint32_t kIds[] = {
 
 class CallbackRegistry : public CoreTest {
  protected:
-  // True when no family has a callback or a context anywhere.
+  // Returns true if no slot of any family has a callback or a context.
   static bool TablesAreBlank() {
     for (int id = 0; id < 11; ++id) {
       if (MidiKeyModeChangedCallback[id] != nullptr) return false;
@@ -93,7 +94,7 @@ class CallbackRegistry : public CoreTest {
     }
     return true;
   }
-  // The same, and there is no observer.
+  // Returns true if there is also no observer.
   static bool IsBlank() { return _ZTKFunc == nullptr && TablesAreBlank(); }
 
   int context_ = 0;
@@ -102,7 +103,7 @@ class CallbackRegistry : public CoreTest {
 
 class Register : public CallbackRegistry {};
 
-TEST_F(Register, ServesOneProductOfEachFamilyAndDoesNothingForTheOthers) {
+TEST_F(Register, AcceptsOneProductOfEachFamilyAndIgnoresOthers) {
   for (const Family &family : kFamilies) {
     SCOPED_TRACE(family.name);
     for (const std::uint32_t id : kIds) {
@@ -119,7 +120,7 @@ TEST_F(Register, ServesOneProductOfEachFamilyAndDoesNothingForTheOthers) {
   }
 }
 
-TEST_F(Register, ObservesTheFamilysNameWithItsMethod) {
+TEST_F(Register, AddsAnObserverWithTheNameAndMethodOfTheFamily) {
   for (const Family &family : kFamilies) {
     SCOPED_TRACE(family.name);
     family.registerOne(family.productId, false, &context_);
@@ -128,7 +129,7 @@ TEST_F(Register, ObservesTheFamilysNameWithItsMethod) {
   }
 }
 
-TEST_F(Register, StoresCallbackAndContextInTheSlotOfTheProductOnly) {
+TEST_F(Register, StoresCallbackAndContextOnlyInTheSlotOfTheProduct) {
   for (const Family &family : kFamilies) {
     SCOPED_TRACE(family.name);
     const int slot = static_cast<int>(family.productId);
@@ -146,8 +147,9 @@ TEST_F(Register, StoresCallbackAndContextInTheSlotOfTheProductOnly) {
   }
 }
 
-// A notification that arrives while the observer is being added finds the slot
-// as it was before: the callback must not run before Register has returned.
+// If a notification arrives while the observer is being added, the slot must
+// have its old content: the new callback must not run before Register has
+// returned.
 TEST_F(Register, AddsTheObserverBeforeItStoresTheCallback) {
   for (const Family &family : kFamilies) {
     SCOPED_TRACE(family.name);
@@ -196,7 +198,7 @@ TEST_F(Register, OverwritesCallbackAndContext) {
   }
 }
 
-TEST_F(Register, TakesANullCallbackAndObservesAllTheSame) {
+TEST_F(Register, AcceptsANullCallbackAndStillAddsAnObserver) {
   EXPECT_EQ(ZTK_RegisterInputAudioChangedCallback(10, nullptr, &context_),
             100u);
   EXPECT_EQ(InputAudioChangedCallback[10], nullptr);
@@ -225,7 +227,7 @@ TEST_F(Unregister, ServesMoreProductsThanRegisterDoes) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(Unregister, EmptiesTheSlotAndKeepsContextAndObserver) {
+TEST_F(Unregister, ClearsTheCallbackAndKeepsContextAndObserver) {
   for (const Family &family : kFamilies) {
     SCOPED_TRACE(family.name);
     const int slot = static_cast<int>(family.productId);
@@ -240,7 +242,7 @@ TEST_F(Unregister, EmptiesTheSlotAndKeepsContextAndObserver) {
   }
 }
 
-TEST_F(Unregister, EmptiesTheSlotOfTheProductAskedForOnly) {
+TEST_F(Unregister, ClearsOnlyTheSlotOfTheProduct) {
   for (int id = 0; id < 11; ++id) {
     InputAudioChangedCallback[id] = OnChannel;
     OutputAudioChangedCallback[id] = OnChannel;
@@ -261,7 +263,7 @@ TEST_F(Unregister, EmptiesTheSlotOfTheProductAskedForOnly) {
   }
 }
 
-TEST_F(Unregister, LeavesTheOtherFamiliesAlone) {
+TEST_F(Unregister, DoesNotChangeTheOtherFamilies) {
   for (const Family &family : kFamilies) {
     family.registerOne(family.productId, false, nullptr);
   }
@@ -274,7 +276,7 @@ TEST_F(Unregister, LeavesTheOtherFamiliesAlone) {
 
 class RegisterMidiKeyMode : public CallbackRegistry {};
 
-TEST_F(RegisterMidiKeyMode, IsRegisteredAndUnregisteredForNoProduct) {
+TEST_F(RegisterMidiKeyMode, RejectsEveryProduct) {
   for (const std::uint32_t id : kIds) {
     SCOPED_TRACE(id);
     EXPECT_EQ(ZTK_RegisterMidiKeyModeChangedCallback(id, OnIndex, &context_),
@@ -285,7 +287,7 @@ TEST_F(RegisterMidiKeyMode, IsRegisteredAndUnregisteredForNoProduct) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(RegisterMidiKeyMode, KeepsASlotThatAProgramFilledByHand) {
+TEST_F(RegisterMidiKeyMode, DoesNotChangeASlotThatAProgramWrote) {
   MidiKeyModeChangedCallback[1] = OnIndex;
   ZTK_UnregisterMidiKeyModeChangedCallback(1, nullptr);
   EXPECT_EQ(MidiKeyModeChangedCallback[1], OnIndex);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Receiving: from a notification of any process to the registered callback.
+// Tests how a notification of any process reaches the registered callback.
 #include <limits>
 
 #include "notify/observer.h"
@@ -17,19 +17,19 @@ constexpr char kOutputAudio[] = "VRM-D6 OutputAudio Change";
 constexpr char kBoostLevel[] = "VRM-D6 BoostLevel Change";
 constexpr char kMidiChannel[] = "VRM-K2 MidiChannel Change";
 
-// Written by the callbacks below; a context points to it.
-struct Diary {
+// The callbacks below store their arguments here. The context points to it.
+struct ReceivedCalls {
   std::vector<std::string> calls;
 };
 
 void NoteChannel(std::int32_t channel, std::int32_t index, void *context) {
-  static_cast<Diary *>(context)->calls.push_back(
+  static_cast<ReceivedCalls *>(context)->calls.push_back(
       "channel " + std::to_string(channel) + " index " + std::to_string(index));
 }
 
 void NoteIndex(std::int32_t index, void *context) {
-  static_cast<Diary *>(context)->calls.push_back("index " +
-                                                 std::to_string(index));
+  static_cast<ReceivedCalls *>(context)->calls.push_back("index " +
+                                                         std::to_string(index));
 }
 
 class Observer : public CoreTest {
@@ -38,7 +38,7 @@ class Observer : public CoreTest {
     return std::exchange(diary_.calls, {});
   }
 
-  Diary diary_;
+  ReceivedCalls diary_;
 };
 
 TEST_F(Observer, CallsInputAudioWithChannelIndexAndContext) {
@@ -72,7 +72,7 @@ TEST_F(Observer, ReadsTheRecordByKeyAndNotByOrder) {
   EXPECT_THAT(TakeNotes(), ElementsAre("channel 2 index 5"));
 }
 
-TEST_F(Observer, PassesAnyNumberOn) {
+TEST_F(Observer, PassesAnyNumberToTheCallback) {
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   Deliver(kInputAudio, {{"ProductID", 10},
                         {"Channel", -1},
@@ -90,7 +90,7 @@ TEST_F(Observer, ReadsAMissingKeyAsZero) {
               ElementsAre("channel 0 index 0", "channel 0 index 4", "index 0"));
 }
 
-TEST_F(Observer, TakesAMissingProductForProductZero) {
+TEST_F(Observer, ReadsAMissingProductAsProductZero) {
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   Deliver(kInputAudio, {{"Channel", 2}, {"Index", 5}});
   EXPECT_THAT(TakeNotes(), IsEmpty());
@@ -102,9 +102,9 @@ TEST_F(Observer, TakesAMissingProductForProductZero) {
               ElementsAre("channel 2 index 5", "channel 0 index 0"));
 }
 
-TEST_F(Observer, UsesTheSlotOfTheProductThatIsNamed) {
+TEST_F(Observer, UsesTheSlotOfTheProductInTheRecord) {
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
-  Diary others[10];
+  ReceivedCalls others[10];
   for (int id = 0; id < 10; ++id) {
     InputAudioChangedCallback[id] = NoteChannel;
     InputAudioChangedContext[id] = &others[id];
@@ -118,9 +118,9 @@ TEST_F(Observer, UsesTheSlotOfTheProductThatIsNamed) {
   EXPECT_THAT(TakeNotes(), IsEmpty());
 }
 
-// Every slot is filled, so that an access beyond the end of a table is detected
+// Every slot has a callback. So an access after the end of a table is detected
 // by its value or by the address sanitizer.
-TEST_F(Observer, IgnoresProductsThatHaveNoSlot) {
+TEST_F(Observer, IgnoresProductsWithoutASlot) {
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   ZTK_RegisterOutputAudioChangedCallback(10, NoteChannel, &diary_);
   ZTK_RegisterBoostLevelChangedCallback(10, NoteIndex, &diary_);
@@ -151,8 +151,8 @@ TEST_F(Observer, SkipsASlotWithoutACallback) {
   EXPECT_THAT(TakeNotes(), IsEmpty());
 }
 
-// Another family has made the observer: the methods of the rest find nothing.
-TEST_F(Observer, DoesNothingForFamiliesThatNobodyRegistered) {
+// The observer exists because another family is registered.
+TEST_F(Observer, DoesNothingForFamiliesWithoutARegistration) {
   ZTK_RegisterBoostLevelChangedCallback(10, NoteIndex, &diary_);
   Deliver(kInputAudio, {{"ProductID", 10}, {"Channel", 2}, {"Index", 5}});
   using namespace notify;
@@ -167,7 +167,7 @@ TEST_F(Observer, DoesNothingForFamiliesThatNobodyRegistered) {
   EXPECT_THAT(TakeNotes(), IsEmpty());
 }
 
-TEST_F(Observer, CallsAsOftenAsWasRegistered) {
+TEST_F(Observer, CallsOnceForEachRegistration) {
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   Deliver(kInputAudio, {{"ProductID", 10}, {"Channel", 2}, {"Index", 5}});
@@ -176,7 +176,7 @@ TEST_F(Observer, CallsAsOftenAsWasRegistered) {
 }
 
 TEST_F(Observer, CallsTheNewerCallbackForBothRegistrations) {
-  Diary older;
+  ReceivedCalls older;
   ZTK_RegisterBoostLevelChangedCallback(10, NoteIndex, &older);
   ZTK_RegisterBoostLevelChangedCallback(10, NoteIndex, &diary_);
   Deliver(kBoostLevel, {{"ProductID", 10}, {"Index", 1}});
@@ -184,7 +184,7 @@ TEST_F(Observer, CallsTheNewerCallbackForBothRegistrations) {
   EXPECT_THAT(older.calls, IsEmpty());
 }
 
-TEST_F(Observer, CallsNobodyAfterUnregisterHoweverOftenWasRegistered) {
+TEST_F(Observer, CallsNothingAfterUnregisterEvenIfRegisteredTwice) {
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   ZTK_UnregisterInputAudioChangedCallback(10, nullptr);
@@ -200,7 +200,7 @@ TEST_F(Observer, CallsAgainAfterANewRegister) {
   EXPECT_THAT(TakeNotes(), ElementsAre("index 4", "index 4"));
 }
 
-TEST_F(Observer, DoesNotHearTheLibrarysOwnOutputAudioPosts) {
+TEST_F(Observer, DoesNotReceiveTheLibrarysOutputAudioPosts) {
   ZTK_RegisterOutputAudioChangedCallback(10, NoteChannel, &diary_);
   ZTK_SetUSBOutputAudio(8, 1, 2);
   EXPECT_THAT(TakeSteps(),
@@ -228,7 +228,7 @@ TEST_F(Observer, ReadsTheKeyModeTablesThatNothingWrites) {
   EXPECT_THAT(TakeNotes(), ElementsAre("index 1"));
 }
 
-TEST_F(Observer, HasItsFiveMethodsUnderTheirNames) {
+TEST_F(Observer, HasFiveMethodsWithTheseNames) {
   EXPECT_STREQ(notify::kInputAudioChanged.selector, "inputAudioChanged:");
   EXPECT_STREQ(notify::kOutputAudioChanged.selector, "outputAudioChanged:");
   EXPECT_STREQ(notify::kBoostLevelChanged.selector, "boostLevelChanged:");
@@ -236,7 +236,7 @@ TEST_F(Observer, HasItsFiveMethodsUnderTheirNames) {
   EXPECT_STREQ(notify::kMidiKeyModeChanged.selector, "midiKeyModeChanged:");
 }
 
-TEST_F(Observer, WritesNothingOfTheCoresState) {
+TEST_F(Observer, DoesNotChangeTheVariablesOfTheCore) {
   ZTK_RegisterInputAudioChangedCallback(10, NoteChannel, &diary_);
   ZTK_SetUSBInputAudio(10, 0, 3);
   void *const observer = _ZTKFunc;

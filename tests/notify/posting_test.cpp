@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the setters announce, and the lifetime of the record of the
-// announcement.
+// Tests the announcements of the setters, and when their records are released.
 #include "notify/posting.h"
 
 #include <functional>
@@ -68,7 +67,7 @@ const Poster kPosters[] = {
 
 class Post : public CoreTest {
  protected:
-  // The calls that have to do with records and posts.
+  // Returns the calls for records and posts.
   static std::vector<std::string> TakeRecordCalls() {
     std::vector<std::string> calls;
     for (const std::string &call : TakeCalls()) {
@@ -80,7 +79,7 @@ class Post : public CoreTest {
   }
 };
 
-TEST_F(Post, CarriesNameRecordAndUrgencyOfItsFamily) {
+TEST_F(Post, HasTheNameRecordAndDeliveryOfItsFamily) {
   for (const Poster &poster : kPosters) {
     SCOPED_TRACE(poster.name);
     EXPECT_EQ(poster.set(), 100u);
@@ -88,7 +87,7 @@ TEST_F(Post, CarriesNameRecordAndUrgencyOfItsFamily) {
   }
 }
 
-TEST_F(Post, GivesTheLastRecordBackBeforeItMakesTheNext) {
+TEST_F(Post, ReleasesTheLastRecordBeforeItMakesTheNext) {
   for (const Poster &poster : kPosters) {
     SCOPED_TRACE(poster.name);
     const std::string name(poster.post, std::string(poster.post).find(" {"));
@@ -115,7 +114,7 @@ TEST_F(Post, KeepsOneRecordOfEachFamily) {
   EXPECT_EQ(midiKeyModeInfo, nullptr);
 }
 
-TEST_F(Post, WritesTheRecordOfItsOwnFamilyOnly) {
+TEST_F(Post, ReplacesOnlyTheRecordOfItsFamily) {
   for (const Poster &poster : kPosters) {
     SCOPED_TRACE(poster.name);
     for (const Poster &other : kPosters) *other.lastInfo = nullptr;
@@ -154,7 +153,7 @@ TEST_F(Post, HappensWithoutAMixerAndAfterEveryFailure) {
   }
 }
 
-TEST_F(Post, OfADefaultOutputRoutingNamesTheIndexThatWasChosen) {
+TEST_F(Post, OfADefaultOutputRoutingContainsTheDefaultIndex) {
   const char *const kExpected[] = {
       "post VRM-B5 OutputAudio Change "
       "{ProductID=8, Channel=0, Index=0} immediately",
@@ -175,7 +174,7 @@ TEST_F(Post, OfADefaultOutputRoutingNamesTheIndexThatWasChosen) {
   EXPECT_EQ(CurrentWorld().held.userInfos, 1);
 }
 
-TEST_F(Post, IsNotDoneByTheOtherSetters) {
+TEST_F(Post, IsNotMadeByTheOtherSetters) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetUSBInputAudioDirect(10, 0, 1, 6), 100u);
   EXPECT_EQ(ZTK_SetMidiKeyModeIndex(1, 0), 102u);
@@ -187,7 +186,7 @@ TEST_F(Post, IsNotDoneByTheOtherSetters) {
   EXPECT_THAT(TakeRecordCalls(), IsEmpty());
 }
 
-TEST_F(Post, PassesNumbersPastTheSignedRangeOnAsTheirLowBits) {
+TEST_F(Post, ContainsLargeNumbersAsSignedNumbers) {
   notify::PostChannelIndex(notify::kInputAudio, &inputAudioInfo, 0xFFFFFFFF,
                            0x80000000, 0xFFFFFFF9);
   EXPECT_THAT(TakeSteps(),
@@ -195,10 +194,11 @@ TEST_F(Post, PassesNumbersPastTheSignedRangeOnAsTheirLowBits) {
                           "Channel=-2147483648, Index=-7} immediately"));
 }
 
-// Deliberate: a record that is dropped in this way is never released.
+// Deliberate: a registration clears the pointer to the record, which is then
+// never released.
 class RegisterOverARecord : public Post {};
 
-TEST_F(RegisterOverARecord, DropsItWithoutGivingItBack) {
+TEST_F(RegisterOverARecord, ClearsThePointerWithoutReleasingTheRecord) {
   for (const Poster &poster : kPosters) {
     SCOPED_TRACE(poster.name);
     CurrentWorld().held = Held{};
@@ -215,7 +215,7 @@ TEST_F(RegisterOverARecord, DropsItWithoutGivingItBack) {
   }
 }
 
-TEST_F(RegisterOverARecord, DropsOneForEachRegisterThatFindsOne) {
+TEST_F(RegisterOverARecord, LeaksOneRecordForEachRegistrationAfterAPost) {
   for (const Poster &poster : kPosters) {
     SCOPED_TRACE(poster.name);
     CurrentWorld().held = Held{};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The record of the last call, on the recording port.
+// Tests the record of the last call on the recording port.
 #include "ZTKOutcome.h"
 
 #include <cstring>
@@ -25,7 +25,7 @@ ZTKOutcome Last() {
   return outcome;
 }
 
-// "result/opened/length/system code" of a request.
+// Returns "result/opened/length/system code" of a request.
 std::string Told(const ZTKRequestOutcome &request) {
   return std::to_string(request.result) + "/" + std::to_string(request.opened) +
          "/" + std::to_string(request.length) + "/" +
@@ -46,7 +46,7 @@ fake::Device WithSelectors() {
 
 class Outcome : public CoreTest {};
 
-TEST_F(Outcome, OfASetterTellsBothRequestsOfEachMixer) {
+TEST_F(Outcome, OfASetterContainsBothRequestsOfEachMixer) {
   CurrentWorld().bus = {WithSelectors(), WithSelectors()};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 0), 100u);
   const ZTKOutcome outcome = Last();
@@ -60,7 +60,7 @@ TEST_F(Outcome, OfASetterTellsBothRequestsOfEachMixer) {
   EXPECT_EQ(outcome.announcement.result, ZTK_ANNOUNCEMENT_SENT);
 }
 
-TEST_F(Outcome, TellsHowARequestFailed) {
+TEST_F(Outcome, ContainsTheReasonOfAFailedRequest) {
   const struct {
     const char *name;
     Code code;
@@ -88,7 +88,7 @@ TEST_F(Outcome, TellsHowARequestFailed) {
   }
 }
 
-TEST_F(Outcome, TellsWhyAMixerCouldNotBeOpened) {
+TEST_F(Outcome, ContainsTheReasonIfAMixerCannotBeOpened) {
   const struct {
     const char *name;
     Code code;
@@ -113,7 +113,7 @@ TEST_F(Outcome, TellsWhyAMixerCouldNotBeOpened) {
 }
 
 // The mixer was counted, and was unplugged before it was opened.
-TEST_F(Outcome, CallsAMixerGoneThatTheSearchDoesNotReach) {
+TEST_F(Outcome, ReportsAMixerAsGoneIfTheSearchDoesNotFindIt) {
   CurrentWorld().bus = {Mixer(), Mixer()};
   CurrentWorld().bus[0].hasInterface = false;
   ZTK_SetBoostLevelIndex(10, 1);
@@ -121,14 +121,14 @@ TEST_F(Outcome, CallsAMixerGoneThatTheSearchDoesNotReach) {
   EXPECT_EQ(Told(Last().mixers[1].write), "4/0/0/0");
 }
 
-TEST_F(Outcome, TellsThatADeviceAfterTheMixerKeptItFromBeingUsed) {
+TEST_F(Outcome, ReportsThatADeviceAfterTheMixerFailed) {
   CurrentWorld().bus = {Mixer(), OtherDevice()};
   CurrentWorld().bus[1].vendorResult = 0xE00002BC;
   ZTK_SetBoostLevelIndex(10, 1);
   EXPECT_EQ(Told(Last().mixers[0].write), "6/0/0/0");
 }
 
-TEST_F(Outcome, TellsHowMuchAMixerAnswered) {
+TEST_F(Outcome, ContainsTheLengthOfTheReply) {
   CurrentWorld().bus = {MixerAnswering(0x8007, {.result = 0, .bytes = {1, 2}})};
   std::uint32_t level = 0;
   EXPECT_EQ(ZTK_GetMixerCertifyLevel(10, &level), 100u);
@@ -136,7 +136,7 @@ TEST_F(Outcome, TellsHowMuchAMixerAnswered) {
   EXPECT_EQ(Told(Last().mixers[0].write), kNothing);
 }
 
-TEST_F(Outcome, TellsWhatBecameOfTheAnnouncement) {
+TEST_F(Outcome, ContainsTheResultOfTheAnnouncement) {
   const struct {
     Handover handover;
     std::int32_t systemCode;
@@ -153,7 +153,7 @@ TEST_F(Outcome, TellsWhatBecameOfTheAnnouncement) {
   }
 }
 
-TEST_F(Outcome, OfAResendHasNoAnnouncementAndNoStore) {
+TEST_F(Outcome, HasNoAnnouncementAndNoStoreAfterAResend) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 100u);
   const ZTKOutcome outcome = Last();
@@ -162,7 +162,7 @@ TEST_F(Outcome, OfAResendHasNoAnnouncementAndNoStore) {
   EXPECT_EQ(outcome.store.result, ZTK_FILE_NONE);
 }
 
-TEST_F(Outcome, ListsAsManyMixersAsItHasRoomForAndCountsAll) {
+TEST_F(Outcome, ListsAtMost127MixersAndCountsAll) {
   CurrentWorld().bus.assign(130, Mixer());
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   const ZTKOutcome outcome = Last();
@@ -171,7 +171,7 @@ TEST_F(Outcome, ListsAsManyMixersAsItHasRoomForAndCountsAll) {
   EXPECT_EQ(Told(outcome.mixers[126].write), "1/1/0/0");
 }
 
-TEST_F(Outcome, ForgetsTheMixersOfTheCallBefore) {
+TEST_F(Outcome, DoesNotContainTheMixersOfTheLastCall) {
   CurrentWorld().bus = {WithSelectors(), WithSelectors(), WithSelectors()};
   ZTK_SetUSBInputAudio(10, 0, 0);
   CurrentWorld().bus = {Mixer()};
@@ -223,7 +223,7 @@ TEST_F(Outcome, IsEmptyAfterARejectedCall) {
   }
 }
 
-TEST_F(Outcome, TellsWhetherAFileWasRead) {
+TEST_F(Outcome, ContainsTheResultOfReadingAFile) {
   constexpr char kPkgFile[] =
       "/private/var/db/receipts/com.tarvix.VRM-D6.pkg.plist";
   ZTKTextRef text = nullptr;
@@ -232,14 +232,14 @@ TEST_F(Outcome, TellsWhetherAFileWasRead) {
   CurrentWorld().files[kPkgFile] = {{"PackageVersion", "1.2"}};
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 100u);
   EXPECT_EQ(Last().read.result, 1u);
-  // It can be read, but has no such key.
+  // The file can be read, but has no such key.
   CurrentWorld().files[kPkgFile] = {};
   EXPECT_EQ(ZTK_GetPkgVersionText(10, &text), 102u);
   EXPECT_EQ(Last().read.result, 1u);
   EXPECT_EQ(Last().store.result, 0u);
 }
 
-TEST_F(Outcome, TellsOfTheTextsOfALanguage) {
+TEST_F(Outcome, ContainsTheResultOfReadingTheTextsOfALanguage) {
   CurrentWorld().bus = {Mixer()};
   CurrentWorld().bundles["/System/Library/Frameworks/VRM-D6Setup.framework"] = {
       .resourcePath = "/r", .preferredTexts = {}};
@@ -253,14 +253,14 @@ TEST_F(Outcome, TellsOfTheTextsOfALanguage) {
   EXPECT_EQ(Plain(text), "Turn it.");
 }
 
-TEST_F(Outcome, CountsForAQuestionAboutTheConnection) {
+TEST_F(Outcome, ContainsTheCountAfterAConnectionQuery) {
   CurrentWorld().bus = {Mixer(), Mixer()};
   EXPECT_EQ(ZTK_IsUSBConnection(10), 103u);
   EXPECT_EQ(Last().mixersFound, 2u);
   EXPECT_EQ(Told(Last().mixers[0].write), kNothing);
 }
 
-TEST_F(Outcome, OfAQuestionAboutTheConnectionBeginsAnew) {
+TEST_F(Outcome, IsClearedByAConnectionQuery) {
   CurrentWorld().bus = {WithSelectors()};
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   EXPECT_EQ(Last().store.result, ZTK_FILE_OK);
@@ -269,7 +269,7 @@ TEST_F(Outcome, OfAQuestionAboutTheConnectionBeginsAnew) {
   EXPECT_EQ(Told(Last().mixers[0].write), kNothing);
 }
 
-TEST_F(Outcome, NeedsAPlaceForItsSize) {
+TEST_F(Outcome, IsRejectedWithoutASize) {
   EXPECT_EQ(ZTK_GetLastOutcome(nullptr), 102u);
   ZTKOutcome outcome = {};
   outcome.mixersFound = 77;
@@ -283,7 +283,7 @@ TEST_F(Outcome, NeedsAPlaceForItsSize) {
   EXPECT_EQ(outcome.mixersFound, 77u);
 }
 
-TEST_F(Outcome, StaysWhenATableIsAsked) {
+TEST_F(Outcome, IsNotChangedByACallThatReadsOnlyATable) {
   CurrentWorld().bus = {Mixer()};
   ZTK_SetBoostLevelIndex(10, 1);
   std::uint32_t count = 0;
@@ -291,7 +291,7 @@ TEST_F(Outcome, StaysWhenATableIsAsked) {
   EXPECT_EQ(Last().mixersFound, 1u);
 }
 
-TEST_F(Outcome, IsOfTheThreadThatCalled) {
+TEST_F(Outcome, IsSeparateForEachThread) {
   CurrentWorld().bus = {Mixer()};
   ZTK_SetBoostLevelIndex(10, 1);
   std::thread([] {

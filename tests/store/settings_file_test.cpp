@@ -20,24 +20,24 @@ const ZTKTextRef kB5 = ZTK_TEXT("VRM-B5");
 
 class Read : public CoreTest {};
 
-TEST_F(Read, AnswersTheFallbackWithoutAFileAndCreatesNone) {
+TEST_F(Read, ReturnsTheFallbackWithoutAFileAndCreatesNone) {
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), -8), -8);
   EXPECT_THAT(CurrentWorld().files, IsEmpty());
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
-TEST_F(Read, AnswersTheFallbackForAKeyThatIsNotThere) {
+TEST_F(Read, ReturnsTheFallbackForAMissingKey) {
   CurrentWorld().files[kD6File] = {{"maxlevel", 2}, {"MaxLevel2", 1}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
-TEST_F(Read, AnswersTheFallbackForAnEntryOfAnotherKind) {
+TEST_F(Read, ReturnsTheFallbackForAnEntryOfAnotherKind) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", {}}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
-TEST_F(Read, AnswersTheIntegerWhateverItIs) {
+TEST_F(Read, ReturnsAnyInteger) {
   for (const std::int32_t value : {0, 2, 99, -1, 2147483647, INT32_MIN}) {
     SCOPED_TRACE(value);
     CurrentWorld().files[kD6File] = {{"MaxLevel", value}};
@@ -45,14 +45,14 @@ TEST_F(Read, AnswersTheIntegerWhateverItIs) {
   }
 }
 
-TEST_F(Read, TakesTheNumberOfAText) {
+TEST_F(Read, ReturnsTheNumberOfAText) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", "5"}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 5);
   CurrentWorld().files[kD6File] = {{"MaxLevel", "loud"}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 0);
 }
 
-TEST_F(Read, ReadsTheFileOnceAndGivesItBack) {
+TEST_F(Read, ReadsTheFileOnceAndReleasesTheDictionary) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", 2}};
   store::Read(kD6, ZTK_TEXT("MaxLevel"), 3);
   EXPECT_THAT(TakeCalls(), ElementsAre(std::string("read file ") + kD6File,
@@ -60,7 +60,7 @@ TEST_F(Read, ReadsTheFileOnceAndGivesItBack) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(Read, KeepsNothingFromCallToCall) {
+TEST_F(Read, ReadsTheFileAgainInEachCall) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", 2}};
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 2);
   CurrentWorld().files[kD6File] = {{"MaxLevel", 1}};
@@ -69,13 +69,13 @@ TEST_F(Read, KeepsNothingFromCallToCall) {
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
 }
 
-TEST_F(Read, AnswersTheFallbackWithoutALibraryDirectory) {
+TEST_F(Read, ReturnsTheFallbackWithoutALibraryFolder) {
   CurrentWorld().hasLibraryFolder = false;
   EXPECT_EQ(store::Read(kD6, ZTK_TEXT("MaxLevel"), 3), 3);
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(Read, LooksWhereTheUsersLibraryIs) {
+TEST_F(Read, UsesTheLibraryFolderOfTheUser) {
   CurrentWorld().libraryFolder = "/home/dj/.config/tarvix";
   store::Read(kB5, ZTK_TEXT("Input0"), 0);
   EXPECT_THAT(TakeCalls(),
@@ -83,7 +83,7 @@ TEST_F(Read, LooksWhereTheUsersLibraryIs) {
                           "com.tarvix.VRM-B5autosetup.plist"));
 }
 
-TEST_F(Read, AnswersTheFallbackForAFileThatCannotBeRead) {
+TEST_F(Read, ReturnsTheFallbackForAFileThatCannotBeRead) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", 2}};
   for (const ReadState state : {ReadState::Unavailable, ReadState::Damaged}) {
     CurrentWorld().readFailures[kD6File] = {.state = state, .error = 0};
@@ -103,12 +103,12 @@ TEST_F(ReadChannel, PutsTheChannelIntoTheKey) {
 
 class Write : public CoreTest {};
 
-TEST_F(Write, CreatesTheFileWithTheOneKey) {
+TEST_F(Write, CreatesTheFileWithOneKey) {
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
-TEST_F(Write, KeepsEveryOtherKeyOfWhateverKind) {
+TEST_F(Write, KeepsEveryOtherKeyOfAnyKind) {
   CurrentWorld().files[kD6File] = {
       {"MaxLevel", 2}, {"Foo", "bar"}, {"Other", {}}, {"Output1", "6"}};
   store::Write(kD6, ZTK_TEXT("Output0"), 1);
@@ -119,7 +119,7 @@ TEST_F(Write, KeepsEveryOtherKeyOfWhateverKind) {
                                                        {"Output1", "6"}}));
 }
 
-TEST_F(Write, ReplacesWhatStoodUnderTheKey) {
+TEST_F(Write, ReplacesTheOldValueOfTheKey) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", "loud"}};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
@@ -136,7 +136,7 @@ TEST_F(Write, ReadsSetsAndWritesWithinOneChangeOfTheFile) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(Write, LeavesAFileAloneThatCannotBeReadNow) {
+TEST_F(Write, DoesNotReplaceAFileThatCannotBeReadNow) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", 3}};
   CurrentWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
                                           .error = EMFILE};
@@ -150,14 +150,14 @@ TEST_F(Write, LeavesAFileAloneThatCannotBeReadNow) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(Write, ReplacesAFileThatMayNotBeRead) {
+TEST_F(Write, ReplacesAFileWithoutReadPermission) {
   CurrentWorld().readFailures[kD6File] = {.state = ReadState::Unavailable,
                                           .error = EACCES};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 2}}));
 }
 
-TEST_F(Write, IsDoneAgainUnderANewLockWhenAnotherProcessWasFaster) {
+TEST_F(Write, IsTriedAgainIfAnotherProcessReplacedTheFile) {
   CurrentWorld().canWrite = false;
   CurrentWorld().writeError = ESTALE;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
@@ -183,7 +183,7 @@ TEST_F(Write, StoresASigned32BitNumber) {
   EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", -1}}));
 }
 
-TEST_F(Write, IgnoresAFailureAndLeavesTheOldFile) {
+TEST_F(Write, IgnoresAFailureAndKeepsTheOldFile) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", 3}};
   CurrentWorld().canWrite = false;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
@@ -193,21 +193,21 @@ TEST_F(Write, IgnoresAFailureAndLeavesTheOldFile) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(Write, DoesNothingWithoutALibraryDirectory) {
+TEST_F(Write, DoesNothingWithoutALibraryFolder) {
   CurrentWorld().hasLibraryFolder = false;
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);
   EXPECT_THAT(TakeCalls(), IsEmpty());
   EXPECT_THAT(CurrentWorld().files, IsEmpty());
 }
 
-TEST_F(Write, TouchesTheFileOfItsModelOnly) {
+TEST_F(Write, ChangesOnlyTheFileOfItsModel) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", 3}};
   store::Write(kB5, ZTK_TEXT("Input0"), 1);
   EXPECT_EQ(CurrentWorld().files.at(kD6File), (Entries{{"MaxLevel", 3}}));
   EXPECT_EQ(CurrentWorld().files.at(kB5File), (Entries{{"Input0", 1}}));
 }
 
-// What the record of the call says about the file.
+// Tests what the record of the call contains about the file.
 class FileOutcome : public CoreTest {
  protected:
   void SetUp() override {
@@ -222,7 +222,7 @@ class FileOutcome : public CoreTest {
   }
 };
 
-TEST_F(FileOutcome, TellsHowReadingEnded) {
+TEST_F(FileOutcome, ContainsTheResultOfReading) {
   const struct {
     ReadState state;
     int error;
@@ -250,7 +250,7 @@ TEST_F(FileOutcome, TellsHowReadingEnded) {
   EXPECT_EQ(Record().read.result, ZTK_FILE_NO_HOME);
 }
 
-TEST_F(FileOutcome, TellsWhyNothingIsStored) {
+TEST_F(FileOutcome, ContainsTheReasonIfNothingIsStored) {
   const struct {
     int error;
     std::uint32_t expected;
@@ -274,7 +274,7 @@ TEST_F(FileOutcome, TellsWhyNothingIsStored) {
   EXPECT_EQ(Record().store.result, ZTK_FILE_NO_HOME);
 }
 
-TEST_F(FileOutcome, TellsThatADamagedFileWasReplaced) {
+TEST_F(FileOutcome, ReportsThatADamagedFileWasReplaced) {
   CurrentWorld().readFailures[kD6File] = {.state = ReadState::Damaged,
                                           .error = 0};
   store::Write(kD6, ZTK_TEXT("MaxLevel"), 2);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The settings file as the setters and getters of all families use it: which
-// file, which key, and which value without a file or key.
+// Tests the settings file with the setters and getters of all families: the
+// file, the key, and the value without a file or key.
 #include <functional>
 
 #include "support/core_test.h"
@@ -58,7 +58,7 @@ const Getter kGetters[] = {
 };
 // clang-format on
 
-TEST_F(Settings, HaveTheirDefaultsWithoutAFileAndNoneIsCreated) {
+TEST_F(Settings, AreTheDefaultsWithoutAFileAndNoFileIsCreated) {
   for (const Getter &row : kGetters) {
     SCOPED_TRACE(row.name);
     std::uint32_t value = 77;
@@ -69,7 +69,7 @@ TEST_F(Settings, HaveTheirDefaultsWithoutAFileAndNoneIsCreated) {
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
-TEST_F(Settings, HaveTheirDefaultsWhenTheFileHasAllButTheirKey) {
+TEST_F(Settings, AreTheDefaultsIfTheFileHasOnlyOtherKeys) {
   for (const Getter &row : kGetters) {
     SCOPED_TRACE(row.name);
     CurrentWorld() = World{};
@@ -83,7 +83,7 @@ TEST_F(Settings, HaveTheirDefaultsWhenTheFileHasAllButTheirKey) {
   }
 }
 
-TEST_F(Settings, AreReadFromTheirOwnFileAndKeyInOneLook) {
+TEST_F(Settings, AreReadFromTheirFileAndKeyWithOneReading) {
   for (const Getter &row : kGetters) {
     SCOPED_TRACE(row.name);
     CurrentWorld() = World{};
@@ -96,7 +96,7 @@ TEST_F(Settings, AreReadFromTheirOwnFileAndKeyInOneLook) {
   }
 }
 
-TEST_F(Settings, ReadAsTextAndAreNotHeldToAnyRange) {
+TEST_F(Settings, CanBeTextsAndAreNotLimitedToARange) {
   const struct {
     fake::Value stored;
     std::uint32_t expected;
@@ -122,7 +122,7 @@ struct Setter {
 
 // clang-format off
 const Setter kSetters[] = {
-    // name, call, file, what it holds then
+    // name, call, file, its content afterwards
     {"input audio 0", [] { return ZTK_SetUSBInputAudio(10, 0, 7); }, kD6File, {{"Output0", 7}}},
     {"input audio 1", [] { return ZTK_SetUSBInputAudio(10, 1, 6); }, kD6File, {{"Output1", 6}}},
     {"input audio 2", [] { return ZTK_SetUSBInputAudio(10, 2, 5); }, kD6File, {{"Output2", 5}}},
@@ -138,7 +138,7 @@ const Setter kSetters[] = {
 };
 // clang-format on
 
-TEST_F(Settings, AreWrittenToTheirOwnFileAndKeyWithoutAMixer) {
+TEST_F(Settings, AreWrittenToTheirFileAndKeyEvenWithoutAMixer) {
   for (const Setter &row : kSetters) {
     SCOPED_TRACE(row.name);
     CurrentWorld() = World{};
@@ -160,14 +160,14 @@ TEST_F(Settings, AreWrittenOnceAfterTheRequestsAndBeforeThePost) {
   }
 }
 
-TEST_F(Settings, KeepWhatElseStandsInTheFile) {
+TEST_F(Settings, DoNotChangeOtherEntriesOfTheFile) {
   CurrentWorld().files[kD6File] = {{"MaxLevel", 2}, {"Foo", "bar"}};
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 0, 1), 101u);
   EXPECT_EQ(CurrentWorld().files.at(kD6File),
             (Entries{{"MaxLevel", 2}, {"Foo", "bar"}, {"Output0", 1}}));
 }
 
-TEST_F(Settings, OfOtherModelsStayAsTheyAre) {
+TEST_F(Settings, OfOtherModelsDoNotChange) {
   CurrentWorld().files[kB5File] = {{"MaxLevel", 1}};
   CurrentWorld().files[kK2File] = {{"MaxLevel", 0}};
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 2), 100u);
@@ -177,7 +177,7 @@ TEST_F(Settings, OfOtherModelsStayAsTheyAre) {
                                             {kK2File, {{"MaxLevel", 0}}}}));
 }
 
-TEST_F(Settings, ThatCannotBeWrittenAreSentAndPostedAllTheSame) {
+TEST_F(Settings, ThatCannotBeWrittenAreStillSentAndPosted) {
   for (const Setter &row : kSetters) {
     SCOPED_TRACE(row.name);
     CurrentWorld() = World{};
@@ -189,7 +189,7 @@ TEST_F(Settings, ThatCannotBeWrittenAreSentAndPostedAllTheSame) {
   }
 }
 
-TEST_F(Settings, HaveNoPlaceWithoutALibraryDirectoryAndArePostedAllTheSame) {
+TEST_F(Settings, AreStillPostedWithoutALibraryFolder) {
   for (const Setter &row : kSetters) {
     SCOPED_TRACE(row.name);
     CurrentWorld() = World{};
@@ -199,7 +199,7 @@ TEST_F(Settings, HaveNoPlaceWithoutALibraryDirectoryAndArePostedAllTheSame) {
   }
 }
 
-TEST_F(Settings, OfTheKeyModeTouchNoFile) {
+TEST_F(Settings, OfTheKeyModeUseNoFile) {
   CurrentWorld().files[kK2File] = {{"MidiKeyMode", 1}};
   std::uint32_t value = 77;
   EXPECT_EQ(ZTK_SetMidiKeyModeIndex(1, 1), 102u);
@@ -221,7 +221,7 @@ TEST_F(Settings, AreWrittenByTheSettersThatRememberOnly) {
   EXPECT_THAT(CurrentWorld().files, IsEmpty());
 }
 
-TEST_F(Settings, AreNotLookedUpForABadArgument) {
+TEST_F(Settings, AreNotReadIfAnArgumentIsRejected) {
   std::uint32_t value = 77;
   EXPECT_EQ(ZTK_GetCurrentUSBInputAudioIndex(10, 6, &value), 102u);
   EXPECT_EQ(ZTK_GetCurrentUSBOutputAudioIndex(8, 3, &value), 102u);

@@ -25,7 +25,7 @@ void InTwoThreads(const std::function<void()> &call) {
   other.join();
 }
 
-TEST(AnyThread, MayAskForTheNumberOfAModel) {
+TEST(AnyThread, MayCallGetProductId) {
   InTwoThreads([] {
     std::uint32_t id = 77;
     EXPECT_EQ(ZTK_GetProductId("VRM-D6", &id), 100u);
@@ -33,7 +33,7 @@ TEST(AnyThread, MayAskForTheNumberOfAModel) {
   });
 }
 
-TEST(AnyThread, MayAskForTheNumberOfChoices) {
+TEST(AnyThread, MayCallTheFunctionsThatCountChoices) {
   InTwoThreads([] {
     std::uint32_t count = 77;
     EXPECT_EQ(ZTK_GetNumOfInputAudioIndex(10, 1, &count), 100u);
@@ -47,7 +47,7 @@ TEST(AnyThread, MayAskForTheNumberOfChoices) {
   });
 }
 
-TEST(AnyThread, MayAskForTheTextsOfChoices) {
+TEST(AnyThread, MayCallTheFunctionsThatReturnTextsOfChoices) {
   InTwoThreads([] {
     ZTKTextRef text = nullptr;
     EXPECT_EQ(ZTK_GetUSBInputAudioText(10, 1, 2, 0, &text), 100u);
@@ -61,9 +61,9 @@ TEST(AnyThread, MayAskForTheTextsOfChoices) {
   });
 }
 
-// Reads the list of devices of this machine, with or without a mixer; opens
-// none.
-TEST(AnyThread, MayAskWhetherAMixerIsAttached) {
+// Reads the list of devices of this machine, but opens none. A mixer may be
+// attached or not.
+TEST(AnyThread, MayCallIsUSBConnection) {
   InTwoThreads([] { EXPECT_THAT(ZTK_IsUSBConnection(10), AnyOf(103u, 104u)); });
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a search leaves in the slot and which objects it does not release,
-// especially where that is surprising.
+// Tests the slot after a search, and which objects a search does not release.
 #include "support/core_test.h"
 #include "usb/USB.h"
 #include "usb/odd_devices.h"
@@ -15,7 +14,7 @@ using usb::Connection;
 
 class SlotTest : public CoreTest {
  protected:
-  // A slot filled from a bus of one mixer. The log starts after that.
+  // Returns a slot with the only mixer of a bus, and clears the log.
   Connection Occupied() {
     CurrentWorld().bus = {Mixer()};
     Connection slot = nullptr;
@@ -29,8 +28,8 @@ class SlotTest : public CoreTest {
 
 class ReferencesTest : public SlotTest {
  protected:
-  // The number of interfaces still held after the mixer at `index` was opened
-  // and closed.
+  // Opens and closes the mixer at `index`. Returns the number of references to
+  // interfaces that are not released.
   int LeftAfterClosing(std::uint32_t index) {
     CurrentWorld().held = Held{};
     Connection slot = nullptr;
@@ -43,12 +42,12 @@ class ReferencesTest : public SlotTest {
   }
 };
 
-TEST_F(ReferencesTest, AreAllGivenBackWhenTheChosenMixerIsLast) {
+TEST_F(ReferencesTest, AreAllReleasedIfTheChosenMixerIsTheLastDevice) {
   CurrentWorld().bus = {OtherDevice(), Mixer(), OtherDevice(), Mixer()};
   EXPECT_EQ(LeftAfterClosing(1), 0);
 }
 
-TEST_F(ReferencesTest, OfEveryDeviceAfterTheChosenMixerStay) {
+TEST_F(ReferencesTest, OfDevicesAfterTheChosenMixerAreNotReleased) {
   CurrentWorld().bus = {Mixer(), OtherDevice(), Mixer(),
                         SameMakersOtherProduct()};
   EXPECT_EQ(LeftAfterClosing(0), 3);
@@ -67,20 +66,20 @@ TEST_F(ReferencesTest, GrowWithEverySearch) {
   EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 4}));
 }
 
-TEST_F(ReferencesTest, AreAllGivenBackWhenNoMixerIsChosen) {
+TEST_F(ReferencesTest, AreAllReleasedIfNoMixerIsChosen) {
   CurrentWorld().bus = {OtherDevice(), Mixer(), MixerFailing(kDefects[4])};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 1), kGeneralError);
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(ReferencesTest, AreNotHeldOfDevicesThatGiveNoInterface) {
+TEST_F(ReferencesTest, DoNotExistForDevicesWithoutAnInterface) {
   CurrentWorld().bus = {Mixer(), MixerFailingAtPlugIn(), WithoutInterface(),
                         OtherDevice()};
   EXPECT_EQ(LeftAfterClosing(0), 1);
 }
 
-TEST_F(ReferencesTest, OfADeviceThatFailsAfterTheChosenMixerStay) {
+TEST_F(ReferencesTest, OfADeviceThatFailsAfterTheChosenMixerAreNotReleased) {
   for (const Defect &defect : kDefects) {
     if (defect.result == &fake::Device::plugInResult) continue;
     SCOPED_TRACE(defect.name);
@@ -92,7 +91,7 @@ TEST_F(ReferencesTest, OfADeviceThatFailsAfterTheChosenMixerStay) {
   }
 }
 
-TEST_F(ReferencesTest, OfDevicesAfterAMixerOutOfReachStay) {
+TEST_F(ReferencesTest, OfDevicesAfterAMixerThatCannotBeOpenedAreNotReleased) {
   CurrentWorld().bus = {OutOfReach(), OtherDevice(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
@@ -109,7 +108,7 @@ TEST_F(OpenUSBTest, OpensIntoAnEmptySlot) {
   EXPECT_THAT(TakeSteps(), ElementsAre("open 1"));
 }
 
-TEST_F(OpenUSBTest, LeavesAnOccupiedSlotAloneAndStopsAtTheMixer) {
+TEST_F(OpenUSBTest, DoesNotChangeAnOccupiedSlotAndStopsAtTheMixer) {
   const Connection old = Occupied();
   CurrentWorld().bus = {Mixer(), OtherDevice(), Mixer()};
   Connection slot = old;
@@ -135,7 +134,7 @@ TEST_F(OpenUSBTest, StopsAtALaterMixerOfAnOccupiedSlotToo) {
   EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
 }
 
-TEST_F(OpenUSBTest, AnswersTheReleaseOfTheLastDeviceForAnOccupiedSlot) {
+TEST_F(OpenUSBTest, ReturnsTheReleaseOfTheLastDeviceForAnOccupiedSlot) {
   Connection slot = Occupied();
   CurrentWorld().bus = {Mixer(), OtherDeviceHeldByOthers(5)};
   EXPECT_EQ(openUSB(&slot, 1), 5u);
@@ -144,7 +143,7 @@ TEST_F(OpenUSBTest, AnswersTheReleaseOfTheLastDeviceForAnOccupiedSlot) {
   EXPECT_NE(slot, nullptr);
 }
 
-TEST_F(OpenUSBTest, AnswersTheReleaseAndNotTheQueryThatFailedBeforeIt) {
+TEST_F(OpenUSBTest, ReturnsTheReleaseAndNotTheQueryThatFailedBeforeIt) {
   Connection slot = Occupied();
   for (const Defect &defect : kDefects) {
     if (defect.result == &fake::Device::plugInResult) continue;
@@ -154,7 +153,7 @@ TEST_F(OpenUSBTest, AnswersTheReleaseAndNotTheQueryThatFailedBeforeIt) {
   }
 }
 
-TEST_F(OpenUSBTest, AnswersThePlugInThatFailedLastForAnOccupiedSlot) {
+TEST_F(OpenUSBTest, ReturnsThePlugInThatFailedLastForAnOccupiedSlot) {
   Connection slot = Occupied();
   CurrentWorld().bus = {Mixer(), MixerFailingAtPlugIn()};
   EXPECT_EQ(openUSB(&slot, 1), kNotResponding);
@@ -162,14 +161,14 @@ TEST_F(OpenUSBTest, AnswersThePlugInThatFailedLastForAnOccupiedSlot) {
   EXPECT_EQ(openUSB(&slot, 0), 0u);
 }
 
-TEST_F(OpenUSBTest, AnswersZeroForAnOccupiedSlotOnAnEmptyBus) {
+TEST_F(OpenUSBTest, ReturnsZeroForAnOccupiedSlotOnAnEmptyBus) {
   Connection slot = Occupied();
   CurrentWorld().bus = {};
   EXPECT_EQ(openUSB(&slot, 0), 0u);
   EXPECT_NE(slot, nullptr);
 }
 
-TEST_F(OpenUSBTest, AnswersWhyTheBusCannotBeReadForAnOccupiedSlot) {
+TEST_F(OpenUSBTest, ReturnsWhyTheBusCannotBeReadForAnOccupiedSlot) {
   const struct {
     BusDefect defect;
     Code expected;
@@ -191,7 +190,7 @@ TEST_F(OpenUSBTest, AnswersWhyTheBusCannotBeReadForAnOccupiedSlot) {
   }
 }
 
-TEST_F(OpenUSBTest, DropsTheReleaseResultOnceAMixerIsChosen) {
+TEST_F(OpenUSBTest, DoesNotReturnTheReleaseResultAfterAMixerIsChosen) {
   CurrentWorld().bus = {OtherDeviceHeldByOthers(5), Mixer(),
                         OtherDeviceHeldByOthers(7)};
   Connection slot = nullptr;
@@ -208,7 +207,7 @@ TEST_F(CloseUSBTest, DoesNothingOnAnEmptySlot) {
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(CloseUSBTest, ClosesThenReleasesThenEmptiesTheSlot) {
+TEST_F(CloseUSBTest, ClosesThenReleasesThenClearsTheSlot) {
   Connection slot = Occupied();
   closeUSB(&slot);
   EXPECT_EQ(slot, nullptr);

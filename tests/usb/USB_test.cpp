@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Counting and choosing. Occupied slots, references and closing are tested in
-// USB_slot_test.cpp.
+// Tests counting and opening mixers. USB_slot_test.cpp tests occupied slots,
+// references and closing.
 #include "usb/USB.h"
 
 #include "support/core_test.h"
@@ -14,7 +14,7 @@ using usb::Connection;
 
 class CheckUSBAudioTest : public CoreTest {};
 
-TEST_F(CheckUSBAudioTest, CountsTheMixersAndNobodyElse) {
+TEST_F(CheckUSBAudioTest, CountsOnlyTheMixers) {
   EXPECT_EQ(CheckUSBAudio(10), 0);
   CurrentWorld().bus = {SameMakersOtherProduct(), OtherMakersSameProduct(),
                         OtherDevice()};
@@ -32,7 +32,7 @@ TEST_F(CheckUSBAudioTest, IgnoresTheProductId) {
   }
 }
 
-TEST_F(CheckUSBAudioTest, LeavesTwoNumbersAndOnePortAndNothingElse) {
+TEST_F(CheckUSBAudioTest, DoesNotReleaseTwoNumbersAndOnePort) {
   CurrentWorld().bus = {OtherDevice(), Mixer(), Mixer()};
   EXPECT_EQ(CheckUSBAudio(10), 2);
   EXPECT_EQ(CurrentWorld().held, (fake::Held{.ports = 1, .numbers = 2}));
@@ -40,7 +40,7 @@ TEST_F(CheckUSBAudioTest, LeavesTwoNumbersAndOnePortAndNothingElse) {
   EXPECT_EQ(CurrentWorld().held, (fake::Held{.ports = 2, .numbers = 4}));
 }
 
-TEST_F(CheckUSBAudioTest, NarrowsTheMatchingAndOpensNothing) {
+TEST_F(CheckUSBAudioTest, RestrictsTheMatchingAndOpensNothing) {
   CurrentWorld().bus = {OtherDevice(), Mixer(), Mixer()};
   CheckUSBAudio(10);
   EXPECT_THAT(
@@ -58,7 +58,7 @@ TEST_F(CheckUSBAudioTest, CountsMixersThatCannotBeOpened) {
   EXPECT_EQ(CheckUSBAudio(10), 3);
 }
 
-TEST_F(CheckUSBAudioTest, GoesOnWithoutAMasterPort) {
+TEST_F(CheckUSBAudioTest, CountsEvenWithoutAMasterPort) {
   CurrentWorld().bus = {Mixer()};
   CurrentWorld().masterPortResult = kNotResponding;
   EXPECT_EQ(CheckUSBAudio(10), 1);
@@ -90,13 +90,13 @@ TEST_F(CheckUSBAudioTest, IsZeroWithoutAnIterator) {
 
 class OpenPipesTest : public CoreTest {};
 
-TEST_F(OpenPipesTest, TouchesNothingForANullSlot) {
+TEST_F(OpenPipesTest, DoesNothingForANullSlot) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(open_pipes(nullptr, 0), kGeneralError);
   EXPECT_THAT(TakeCalls(), IsEmpty());
 }
 
-TEST_F(OpenPipesTest, EmptiesTheSlotFirst) {
+TEST_F(OpenPipesTest, SetsTheSlotToNullFirst) {
   CurrentWorld().bus = {Mixer()};
   Connection old = nullptr;
   ASSERT_EQ(open_pipes(&old, 0), 0u);
@@ -144,7 +144,7 @@ TEST_F(OpenPipesTest, ReportsAnIndexBeyondTheMixers) {
   EXPECT_EQ(CurrentWorld().held, fake::Held{});
 }
 
-TEST_F(OpenPipesTest, SearchesEveryDeviceAndAsksEachForItsIdentity) {
+TEST_F(OpenPipesTest, VisitsEveryDeviceAndReadsItsIdentity) {
   CurrentWorld().bus = {OtherDevice(), Mixer(), OtherDevice()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
@@ -161,7 +161,8 @@ TEST_F(OpenPipesTest, SearchesEveryDeviceAndAsksEachForItsIdentity) {
                   "next service", "create plug-in", "release service",
                   "query device interface", "release plug-in", "get class",
                   "get subclass", "get vendor", "get product", "make ready",
-                  // A device after it is also asked, and not released.
+                  // A device after it: its identity is read, but it is not
+                  // released.
                   "next service", "create plug-in", "release service",
                   "query device interface", "release plug-in", "get class",
                   "get subclass", "get vendor", "get product",
@@ -170,7 +171,7 @@ TEST_F(OpenPipesTest, SearchesEveryDeviceAndAsksEachForItsIdentity) {
                   "release master port"));
 }
 
-TEST_F(OpenPipesTest, AsksNothingFurtherOfADeviceThatFailedOnce) {
+TEST_F(OpenPipesTest, ReadsNothingMoreOfADeviceAfterAFailure) {
   CurrentWorld().bus = {MixerFailing(kDefects[2]), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
@@ -187,7 +188,7 @@ TEST_F(OpenPipesTest, AsksNothingFurtherOfADeviceThatFailedOnce) {
                   "release iterator", "release master port"));
 }
 
-TEST_F(OpenPipesTest, PassesOverADeviceBeforeTheChosenOneThatFails) {
+TEST_F(OpenPipesTest, SkipsADeviceThatFailsBeforeTheChosenOne) {
   for (const Defect &defect : kDefects) {
     SCOPED_TRACE(defect.name);
     CurrentWorld() = World{};
@@ -200,7 +201,7 @@ TEST_F(OpenPipesTest, PassesOverADeviceBeforeTheChosenOneThatFails) {
   }
 }
 
-TEST_F(OpenPipesTest, HoldsTheMixerYetFailsWhenADeviceAfterItFails) {
+TEST_F(OpenPipesTest, FailsButKeepsTheMixerIfADeviceAfterItFails) {
   for (const Defect &defect : kDefects) {
     SCOPED_TRACE(defect.name);
     CurrentWorld() = World{};
@@ -214,14 +215,14 @@ TEST_F(OpenPipesTest, HoldsTheMixerYetFailsWhenADeviceAfterItFails) {
   }
 }
 
-TEST_F(OpenPipesTest, AnswersForTheLastDeviceOnly) {
+TEST_F(OpenPipesTest, ReturnsTheResultOfTheLastDeviceOnly) {
   CurrentWorld().bus = {Mixer(), MixerFailingAtPlugIn(), OtherDevice()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   EXPECT_NE(slot, nullptr);
 }
 
-TEST_F(OpenPipesTest, PassesOverADeviceWithoutAnInterface) {
+TEST_F(OpenPipesTest, SkipsADeviceWithoutAnInterface) {
   CurrentWorld().bus = {WithoutInterface(), Mixer(), WithoutInterface()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
@@ -231,7 +232,7 @@ TEST_F(OpenPipesTest, PassesOverADeviceWithoutAnInterface) {
   EXPECT_EQ(open_pipes(&slot, 1), kGeneralError);
 }
 
-TEST_F(OpenPipesTest, PassesOverADeviceWhosePlugInIsNoneAlthoughItSucceeds) {
+TEST_F(OpenPipesTest, SkipsADeviceWhosePlugInIsNullOnSuccess) {
   CurrentWorld().bus = {WithoutPlugIn(), Mixer(), WithoutPlugIn()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
@@ -241,7 +242,7 @@ TEST_F(OpenPipesTest, PassesOverADeviceWhosePlugInIsNoneAlthoughItSucceeds) {
   EXPECT_EQ(CurrentWorld().held, fake::Held{});
 }
 
-TEST_F(OpenPipesTest, FailsAndLeavesTheSlotEmptyForAMixerOutOfReach) {
+TEST_F(OpenPipesTest, FailsAndLeavesTheSlotNullForAMixerThatCannotBeOpened) {
   CurrentWorld().bus = {OutOfReach(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), kGeneralError);
@@ -251,7 +252,7 @@ TEST_F(OpenPipesTest, FailsAndLeavesTheSlotEmptyForAMixerOutOfReach) {
   EXPECT_THAT(TakeSteps(), ElementsAre("cannot open 1", "open 2"));
 }
 
-TEST_F(OpenPipesTest, FailsWhenTheBusCannotBeReadAndHoldsNothing) {
+TEST_F(OpenPipesTest, FailsIfTheBusCannotBeReadAndReleasesEverything) {
   for (const BusDefect &defect :
        {kNoPort, kNoMatching, kNoServices, kNoIterator}) {
     SCOPED_TRACE(defect.name);
@@ -266,7 +267,7 @@ TEST_F(OpenPipesTest, FailsWhenTheBusCannotBeReadAndHoldsNothing) {
   }
 }
 
-TEST_F(OpenPipesTest, AsksNothingOfARegistryThatHasNoPort) {
+TEST_F(OpenPipesTest, FindsNoServicesWithoutAMasterPort) {
   CurrentWorld().masterPortResult = kNotResponding;
   Connection slot = nullptr;
   open_pipes(&slot, 0);

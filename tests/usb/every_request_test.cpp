@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// On the recording port: the same requests as in the sandbox and on a kernel.
+// Tests that the requests on the recording port are the same as in the sandbox
+// and on a kernel.
 #include "support/every_request.h"
 
 #include "support/core_test.h"
@@ -10,7 +11,7 @@ namespace {
 
 class EveryRequest : public CoreTest {};
 
-TEST_F(EveryRequest, HasTheFormThatItHasOnRealDevices) {
+TEST_F(EveryRequest, IsTheSameAsOnRealDevices) {
   CurrentWorld().bus = {Mixer()};
   CurrentWorld().bus[0].answers = {
       {0x8001, {.result = 0, .bytes = {0x36, 0x04}}},

@@ -13,7 +13,7 @@ using fake::Held;
 
 class OpenMixer : public CoreTest {};
 
-TEST_F(OpenMixer, ClosesWhatItOpenedAtTheEndOfTheScope) {
+TEST_F(OpenMixer, ClosesTheMixerAtTheEndOfTheScope) {
   CurrentWorld().bus = {OtherDevice(), Mixer(), Mixer()};
   {
     const usb::OpenMixer mixer(1);
@@ -25,21 +25,21 @@ TEST_F(OpenMixer, ClosesWhatItOpenedAtTheEndOfTheScope) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(OpenMixer, IsEmptyAndClosesNothingWhereThereIsNone) {
+TEST_F(OpenMixer, IsEmptyAndClosesNothingIfThereIsNoMixer) {
   CurrentWorld().bus = {Mixer()};
   { EXPECT_FALSE(usb::OpenMixer(1)); }
   EXPECT_THAT(TakeSteps(), IsEmpty());
 }
 
-TEST_F(OpenMixer, IsEmptyForAMixerOutOfReach) {
+TEST_F(OpenMixer, IsEmptyForAMixerThatCannotBeOpened) {
   CurrentWorld().bus = {OutOfReach()};
   { EXPECT_FALSE(usb::OpenMixer(0)); }
   EXPECT_THAT(TakeSteps(), ElementsAre("cannot open 1"));
 }
 
-// The search returns an error although the slot is filled, so nothing closes
-// it.
-TEST_F(OpenMixer, IsEmptyAndClosesNothingWhenADeviceAfterTheMixerFails) {
+// The search returns an error although it has put the mixer into the slot, so
+// the mixer is not closed.
+TEST_F(OpenMixer, IsEmptyAndClosesNothingIfADeviceAfterTheMixerFails) {
   CurrentWorld().bus = {Mixer(), MixerFailingAtPlugIn()};
   {
     const usb::OpenMixer mixer(0);
@@ -52,7 +52,7 @@ TEST_F(OpenMixer, IsEmptyAndClosesNothingWhenADeviceAfterTheMixerFails) {
 
 class SendToEveryMixer : public CoreTest {};
 
-TEST_F(SendToEveryMixer, CountsThenOpensSendsAndClosesEachInTurn) {
+TEST_F(SendToEveryMixer, CountsAndThenOpensSendsAndClosesForEachMixer) {
   CurrentWorld().bus = {Mixer(), OtherDevice(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8002, 0x0206), 2);
   EXPECT_THAT(
@@ -67,9 +67,9 @@ TEST_F(SendToEveryMixer, OnlyCountsWithoutAMixer) {
   EXPECT_THAT(TakeSteps(), ElementsAre("count"));
 }
 
-// Each walk over the bus takes time: there is one for the count, and one to
-// open each mixer.
-TEST_F(SendToEveryMixer, WalksOnceToCountAndOnceForEachMixer) {
+// Reading the bus takes time. It is read once for the count and once for each
+// mixer.
+TEST_F(SendToEveryMixer, ReadsTheBusOnceToCountAndOnceForEachMixer) {
   const struct {
     std::vector<fake::Device> bus;
     std::ptrdiff_t walks;
@@ -86,7 +86,7 @@ TEST_F(SendToEveryMixer, WalksOnceToCountAndOnceForEachMixer) {
   }
 }
 
-TEST_F(SendToEveryMixer, SkipsAMixerThatDoesNotOpenAndGoesOn) {
+TEST_F(SendToEveryMixer, SkipsAMixerThatCannotBeOpened) {
   CurrentWorld().bus = {OutOfReach(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8004, 0x0F00), 2);
   EXPECT_THAT(TakeSteps(),
@@ -94,7 +94,7 @@ TEST_F(SendToEveryMixer, SkipsAMixerThatDoesNotOpenAndGoesOn) {
                           "mixer 2: 40 03 0f00 8004 0000", "close 2"));
 }
 
-TEST_F(SendToEveryMixer, GoesOnAfterAMixerThatRefuses) {
+TEST_F(SendToEveryMixer, SendsToTheNextMixerAfterARefusal) {
   CurrentWorld().bus = {Mixer(), Mixer()};
   CurrentWorld().bus[0].writeResult = 0xE000404F;
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 2);
@@ -105,9 +105,9 @@ TEST_F(SendToEveryMixer, GoesOnAfterAMixerThatRefuses) {
                   "close 2"));
 }
 
-// The count finds two mixers, the search only the second one: it is at position
-// 0, and position 1 is empty.
-TEST_F(SendToEveryMixer, PassesOverAMixerThatGivesNoInterface) {
+// Two mixers are counted, but the search finds only the second one. So this
+// mixer is at position 0, and there is no mixer at position 1.
+TEST_F(SendToEveryMixer, SkipsAMixerWithoutAnInterface) {
   CurrentWorld().bus = {WithoutInterface(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8016, 0x0102), 2);
   EXPECT_THAT(TakeSteps(),
@@ -115,7 +115,7 @@ TEST_F(SendToEveryMixer, PassesOverAMixerThatGivesNoInterface) {
                           "close 2"));
 }
 
-TEST_F(SendToEveryMixer, SendsToNobodyWhenADeviceAfterTheMixersFails) {
+TEST_F(SendToEveryMixer, SendsToNoMixerIfADeviceAfterTheMixersFails) {
   CurrentWorld().bus = {Mixer(), Mixer(), MixerFailing(kDefects[2])};
   CurrentWorld().bus[2].product = 28;
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8002, 0x0206), 2);

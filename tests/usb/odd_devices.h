@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Devices that resemble a mixer, and mixers that fail.
+// Devices that are similar to a mixer, and mixers that fail.
 #ifndef ZTK_TESTS_USB_ODD_DEVICES_H_
 #define ZTK_TESTS_USB_ODD_DEVICES_H_
 
@@ -23,7 +23,7 @@ inline fake::Device OtherMakersSameProduct() {
   return device;
 }
 
-// One way in which a device does not let itself be identified.
+// One reason why a device cannot be identified.
 struct Defect {
   const char *name;
   fake::Code fake::Device::*result;
@@ -68,7 +68,7 @@ inline fake::Device OtherDeviceHeldByOthers(std::uint32_t references) {
   return device;
 }
 
-// One way in which the bus cannot be read.
+// One reason why the bus cannot be read.
 struct BusDefect {
   const char *name;
   void (*breakIt)(fake::World *world);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The requests that are sent over an open connection.
+// Tests the requests that are sent over an open connection.
 #include <array>
 
 #include "support/core_test.h"
@@ -17,7 +17,7 @@ constexpr Code kStalled = 0xE000404F;
 
 class RequestTest : public CoreTest {
  protected:
-  // The connection to the only mixer. The log starts after that.
+  // Returns a connection to the only mixer, and clears the log.
   Connection Open(const fake::Device &mixer) {
     CurrentWorld().bus = {mixer};
     Connection slot = nullptr;
@@ -30,7 +30,7 @@ class RequestTest : public CoreTest {
 
 class DeviceRequestTest : public RequestTest {};
 
-TEST_F(DeviceRequestTest, SendsTheFiveFieldsAsGiven) {
+TEST_F(DeviceRequestTest, SendsTheFiveArguments) {
   const Connection device = Open(MixerAnswering(0x1234, {.bytes = {0xAB}}));
   std::array<std::uint8_t, 8> data{};
   std::uint16_t length = 0x0008;
@@ -49,7 +49,7 @@ TEST_F(DeviceRequestTest, SendsOneRequestAndNothingElse) {
   EXPECT_THAT(TakeCalls(), ElementsAre("request"));
 }
 
-TEST_F(DeviceRequestTest, WritesBackHowManyBytesCame) {
+TEST_F(DeviceRequestTest, ReturnsTheNumberOfTransferredBytes) {
   const struct {
     const char *name;
     Answer answer;
@@ -76,7 +76,7 @@ TEST_F(DeviceRequestTest, WritesBackHowManyBytesCame) {
   }
 }
 
-TEST_F(DeviceRequestTest, PassesTheResultOnUninterpreted) {
+TEST_F(DeviceRequestTest, ReturnsTheResultUnchanged) {
   for (const Code code : {Code{1}, Code{0xE00002C5}, Code{0xFFFFFFFF}}) {
     SCOPED_TRACE(code);
     fake::Device mixer = Mixer();
@@ -89,7 +89,7 @@ TEST_F(DeviceRequestTest, PassesTheResultOnUninterpreted) {
   }
 }
 
-TEST_F(DeviceRequestTest, LeavesTheDataOfAWriteAlone) {
+TEST_F(DeviceRequestTest, DoesNotChangeTheDataOfAWrite) {
   const Connection device = Open(Mixer());
   std::uint16_t word = 0xBEEF;
   std::uint16_t length = 0;
@@ -148,7 +148,7 @@ const ReadRow kReads[] = {
 
 class ReadRequest : public RequestTest {};
 
-TEST_F(ReadRequest, AsksForItsRegisterAndAsManyBytesAsItIsTold) {
+TEST_F(ReadRequest, ReadsItsRegisterWithTheGivenLength) {
   for (const ReadRow &row : kReads) {
     SCOPED_TRACE(row.name);
     const Connection device =
@@ -160,7 +160,7 @@ TEST_F(ReadRequest, AsksForItsRegisterAndAsManyBytesAsItIsTold) {
   }
 }
 
-TEST_F(ReadRequest, PassesAnyLengthOn) {
+TEST_F(ReadRequest, AcceptsAnyLength) {
   const Connection device = Open(MixerAnswering(0x8002, {.bytes = {}}));
   std::vector<std::uint8_t> buffer(0xFFFF);
   EXPECT_EQ(GetInputSelectorInfo(device, buffer.data(), 0xFFFF), 0u);
@@ -169,7 +169,7 @@ TEST_F(ReadRequest, PassesAnyLengthOn) {
                                        "mixer 1: c0 00 0000 8002 0000 ->"));
 }
 
-TEST_F(ReadRequest, KeepsWhatTheBufferHeldPastAShortReply) {
+TEST_F(ReadRequest, DoesNotChangeTheBufferAfterAShortReply) {
   for (const ReadRow &row : kReads) {
     SCOPED_TRACE(row.name);
     const Connection device = Open(MixerAnswering(row.reg, {.bytes = {7}}));
@@ -180,7 +180,7 @@ TEST_F(ReadRequest, KeepsWhatTheBufferHeldPastAShortReply) {
   }
 }
 
-TEST_F(ReadRequest, AnswersTheTransfersOwnResult) {
+TEST_F(ReadRequest, ReturnsTheResultOfTheTransfer) {
   for (const ReadRow &row : kReads) {
     SCOPED_TRACE(row.name);
     const Connection device =
@@ -238,7 +238,7 @@ TEST_F(WriteRequest, SendsTheValueToItsRegisterWithoutADataStage) {
   }
 }
 
-TEST_F(WriteRequest, AnswersTheTransfersOwnResult) {
+TEST_F(WriteRequest, ReturnsTheResultOfTheTransfer) {
   fake::Device mixer = Mixer();
   mixer.writeResult = kStalled;
   for (const WriteRow &row : kWrites) {
