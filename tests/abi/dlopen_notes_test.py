@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """Reads from the built binaries which libraries they load on first use, and
-compares that with the dependencies of their Debian packages. The section
-.note.dlopen names those libraries; systemd documents its format. dpkg of Debian
-12 does not read it, so packaging/debian/control.in names the packages by hand.
+compares these with the dependencies of the Debian packages. The section
+.note.dlopen lists the libraries, in a format that systemd documents. dpkg of Debian
+12 does not read this section, so packaging/debian/control.in lists the packages.
 
 Usage: dlopen_notes_test.py CONTROL LIBRARY [PROGRAM]
 """
@@ -31,7 +31,7 @@ def padded(size):
 
 
 def notes(binary):
-    """The (owner, type, content) of each ELF note of the section."""
+    """Returns (owner, type, content) of each ELF note in the section."""
     with tempfile.TemporaryDirectory() as folder:
         section = pathlib.Path(folder) / "section"
         subprocess.run(["objcopy", "-O", "binary", "--only-section=.note.dlopen",
@@ -47,7 +47,7 @@ def notes(binary):
 
 
 def libraries(binary):
-    """The entries of all notes, by soname."""
+    """Returns the entries of all notes, by soname."""
     entries = {}
     for _, _, content in notes(binary):
         for entry in json.loads(content.rstrip(b"\0")):
@@ -57,7 +57,7 @@ def libraries(binary):
 
 
 def dependencies(package):
-    """The entries of the field Depends of a package."""
+    """Returns the entries in the field Depends of a package."""
     control = pathlib.Path(CONTROL).read_text(encoding="utf-8")
     paragraph = re.search(rf"^Package: {package}\n(?:.+\n)*", control, re.M)[0]
     field = re.search(r"^Depends:((?:.*\n)(?:[ ].*\n)*)", paragraph, re.M)[1]
@@ -80,13 +80,13 @@ class Notes(unittest.TestCase):
                       ["libsystemd.so.0", "libelogind.so.0", "libbasu.so.0"])
         self.assertEqual(features, {"callbacks": "libglib-2.0.so.0"})
 
-    def test_say_what_is_missing_without_the_library(self):
+    def test_describe_the_feature_that_needs_the_library(self):
         for soname, entry in libraries(LIBRARY).items():
             with self.subTest(library=soname):
                 self.assertEqual(entry["priority"], "recommended")
                 self.assertGreater(len(entry["description"].split()), 3)
 
-    def test_name_what_the_debian_packages_depend_on(self):
+    def test_are_the_same_as_the_dependencies_of_the_debian_packages(self):
         for package, binary in BINARIES.items():
             with self.subTest(package=package):
                 loaded = set(libraries(binary))

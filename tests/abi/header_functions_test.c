@@ -1,7 +1,8 @@
 /* SPDX-License-Identifier: MIT */
 /*
- * A C program that takes the address of every function of the headers, so that
- * it links only if all of them are there, and calls some without a mixer.
+ * A C program that takes the address of every function of the headers. It can
+ * be linked only if the library has all functions. It also calls some of them
+ * without a mixer.
  */
 #include <ZTKFunc.h>
 #include <ZTKOutcome.h>
@@ -118,7 +119,7 @@ static void OnIndex(int32_t index, void *context) {
   (void)context;
 }
 
-/* None of these calls reaches a mixer, a file or the bus. */
+/* None of these calls uses a mixer, a file or the message bus. */
 static void CheckCalls(void) {
   const ZTKChannelCallback onChannel = OnChannel;
   const ZTKIndexCallback onIndex = OnIndex;
@@ -138,7 +139,7 @@ static void CheckCalls(void) {
          ZTK_RegisterMidiKeyModeChangedCallback(1, onIndex, NULL), 102);
 }
 
-/* A caller of an older and of a newer header than the library's. */
+/* The caller may have an older or a newer header than the library. */
 static void CheckSizesOfOutcome(void) {
   struct {
     ZTKOutcome known;
@@ -155,7 +156,7 @@ static void CheckSizesOfOutcome(void) {
   Expect("an older caller", ZTK_GetLastOutcome(&outcome), 100);
   Expect("its size", outcome.size, 8);
   Expect("its last member", outcome.mixersFound, 0);
-  Expect("behind its last member", outcome.mixersListed, 0xEEEEEEEEu);
+  Expect("after its last member", outcome.mixersListed, 0xEEEEEEEEu);
   memset(&newer, 0xEE, sizeof newer);
   newer.known.size = sizeof newer;
   Expect("a newer caller", ZTK_GetLastOutcome(&newer.known), 100);

@@ -1,8 +1,8 @@
 /* SPDX-License-Identifier: MIT */
 /*
- * A program with functions of its own under names that the library makes
- * visible. Its own calls reach its own functions; the library's calls still
- * reach the library's.
+ * A program that defines functions with the same names as exported functions of
+ * the library. The program calls its own functions, and the library still calls
+ * the functions of the library.
  */
 #ifndef _DEFAULT_SOURCE
 #define _DEFAULT_SOURCE 1 /* mkdtemp(), setenv() */
@@ -24,10 +24,10 @@ ZTK_EXPORT uint32_t DeviceRequest(void *device, uint8_t requestType,
                                   uint8_t request, uint16_t value,
                                   uint16_t index, void *data, uint16_t *length);
 ZTK_EXPORT uint32_t SetUSBOutputLevelSetting(void *device, uint16_t value);
-/* The library's. */
+/* This function is the one of the library. */
 extern uint32_t open_pipes(void **slot, uint32_t index);
 
-/* Answers as if there were mixers, so that the rest would be called too. */
+/* Returns a count above 0, so that the library would also call the others. */
 int32_t CheckUSBAudio(uint32_t productId) {
   ++ownCalls;
   return productId == 10 ? 2 : 1;
@@ -64,11 +64,12 @@ static int failures = 0;
 
 static void Expect(const char *what, int holds) {
   if (holds) return;
-  printf("does not hold: %s\n", what);
+  printf("not true: %s\n", what);
   ++failures;
 }
 
-/* Without this the test would prove nothing: the loader looks here first. */
+/* The loader must find the functions of the program first. Otherwise the test
+ * would not show anything. */
 static void CheckThatTheOwnFunctionsComeFirst(void) {
   union {
     void *object;
@@ -117,7 +118,7 @@ int main(void) {
   if (mkdtemp(home) == NULL) return 2;
   setenv("HOME", home, 1);
   unsetenv("XDG_CONFIG_HOME");
-  /* Nobody on this desktop is told. */
+  /* The change must not be announced in the session of the user. */
   setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent", 1);
 
   CheckThatTheOwnFunctionsComeFirst();

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Compares the visible symbols of the built library with the one list of them
-and with the headers that declare them, and checks how it was linked."""
+"""Compares the exported symbols of the built library with src/exports.txt and with
+the headers that declare them, and checks how the library was linked."""
 
 import argparse
 import pathlib
@@ -16,7 +16,8 @@ HEADERS = ["include/ZTKFunc.h", "include/ZTKOutcome.h",
 
 POINTER = 8 if sys.maxsize > 2**32 else 4
 
-# The length of a visible table is binary interface: programs may copy it.
+# The length of an exported table is part of the binary interface, because the linker
+# may copy the table into a program.
 CONSTANT_TABLES = {
     "InputAudioText": 44 * POINTER,
     "PC_INPUT_PULLDOWN_TEXT": 42 * 4,
@@ -47,7 +48,7 @@ VARIABLES = {
     "midiKeyModeInfo": POINTER,
     "_ZTKFunc": POINTER,
 }
-FUNCTIONS = 64  # 48 of ZTKFunc.h, 1 of ZTKOutcome.h, 15 of the device link
+FUNCTIONS = 64  # 48 of ZTKFunc.h, 1 of ZTKOutcome.h, 15 of src/usb/USB.h
 
 OPTIONS = None
 
@@ -64,14 +65,14 @@ def listed():
 
 
 def declared(header):
-    """The names that a header declares visible, in its order."""
+    """Returns the exported names that a header declares, in the same order."""
     text = (OPTIONS.root / header).read_text()
     text = re.sub(r"/\*.*?\*/|//[^\n]*|^\s*#[^\n]*", "", text,
                   flags=re.DOTALL | re.MULTILINE)
     names = []
     for declaration in re.findall(r"\bZTK_EXPORT\b([^;]*);", text):
-        # A function's name stands before its arguments, a table's before its
-        # length, and that of a plain variable last.
+        # The name of a function is before its arguments, the name of a table before
+        # its length. The name of another variable is the last word.
         head = re.split(r"[(\[]", declaration, maxsplit=1)[0]
         names.append(re.findall(r"\w+", head)[-1])
     return names
@@ -89,7 +90,7 @@ class Symbol:
 
 
 def visible():
-    """The symbols that the library offers to others, by name."""
+    """Returns the exported symbols of the library, by name."""
     symbols = {}
     text = output_of("readelf", "-W", "--dyn-syms", OPTIONS.library)
     for line in text.splitlines():
@@ -110,17 +111,17 @@ def section_names():
 
 
 class Lists(unittest.TestCase):
-    def test_library_shows_what_is_listed_and_nothing_else(self):
+    def test_library_exports_exactly_the_listed_names(self):
         self.assertEqual(sorted(visible()), sorted(listed()))
 
-    def test_list_is_what_the_headers_declare_in_their_order(self):
+    def test_list_has_the_names_and_the_order_of_the_headers(self):
         names = [name for header in HEADERS for name in declared(header)]
         self.assertEqual(listed(), names)
 
     def test_no_name_is_listed_twice(self):
         self.assertEqual(len(listed()), len(set(listed())))
 
-    def test_every_symbol_carries_the_version_of_the_soname(self):
+    def test_every_symbol_has_the_version_of_the_soname(self):
         text = output_of("nm", "-D", "--defined-only", OPTIONS.library)
         versions = {line.split()[-1].partition("@@")[2]
                     for line in text.splitlines() if line.split()[1] != "A"}
@@ -172,23 +173,23 @@ class Linking(unittest.TestCase):
         self.assertEqual(re.findall(r"soname: \[(.*)\]", self.dynamic),
                          ["libZTKFunc.so.1"])
 
-    def test_starts_with_few_other_libraries(self):
+    def test_needs_few_other_libraries_at_start(self):
         """Each of them is loaded at the start of every program that uses this
-        library, also when the program does not need it."""
+        library, even if the program does not need it."""
         skip_with_instruments(self)
         needed = re.findall(r"\(NEEDED\)\s+Shared library: \[(.*?)\.so",
                             self.dynamic)
         runtime = {"libstdc++"} if OPTIONS.shared_cxx_runtime else set()
-        # The compiler decides which of its parts are shared libraries too.
+        # The compiler decides whether these parts of it are shared libraries.
         parts = {"libgcc_s", "libm"} if OPTIONS.shared_cxx_runtime else set()
         self.assertEqual(
             {name for name in needed if not name.startswith("ld-")} - parts,
             {"libc", "libplist-2.0"} | runtime)
 
-    def test_code_stays_after_it_is_closed(self):
+    def test_code_stays_loaded_after_dlclose(self):
         self.assertIn("NODELETE", " ".join(self.flags("FLAGS_1")).split())
 
-    def test_everything_is_bound_when_it_is_loaded(self):
+    def test_all_symbols_are_bound_at_loading(self):
         self.assertIn("NOW", " ".join(self.flags("FLAGS_1")).split())
         self.assertIn("BIND_NOW", " ".join(self.flags("FLAGS")).split())
 
@@ -197,7 +198,7 @@ class Linking(unittest.TestCase):
         self.assertIn("GNU_RELRO", segments)
         self.assertNotIn("TEXTREL", self.dynamic)
 
-    def test_library_calls_its_own_functions_and_nobody_elses(self):
+    def test_library_calls_only_its_own_functions_of_these_names(self):
         relocations = output_of("readelf", "-W", "-r", OPTIONS.library)
         bound_by_name = {
             line.split()[4].split("@")[0] for line in relocations.splitlines()
@@ -205,10 +206,10 @@ class Linking(unittest.TestCase):
         self.assertEqual(bound_by_name & set(listed()), set())
         self.assertNotEqual(bound_by_name, set())
 
-    def test_nothing_of_its_own_runs_when_it_is_loaded(self):
-        """One entry is the compiler's own. Where the C++ runtime is linked in, it
-        adds its store for exceptions, and from gcc 14 on its error categories.
-        A table that needs code to be filled would add another."""
+    def test_no_code_of_the_project_runs_at_loading(self):
+        """One entry is made by the compiler. A linked C++ runtime adds an entry for
+        the memory of exceptions, and since gcc 14 one for its error categories. A
+        table that is filled by code would add another entry."""
         skip_with_instruments(self)
         constructors = re.findall(r" t (_GLOBAL__sub_I_\S+)",
                                   output_of("nm", OPTIONS.library))
@@ -223,7 +224,7 @@ class Linking(unittest.TestCase):
 
 def skip_with_instruments(test):
     if OPTIONS.instruments:
-        test.skipTest(f"{OPTIONS.instruments} add to this")
+        test.skipTest(f"{OPTIONS.instruments} change this")
 
 
 def main():
@@ -233,7 +234,7 @@ def main():
     parser.add_argument("--root", required=True, type=pathlib.Path,
                         help="folder of the sources")
     parser.add_argument("--instruments", default="",
-                        help="what the library was instrumented for")
+                        help="the instrumentation of the library, if any")
     parser.add_argument("--shared-cxx-runtime", action="store_true")
     OPTIONS = parser.parse_args()
     unittest.main(argv=[sys.argv[0], "-v"])

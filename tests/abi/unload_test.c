@@ -1,8 +1,8 @@
 /* SPDX-License-Identifier: MIT */
 /*
- * A program that loads the library, registers a callback and closes it again.
- * The observer lives until the process ends, and so must the code that the
- * event loop may still call.
+ * A program that loads the library, registers a callback and closes the
+ * library. The event loop may call the observer until the process ends, so the
+ * code of the library must stay loaded.
  */
 #ifndef _DEFAULT_SOURCE
 #define _DEFAULT_SOURCE 1 /* setenv() */
@@ -21,7 +21,7 @@ static int failures = 0;
 
 static void Expect(const char *what, int holds) {
   if (holds) return;
-  printf("does not hold: %s\n", what);
+  printf("not true: %s\n", what);
   ++failures;
 }
 
@@ -42,7 +42,7 @@ static int IsMapped(const char *part) {
   return found;
 }
 
-/* A C program may not cast an object pointer to a function. */
+/* ISO C does not allow a cast from an object pointer to a function pointer. */
 static RegisterFunction FindRegister(void *library) {
   RegisterFunction function;
   void *found = dlsym(library, "ZTK_RegisterBoostLevelChangedCallback");
@@ -65,7 +65,7 @@ int main(int argc, char **argv) {
   if (argc != 2) return 2;
   setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent", 1);
 
-  Expect("the library is not there yet", !IsMapped("libZTKFunc.so"));
+  Expect("the library is not loaded yet", !IsMapped("libZTKFunc.so"));
   library = dlopen(argv[1], RTLD_NOW | RTLD_LOCAL);
   if (library == NULL) {
     printf("%s\n", dlerror());
@@ -76,9 +76,9 @@ int main(int argc, char **argv) {
          FindRegister(library)(10, OnIndex, &context) == ZTK_SUCCESS);
   observer = *(void **)dlsym(library, "_ZTKFunc");
   Expect("an observer is made", observer != NULL);
-  Expect("it can be closed", dlclose(library) == 0);
+  Expect("the library can be closed", dlclose(library) == 0);
 
-  Expect("the code is still there", IsMapped("libZTKFunc.so"));
+  Expect("the code is still loaded", IsMapped("libZTKFunc.so"));
   if (failures == 0) {
     const ZTKResult connection = isConnected(10);
     Expect("the code can be called",
@@ -86,7 +86,7 @@ int main(int argc, char **argv) {
   }
 
   library = dlopen(argv[1], RTLD_NOW | RTLD_LOCAL);
-  Expect("it is the same library when it is opened again",
+  Expect("opening the library again returns the same library",
          library != NULL && FindConnection(library) == isConnected &&
              *(void **)dlsym(library, "_ZTKFunc") == observer);
   return failures == 0 ? 0 : 1;

@@ -6,12 +6,12 @@ the output that the document shows.
 - A block marked "console" contains commands after "$ " and their output. All of
   them run in order, in one home folder, on a private message bus. A block marked
   "console mixer" runs with a virtual mixer. A line "..." matches any lines.
-- A block marked "c" is a program: it has to compile and to run with a virtual
-  mixer. The words after "c" name the other libraries that it uses, by their names
-  in pkg-config. The "text" block after it shows its output.
+- A block marked "c" is a program, which must compile and run with a virtual mixer.
+  The words after "c" are the pkg-config names of the other libraries that it uses.
+  The "text" block after it shows its output.
 - Blocks marked "sh" are not run here: they install something, need a kernel or
   another system, or build for minutes. The word after "sh" says where they run.
-- The link targets inside the project have to exist.
+- The targets of links inside the project must exist.
 - A picture that scripts/record-demo made counts as one block "console mixer".
 
 Usage: document_test.py DOCUMENT BUILD [COMPILER [FLAG]...]
@@ -72,7 +72,7 @@ def blocks_of(text):
 
 
 def block_of_picture(text):
-    """The text in the picture of a terminal, without the headings."""
+    """Returns the text in the picture of a terminal, without the headings."""
     lines = [html.unescape(line)
              for line in re.findall(r"<text[^>]*>(.*)</text>", text)]
     return Block("console mixer", "".join(
@@ -80,7 +80,7 @@ def block_of_picture(text):
 
 
 def exchanges_of(block):
-    """The commands of a block, each with the output below it."""
+    """Returns the commands of a block, each with the output below it."""
     found = []
     for offset, line in enumerate(block.text.splitlines(), 1):
         if line.startswith("$ "):
@@ -92,7 +92,7 @@ def exchanges_of(block):
     return found
 
 
-def fits(shown, printed):
+def matches(shown, printed):
     pattern = "".join(
         "(?:.*\n)*" if line.strip() == "..." else re.escape(line)
         for line in shown.splitlines(keepends=True))
@@ -100,7 +100,7 @@ def fits(shown, printed):
 
 
 class User:
-    """A user with a fresh home folder and a private message bus."""
+    """A user with a new home folder and a private message bus."""
 
     def __init__(self, folder, build):
         self.folder = folder
@@ -136,7 +136,7 @@ class User:
         return done.stdout
 
     def try_console(self, block):
-        """Runs a block as one script; a mark separates the outputs."""
+        """Runs a block as one script. A mark separates the outputs."""
         exchanges = exchanges_of(block)
         mark = "-- the next command --"
         script = f"; echo '{mark}'\n".join(e.command for e in exchanges)
@@ -172,35 +172,35 @@ class User:
 
 
 def difference(title, shown, printed):
-    """Empty when the output matches; else the complaint."""
-    if fits(shown, printed):
+    """Returns an empty text if the output matches, else the difference."""
+    if matches(shown, printed):
         return ""
     return "\n".join([title, *difflib.unified_diff(
         shown.splitlines(), printed.splitlines(), "shown", "printed",
         lineterm="")])
 
 
-def dead_links(document):
-    """Complaints about links to files that do not exist."""
+def broken_links(document):
+    """Returns complaints about links to files that do not exist."""
     text = document.read_text(encoding="utf-8")
-    return [f"there is no {target}, to which a link leads"
+    return [f"a link leads to {target}, which does not exist"
             for target in re.findall(r"\]\(([^)#]+)[^)]*\)", text)
             if not re.match(r"\w+:", target)
             and not (document.parent / target).exists()]
 
 
-def run_nowhere(blocks):
-    """Complaints about blocks "sh" that no script and no test runs."""
+def blocks_without_test(blocks):
+    """Returns complaints about blocks "sh" that no script and no test runs."""
     words = [(block.line, block.kind.split()[1:]) for block in blocks
              if block.kind.split()[:1] == ["sh"]]
-    return [f"line {line}: RUN_BY does not say what runs this block"
+    return [f"line {line}: RUN_BY has no script or test that runs this block"
             for line, word in words
             if len(word) != 1 or not (ROOT / RUN_BY.get(word[0], "-")).exists()]
 
 
 def try_examples(blocks, build, compiler):
     complaints = []
-    # A short path, because the names of sockets in it are limited.
+    # The path is short, because the path of a socket has a limited length.
     with tempfile.TemporaryDirectory(prefix="ztk.", dir="/tmp") as folder:
         user = User(pathlib.Path(folder), os.path.abspath(build))
         try:
@@ -224,7 +224,8 @@ def main(document, build, *compiler):
     examples = [(block, following)
                 for block, following in zip(blocks, [*blocks[1:], None])
                 if block.kind.split()[:1] in (["console"], ["c"])]
-    complaints = [] if picture else dead_links(document) + run_nowhere(blocks)
+    complaints = [] if picture else (broken_links(document) +
+                                     blocks_without_test(blocks))
     if document.name == "README.md" and not examples:
         complaints.append("there are no examples")
     if examples:

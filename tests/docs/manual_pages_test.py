@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Reads the manual pages that doxygen made from the public headers.
+"""Checks the manual pages that doxygen made from the public headers.
 
-Every exported function and every parameter has to be on them, man has to show
-them without a warning, and they must not depend on the day or place of the build.
+The pages must contain every exported function and every parameter. man must show
+them without a warning. They must not depend on the date or folder of the build.
 
 Usage: manual_pages_test.py FOLDER SOURCES
 """
@@ -17,7 +17,7 @@ import sys
 
 
 def functions_of(header):
-    """Each function with its parameters, read only from the declarations."""
+    """Yields each declared function with its parameters."""
     code = re.sub(r"/\*.*?\*/", "", header, flags=re.S)
     for name, parameters in re.findall(
             r"ZTK_EXPORT\s+ZTKResult\s+(\w+)\(([^)]*)\);", code):

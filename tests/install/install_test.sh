@@ -14,10 +14,10 @@ fail() {
 
 expect() {  # expected actual what
   [[ $1 == "$2" ]] ||
-    fail "$3: expected"$'\n'"$1"$'\n'"and there is"$'\n'"$2"
+    fail "$3: expected"$'\n'"$1"$'\n'"but found"$'\n'"$2"
 }
 
-# Other programs have no run path to this prefix.
+# Programs of other projects have no run path to the prefix.
 run_installed() {
   LD_LIBRARY_PATH=$PREFIX/$LIBDIR "$@"
 }
@@ -66,7 +66,7 @@ readme_block() {  # start of the first line
     /^```/ { on = 0 } on' "$SOURCE/README.md"
 }
 
-# The program in README with the lines for CMake in README.
+# Builds the program in README with the CMake lines and the command in README.
 readme() {
   local folder=$WORK/from-readme
   rm -rf "$folder"
@@ -110,8 +110,8 @@ pkg_config() {
   run_installed "$to/consumer_cpp"
 }
 
-# The build contains the path of the data folder, so the prefix must be there: a
-# mount namespace of this test makes that possible.
+# The library contains the path of its data folder. So the test mounts the data folder
+# of the prefix at this path, in a mount namespace.
 bundle() {
   local namespace=(unshare --mount)
   [[ $(id -u) == 0 ]] || namespace+=(--map-root-user)
@@ -124,7 +124,7 @@ bundle() {
   "$CC" "$CONSUMER/consumer.c" "${options[@]}" -o "$program"
 
   local text
-  # shellcheck disable=SC2016  # expanded inside
+  # shellcheck disable=SC2016  # expanded by the inner bash
   text=$(LD_LIBRARY_PATH=$PREFIX/$LIBDIR \
     LANGUAGE='' LC_ALL='' LC_MESSAGES=de_DE "${namespace[@]}" bash -c \
     'mount --bind "$1" "$2" && exec "$3" warning' bash \
@@ -164,13 +164,13 @@ manuals() {
     "${ZSH_COMPLETIONS#share/}"/{_ztk,_ztk-virtual-mixer}; do
     [[ -s $PREFIX/share/$file ]] || fail "$file is not installed."
   done
-  # Made only when doxygen is installed.
+  # This page is built only if doxygen is installed.
   [[ ! -e $BUILD/manual/ZTKFunc.3 ||
     -s $PREFIX/share/man/man3/ZTKFunc.3 ]] ||
     fail "man3/ZTKFunc.3 is not installed."
 }
 
-# The prefix has one file and one folder of other programs; they must stay.
+# The prefix has one file and one folder of other programs, which must stay.
 uninstall() {
   local folder=$WORK/taken-away before
   rm -rf "$folder"
@@ -181,14 +181,15 @@ uninstall() {
   # folders of other programs.
   "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
   "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
-  [[ -x $folder/bin/ztk || ! -x $PREFIX/bin/ztk ]] || fail "It is not there."
+  [[ -x $folder/bin/ztk || ! -x $PREFIX/bin/ztk ]] ||
+    fail "bin/ztk was not installed."
   "$CMAKE" -DBUILD="$BUILD" -P "$SOURCE/cmake/uninstall_files.cmake"
   expect "$before" "$(find "$folder" | sort)" "What is left"
-  # When the prefix did not exist before, it is removed too.
+  # If the prefix did not exist before the installation, it is removed too.
   rm -rf "$folder"
   "$CMAKE" --install "$BUILD" --prefix "$folder" >/dev/null
   "$CMAKE" -DBUILD="$BUILD" -P "$SOURCE/cmake/uninstall_files.cmake"
-  [[ ! -e $folder ]] || fail "Left: $(find "$folder")"
+  [[ ! -e $folder ]] || fail "These files were not removed: $(find "$folder")"
 }
 
 hardening() {
@@ -204,7 +205,7 @@ hardening() {
 programs() {
   (cd / && env -u LD_LIBRARY_PATH "$PREFIX/bin/ztk" --help >/dev/null)
   (cd / && "$PREFIX/bin/ztk-virtual-mixer" --help >/dev/null)
-  # Left out where there is no Qt.
+  # The window is not built if Qt is missing.
   [[ ! -x $PREFIX/bin/ztk-window ]] ||
     (cd / && env -u LD_LIBRARY_PATH "$PREFIX/bin/ztk-window" --help >/dev/null)
 }

@@ -40,7 +40,7 @@ CHANGELOG = """\
 
 
 class Project(unittest.TestCase):
-    """A folder with what make_debian.py reads."""
+    """A folder with the files that make_debian.py reads."""
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -101,7 +101,7 @@ ztkfunc (1.1.0) unstable; urgency=medium
 Sun, 01 Feb 2026 12:00:00 +0000
 """)
 
-    def test_counts_what_is_not_released_as_the_projects_version(self):
+    def test_unreleased_changes_have_the_version_of_the_project(self):
         self.write("CHANGELOG.md", "## [Unreleased]\n\n- New.\n")
         self.assertEqual(self.made("changelog"), """\
 ztkfunc (1.2.0) UNRELEASED; urgency=medium
@@ -112,7 +112,7 @@ ztkfunc (1.2.0) UNRELEASED; urgency=medium
 Fri, 02 Jan 1970 00:00:00 +0000
 """)
 
-    def test_passes_over_an_empty_unreleased_section(self):
+    def test_skips_an_empty_unreleased_section(self):
         self.write("CHANGELOG.md", CHANGELOG.replace(
             "## [1.2.0]", "## [Unreleased]\n\n## [1.2.0]"))
         self.assertTrue(self.made("changelog").startswith(
@@ -143,7 +143,7 @@ License: Expat
  All of it.
 """)
 
-    def test_what_to_build_with_is_the_projects_list(self):
+    def test_build_dependencies_are_the_packages_of_the_projects_lists(self):
         control = self.made("control")
         self.assertIn("Build-Depends:\n debhelper-compat (= 13),\n"
                       " doxygen,\n dh-python,\n python3,\n apt,\n"

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Checks the bundle's localised texts for what a slip of the editor breaks.
+"""Checks the bundle's localised texts for mistakes that editing may cause.
 
 Prints one line per fault and exits with 1 if there is any.
 """
@@ -17,14 +17,15 @@ LANGUAGES = ["English", "Japanese", "French", "German", "Italian", "Dutch",
 KEYS = ["WARNING", "WARNING1", "WARNING2", "WARNING3"]
 FULL_WIDTH_STOP = ["Japanese", "zh_CN", "zh_TW"]
 
-# What a text of the language must hold, or would not be one.
+# The letters that a text of the language must contain.
 KANA = "[\u3041-\u3096\u30a1-\u30fa]"
 HAN = "[\u4e00-\u9fff]"
 HANGUL = "[\uac00-\ud7a3]"
 CYRILLIC = "[\u0401\u0410-\u044f\u0451]"
 REQUIRED = {"Japanese": KANA, "ru": CYRILLIC, "zh_CN": HAN, "zh_TW": HAN,
             "ko": HANGUL}
-# Letters of any other script than Latin; "USB" may stand in every language.
+# Letters that a text of the language must not contain. Latin letters are allowed in
+# every language, for example in "USB".
 FOREIGN = {"Japanese": HANGUL + "|" + CYRILLIC,
            "ru": "|".join([KANA, HAN, HANGUL]),
            "zh_CN": "|".join([KANA, HANGUL, CYRILLIC]),
@@ -32,48 +33,48 @@ FOREIGN = {"Japanese": HANGUL + "|" + CYRILLIC,
            "ko": "|".join([KANA, HAN, CYRILLIC])}
 FOREIGN_TO_LATIN = "|".join([KANA, HAN, HANGUL, CYRILLIC])
 
-# The same words in both Chinese scripts, character by character.
+# Characters of simplified Chinese, and the same characters in traditional Chinese.
 SIMPLIFIED = "设输选择应将换对应这个连端声单电脑频储传经启开关说请检查认当并后时间为发"
 TRADITIONAL = "設輸選擇應將換對應這個連端聲單電腦頻儲傳經啟開關說請檢查認當並後時間為發"
 ONLY_SIMPLIFIED = set(SIMPLIFIED) - set(TRADITIONAL)
 ONLY_TRADITIONAL = set(TRADITIONAL) - set(SIMPLIFIED)
 
-# UTF-8 read as Latin-1 or Windows-1252 and written once more.
+# Texts in UTF-8 that a program has read as Latin-1 or Windows-1252.
 MOJIBAKE = re.compile(
     "[\u00c3\u00c2\u00d0\u00d1][\u0080-\u00bf]|\u00c3|\u00e2\u20ac|\ufffd")
 
 
 def check_text(language, text):
-    """Yields what is wrong with one text by itself."""
+    """Yields the faults of one text."""
     if not isinstance(text, str) or not text.strip():
         yield "is empty or not a text"
         return
     if text != text.strip():
         yield "begins or ends with white space"
     if "  " in text:
-        yield "holds two spaces in a row"
+        yield "contains two spaces in a row"
     if unicodedata.normalize("NFC", text) != text:
         yield "is not NFC-normalised"
     if any(unicodedata.category(c) in ("Cc", "Cf", "Co", "Cn") for c in text):
-        yield "holds a control, invisible or unassigned character"
+        yield "contains a control, invisible or unassigned character"
     stop = "。" if language in FULL_WIDTH_STOP else "."
     if not text.endswith(stop):
         yield f"does not end with {stop}"
     if MOJIBAKE.search(text):
         yield "looks like UTF-8 decoded as Latin-1"
     if re.search("['\"]", text):
-        yield "holds a typewriter quote or apostrophe"
+        yield "contains a typewriter quote or apostrophe"
     required = REQUIRED.get(language, "[A-Za-z]")
     if not re.search(required, text):
-        yield "holds no letter of its script"
+        yield "contains no letter of its script"
     foreign = re.search(FOREIGN.get(language, FOREIGN_TO_LATIN), text)
     if foreign:
-        yield f"holds a letter of another script: {foreign.group()}"
+        yield f"contains a letter of another script: {foreign.group()}"
     if language in FULL_WIDTH_STOP and re.search("[,.;:!?]", text):
-        yield "holds half-width punctuation"
-    strangers = {"zh_CN": ONLY_TRADITIONAL, "zh_TW": ONLY_SIMPLIFIED}
-    for character in sorted(set(text) & strangers.get(language, set())):
-        yield f"holds {character}, of the other Chinese script"
+        yield "contains half-width punctuation"
+    other_script = {"zh_CN": ONLY_TRADITIONAL, "zh_TW": ONLY_SIMPLIFIED}
+    for character in sorted(set(text) & other_script.get(language, set())):
+        yield f"contains {character}, of the other Chinese script"
 
 
 def check_language(folder, language):
@@ -111,7 +112,7 @@ def check_bundle(folder):
     for name in sorted(wanted - found):
         yield f"{folder}: {name} is missing"
     for name in sorted(found - wanted):
-        yield f"{folder}: {name} is asked for by nobody"
+        yield f"{folder}: {name} is not the folder of a language"
     tables = {}
     for language in LANGUAGES:
         if f"{language}.lproj" in found:
@@ -125,7 +126,7 @@ def check_bundle(folder):
 
 
 def check_info(path, version):
-    """Yields the faults of the bundle's own record."""
+    """Yields the faults of the bundle's Info.plist."""
     wanted = {"CFBundleDevelopmentRegion": "English",
               "CFBundleExecutable": "VRM-D6Setup",
               "CFBundleIdentifier": "com.tarvix.VRM-D6Setup",
@@ -148,9 +149,9 @@ def check_info(path, version):
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--info-plist", type=pathlib.Path)
-    parser.add_argument("--version", help="version that Info.plist must give")
+    parser.add_argument("--version", help="version that Info.plist must have")
     parser.add_argument("folders", nargs="+", type=pathlib.Path,
-                        metavar="FOLDER", help="holds the .lproj folders")
+                        metavar="FOLDER", help="contains the .lproj folders")
     arguments = parser.parse_args()
     faults = []
     for folder in arguments.folders:
@@ -160,7 +161,7 @@ def main():
     for fault in faults:
         print(fault)
     texts = len(arguments.folders) * len(LANGUAGES) * len(KEYS)
-    print(f"{texts} texts due, {len(faults)} faults")
+    print(f"{texts} texts expected, {len(faults)} faults")
     return 1 if faults else 0
 
 

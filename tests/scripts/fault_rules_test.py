@@ -14,7 +14,7 @@ import fault_rules  # noqa: E402
 
 
 def made(text):
-    """Each rule with the texts that it makes of the given one."""
+    """Returns for each rule the texts with its faults."""
     found = {}
     for fault in fault_rules.faults_in(text):
         found.setdefault(fault.rule, []).append(
@@ -30,20 +30,20 @@ class Rules(unittest.TestCase):
         self.assertEqual(made("return b == c;"), {
             "flip a comparison": ["return b != c;"]})
 
-    def test_conditions_are_joined_the_other_way_and_negated(self):
+    def test_and_becomes_or_and_a_negation_is_removed(self):
         self.assertEqual(made("return a && !b;"), {
             "flip a comparison": ["return a || !b;", "return a && b;"]})
 
-    def test_a_reference_and_a_template_are_no_comparison(self):
+    def test_a_reference_and_a_template_are_not_comparisons(self):
         self.assertEqual(made("void F(T &&x, std::vector<int> y) {}"), {})
         self.assertEqual(made("template <typename T, int N>\nT F();"), {})
 
-    def test_numbers_grow_by_one_in_their_own_form(self):
+    def test_numbers_grow_by_one_and_keep_their_form(self):
         self.assertEqual(made("return 7u | 0x0F | 0600;"), {"off by one": [
             "return 8u | 0x0F | 0600;", "return 7u | 0x10 | 0600;",
             "return 7u | 0x0F | 0601;"]})
 
-    def test_names_texts_and_comments_have_no_numbers(self):
+    def test_names_texts_and_comments_are_not_changed(self):
         self.assertEqual(made('return kX2 + "1 < 2";  // 3 == 3\n'), {})
         self.assertEqual(made("#define A 1\n/* 2 */ static_assert(2 < 3);"), {})
 
@@ -56,7 +56,7 @@ class Rules(unittest.TestCase):
     def test_a_declaration_is_kept(self):
         self.assertEqual(made("{\n  const Code result = Send(a);\n}"), {})
 
-    def test_a_guard_is_dropped_by_its_condition(self):
+    def test_the_condition_of_an_if_becomes_false(self):
         self.assertEqual(
             made("{\n  if (Has(a)) return b;\n}"),
             {"drop a statement": ["{\n  if (false) return b;\n}"]})
@@ -68,7 +68,7 @@ class Rules(unittest.TestCase):
         self.assertEqual(made("return true;"), {
             "swap a result code": ["return false;"]})
 
-    def test_neighbouring_arguments_are_swapped(self):
+    def test_two_successive_arguments_are_swapped(self):
         self.assertEqual(made("  F(a, G(b, c), d)"), {
             "swap two arguments": [
                 "  F(G(b, c), a, d)", "  F(a, d, G(b, c))",
@@ -81,7 +81,7 @@ class Rules(unittest.TestCase):
 
 
 class Description(unittest.TestCase):
-    def test_names_what_is_dropped_or_the_changed_line(self):
+    def test_contains_the_dropped_text_or_the_changed_line(self):
         text = "{\n  if (a == b) {\n    Send(c);\n  }\n}"
         self.assertEqual(
             [f"{fault.rule}: {fault_rules.description(text, fault)}"
@@ -91,7 +91,7 @@ class Description(unittest.TestCase):
              "drop a statement: Send(c)"])
 
 
-    def test_names_the_function(self):
+    def test_contains_the_function(self):
         text = ("int A(int b) {\n  return 1;\n}\n\nconstexpr int kC = 2;\n\n"
                 "int D(int e,\n      int f) {\n  return 3;\n}\n")
         self.assertEqual([fault_rules.function_of(text, fault)

@@ -26,7 +26,7 @@ import system_calls  # noqa: E402  (found through the argument)
 # Later versions of libsystemd make more calls when they connect to the bus.
 COUNTED_LIBSYSTEMD = "252"
 
-SKIPPED = 77  # what the build takes for "did not run"
+SKIPPED = 77  # the exit status of a skipped test
 
 ONE_WALK_OF_THREE = [
     "openat /sys/bus/usb/devices", "stat /sys/bus/usb/devices",
@@ -63,8 +63,8 @@ class Count(unittest.TestCase):
             if call.endswith("/descriptors") else call for call in calls]
         self.assertEqual(shortened, ONE_WALK_OF_THREE)
 
-    def test_takes_five_calls_and_three_a_device(self):
-        # The bus is a device itself.
+    def test_makes_five_calls_and_three_for_each_device(self):
+        # The root hub of the bus is a device too.
         for mixers, others, expected in ((0, 0, 8),     # 1 device
                                          (1, 3, 20),    # 5 devices
                                          (1, 11, 44)):  # 13 devices
@@ -82,8 +82,8 @@ class Setter(unittest.TestCase):
     def number(self, *names):
         return tuple(self.names[name] for name in names)
 
-    def test_walks_the_bus_three_times_and_opens_the_node_twice(self):
-        # 13 devices, seen by the count, the write and the read.
+    def test_reads_the_bus_three_times_and_opens_the_node_twice(self):
+        # The count, the write and the read each read 13 devices.
         descriptors = [call for call in self.calls
                        if call.endswith("/descriptors")]
         self.assertEqual(len(descriptors), 3 * 13 * 3)
@@ -100,15 +100,15 @@ class Setter(unittest.TestCase):
     def test_locks_and_unlocks_the_folder_and_locks_its_file_once(self):
         self.assertEqual(self.number("flock"), (3,))
 
-    def test_says_three_things_to_the_bus(self):
+    def test_sends_three_messages_to_the_bus(self):
         self.assertEqual(self.number("socket", "connect", "sendmsg"),
                          (1, 1, 3))
 
     @only_counted_libsystemd
-    def test_takes_208_calls_among_13_devices(self):
+    def test_makes_208_calls_with_13_devices(self):
         self.assertEqual(len(self.calls), 208)
 
-    def test_does_not_grow_but_by_nine_calls_a_device(self):
+    def test_makes_nine_calls_more_for_each_device(self):
         fewer = library_calls("set", other_devices=10)
         self.assertEqual(len(self.calls) - len(fewer), 9)
 
@@ -128,14 +128,14 @@ class Status(unittest.TestCase):
 
 
 class Floor(unittest.TestCase):
-    def test_makes_the_calls_of_the_library_in_their_order(self):
+    def test_makes_the_same_calls_as_the_library_in_the_same_order(self):
         cases = [(who, operation) for operation in system_calls.OPERATIONS
                  for who in ("library", "floor")]
         calls = system_calls.measure(BIN_FOLDER, cases, other_devices=3)
         for operation in system_calls.OPERATIONS:
             with self.subTest(operation):
                 if operation == "set" and not is_counted_libsystemd():
-                    self.skipTest(f"the floor is that of libsystemd "
+                    self.skipTest(f"the floor is for libsystemd "
                                   f"{COUNTED_LIBSYSTEMD}")
                 self.assertEqual(calls["floor", operation],
                                  calls["library", operation])
