@@ -198,7 +198,49 @@ void EngineWithoutGLibTest::SaysThatNothingIsHeard() {
   QVERIFY(state().whyNotHeard.contains(QStringLiteral("QT_NO_GLIB")));
 }
 
+// The bus accepts connections and does not answer. A process of its own,
+// because registrations are made once in a process.
+class EngineMuteBusTest : public EngineWorld {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup();
+  void StartsWithoutRegistering();
+  void MakesAChangeThatWasAskedForBeforeTheBusIsTried();
+};
+
+void EngineMuteBusTest::init() {
+  EngineWorld::init();
+  bus().Freeze();
+}
+
+void EngineMuteBusTest::cleanup() {
+  bus().Thaw();
+  EngineWorld::cleanup();
+}
+
+void EngineMuteBusTest::StartsWithoutRegistering() {
+  StartEngine();
+  QVERIFY(!state().hearsOthers);
+  QVERIFY(state().whyNotHeard.contains(QStringLiteral("message bus")));
+  QCOMPARE(state().mixers.size(), 2);
+  engine().choose(kInput, 0, 2);
+  EVENTUALLY(Row(kInput, 0).delivery == Delivery::Sent);
+}
+
+void EngineMuteBusTest::MakesAChangeThatWasAskedForBeforeTheBusIsTried() {
+  {
+    Engine engine;
+    engine.start();
+    engine.choose(kBoost, 0, 0);
+  }
+  QVERIFY(Ztk({"boost", "get"}).contains(QStringLiteral("1 -5 dB")));
+}
+
 namespace {
+const bool kMuteBusRegistered =
+    Register<EngineMuteBusTest>("EngineMuteBusTest");
 const bool kFaultsRegistered = Register<EngineFaultsTest>("EngineFaultsTest");
 const bool kWithoutGLibRegistered =
     Register<EngineWithoutGLibTest>("EngineWithoutGLibTest");

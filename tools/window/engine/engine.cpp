@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "window/engine/engine.h"
 
-#include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
 #include <vector>
 
 #include "window/engine/clubs.h"
-#include "window/engine/hearing.h"
 #include "window/engine/readings.h"
 #include "window/engine/row_tracker.h"
 #include "window/engine/steps.h"
-#include "window/engine/usb_watch.h"
 #include "window/engine/worker.h"
-#include "ztk/system/bus_watch.h"
+#include "window/events/announcement_listener.h"
+#include "window/events/usb_watch.h"
 
 namespace ztk::window {
 
@@ -52,11 +50,12 @@ class Engine::Private {
 
  private:
   void ReadProblems();
-  void WatchBus();
+  void ReadAutoapplyStatus();
   void OnOutcome(const StepOutcome &outcome, std::uint64_t choice);
   void OnMixers(const QList<MixerState> &mixers);
   void OnSelectors(const QList<MixerState> &mixers);
-  void OnBus(std::shared_ptr<model::BusWatch> bus);
+  void OnDeafness();
+  void ShowAutoapply(const AutoapplyStatus &status);
   void TimeSelectors();
   void ReadSelectors();
 
@@ -65,11 +64,9 @@ class Engine::Private {
   RowTracker rows_;
   std::uint64_t steps_ = 0;  // that were asked for
   bool visible_ = true;
-  Hearing hearing_;
+  AnnouncementListener listener_;
   UsbWatch usb_;
   QTimer selectors_;
-  std::shared_ptr<model::BusWatch> bus_;
-  std::unique_ptr<QSocketNotifier> busNotifier_;
 };
 
 Engine::Private::Private(Engine *engine)
@@ -77,29 +74,25 @@ Engine::Private::Private(Engine *engine)
       engine_(engine),
       state_(engine->state_),
       rows_(&engine->state_),
-      hearing_(engine),
+      listener_(engine),
       usb_(engine) {
   selectors_.setSingleShot(true);
-  connect(&hearing_, &Hearing::heard, engine, [this] { ReadSettings(); });
+  connect(&listener_, &AnnouncementListener::ready, engine,
+          [this] { worker.Start(); });
+  connect(&listener_, &AnnouncementListener::announced, engine,
+          [this] { ReadSettings(); });
+  connect(&listener_, &AnnouncementListener::deafnessChanged, engine,
+          [this] { OnDeafness(); });
   connect(&usb_, &UsbWatch::changed, engine, [this] { CheckMixers(); });
   connect(&selectors_, &QTimer::timeout, engine, [this] { ReadSelectors(); });
 }
 
 void Engine::Private::Start() {
-  hearing_.Register();
   ReadSettings();
   CheckMixers();
-  WatchBus();
   ReadClubs();
-  worker.Post(Worker::Kind::Reading, "autoapply", [this]() -> Worker::Result {
-    const AutoapplyStatus look = window::ReadAutoapply();
-    return [this, look] {
-      state_.autoapply = look.state;
-      state_.whyNoAutoapply = look.why;
-      emit engine_->stateChanged();
-    };
-  });
-  worker.Start();
+  ReadAutoapplyStatus();
+  listener_.Start();
 }
 
 void Engine::Private::Choose(const model::Setting &setting,
@@ -166,36 +159,9 @@ void Engine::Private::ReadClubs() {
   });
 }
 
-void Engine::Private::WatchBus() {
-  if (!LoopDelivers()) {
-    state_.hearsOthers = false;
-    state_.whyNotHeard = Engine::tr(
-        "Changes by other programs are not shown, because QT_NO_GLIB is set. "
-        "Start the window without it.");
-    return;
-  }
-  worker.Post(Worker::Kind::Reading, "bus", [this]() -> Worker::Result {
-    const auto bus = std::make_shared<model::BusWatch>();
-    return [this, bus] { OnBus(bus); };
-  });
-}
-
-void Engine::Private::OnBus(std::shared_ptr<model::BusWatch> bus) {
-  bus_ = std::move(bus);
-  busNotifier_.reset();
-  state_.hearsOthers = bus_->IsAlive();
-  if (!state_.hearsOthers) {
-    state_.whyNotHeard = Engine::tr(
-        "Changes by other programs are not shown, because the message bus of "
-        "the session is missing or has ended. Once there is one, start the "
-        "window again.");
-  } else if (bus_->descriptor() >= 0) {
-    busNotifier_ = std::make_unique<QSocketNotifier>(bus_->descriptor(),
-                                                     QSocketNotifier::Read);
-    connect(
-        busNotifier_.get(), &QSocketNotifier::activated, engine_,
-        [this] { OnBus(bus_); }, Qt::QueuedConnection);
-  }
+void Engine::Private::OnDeafness() {
+  state_.whyNotHeard = listener_.whyDeaf();
+  state_.hearsOthers = state_.whyNotHeard.isEmpty();
   emit engine_->stateChanged();
 }
 
@@ -264,21 +230,26 @@ void Engine::Private::SetVisible(bool visible) {
   }
 }
 
+void Engine::Private::ShowAutoapply(const AutoapplyStatus &status) {
+  state_.autoapply = status.state;
+  state_.whyNoAutoapply = status.why;
+  emit engine_->stateChanged();
+}
+
+void Engine::Private::ReadAutoapplyStatus() {
+  worker.Post(Worker::Kind::Reading, "autoapply", [this]() -> Worker::Result {
+    const AutoapplyStatus status = ReadAutoapply();
+    return [this, status] { ShowAutoapply(status); };
+  });
+}
+
 void Engine::Private::SwitchAutoapplyTo(bool on) {
   worker.Post(Worker::Kind::Change, "autoapply",
               [this, on]() -> Worker::Result {
-                QString error;
-                AutoapplyStatus look;
-                try {
-                  look = SwitchAutoapply(on);
-                } catch (const std::runtime_error &failure) {
-                  error = QString::fromUtf8(failure.what());
-                  look = ReadAutoapply();
-                }
-                return [this, look, error] {
-                  state_.autoapply = look.state;
-                  state_.whyNoAutoapply = look.why;
-                  emit engine_->stateChanged();
+                const QString error = SwitchAutoapply(on);
+                const AutoapplyStatus status = ReadAutoapply();
+                return [this, status, error] {
+                  ShowAutoapply(status);
                   if (!error.isEmpty()) emit engine_->reported(error);
                 };
               });

@@ -21,8 +21,8 @@ class Engine : public QObject {
   explicit Engine(QObject *parent = nullptr);
   ~Engine() override;
 
-  // Registers for changes of other programs, then starts the worker. Called
-  // once, from the thread that runs the event loop.
+  // Registers for changes of other programs, then starts the worker; returns
+  // before that. Called once, from the thread that runs the event loop.
   void start();
 
   const State &state() const { return state_; }

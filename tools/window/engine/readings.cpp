@@ -128,9 +128,11 @@ AutoapplyStatus ReadAutoapply() try {
           .why = QString::fromUtf8(error.what())};
 }
 
-AutoapplyStatus SwitchAutoapply(bool on) {
+QString SwitchAutoapply(bool on) try {
   model::SetAutoapply(on);
-  return ReadAutoapply();
+  return {};
+} catch (const std::runtime_error &error) {
+  return QString::fromUtf8(error.what());
 }
 
 }  // namespace ztk::window

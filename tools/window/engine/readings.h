@@ -44,9 +44,8 @@ struct AutoapplyStatus {
   QString why;
 };
 AutoapplyStatus ReadAutoapply();
-// Switches it on or off and returns the new state. Throws std::runtime_error if
-// the system does not do it.
-AutoapplyStatus SwitchAutoapply(bool on);
+// Returns why the system does not do it; empty if it does.
+QString SwitchAutoapply(bool on);
 
 }  // namespace ztk::window
 

@@ -56,6 +56,7 @@ Worker::~Worker() {
   shared_->receiver = nullptr;
   shared_->stopping = true;
   shared_->changed.notify_all();
+  if (!shared_->started && !shared_->changes.empty()) Start();
   if (!shared_->started) return;
   shared_->changed.wait_for(lock, kPatience, [this] { return shared_->ended; });
 }

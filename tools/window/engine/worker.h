@@ -25,8 +25,8 @@ class Worker {
   };
 
   explicit Worker(QObject *receiver);
-  // Waits until the changes that were asked for are made, but not for ever: a
-  // thread that hangs in a request is left behind.
+  // Waits until the changes that were asked for are made, also if it was not
+  // started, but not for ever: a thread that hangs in a request is left behind.
   ~Worker();
   Worker(const Worker &) = delete;
   Worker &operator=(const Worker &) = delete;

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>Änderungen anderer Programme werden nicht angezeigt, weil QT_NO_GLIB gesetzt ist. Starten Sie das Fenster ohne diese Variable.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>Änderungen anderer Programme werden nicht angezeigt, weil der Nachrichtenbus der Sitzung fehlt oder beendet wurde. Starten Sie das Fenster neu, sobald es einen gibt.</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>Gespeichert ohne %1.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>Änderungen anderer Programme werden nicht angezeigt, weil QT_NO_GLIB gesetzt ist. Starten Sie das Fenster ohne diese Variable.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>Änderungen anderer Programme werden nicht angezeigt, weil der Nachrichtenbus der Sitzung fehlt oder beendet wurde. Starten Sie das Fenster neu, sobald es einen gibt.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

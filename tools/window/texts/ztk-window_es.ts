@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>Los cambios de otros programas no se muestran porque QT_NO_GLIB está definida. Inicie la ventana sin ella.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>Los cambios de otros programas no se muestran porque el bus de mensajes de la sesión falta o ha terminado. Cuando lo haya, inicie de nuevo la ventana.</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>Guardado sin %1.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>Los cambios de otros programas no se muestran porque QT_NO_GLIB está definida. Inicie la ventana sin ella.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>Los cambios de otros programas no se muestran porque el bus de mensajes de la sesión falta o ha terminado. Cuando lo haya, inicie de nuevo la ventana.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

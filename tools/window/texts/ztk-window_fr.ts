@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>Les modifications d’autres programmes ne sont pas affichées, car QT_NO_GLIB est définie. Lancez la fenêtre sans elle.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>Les modifications d’autres programmes ne sont pas affichées, car le bus de messages de la session manque ou s’est arrêté. Dès qu’il y en a un, relancez la fenêtre.</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>Enregistré sans %1.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>Les modifications d’autres programmes ne sont pas affichées, car QT_NO_GLIB est définie. Lancez la fenêtre sans elle.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>Les modifications d’autres programmes ne sont pas affichées, car le bus de messages de la session manque ou s’est arrêté. Dès qu’il y en a un, relancez la fenêtre.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

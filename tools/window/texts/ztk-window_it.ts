@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>Le modifiche di altri programmi non vengono mostrate perché QT_NO_GLIB è impostata. Avviare la finestra senza di essa.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>Le modifiche di altri programmi non vengono mostrate perché il bus dei messaggi della sessione manca o è terminato. Quando sarà disponibile, riavviare la finestra.</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>Salvato senza %1.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>Le modifiche di altri programmi non vengono mostrate perché QT_NO_GLIB è impostata. Avviare la finestra senza di essa.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>Le modifiche di altri programmi non vengono mostrate perché il bus dei messaggi della sessione manca o è terminato. Quando sarà disponibile, riavviare la finestra.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>QT_NO_GLIB が設定されているため、ほかのプログラムによる変更は表示されません。設定せずにウィンドウを起動してください。</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>セッションのメッセージバスがないか終了したため、ほかのプログラムによる変更は表示されません。利用できるようになったら、ウィンドウを起動し直してください。</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>%1 を除いて保存しました。</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>QT_NO_GLIB が設定されているため、ほかのプログラムによる変更は表示されません。設定せずにウィンドウを起動してください。</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>セッションのメッセージバスがないか終了したため、ほかのプログラムによる変更は表示されません。利用できるようになったら、ウィンドウを起動し直してください。</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

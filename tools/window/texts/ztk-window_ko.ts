@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>QT_NO_GLIB가 설정되어 있어 다른 프로그램의 변경 사항이 표시되지 않습니다. 이 변수 없이 창을 시작하십시오.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>세션의 메시지 버스가 없거나 종료되어 다른 프로그램의 변경 사항이 표시되지 않습니다. 버스가 준비되면 창을 다시 시작하십시오.</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>%1 없이 저장했습니다.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>QT_NO_GLIB가 설정되어 있어 다른 프로그램의 변경 사항이 표시되지 않습니다. 이 변수 없이 창을 시작하십시오.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>세션의 메시지 버스가 없거나 종료되어 다른 프로그램의 변경 사항이 표시되지 않습니다. 버스가 준비되면 창을 다시 시작하십시오.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

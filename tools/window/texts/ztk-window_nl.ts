@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>Wijzigingen door andere programma’s worden niet getoond, omdat QT_NO_GLIB is ingesteld. Start het venster zonder die variabele.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>Wijzigingen door andere programma’s worden niet getoond, omdat de berichtenbus van de sessie ontbreekt of is gestopt. Start het venster opnieuw zodra die er is.</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>Opgeslagen zonder %1.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>Wijzigingen door andere programma’s worden niet getoond, omdat QT_NO_GLIB is ingesteld. Start het venster zonder die variabele.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>Wijzigingen door andere programma’s worden niet getoond, omdat de berichtenbus van de sessie ontbreekt of is gestopt. Start het venster opnieuw zodra die er is.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>As alterações de outros programas não são mostradas porque QT_NO_GLIB está definida. Inicie a janela sem ela.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>As alterações de outros programas não são mostradas porque o barramento de mensagens da sessão falta ou terminou. Quando existir um, inicie novamente a janela.</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>Guardado sem %1.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>As alterações de outros programas não são mostradas porque QT_NO_GLIB está definida. Inicie a janela sem ela.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>As alterações de outros programas não são mostradas porque o barramento de mensagens da sessão falta ou terminou. Quando existir um, inicie novamente a janela.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>Изменения, сделанные другими программами, не показываются, так как задана переменная QT_NO_GLIB. Запустите окно без неё.</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>Изменения, сделанные другими программами, не показываются, так как шины сообщений сеанса нет или она завершилась. Когда она появится, запустите окно снова.</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>Сохранено без %1.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>Изменения, сделанные другими программами, не показываются, так как задана переменная QT_NO_GLIB. Запустите окно без неё.</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>Изменения, сделанные другими программами, не показываются, так как шины сообщений сеанса нет или она завершилась. Когда она появится, запустите окно снова.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

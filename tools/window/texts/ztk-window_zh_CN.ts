@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>由于设置了 QT_NO_GLIB，不会显示其他程序的更改。请在不设置它的情况下启动本窗口。</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>会话的消息总线不存在或已结束，因此不会显示其他程序的更改。消息总线可用后，请重新启动本窗口。</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>已保存，但不包括 %1。</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>由于设置了 QT_NO_GLIB，不会显示其他程序的更改。请在不设置它的情况下启动本窗口。</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>会话的消息总线不存在或已结束，因此不会显示其他程序的更改。消息总线可用后，请重新启动本窗口。</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

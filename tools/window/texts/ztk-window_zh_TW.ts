@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW">
     <context>
+        <name>AnnouncementListener</name>
+        <message>
+            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
+            <translation>由於設定了 QT_NO_GLIB，不會顯示其他程式的變更。請在未設定它的情況下啟動本視窗。</translation>
+        </message>
+        <message>
+            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
+            <translation>工作階段的訊息匯流排不存在或已結束，因此不會顯示其他程式的變更。訊息匯流排可用後，請重新啟動本視窗。</translation>
+        </message>
+    </context>
+    <context>
         <name>ChoiceRow</name>
         <message>
             <source>%1, which is not a choice</source>
@@ -60,14 +71,6 @@
         <message>
             <source>Saved without %1.</source>
             <translation>已儲存，但不包括 %1。</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because QT_NO_GLIB is set. Start the window without it.</source>
-            <translation>由於設定了 QT_NO_GLIB，不會顯示其他程式的變更。請在未設定它的情況下啟動本視窗。</translation>
-        </message>
-        <message>
-            <source>Changes by other programs are not shown, because the message bus of the session is missing or has ended. Once there is one, start the window again.</source>
-            <translation>工作階段的訊息匯流排不存在或已結束，因此不會顯示其他程式的變更。訊息匯流排可用後，請重新啟動本視窗。</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

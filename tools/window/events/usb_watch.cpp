@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "window/engine/usb_watch.h"
+#include "window/events/usb_watch.h"
 
 #include <QDir>
 

@@ -2,8 +2,8 @@
 //
 // Notices that a device is plugged in or unplugged, or that the right to open
 // one changes.
-#ifndef ZTK_TOOLS_WINDOW_ENGINE_USB_WATCH_H_
-#define ZTK_TOOLS_WINDOW_ENGINE_USB_WATCH_H_
+#ifndef ZTK_TOOLS_WINDOW_EVENTS_USB_WATCH_H_
+#define ZTK_TOOLS_WINDOW_EVENTS_USB_WATCH_H_
 
 #include <QFileSystemWatcher>
 #include <QObject>
@@ -31,4 +31,4 @@ class UsbWatch : public QObject {
 
 }  // namespace ztk::window
 
-#endif  // ZTK_TOOLS_WINDOW_ENGINE_USB_WATCH_H_
+#endif  // ZTK_TOOLS_WINDOW_EVENTS_USB_WATCH_H_
