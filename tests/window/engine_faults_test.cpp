@@ -212,11 +212,11 @@ class EngineMuteBusTest : public EngineWorld {
 
 void EngineMuteBusTest::init() {
   EngineWorld::init();
-  bus().Freeze();
+  bus().Suspend();
 }
 
 void EngineMuteBusTest::cleanup() {
-  bus().Thaw();
+  bus().Resume();
   EngineWorld::cleanup();
 }
 
