@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 #
-# Language, warnings, hardening and instrumentation of all targets.
+# Sets the language, warnings, hardening and instrumentation of all targets.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -27,9 +27,9 @@ add_compile_options(
 if(APPLE)
   add_compile_options(-Wunguarded-availability)
 endif()
-# Checks at run time that cost little: a changed return address, a buffer that is
-# too small. A packager's own flags come first where they name the same. The
-# second needs an optimiser, and the sanitizers bring their own.
+# Checks at run time that take little time. -fstack-protector-strong detects a changed
+# return address. _FORTIFY_SOURCE detects a buffer that is too small; it needs an
+# optimised build, and is not used with the sanitizers or if the packager sets it.
 add_compile_options(-fstack-protector-strong)
 if(NOT ZTK_SANITIZE AND NOT "${CMAKE_C_FLAGS} ${CMAKE_CXX_FLAGS}" MATCHES "_FORTIFY_SOURCE")
   add_compile_options(

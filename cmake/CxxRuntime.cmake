@@ -21,7 +21,7 @@ if(ZTK_STATIC_CXX_RUNTIME)
     ZTK_HAS_STATIC_CXX_RUNTIME)
   cmake_pop_check_state()
   if(NOT ZTK_HAS_STATIC_CXX_RUNTIME)
-    # Tests again at the next run: it may have been installed by then.
+    # Without a cached result, the next run tests again.
     unset(ZTK_HAS_STATIC_CXX_RUNTIME CACHE)
     message(FATAL_ERROR
       "There is no static C++ runtime. Install it (on some systems the package "
@@ -38,9 +38,9 @@ function(ztk_link_cxx_runtime target)
   endif()
 endfunction()
 
-# A position-independent program adds its address to some thousand pointers at each
-# start. In this form they are a few hundred bytes instead of 60 KB that have to be
-# read. The C library has to know it: glibc does since 2.36.
+# At each start, the loader adds the address of a position-independent program to some
+# thousand pointers. With packed relocations, the list of these pointers has a few
+# hundred bytes instead of 60 KB. glibc supports packed relocations since 2.36.
 if(NOT APPLE AND NOT CMAKE_CROSSCOMPILING)
   include(CheckCXXSourceRuns)
   include(CMakePushCheckState)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# Makes the linker's lists of visible symbols from src/exports.txt, which has one
-# name per line; "#" starts a comment.
+# Makes the linker's lists of exported symbols from src/exports.txt. That file has one
+# name on each line; "#" starts a comment.
 
 function(ztk_read_exports file out)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
@@ -22,8 +22,8 @@ function(ztk_version_script exports script)
 ")
 endfunction()
 
-# For the linker of macOS: each C name has an underscore before it, and an
-# Objective-C class has two symbols.
+# Writes the list for the linker of macOS. The symbol of a C name starts with an
+# underscore, and an Objective-C class has two symbols.
 function(ztk_exported_symbols_list exports list)
   ztk_read_exports("${exports}" names)
   list(TRANSFORM names PREPEND "_")

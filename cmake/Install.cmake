@@ -1,15 +1,15 @@
 # SPDX-License-Identifier: MIT
 #
-# What is installed and where, by component. A Debian package contains one of
-# them; ztk contains two.
+# Installs the files, each in one of these components. A Debian package contains one
+# component; the package ztk contains two.
 #   library        the shared library
-#   common         what every program that uses the library needs: the bundle of
+#   common         files for every program that uses the library: the bundle of
 #                  texts (installed by resources/) and the udev rule
 #   development    headers, their manual page, the CMake package, the .pc file
 #   runtime        ztk and its files (installed by tools/); the default component
 #   virtual-mixer  ztk-virtual-mixer and its files
 #   window         ztk-window and its files
-#   python         the Python package, where ZTK_PYTHON_DIR names a folder
+#   python         the Python package, if ZTK_PYTHON_DIR is set
 #   documents      README, docs/, changelog and licence
 include(CMakePackageConfigHelpers)
 
@@ -56,7 +56,7 @@ install(FILES
   ${PROJECT_BINARY_DIR}/generated/ZTKFuncConfigVersion.cmake
   DESTINATION ${package_dir} COMPONENT development)
 
-# The .pc file names its folders relative to itself, so that the installation can
+# The folders in the .pc file are relative to that file, so that the installation can
 # be moved.
 cmake_path(ABSOLUTE_PATH pkgconfig_dir
   BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} OUTPUT_VARIABLE pc_folder)
@@ -79,9 +79,9 @@ configure_file(${PROJECT_SOURCE_DIR}/cmake/ztkfunc.pc.in
 install(FILES ${PROJECT_BINARY_DIR}/generated/ztkfunc.pc
   DESTINATION ${pkgconfig_dir} COMPONENT development)
 
-# udev writes a vendor id as four lower-case hexadecimal digits. The unit is
-# installed where systemd does not look for units: "ztk autoapply on" links it
-# for one user.
+# udev writes a vendor id as four lower-case hexadecimal digits. The unit is installed
+# in a folder that systemd does not search, because "ztk autoapply on" links it for one
+# user.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   string(REGEX REPLACE "^0x" "" vendor_id "${ZTK_USB_VENDOR_ID}")
   string(TOLOWER "${vendor_id}" vendor_id)
@@ -101,7 +101,8 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   endif()
 endif()
 
-# In the same layout as in the sources, so that the links between them work.
+# The documents have the same relative paths as in the sources, so that the links
+# between them work.
 install(FILES
   ${PROJECT_SOURCE_DIR}/LICENSE
   ${PROJECT_SOURCE_DIR}/README.md

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 #
-# On macOS the main bundle decides which languages a process has, and the
-# framework follows it. A plain program has no bundle folder, and so only
-# English, unless an Info.plist inside it lets each framework choose by itself.
+# On macOS the main bundle of a process decides which languages its frameworks use. A
+# program without a bundle folder has only English. An Info.plist inside the program
+# allows each framework to use its own languages.
 
 function(ztk_embed_info program)
   if(NOT APPLE)

@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
 #
-# cmake --build build --target uninstall: removes the files of the last
-# "cmake --install build" and the folders that it made.
+# Defines the target uninstall, which removes the files of the last
+# "cmake --install build" and the folders that this installation made.
 #
-# Included before anything is installed: its code runs first at each
-# installation and records which of the folders exist by then.
+# This file must be included before all other install() commands. Its code then runs
+# first at each installation and records which folders exist already.
 
 set(install_folders ${CMAKE_INSTALL_BINDIR} ${CMAKE_INSTALL_LIBDIR}/cmake
   ${CMAKE_INSTALL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_INCLUDEDIR} lib/udev/rules.d
@@ -19,4 +19,4 @@ install(SCRIPT ${PROJECT_BINARY_DIR}/generated/record_folders.cmake)
 add_custom_target(uninstall
   COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR}
     -P ${PROJECT_SOURCE_DIR}/cmake/uninstall_files.cmake
-  COMMENT "Removing what was installed" VERBATIM)
+  COMMENT "Removing the installed files" VERBATIM)

@@ -5,15 +5,15 @@
 #   cmake -S . -B build/macos -DCMAKE_TOOLCHAIN_FILE=cmake/macos-cross.cmake \
 #     -DMACOS_SDK=DIR [-DMACOS_ARCH=arm64]
 #
-# DIR is the folder that holds SDKSettings.json.
+# DIR is the folder that contains SDKSettings.json.
 
 set(MACOS_SDK "" CACHE PATH "Folder of the macOS SDK, with SDKSettings.json")
 set(MACOS_ARCH x86_64 CACHE STRING "Processor to build for: x86_64 or arm64")
-# The compiler's first tests run in projects of their own.
+# CMake tests the compiler in separate projects, which need these variables too.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES MACOS_SDK MACOS_ARCH)
 
 if(NOT EXISTS "${MACOS_SDK}/SDKSettings.json")
-  message(FATAL_ERROR "MACOS_SDK is \"${MACOS_SDK}\", which holds no "
+  message(FATAL_ERROR "MACOS_SDK is \"${MACOS_SDK}\", which contains no "
     "SDKSettings.json; give the folder of a macOS SDK with -DMACOS_SDK=DIR")
 endif()
 if(MACOS_ARCH STREQUAL "x86_64")
@@ -30,7 +30,7 @@ set(CMAKE_SYSTEM_PROCESSOR ${MACOS_ARCH})
 set(CMAKE_OSX_ARCHITECTURES ${MACOS_ARCH})
 set(CMAKE_OSX_SYSROOT ${MACOS_SDK})
 
-# Debian adds the version to some of these names and not to others.
+# In Debian, the names of some of these tools end with the version.
 function(find_tool variable name)
   find_program(${variable} NAMES ${name} ${name}-14 ${name}-19
     PATHS /usr/lib/llvm-14/bin /usr/lib/llvm-19/bin
@@ -38,8 +38,8 @@ function(find_tool variable name)
 endfunction()
 find_tool(MACOS_CLANG clang)
 find_tool(MACOS_CLANGXX clang++)
-# The linker of LLVM 14 writes wrong unwind addresses for arm64, so a later one
-# is looked for first.
+# The linker of LLVM 14 writes wrong unwind addresses for arm64, so later versions are
+# searched first.
 find_program(MACOS_LINKER NAMES ld64.lld
   PATHS /usr/lib/llvm-19/bin /usr/lib/llvm-16/bin
   NO_CMAKE_FIND_ROOT_PATH NO_DEFAULT_PATH)
@@ -66,12 +66,12 @@ cmake_path(GET MACOS_LINKER PARENT_PATH linker_folder)
 foreach(kind EXE SHARED MODULE)
   set(CMAKE_${kind}_LINKER_FLAGS_INIT "-fuse-ld=lld -B${linker_folder}")
 endforeach()
-# The makefiles take the flags of a framework from a variable of its own, which
-# CMake does not preset.
+# The Makefile generator uses this variable for frameworks. CMake does not set it from
+# the ..._INIT variables.
 set(CMAKE_MACOSX_FRAMEWORK_LINKER_FLAGS "-fuse-ld=lld -B${linker_folder}")
 
-# Headers and libraries come from the SDK and from nowhere else; the headers
-# without code that ztk needs, from the modules beside this file.
+# Headers and libraries are searched only in the SDK. The modules in macos-cross/ find
+# the two header-only libraries that ztk needs.
 set(CMAKE_FIND_ROOT_PATH ${MACOS_SDK})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: MIT
 #
-# cmake -DBUILD=DIR -P uninstall_files.cmake: removes the files that
-# DIR/install_manifest.txt lists, then each folder that is empty and did not exist
-# before the installation.
+# Removes the files that DIR/install_manifest.txt lists. Then removes each folder that
+# is empty and did not exist before the installation.
+#
+# Usage: cmake -DBUILD=DIR -P uninstall_files.cmake
 cmake_minimum_required(VERSION 3.25)
 set(manifest "${BUILD}/install_manifest.txt")
 set(record "${BUILD}/install_folders.txt")
@@ -13,7 +14,7 @@ endif()
 
 file(STRINGS "${manifest}" files)
 file(STRINGS "${record}" existing)
-# The first line names the prefix, whether it existed or not.
+# The first line is the prefix, which may not have existed.
 list(POP_FRONT existing)
 foreach(file IN LISTS files)
   set(file "$ENV{DESTDIR}${file}")

@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Makes the folder debian/ that Debian packages are built from.
+"""Makes the folder debian/, from which Debian packages are built.
 
-Copies packaging/debian and adds what the project contains already: the version
+Copies packaging/debian and adds facts from other files of the project: the version
 (CMakeLists.txt), the changes (CHANGELOG.md), the licence (LICENSE) and the packages
-to build with (build.txt and window.txt in scripts/packages).
+for the build (build.txt and window.txt in scripts/packages).
 
-Changes that have no release yet count as changes of the version in
-CMakeLists.txt, with the date in SOURCE_DATE_EPOCH.
+Unreleased changes get the version in CMakeLists.txt and the date in
+SOURCE_DATE_EPOCH.
 
 Usage: make_debian.py ROOT TARGET
 """
@@ -43,7 +43,8 @@ def project_version(cmake):
 
 
 def releases(changelog):
-    """Each version with its date (None: not released) and its changes."""
+    """Returns each version with its date and its changes. Both version and date are
+    None for unreleased changes."""
     found = []
     for line in changelog.splitlines():
         heading = re.match(r"## (.*)", line)

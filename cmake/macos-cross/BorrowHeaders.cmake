@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 #
-# Lends the build a library that is headers only from the system that builds,
-# without the rest of that system's headers: the folder alone is linked into
-# the build tree.
+# Uses a header-only library of the system on which the build runs. Only the folder of
+# this library is linked into the build folder, so that no other headers of that system
+# are used.
 
 function(borrow_headers package target folder header)
   find_path(${package}_FOLDER ${folder}/${header} PATHS /usr/include

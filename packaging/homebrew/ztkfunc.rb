@@ -1,20 +1,20 @@
 # SPDX-License-Identifier: MIT
 #
-# Installs ztk and the framework with Homebrew. It was written without a Mac and
-# has never run; README.md in this folder describes the effects of the place of
-# the framework.
+# Installs ztk and the framework with Homebrew. This formula was written without a
+# Mac and has never run. README.md in this folder describes the effects of the folder
+# in which the framework is installed.
 class Ztkfunc < Formula
   desc "Settings of the USB DJ mixer VRM-D6"
   homepage "https://tarvix.example/ztkfunc"
-  # The address and the checksum are those of a release; a checkout is
-  # installed with "brew install --HEAD".
+  # The address and the checksum of a release have to be added here. Until then, use
+  # "brew install --HEAD".
   head "https://tarvix.example/ztkfunc.git", branch: "main"
   license "MIT"
 
   depends_on "cli11" => :build
   depends_on "cmake" => :build
   depends_on "nlohmann-json" => :build
-  # With it the formula also installs ztk-window.
+  # With Qt the formula also installs ztk-window.
   depends_on "qt" => :optional
 
   def install
@@ -26,10 +26,10 @@ class Ztkfunc < Formula
 
   def caveats
     <<~EOS
-      The library looks for its texts and versions in /Library/Frameworks (below
-      /System/Library from macOS 11 on), not in #{opt_frameworks}.
-      Warnings are therefore told in ztk's own words. On macOS 10.11 to 10.15
-      this link lets the library find them:
+      The library searches its texts and versions in /Library/Frameworks (from
+      macOS 11 on, below /System/Library), not in #{opt_frameworks}.
+      So ztk prints warnings with its own sentences. On macOS 10.11 to 10.15,
+      the library finds its texts through this link:
         sudo ln -s #{opt_frameworks}/VRM-D6Setup.framework /Library/Frameworks/
     EOS
   end

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Reads any bytes as a file to import and as an undo history.
+// Reads the input as a file to import and as an undo history.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -28,7 +28,7 @@ void CheckImport(const std::string &text) {
   }
 }
 
-// What is read can be written, and read again as the same.
+// A history that was read and written must be the same when it is read again.
 void CheckHistory(const std::string &text) {
   const ParsedHistory parsed = ParseHistory(text);
   const std::string written = HistoryText(parsed.steps);

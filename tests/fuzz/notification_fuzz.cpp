@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// Sends signals of any signature and any body to two observers, without a bus
-// in between that would turn the malformed ones away.
+// Sends signals with any signature and any body to two observers. There is no
+// bus, because a bus would reject malformed signals.
 //
-// Input: a byte of flags (1: the signature follows, as a byte of length and its
-// characters, instead of the right one; 2: the body starts with the observed
-// name; 4: the second name instead of the first), then the body.
+// The input is a byte of flags, then the body. Flag 1: the signature is in the
+// input, as a byte with its length and its characters; otherwise it is the
+// correct one. Flag 2: the body starts with an observed name. Flag 4: this name
+// is the second one.
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -23,13 +24,13 @@
 #include "platform/linux/sd_bus_header.h"
 #include "platform/notification_center.h"
 
-// Where the functions that are used on both sides are the loaded ones.
+// In this namespace, the functions of sd-bus are those of the loaded library.
 namespace ztk::platform::notification_center {
 
 namespace {
 
 constexpr char kName[] = "VRM-D6 InputAudio Change";
-// One that the match rule cannot hold, so that every signal is read.
+// The match rule cannot contain this name, so every signal is read.
 constexpr char kUnquotableName[] = "it's";
 
 void Require(bool condition) {
@@ -58,7 +59,7 @@ void PutText(std::string *bytes, std::string_view text) {
   bytes->append(text).push_back('\0');
 }
 
-// A field of the message's header: its number, its type, its value.
+// Appends a field of the message's header: its number, its type and its value.
 void PutField(std::string *bytes, char field, char type,
               std::string_view text) {
   Pad(bytes, 8);
@@ -72,7 +73,7 @@ void PutField(std::string *bytes, char field, char type,
   }
 }
 
-// A signal in the D-Bus wire format, little-endian.
+// Returns a signal in the D-Bus wire format, little-endian.
 std::string Signal(std::string_view signature, std::string_view body) {
   std::string fields;
   PutField(&fields, 1, 'o', kBusPath);
@@ -89,7 +90,8 @@ std::string Signal(std::string_view signature, std::string_view body) {
   return bytes.append(body);
 }
 
-// Two connected ends; observers listen on one, raw bytes go into the other.
+// Two connected sockets. The observers receive from one, and the other sends
+// the input.
 class Wire {
  public:
   Wire() : receiver_(NewBus()), sender_(NewBus()) {
@@ -110,7 +112,7 @@ class Wire {
     Observe(kUnquotableName);
   }
 
-  // False once the receiver has given the connection up.
+  // Returns false if the receiver has closed the connection.
   bool Deliver(const std::string &bytes) {
     const ssize_t sent = send(sd_bus_get_fd(sender_.get()), bytes.data(),
                               bytes.size(), MSG_NOSIGNAL);
@@ -148,7 +150,8 @@ class Wire {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data,
                                       std::size_t size) {
-  // Kept from one input to the next: making it costs more than using it.
+  // The connection is used for many inputs, because making it takes longer than
+  // using it.
   static std::unique_ptr<Wire> wire;
   if (size == 0) return 0;
   std::string_view input(reinterpret_cast<const char *>(data), size);

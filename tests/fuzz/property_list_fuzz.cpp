@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Gives any bytes to the reader of property lists, as a file; then has that
-// file rewritten with one more entry.
+// Reads the input as a property-list file. Then rewrites the file with one more
+// entry.
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,7 +17,7 @@
 #include "platform/common/pause.h"
 #include "platform/property_list.h"
 
-// No other process writes to the files of this target: it does not wait.
+// No other process writes to the files of this target, so it need not wait.
 void ztk::platform::Pause(std::chrono::microseconds /*time*/) {}
 
 namespace {
@@ -30,7 +30,8 @@ void Require(bool condition) {
   if (!condition) std::abort();
 }
 
-// A folder in memory where there is one: every input is written and synced.
+// A temporary folder. It is in memory if possible, because every input is
+// written and synced.
 class Folder {
  public:
   Folder() {
@@ -96,7 +97,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data,
 
   constexpr std::int32_t kValue = -123456789;
   if (!Rewrite(path, kValue)) {
-    // What would be too large to be read again is not written.
+    // A file that would be too large to be read again is not written.
     Require(readable && ContentOf(path) == bytes);
     return 0;
   }
@@ -105,7 +106,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data,
                    : ContentOf(kept) == bytes);
   unlink(kept.c_str());
 
-  // Once written, a file is rewritten as it is.
+  // Rewriting a written file does not change it.
   const std::string first = ContentOf(path);
   Require(Rewrite(path, kValue) && ContentOf(path) == first);
   return 0;

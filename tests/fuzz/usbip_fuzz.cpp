@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Says any bytes to the USB/IP server, in pieces whose sizes the input tells:
-// as a client that has yet to choose its device, or as one that has.
+// Sends the input to the USB/IP server, as a client that has imported a device
+// or as one that has not. Byte 0 of the input contains flags, byte 1 the size
+// of the pieces.
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
@@ -21,7 +22,7 @@ void Require(bool condition) {
   if (!condition) std::abort();
 }
 
-// So that every kind of answer occurs.
+// Adds faults, so that every kind of answer occurs.
 void AddFaults(Devices *devices) {
   for (const char *text : {"delay:5@8001", "silence@8004", "short:1@8006",
                            "bytes:0102030405060708@8007"}) {
@@ -62,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data,
       if ((data[0] & 2) != 0) session.Sent(session.Output().size());
     }
   }
-  // Whatever was said, the device can be had again.
+  // After any input, the device is not attached any more.
   Require(!devices.Status(1).pluggedIn || !*devices.Status(1).attached);
   return 0;
 }

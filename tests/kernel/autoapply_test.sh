@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# What happens when a mixer is plugged in, for a user who has turned autoapply
-# on. Runs in the guest with systemd and a session of the user "guest":
+# Tests that plugging in a mixer sends the remembered settings of a user who has turned
+# autoapply on. Runs in the guest with systemd and a session of the user "guest":
 #
 #   autoapply_test.sh INSTALLED PREFIX
 #
@@ -28,7 +28,7 @@ expect_start() {  # what start-of-text text
   printf 'ok: %s\n' "$1"
 }
 
-# As in a terminal of the user's session.
+# Runs a command as in a terminal of the user's session.
 as_guest() {
   local runtime
   runtime=/run/user/$(id -u guest)
@@ -37,7 +37,7 @@ as_guest() {
     "$@"
 }
 
-# The requests since the last call that changed something on a mixer.
+# Prints the requests that change a setting of a mixer.
 writes() {
   sed -n 's/^\(mixer [0-9]*: 40 .*\)/\1/p' "$requests"
 }
@@ -46,7 +46,7 @@ runs_logged() {
   journalctl --quiet --output cat -t ztk-apply | grep -c . || true
 }
 
-plug_in_anew_for_nobody() {
+plug_in_again_without_user() {
   ztk-virtual-mixer unplug
   until_true no_mixer
   : >"$requests"
@@ -56,15 +56,15 @@ plug_in_anew_for_nobody() {
 }
 
 # Plugs a mixer in and waits until the user's systemd has no more jobs.
-plug_in_anew() {
-  plug_in_anew_for_nobody
+plug_in_again() {
+  plug_in_again_without_user
   until_true nothing_to_do
 }
 
 mixers() { grep -slx 6666 /sys/bus/usb/devices/*/idVendor | wc -l; }
 no_mixer() { [[ $(mixers) == 0 ]]; }
 all_mixers() { [[ $(mixers) == 2 ]]; }
-# The user's systemd knows both devices, and has no more jobs.
+# Succeeds if the user's systemd knows both devices and has no more jobs.
 nothing_to_do() {
   [[ $(as_guest systemctl --user list-units --plain --no-legend \
     --type device '*-usb*' | grep -c VRM-D6) == 2 &&
@@ -81,16 +81,16 @@ until_true() {  # function
     ! "$1" || return 0
     sleep 0.2
   done
-  fail "'$1' is not so after twenty seconds"
+  fail "'$1' is not true after twenty seconds"
 }
 
-if [[ ${3:-} != --among-mixers ]]; then
+if [[ ${3:-} != --with-mixers ]]; then
   mkdir -p "$prefix"
   cp -R "$installed/." "$prefix/"
   udevadm control --reload
   export PATH=$prefix/bin:$PATH
   exec ztk-virtual-mixer serve -n 2 --attach --log "$requests" -- \
-    "$0" "$@" --among-mixers
+    "$0" "$@" --with-mixers
 fi
 
 until_true all_mixers
@@ -99,7 +99,7 @@ udevadm settle
 expect_start "it is off at first" "Off: " "$(as_guest ztk autoapply status)"
 as_guest ztk input set 2 post >/dev/null
 as_guest ztk boost set "-10 dB" >/dev/null
-plug_in_anew
+plug_in_again
 expect "plugging in sends nothing while it is off" "" "$(writes)"
 expect "and nothing is in the journal" 0 "$(runs_logged)"
 
@@ -117,7 +117,7 @@ expect "the journal tells that there was nothing to send" \
 expect "and nothing was sent" "" "$(writes)"
 as_guest mv /home/guest/away /home/guest/.config/tarvix
 
-plug_in_anew
+plug_in_again
 expect "plugging in sends what is remembered, and only that" \
   "mixer 1: 40 03 0200 8003 0000
 mixer 1: 40 03 0206 8002 0000
@@ -132,7 +132,7 @@ expect "no run of it failed" "" \
 expect_start "the user turns it off" "Off: " "$(as_guest ztk autoapply off)"
 expect "which leaves nothing behind" "" \
   "$(find /home/guest/.config/systemd -type l 2>/dev/null)"
-plug_in_anew
+plug_in_again
 expect "plugging in sends nothing any more" "" "$(writes)"
 
 as_guest ztk autoapply on >/dev/null
@@ -140,5 +140,5 @@ user_manager=user@$(id -u guest).service
 systemctl stop guest-session
 loginctl terminate-user guest || true
 until_true user_has_gone
-plug_in_anew_for_nobody
+plug_in_again_without_user
 expect "nothing is sent for a user who has logged out" "" "$(writes)"

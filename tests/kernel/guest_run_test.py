@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Tests that guest-run does what its --help says.
+"""Tests guest-run.
 
     guest_run_test.py GUEST_RUN
 """
@@ -63,7 +63,7 @@ class OneGuest(unittest.TestCase):
         cls.parts = dict(part.split("\n", 1) for part in parts)
         cls.parts["arguments"] = head
 
-    def test_gets_the_arguments_as_they_were_given(self):
+    def test_the_command_receives_its_arguments_unchanged(self):
         self.assertEqual(self.parts["arguments"],
                          "<two words><><it's><a\nline><$HOME><--option>")
 
@@ -72,7 +72,7 @@ class OneGuest(unittest.TestCase):
         self.assertEqual(self.done.stderr, "to errors\nKilled\n")
         self.assertNotIn("to errors", self.done.stdout)
 
-    def test_ends_by_a_signal_as_a_shell_does_with_all_output(self):
+    def test_a_signal_ends_the_command_and_no_output_is_lost(self):
         self.assertEqual(self.parts["much"],
                          "".join(f"{i}\n" for i in range(1, 300001)))
         self.assertEqual(self.done.returncode, 137)
@@ -84,7 +84,7 @@ class OneGuest(unittest.TestCase):
         self.assertEqual(self.parts["machine"],
                          "1\nlo\n1d6b\nvhci_hcd.0\n16")
 
-    def test_keeps_only_what_goes_to_a_writable_folder(self):
+    def test_keeps_only_the_files_in_a_writable_folder(self):
         self.assertEqual(self.parts["files"], "gone\noutside\n")
         self.assertEqual((self.kept / "new").read_text(), "inside\n")
         self.assertEqual(os.listdir(self.kept), ["new"])
@@ -101,7 +101,7 @@ class EndOfTheGuest(unittest.TestCase):
                          "guest-run: ended after 5 seconds: sleep 100")
 
     @unittest.skipUnless(is_emulated(), "a real processor has its own clock")
-    def test_long_before_its_clock_says_so_if_that_counts_instructions(self):
+    def test_early_if_its_clock_counts_instructions(self):
         done = guest_run("--instruction-clock", "--timeout", "120", "bash",
                          "-c", "sleep 1000; ((SECONDS >= 1000)) && exit 5")
         if done.returncode == 77:
@@ -117,7 +117,7 @@ class EndOfTheGuest(unittest.TestCase):
 class WithoutGuest(unittest.TestCase):
     """Cases in which guest-run ends before it starts a guest."""
 
-    def test_names_what_is_wrong_with_the_options(self):
+    def test_reports_the_error_in_the_options(self):
         for arguments, why in (
                 ((), "no command is given"),
                 (("--wrong", "true"), "'--wrong' is not an option"),
@@ -144,7 +144,7 @@ class WithoutGuest(unittest.TestCase):
                          "install qemu-system-x86\n")
 
     def test_counts_as_skipped_without_a_kernel(self):
-        # With an apt-cache that knows no package, and an empty cache folder.
+        # This apt-cache knows no package, and the cache folder is empty.
         with tempfile.TemporaryDirectory() as folder:
             apt = pathlib.Path(folder, "apt-cache")
             apt.write_text("#!/bin/sh\necho E: no network >&2\nexit 100\n")

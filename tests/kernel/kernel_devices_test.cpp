@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library with the devices of a real kernel: which devices it
-// finds, in which order, which it opens, and with which rights.
+// Tests the complete library with the devices of a real kernel: which devices
+// it finds, in which order, which device nodes it opens, and which permissions
+// it needs.
 #include <fcntl.h>
 #include <linux/usbdevice_fs.h>
 #include <sys/inotify.h>
@@ -39,7 +40,7 @@ class KernelDevices : public LibraryWorld {
 constexpr DeviceKind kMixer = DeviceKind::Mixer;
 constexpr DeviceKind kSibling = DeviceKind::Sibling;
 
-TEST_F(KernelDevices, AmongRootHubsAloneThereIsNoMixer) {
+TEST_F(KernelDevices, RootHubsAreNotMixers) {
   Plug({});
   EXPECT_EQ(CheckUSBAudio(10), 0);
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);
@@ -47,14 +48,14 @@ TEST_F(KernelDevices, AmongRootHubsAloneThereIsNoMixer) {
   EXPECT_THAT(TakeLog(), IsEmpty());
 }
 
-TEST_F(KernelDevices, OfTheMakersOtherProductsNoneIsAMixer) {
+TEST_F(KernelDevices, OtherProductsOfTheMakerAreNotMixers) {
   Plug({kSibling, kSibling});
   EXPECT_EQ(DevicesOnTheBus().size(), 2u);
   EXPECT_EQ(CheckUSBAudio(10), 0);
   EXPECT_EQ(ZTK_IsUSBConnection(10), 104u);
 }
 
-TEST_F(KernelDevices, AMixerBetweenOtherDevicesIsReached) {
+TEST_F(KernelDevices, AMixerBetweenOtherDevicesReceivesTheValue) {
   Plug({kSibling, DeviceKind::Keyboard, kMixer, DeviceKind::Storage, kSibling,
         DeviceKind::Hub});
   EXPECT_EQ(CheckUSBAudio(10), 1);
@@ -62,7 +63,7 @@ TEST_F(KernelDevices, AMixerBetweenOtherDevicesIsReached) {
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
 }
 
-TEST_F(KernelDevices, EightMixersAreReachedInBusOrder) {
+TEST_F(KernelDevices, EightMixersReceiveTheValueInBusOrder) {
   Plug({kMixer, kMixer, kMixer, kMixer, kMixer, kMixer, kMixer, kMixer});
   EXPECT_EQ(CheckUSBAudio(10), 8);
   EXPECT_EQ(ZTK_SetMidiChannelIndex(1, 15), 100u);
@@ -76,7 +77,7 @@ TEST_F(KernelDevices, EightMixersAreReachedInBusOrder) {
 }
 
 // A controller has fifteen ports, so the second mixer is on another bus.
-TEST_F(KernelDevices, OneBusIsWalkedAfterTheOther) {
+TEST_F(KernelDevices, TheMixersOfTwoBusesReceiveTheValueInOrder) {
   std::vector<DeviceKind> kinds(14, kSibling);
   kinds.insert(kinds.end(), {kMixer, kMixer});
   Plug(kinds);
@@ -87,8 +88,8 @@ TEST_F(KernelDevices, OneBusIsWalkedAfterTheOther) {
                                      "mixer 2: 40 03 0300 8003 0000"));
 }
 
-// The kernel gives it a new number, but its place is the same.
-TEST_F(KernelDevices, PluggedInAgainAMixerHasItsOldPlaceInTheWalk) {
+// The mixer gets a new device number, but its port is the same.
+TEST_F(KernelDevices, AMixerThatIsPluggedInAgainHasItsOldPosition) {
   Plug({kMixer, kMixer});
   const std::string port = KernelWorld::DeviceOf(1);
   world().Unplug(1);
@@ -135,7 +136,7 @@ class OpenedNodes {
   std::map<int, fs::path> folders_;
 };
 
-TEST_F(KernelDevices, NoNodeButTheMixersIsOpened) {
+TEST_F(KernelDevices, OnlyTheNodesOfTheMixersAreOpened) {
   Plug({kSibling, kMixer, kSibling, kMixer, DeviceKind::Keyboard});
   OpenedNodes opened;
   for (const auto &rows : {SetterRows(), QueryRows()}) {
@@ -154,7 +155,7 @@ TEST_F(KernelDevices, CountingOpensNothing) {
   EXPECT_THAT(opened.Take(), IsEmpty());
 }
 
-TEST_F(KernelDevices, SleepingDevicesStayAsleep) {
+TEST_F(KernelDevices, SuspendedDevicesStaySuspended) {
   Plug({kSibling, kMixer, kSibling});
   std::vector<std::string> others;
   for (const std::string &device : DevicesOnTheBus()) {
@@ -165,7 +166,7 @@ TEST_F(KernelDevices, SleepingDevicesStayAsleep) {
   for (const std::string &device : others) {
     SetAttribute(device, "power/autosuspend_delay_ms", "0");
     SetAttribute(device, "power/control", "auto");
-    ASSERT_TRUE(WaitFor("it sleeps", [&] {
+    ASSERT_TRUE(WaitFor("the device is suspended", [&] {
       return Attribute(device, "power/runtime_status") == "suspended";
     }));
     activeTimes.push_back(Attribute(device, "power/runtime_active_time"));
@@ -181,12 +182,12 @@ TEST_F(KernelDevices, SleepingDevicesStayAsleep) {
   }
 }
 
-TEST_F(KernelDevices, ASleepingMixerIsWokenAndAnswers) {
+TEST_F(KernelDevices, ASuspendedMixerResumesAndAnswers) {
   Plug({kMixer});
   const std::string device = KernelWorld::DeviceOf(1);
   SetAttribute(device, "power/autosuspend_delay_ms", "0");
   SetAttribute(device, "power/control", "auto");
-  ASSERT_TRUE(WaitFor("it sleeps", [&] {
+  ASSERT_TRUE(WaitFor("the mixer is suspended", [&] {
     return Attribute(device, "power/runtime_status") == "suspended";
   }));
   uint32_t value = 0;
@@ -194,7 +195,7 @@ TEST_F(KernelDevices, ASleepingMixerIsWokenAndAnswers) {
   EXPECT_EQ(value, 1078u);
 }
 
-TEST_F(KernelDevices, WhatAnotherProcessHasClaimedAnswersAllTheSame) {
+TEST_F(KernelDevices, AMixerThatAnotherProcessHasClaimedStillAnswers) {
   Plug({kMixer});
   const int node =
       open(NodeOf(KernelWorld::DeviceOf(1)).c_str(), O_RDWR | O_CLOEXEC);
@@ -206,7 +207,7 @@ TEST_F(KernelDevices, WhatAnotherProcessHasClaimedAnswersAllTheSame) {
   close(node);
 }
 
-TEST_F(KernelDevices, AnUnconfiguredMixerAnswersAllTheSame) {
+TEST_F(KernelDevices, AnUnconfiguredMixerStillAnswers) {
   Plug({kMixer});
   SetAttribute(KernelWorld::DeviceOf(1), "bConfigurationValue", "0");
   ASSERT_EQ(Attribute(KernelWorld::DeviceOf(1), "bConfigurationValue"), "");
@@ -214,8 +215,8 @@ TEST_F(KernelDevices, AnUnconfiguredMixerAnswersAllTheSame) {
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
 }
 
-// Runs it as the user nobody, in a process of its own. Returns its exit status,
-// or 128 plus the number of the signal that ended it.
+// Runs the function as the user nobody, in a child process. Returns the exit
+// status, or 128 plus the number of the signal that ended the process.
 int AsNobody(const std::function<int()> &what) {
   constexpr uid_t kNobody = 65534;
   const pid_t child = fork();
@@ -249,7 +250,7 @@ TEST_F(KernelDevices, WithoutPermissionNothingIsSentAndNothingCrashes) {
   EXPECT_THAT(TakeLog(), IsEmpty());
 }
 
-TEST_F(KernelDevices, OneMixerThatMayBeOpenedIsReached) {
+TEST_F(KernelDevices, AMixerWithPermissionReceivesTheValue) {
   Plug({kMixer, kMixer});
   ASSERT_EQ(chmod(NodeOf(KernelWorld::DeviceOf(2)).c_str(), 0666), 0);
   const int status = AsNobody(

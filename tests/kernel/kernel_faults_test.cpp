@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The shipped library on a real kernel with mixers that fail or are unplugged.
+// Tests the complete library on a real kernel with mixers that fail or are
+// unplugged.
 #include <unistd.h>
 
 #include <atomic>
@@ -35,12 +36,12 @@ class KernelFaults : public LibraryWorld {
     world().WithMixer(mixer,
                       [&](MixerModel &model) { model.AddFault(*fault); });
   }
-  void Sound(int mixer) {
+  void ClearFaults(int mixer) {
     world().WithMixer(mixer, [](MixerModel &model) { model.ClearFaults(); });
   }
 };
 
-TEST_F(KernelFaults, AfterAStallTheNextRequestIsFine) {
+TEST_F(KernelFaults, AfterAStallTheNextRequestSucceeds) {
   PlugMixers(2);
   Inject(1, "stall*1");
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 0), 100u);
@@ -51,7 +52,7 @@ TEST_F(KernelFaults, AfterAStallTheNextRequestIsFine) {
                                      "mixer 2: 40 03 0200 8003 0000"));
 }
 
-TEST_F(KernelFaults, ASilentMixerIsGivenUpAndTheNextServed) {
+TEST_F(KernelFaults, AfterATimeOutTheNextMixerReceivesTheValue) {
   PlugMixers(2);
   Inject(1, "silence*1");
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 0), 100u);
@@ -62,7 +63,7 @@ TEST_F(KernelFaults, ASilentMixerIsGivenUpAndTheNextServed) {
                                      "mixer 2: 40 03 0200 8003 0000"));
 }
 
-TEST_F(KernelFaults, ALateAnswerIsWaitedFor) {
+TEST_F(KernelFaults, TheLibraryWaitsForALateAnswer) {
   PlugMixers(1);
   Inject(1, "delay:200@8001");
   uint32_t value = 0;
@@ -70,7 +71,7 @@ TEST_F(KernelFaults, ALateAnswerIsWaitedFor) {
   EXPECT_EQ(value, 1078u);
 }
 
-TEST_F(KernelFaults, UnpluggedBetweenCountAndOpenItIsSkipped) {
+TEST_F(KernelFaults, AMixerUnpluggedBetweenCountAndOpenIsSkipped) {
   PlugMixers(2);
   EXPECT_EQ(CheckUSBAudio(10), 2);
   world().Unplug(2);
@@ -81,7 +82,7 @@ TEST_F(KernelFaults, UnpluggedBetweenCountAndOpenItIsSkipped) {
   closeUSB(&slot);
 }
 
-TEST_F(KernelFaults, UnpluggedBetweenOpenAndRequestItHasGone) {
+TEST_F(KernelFaults, AMixerUnpluggedBetweenOpenAndRequestIsNoDevice) {
   PlugMixers(1);
   usb::Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 0), 0u);
@@ -93,7 +94,7 @@ TEST_F(KernelFaults, UnpluggedBetweenOpenAndRequestItHasGone) {
   EXPECT_EQ(slot, nullptr);
 }
 
-TEST_F(KernelFaults, UnpluggedInFlightASetterGoesOnWithTheNext) {
+TEST_F(KernelFaults, AfterAMixerIsUnpluggedASetterContinuesWithTheNext) {
   PlugMixers(2);
   Inject(1, "unplug@8003");
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 0), 100u);
@@ -105,7 +106,7 @@ TEST_F(KernelFaults, UnpluggedInFlightASetterGoesOnWithTheNext) {
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 2: 40 03 0200 8003 0000"));
 }
 
-TEST_F(KernelFaults, UnpluggedInFlightAQueryAnswersItsNeutralValue) {
+TEST_F(KernelFaults, AQueryReturnsItsPresetValueIfTheMixerIsUnplugged) {
   const struct {
     const char *name;
     ZTKResult (*call)(uint32_t *value);
@@ -142,8 +143,8 @@ TEST_F(KernelFaults, UnpluggedInFlightAQueryAnswersItsNeutralValue) {
   }
 }
 
-// The request had been sent already; nothing that the mixer does ends it.
-TEST_F(KernelFaults, PulledOutWhileItIsSilentTheRequestEndsAtOnce) {
+// The request has been sent, and the mixer does not answer.
+TEST_F(KernelFaults, UnpluggingASilentMixerEndsTheRequest) {
   PlugMixers(1);
   Inject(1, "silence");
   usb::Connection slot = nullptr;
@@ -160,7 +161,7 @@ TEST_F(KernelFaults, PulledOutWhileItIsSilentTheRequestEndsAtOnce) {
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 1: 40 03 0100 8004 0000 -> gone"));
 }
 
-TEST_F(KernelFaults, PluggedInAgainItHasWhatItWasSet) {
+TEST_F(KernelFaults, AMixerKeepsItsSelectorsWhenItIsPluggedInAgain) {
   PlugMixers(1);
   world().WithMixer(1, [](MixerModel &model) { model.TurnSelector(0, 9); });
   world().Unplug(1);
@@ -172,7 +173,7 @@ TEST_F(KernelFaults, PluggedInAgainItHasWhatItWasSet) {
   EXPECT_EQ(value, 9u);
 }
 
-TEST_F(KernelFaults, AShortReplyLeavesThePresetOfTheRest) {
+TEST_F(KernelFaults, AfterAShortReplyTheOtherBytesKeepTheirPreset) {
   const struct {
     const char *fault;
     ZTKResult (*call)(uint32_t *value);
@@ -219,7 +220,8 @@ TEST_F(KernelFaults, AShortReplyLeavesThePresetOfTheRest) {
          return ZTK_GetMixerSeratoActiveStatus(10, value);
        },
        100, 0},
-      // Read after the routing was sent: position 0 causes no warning.
+      // The selectors are read after the routing was sent. The preset position
+      // is 0.
       {"short:0@r8002",
        [](uint32_t *) { return ZTK_SetUSBInputAudio(10, 1, 0); }, 101, 77},
       {"short:0@r8002",
@@ -237,7 +239,7 @@ TEST_F(KernelFaults, AShortReplyLeavesThePresetOfTheRest) {
   });
   for (const auto &row : rows) {
     SCOPED_TRACE(row.fault);
-    Sound(1);
+    ClearFaults(1);
     Inject(1, row.fault);
     uint32_t value = 77;
     EXPECT_EQ(row.call(&value), row.result);
@@ -245,7 +247,7 @@ TEST_F(KernelFaults, AShortReplyLeavesThePresetOfTheRest) {
   }
 }
 
-TEST_F(KernelFaults, WrongBytesArePassedOnAsTheyAre) {
+TEST_F(KernelFaults, WrongBytesAreReturnedUnchanged) {
   PlugMixers(1);
   Inject(1, "bytes:ffffffffffffffff");
   uint32_t value = 77;
@@ -260,7 +262,7 @@ TEST_F(KernelFaults, WrongBytesArePassedOnAsTheyAre) {
   EXPECT_EQ(value, 77u);
 }
 
-// The file descriptors of this process for device nodes.
+// Returns the open device nodes and sysfs files of this process.
 std::vector<std::string> OpenDevices() {
   std::vector<std::string> open;
   for (const auto &entry : fs::directory_iterator("/proc/self/fd")) {
@@ -282,7 +284,7 @@ std::size_t CountDescriptors() {
   return count;
 }
 
-// Quick by default; ./check --full asks for 10,000.
+// Returns the number of calls. ./check --full sets 10,000.
 int SetterCalls() {
   const char *const asked = std::getenv("ZTK_KERNEL_CALLS");
   return asked == nullptr ? 300 : std::atoi(asked);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The programs on a real kernel, as a user runs them: mixers that are served
-// over USB/IP, faults set while they run, and ztk.
+// Tests the programs on a real kernel as a user runs them: virtual mixers over
+// USB/IP, faults that are set while they run, and ztk.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -21,19 +21,20 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
-// No device of a test stays on the bus.
+// Each test waits until its devices are no longer on the bus.
 class KernelPrograms : public testing::Test {
  protected:
   void SetUp() override {
-    const std::string refusal = WhyNoWorld();
-    if (!refusal.empty()) GTEST_SKIP() << refusal;
+    const std::string reason = WhyNoWorld();
+    if (!reason.empty()) GTEST_SKIP() << reason;
   }
   void TearDown() override {
     if (!WhyNoWorld().empty()) return;
     WaitFor("the bus is empty", [] { return DevicesOnTheBus().empty(); });
   }
 
-  // The output of a shell script on both streams; $Z and $V are the programs.
+  // Runs a shell script and returns its output on both streams. $Z and $V are
+  // the programs.
   static std::string Shell(const std::string &script) {
     const std::string whole =
         "exec 2>&1; Z='" ZTK "'; V='" VIRTUAL_MIXER "'; export Z V; " + script;
@@ -74,7 +75,7 @@ TEST_F(KernelPrograms, StatusReadsAMixerOfTheKernel) {
       "status 0");
 }
 
-TEST_F(KernelPrograms, ASettingReachesBothMixersAndTheLogHasTheSandboxsForm) {
+TEST_F(KernelPrograms, ASettingReachesBothMixersAndTheLogIsAsInTheSandbox) {
   EXPECT_EQ(Attached("-n 2 --log /tmp/kernel-log",
                      "$Z input set 1 mic 2>/dev/null; "
                      "grep -E \": (c0|40) \" /tmp/kernel-log | head -n 4"),
@@ -86,7 +87,7 @@ TEST_F(KernelPrograms, ASettingReachesBothMixersAndTheLogHasTheSandboxsForm) {
             "status 0");
 }
 
-TEST_F(KernelPrograms, TheRunningMixersObeyTheControlCommands) {
+TEST_F(KernelPrograms, TheControlCommandsChangeTheRunningMixers) {
   const std::string output = Attached(
       "",
       "$V turn 2 16; $Z status | grep CH2; "
@@ -108,7 +109,7 @@ TEST_F(KernelPrograms, TheRunningMixersObeyTheControlCommands) {
   EXPECT_THAT(output, EndsWith("mixer 1  bus id 1-1  attached\nstatus 0"));
 }
 
-TEST_F(KernelPrograms, AReplayedReportIsReportedAgain) {
+TEST_F(KernelPrograms, TheReportOfAReplayedMixerIsTheSame) {
   Attached("-n 2 --reply 1:8001=2103 --fault 2:stall@r8004",
            "$Z doctor --report /tmp/first >/dev/null");
   Attached("--device /tmp/first", "$Z doctor --report /tmp/second >/dev/null");
@@ -130,7 +131,7 @@ TEST_F(KernelPrograms, StatusSaysThatAMixerMayNotBeOpened) {
   EXPECT_THAT(output, HasSubstr("you have no permission for /dev/bus/usb/"));
 }
 
-TEST_F(KernelPrograms, LsusbShowsTheMixerClean) {
+TEST_F(KernelPrograms, LsusbShowsTheMixerWithoutComplaints) {
   if (!Has("lsusb")) GTEST_SKIP() << "lsusb is not installed";
   const std::string output = Attached("", "lsusb -v -d 6666:001b");
   for (const char *line :
@@ -144,7 +145,7 @@ TEST_F(KernelPrograms, LsusbShowsTheMixerClean) {
         "  Self Powered\n"}) {
     EXPECT_THAT(output, HasSubstr(line));
   }
-  // Some versions name the class 0 "[unknown]", which is no complaint.
+  // Some versions show "[unknown]" for class 0. This is not a complaint.
   const std::string text =
       std::regex_replace(output, std::regex(R"(\[unknown\])"), "");
   for (const char *complaint :
@@ -165,8 +166,8 @@ TEST_F(KernelPrograms, SaysThatOnlyRootMayAttach) {
   EXPECT_THAT(output, EndsWith("status 1"));
 }
 
-// The commands of README, without "sudo".
-TEST_F(KernelPrograms, TheStandardToolAttachesAndDetaches) {
+// Runs the usbip commands of the documentation without "sudo".
+TEST_F(KernelPrograms, TheUsbipToolAttachesAndDetachesMixers) {
   if (!Has("usbip")) GTEST_SKIP() << "usbip is not installed";
   const std::string output = Shell(
       "busybox ip link set lo up; "

@@ -22,7 +22,8 @@ namespace fs = std::filesystem;
 constexpr char kDevices[] = "/sys/bus/usb/devices";
 constexpr char kVhci[] = "/sys/devices/platform/vhci_hcd.0";
 
-// "mixer 1: c0 ..." and "mixer 1: 40 ...": the type is vendor.
+// Returns true for "mixer 1: c0 ..." and "mixer 1: 40 ...". These are the
+// request types of vendor requests.
 bool IsVendorRequest(const std::string &line) {
   const std::size_t type = line.find(": ");
   return line.compare(type + 2, 2, "c0") == 0 ||
@@ -35,7 +36,7 @@ bool WaitFor(const std::string &what, const std::function<bool()> &condition) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
   while (!condition()) {
     if (std::chrono::steady_clock::now() > end) {
-      ADD_FAILURE() << "waited in vain until " << what;
+      ADD_FAILURE() << "this did not happen in time: " << what;
       return false;
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(5));

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Virtual mixers on the bus of the running kernel: this process serves them
-// over USB/IP and attaches them to vhci-hcd. For the guest that guest-run
-// boots; needs root.
+// Virtual mixers on the USB bus of the running kernel. This process serves the
+// mixers over USB/IP and attaches them to vhci-hcd. It needs root and runs in
+// the guest that guest-run boots.
 #ifndef ZTK_TESTS_KERNEL_KERNEL_WORLD_H_
 #define ZTK_TESTS_KERNEL_KERNEL_WORLD_H_
 
@@ -15,32 +15,31 @@
 
 namespace ztk::test {
 
-// Waits for the condition; reports a failure when it does not become true in
-// time.
+// Waits until the condition is true. The test fails if this takes more than 30
+// seconds.
 bool WaitFor(const std::string &what, const std::function<bool()> &condition);
 
-// The devices on the bus of the kernel, without root hubs: names in sysfs, such
-// as "1-2".
+// Returns the sysfs names of the kernel's USB devices, such as "1-2", without
+// root hubs.
 std::vector<std::string> DevicesOnTheBus();
-// The whole of an attribute, without its line end; empty when there is none.
+// Returns the first line of an attribute, or an empty text if there is none.
 std::string Attribute(const std::string &device, const std::string &name);
 void SetAttribute(const std::string &device, const std::string &name,
                   const std::string &value);
-// "/dev/bus/usb/001/002"
+// Returns the path of the device node, such as "/dev/bus/usb/001/002".
 std::string NodeOf(const std::string &device);
 
-// Plug and Unplug return when the kernel has noticed the change.
+// PlugIn() and Unplug() return when the kernel has noticed the change.
 class KernelWorld : public virtual_mixer::MixerWorld {
  public:
-  // `log` receives the vendor requests; requests that the kernel itself makes
-  // are left out.
+  // `log` receives only the vendor requests, not the requests of the kernel.
   KernelWorld(const std::vector<virtual_mixer::Placement> &placements,
               const virtual_mixer::LogSink &log);
   ~KernelWorld() override;
   KernelWorld(const KernelWorld &) = delete;
   KernelWorld &operator=(const KernelWorld &) = delete;
 
-  // Its name in sysfs; empty while it is unplugged.
+  // Returns the sysfs name of a mixer, or an empty text while it is unplugged.
   static std::string DeviceOf(int mixer);
 
   int MixerCount() const override { return served_->MixerCount(); }

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# A mixer is plugged in, then the packages are installed: the user of the
-# session may open it at once. scripts/try-packages runs this in the guest, with
-# systemd and a session of the user "guest":
+# Tests that the user of the session may open an attached mixer as soon as the packages
+# are installed. scripts/try-packages runs this script in the guest, with systemd and a
+# session of the user "guest":
 #
 #   packages_test.sh FOLDER_OF_PACKAGES
 set -euo pipefail
@@ -38,7 +38,7 @@ printf -v node /dev/bus/usb/%03d/%03d \
 udevadm settle
 
 may_open() {
-  # shellcheck disable=SC2016  # expanded inside
+  # shellcheck disable=SC2016  # expanded by the inner bash
   runuser -u guest -- bash -c '{ : <>"$1"; } 2>/dev/null && echo yes || echo no' \
     bash "$node"
 }

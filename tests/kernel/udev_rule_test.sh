@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Which users may open the mixer after the udev rule was installed. Runs in the
+# Tests which users may open the mixer after the udev rule was installed. Runs in the
 # guest with systemd and a session of the user "guest":
 #
 #   udev_rule_test.sh BIN_FOLDER RULES_FILE
@@ -14,10 +14,10 @@ fail() {
   exit 1
 }
 
-if [[ ${3:-} != --among-mixers ]]; then
-  # With other devices, one of them a foot switch of the same maker.
+if [[ ${3:-} != --with-mixers ]]; then
+  # One of the other devices is a foot switch of the same maker.
   exec "$bin/ztk-virtual-mixer" serve -n 2 --other-devices 4 --attach \
-    --log /run/requests -- "$0" "$bin" "$rules" --among-mixers
+    --log /run/requests -- "$0" "$bin" "$rules" --with-mixers
 fi
 
 as() {  # user command...
@@ -30,8 +30,8 @@ for user in guest nobody; do
   install --directory --owner "$user" "/run/home-$user"
 done
 
-# The products whose nodes a user may open for writing, each once. Hubs are left
-# out.
+# Prints the products whose nodes a user may open for writing, each product once.
+# Omits hubs.
 open_to() {  # user
   # shellcheck disable=SC2016  # the inner shell's own variables
   as "$1" bash -c 'for device in /sys/bus/usb/devices/*; do
@@ -51,8 +51,8 @@ reachable() {  # user
   as "$1" "$bin/ztk" status 2>/dev/null | grep -c '^Mixer .* is reachable' || true
 }
 
-# Waits until root reaches this number of mixers, and prints it.
-mixers_come_to() {  # number
+# Waits until root reaches this number of mixers.
+wait_for_mixers() {  # number
   local tries
   for ((tries = 0; tries < 100; ++tries)); do
     [[ $(reachable root) != "$1" ]] || return 0
@@ -64,18 +64,19 @@ mixers_come_to() {  # number
 # Runs "ztk doctor" as a user and sets $cause and $command of the problem, which
 # must be the same for both mixers.
 ask_doctor() {  # user [environment...]
-  local user=$1 told
+  local user=$1 findings
   shift
-  told=$({ as "$user" env "$@" "$bin/ztk" doctor 2>/dev/null || true; } |
+  findings=$({ as "$user" env "$@" "$bin/ztk" doctor 2>/dev/null || true; } |
     sed '/^settings /,$d')
-  cause=$(sed -n 's/^ *cause: //p' <<<"$told" | sort -u)
-  command=$(sed -n 's/^ *type:  //p' <<<"$told" | sort -u)
+  cause=$(sed -n 's/^ *cause: //p' <<<"$findings" | sort -u)
+  command=$(sed -n 's/^ *type:  //p' <<<"$findings" | sort -u)
 }
 
-# The user types it. Everybody here is root for "sudo" already.
+# Runs the command that the doctor printed. "sudo" is replaced by a script that only
+# runs its arguments, because this script runs as root.
 type_command() {
   mkdir -p /run/typed
-  # shellcheck disable=SC2016  # expanded inside
+  # shellcheck disable=SC2016  # expanded by the inner shell
   printf '#!/bin/sh\nexec "$@"\n' >/run/typed/sudo
   chmod 755 /run/typed/sudo
   [[ $command == *sudo* && $command != *$'\n'* ]] ||
@@ -83,18 +84,18 @@ type_command() {
   PATH=/run/typed:$PATH bash -c "$command" >/dev/null
 }
 
-# The requests that the mixers receive when the user sets something.
+# Prints the requests that the mixers receive when the user sets a choice.
 sent_for() {  # user choice
   : >/run/requests
   as "$1" "$bin/ztk" input set 1 "$2" &>/dev/null || true
   sed -n 's/^\(mixer .: 40 .*\)/\1/p' /run/requests
 }
 
-plug_in_anew() {
+plug_in_again() {
   "$bin/ztk-virtual-mixer" unplug
-  mixers_come_to 0
+  wait_for_mixers 0
   "$bin/ztk-virtual-mixer" plug
-  mixers_come_to 2
+  wait_for_mixers 2
 }
 
 everybody=$(open_to root)
@@ -115,7 +116,7 @@ expect "and the one command lets the user set both mixers" \
 mixer 2: 40 03 0107 8002 0000" "$(sent_for guest "cross fader a")"
 rm "/lib/udev/rules.d/${rules##*/}"
 udevadm control --reload
-plug_in_anew
+plug_in_again
 udevadm settle
 
 ask_doctor guest
@@ -132,8 +133,8 @@ udevadm control --reload
 # The steps in README after the installation.
 install --mode 644 "$rules" /lib/udev/rules.d/
 udevadm control --reload
-plug_in_anew
-# As when the other devices are plugged in again too.
+plug_in_again
+# This has the same effect as plugging in the other devices again.
 udevadm trigger --subsystem-match=usb --action=add --settle
 
 expect "the user of the session reaches both mixers" 2 "$(reachable guest)"
@@ -142,7 +143,7 @@ mixer 2: 40 03 0109 8002 0000" "$(sent_for guest mic)"
 expect "another user does not reach them" 0 "$(reachable nobody)"
 status=0
 as nobody "$bin/ztk" input set 1 mic &>/dev/null || status=$?
-expect "and is told so" 3 "$status"
+expect "and ztk exits with 3" 3 "$status"
 expect "nothing else is open to the user of the session" VRM-D6 \
   "$(open_to guest)"
 expect "nothing at all is open to another user" "" "$(open_to nobody)"
@@ -154,7 +155,7 @@ for ((tries = 0; tries < 100; ++tries)); do
 done
 expect "who has logged out reaches no mixer" 0 "$(reachable guest)"
 
-# The same user in other sessions: over ssh, and in a service of the system.
+# Tests the same user in other sessions: over ssh, and in a service of the system.
 ask_doctor guest SSH_CONNECTION="::1 9 ::1 22"
 expect "the doctor sees that the user came over ssh" \
   "the rule grants access to the user who is logged in at this seat, and you are \

@@ -2,10 +2,10 @@
 # SPDX-License-Identifier: MIT
 """Prints the result of one test that ran in a guest.
 
-Usage: verdict.py FOLDER SUITE.TEST    of the report of run-tests
-       verdict.py FOLDER NAME          of a script of run-session-tests
+Usage: verdict.py FOLDER SUITE.TEST    reads the report of run-tests
+       verdict.py FOLDER NAME          reads the files of run-session-tests
 
-Exits with 0 when it passed, with 77 when it was skipped, else with 1.
+Exits with 0 if the test passed, with 77 if it was skipped, else with 1.
 """
 
 import pathlib

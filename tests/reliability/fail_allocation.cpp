@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Preloaded: makes one allocation of the process fail; ZTK_FAIL_ALLOCATION has
-// its number. At the end of the process the number of allocations is written to
-// the file that ZTK_COUNT_ALLOCATIONS names.
+// A library to preload. It makes one allocation of the process fail, the one
+// whose number is in ZTK_FAIL_ALLOCATION. When the process ends, it writes the
+// number of allocations to the file ZTK_COUNT_ALLOCATIONS.
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
@@ -20,7 +20,8 @@ long allocations = 0;
 long failing = -1;
 
 bool Fails() {
-  // The first allocation happens before the environment can be read.
+  // The variable is read at the first allocation, not in a constructor, because
+  // constructors of other libraries may allocate first.
   if (failing < 0) {
     const char *number = std::getenv("ZTK_FAIL_ALLOCATION");
     failing = number == nullptr ? 0 : std::atol(number);

@@ -1,13 +1,13 @@
 # SPDX-License-Identifier: MIT
-"""Mixers that refuse every value, and mixers that never answer: the setting is
-stored all the same, and ztk does not claim that it was accepted."""
+"""Attacks with mixers that refuse every value and mixers that never answer. The
+setting must still be stored, and ztk must not report that it was accepted."""
 
 import plistlib
 import time
 
 from place import Attack
 
-# Ends of ztk: no mixer answered, or one has refused the value.
+# Exit statuses of ztk: no mixer answered; a mixer refused the value.
 NO_MIXER, REFUSED = 3, 6
 
 

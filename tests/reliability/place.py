@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""The home with a settings file that the attacks work on, and what all attacks
-have in common."""
+"""The home folder with the settings file that the attacks use, and the common code
+of all attacks."""
 
 import os
 import pathlib
@@ -10,16 +10,17 @@ import subprocess
 import time
 
 LONG = os.environ.get("ZTK_RELIABILITY") == "long"
-# The long form of one attack ends after so many seconds.
+# The long form of one attack ends after this number of seconds.
 MOST_SECONDS = 60
 SETTINGS = {"Output0": 1, "Output1": 2, "Output2": 3, "Output3": 4,
             "Output4": 5, "MaxLevel": 2, "Foo": "bar"}
-# Seconds. The sandbox itself hangs when one of its first allocations fails.
+# A command that takes longer than this number of seconds counts as hanging. The
+# sandbox itself hangs if one of its first allocations fails.
 HANGS = 20
 
 
 class Place:
-    """A home of its own with a settings file that holds SETTINGS."""
+    """A home folder with a settings file that contains SETTINGS."""
 
     def __init__(self, folder):
         self.home = pathlib.Path(folder)
@@ -38,25 +39,26 @@ class Place:
         self.file.write_bytes(plistlib.dumps(SETTINGS))
 
     def lost(self):
-        """The settings that are gone or changed, but for MaxLevel's value."""
+        """Returns the settings that are missing or have another value. The value of
+        MaxLevel may differ."""
         try:
             found = plistlib.loads(self.file.read_bytes())
         except Exception as error:  # of plistlib: any that its input causes
             return [f"the file cannot be read: {error!r}"]
         if not isinstance(found, dict):
-            return ["the file holds no dictionary"]
+            return ["the file contains no dictionary"]
         return [key for key, value in SETTINGS.items()
                 if key not in found or
                 (key != "MaxLevel" and found[key] != value)]
 
     def others(self):
-        """What else lies in the folder."""
+        """Returns the other files in the folder."""
         return sorted(entry.name for entry in self.folder.iterdir()
                       if entry != self.file)
 
 
 class Attack:
-    """What the attacks share: the place, the programs, the rows of the table."""
+    """The common code of the attacks: home folder, programs, rows of the table."""
 
     def __init__(self, folder, place):
         self.child = str(pathlib.Path(folder, "setting_child"))
@@ -72,7 +74,7 @@ class Attack:
                                 stderr=subprocess.DEVNULL, **options)
 
     def run(self, *words, before=(), extra=None, **options):
-        """Exit status, or "hangs"."""
+        """Returns the exit status, or "hangs"."""
         environment = dict(self.place.environment, **(extra or {}))
         try:
             return subprocess.run(
@@ -92,7 +94,7 @@ class Attack:
             self.failures.append(f"{what}: {bad}")
 
     def expect_kept(self, what, detail):
-        """Notes a failure unless every setting is there."""
+        """Records a failure if a setting is missing or changed."""
         lost = self.place.lost()
         if lost:
             self.failures.append(f"{what}, {detail}: {', '.join(lost)}")
@@ -101,7 +103,7 @@ class Attack:
 
     @staticmethod
     def limited(items):
-        """The items, as many as there is time for."""
+        """Yields the items until MOST_SECONDS have passed."""
         end = time.monotonic() + MOST_SECONDS
         for item in items:
             if time.monotonic() > end:

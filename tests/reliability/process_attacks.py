@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Other processes at work on the same settings file: some that change it, one
-that copies over it, and kills."""
+"""Attacks by other processes: some change the same settings file, one overwrites it,
+and some are killed."""
 
 import os
 import plistlib
@@ -43,8 +43,8 @@ class ProcessAttacks(Attack):
                       f"{tried} changes", f"{lost} lost", lost)
 
     def copies_in_place(self):
-        """As `cp backup file` does, in two parts. In one of four copies the
-        pause between them is long."""
+        """Overwrites the file as `cp backup file` does, in two parts. In each fourth
+        copy the pause between the parts may be long."""
         self.place.refill()
         backup = plistlib.dumps(SETTINGS)
         child = self.start(self.child, "loop", "boost", "100000000")
@@ -64,8 +64,8 @@ class ProcessAttacks(Attack):
         self.note("A backup copied over the file while a process sets",
                   f"{tried} copies",
                   f"{lost} with a loss, {kept} taken for damaged",
-                  # A copy that stops half-way for long is taken for a damaged
-                  # file; it is kept beside the new one, so nothing is lost.
+                  # A copy with a long pause counts as a damaged file. It is kept
+                  # under another name, so nothing is lost.
                   lost > kept)
 
     def kills(self):

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""What the system refuses: descriptors, single system calls, memory, and files
-that belong to others."""
+"""Attacks in which the system refuses something: descriptors, single system calls,
+memory, or access to files of other users."""
 
 import json
 import os
@@ -13,8 +13,8 @@ import tempfile
 
 from place import LONG, SETTINGS, Attack, Place
 
-# At the start of a process these load libraries; a process that cannot start
-# proves nothing about the settings.
+# The system calls that fail. Some of them also load libraries at the start of a
+# process; a process that does not start shows nothing about the settings.
 ATTACKED_CALLS = ["openat", "read", "newfstatat", "fstat", "write", "fsync",
                   "rename", "linkat", "readlink", "fchown", "fchmod", "flock",
                   "getdents64", "close", "mmap", "brk"]
@@ -41,7 +41,7 @@ class ResourceAttacks(Attack):
                   f"{lost} with a loss", lost)
 
     def unreadable_files(self):
-        """What cannot be read at all: neither changed nor set aside."""
+        """A folder with the name of the file is neither changed nor renamed."""
         tried = changed = 0
         for words in ((self.child, "set", "boost", "1"),
                       (self.ztk, "boost", "set", "2"), (self.ztk, "undo"),
@@ -103,7 +103,7 @@ class ResourceAttacks(Attack):
         return len(trace.read_text().splitlines())
 
     def prepare(self):
-        """The settings, and a history with one step."""
+        """Writes the settings, and a history with one step."""
         self.place.refill()
         self.place.history.parent.mkdir(parents=True, exist_ok=True)
         for old in self.place.history.parent.iterdir():
@@ -111,7 +111,7 @@ class ResourceAttacks(Attack):
         self.place.history.write_text(json.dumps(STEP) + "\n")
 
     def history_is_damaged(self, detail):
-        """Every line has to be a whole step."""
+        """Returns whether a line of the history is not a complete step."""
         try:
             lines = self.place.history.read_text().splitlines()
             whole = all("changes" in json.loads(line) for line in lines)
@@ -122,7 +122,7 @@ class ResourceAttacks(Attack):
         return not whole
 
     def links_as_root(self):
-        """A user puts links to root's file where root's ztk writes."""
+        """A user makes links to a file of root at the paths where ztk writes."""
         if os.geteuid() != 0:
             self.note("Links of a user in the way of root", "not tried",
                       "needs root", 0)
@@ -140,7 +140,7 @@ class ResourceAttacks(Attack):
                   f"{harmed} followed to a file of root", harmed)
 
     def follow_link(self, folder, link, words):
-        """True when root's file or folder has changed."""
+        """Returns True if the file or folder of root has changed."""
         folder.chmod(0o755)
         roots = folder / "roots"
         roots.mkdir(mode=0o755)

@@ -2,10 +2,10 @@
 //
 // A client that links only the library and changes one setting.
 //
-//   setting_child set SETTING INDEX    one change; exits with 0
-//   setting_child loop SETTING ROUNDS  changes it again and again; prints how
-//                                      often the remembered value was another
-//                                      one than it had set
+//   setting_child set SETTING INDEX    makes one change
+//   setting_child loop SETTING ROUNDS  makes many changes; prints how often the
+//                                      stored value was not the value that it
+//                                      had set
 //
 // SETTING is a channel of the USB input audio, 0 to 4, or "boost".
 #include <cstdint>
@@ -45,8 +45,8 @@ struct Setting {
   std::int32_t channel;
 };
 
-// The value is read just before the next change, so that other processes have
-// time to change it in between.
+// Reads the value twice after each change, so that other processes have time to
+// replace the file in between.
 int Loop(const Setting &setting, std::uint32_t rounds) {
   std::uint32_t lost = 0;
   for (std::uint32_t round = 0; round < rounds; ++round) {
