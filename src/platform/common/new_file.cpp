@@ -113,7 +113,7 @@ bool IsNewFileName(std::string_view name, std::string_view base) {
 }
 
 bool IsOlderThanADay(const struct stat &status) {
-  constexpr std::time_t kDay = 24 * 60 * 60;
+  constexpr std::time_t kDay = 86400;
   return std::time(nullptr) - status.st_mtime > kDay;
 }
 

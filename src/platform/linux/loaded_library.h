@@ -89,6 +89,7 @@ bool FindFunction(void *library, const char *name, Function *function) {
 #define ZTK_DLOPEN_JSON(soname, feature, description)            \
   "[{\"feature\":\"" feature "\",\"description\":\"" description \
   "\",\"priority\":\"recommended\",\"soname\":[\"" soname "\"]}]"
+// NOLINTBEGIN(bugprone-macro-parentheses): these parameters are names.
 #define ZTK_DLOPEN_NOTE(soname, feature, description)                   \
   [[gnu::used, gnu::section(".note.dlopen")]] alignas(                  \
       4) constinit const ::ztk::platform::                              \
@@ -112,5 +113,6 @@ bool FindFunction(void *library, const char *name, Function *function) {
   inline constexpr auto name = [](auto... arguments) { \
     return functions->name(arguments...);              \
   };
+// NOLINTEND(bugprone-macro-parentheses)
 
 #endif  // ZTK_PLATFORM_LINUX_LOADED_LIBRARY_H_

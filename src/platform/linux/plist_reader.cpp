@@ -101,7 +101,8 @@ plist_t Parse(std::string_view bytes) {
   }
   std::optional<std::string> xml = Utf8Xml(bytes);
   if (!xml || !IsSafeXml(*xml) || !NormalizeNumbers(&*xml)) return nullptr;
-  plist_from_xml(xml->data(), static_cast<std::uint32_t>(xml->size()), &root);
+  const std::string_view text = *xml;
+  plist_from_xml(text.data(), static_cast<std::uint32_t>(text.size()), &root);
   return root;
 }
 

@@ -8,7 +8,7 @@
 #include <CoreFoundation/CoreFoundation.h>
 #include <stdint.h>
 
-#define __APPLE__ 1
+#define __APPLE__ 1  // NOLINT(bugprone-reserved-identifier)
 #include "ZTKFunc.h"
 #undef __APPLE__
 

@@ -18,7 +18,8 @@ std::string Utf8(ZTKTextRef text);
 class LibraryText {
  public:
   explicit LibraryText(const std::string &text);
-  ~LibraryText();
+  // It has nothing to do on Linux.
+  ~LibraryText();  // NOLINT(performance-trivially-destructible)
   LibraryText(const LibraryText &) = delete;
   LibraryText &operator=(const LibraryText &) = delete;
   ZTKTextRef get() const { return text_; }
