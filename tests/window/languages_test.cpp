@@ -22,6 +22,7 @@ class LanguagesTest : public QObject {
  private slots:
   void SpeakTheUsersLanguage_data();
   void SpeakTheUsersLanguage();
+  void TranslateASentenceWithAPath();
   void CutNoText_data();
   void CutNoText();
 };
@@ -104,6 +105,26 @@ void LanguagesTest::SpeakTheUsersLanguage() {
   const QString cancel =
       QCoreApplication::translate("QPlatformTheme", "Cancel");
   QVERIFY(cancel != QStringLiteral("Cancel"));
+}
+
+void LanguagesTest::TranslateASentenceWithAPath() {
+  QObject texts;
+  Translate(&texts, QLocale(QStringLiteral("de")));
+  const FindingState finding =
+      Translated({.id = "history-damaged",
+                  .what = "ztk undo cannot take back every change: /h/a is "
+                          "damaged",
+                  .cause = "you have no permission to read it",
+                  .command = "x"});
+  QCOMPARE(finding.what,
+           QStringLiteral("ztk undo kann nicht jede Änderung zurücknehmen: "
+                          "/h/a ist beschädigt"));
+  QCOMPARE(finding.cause,
+           QStringLiteral("Sie haben keine Berechtigung, sie zu lesen"));
+  // What is not listed stays as it is.
+  QCOMPARE(
+      Translated({.id = "x", .what = "odd", .cause = {}, .command = {}}).what,
+      QStringLiteral("Odd"));
 }
 
 void LanguagesTest::CutNoText_data() { AddLanguages(); }

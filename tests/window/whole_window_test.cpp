@@ -32,6 +32,7 @@ class WholeWindowTest : public EngineWorld {
   void RecordsWhatIsChosenWithTheKeyboard();
   void ShowsWhatAnotherProgramSets();
   void TellsWhyAChannelIsSilent();
+  void AdvisesNothingForAPositionThatIsNone();
   void UndoesTwoChanges();
   void DashesTheWiresWhenTheMixerIsUnplugged();
   void SendingAllEndsTheDoubt();
@@ -120,6 +121,25 @@ void WholeWindowTest::TellsWhyAChannelIsSilent() {
   Mixer({"turn", "1", "4"});
   EVENTUALLY(InputRow(0).text() ==
              QStringLiteral("Remembered; not confirmed."));
+}
+
+// A mixer that does not give a position reports 255.
+void WholeWindowTest::AdvisesNothingForAPositionThatIsNone() {
+  Ztk({"input", "set", "1", "1"});
+  Mixer({"turn", "1", "255"});
+  Mixer({"turn", "2", "3"});
+  Open();
+  QCOMPARE(state().mixers[0].selectors[1], std::optional<int>(3));
+  QCOMPARE(state().mixers[0].selectors[0], std::optional<int>());
+  QCOMPARE(InputRow(0).text(), QStringLiteral("Remembered; not confirmed."));
+  QCOMPARE(PictureOf(state()).selectors[0].position, QString());
+  QCOMPARE(PictureOf(state()).selectors[0].silence, QString());
+  // The library warns of it.
+  engine().choose(kInput, 0, 1);
+  EVENTUALLY(Row(kInput, 0).delivery == Delivery::Sent);
+  QCOMPARE(InputRow(0).text(),
+           QStringLiteral("Sent to 2 mixers, and remembered."));
+  QCOMPARE(InputRow(0).toolTip(), QString());
 }
 
 void WholeWindowTest::UndoesTwoChanges() {

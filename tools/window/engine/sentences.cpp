@@ -17,10 +17,10 @@ struct Sentences {
   Q_DECLARE_TR_FUNCTIONS(Engine)
 };
 
-// Sentences of the model that are always the same. Those that are not listed
-// here, because they name a file or a user, stay in English.
+// Sentences of the model; %1 stands for the path of a file. Those that are not
+// listed here stay in English.
 // clang-format off
-[[maybe_unused]] constexpr const char *kModelSentences[] = {
+constexpr const char *kModelSentences[] = {
     QT_TRANSLATE_NOOP("Model", "you have no home folder"),
     QT_TRANSLATE_NOOP("Model", "its folder does not exist and cannot be made"),
     QT_TRANSLATE_NOOP("Model", "you have no permission"),
@@ -40,16 +40,47 @@ struct Sentences {
     QT_TRANSLATE_NOOP("Model", "this is a virtual mixer, and ztk-virtual-mixer forbids it"),
     QT_TRANSLATE_NOOP("Model", "other programs do not receive changes"),
     QT_TRANSLATE_NOOP("Model", "the warning texts are not installed"),
-    QT_TRANSLATE_NOOP("Model", "the warning texts are incomplete")};
+    QT_TRANSLATE_NOOP("Model", "the warning texts are incomplete"),
+    QT_TRANSLATE_NOOP("Model", "ztk undo cannot read %1"),
+    QT_TRANSLATE_NOOP("Model", "ztk undo cannot use %1"),
+    QT_TRANSLATE_NOOP("Model", "ztk undo cannot take back every change: %1 is damaged"),
+    QT_TRANSLATE_NOOP("Model", "you have no permission for its folder"),
+    QT_TRANSLATE_NOOP("Model", "some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one"),
+    QT_TRANSLATE_NOOP("Model", "you have no permission to read it"),
+    QT_TRANSLATE_NOOP("Model", "the settings in %1 are not remembered"),
+    QT_TRANSLATE_NOOP("Model", "you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since"),
+    QT_TRANSLATE_NOOP("Model", "the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since"),
+    QT_TRANSLATE_NOOP("Model", "%1 cannot be read, so the defaults are used"),
+    QT_TRANSLATE_NOOP("Model", "it is not a settings file, or it is damaged"),
+    QT_TRANSLATE_NOOP("Model", "settings are not remembered: nothing can be written to %1"),
+    QT_TRANSLATE_NOOP("Model", "you have no permission to write there"),
+    QT_TRANSLATE_NOOP("Model", "there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own")};
 // clang-format on
 
+// The translation of a sentence of the model.
 QString FromModel(const std::string &text) {
-  return QCoreApplication::translate("Model", text.c_str());
+  const QString english = QString::fromStdString(text);
+  for (const char *sentence : kModelSentences) {
+    const QStringList parts =
+        QString::fromLatin1(sentence).split(QStringLiteral("%1"));
+    const QString translated = QCoreApplication::translate("Model", sentence);
+    if (parts.size() == 1 && english == parts.first()) return translated;
+    if (parts.size() == 2 && english.startsWith(parts.first()) &&
+        english.endsWith(parts.last())) {
+      return translated.arg(english.mid(
+          parts.first().size(),
+          english.size() - parts.first().size() - parts.last().size()));
+    }
+  }
+  return english;
 }
 
-// Begins with a capital letter; the sentences of the model do not.
+// Begins with a capital letter, unless the first word is a command. The
+// sentences of the model do not.
 QString Sentence(QString text) {
-  if (!text.isEmpty()) text[0] = text[0].toUpper();
+  if (!text.isEmpty() && !text.startsWith(QLatin1String("ztk "))) {
+    text[0] = text[0].toUpper();
+  }
   return text;
 }
 

@@ -101,12 +101,6 @@ QLayout *CommandLine(const QString &command, QWidget *parent) {
   return line;
 }
 
-// Some findings are parts of sentences.
-QString Capitalised(QString text) {
-  if (!text.isEmpty()) text[0] = text[0].toUpper();
-  return text;
-}
-
 QWidget *BoxOf(const FindingState &finding, QWidget *parent) {
   auto *box = new QFrame(parent);
   box->setFrameShape(QFrame::StyledPanel);
@@ -114,7 +108,7 @@ QWidget *BoxOf(const FindingState &finding, QWidget *parent) {
   box->setBackgroundRole(QPalette::Base);
   box->setObjectName(QStringLiteral("finding"));
   const int unit = box->fontMetrics().height();
-  auto *what = Wrapped(Capitalised(finding.what), box);
+  auto *what = Wrapped(finding.what, box);
   QFont bold = what->font();
   bold.setBold(true);
   what->setFont(bold);
@@ -122,7 +116,7 @@ QWidget *BoxOf(const FindingState &finding, QWidget *parent) {
   words->setSpacing(unit / 4);
   words->addWidget(what);
   if (!finding.cause.isEmpty()) {
-    words->addWidget(Wrapped(Capitalised(finding.cause), box));
+    words->addWidget(Wrapped(finding.cause, box));
   }
   if (!finding.command.isEmpty()) {
     words->addLayout(CommandLine(finding.command, box));

@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>die Warntexte sind unvollständig</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo kann %1 nicht lesen</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo kann %1 nicht benutzen</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo kann nicht jede Änderung zurücknehmen: %1 ist beschädigt</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>Sie haben keine Berechtigung für den Ordner</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>einige Zeilen darin sind keine Änderungen, die ztk aufgezeichnet hat; dieser Befehl beginnt einen neuen Verlauf und behält den alten</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>Sie haben keine Berechtigung, sie zu lesen</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>die Einstellungen in %1 sind nicht gespeichert</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>Sie durften die Datei nicht lesen, als eine Einstellung gespeichert wurde; dieser Befehl holt sie zurück, anstelle der seitdem gespeicherten Einstellungen</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>die Datei war beschädigt, als eine Einstellung gespeichert wurde; sobald sie repariert ist, holt dieser Befehl sie zurück, anstelle der seitdem gespeicherten Einstellungen</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>%1 kann nicht gelesen werden, daher gelten die Vorgaben</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>es ist keine Einstellungsdatei, oder sie ist beschädigt</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>Einstellungen werden nicht gespeichert: In %1 kann nichts geschrieben werden</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>Sie haben dort keine Schreibberechtigung</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>hier gibt es keinen Nachrichtenbus der Sitzung, wie üblich über ssh und in einem Container; dieser Befehl startet eine Shell mit einem eigenen</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

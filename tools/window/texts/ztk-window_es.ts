@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>los textos de aviso están incompletos</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo no puede leer %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo no puede usar %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo no puede deshacer todos los cambios: %1 está dañado</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>no tiene permiso para su carpeta</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>algunas de sus líneas no son cambios registrados por ztk; esta orden empieza un historial nuevo y conserva el antiguo</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>no tiene permiso para leerlo</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>los ajustes de %1 no están guardados</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>no tenía permiso para leer el archivo cuando se guardó un ajuste; esta orden lo recupera, en lugar de los ajustes guardados desde entonces</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>el archivo estaba dañado cuando se guardó un ajuste; una vez reparado, esta orden lo recupera, en lugar de los ajustes guardados desde entonces</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>no se puede leer %1, por lo que se usan los valores predeterminados</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>no es un archivo de ajustes o está dañado</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>los ajustes no se guardan: no se puede escribir nada en %1</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>no tiene permiso para escribir ahí</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>aquí no hay bus de mensajes de la sesión, como es habitual por ssh y en un contenedor; esta orden abre una shell con uno propio</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>les textes d’avertissement sont incomplets</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo ne peut pas lire %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo ne peut pas utiliser %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo ne peut pas annuler toutes les modifications : %1 est endommagé</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>vous n’avez pas accès à son dossier</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>certaines de ses lignes ne sont pas des modifications enregistrées par ztk ; cette commande commence un nouvel historique et garde l’ancien</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>vous n’avez pas le droit de le lire</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>les réglages de %1 ne sont pas enregistrés</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>vous n’aviez pas le droit de lire le fichier lorsqu’un réglage a été enregistré ; cette commande le rétablit, à la place des réglages enregistrés depuis</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>le fichier était endommagé lorsqu’un réglage a été enregistré ; une fois réparé, cette commande le rétablit, à la place des réglages enregistrés depuis</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>%1 ne peut pas être lu, les valeurs par défaut sont donc utilisées</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>ce n’est pas un fichier de réglages, ou il est endommagé</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>les réglages ne sont pas enregistrés : rien ne peut être écrit dans %1</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>vous n’avez pas le droit d’y écrire</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>il n’y a pas ici de bus de messages de session, comme souvent par ssh et dans un conteneur ; cette commande ouvre un shell avec le sien</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

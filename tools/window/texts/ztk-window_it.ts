@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>i testi di avviso sono incompleti</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo non può leggere %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo non può usare %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo non può annullare tutte le modifiche: %1 è danneggiato</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>non ha i permessi per la sua cartella</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>alcune righe non sono modifiche registrate da ztk; questo comando inizia una nuova cronologia e conserva la vecchia</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>non ha il permesso di leggerlo</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>le impostazioni in %1 non sono memorizzate</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>non aveva il permesso di leggere il file quando un’impostazione è stata memorizzata; questo comando lo ripristina, al posto delle impostazioni memorizzate da allora</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>il file era danneggiato quando un’impostazione è stata memorizzata; una volta riparato, questo comando lo ripristina, al posto delle impostazioni memorizzate da allora</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>%1 non può essere letto, quindi si usano i valori predefiniti</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>non è un file di impostazioni, oppure è danneggiato</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>le impostazioni non vengono memorizzate: non si può scrivere nulla in %1</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>non ha il permesso di scrivervi</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>qui non c’è un bus di messaggi della sessione, come di solito via ssh e in un container; questo comando avvia una shell con un bus proprio</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

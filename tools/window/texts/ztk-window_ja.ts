@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>警告文が不完全です</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo は %1 を読み込めません</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo は %1 を使えません</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo は一部の変更を元に戻せません。%1 が壊れています</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>そのフォルダーへの権限がありません</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>ztk が記録した変更ではない行があります。このコマンドは新しい履歴を始め、古い履歴を残します</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>読み込む権限がありません</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>%1 の設定は保存されていません</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>設定を保存したとき、ファイルを読み込む権限がありませんでした。このコマンドは、その後に保存された設定に代えてこのファイルを元に戻します</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>設定を保存したとき、ファイルが壊れていました。修復後、このコマンドは、その後に保存された設定に代えてこのファイルを元に戻します</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>%1 を読み込めないため、既定値を使います</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>設定ファイルではないか、壊れています</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>設定は保存されません。%1 に書き込めません</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>書き込む権限がありません</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>ssh やコンテナーでは通常そうですが、セッションのメッセージバスがありません。このコマンドは専用のバスを持つシェルを起動します</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

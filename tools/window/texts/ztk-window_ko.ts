@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>경고 문구가 불완전합니다</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo가 %1 파일을 읽을 수 없습니다</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo가 %1 파일을 사용할 수 없습니다</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo가 일부 변경을 되돌릴 수 없습니다. %1 파일이 손상되었습니다</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>해당 폴더에 대한 권한이 없습니다</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>ztk가 기록한 변경이 아닌 줄이 있습니다. 이 명령은 새 기록을 시작하고 이전 기록을 보관합니다</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>읽을 권한이 없습니다</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>%1 파일의 설정은 저장되어 있지 않습니다</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>설정을 저장할 때 파일을 읽을 권한이 없었습니다. 이 명령은 그 뒤에 저장된 설정 대신 이 파일을 되돌립니다</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>설정을 저장할 때 파일이 손상되어 있었습니다. 파일을 복구한 뒤 이 명령은 그 뒤에 저장된 설정 대신 이 파일을 되돌립니다</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>%1 파일을 읽을 수 없어 기본값을 사용합니다</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>설정 파일이 아니거나 손상되었습니다</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>설정이 저장되지 않습니다. %1 폴더에 쓸 수 없습니다</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>쓸 권한이 없습니다</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>ssh나 컨테이너에서는 흔히 그렇듯 세션 메시지 버스가 없습니다. 이 명령은 자체 버스가 있는 셸을 시작합니다</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>de waarschuwingsteksten zijn onvolledig</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo kan %1 niet lezen</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo kan %1 niet gebruiken</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo kan niet elke wijziging ongedaan maken: %1 is beschadigd</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>u hebt geen rechten voor de map</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>sommige regels zijn geen wijzigingen die ztk heeft vastgelegd; deze opdracht begint een nieuwe geschiedenis en bewaart de oude</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>u hebt geen rechten om het te lezen</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>de instellingen in %1 zijn niet opgeslagen</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>u had geen rechten om het bestand te lezen toen een instelling werd opgeslagen; deze opdracht zet het terug, in plaats van de sindsdien opgeslagen instellingen</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>het bestand was beschadigd toen een instelling werd opgeslagen; zodra het is hersteld, zet deze opdracht het terug, in plaats van de sindsdien opgeslagen instellingen</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>%1 kan niet worden gelezen, daarom gelden de standaardkeuzes</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>het is geen instellingenbestand, of het is beschadigd</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>instellingen worden niet opgeslagen: er kan niets in %1 worden geschreven</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>u hebt daar geen schrijfrechten</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>er is hier geen berichtenbus van de sessie, zoals gebruikelijk via ssh en in een container; deze opdracht start een shell met een eigen bus</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>os textos de aviso estão incompletos</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo não consegue ler %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo não consegue usar %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo não consegue anular todas as alterações: %1 está danificado</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>não tem permissão para a pasta</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>algumas linhas não são alterações registadas pelo ztk; este comando começa um novo histórico e guarda o antigo</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>não tem permissão para o ler</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>as definições em %1 não estão guardadas</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>não tinha permissão para ler o ficheiro quando uma definição foi guardada; este comando repõe-no, em vez das definições guardadas desde então</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>o ficheiro estava danificado quando uma definição foi guardada; depois de reparado, este comando repõe-no, em vez das definições guardadas desde então</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>não é possível ler %1, por isso são usados os valores predefinidos</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>não é um ficheiro de definições, ou está danificado</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>as definições não são guardadas: não é possível escrever em %1</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>não tem permissão para escrever aí</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>não há aqui um barramento de mensagens da sessão, como é habitual por ssh e num contentor; este comando inicia uma shell com um próprio</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>тексты предупреждений неполны</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo не может прочитать %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo не может использовать %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo не может отменить все изменения: %1 повреждён</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>у вас нет прав на его папку</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>некоторые строки — не изменения, записанные ztk; эта команда начинает новую историю и сохраняет старую</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>у вас нет прав на чтение</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>настройки из %1 не сохранены</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>у вас не было прав на чтение файла, когда сохранялась настройка; эта команда возвращает его вместо настроек, сохранённых с тех пор</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>файл был повреждён, когда сохранялась настройка; после исправления эта команда возвращает его вместо настроек, сохранённых с тех пор</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>не удаётся прочитать %1, поэтому используются значения по умолчанию</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>это не файл настроек, или он повреждён</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>настройки не сохраняются: в %1 нельзя ничего записать</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>у вас нет прав на запись туда</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>здесь нет шины сообщений сеанса, как обычно через ssh и в контейнере; эта команда запускает оболочку с собственной шиной</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>警告文本不完整</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo 无法读取 %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo 无法使用 %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo 无法撤销所有更改：%1 已损坏</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>您没有其文件夹的权限</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>其中有些行不是 ztk 记录的更改；此命令会开始新的历史记录并保留旧的</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>您没有读取它的权限</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>%1 中的设置未保存</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>保存设置时您没有读取该文件的权限；此命令会恢复该文件，取代此后保存的设置</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>保存设置时该文件已损坏；修复后，此命令会恢复该文件，取代此后保存的设置</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>无法读取 %1，因此使用默认值</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>它不是设置文件，或者已损坏</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>设置未保存：无法写入 %1</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>您没有写入的权限</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>这里没有会话消息总线，通过 ssh 或在容器中通常如此；此命令会启动一个带有自己总线的 shell</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>

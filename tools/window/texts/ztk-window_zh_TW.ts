@@ -330,6 +330,62 @@
             <source>the warning texts are incomplete</source>
             <translation>警告文字不完整</translation>
         </message>
+        <message>
+            <source>ztk undo cannot read %1</source>
+            <translation>ztk undo 無法讀取 %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot use %1</source>
+            <translation>ztk undo 無法使用 %1</translation>
+        </message>
+        <message>
+            <source>ztk undo cannot take back every change: %1 is damaged</source>
+            <translation>ztk undo 無法復原所有變更：%1 已損壞</translation>
+        </message>
+        <message>
+            <source>you have no permission for its folder</source>
+            <translation>您沒有其資料夾的權限</translation>
+        </message>
+        <message>
+            <source>some of its lines are not changes that ztk has recorded; this starts a new history and keeps the old one</source>
+            <translation>其中有些行不是 ztk 記錄的變更；此指令會開始新的歷程記錄並保留舊的</translation>
+        </message>
+        <message>
+            <source>you have no permission to read it</source>
+            <translation>您沒有讀取它的權限</translation>
+        </message>
+        <message>
+            <source>the settings in %1 are not remembered</source>
+            <translation>%1 中的設定未儲存</translation>
+        </message>
+        <message>
+            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <translation>儲存設定時您沒有讀取該檔案的權限；此指令會還原該檔案，取代此後儲存的設定</translation>
+        </message>
+        <message>
+            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <translation>儲存設定時該檔案已損壞；修復後，此指令會還原該檔案，取代此後儲存的設定</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read, so the defaults are used</source>
+            <translation>無法讀取 %1，因此使用預設值</translation>
+        </message>
+        <message>
+            <source>it is not a settings file, or it is damaged</source>
+            <translation>它不是設定檔案，或已損壞</translation>
+        </message>
+        <message>
+            <source>settings are not remembered: nothing can be written to %1</source>
+            <translation>設定未儲存：無法寫入 %1</translation>
+        </message>
+        <message>
+            <source>you have no permission to write there</source>
+            <translation>您沒有寫入的權限</translation>
+        </message>
+        <message>
+            <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
+            <translation>這裡沒有工作階段的訊息匯流排，透過 ssh 或在容器中通常如此；此指令會啟動一個帶有自己匯流排的 shell</translation>
+        </message>
     </context>
     <context>
         <name>Notices</name>
