@@ -22,7 +22,8 @@ namespace {
 struct Watcher {
   bool json = false;
   int writeError = 0;
-  PluggedMixers mixers;
+  bool hasBus = true;
+  PluggedMixers mixers = {};
 };
 Watcher *theWatcher = nullptr;
 
@@ -113,20 +114,30 @@ void OnIndexChange(std::int32_t index, void *context) noexcept {
   OnChange(0, index, context);
 }
 
-void SayReady() { WriteError("watching for changes; Ctrl-C ends"); }
+void SayReady(bool hasBus) {
+  theWatcher->hasBus = hasBus;
+  if (hasBus) return WriteError("watching for changes; Ctrl-C ends");
+  WriteError(
+      "warning: changes of settings are not shown, because there is no session "
+      "message bus");
+  WriteError("watching for mixers that come and go; Ctrl-C ends");
+}
 
 // Why ztk watch ended; nothing after Ctrl-C, or when the reader has ended.
-std::optional<Problem> ProblemAtEnd(LoopEnd end, int writeError) {
+std::optional<Problem> ProblemAtEnd(LoopEnd end, int writeError, bool hasBus) {
   const auto failed = [](const std::string &message) {
     return Problem{.exit = ExitCode::Failed, .message = message};
   };
   switch (end) {
     case LoopEnd::Interrupted:
-      return {};
+      if (hasBus) return {};
+      return failed(
+          "changes of settings were not shown, because there is no session "
+          "message bus; run ztk watch inside your login session");
     case LoopEnd::NoBus:
       return failed(
-          "there is no session message bus to receive changes from, or it "
-          "has ended; run this inside your login session");
+          "the session message bus has ended, so changes of settings are not "
+          "received any more; log in again");
     case LoopEnd::NoLibrary:
       return failed(
           "a library that receives changes cannot be loaded; ztk doctor "
@@ -147,8 +158,7 @@ Report Watch(const Arguments &arguments) {
                   "--quiet would hide the changes that ztk watch shows; leave "
                   "it out");
   }
-  Watcher watcher{
-      .json = arguments.Has(Parameter::kJson), .writeError = 0, .mixers = {}};
+  Watcher watcher{.json = arguments.Has(Parameter::kJson)};
   theWatcher = &watcher;
   Listener input{.watcher = &watcher, .setting = &kInput};
   Listener output{.watcher = &watcher, .setting = &kOutput};
@@ -166,7 +176,7 @@ Report Watch(const Arguments &arguments) {
     // After the "^C" that the terminal shows.
     WriteLineEnd();
   }
-  report.problem = ProblemAtEnd(end, watcher.writeError);
+  report.problem = ProblemAtEnd(end, watcher.writeError, watcher.hasBus);
   return report;
 }
 

@@ -18,14 +18,15 @@ void ListenToOutputAudio(OutputListener listener, void *context);
 enum class LoopEnd : std::uint8_t {
   Interrupted,  // SIGINT or SIGTERM
   Stopped,      // StopLoop()
-  NoBus,        // there is no session bus, or it has ended
+  NoBus,        // the session bus has ended
   NoLibrary     // a library for receiving changes cannot be loaded
 };
 
 // Runs the loop that delivers changes. Calls `ready` as soon as all callbacks
-// that were registered before receive changes, and `everySecond` about once in
-// a second.
-LoopEnd RunLoop(void (*ready)(), void (*everySecond)());
+// that were registered before receive changes, with false if there is no
+// session bus, so that they receive none. Calls `everySecond` about once in a
+// second.
+LoopEnd RunLoop(void (*ready)(bool hasBus), void (*everySecond)());
 
 // Ends the loop from within a callback.
 void StopLoop();

@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <cstdint>
+#include <vector>
 
 #include "notify/announced_settings.h"
 #include "platform/common/file_descriptor.h"
@@ -86,7 +87,7 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
       name.get());
 }
 
-LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
+LoopEnd RunLoop(void (*ready)(bool hasBus), void (*everySecond)()) {
   if (center::GLib() == nullptr || center::SdBus() == nullptr) {
     return LoopEnd::NoLibrary;
   }
@@ -94,19 +95,20 @@ LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
   // connection does.
   const center::OwnedBus bus =
       center::ConnectToSessionBus(center::WaitDeadline());
-  if (bus == nullptr) return LoopEnd::NoBus;
 
   theLoop = {.loop = center::g_main_loop_new(nullptr, FALSE),
              .end = LoopEnd::Stopped};
   theTick = everySecond;
   const platform::FileDescriptor seconds = Seconds();
-  const guint sources[] = {
+  std::vector<guint> sources{
       center::g_unix_signal_add(SIGINT, OnSignal, nullptr),
       center::g_unix_signal_add(SIGTERM, OnSignal, nullptr),
-      center::g_unix_fd_add(center::sd_bus_get_fd(bus.get()), G_IO_HUP,
-                            OnBusGone, nullptr),
       center::g_unix_fd_add(seconds.get(), G_IO_IN, OnSecond, nullptr)};
-  ready();
+  if (bus != nullptr) {
+    sources.push_back(center::g_unix_fd_add(center::sd_bus_get_fd(bus.get()),
+                                            G_IO_HUP, OnBusGone, nullptr));
+  }
+  ready(bus != nullptr);
   center::g_main_loop_run(theLoop.loop);
   for (const guint source : sources) {
     // The source that ended the loop may have removed itself.

@@ -92,12 +92,12 @@ void ListenToOutputAudio(OutputListener listener, void *context) {
 
 // The notification center exists while the user is logged in, and its absence
 // cannot be detected: LoopEnd::NoBus and LoopEnd::NoLibrary do not happen here.
-LoopEnd RunLoop(void (*ready)(), void (*everySecond)()) {
+LoopEnd RunLoop(void (*ready)(bool hasBus), void (*everySecond)()) {
   theEnd = LoopEnd::Stopped;
   theTick = everySecond;
   for (const int number : kEndingSignals) WatchForSignal(number);
   dispatch_source_t seconds = EverySecond();
-  ready();
+  ready(true);
   CFRunLoopRun();
   dispatch_source_cancel(seconds);
   for (const int number : kEndingSignals) std::signal(number, SIG_DFL);
