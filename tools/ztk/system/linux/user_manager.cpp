@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/user_manager.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstring>
 #include <stdexcept>
@@ -47,10 +49,18 @@ class Answer {
   sd_bus_message *message_ = nullptr;
 };
 
+// systemd makes this folder when it starts the system.
+bool SystemdRuns() { return access("/run/systemd/system", F_OK) == 0; }
+
 [[noreturn]] void Fail(const std::string &reason) {
   throw std::runtime_error(
-      "autoapply needs the systemd of your session, which fails (" +
-      cli::OneLine(reason) + "); instead, run 'ztk apply' after plugging in");
+      (SystemdRuns()
+           ? "autoapply needs the systemd of your session, which "
+             "cannot be used (" +
+                 cli::OneLine(reason) + ")"
+           : std::string("autoapply is off and cannot be turned on, "
+                         "because this system does not run systemd")) +
+      "; run 'ztk apply' each time you have plugged a mixer in");
 }
 
 }  // namespace
