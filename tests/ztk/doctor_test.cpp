@@ -390,5 +390,22 @@ TEST_F(Doctor, FindsThatTheTextsAreMissingOrBroken) {
   EXPECT_EQ(Word(OnlyOneIn("texts", result_), "id"), "texts-broken");
 }
 
+TEST_F(Doctor, TellsHowToInstallTheTextsAsTheLibraryWasInstalled) {
+  const Json built = OnlyOneIn("texts", NoMixer("ztk doctor --json"));
+  EXPECT_EQ(Word(built, "command"), "sudo cmake --install build");
+  const std::string library =
+      ReadAll(ZTK_PROGRAM_FOLDER "/../lib/libZTKFunc.so.1");
+  for (const auto &[folder, expected] :
+       {std::pair("/usr/local/lib/", "sudo cmake --install build"),
+        std::pair("/usr/lib/ztk-test/",
+                  "sudo apt install --reinstall libztkfunc-common")}) {
+    SCOPED_TRACE(folder);
+    RunWithFiles(
+        {{std::string(folder) + "libZTKFunc.so.1", library}}, {"-n", "0"},
+        std::string("LD_LIBRARY_PATH=") + folder + " ztk doctor --json");
+    EXPECT_EQ(Word(OnlyOneIn("texts", result_), "command"), expected);
+  }
+}
+
 }  // namespace
 }  // namespace ztk::test

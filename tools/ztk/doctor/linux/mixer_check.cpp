@@ -2,6 +2,7 @@
 //
 // Why an attached mixer cannot be opened on Linux: a udev rule grants access to
 // the user of the seat, and a container can hide the device.
+#include <dlfcn.h>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -12,6 +13,7 @@
 #include <optional>
 #include <sstream>
 
+#include "ZTKFunc.h"
 #include "build_config.h"
 #include "cli/strings.h"
 #include "udev_rule.h"
@@ -340,6 +342,23 @@ Findings FindOddLibrary(const std::string &library) {
        .isNote = true}};
 }
 
+namespace {
+
+// A package installs the library below /usr; below /usr/local are files that
+// were installed from source.
+bool LibraryIsFromPackage() {
+  Dl_info info{};
+  const auto *const function =
+      reinterpret_cast<const void *>(&ZTK_GetProductId);
+  const std::string file =
+      dladdr(function, &info) != 0 && info.dli_fname != nullptr ? info.dli_fname
+                                                                : "";
+  return (file.starts_with("/usr/") && !file.starts_with("/usr/local/")) ||
+         file.starts_with("/lib/");
+}
+
+}  // namespace
+
 Finding ExplainTexts(bool found) {
   const std::string folder = build::kDataDir;
   return {.id = found ? "texts-broken" : "texts-missing",
@@ -348,7 +367,7 @@ Finding ExplainTexts(bool found) {
           .cause = std::string("VRM-D6Setup.framework ") +
                    (found ? "has no texts in " : "is not in ") + folder +
                    "/tarvix",
-          .command = folder == "/usr/share"
+          .command = LibraryIsFromPackage()
                          ? "sudo apt install --reinstall libztkfunc-common"
                          : "sudo cmake --install build"};
 }
