@@ -125,15 +125,11 @@ TEST_F(DryRun, ShowsRequestsFileAndAnnouncement) {
   EXPECT_EQ(result.out,
             "Dry run: nothing is sent or stored. This would happen:\n"
             "  mixer 1  USB input 2: 3 Post CH2 Fader\n"
-            "           type 0x40  request 3  value 0x0206  index 0x8002  "
-            "length 0\n"
             "  mixer 1  read the input selectors\n"
-            "           type 0xC0  request 0  value 0x0000  index 0x8002  "
-            "length 5\n"
-            "  file  " +
+            "  file  USB input 2: 5 Cross Fader B -> 3 Post CH2 Fader\n"
+            "        in " +
                 home_.SettingsFile("VRM-D6").string() +
                 "\n"
-                "        USB input 2: 5 Cross Fader B -> 3 Post CH2 Fader\n"
                 "  bus   USB input 2: 3 Post CH2 Fader\n");
   EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6")), before);
   EXPECT_THAT(Requests(), IsEmpty());
@@ -158,6 +154,28 @@ TEST_F(DryRun, TellsAValueThatStaysFromOneThatChanges) {
                                     "-> 7 REC OUT\n"));
   EXPECT_THAT(result.out,
               HasSubstr("  USB input 2: 5 Cross Fader B, unchanged\n"));
+}
+
+TEST_F(DryRun, ShowsEachRequestAndEachFileOnce) {
+  WriteAll(home_.path() / "club.json", R"({"version":1,"settings":{
+      "VRM-D6":{"input":{"1":"MIC","2":"MIC"},"boost":"-5 dB"}}})");
+  const Result result =
+      Inside({"-n", "3"}, "ztk import $DIR/club.json --dry-run");
+  EXPECT_EQ(result.out,
+            "Dry run: nothing is sent or stored. This would happen:\n"
+            "  mixers 1, 2, 3  USB input 1: 6 MIC\n"
+            "  mixers 1, 2, 3  read the input selectors\n"
+            "  mixers 1, 2, 3  USB input 2: 6 MIC\n"
+            "  mixers 1, 2, 3  Boost level: 1 -5 dB\n"
+            "  file  USB input 1: nothing -> 6 MIC\n"
+            "  file  USB input 2: nothing -> 6 MIC\n"
+            "  file  Boost level: nothing -> 1 -5 dB\n"
+            "        in " +
+                home_.SettingsFile("VRM-D6").string() +
+                "\n"
+                "  bus   USB input 1: 6 MIC\n"
+                "  bus   USB input 2: 6 MIC\n"
+                "  bus   Boost level: 1 -5 dB\n");
 }
 
 TEST_F(DryRun, LeavesOutMixersThatCannotBeOpened) {

@@ -70,7 +70,7 @@ TEST_F(Manual, BeginsWithExamplesAndTheWordsThatItUses) {
     EXPECT_GT(at, last) << title;
     last = at;
   }
-  EXPECT_EQ(Occurrences(page, "Show what would be done, and do nothing."), 1U);
+  EXPECT_EQ(Occurrences(page, "Show what would be done, and do nothing;"), 1U);
   EXPECT_EQ(Occurrences(page, "Model, by name or number; "), 1U);
 }
 

@@ -1,26 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/report/dry_run_report.h"
 
-#include <array>
-#include <cstdio>
+#include <algorithm>
 
 #include "cli/strings.h"
 
 namespace ztk::program {
 
 namespace {
-
-std::string Fields(const Setup &setup) {
-  std::array<char, 80> text{};
-  std::snprintf(
-      text.data(), text.size(),
-      "type 0x%02X  request %u  value 0x%04X  index 0x%04X  length "
-      "%u",
-      static_cast<unsigned>(setup.type), static_cast<unsigned>(setup.request),
-      static_cast<unsigned>(setup.value), static_cast<unsigned>(setup.index),
-      static_cast<unsigned>(setup.length));
-  return text.data();
-}
 
 Json Number(const std::optional<std::uint32_t> &value) {
   return value ? Json(static_cast<std::int32_t>(*value)) : Json();
@@ -35,12 +22,36 @@ std::string WhyNoRequest(const Plan &plan) {
   return "  no request\n";
 }
 
+// What the mixers would receive, in words. The same request to several mixers
+// is one line.
+std::string RequestLines(const Plan &plan) {
+  if (plan.requests().empty()) return WhyNoRequest(plan);
+  std::vector<std::pair<std::string, std::vector<std::string>>> lines;
+  for (const PlannedRequest &request : plan.requests()) {
+    auto line = std::find_if(lines.begin(), lines.end(), [&](const auto &one) {
+      return one.first == request.meaning;
+    });
+    if (line == lines.end()) {
+      line = lines.insert(lines.end(), {request.meaning, {}});
+    }
+    const std::string mixer = std::to_string(request.mixer);
+    std::vector<std::string> &mixers = line->second;
+    if (std::find(mixers.begin(), mixers.end(), mixer) == mixers.end()) {
+      mixers.push_back(mixer);
+    }
+  }
+  std::string text;
+  for (const auto &[meaning, mixers] : lines) {
+    text += (mixers.size() == 1 ? "  mixer " : "  mixers ") +
+            cli::Listed(mixers) + "  " + meaning + "\n";
+  }
+  return text;
+}
+
 void AddRequests(const Plan &plan, Report *report) {
   Json list = Json::array();
-  if (plan.requests().empty()) report->text += WhyNoRequest(plan);
+  report->text += RequestLines(plan);
   for (const auto &[mixer, setup, meaning] : plan.requests()) {
-    report->text += "  mixer " + std::to_string(mixer) + "  " + meaning +
-                    "\n           " + Fields(setup) + "\n";
     list.push_back({{"mixer", mixer},
                     {"requestType", setup.type},
                     {"request", setup.request},
@@ -58,16 +69,33 @@ std::string InFile(const PlannedWrite &write,
                : "nothing";
 }
 
-void AddWrites(const Plan &plan, Report *report) {
-  Json list = Json::array();
+// What would be stored, in words; the name of each file follows its values.
+std::string WriteLines(const Plan &plan) {
+  std::vector<std::pair<std::string, std::string>> files;
   for (const PlannedWrite &write : plan.writes()) {
-    report->text += "  file  " + cli::OneLine(write.file) + "\n        " +
-                    PlaceName(*write.setting, write.channel) + ": " +
+    auto file = std::find_if(
+        files.begin(), files.end(),
+        [&write](const auto &one) { return one.first == write.file; });
+    if (file == files.end()) file = files.insert(file, {write.file, ""});
+    file->second += "  file  " + PlaceName(*write.setting, write.channel) +
+                    ": " +
                     (write.before == write.after
                          ? InFile(write, write.after) + ", unchanged"
                          : InFile(write, write.before) + " -> " +
                                InFile(write, write.after)) +
                     "\n";
+  }
+  std::string text;
+  for (const auto &[name, lines] : files) {
+    text += lines + "        in " + cli::OneLine(name) + "\n";
+  }
+  return text;
+}
+
+void AddWrites(const Plan &plan, Report *report) {
+  Json list = Json::array();
+  report->text += WriteLines(plan);
+  for (const PlannedWrite &write : plan.writes()) {
     list.push_back({{"file", write.file},
                     {"key", write.key},
                     {"before", Number(write.before)},
@@ -91,6 +119,7 @@ void AddAnnouncements(const Plan &plan, Report *report) {
 }  // namespace
 
 void ReportDryRun(const Plan &plan, Report *report) {
+  report->isAnswer = true;
   report->fields["dryRun"] = true;
   report->fields["mixers"] = {{"found", plan.mixersFound()},
                               {"canBeOpened", plan.mixersThatCanBeOpened()}};

@@ -113,7 +113,9 @@ cli::Option ProductOption() {
 cli::Option DryRunOption() {
   return {.names = Parameter::kDryRun,
           .value = "",
-          .description = "Show what would be done, and do nothing"};
+          .description =
+              "Show what would be done, and do nothing; --json also "
+              "shows the bytes of each request"};
 }
 
 std::vector<cli::Command> SettingCommands(const Setting &setting) {
