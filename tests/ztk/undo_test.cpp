@@ -105,6 +105,18 @@ TEST_F(Undo, DoesNotCountWhatChangedNothing) {
   EXPECT_EQ(Line(result.out, 1), "Nothing to undo.");
 }
 
+TEST_F(Undo, SaysThatItSkipsWhatHasNoEffectAnyMore) {
+  Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 4}});
+  OneMixer("ztk boost set 2; ztk input set 2 3");
+  Remember("VRM-D6", {{"MaxLevel", 1}, {"Output1", 4}});
+  const Result dry = NoMixer("ztk undo --dry-run --json");
+  EXPECT_EQ(OneObject(dry.out).value("skippedSteps", 0), 1);
+  EXPECT_EQ(OneMixer("ztk undo").out,
+            "Skipped 1 change that has no effect any more.\n"
+            "Boost level: 2 -10 dB undone, 1 -5 dB, sent to 1 mixer, "
+            "remembered\n");
+}
+
 TEST_F(Undo, SaysWhatCannotBePutBack) {
   Remember("VRM-D6", {{"MaxLevel", 77}});
   const Result result = OneMixer(

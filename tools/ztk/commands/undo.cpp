@@ -273,6 +273,7 @@ Json FieldsOf(std::size_t number, const Step &step) {
 }
 
 void ListSteps(const std::vector<Step> &steps, Report *report) {
+  report->isAnswer = true;
   report->fields["steps"] = Json::array();
   std::size_t number = 0;
   for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
@@ -295,6 +296,14 @@ std::size_t StepsFor(const Arguments &arguments, std::uint32_t known) {
                                      " to undo" +
                                      cli::NearestAndAccepted(*word, 1, known) +
                                      "; ztk undo --list shows them");
+}
+
+void AddSkipped(std::size_t count, Report *report) {
+  if (count == 0) return;
+  report->fields["skippedSteps"] = count;
+  report->text += "Skipped " + std::to_string(count) +
+                  (count == 1 ? " change that has" : " changes that have") +
+                  " no effect any more.\n";
 }
 
 void RequireReadable(const std::vector<Step> &steps, std::size_t count) {
@@ -329,6 +338,7 @@ Report Undo(const Arguments &arguments) {
     const std::size_t count =
         StepsFor(arguments, static_cast<std::uint32_t>(history.steps().size()));
     RequireReadable(history.steps(), count);
+    AddSkipped(dropped, &report);
     UndoLast(count, arguments.Has(Parameter::kDryRun), &history, &report);
     return report;
   }
