@@ -51,9 +51,37 @@ TEST_F(TypedWords, AskForNoOutput) {
     EXPECT_EQ(result.out, "");
     EXPECT_EQ(result.status, 0);
   }
+  EXPECT_EQ(OneMixer("ztk boost apply -q; ztk undo -q; ztk reset -q").out, "");
   const Result wrong = NoMixer("ztk boost set 9 -q");
   EXPECT_THAT(wrong.err, StartsWith("ztk: Boost level has no choice"));
   EXPECT_EQ(NoMixer("ztk watch -q").status, 2);
+}
+
+TEST_F(TypedWords, AskForTheAnswerWithoutNotes) {
+  Remember("VRM-D6", {{"Output1", 2}});
+  // Without -q, ztk says that USB input 2 is silent.
+  const std::vector<std::string> options{"-n", "1", "--selector", "1=2"};
+  EXPECT_EQ(Inside(options, "ztk input get 1 -q").out,
+            "USB input 1  1 CH1 Control Tone PHONO (default; nothing "
+            "remembered)\n");
+  EXPECT_THAT(Inside(options, "ztk input get 1").out,
+              HasSubstr(" is silent: "));
+  EXPECT_THAT(Requests().size(), 1U);
+  EXPECT_THAT(Inside(options, "ztk input get 1 -q --json").out,
+              HasSubstr("\"position\":2"));
+  EXPECT_EQ(NoMixer("ztk input get 2 -q").out,
+            "USB input 2  3 Post CH2 Fader\n");
+  EXPECT_THAT(NoMixer("ztk input list 2 -q").out, StartsWith("\nUSB input 2"));
+  EXPECT_EQ(NoMixer("ztk status -q").out,
+            "No mixer is attached\nRemembered\n"
+            "  USB input 2   3 Post CH2 Fader  (VRM-D6)\n");
+  EXPECT_THAT(NoMixer("ztk export -q").out, StartsWith("{\n"));
+  EXPECT_THAT(NoMixer("ztk models -q; ztk versions -q").out,
+              HasSubstr("VRM-B5"));
+  EXPECT_THAT(NoMixer("ztk boost set 1 --dry-run -q").out,
+              StartsWith("Dry run"));
+  OneMixer("ztk boost set 1");
+  EXPECT_THAT(NoMixer("ztk undo --list -q").out, HasSubstr("boost set"));
 }
 
 }  // namespace

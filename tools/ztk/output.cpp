@@ -60,7 +60,7 @@ int Print(const std::string &command, const Report &report, const Form &form) {
   if (!report.written || (form.json && report.problem)) {
     written = WriteOutput(
         form.json ? JsonLine(command, report) + "\n"
-        : form.quiet
+        : form.quiet && !report.isAnswer
             ? std::string()
             : cli::LaidOut(report.text,
                            {.columns = cli::Columns(STDOUT_FILENO),

@@ -69,6 +69,9 @@ struct Report {
   // Several errors, which the problem summarises.
   std::vector<std::string> errors;
   std::optional<Problem> problem;
+  // The text is what the user asked for, so --quiet shows it too. Otherwise it
+  // says what the command has done.
+  bool isAnswer = false;
   // The command has written its output already; only a problem is still to be
   // reported.
   bool written = false;

@@ -43,7 +43,9 @@ Report TurnAutoapplyOff(const Arguments & /*arguments*/) {
 }
 
 Report ShowAutoapply(const Arguments & /*arguments*/) {
-  return Describe(IsAutoapplyOn());
+  Report report = Describe(IsAutoapplyOn());
+  report.isAnswer = true;
+  return report;
 }
 
 }  // namespace ztk::program

@@ -6,6 +6,7 @@ namespace ztk::program {
 
 Report Export(const Arguments & /*arguments*/) {
   Report report;
+  report.isAnswer = true;
   const auto [text, leftOut, unreadable] = ExportSettings();
   if (!unreadable.empty()) {
     throw Failure(ExitCode::Failed,

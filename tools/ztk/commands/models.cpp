@@ -10,6 +10,7 @@ Report ShowModels(const Arguments & /*arguments*/) {
   constexpr std::size_t kNumberColumn = 4;
   constexpr std::size_t kNameColumn = 10;
   Report report;
+  report.isAnswer = true;
   report.fields["models"] = Json::array();
   for (const Product &product : Products()) {
     Json settings = Json::array();

@@ -299,11 +299,14 @@ bool AddRemembered(Report *report) {
 
 Report ShowStatus(const Arguments &arguments) {
   Report report;
+  report.isAnswer = true;
   const Mixers mixers = AddMixers(arguments.Has(Parameter::kVerbose), &report);
   const bool unreadable = AddRemembered(&report);
   const std::vector<SilentRouting> silent = FindSilentRoutings(mixers);
   AddSilence(silent, mixers.size() > 1, &report);
-  report.text += NextStep(mixers, unreadable, silent);
+  if (!arguments.Has(Parameter::kQuiet)) {
+    report.text += NextStep(mixers, unreadable, silent);
+  }
   return report;
 }
 

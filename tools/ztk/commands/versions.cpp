@@ -52,6 +52,7 @@ std::string LoadedLibrary() {
 
 Report ShowVersions(const Arguments & /*arguments*/) {
   Report report;
+  report.isAnswer = true;
   Json versions;
   for (const Piece &piece : kPieces) {
     ZTKTextRef text = nullptr;

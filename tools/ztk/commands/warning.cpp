@@ -216,6 +216,7 @@ Report ShowWarning(const Arguments &arguments) {
                                    : why));
   }
   Report report;
+  report.isAnswer = true;
   report.text = cli::OneLine(Utf8(text)) + "\n";
   report.fields = {{"result", result},
                    {"channel", channel + 1},

@@ -42,9 +42,11 @@ void AddSilenceOf(const std::vector<std::uint32_t> &channels, Report *report) {
 Report GetRemembered(const Setting &setting, const Arguments &arguments) {
   const std::uint32_t product = ProductFor(setting, arguments);
   Report report;
+  report.isAnswer = true;
   AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
-  report.text = Belonging(setting) + "\n";
+  const bool quiet = arguments.Has(Parameter::kQuiet);
+  if (!quiet) report.text = Belonging(setting) + "\n";
   const std::string why = WarnOfUnreadable(setting, &report);
   const std::vector<std::uint32_t> channels = ChannelsFor(setting, arguments);
   for (const std::uint32_t channel : channels) {
@@ -65,7 +67,9 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
                     : why.empty() ? " (default; nothing remembered)\n"
                                   : " (default; the file cannot be read)\n");
   }
-  if (&setting == &kInput) AddSilenceOf(channels, &report);
+  if (&setting == &kInput && (!quiet || arguments.Has(Parameter::kJson))) {
+    AddSilenceOf(channels, &report);
+  }
   return report;
 }
 

@@ -52,9 +52,12 @@ void AddChoiceList(const Setting &setting, std::uint32_t product,
 Report ListChoices(const Setting &setting, const Arguments &arguments) {
   const std::uint32_t product = ProductFor(setting, arguments);
   Report report;
+  report.isAnswer = true;
   AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
-  report.text = Belonging(setting) + " * marks the current choice.\n";
+  if (!arguments.Has(Parameter::kQuiet)) {
+    report.text = Belonging(setting) + " * marks the current choice.\n";
+  }
   WarnOfUnreadable(setting, &report);
   for (const std::uint32_t channel : ChannelsFor(setting, arguments)) {
     AddChoiceList(setting, product, channel, &report);
