@@ -16,6 +16,7 @@
 #include "window/picture/picture.h"
 #include "window/registry.h"
 #include "window/rows/choice_row.h"
+#include "ztk/fake_user_manager.h"
 
 namespace ztk::window {
 
@@ -33,6 +34,7 @@ class WholeWindowTest : public EngineWorld {
   void ShowsWhatAnotherProgramSets();
   void TellsWhyAChannelIsSilent();
   void AdvisesNothingForAPositionThatIsNone();
+  void SwitchesAutoapply();
   void UndoesTwoChanges();
   void DashesTheWiresWhenTheMixerIsUnplugged();
   void SendingAllEndsTheDoubt();
@@ -140,6 +142,34 @@ void WholeWindowTest::AdvisesNothingForAPositionThatIsNone() {
   QCOMPARE(InputRow(0).text(),
            QStringLiteral("Sent to 2 mixers, and remembered."));
   QCOMPARE(InputRow(0).toolTip(), QString());
+}
+
+// With a double of the systemd of the session. Turning it on needs the file of
+// an installed ztk.
+void WholeWindowTest::SwitchesAutoapply() {
+  test::FakeUserManager manager;
+  manager.KnowUnit(true);
+  Open();
+  QAction &action = Action("Send all at each plug-in");
+  EVENTUALLY(action.isChecked());
+  QVERIFY(action.isEnabled());
+  action.trigger();
+  EVENTUALLY(state().autoapply == Autoapply::Off);
+  QVERIFY(!action.isChecked());
+  QCOMPARE(manager.calls(),
+           (std::vector<std::string>{"DisableUnitFiles ztk-apply@.service 0",
+                                     "Reload"}));
+  action.trigger();
+  const auto *message = window_->findChild<QLabel *>("message");
+  EVENTUALLY(state().autoapply == Autoapply::On || !message->text().isEmpty());
+  if (state().autoapply == Autoapply::On) {
+    QVERIFY(action.isChecked());
+    return;
+  }
+  QVERIFY2(message->text().contains(QStringLiteral("is missing")),
+           qPrintable(message->text()));
+  QVERIFY(!action.isChecked());
+  QVERIFY(action.isEnabled());
 }
 
 void WholeWindowTest::UndoesTwoChanges() {
