@@ -14,11 +14,11 @@
  * a function returns 102, it sends, stores and announces nothing, and outputs
  * keep their value, unless its comment says otherwise.
  *
- * **Failures below the interface do not change the result.** A mixer that
- * cannot be opened or refuses a request, a settings file that cannot be
- * written, a session without a message bus: the function goes on, and the
- * result is the same as if that had worked. ZTK_GetLastOutcome() in
- * ZTKOutcome.h tells what really happened.
+ * **Failures below the interface do not change the result.** If a mixer cannot
+ * be opened or refuses a request, a settings file cannot be written, or the
+ * session has no message bus, the function makes its other steps, and its
+ * result is the same as without the failure. ZTK_GetLastOutcome() in
+ * ZTKOutcome.h reports such failures.
  *
  * **Duration.** A function returns when all mixers have answered. On Linux each
  * request to a mixer is given up after 1 second. A setter makes one request to
@@ -44,12 +44,12 @@
  *   that registers, or on the global default context if it has none. A worker
  *   thread pushes a context of its own before it registers
  *   (g_main_context_push_thread_default()).
- * - On macOS on the run loop of the main thread, whichever thread registers:
- *   distributed notifications are delivered there.
+ * - On macOS always on the run loop of the main thread, because the system
+ *   delivers distributed notifications on this thread.
  *
- * **Memory.** The library frees what it allocates. Texts are never freed by the
- * caller; see ZTKTextRef. If memory is short, a function goes on without what
- * it could not allocate, as after any other failure below the interface.
+ * **Memory.** The library frees the memory that it allocates. The caller must
+ * not free texts; see ZTKTextRef. If memory runs out, this is a failure below
+ * the interface like the others.
  */
 #ifndef ZTKFUNC_H_
 #define ZTKFUNC_H_
@@ -91,24 +91,24 @@ extern "C" {
  * @{
  */
 
-/** What every function returns: one of these five codes. */
+/** The result of every function: one of these five codes. */
 typedef uint32_t ZTKResult;
 
 /**
- * Done. Queries also return it when no mixer is attached; the comment of each
- * tells what its output is in that case.
+ * The call succeeded. Queries also return it if no mixer is attached; their
+ * comments describe the output in that case.
  */
 #define ZTK_SUCCESS 100u
 /**
- * Done, with a warning: no mixer is attached, or the input selector of the
+ * Success with a warning: no mixer is attached, or the input selector of the
  * channel is in a position in which the new routing cannot be heard. Only
  * ZTK_SetUSBInputAudio() and ZTK_SetUSBInputAudioDirect() return it.
  */
 #define ZTK_WARNING 101u
 /**
- * Rejected: an argument is null or out of range, the function does not serve
- * the product, or a name contains no model. Some functions also reject what
- * they read from a file or a mixer; their comments say so.
+ * The call was rejected: an argument is null or out of range, the function does
+ * not serve the product, or a name contains no model. Some functions also
+ * reject values that they read from a file or a mixer; their comments say so.
  */
 #define ZTK_REJECTED 102u
 /** At least one mixer is attached; only ZTK_IsUSBConnection() returns it. */
@@ -124,10 +124,10 @@ typedef uint32_t ZTKResult;
 
 #if defined(__APPLE__)
 /**
- * A text. A constant of the library lives as long as the process. A text that
- * was read from a file belongs to the dictionary or bundle that it comes from:
- * retain it to keep it beyond the current autorelease pool. Never release a
- * text that you did not retain.
+ * A text. A constant of the library is valid until the process ends. A text
+ * that was read from a file belongs to the dictionary or bundle that it comes
+ * from: retain it to keep it beyond the current autorelease pool. Never release
+ * a text that you did not retain.
  */
 typedef CFStringRef ZTKTextRef;
 /** Makes a ZTKTextRef from a string literal. */
@@ -169,9 +169,9 @@ typedef void (*ZTKIndexCallback)(int32_t index, void *context);
  * The models are 0 VRM-Q8X, 1 VRM-K2, 2 VRM-Q8S, 3 VRC-H7, 4 VRM-Q9, 5 VRM-L4,
  * 6 VRM-E3, 8 VRM-B5 and 10 VRM-D6; the numbers 7 and 9 are not used. Functions
  * take the number of a model as productId and reject models that they do not
- * serve. It does not choose among the attached mixers: these are always found
- * by the maker's USB vendor id and the USB product id 27, and all of them are
- * addressed.
+ * serve. productId does not select mixers: every function uses all attached
+ * mixers. These have the maker's USB vendor id and the USB product id 27, which
+ * is the same for all models.
  * @{
  */
 
@@ -195,7 +195,7 @@ typedef void (*ZTKIndexCallback)(int32_t index, void *context);
 #define ZTK_PRODUCT_VRM_D6 10u
 
 /**
- * Finds the number of a model from a name that contains it.
+ * Finds the number of the model whose name is part of another name.
  *
  * The model may be anywhere in the name, in upper or lower case. If a name
  * contains two models, the one that comes first in this list counts: VRM-Q8X,
@@ -213,14 +213,14 @@ typedef void (*ZTKIndexCallback)(int32_t index, void *context);
 ZTK_EXPORT ZTKResult ZTK_GetProductId(ZTKTextRef name, uint32_t *outId);
 
 /**
- * Tells whether a mixer is attached.
+ * Returns whether a mixer is attached.
  *
  * Counts the mixers on the USB bus and opens none.
  *
  * @param productId  Ignored: the result is the same for every value.
  *
  * @retval 103 (ZTK_CONNECTED)      At least one mixer is attached.
- * @retval 104 (ZTK_NOT_CONNECTED)  No mixer is, or the bus cannot be read.
+ * @retval 104 (ZTK_NOT_CONNECTED)  No mixer is attached or can be found.
  *
  * @note May be called from any thread.
  */
@@ -230,8 +230,8 @@ ZTK_EXPORT ZTKResult ZTK_IsUSBConnection(uint32_t productId);
 /**
  * @defgroup versions Version texts
  * Versions of four installed components, each read from a property-list file at
- * a fixed path. No mixer is asked. The maker's installer for macOS writes these
- * files; where it did not run, there are none.
+ * a fixed path. No requests are sent to mixers. The maker's installer for macOS
+ * writes these files; without it they do not exist.
  *
  * The driver and the library are under /Library or, on older systems, under
  * /System/Library. The second number of the system version decides: a system
@@ -265,12 +265,12 @@ ZTK_EXPORT ZTKResult ZTK_GetLibraryVersionText(uint32_t productId,
 
 /**
  * @defgroup input_audio USB input audio
- * Which mixer signal is recorded on each of the five USB channels.
+ * The mixer signal that is recorded on each of the five USB channels.
  *
  * Serves the VRM-D6 (10) only. Channels are numbered from 0 to 4. Channels 0 to
- * 3 have seven choices, channel 4 has eight. After them comes a placeholder
- * with the text "PARAM ERROR". The text getter and the setter accept it: they
- * take larger indexes than the count says.
+ * 3 have seven choices, channel 4 has eight. After the choices there is a
+ * placeholder with the text "PARAM ERROR". The text getter and the setter
+ * accept its index, although it is not counted as a choice.
  * @{
  */
 
@@ -444,7 +444,7 @@ ZTK_EXPORT ZTKResult ZTK_GetWarningTextForSetUSBAudioInput(uint32_t productId,
 
 /**
  * @defgroup output_audio USB output audio
- * Which input of the mixer each playback channel of the computer goes to.
+ * The input of the mixer for each playback channel of the computer.
  *
  * Serves the VRM-B5 (8) only and stores in the settings file of that model, but
  * sends to the same mixers as all other functions. Channels are numbered from 0
@@ -837,8 +837,8 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
  *
  * The functions that register take:
  * - productId: the comment of each function tells which products it serves.
- * - callback: the function to call, on the event loop that the comment at the
- *   head of this file names. With null nothing is called.
+ * - callback: the function to call. It runs on the event loop that is described
+ *   at the beginning of this file. Null means that nothing is called.
  * - context: a pointer that is passed to the callback. It must stay valid until
  *   the callback is unregistered.
  *
@@ -851,37 +851,37 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
  * @{
  */
 
-/** Registers for USB input audio. Served: 10. */
+/** Registers a callback for USB input audio. Served: 10. */
 ZTK_EXPORT ZTKResult ZTK_RegisterInputAudioChangedCallback(
     uint32_t productId, ZTKChannelCallback callback, void *context);
-/** Unregisters from USB input audio. Served: 0, 1, 5, 6, 8, 10. */
+/** Unregisters the callback for USB input audio. Served: 0, 1, 5, 6, 8, 10. */
 ZTK_EXPORT ZTKResult ZTK_UnregisterInputAudioChangedCallback(uint32_t productId,
                                                              void *ignored);
 
 /**
- * Registers for USB output audio. Served: 10.
+ * Registers a callback for USB output audio. Served: 10.
  *
  * The setters of USB output audio announce their changes under the name of the
- * VRM-B5, and this function listens to the name of the VRM-D6: changes that are
- * made with this library never call the callback.
+ * VRM-B5, but this function registers for the name of the VRM-D6. So changes
+ * that are made with this library never call the callback.
  */
 ZTK_EXPORT ZTKResult ZTK_RegisterOutputAudioChangedCallback(
     uint32_t productId, ZTKChannelCallback callback, void *context);
-/** Unregisters from USB output audio. Served: 0, 1, 5, 6, 8, 10. */
+/** Unregisters the callback for USB output audio. Served: 0, 1, 5, 6, 8, 10. */
 ZTK_EXPORT ZTKResult
 ZTK_UnregisterOutputAudioChangedCallback(uint32_t productId, void *ignored);
 
-/** Registers for the boost level. Served: 10. */
+/** Registers a callback for the boost level. Served: 10. */
 ZTK_EXPORT ZTKResult ZTK_RegisterBoostLevelChangedCallback(
     uint32_t productId, ZTKIndexCallback callback, void *context);
-/** Unregisters from the boost level. Served: 0, 1, 5, 6, 8, 10. */
+/** Unregisters the callback for the boost level. Served: 0, 1, 5, 6, 8, 10. */
 ZTK_EXPORT ZTKResult ZTK_UnregisterBoostLevelChangedCallback(uint32_t productId,
                                                              void *ignored);
 
-/** Registers for the MIDI channel. Served: 1. */
+/** Registers a callback for the MIDI channel. Served: 1. */
 ZTK_EXPORT ZTKResult ZTK_RegisterMidiChannelChangedCallback(
     uint32_t productId, ZTKIndexCallback callback, void *context);
-/** Unregisters from the MIDI channel. Served: 1. */
+/** Unregisters the callback for the MIDI channel. Served: 1. */
 ZTK_EXPORT ZTKResult
 ZTK_UnregisterMidiChannelChangedCallback(uint32_t productId, void *ignored);
 
