@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
 #
-# GoogleTest for macOS, from its sources, which Debian's libgtest-dev brings.
+# Builds GoogleTest for macOS from its sources in Debian's package libgtest-dev.
 set(sources /usr/src/googletest)
 if(NOT EXISTS ${sources}/googletest/src/gtest-all.cc)
-  message(FATAL_ERROR "${sources} holds no sources of GoogleTest: install "
+  message(FATAL_ERROR "${sources} contains no sources of GoogleTest: install "
     "libgtest-dev and libgmock-dev, or build with -DBUILD_TESTING=OFF")
 endif()
 add_library(gtest_sources STATIC

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The places of what the port uses in IOKit's structures. Compiled with this
-// folder's declarations and, where there is one, with a macOS SDK: so the
-// double speaks to the port as the system does.
+// Checks the offsets of the members of IOKit's structures that the port uses.
+// This file is compiled with the declarations in this folder and, if possible,
+// with a macOS SDK. So the test double has the same binary interface as the
+// system.
 #include <CoreFoundation/CoreFoundation.h>
 #include <IOKit/IOCFPlugIn.h>
 #include <IOKit/IOKitLib.h>

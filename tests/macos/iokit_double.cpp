@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The registry: the master port, matching, iterators and services.
+// The registry of the test double: the master port, matching, iterators and
+// services.
 #include "iokit_double.h"
 
 #include <IOKit/IOCFPlugIn.h>
@@ -15,11 +16,11 @@
 namespace ztk::iokit {
 namespace {
 
-// Something that the kernel knows by a small number.
+// An object that the kernel identifies by a number.
 struct Named {
   References references;
-  std::vector<std::size_t> found;  // of an iterator: what is still to come
-  std::size_t position = 0;        // of a service
+  std::vector<std::size_t> found;  // in an iterator: the remaining devices
+  std::size_t position = 0;        // in a service: the device
 };
 
 constexpr mach_port_t kTask = 0x103;
@@ -39,7 +40,8 @@ mach_port_t Name(Named named) {
   return name;
 }
 
-// What stands behind a name; null, and misuse, when it is not of the kind.
+// Returns the object of a name. If the object is not of this kind, records
+// misuse and returns null.
 Named *At(mach_port_t name, const char *call, const Kind &kind) {
   const auto found = Names().find(name);
   if (found == Names().end() || &found->second.references.kind() != &kind) {
@@ -113,16 +115,16 @@ void LogMisuse(std::string what) {
 
 using namespace ztk::iokit;
 
-// A macro on macOS, which names a variable.
+// On macOS this name is a macro for a variable.
 #ifndef mach_task_self
 task_t mach_task_self() { return kTask; }
 #endif
 
-// Asking again gives the same name and one more reference on it.
+// Each call returns the same name and adds one reference.
 kern_return_t IOMasterPort(mach_port_t /*bootstrapPort*/,
                            mach_port_t *masterPort) {
   LogCall("IOMasterPort");
-  // A failure leaves behind whatever it likes.
+  // After a failure the output may have any value.
   *masterPort = kMasterPort;
   if (CurrentWorld().masterPortResult != kIOReturnSuccess) {
     return CurrentWorld().masterPortResult;
@@ -162,7 +164,7 @@ kern_return_t IOServiceGetMatchingServices(mach_port_t masterPort,
     At(masterPort, "IOServiceGetMatchingServices", kPort);
   }
   if (CurrentWorld().findResult != kIOReturnSuccess) {
-    // A failure leaves behind whatever it likes.
+    // After a failure the output may have any value.
     *existing = kMasterPort;
     return CurrentWorld().findResult;
   }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// A small IOKit: the registry, the USB device interface and the few objects of
-// CoreFoundation that go with them, for a bus that a test describes. Every
-// call is recorded, every reference counted by kind, and what a real system
-// would answer with a crash or with nothing at all is recorded as misuse.
+// A test double of IOKit: the registry, the USB device interface and the
+// objects of CoreFoundation that they need, for a bus that a test describes.
+// Every call is recorded, and the references of each kind are counted. Errors
+// that a real system does not report, or that would crash the process, are
+// recorded as misuse.
 #ifndef ZTK_TESTS_MACOS_IOKIT_DOUBLE_H_
 #define ZTK_TESTS_MACOS_IOKIT_DOUBLE_H_
 
@@ -16,32 +17,32 @@
 
 namespace ztk::iokit {
 
-// What a device answers to a read: the result, and the bytes that it delivers
-// before that (no more than are asked for reach the buffer).
+// The answer of a device to a read: the result and the bytes. The buffer
+// receives at most as many bytes as the library requests.
 struct Reply {
   IOReturn result = kIOReturnSuccess;
   std::vector<std::uint8_t> bytes;
 };
 
-// One device on the bus. It behaves as a mixer does unless a test says so.
+// One device on the bus. With the default values it is a mixer.
 struct Device {
   std::uint16_t vendor = 0x6666;
   std::uint16_t product = 27;
   IOReturn plugInResult = kIOReturnSuccess;
-  bool hasInterface = true;  // of the first version
+  bool hasInterface = true;  // the first version of the device interface
   IOReturn classResult = kIOReturnSuccess;
   IOReturn subClassResult = kIOReturnSuccess;
   IOReturn vendorResult = kIOReturnSuccess;
   IOReturn productResult = kIOReturnSuccess;
   std::map<std::uint16_t, Reply> replies;  // to reads, by register
   IOReturn writeResult = kIOReturnSuccess;
-  std::uint32_t releaseResult = 0;  // on each of its interfaces
+  std::uint32_t releaseResult = 0;  // the result of releasing an interface
 };
 
 Device Mixer();
 Device Hub();
 
-// References that are out, by the kind of what they are on.
+// The numbers of references that are not released, by the kind of the object.
 struct Held {
   int ports = 0;
   int dictionaries = 0;
@@ -59,23 +60,23 @@ struct World {
   IOReturn masterPortResult = kIOReturnSuccess;
   bool hasMatching = true;
   IOReturn findResult = kIOReturnSuccess;
-  // When nothing matches, there may be an empty iterator or none.
+  // If nothing matches, the result may be an empty iterator or none.
   bool hasEmptyIterator = true;
   std::vector<Device> bus;
 
-  // What came of it.
+  // The results.
   std::vector<std::string> calls;
   std::vector<std::string>
-      requests;  // as virtual_mixer::RequestLine() has them
+      requests;  // as virtual_mixer::RequestLine() writes them
   Held held;
   std::vector<std::string> misuse;
 };
 
 World &CurrentWorld();
-// A new world, to which no object of the last one is known.
+// Starts a new world. The objects of the last world are not valid in it.
 void StartAfresh();
 
-// Shared by the parts of the double.
+// For all sources of the test double.
 void LogCall(std::string call);
 void LogMisuse(std::string what);
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The plug-in of a service and the USB device interface behind it, each an
-// object that starts with a pointer to its table of functions.
+// The plug-in of a service and its USB device interface. Each of these objects
+// starts with a pointer to its table of functions.
 #include <IOKit/IOCFPlugIn.h>
 #include <IOKit/usb/IOUSBLib.h>
 
@@ -30,7 +30,7 @@ Device &DeviceOf(const Interface &interface) {
   return CurrentWorld().bus.at(interface.position);
 }
 
-// As a person counts: from 1, mixers only.
+// Returns the number of the mixer, from 1. Only mixers are counted.
 int MixerNumber(std::size_t position) {
   const auto &bus = CurrentWorld().bus;
   return static_cast<int>(std::count_if(
@@ -40,7 +40,7 @@ int MixerNumber(std::size_t position) {
       }));
 }
 
-// Starts a call on an interface: false when it has been released.
+// Records a call on an interface. Returns false if the interface was released.
 bool Enter(void *self, const char *call) {
   LogCall(call);
   return InterfaceAt(self)->references.Use(call);
@@ -75,14 +75,14 @@ IOReturn GetProduct(void *self, UInt16 *out) {
               out);
 }
 
-// Nothing that the library does needs a device for itself.
+// The library must not open a device.
 IOReturn Open(void *self) {
   Enter(self, "USBDeviceOpen");
   LogMisuse("a device was opened");
   return kIOReturnExclusiveAccess;
 }
 
-// What a device that was never opened says.
+// The result of closing a device that was not opened.
 IOReturn Close(void *self) {
   return Enter(self, "USBDeviceClose") ? kIOReturnNotOpen : kIOReturnNoDevice;
 }
@@ -94,7 +94,7 @@ virtual_mixer::TransferStatus TransferStatusOf(IOReturn result) {
 
 IOReturn Request(void *self, IOUSBDevRequest *request) {
   if (!Enter(self, "DeviceRequest")) return kIOReturnNoDevice;
-  // Writes without bytes get an address, too.
+  // A write without bytes also has an address.
   if (request->pData == nullptr) LogMisuse("DeviceRequest without a buffer");
   const Interface &interface = *InterfaceAt(self);
   const Device &device = DeviceOf(interface);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The double's dictionaries where CoreFoundation is not doubled: they are
-// dictionaries of Foundation, and nobody counts their references.
+// The dictionaries of the test double for programs with a real CoreFoundation.
+// They are dictionaries of Foundation, whose references are not counted here.
 #import <Foundation/Foundation.h>
 
 #include <cstring>

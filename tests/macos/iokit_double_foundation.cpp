@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The objects of CoreFoundation.
+// The objects of CoreFoundation in the test double.
 #include <CoreFoundation/CoreFoundation.h>
 
 #include <cstring>
@@ -17,9 +17,9 @@ namespace {
 
 struct Object {
   References references;
-  std::string text;         // of a string; of a dictionary, its class name
-  std::int32_t number = 0;  // of a number
-  std::vector<std::pair<Object *, Object *>> entries;  // of a dictionary
+  std::string text;         // in a string; in a dictionary, the class name
+  std::int32_t number = 0;  // in a number
+  std::vector<std::pair<Object *, Object *>> entries;  // in a dictionary
 };
 
 std::set<const void *> &Known() {
@@ -33,7 +33,8 @@ Object *Make(Object object) {
   return made;
 }
 
-// The object behind a reference; null, and misuse, when there is none.
+// Returns the object of a reference. If there is none, records misuse and
+// returns null.
 Object *ObjectAt(const void *reference, const char *call) {
   if (Known().count(reference) == 0) {
     LogMisuse(std::string(call) + " on what is no object");
@@ -123,7 +124,7 @@ void CFDictionarySetValue(CFMutableDictionaryRef dictionary, const void *key,
   into->entries.emplace_back(name, entry);
 }
 
-// A constant name is never released, so it has no references to count.
+// A constant is never released, so its references are not counted.
 CFUUIDRef CFUUIDGetConstantUUIDWithBytes(
     CFAllocatorRef /*allocator*/, UInt8 byte0, UInt8 byte1, UInt8 byte2,
     UInt8 byte3, UInt8 byte4, UInt8 byte5, UInt8 byte6, UInt8 byte7,

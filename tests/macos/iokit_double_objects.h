@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the parts of the double share: every object that was ever handed out,
-// kept until the process ends so that a use after the last release is seen.
+// The objects of the test double, for all its sources. No object is freed
+// before the process ends, so that a use after the last release is detected.
 #ifndef ZTK_TESTS_MACOS_IOKIT_DOUBLE_OBJECTS_H_
 #define ZTK_TESTS_MACOS_IOKIT_DOUBLE_OBJECTS_H_
 
@@ -23,7 +23,7 @@ Object *Keep(Object object) {
   return &kept.emplace_back(std::move(object));
 }
 
-// One kind of thing that can be held.
+// A kind of object, with a counter of its references.
 struct Kind {
   const char *name;
   int Held::*held;
@@ -37,14 +37,16 @@ inline constexpr Kind kService{"service", &Held::services};
 inline constexpr Kind kPlugIn{"plug-in", &Held::plugIns};
 inline constexpr Kind kInterface{"interface", &Held::interfaces};
 
-// The references on one object.
+// The references to one object.
 class References {
  public:
   explicit References(const Kind &kind) : kind_(&kind) { Add(); }
   void Add();
-  // True when this was the last one. One too many is misuse.
+  // Releases one reference. Returns true if it was the last one. Records misuse
+  // if there was no reference.
   bool Remove();
-  // False, and misuse, when there is none left.
+  // Returns true if there is a reference. Otherwise records misuse and returns
+  // false.
   bool Use(const char *call) const;
   const Kind &kind() const { return *kind_; }
   int count() const { return count_; }
@@ -54,23 +56,25 @@ class References {
   int count_ = 0;
 };
 
-// What a matching asks for.
+// The conditions of a matching.
 struct Matching {
   std::string className;
   std::optional<std::int32_t> vendor;
   std::optional<std::int32_t> product;
 };
 
-// The contents of a dictionary that IOServiceMatching() made, one reference of
-// which goes back; nothing, and misuse, for anything else.
+// Returns the conditions in a dictionary that IOServiceMatching() made, and
+// releases one reference to it. Records misuse and returns no value for any
+// other object.
 std::optional<Matching> ConsumeMatching(CFDictionaryRef dictionary);
 CFMutableDictionaryRef MakeMatching(const char *className);
 void ForgetObjects();
 
-// Whether two names are the same one.
+// Returns whether two identifiers are equal.
 bool SameUuid(const CFUUIDBytes &first, const CFUUIDBytes &second);
 
-// The loader of a device's interface: a pointer to its functions, as C sees it.
+// Makes the plug-in of a device: an object that starts with a pointer to its
+// functions.
 IOCFPlugInInterface **MakePlugIn(std::size_t position);
 
 }  // namespace ztk::iokit

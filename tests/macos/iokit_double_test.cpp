@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The double itself: it sees every reference that is not given back, and every
-// use of what is not there.
+// Tests the test double: it detects every reference that is not released, and
+// every use of an object that does not exist.
 #include <IOKit/IOCFPlugIn.h>
 #include <IOKit/IOKitLib.h>
 #include <IOKit/usb/IOUSBLib.h>
@@ -56,7 +56,7 @@ class IOKitDouble : public testing::Test {
   }
 };
 
-TEST_F(IOKitDouble, CountsWhatIsHeldByKind) {
+TEST_F(IOKitDouble, CountsReferencesByKind) {
   Interface();
   Port();
   EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1,
@@ -75,7 +75,7 @@ TEST_F(IOKitDouble, CountsTheMasterPortByReferences) {
   EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1}));
 }
 
-TEST_F(IOKitDouble, HoldsWhatADictionaryHoldsAsLongAsTheDictionary) {
+TEST_F(IOKitDouble, KeepsTheContentsOfADictionary) {
   const std::int32_t value = 27;
   CFMutableDictionaryRef matching = IOServiceMatching("IOUSBDevice");
   const CFNumberRef number =
@@ -92,7 +92,7 @@ TEST_F(IOKitDouble, HoldsWhatADictionaryHoldsAsLongAsTheDictionary) {
   EXPECT_THAT(Misuse(), IsEmpty());
 }
 
-TEST_F(IOKitDouble, SeesAPortThatIsGivenBackTwice) {
+TEST_F(IOKitDouble, DetectsAPortThatIsReleasedTwice) {
   const mach_port_t port = Port();
   mach_port_deallocate(mach_task_self(), port);
   mach_port_deallocate(mach_task_self(), port);
@@ -101,14 +101,14 @@ TEST_F(IOKitDouble, SeesAPortThatIsGivenBackTwice) {
                           "master port"));
 }
 
-TEST_F(IOKitDouble, SeesAnObjectThatIsGivenBackTwice) {
+TEST_F(IOKitDouble, DetectsAnObjectThatIsReleasedTwice) {
   const io_service_t service = Service();
   IOObjectRelease(service);
   IOObjectRelease(service);
   EXPECT_THAT(Misuse(), ElementsAre("released too often: service"));
 }
 
-TEST_F(IOKitDouble, SeesThatAPortIsNoObjectAndAnObjectNoPort) {
+TEST_F(IOKitDouble, DetectsAPortUsedAsAnObjectAndAnObjectUsedAsAPort) {
   IOObjectRelease(Port());
   mach_port_deallocate(mach_task_self(), Service());
   IOObjectRelease(IO_OBJECT_NULL);
@@ -119,7 +119,7 @@ TEST_F(IOKitDouble, SeesThatAPortIsNoObjectAndAnObjectNoPort) {
                   "IOObjectRelease on what is no object of the registry"));
 }
 
-TEST_F(IOKitDouble, SeesTheUseOfAReleasedIterator) {
+TEST_F(IOKitDouble, DetectsTheUseOfAReleasedIterator) {
   const io_iterator_t iterator = Iterator();
   IOObjectRelease(iterator);
   EXPECT_EQ(IOIteratorNext(iterator), IO_OBJECT_NULL);
@@ -128,7 +128,7 @@ TEST_F(IOKitDouble, SeesTheUseOfAReleasedIterator) {
                           "iterator"));
 }
 
-TEST_F(IOKitDouble, SeesTheUseOfAConsumedDictionary) {
+TEST_F(IOKitDouble, DetectsTheUseOfAConsumedDictionary) {
   CFMutableDictionaryRef matching = IOServiceMatching("IOUSBDevice");
   io_iterator_t iterator = IO_OBJECT_NULL;
   IOServiceGetMatchingServices(MACH_PORT_NULL, matching, &iterator);
@@ -137,7 +137,7 @@ TEST_F(IOKitDouble, SeesTheUseOfAConsumedDictionary) {
               ElementsAre("CFRelease after the last release of a dictionary"));
 }
 
-TEST_F(IOKitDouble, SeesTheUseOfAReleasedInterface) {
+TEST_F(IOKitDouble, DetectsTheUseOfAReleasedInterface) {
   IOUSBDeviceInterface **interface = Interface();
   UInt16 vendor = 7;
   (*interface)->Release(interface);
@@ -149,13 +149,13 @@ TEST_F(IOKitDouble, SeesTheUseOfAReleasedInterface) {
                                     "released too often: interface"));
 }
 
-TEST_F(IOKitDouble, SeesADeviceThatIsOpened) {
+TEST_F(IOKitDouble, DetectsADeviceThatIsOpened) {
   IOUSBDeviceInterface **interface = Interface();
   (*interface)->USBDeviceOpen(interface);
   EXPECT_THAT(Misuse(), ElementsAre("a device was opened"));
 }
 
-TEST_F(IOKitDouble, SeesARequestForAnotherInterface) {
+TEST_F(IOKitDouble, DetectsARequestForAnotherInterface) {
   IOCFPlugInInterface **plugIn = PlugIn();
   LPVOID interface = plugIn;
   EXPECT_NE((*plugIn)->QueryInterface(
@@ -165,7 +165,7 @@ TEST_F(IOKitDouble, SeesARequestForAnotherInterface) {
   EXPECT_THAT(Misuse(), ElementsAre("QueryInterface for another interface"));
 }
 
-TEST_F(IOKitDouble, SeesWhatIsNoObject) {
+TEST_F(IOKitDouble, DetectsWrongReferences) {
   int nothing = 0;
   CFRelease(&nothing);
   EXPECT_THAT(Misuse(), ElementsAre("CFRelease on what is no object"));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The fixture of every test on the IOKit double: a fresh world, no misuse of
-// it.
+// The fixture of every test with the IOKit double. Each test starts with a new
+// world and fails if it contains misuse at the end.
 #ifndef ZTK_TESTS_MACOS_IOKIT_TEST_H_
 #define ZTK_TESTS_MACOS_IOKIT_TEST_H_
 
@@ -17,7 +17,7 @@
 
 namespace ztk::iokit {
 
-// How a failed comparison shows what is held.
+// Prints the references in a failed comparison.
 inline void PrintTo(const Held &held, std::ostream *out) {
   *out << "{ports " << held.ports << ", dictionaries " << held.dictionaries
        << ", numbers " << held.numbers << ", strings " << held.strings
@@ -50,7 +50,7 @@ class IOKitTest : public testing::Test {
   }
 };
 
-// The maker's other device, and one that does not answer.
+// Returns another device of the maker, and a device that does not answer.
 inline iokit::Device OtherProduct() {
   iokit::Device other;
   other.product = 28;

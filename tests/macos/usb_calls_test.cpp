@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the library asks of IOKit, call by call and in order.
+// Tests all calls of IOKit that the library makes, in order.
 #include <cstdint>
 
 #include "iokit_test.h"
@@ -14,7 +14,7 @@ using usb::Connection;
 
 class MacCalls : public IOKitTest {
  protected:
-  // The first mixer of a bus that has only it. The log starts after that.
+  // Returns a connection to the only mixer, and clears the log.
   static Connection Opened(const iokit::Device &mixer) {
     CurrentWorld().bus = {mixer};
     Connection slot = nullptr;
@@ -65,7 +65,7 @@ TEST_F(MacCalls, OfASearch) {
                   "mach_port_deallocate"));
 }
 
-TEST_F(MacCalls, OfADeviceStopAtItsFirstFailure) {
+TEST_F(MacCalls, ForADeviceEndAtItsFirstFailure) {
   iokit::Device silent = Mixer();
   silent.subClassResult = kIOReturnNotResponding;
   CurrentWorld().bus = {silent};
@@ -90,7 +90,7 @@ TEST_F(MacCalls, OfASearchWithoutAMasterPortEndThere) {
   EXPECT_THAT(TakeCalls(), ElementsAre("IOMasterPort"));
 }
 
-TEST_F(MacCalls, OfANullSlotAreNone) {
+TEST_F(MacCalls, ForANullSlotDoNotExist) {
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(open_pipes(nullptr, 0), 0xE00002BCu);
   EXPECT_THAT(TakeCalls(), IsEmpty());
@@ -107,7 +107,7 @@ TEST_F(MacCalls, FindTheMixersInTheirOrder) {
               ElementsAre("mixer 2: c0 00 0000 8002 0005 -> 00 01 02 03 04"));
 }
 
-TEST_F(MacCalls, OfARequestAreOne) {
+TEST_F(MacCalls, ForARequestAreOne) {
   const Connection slot = Opened(Mixer());
   EXPECT_EQ(SetMidiChannelSetting(slot, 0x0F00), 0u);
   EXPECT_THAT(TakeCalls(), ElementsAre("DeviceRequest"));
@@ -144,7 +144,7 @@ TEST_F(MacCalls, CarryEveryRead) {
                           "mixer 1: c0 00 0000 8007 0004 -> 00 00 00 01"));
 }
 
-TEST_F(MacCalls, TellHowManyBytesCame) {
+TEST_F(MacCalls, ReturnTheNumberOfTransferredBytes) {
   iokit::Device brief = Mixer();
   brief.replies[0x8002] = {.bytes = {0, 1, 2}};
   const Connection slot = Opened(brief);
@@ -155,8 +155,9 @@ TEST_F(MacCalls, TellHowManyBytesCame) {
   EXPECT_THAT(buffer, ElementsAre(0, 1, 2, 9, 9));
 }
 
-// What came before the failure came.
-TEST_F(MacCalls, TellHowManyBytesCameOfAFailureToo) {
+// A failed request also reports the bytes that were transferred before the
+// failure.
+TEST_F(MacCalls, ReturnTheNumberOfTransferredBytesAfterAFailure) {
   iokit::Device failing = Mixer();
   failing.replies[0x8002] = {.result = kIOReturnNotResponding, .bytes = {7, 8}};
   const Connection slot = Opened(failing);
@@ -167,7 +168,7 @@ TEST_F(MacCalls, TellHowManyBytesCameOfAFailureToo) {
   EXPECT_EQ(length, 2);
 }
 
-TEST_F(MacCalls, PassTheResultOfARequestOn) {
+TEST_F(MacCalls, ReturnTheResultOfARequest) {
   iokit::Device held = Mixer();
   held.writeResult = kIOReturnExclusiveAccess;
   EXPECT_EQ(SetMixerOutputSetting(Opened(held), 0), 0xE00002C5u);
@@ -176,15 +177,15 @@ TEST_F(MacCalls, PassTheResultOfARequestOn) {
 TEST_F(MacCalls, ReachEveryMixerWithOneRequestEach) {
   CurrentWorld().bus = {Mixer(), Hub(), Mixer()};
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 2);
-  // Deliberate: the hub after the first mixer makes no difference, a device
-  // that fails there would.
+  // The hub after the first mixer has no effect. Deliberate: a device that
+  // fails after a mixer has an effect.
   EXPECT_THAT(TakeRequests(), ElementsAre("mixer 1: 40 03 0300 8003 0000",
                                           "mixer 2: 40 03 0300 8003 0000"));
 }
 
-TEST_F(MacCalls, PassOverAMixerBeforeADeviceThatFails) {
+TEST_F(MacCalls, SendNothingToAMixerBeforeADeviceThatFails) {
   CurrentWorld().bus = {Mixer(), WithoutPlugIn(), Mixer(), WithoutPlugIn()};
-  // The two that let no plug-in be made are mixers in the registry.
+  // The two devices without a plug-in are mixers in the registry.
   EXPECT_EQ(usb::SendToEveryMixer(10, 0x8003, 0x0300), 4);
   EXPECT_THAT(TakeRequests(), IsEmpty());
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The references to IOKit objects that the library still holds after each call:
-// only those that are intended.
+// Tests the references to IOKit objects that the library has not released after
+// each call.
 #include <cstdint>
 
 #include "iokit_test.h"
@@ -16,7 +16,7 @@ constexpr std::uint32_t kGeneralError = 0xE00002BC;
 
 class MacCount : public IOKitTest {};
 
-TEST_F(MacCount, LeavesTwoNumbersAndOnePortAndNothingElse) {
+TEST_F(MacCount, DoesNotReleaseTwoNumbersAndOnePort) {
   CurrentWorld().bus = {Hub(), Mixer(), OtherProduct(), Mixer()};
   EXPECT_EQ(CheckUSBAudio(10), 2);
   EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1, .numbers = 2}));
@@ -24,7 +24,7 @@ TEST_F(MacCount, LeavesTwoNumbersAndOnePortAndNothingElse) {
   EXPECT_EQ(CurrentWorld().held, (Held{.ports = 2, .numbers = 4}));
 }
 
-TEST_F(MacCount, LeavesTheSameWhenNothingIsFound) {
+TEST_F(MacCount, KeepsTheSameIfNothingIsFound) {
   EXPECT_EQ(CheckUSBAudio(10), 0);
   EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1, .numbers = 2}));
   CurrentWorld().hasEmptyIterator = false;
@@ -32,21 +32,21 @@ TEST_F(MacCount, LeavesTheSameWhenNothingIsFound) {
   EXPECT_EQ(CurrentWorld().held, (Held{.ports = 2, .numbers = 4}));
 }
 
-TEST_F(MacCount, LeavesTheSameWhenTheServicesCannotBeFound) {
+TEST_F(MacCount, KeepsTheSameIfTheServicesCannotBeFound) {
   CurrentWorld().bus = {Mixer()};
   CurrentWorld().findResult = kIOReturnNotResponding;
   EXPECT_EQ(CheckUSBAudio(10), 0);
   EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1, .numbers = 2}));
 }
 
-TEST_F(MacCount, LeavesThePortWithoutAMatching) {
+TEST_F(MacCount, KeepsThePortWithoutAMatching) {
   CurrentWorld().bus = {Mixer()};
   CurrentWorld().hasMatching = false;
   EXPECT_EQ(CheckUSBAudio(10), 0);
   EXPECT_EQ(CurrentWorld().held, (Held{.ports = 1}));
 }
 
-TEST_F(MacCount, GoesOnWithoutAMasterPort) {
+TEST_F(MacCount, CountsEvenWithoutAMasterPort) {
   CurrentWorld().bus = {Mixer()};
   CurrentWorld().masterPortResult = kIOReturnNotResponding;
   EXPECT_EQ(CheckUSBAudio(10), 1);
@@ -55,7 +55,8 @@ TEST_F(MacCount, GoesOnWithoutAMasterPort) {
 
 class MacSearch : public IOKitTest {
  protected:
-  // What is still held once the mixer at `index` was opened and closed.
+  // Opens and closes the mixer at `index`. Returns the references that are not
+  // released.
   static Held LeftAfterClosing(std::uint32_t index) {
     CurrentWorld().held = Held{};
     Connection slot = nullptr;
@@ -67,27 +68,27 @@ class MacSearch : public IOKitTest {
   }
 };
 
-TEST_F(MacSearch, LeavesNothingWhenTheChosenMixerIsLast) {
+TEST_F(MacSearch, ReleasesEverythingIfTheChosenMixerIsTheLastDevice) {
   CurrentWorld().bus = {Hub(), Mixer(), OtherProduct(), Mixer()};
   EXPECT_EQ(LeftAfterClosing(1), Held{});
   CurrentWorld().bus = {Mixer()};
   EXPECT_EQ(LeftAfterClosing(0), Held{});
 }
 
-TEST_F(MacSearch, LeavesTheInterfacesOfTheDevicesAfterTheChosenMixer) {
+TEST_F(MacSearch, DoesNotReleaseTheInterfacesAfterTheChosenMixer) {
   CurrentWorld().bus = {Mixer(), Hub(), Mixer(), OtherProduct()};
   EXPECT_EQ(LeftAfterClosing(0), (Held{.interfaces = 3}));
   EXPECT_EQ(LeftAfterClosing(1), (Held{.interfaces = 1}));
 }
 
-TEST_F(MacSearch, HoldsOneInterfaceWhileTheMixerIsOpen) {
+TEST_F(MacSearch, HasOneInterfaceWhileTheMixerIsOpen) {
   CurrentWorld().bus = {Hub(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0u);
   EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
 }
 
-TEST_F(MacSearch, LeavesNothingWhenThereIsNoSuchMixer) {
+TEST_F(MacSearch, ReleasesEverythingIfThereIsNoSuchMixer) {
   CurrentWorld().bus = {Mixer(), Hub(), Mixer()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 2), kGeneralError);
@@ -95,7 +96,7 @@ TEST_F(MacSearch, LeavesNothingWhenThereIsNoSuchMixer) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(MacSearch, HoldsTheSlotWhenALaterPlugInFails) {
+TEST_F(MacSearch, KeepsTheSlotIfALaterPlugInFails) {
   CurrentWorld().bus = {Mixer(), WithoutPlugIn()};
   Connection slot = nullptr;
   EXPECT_EQ(open_pipes(&slot, 0), 0xE00002BEu);
@@ -103,7 +104,7 @@ TEST_F(MacSearch, HoldsTheSlotWhenALaterPlugInFails) {
   EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
 }
 
-TEST_F(MacSearch, HoldsTheSlotWhenALaterDeviceDoesNotAnswer) {
+TEST_F(MacSearch, KeepsTheSlotIfALaterDeviceDoesNotAnswer) {
   iokit::Device silent = Hub();
   silent.vendorResult = kIOReturnNotResponding;
   CurrentWorld().bus = {Mixer(), silent};
@@ -113,7 +114,7 @@ TEST_F(MacSearch, HoldsTheSlotWhenALaterDeviceDoesNotAnswer) {
   EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 2}));
 }
 
-TEST_F(MacSearch, LeavesNothingOfDevicesThatFailBeforeTheChosenMixer) {
+TEST_F(MacSearch, ReleasesDevicesThatFailBeforeTheChosenMixer) {
   iokit::Device withoutInterface = Mixer();
   withoutInterface.hasInterface = false;
   iokit::Device silent = Mixer();
@@ -122,7 +123,7 @@ TEST_F(MacSearch, LeavesNothingOfDevicesThatFailBeforeTheChosenMixer) {
   EXPECT_EQ(LeftAfterClosing(0), Held{});
 }
 
-TEST_F(MacSearch, LeavesNothingWhenTheBusCannotBeRead) {
+TEST_F(MacSearch, ReleasesEverythingIfTheBusCannotBeRead) {
   CurrentWorld().bus = {Mixer()};
   Connection slot = nullptr;
   CurrentWorld().findResult = kIOReturnNotResponding;
@@ -136,7 +137,7 @@ TEST_F(MacSearch, LeavesNothingWhenTheBusCannotBeRead) {
   EXPECT_EQ(CurrentWorld().held, Held{});
 }
 
-TEST_F(MacSearch, KeepsTheOldInterfaceOfAnOccupiedSlotAndLeavesTheLoop) {
+TEST_F(MacSearch, KeepsTheInterfaceOfAnOccupiedSlotAndEndsTheLoop) {
   CurrentWorld().bus = {Hub(), Mixer(), Hub(), Mixer()};
   Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 1), 0u);
@@ -146,7 +147,7 @@ TEST_F(MacSearch, KeepsTheOldInterfaceOfAnOccupiedSlotAndLeavesTheLoop) {
   EXPECT_EQ(openUSB(&slot, 0), kGeneralError);
   EXPECT_EQ(slot, old);
   EXPECT_EQ(CurrentWorld().held, (Held{.interfaces = 1}));
-  // The hub and the mixer, and none of the two devices after it.
+  // The loop visited the hub and the mixer, but not the two devices after it.
   int asked = 0;
   for (const std::string &call : TakeCalls()) asked += call == "IOIteratorNext";
   EXPECT_EQ(asked, 2);
@@ -165,13 +166,13 @@ TEST_F(MacSearch, ClosesOnce) {
   EXPECT_THAT(TakeCalls(), ElementsAre("USBDeviceClose", "Release interface"));
 }
 
-TEST_F(MacSearch, AnswersWhatTheLastReleaseSaysRemains) {
+TEST_F(MacSearch, ReturnsTheResultOfTheLastRelease) {
   iokit::Device shared = Hub();
   shared.releaseResult = 5;
   CurrentWorld().bus = {Mixer(), shared};
   Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 0), 0u);
-  // Nothing is chosen at an index past the mixers; the slot is held already.
+  // There is no mixer at this index, and the slot is occupied.
   EXPECT_EQ(openUSB(&slot, 1), 5u);
 }
 

@@ -34,7 +34,7 @@ TABLES = ["InputAudioText", "PC_INPUT_PULLDOWN_TEXT", "_convTable_PC_INPUT",
           "OutputAudioText", "VRMB5_OUT_TEXT", "_convTableOut_B5",
           "BoostLevelText", "_convDbTable", "MidiChannelText",
           "MidiKeyModeText"]
-# A table of texts that is filled by code would have such a section.
+# A table of texts that is filled by code would need such a section.
 INITIALISERS = ["__mod_init_func", "__init_offsets", "__StaticInit"]
 
 OPTIONS = None
@@ -64,7 +64,7 @@ def listed():
 
 
 class Library(unittest.TestCase):
-    def test_shows_what_is_listed_and_the_class_and_nothing_else(self):
+    def test_exports_exactly_the_listed_names_and_the_class(self):
         lines = output_of("llvm-nm", "--defined-only", "--extern-only",
                           binary()).splitlines()
         shown = [line.split()[-1] for line in lines if line.strip()]
@@ -72,7 +72,7 @@ class Library(unittest.TestCase):
                          sorted(["_" + name for name in listed()] + CLASS))
         self.assertEqual(len(shown), 92)
 
-    def test_runs_nothing_when_it_is_loaded(self):
+    def test_runs_no_code_at_loading(self):
         commands = output_of("llvm-otool", "-l", binary())
         sections = re.findall(r"sectname (\S+)", commands)
         self.assertIn("__text", sections)
@@ -82,7 +82,7 @@ class Library(unittest.TestCase):
         names = output_of("llvm-nm", binary())
         self.assertNotRegex(names, r"__GLOBAL__sub_I|___cxx_global_var_init")
 
-    def test_keeps_its_tables_among_the_constants(self):
+    def test_has_its_tables_in_constant_sections(self):
         places = dict(
             (name, section) for section, name in re.findall(
                 r"^\w+ \((\S+)\) external _(\w+)$",
@@ -92,12 +92,12 @@ class Library(unittest.TestCase):
                 self.assertRegex(places[name],
                                  r"^__(TEXT|DATA|DATA_CONST),__const$")
 
-    def test_needs_these_and_no_others(self):
+    def test_links_only_these_libraries(self):
         lines = output_of("llvm-otool", "-L", binary()).splitlines()
         names = [line.split(" (")[0].strip() for line in lines[1:]]
         self.assertEqual(names, [INSTALL_NAME, *NEEDED])
 
-    def test_runs_on_the_oldest_system_named(self):
+    def test_runs_on_the_oldest_supported_system(self):
         commands = output_of("llvm-otool", "-l", binary())
         found = re.findall(
             r"cmd LC_VERSION_MIN_MACOSX\n.*\n +version (\S+)|minos (\S+)",
@@ -105,12 +105,12 @@ class Library(unittest.TestCase):
         self.assertEqual(["".join(pair) for pair in found],
                          [OLDEST[OPTIONS.arch]])
 
-    def test_is_of_the_processor_asked_for(self):
+    def test_is_for_the_requested_processor(self):
         header = output_of("llvm-objdump", "--macho", "--private-header", binary())
         wanted = {"x86_64": "X86_64", "arm64": "ARM64"}[OPTIONS.arch]
         self.assertRegex(header, rf"MH_MAGIC_64 +{wanted} .* DYLIB ")
 
-    def test_leaves_out_what_only_programs_need(self):
+    def test_does_not_contain_code_for_programs_only(self):
         self.assertNotRegex(output_of("llvm-nm", binary()), r"ReplaceFile")
 
     def test_never_opens_a_device_or_starts_a_thread(self):
@@ -120,7 +120,7 @@ class Library(unittest.TestCase):
 
 
 class Bundle(unittest.TestCase):
-    def test_holds_what_a_framework_does(self):
+    def test_has_the_files_of_a_framework(self):
         links = {"Versions/Current": "A", NAME: f"Versions/Current/{NAME}",
                  "Headers": "Versions/Current/Headers",
                  "Resources": "Versions/Current/Resources"}
@@ -131,14 +131,14 @@ class Bundle(unittest.TestCase):
             self.assertEqual((framework() / "Headers" / name).read_bytes(),
                              (OPTIONS.root / "include" / name).read_bytes())
 
-    def test_says_who_it_is(self):
+    def test_has_the_identifier_and_the_version(self):
         info = plistlib.loads(
             (framework() / "Resources/Info.plist").read_bytes())
         self.assertEqual(info["CFBundleExecutable"], NAME)
         self.assertEqual(info["CFBundleIdentifier"], f"com.tarvix.{NAME}")
         self.assertEqual(info["CFBundlePackageType"], "FMWK")
 
-    def test_holds_the_texts_of_every_language(self):
+    def test_has_the_texts_of_every_language(self):
         found = sorted(folder.name for folder in
                        (framework() / "Resources").glob("*.lproj"))
         self.assertEqual(found,
@@ -158,7 +158,7 @@ class Program(unittest.TestCase):
         self.assertEqual(lines[1].split(" (")[0].strip(), INSTALL_NAME)
 
 
-    def test_lets_the_framework_choose_its_own_language(self):
+    def test_allows_the_framework_to_choose_its_language(self):
         program = (OPTIONS.build / "bin/ztk").read_bytes()
         start = program.index(b"<?xml")
         end = program.index(b"</plist>", start) + len(b"</plist>")

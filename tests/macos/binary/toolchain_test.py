@@ -35,7 +35,7 @@ class LinkCommands(unittest.TestCase):
                 self.assertRegex(command, r"-fuse-ld=lld -B/\S+/bin\b")
 
     @unittest.skipUnless(shutil.which("make"), "make is not installed")
-    def test_of_makefiles_name_the_linker(self):
+    def test_of_makefiles_contain_the_linker(self):
         with tempfile.TemporaryDirectory() as folder:
             self.configure("Unix Makefiles", folder)
             files = [path for path in pathlib.Path(folder).rglob("link.txt")
@@ -43,7 +43,7 @@ class LinkCommands(unittest.TestCase):
             self.check([path.read_text() for path in files])
 
     @unittest.skipUnless(shutil.which("ninja"), "ninja is not installed")
-    def test_of_ninja_name_the_linker(self):
+    def test_of_ninja_contain_the_linker(self):
         with tempfile.TemporaryDirectory() as folder:
             self.configure("Ninja", folder)
             rules = (pathlib.Path(folder) / "build.ninja").read_text()

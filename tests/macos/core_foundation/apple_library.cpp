@@ -14,7 +14,7 @@
 namespace ztk::test {
 namespace {
 
-// Where Debian 13 and later versions of the package have it.
+// The folder of the libraries in the package of Debian 13 and later.
 constexpr const char *kFolders[] = {
     "/usr/libexec/swift/lib/swift/linux",
     "/usr/lib/swift/linux",
@@ -54,7 +54,7 @@ bool HasType(Object object, const char *typeName) {
          Find<TypeId()>(getter.c_str())();
 }
 
-// Given back at its end.
+// Owns an object of CoreFoundation and releases it.
 class Owned {
  public:
   explicit Owned(Object object) : object_(object) {}
@@ -106,7 +106,7 @@ void AppleLibrary::SetUp() {
     GTEST_SKIP() << "Debian's package libswiftlang (from Debian 13 on), which "
                     "contains Apple's CoreFoundation, is not installed";
   }
-  // One that is installed and does not load is not a reason to skip.
+  // If the library is installed but cannot be loaded, the test fails.
   ASSERT_NE(CoreFoundation(), nullptr) << dlerror();
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Apple's CoreFoundation, as Debian's package libswiftlang has it, and Apple's
-// ICU beside it. Both are loaded when a test runs: the tests need no headers of
-// theirs, and are skipped where the package is not installed.
+// Apple's CoreFoundation and Apple's ICU, from Debian's package libswiftlang.
+// Both are loaded when a test runs, so the tests do not need their headers. The
+// tests are skipped if the package is not installed.
 #ifndef ZTK_TESTS_MACOS_CORE_FOUNDATION_APPLE_LIBRARY_H_
 #define ZTK_TESTS_MACOS_CORE_FOUNDATION_APPLE_LIBRARY_H_
 
@@ -15,17 +15,17 @@ namespace ztk::test {
 
 class AppleLibrary : public testing::Test {
  protected:
-  // Skips the test when the library cannot be loaded, and says why.
+  // Skips the test if the library is not installed.
   void SetUp() override;
 
-  // The answer of CFStringGetIntValue().
+  // Returns the result of CFStringGetIntValue().
   static std::int32_t IntegerOfText(const std::string &text);
-  // The value under "a" of a property list, as -[NSNumber intValue] and
-  // -[NSString intValue] give it. Nothing when the property list cannot be read
-  // or is no dictionary.
+  // Returns the value of "a" in a property list, as -[NSNumber intValue] and
+  // -[NSString intValue] return it. Returns no value if the property list
+  // cannot be read or is not a dictionary.
   static std::optional<std::int32_t> ValueIn(const std::string &propertyList);
-  // The first of the twelve folders that ualoc_localizationsToUse() chooses,
-  // which CoreFoundation asks on macOS; empty when it chooses none.
+  // Returns the first of the twelve folders that ualoc_localizationsToUse()
+  // chooses, or an empty text. CoreFoundation calls this function on macOS.
   static std::string FolderFor(const char *language);
 };
 

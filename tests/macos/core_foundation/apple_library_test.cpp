@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Asks Apple's own code what the ports' tests expect.
+// Compares the expected values in the tests of the ports with the results of
+// Apple's code.
 #include "apple_library.h"
 #include "support/language_rows.h"
 #include "support/number_rows.h"
@@ -11,14 +12,14 @@ namespace {
 
 class AppleCoreFoundation : public AppleLibrary {};
 
-TEST_F(AppleCoreFoundation, ReadsTextsByTheTableOfBothPorts) {
+TEST_F(AppleCoreFoundation, ReadsTextsAsInTheTableForBothPorts) {
   for (const NumberRow &row : kNumberRows) {
     SCOPED_TRACE(row.text);
     EXPECT_EQ(IntegerOfText(row.text), row.expected);
   }
 }
 
-TEST_F(AppleCoreFoundation, ReadsEntriesByTheTableOfBothPorts) {
+TEST_F(AppleCoreFoundation, ReadsEntriesAsInTheTableForBothPorts) {
   for (const EntryRow &row : kEntryRows) {
     if (row.onIntel && !kIsIntel) continue;
     SCOPED_TRACE(row.element);
@@ -30,7 +31,7 @@ TEST_F(AppleCoreFoundation, ReadsEntriesByTheTableOfBothPorts) {
   }
 }
 
-TEST_F(AppleCoreFoundation, ReadsTheFormsOfTheTable) {
+TEST_F(AppleCoreFoundation, ReadsTheFormsAsInTheTable) {
   for (const FormRow &row : FormRows()) {
     SCOPED_TRACE(row.name);
     const auto value = ValueIn(row.bytes);
@@ -41,7 +42,7 @@ TEST_F(AppleCoreFoundation, ReadsTheFormsOfTheTable) {
   }
 }
 
-TEST_F(AppleCoreFoundation, ChoosesTheFoldersOfTheTable) {
+TEST_F(AppleCoreFoundation, ChoosesTheFoldersAsInTheTable) {
   for (const LanguageRow &row : kLanguageRows) {
     SCOPED_TRACE(row.language);
     EXPECT_EQ(FolderFor(row.language), row.folder);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Read before everything else in each source: has the public header give the
-// text type of macOS, and leaves all other headers believe that this is Linux.
+// Included first in each source. Makes the public header define the text type
+// of macOS, while all other headers are still those of Linux.
 #ifndef ZTK_TESTS_MACOS_FOUNDATION_APPLE_TEXT_H_
 #define ZTK_TESTS_MACOS_FOUNDATION_APPLE_TEXT_H_
 

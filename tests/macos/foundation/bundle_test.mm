@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The bundle of texts, by way of the warning that comes out of it. GNUstep's
-// localised lookup reads tables in the old style only, so the user's language
-// has one of those; tables read by path are the property lists that ship.
+// Tests the bundle of texts with the function that returns a warning text.
+// GNUstep's localised look-up reads only tables in the old style, so the user's
+// language has such a table. The tables that are read by path are the property
+// lists of the product.
 #include "platform/bundle.h"
 
 #include <filesystem>
@@ -27,7 +28,7 @@ class MacBundle : public TemporaryRootTest {
              PropertyList("<key>ProductVersion</key><string>10.13.6</string>"));
   }
 
-  // With the links that every framework has.
+  // Makes a bundle with the links that every framework has.
   static void PutTable(const std::string &bundle, const std::string &language,
                        const std::string &table) {
     WriteAll(bundle + "/Versions/A/Resources/" + language +
@@ -66,7 +67,7 @@ class MacBundle : public TemporaryRootTest {
   }
 };
 
-TEST_F(MacBundle, GivesTheTextsOfALanguageByPath) {
+TEST_F(MacBundle, ReturnsTheTextsOfALanguage) {
   PutTables(kNew, "new");
   Attach({0, 0});
   EXPECT_EQ(Warning(5), "100 new Dutch 2");
@@ -78,7 +79,7 @@ TEST_F(MacBundle, GivesTheTextsOfALanguageByPath) {
   EXPECT_EQ(Warning(5), "100 new Dutch 2");
 }
 
-TEST_F(MacBundle, GivesTheTextsOfTheUsersLanguage) {
+TEST_F(MacBundle, ReturnsTheTextsOfTheUsersLanguage) {
   PutTables(kNew, "new");
   EXPECT_EQ(Warning(99), "100 new English 1");
   Attach({0, 0});
@@ -87,13 +88,13 @@ TEST_F(MacBundle, GivesTheTextsOfTheUsersLanguage) {
   EXPECT_EQ(Warning(99), "100 new English 3");
 }
 
-// Deliberate: without a mixer the language asked for does not matter.
-TEST_F(MacBundle, GivesTheTextOfTheUsersLanguageWithoutAMixer) {
+// Deliberate: without a mixer the language argument is ignored.
+TEST_F(MacBundle, ReturnsTheTextOfTheUsersLanguageWithoutAMixer) {
   PutTables(kNew, "new");
   EXPECT_EQ(Warning(5), "100 new English 1");
 }
 
-TEST_F(MacBundle, LiesWhereTheSystemsSecondNumberSays) {
+TEST_F(MacBundle, IsInTheFolderForTheSystemVersion) {
   PutTables(kNew, "new");
   PutTables(kOld, "old");
   Attach({0, 0});
@@ -103,15 +104,16 @@ TEST_F(MacBundle, LiesWhereTheSystemsSecondNumberSays) {
   EXPECT_EQ(Warning(5), "100 old Dutch 2");
 }
 
-// In a process of its own: GNUstep never looks again where there was nothing.
-TEST_F(MacBundle, GivesNothingWhenItIsMissing) {
+// This test runs in a separate process, because GNUstep does not search a path
+// again where it has not found a bundle.
+TEST_F(MacBundle, ReturnsNullIfItIsMissing) {
   Client client({"warn", "99", "5"});
   EXPECT_EQ(client.ReadLine(), "100 (null)");
   EXPECT_EQ(client.ReadLine(), "100 (null)");
   EXPECT_EQ(client.ReadLine(), "warned");
 }
 
-TEST_F(MacBundle, GivesNothingOfATableThatIsMissing) {
+TEST_F(MacBundle, ReturnsNullIfTheTableIsMissing) {
   PutTables(kNew, "new");
   Attach({0, 0});
   EXPECT_EQ(Warning(7), "100 (null)");
@@ -119,13 +121,13 @@ TEST_F(MacBundle, GivesNothingOfATableThatIsMissing) {
   EXPECT_EQ(Warning(7), "100 (null)");
 }
 
-TEST_F(MacBundle, GivesTheKeyThatTheUsersLanguageDoesNotHave) {
+TEST_F(MacBundle, ReturnsTheKeyIfTheUsersLanguageDoesNotContainIt) {
   PutTable(kNew, "English", "\"OTHER\" = \"other\";\n");
   EXPECT_EQ(Warning(99), "100 WARNING1");
 }
 
-// As they ship; only the reading of one of them can be compared in ASCII.
-TEST_F(MacBundle, ShipsATableForEveryLanguage) {
+// Tests the tables of the product. Only the table in ASCII can be compared.
+TEST_F(MacBundle, HasATableForEveryLanguage) {
   const std::string version = std::string(kNew) + "/Versions/A";
   fs::create_directories(version);
   fs::copy(ZTK_RESOURCES, version + "/Resources", fs::copy_options::recursive);
@@ -143,7 +145,7 @@ TEST_F(MacBundle, ShipsATableForEveryLanguage) {
   EXPECT_EQ(Warning(12), "102 untouched");
 }
 
-TEST_F(MacBundle, IsGivenBack) {
+TEST_F(MacBundle, IsReleased) {
   PutTables(kNew, "new");
   namespace bundle = platform::bundle;
   bundle::Bundle *found = bundle::AtPath(TextOf(kNew));

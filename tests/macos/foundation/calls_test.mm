@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The calls that the library makes of Foundation, with what they are given:
-// methods and functions of Foundation are replaced by some that record.
+// Tests the library's calls of Foundation and their arguments. Methods and
+// functions of Foundation are replaced by functions that record the calls.
 #include <dlfcn.h>
 #include <objc/runtime.h>
 
@@ -15,8 +15,8 @@
 namespace {
 
 std::vector<std::string> theCalls;
-NSDictionary *theRecord;  // of the last post; retained
-NSString *theName;        // the same
+NSDictionary *theRecord;  // the record of the last post, retained
+NSString *theName;        // the name of the last post, retained
 
 void Keep(NSString *name, id object, NSDictionary *record,
           const std::string &how) {
@@ -32,7 +32,7 @@ void Keep(NSString *name, id object, NSDictionary *record,
 
 }  // namespace
 
-// In place of the distributed notification center.
+// Replaces the distributed notification center.
 @interface ZTKRecordingCenter : NSObject
 @end
 
@@ -53,7 +53,7 @@ void Keep(NSString *name, id object, NSDictionary *record,
 
 @end
 
-// Answers differently to the two methods by which an integer can be read.
+// Its two methods for reading an integer return different numbers.
 @interface ZTKTwoIntegers : NSObject
 @end
 
@@ -85,7 +85,8 @@ BOOL RecordWrite(id /*dictionary*/, SEL /*name*/, NSString * /*path*/,
 using Folders = decltype(NSSearchPathForDirectoriesInDomains(
     NSLibraryDirectory, NSUserDomainMask, YES));
 
-// In place of Foundation's function, which is called after it is recorded.
+// Replaces the function of Foundation. Records the call and calls that
+// function.
 extern "C" Folders NSSearchPathForDirectoriesInDomains(
     NSSearchPathDirectory folder, NSSearchPathDomainMask domain, BOOL expand) {
   theCalls.push_back("search " + std::to_string(folder) + " " +
@@ -104,7 +105,7 @@ namespace {
 namespace center = platform::notification_center;
 namespace plist = platform::property_list;
 
-// Replaces a method as long as it lives.
+// Replaces a method as long as this object exists.
 class Replaced {
  public:
   Replaced(Method method, IMP code)
@@ -131,7 +132,7 @@ class MacPost : public FoundationTest {
   Replaced center_;
 };
 
-TEST_F(MacPost, HasTheDeliveryOfItsFamilyAndNoSender) {
+TEST_F(MacPost, HasTheDeliveryOfItsFamilyAndNoSenderObject) {
   ZTK_SetUSBInputAudio(10, 0, 1);
   ZTK_SetUSBOutputAudio(8, 0, 1);
   ZTK_SetBoostLevelIndex(10, 1);
@@ -146,13 +147,13 @@ TEST_F(MacPost, HasTheDeliveryOfItsFamilyAndNoSender) {
                                  "VRM-K2 MidiChannel Change by default"));
 }
 
-TEST_F(MacPost, CarriesARecordThatCannotBeChanged) {
+TEST_F(MacPost, HasARecordThatCannotBeChanged) {
   ZTK_SetBoostLevelIndex(10, 1);
   EXPECT_FALSE([theRecord isKindOfClass:[NSMutableDictionary class]]);
 }
 
-// What was made for a post is the test's alone after the next one.
-TEST_F(MacPost, LeavesNothingBehind) {
+// After the next post, only the test owns the objects of the last post.
+TEST_F(MacPost, ReleasesTheObjectsOfTheLastPost) {
   @autoreleasepool {
     ZTK_SetBoostLevelIndex(10, 1);
   }
@@ -192,10 +193,10 @@ TEST_F(MacCallsOfFoundation, ReadAnIntegerByItsIntValue) {
   EXPECT_EQ(center::ReadNumber((center::UserInfo *)list, ZTK_TEXT("key")), 5);
 }
 
-TEST_F(MacCallsOfFoundation, AskForTheHomeFolderByItsPath) {
+TEST_F(MacCallsOfFoundation, UseTheSearchPathForTheLibraryFolder) {
   theCalls.clear();
   const platform::text::OwnedText folder(platform::paths::UserLibrary());
-  // The library folder (5) of the user (1).
+  // NSLibraryDirectory is 5, NSUserDomainMask is 1.
   ASSERT_FALSE(theCalls.empty());
   EXPECT_EQ(theCalls.front(), "search 5 1 with the home folder");
 }

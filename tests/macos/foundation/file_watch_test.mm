@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Another program copies over the settings file in place and stops in the
-// middle for some time. The pauses between two readings are replaced: the copy
-// goes on in them.
+// Another program overwrites the settings file and stops in the middle for some
+// time. Pause() is replaced: it does not wait, but continues the copy.
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -18,7 +17,7 @@
 
 namespace {
 
-// Called instead of a pause, when it is set.
+// If this function is set, Pause() calls it instead of waiting.
 std::function<void()> duringPause;
 
 }  // namespace
@@ -44,7 +43,8 @@ class MacFileWatch : public FoundationTest {
 
   static std::string File() { return Preferences() + "/test.plist"; }
 
-  // How reading the file ends; `hook` is called in each pause with its number.
+  // Reads the file and returns the result. `hook` is called in each pause with
+  // the number of the pause.
   ReadResult ReadWhile(const std::function<void(int)> &hook) {
     duringPause = [this, hook] { hook(++pauses_); };
     plist::Dictionary *list = nullptr;
@@ -66,7 +66,7 @@ TEST_F(MacFileWatch, WaitsForACopyThatStops) {
   EXPECT_EQ(pauses_, 20);
 }
 
-TEST_F(MacFileWatch, LeavesAFileThatKeepsChanging) {
+TEST_F(MacFileWatch, DoesNotReplaceAFileThatChangesAllTheTime) {
   WriteAll(File(), "<");
   const ReadResult result =
       ReadWhile([](int /*pause*/) { WriteAll(File(), ReadAll(File()) + "<"); });

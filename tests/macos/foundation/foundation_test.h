@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The fixture of the tests on Foundation: GNUstep's, or Apple's on a Mac.
-// main() has given the process a home of its own and, on Linux, a root and a
-// notification center.
+// The fixture of the tests with Foundation: GNUstep's on Linux, Apple's on a
+// Mac. main() has made a home folder for the process and, on Linux, a root and
+// a notification center.
 #ifndef ZTK_TESTS_MACOS_FOUNDATION_FOUNDATION_TEST_H_
 #define ZTK_TESTS_MACOS_FOUNDATION_FOUNDATION_TEST_H_
 
@@ -25,7 +25,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-// Without it, every object that a test was handed would stay for good.
+// Each test has an autorelease pool. Without a pool, autoreleased objects would
+// never be released.
 class FoundationTest : public testing::Test {
  protected:
   FoundationTest();
@@ -35,37 +36,38 @@ class FoundationTest : public testing::Test {
   NSAutoreleasePool *pool_;
 };
 
-// The one whose root may be written to; skipped where there is no such root.
+// For tests that write to the root folder. They are skipped if that is not
+// possible.
 class TemporaryRootTest : public FoundationTest {
  protected:
   void SetUp() override;
 };
 
-// Whether the Foundation in use is GNUstep's, which answers some questions
-// differently.
+// Whether the Foundation is GNUstep's, which differs in some results.
 #ifdef GNUSTEP
 inline constexpr bool kOnGNUstep = true;
 #else
 inline constexpr bool kOnGNUstep = false;
 #endif
 
-// Whether main() could make the root.
+// This environment variable is set if main() could not make the root. Its value
+// is the reason.
 inline constexpr char kNoRoot[] = "ZTK_TEST_NO_ROOT";
 
-// A client of client.h, told these words.
+// A client of client.h with these arguments.
 struct Client : ChildProcess {
   explicit Client(const std::vector<std::string> &words);
 };
 
 std::string StringOf(ZTKTextRef text);
-// Autoreleased.
+// Returns an autoreleased string.
 NSString *ObjectOf(const std::string &text);
 ZTKTextRef TextOf(const std::string &text);
 
-// $HOME/Library/Preferences, made anew and empty.
+// Makes an empty folder $HOME/Library/Preferences and returns its path.
 std::string Preferences();
 std::string SettingsFile(const std::string &model);
-// A property list with this inside its root dictionary.
+// Returns a property list whose root dictionary has these entries.
 std::string PropertyList(const std::string &entries);
 
 }  // namespace ztk::test

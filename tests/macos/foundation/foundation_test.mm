@@ -19,8 +19,8 @@ FoundationTest::FoundationTest() : pool_([[NSAutoreleasePool alloc] init]) {
 
 FoundationTest::~FoundationTest() {
   EXPECT_THAT(CurrentWorld().misuse, IsEmpty());
-  // The center waits for observers that do not run their loop, and everybody
-  // else with it.
+  // The center waits for an observer that does not run its event loop, and all
+  // other processes then wait too.
   if (_ZTKFunc != nullptr) {
     [[NSDistributedNotificationCenter defaultCenter]
         removeObserver:(id)_ZTKFunc];

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# The tests on Apple's Foundation. The program defines the functions of IOKit that
-# the double replaces, so that the library's sources in it call those.
+# The tests with Apple's Foundation. The program defines the functions of IOKit that the
+# test double replaces, so the library's sources in this program call the double.
 add_executable(macos_foundation_tests
   ${foundation_tests}
   main_macos.mm
@@ -11,8 +11,7 @@ add_executable(macos_foundation_tests
   ${PROJECT_SOURCE_DIR}/src/notify/observer.mm
   ${PROJECT_SOURCE_DIR}/tests/support/child.cpp
   ${PROJECT_SOURCE_DIR}/tests/support/temp_home.cpp)
-# The C++ library has std::filesystem from macOS 10.15 on; a Mac that builds this
-# has it.
+# The tests need std::filesystem, which macOS has since 10.15.
 target_compile_definitions(macos_foundation_tests PRIVATE
   _LIBCPP_DISABLE_AVAILABILITY)
 target_compile_options(macos_foundation_tests PRIVATE -fno-objc-arc)
@@ -21,7 +20,7 @@ target_include_directories(macos_foundation_tests PRIVATE
   ${PROJECT_SOURCE_DIR}/tools)
 target_link_libraries(macos_foundation_tests PRIVATE
   ztk_headers ztk_core ztk_platform_macos GTest::gmock GTest::gtest)
-# Cross-built, it is only compiled and linked.
+# In a cross-build, the program is only compiled and linked.
 if(NOT CMAKE_CROSSCOMPILING)
   gtest_discover_tests(macos_foundation_tests
     DISCOVERY_TIMEOUT 60 PROPERTIES LABELS macos TIMEOUT 120)

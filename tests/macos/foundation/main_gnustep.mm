@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Foundation looks at its surroundings when it is loaded, so they are made
-// first and the program runs once more inside them: a home, GNUstep's folders
-// below it, a notification center of its own, and a root that may be written.
+// Foundation reads its environment when it is loaded. So this program first
+// makes an environment and then starts itself again in it: a home with
+// GNUstep's folders, a private notification center, and a root that may be
+// written.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -39,7 +40,7 @@ void SetSurroundings(const TempHome &home) {
   WriteAll(config, "GNUSTEP_USER_DIR_LIBRARY=" + folder +
                        "/Library\nGNUSTEP_USER_DEFAULTS_DIR=" + folder +
                        "/Defaults\n");
-  // It insists that nobody else may write its configuration.
+  // GNUstep requires that only the owner may write its configuration.
   std::filesystem::permissions(config, std::filesystem::perms::owner_read |
                                            std::filesystem::perms::owner_write);
   setenv("GNUSTEP_CONFIG_FILE", config.c_str(), 1);
@@ -48,8 +49,7 @@ void SetSurroundings(const TempHome &home) {
   setenv(kInside, "1", 1);
 }
 
-// Ends with its parent, so that nothing is left behind by a test that is
-// killed.
+// The process ends when its parent ends, even if the test is killed.
 pid_t Start(const char *program, char *const *arguments) {
   const pid_t parent = getpid();
   const pid_t process = fork();
@@ -66,7 +66,8 @@ pid_t StartCenter() {
   return Start(ZTK_GDNC, arguments);
 }
 
-// The center is there once its name is ("GDNCServer", in GNUstep's writing).
+// Waits until the center is registered under its name: "GDNCServer", in the
+// encoding of GNUstep.
 bool CenterAnswers(const TempHome &home, pid_t center) {
   const auto name = home.path() / "NSMessagePort/names/R0ROQ1NlcnZlcg==";
   int status = 0;
@@ -103,7 +104,7 @@ bool OnlyLists(int count, char **arguments) {
   return false;
 }
 
-// Elsewhere it writes property lists in a form of its own.
+// By default GNUstep writes property lists in another form than XML.
 void WriteAsMacOSDoes() {
   @autoreleasepool {
     [[NSUserDefaults standardUserDefaults]

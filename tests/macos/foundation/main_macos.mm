@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Foundation looks for the user's home when it is loaded, so the program gives
-// itself a temporary one and runs once more inside it. The notification center
-// is that of the user who is logged in.
+// Foundation reads the user's home folder when it is loaded. So this program
+// makes a temporary home folder and starts itself again with it. The
+// notification center is that of the user who is logged in.
 #include <gtest/gtest.h>
 #include <mach-o/dyld.h>
 #include <sys/wait.h>

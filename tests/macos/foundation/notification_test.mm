@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The observer, and what reaches it from other processes.
+// Tests the observer, and the notifications that it receives from other
+// processes.
 #include <objc/runtime.h>
 
 #include <filesystem>
@@ -50,7 +51,7 @@ class MacObserver : public FoundationTest {
                       std::to_string(index));
   }
 
-  // Calls a method of the observer as a center does.
+  // Calls a method of the observer as the notification center does.
   static void Send(NSString *selector, NSDictionary *userInfo) {
     [(id)_ZTKFunc
         performSelector:NSSelectorFromString(selector)
@@ -82,18 +83,18 @@ TEST_F(MacObserver, HasOneMethodForEachFamily) {
             class_getInstanceSize([NSObject class]));
 }
 
-TEST_F(MacObserver, CallsTheFamilyOfTheMethod) {
+TEST_F(MacObserver, CallsTheCallbackOfTheFamily) {
   Send(@"inputAudioChanged:", Record(Number(10), Number(2), Number(5)));
   Send(@"outputAudioChanged:", Record(Number(10), Number(1), Number(0)));
   Send(@"boostLevelChanged:", Record(Number(10), Number(7), Number(3)));
   Send(@"midiChannelChanged:", Record(Number(1), Number(7), Number(15)));
-  // Of a model for which the MIDI channel has a callback.
+  // The MIDI channel has a callback for this model.
   Send(@"midiKeyModeChanged:", Record(Number(1), Number(7), Number(1)));
   EXPECT_THAT(Taken(),
               ElementsAre("input 2 5", "output 1 0", "boost 3", "midi 15"));
 }
 
-TEST_F(MacObserver, IgnoresProductsThatThereAreNot) {
+TEST_F(MacObserver, IgnoresUnknownProducts) {
   for (const int product : {-1, 11, 0x7FFFFFFF, -2147483647 - 1, 8}) {
     Send(@"inputAudioChanged:", Record(Number(product), Number(2), Number(5)));
     Send(@"boostLevelChanged:", Record(Number(product), Number(2), Number(5)));
@@ -101,22 +102,22 @@ TEST_F(MacObserver, IgnoresProductsThatThereAreNot) {
   EXPECT_THAT(Taken(), IsEmpty());
 }
 
-TEST_F(MacObserver, TakesWhateverHasANumber) {
+TEST_F(MacObserver, AcceptsEveryValueWithAnIntValue) {
   Send(@"inputAudioChanged:",
        Record(@"10", @"2", [NSNumber numberWithDouble:5.9]));
   EXPECT_THAT(Taken(), ElementsAre("input 2 5"));
 }
 
-TEST_F(MacObserver, ReadsZeroOfWhatHasNone) {
+TEST_F(MacObserver, ReadsZeroFromOtherValues) {
   Send(@"inputAudioChanged:", Record(Number(10), @[], @{}));
   Send(@"boostLevelChanged:", @{@"ProductID" : Number(10)});
-  // The product is 0 then, which nobody registered for.
+  // The product is then 0, for which no callback is registered.
   Send(@"boostLevelChanged:", @{});
   Send(@"boostLevelChanged:", nil);
   EXPECT_THAT(Taken(), ElementsAre("input 0 0", "boost 0"));
 }
 
-TEST_F(MacObserver, SkipsACallbackThatIsNull) {
+TEST_F(MacObserver, SkipsANullCallback) {
   @autoreleasepool {
     EXPECT_EQ(ZTK_RegisterBoostLevelChangedCallback(10, nullptr, nullptr),
               100u);
@@ -125,17 +126,18 @@ TEST_F(MacObserver, SkipsACallbackThatIsNull) {
   EXPECT_THAT(Taken(), IsEmpty());
 }
 
-// The center keeps no order between notifications of different names.
+// The center may deliver notifications with different names in any order.
 class MacProcesses : public FoundationTest {
  protected:
-  // A listener whose registrations the center has.
+  // Returns a client whose registrations have arrived at the center.
   static std::unique_ptr<Client> Listener(Lines words) {
     words.insert(words.begin(), "listen");
     auto listener = std::make_unique<Client>(words);
     EXPECT_EQ(listener->ReadLine(), "ready");
     return listener;
   }
-  // A poster, which lives on so that the center gets all of it.
+  // Starts a client that posts. It keeps running so that the center receives
+  // all notifications.
   static std::unique_ptr<Client> Poster(Lines words) {
     words.insert(words.begin(), "set");
     auto poster = std::make_unique<Client>(words);
@@ -149,7 +151,7 @@ class MacProcesses : public FoundationTest {
   }
 };
 
-TEST_F(MacProcesses, HearOfAChangeInAnother) {
+TEST_F(MacProcesses, ReceiveAChangeOfAnotherProcess) {
   const auto listener = Listener({"input"});
   const auto poster = Poster({"input:2:5"});
   EXPECT_EQ(listener->ReadLine(), "input 2 5");
@@ -157,29 +159,29 @@ TEST_F(MacProcesses, HearOfAChangeInAnother) {
   EXPECT_EQ(listener->Finish(), 0);
 }
 
-// Deliberate: the change of an output is announced under another model than is
-// listened to.
-TEST_F(MacProcesses, HearOfEveryFamilyButOutputAudio) {
+// Deliberate: changes of the output audio are announced with the name of
+// another model than the observed one.
+TEST_F(MacProcesses, ReceiveChangesOfEveryFamilyExceptOutputAudio) {
   const auto listener = Listener({"input", "output", "boost", "midi"});
   const auto poster = Poster({"output:1:2", "input:0:1", "boost:3", "midi:15"});
   EXPECT_THAT(Read(*listener, 3),
               UnorderedElementsAre("input 0 1", "boost 3", "midi 15"));
 }
 
-TEST_F(MacProcesses, HearAsOftenAsTheyRegistered) {
+TEST_F(MacProcesses, ReceiveAChangeOnceForEachRegistration) {
   const auto listener = Listener({"input", "input", "boost"});
   const auto poster = Poster({"input:2:5", "boost:1"});
   EXPECT_THAT(Read(*listener, 3),
               UnorderedElementsAre("input 2 5", "input 2 5", "boost 1"));
 }
 
-TEST_F(MacProcesses, HearNothingAfterTheyUnregistered) {
+TEST_F(MacProcesses, ReceiveNothingAfterUnregistering) {
   const auto listener = Listener({"input", "input", "-input", "boost"});
   const auto poster = Poster({"input:2:5", "boost:1"});
   EXPECT_EQ(listener->ReadLine(), "boost 1");
 }
 
-TEST_F(MacProcesses, HearEachAndAllOfThem) {
+TEST_F(MacProcesses, AllReceiveAChange) {
   const auto first = Listener({"boost"});
   const auto second = Listener({"midi", "boost"});
   const auto poster = Poster({"boost:2", "midi:7"});
@@ -187,7 +189,7 @@ TEST_F(MacProcesses, HearEachAndAllOfThem) {
   EXPECT_THAT(Read(*second, 2), UnorderedElementsAre("boost 2", "midi 7"));
 }
 
-TEST_F(MacProcesses, HearOfAChangeThatWasNotStored) {
+TEST_F(MacProcesses, ReceiveAChangeThatWasNotStored) {
   const auto listener = Listener({"boost"});
   std::filesystem::remove_all(Preferences());
   const auto poster = Poster({"boost:0"});

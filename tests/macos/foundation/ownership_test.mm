@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Who holds the record of a family's last post, and the observer itself.
+// Tests the references to the record of a family's last post and to the
+// observer.
 #include <vector>
 
 #include "foundation_test.h"
@@ -16,7 +17,7 @@ class MacOwnership : public FoundationTest {
   MacOwnership() { boostLevelInfo = nullptr; }
   ~MacOwnership() override { boostLevelInfo = nullptr; }
 
-  // Posts, and has whatever the center needed for that go.
+  // Posts, and releases the objects that the center needed for it.
   static NSDictionary *Post(std::uint32_t index) {
     @autoreleasepool {
       EXPECT_EQ(ZTK_SetBoostLevelIndex(10, index), 100u);
@@ -25,7 +26,7 @@ class MacOwnership : public FoundationTest {
   }
 };
 
-TEST_F(MacOwnership, OfARecordIsTheFamilysAlone) {
+TEST_F(MacOwnership, OfARecordBelongsOnlyToTheFamily) {
   NSDictionary *record = Post(2);
   ASSERT_NE(record, nil);
   EXPECT_EQ([record retainCount], 1u);
@@ -44,8 +45,9 @@ TEST_F(MacOwnership, OfARecordEndsWithTheNextPost) {
   [first release];
 }
 
-// Deliberate: Register forgets the record without giving it back.
-TEST_F(MacOwnership, OfARecordIsForgottenByRegister) {
+// Deliberate: a registration clears the pointer to the record without releasing
+// the record.
+TEST_F(MacOwnership, OfARecordIsLostInARegistration) {
   NSDictionary *record = [Post(1) retain];
   EXPECT_EQ([record retainCount], 2u);
   @autoreleasepool {
@@ -58,7 +60,7 @@ TEST_F(MacOwnership, OfARecordIsForgottenByRegister) {
   [record release];
 }
 
-TEST_F(MacOwnership, OfARecordIsAFamilysOwn) {
+TEST_F(MacOwnership, OfARecordIsSeparateForEachFamily) {
   NSDictionary *boost = Post(1);
   @autoreleasepool {
     ZTK_SetUSBInputAudio(10, 2, 5);
@@ -72,7 +74,7 @@ TEST_F(MacOwnership, OfARecordIsAFamilysOwn) {
   EXPECT_EQ(midiKeyModeInfo, nullptr);
 }
 
-TEST_F(MacOwnership, OfTheObserverIsTheProcesss) {
+TEST_F(MacOwnership, OfTheObserverBelongsToTheProcess) {
   @autoreleasepool {
     ZTK_RegisterBoostLevelChangedCallback(10, Ignore, nullptr);
   }
@@ -86,7 +88,7 @@ TEST_F(MacOwnership, OfTheObserverIsTheProcesss) {
   EXPECT_EQ([observer retainCount], 1u);
 }
 
-TEST_F(MacOwnership, OfTheObserverIsNotTakenByARefusal) {
+TEST_F(MacOwnership, OfTheObserverDoesNotChangeInARefusedCall) {
   void *before = _ZTKFunc;
   _ZTKFunc = nullptr;
   EXPECT_EQ(ZTK_RegisterBoostLevelChangedCallback(8, Ignore, nullptr), 102u);

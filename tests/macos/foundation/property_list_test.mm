@@ -17,7 +17,8 @@ namespace plist = platform::property_list;
 
 class MacPropertyList : public FoundationTest {
  protected:
-  // A dictionary read from a file with these entries, given back at the end.
+  // Reads a dictionary from a file with these entries. It is released after the
+  // test.
   plist::Dictionary *Reading(const std::string &entries) {
     WriteAll(File(), PropertyList(entries));
     read_ = plist::ReadFile(TextOf(File()));
@@ -31,7 +32,7 @@ class MacPropertyList : public FoundationTest {
   plist::Dictionary *read_ = nullptr;
 };
 
-TEST_F(MacPropertyList, IsNotReadFromWhatIsNone) {
+TEST_F(MacPropertyList, IsNotReadFromOtherFiles) {
   EXPECT_EQ(plist::ReadFile(TextOf(File())), nullptr);
   EXPECT_EQ(plist::ReadFile(nullptr), nullptr);
   WriteAll(File(), "");
@@ -46,7 +47,7 @@ TEST_F(MacPropertyList, IsNotReadFromWhatIsNone) {
   EXPECT_EQ(plist::ReadFile(TextOf(File())), nullptr);
 }
 
-TEST_F(MacPropertyList, GivesIntegersOfWhateverHasANumber) {
+TEST_F(MacPropertyList, ReturnsIntegersOfEveryValueWithAnIntValue) {
   const plist::Dictionary *list = Reading(
       "<key>integer</key><integer>-7</integer><key>real</key><real>3.9</real>"
       "<key>true</key><true/><key>false</key><false/>"
@@ -64,7 +65,7 @@ TEST_F(MacPropertyList, GivesIntegersOfWhateverHasANumber) {
   }
 }
 
-TEST_F(MacPropertyList, ReadsTextsByTheTableOfBothPorts) {
+TEST_F(MacPropertyList, ReadsTextsAsInTheTableForBothPorts) {
   NSMutableDictionary *list = [NSMutableDictionary dictionary];
   for (const NumberRow &row : kNumberRows) {
     if (kOnGNUstep && row.onAppleOnly) continue;
@@ -77,7 +78,7 @@ TEST_F(MacPropertyList, ReadsTextsByTheTableOfBothPorts) {
   }
 }
 
-TEST_F(MacPropertyList, ReadsEntriesByTheTableOfBothPorts) {
+TEST_F(MacPropertyList, ReadsEntriesAsInTheTableForBothPorts) {
   if (kOnGNUstep) GTEST_SKIP() << "GNUstep reads numbers by other rules";
   for (const EntryRow &row : kEntryRows) {
     if (row.onIntel && !kIsIntel) continue;
@@ -91,7 +92,7 @@ TEST_F(MacPropertyList, ReadsEntriesByTheTableOfBothPorts) {
   }
 }
 
-TEST_F(MacPropertyList, ReadsTheFormsOfTheTable) {
+TEST_F(MacPropertyList, ReadsTheFormsAsInTheTable) {
   if (kOnGNUstep) GTEST_SKIP() << "GNUstep reads other forms";
   for (const FormRow &row : FormRows()) {
     SCOPED_TRACE(row.name);
@@ -105,7 +106,7 @@ TEST_F(MacPropertyList, ReadsTheFormsOfTheTable) {
   }
 }
 
-TEST_F(MacPropertyList, GivesNoIntegerOfWhatHasNone) {
+TEST_F(MacPropertyList, ReturnsNoIntegerOfOtherValues) {
   const plist::Dictionary *list = Reading(
       "<key>array</key><array><integer>1</integer></array>"
       "<key>dictionary</key><dict><key>a</key><integer>1</integer></dict>"
@@ -121,7 +122,7 @@ TEST_F(MacPropertyList, GivesNoIntegerOfWhatHasNone) {
   EXPECT_FALSE(plist::IntegerValue(list, nullptr, &value));
 }
 
-TEST_F(MacPropertyList, GivesTextsOnly) {
+TEST_F(MacPropertyList, ReturnsOnlyTexts) {
   const plist::Dictionary *list = Reading(
       "<key>text</key><string>1.2.3</string><key>empty</key><string></string>"
       "<key>number</key><integer>5</integer>"
@@ -134,8 +135,8 @@ TEST_F(MacPropertyList, GivesTextsOnly) {
   EXPECT_EQ(plist::TextValue(list, nullptr), nullptr);
 }
 
-// The dictionary lives in the pool for as long as the pool does.
-TEST_F(MacPropertyList, KeepsItsTextsAfterItsRelease) {
+// The autorelease pool has a reference to the dictionary.
+TEST_F(MacPropertyList, HasValidTextsAfterItsRelease) {
   WriteAll(File(), PropertyList("<key>a</key><string>a text</string>"));
   plist::Dictionary *list = plist::ReadFile(TextOf(File()));
   const ZTKTextRef text = plist::TextValue(list, ZTK_TEXT("a"));
@@ -146,7 +147,7 @@ TEST_F(MacPropertyList, KeepsItsTextsAfterItsRelease) {
   EXPECT_EQ(StringOf(text), "a text");
 }
 
-TEST_F(MacPropertyList, ThatIsMadeBelongsToTheCallerAlone) {
+TEST_F(MacPropertyList, ThatIsMadeBelongsOnlyToTheCaller) {
   plist::Dictionary *list = nullptr;
   @autoreleasepool {
     list = plist::MakeDictionary();
@@ -181,10 +182,12 @@ TEST_F(MacPropertyList, IsMergedWithAFile) {
   EXPECT_EQ(ReadAll(File()).substr(0, 5), "<?xml");
 }
 
-// What another process does between reading and writing, without the lock.
+// Another process without the lock changes the file between reading and
+// writing.
 class MacChangedMeanwhile : public MacPropertyList {
  protected:
-  // How writing ends when this happens to the file after it has been read.
+  // Reads the file, changes it with the function, and returns the result of
+  // writing.
   static int ErrorAfter(void (*happens)()) {
     plist::Dictionary *list = plist::MakeDictionary();
     plist::AddEntriesOfFile(list, TextOf(File()));
@@ -215,14 +218,14 @@ TEST_F(MacChangedMeanwhile, IsNotReplaced) {
   EXPECT_FALSE(std::filesystem::exists(File()));
 }
 
-TEST_F(MacChangedMeanwhile, IsNotKeptAsideWhenItWasDamaged) {
+TEST_F(MacChangedMeanwhile, IsNotKeptIfItWasDamagedBefore) {
   WriteAll(File(), "not a property list <");
   EXPECT_EQ(ErrorAfter(Replace), ESTALE);
   EXPECT_EQ(ReadAll(File()), Other());
   EXPECT_FALSE(std::filesystem::exists(File() + ".unreadable-1"));
 }
 
-TEST_F(MacPropertyList, LosesOnlyTheEntryThatIsRemoved) {
+TEST_F(MacPropertyList, KeepsTheOtherEntriesAfterARemoval) {
   plist::Dictionary *list = plist::MakeDictionary();
   plist::SetInteger(list, ZTK_TEXT("a"), 1);
   plist::SetInteger(list, ZTK_TEXT("b"), 2);
@@ -235,7 +238,7 @@ TEST_F(MacPropertyList, LosesOnlyTheEntryThatIsRemoved) {
   plist::Release(list);
 }
 
-TEST_F(MacPropertyList, IsNotWrittenWhereThereIsNoFolder) {
+TEST_F(MacPropertyList, IsNotWrittenWithoutAFolder) {
   plist::Dictionary *list = plist::MakeDictionary();
   plist::SetInteger(list, ZTK_TEXT("a"), 1);
   EXPECT_FALSE(plist::WriteAtomically(

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The settings files, by way of the functions that keep them.
+// Tests the settings files with the setters and getters.
 #include <filesystem>
 #include <map>
 
@@ -14,7 +14,8 @@ namespace fs = std::filesystem;
 
 class MacSettings : public FoundationTest {
  protected:
-  // What a model's file holds, each value as Foundation describes it.
+  // Returns the entries of a model's file, each value as Foundation describes
+  // it.
   static std::map<std::string, std::string> Held(const std::string &model) {
     std::map<std::string, std::string> held;
     NSDictionary *file = [NSDictionary
@@ -35,7 +36,7 @@ class MacSettings : public FoundationTest {
 
 using Values = std::map<std::string, std::string>;
 
-TEST_F(MacSettings, AreTheDefaultsWithoutAFileAndMakeNone) {
+TEST_F(MacSettings, AreTheDefaultsWithoutAFileAndNoFileIsMade) {
   std::uint32_t value = 99;
   EXPECT_EQ(ZTK_GetCurrentBoostLevelIndex(10, &value), 100u);
   EXPECT_EQ(value, 3u);
@@ -48,7 +49,7 @@ TEST_F(MacSettings, AreTheDefaultsWithoutAFileAndMakeNone) {
   EXPECT_TRUE(NothingIsWritten());
 }
 
-TEST_F(MacSettings, AreMergedIntoTheFileAndLeaveUnknownKeysAlone) {
+TEST_F(MacSettings, AreMergedIntoTheFileWithUnknownKeys) {
   Put("VRM-D6", "<key>MaxLevel</key><integer>2</integer>"
                 "<key>Foo</key><string>bar</string>");
   CurrentWorld().bus = {iokit::Mixer()};
@@ -61,7 +62,7 @@ TEST_F(MacSettings, AreMergedIntoTheFileAndLeaveUnknownKeysAlone) {
             (Values{{"Foo", "bar"}, {"MaxLevel", "0"}, {"Output0", "3"}}));
 }
 
-TEST_F(MacSettings, OfAnyKindThatHasANumberAreRead) {
+TEST_F(MacSettings, OfEveryKindWithAnIntValueAreRead) {
   Put("VRM-D6", "<key>Output0</key><string>5</string>"
                 "<key>Output1</key><real>2.9</real>"
                 "<key>Output2</key><true/>"
@@ -75,7 +76,7 @@ TEST_F(MacSettings, OfAnyKindThatHasANumberAreRead) {
   }
 }
 
-TEST_F(MacSettings, OfEachModelHaveTheirOwnFile) {
+TEST_F(MacSettings, OfEachModelAreInASeparateFile) {
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   EXPECT_EQ(ZTK_SetUSBOutputAudio(8, 4, 2), 100u);
   EXPECT_EQ(ZTK_SetMidiChannelIndex(1, 15), 100u);
@@ -84,7 +85,7 @@ TEST_F(MacSettings, OfEachModelHaveTheirOwnFile) {
   EXPECT_EQ(Held("VRM-K2"), (Values{{"MidiChannel", "15"}}));
 }
 
-TEST_F(MacSettings, ReplaceADamagedFileAndKeepItBeside) {
+TEST_F(MacSettings, ReplaceADamagedFileAndKeepIt) {
   WriteAll(SettingsFile("VRM-D6"), "not a property list <");
   std::uint32_t value = 99;
   EXPECT_EQ(ZTK_GetCurrentBoostLevelIndex(10, &value), 100u);
@@ -95,20 +96,20 @@ TEST_F(MacSettings, ReplaceADamagedFileAndKeepItBeside) {
             "not a property list <");
 }
 
-TEST_F(MacSettings, AreForgottenSilentlyWithoutAFolder) {
+TEST_F(MacSettings, AreNotStoredWithoutAFolder) {
   fs::remove_all(Preferences());
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 1), 100u);
   EXPECT_FALSE(fs::exists(Preferences()));
 }
 
-TEST_F(MacSettings, ThatAreRefusedTouchNothing) {
+TEST_F(MacSettings, ThatAreRefusedChangeNothing) {
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 4), 102u);
   EXPECT_EQ(ZTK_SetBoostLevelIndex(8, 1), 102u);
   EXPECT_TRUE(NothingIsWritten());
   EXPECT_THAT(CurrentWorld().calls, IsEmpty());
 }
 
-TEST_F(MacSettings, GoToEveryMixerAndAreSentAgain) {
+TEST_F(MacSettings, AreSentToEveryMixerAndSentAgain) {
   CurrentWorld().bus = {iokit::Mixer(), iokit::Hub(), iokit::Mixer()};
   EXPECT_EQ(ZTK_SetBoostLevelIndex(10, 0), 100u);
   EXPECT_EQ(ZTK_SetCurrentBoostLevelIndex(10), 100u);
@@ -119,12 +120,12 @@ TEST_F(MacSettings, GoToEveryMixerAndAreSentAgain) {
                           "mixer 2: 40 03 0300 8003 0000"));
 }
 
-TEST_F(MacSettings, OfAnInputWarnWithoutAMixer) {
+TEST_F(MacSettings, OfAnInputReturnAWarningWithoutAMixer) {
   EXPECT_EQ(ZTK_SetUSBInputAudio(10, 1, 2), 101u);
   EXPECT_EQ(Held("VRM-D6"), (Values{{"Output1", "2"}}));
 }
 
-TEST_F(MacSettings, AreAskedForByTheModelsName) {
+TEST_F(MacSettings, BelongToTheModelWhoseNameIsFound) {
   std::uint32_t product = 99;
   EXPECT_EQ(ZTK_GetProductId(TextOf("the vrm-d6 mixer"), &product), 100u);
   EXPECT_EQ(product, 10u);

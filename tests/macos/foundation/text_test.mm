@@ -18,13 +18,13 @@ class MacText : public FoundationTest {
   }
 };
 
-TEST_F(MacText, GoesToUpperCase) {
+TEST_F(MacText, IsConvertedToUpperCase) {
   EXPECT_EQ(Taken(text::UpperCase(TextOf("vrm-d6 Mixer"))), "VRM-D6 MIXER");
   EXPECT_EQ(Taken(text::UpperCase(TextOf(""))), "");
   EXPECT_EQ(text::UpperCase(nullptr), nullptr);
 }
 
-TEST_F(MacText, ContainsAnotherAnywhere) {
+TEST_F(MacText, MayContainAnotherTextAnywhere) {
   EXPECT_TRUE(text::Contains(TextOf("MY VRM-D6 MIXER"), ZTK_TEXT("VRM-D6")));
   EXPECT_TRUE(text::Contains(TextOf("VRM-D6"), ZTK_TEXT("VRM-D6")));
   EXPECT_FALSE(text::Contains(TextOf("VRM-D"), ZTK_TEXT("VRM-D6")));
@@ -33,7 +33,7 @@ TEST_F(MacText, ContainsAnotherAnywhere) {
   EXPECT_FALSE(text::Contains(TextOf("VRM-D6"), nullptr));
 }
 
-TEST_F(MacText, IsFilledIntoAFormat) {
+TEST_F(MacText, IsInsertedIntoAFormat) {
   EXPECT_EQ(
       Taken(text::Format(ZTK_TEXT("%@ InputAudio Change"), ZTK_TEXT("VRM-D6"))),
       "VRM-D6 InputAudio Change");
@@ -45,7 +45,7 @@ TEST_F(MacText, IsFilledIntoAFormat) {
   EXPECT_EQ(Taken(text::Format(ZTK_TEXT("Output%d"), -1)), "Output-1");
 }
 
-TEST_F(MacText, ThatIsMissingMakesNoFormat) {
+TEST_F(MacText, ThatIsNullMakesAFormatNull) {
   EXPECT_EQ(text::Format(nullptr, ZTK_TEXT("a")), nullptr);
   EXPECT_EQ(text::Format(ZTK_TEXT("%@"), nullptr), nullptr);
   EXPECT_EQ(text::Format(ZTK_TEXT("%@%@"), ZTK_TEXT("a"), nullptr), nullptr);
@@ -64,7 +64,7 @@ TEST_F(MacText, IsSplitAtEveryDot) {
   EXPECT_EQ(text::DotComponent(nullptr, 0), nullptr);
 }
 
-TEST_F(MacText, IsComparedByItsNumbers) {
+TEST_F(MacText, IsComparedByNumbers) {
   const struct {
     const char *first;
     const char *second;
@@ -81,8 +81,9 @@ TEST_F(MacText, IsComparedByItsNumbers) {
   EXPECT_EQ(text::CompareNumerically(nullptr, nullptr), 0);
 }
 
-// A constant text is not counted; one that was made is, and is the caller's.
-TEST_F(MacText, ThatIsMadeBelongsToTheCallerAlone) {
+// A constant text has no reference count. A made text has one reference, which
+// the caller owns.
+TEST_F(MacText, ThatIsMadeBelongsOnlyToTheCaller) {
   ZTKTextRef made = nullptr;
   @autoreleasepool {
     made = text::Format(ZTK_TEXT("a text that is %@"), ZTK_TEXT("long enough"));
@@ -97,7 +98,7 @@ TEST_F(MacText, ThatIsMadeBelongsToTheCallerAlone) {
   text::Release(nullptr);
 }
 
-TEST_F(MacText, OfTheLibraryFolderIsTheUsers) {
+TEST_F(MacText, OfTheLibraryFolderIsThatOfTheUser) {
   EXPECT_EQ(Taken(platform::paths::UserLibrary()),
             std::string(std::getenv("HOME")) + "/Library");
 }

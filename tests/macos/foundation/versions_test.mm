@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The versions of what is installed, and where that is.
+// Tests the versions of the installed components, and from which files they are
+// read.
 #include "foundation_test.h"
 #include "support/temp_home.h"
 
@@ -18,7 +19,8 @@ class MacVersions : public TemporaryRootTest {
   static void PutSystem(const std::string &version) {
     WriteAll(kSystem, PropertyList(Text("ProductVersion", version)));
   }
-  // The driver and the library in both places, each telling where it is.
+  // Makes the driver and the library in both folders. The version of each file
+  // is the folder.
   static void PutEverywhere() {
     for (const std::string place : {"/Library", "/System/Library"}) {
       WriteAll(place + "/Extensions/VRM-D6 USBAudio.kext/Contents/Info.plist",
@@ -39,7 +41,7 @@ class MacVersions : public TemporaryRootTest {
   }
 };
 
-TEST_F(MacVersions, AreReadWhereTheSystemsSecondNumberSays) {
+TEST_F(MacVersions, AreReadFromTheFolderForTheSystemVersion) {
   PutEverywhere();
   const struct {
     const char *system;
@@ -60,7 +62,7 @@ TEST_F(MacVersions, AreReadWhereTheSystemsSecondNumberSays) {
   }
 }
 
-TEST_F(MacVersions, AreReadInTheOlderPlaceOnAnUnknownSystem) {
+TEST_F(MacVersions, AreReadFromTheOlderFolderOnAnUnknownSystem) {
   PutEverywhere();
   EXPECT_EQ(Version(ZTK_GetDriverVersionText), "100 driver of /System/Library");
   WriteAll(kSystem,
@@ -68,14 +70,14 @@ TEST_F(MacVersions, AreReadInTheOlderPlaceOnAnUnknownSystem) {
   EXPECT_EQ(Version(ZTK_GetDriverVersionText), "100 driver of /System/Library");
 }
 
-TEST_F(MacVersions, AreNotLookedForInTheOtherPlace) {
+TEST_F(MacVersions, AreNotReadFromTheOtherFolder) {
   PutSystem("10.9.5");
   WriteAll("/Library/Extensions/VRM-D6 USBAudio.kext/Contents/Info.plist",
            PropertyList(Text("CFBundleShortVersionString", "1")));
   EXPECT_EQ(Version(ZTK_GetDriverVersionText), "102 untouched");
 }
 
-TEST_F(MacVersions, OfPackageAndUtilityHaveOnePlace) {
+TEST_F(MacVersions, OfPackageAndUtilityHaveOneFile) {
   const std::string receipt =
       "/private/var/db/receipts/com.tarvix.VRM-D6.pkg.plist";
   EXPECT_EQ(Version(ZTK_GetPkgVersionText), "102 untouched");

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// CoreFoundation's functions on GNUstep's Foundation, where the objects are the
-// same ones, and what of the object registry and of dispatch the programs use.
+// The functions of CoreFoundation, made with GNUstep's Foundation, whose
+// objects they use. Also the functions of the IOKit registry and of dispatch
+// that the programs use.
 #import <Foundation/Foundation.h>
 
 #include <IOKit/IOKitLib.h>
@@ -15,9 +16,9 @@
 
 namespace {
 
-volatile sig_atomic_t theSignals;  // a bit for each that came
+volatile sig_atomic_t theSignals;  // a bit for each signal that arrived
 bool theLoopEnds;
-// By the number of the signal; the first one is the timer.
+// The index is the number of the signal. Index 0 is the timer.
 struct {
   void (*handler)(void *);
   void *context;
@@ -31,7 +32,8 @@ void OnSignal(int number) {
   theSignals = theSignals | static_cast<int>(1U << number);
 }
 
-// Runs what the timer and signals asked for. True when the loop is to end.
+// Runs the handlers of the timer and of the signals. Returns true if the loop
+// has to end.
 bool RunSources() {
   if (theSources[0].handler != nullptr && Now() >= theTimerIsDue) {
     theTimerIsDue += theTimerPeriod;
@@ -117,7 +119,7 @@ CFUUIDRef CFUUIDGetConstantUUIDWithBytes(
   const CFUUIDBytes bytes{byte0,  byte1,  byte2,  byte3, byte4,  byte5,
                           byte6,  byte7,  byte8,  byte9, byte10, byte11,
                           byte12, byte13, byte14, byte15};
-  // One object for one name, wherever it is asked for.
+  // Equal identifiers are the same object.
   for (const CFUUIDBytes &known : constants) {
     if (ztk::iokit::SameUuid(known, bytes)) {
       return reinterpret_cast<CFUUIDRef>(&known);
@@ -162,7 +164,7 @@ void dispatch_resume(void *source) {
 void dispatch_source_cancel(void *source) {
   *static_cast<decltype(&theSources[0])>(source) = {};
 }
-// Only times from now on are asked for.
+// The programs only use times relative to now.
 std::uint64_t dispatch_time(std::uint64_t /*when*/, std::int64_t nanoseconds) {
   return static_cast<std::uint64_t>(nanoseconds);
 }

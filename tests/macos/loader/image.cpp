@@ -86,7 +86,7 @@ void ReadCommands(Image *image) {
   }
 }
 
-// The first segment of a program is only there to keep address 0 free.
+// The first segment of a program only reserves the addresses from 0.
 bool IsMapped(const Segment &segment) { return segment.protection != 0; }
 
 void Map(Image *image) {
@@ -113,7 +113,8 @@ void Map(Image *image) {
   }
 }
 
-// Reads the opcodes that name places in memory and what belongs there.
+// Reads the opcodes that describe which addresses have to be changed, and to
+// what.
 class Opcodes {
  public:
   Opcodes(const Image &image, std::uint32_t offset, std::uint32_t size)
@@ -139,7 +140,8 @@ class Opcodes {
     }
   }
 
-  // The opcode 0 ends the list, except that of lazy bindings, which it divides.
+  // Opcode 0 ends the list. In the list of lazy bindings it only separates
+  // entries.
   void Bind(bool weak, bool lazy) {
     while (at_ < end_) {
       const std::uint8_t low = Next();
@@ -151,8 +153,8 @@ class Opcodes {
           Number();
           break;
         case 0x40:
-          // A definition that is not weak: what it overrides is named by
-          // others.
+          // This entry is a definition that is not weak. The references to it
+          // are in other entries.
           skip_ = weak && (low & 0x8) != 0;
           name_ = reinterpret_cast<const char *>(at_);
           at_ += name_.size() + 1;
@@ -256,7 +258,7 @@ void Protect(const Image &image) {
   }
 }
 
-// As dyld does, in the folder that the environment names first.
+// Searches a library as dyld does, first in the folder from the environment.
 std::string PlaceOf(const std::string &library) {
   const char *folder = std::getenv("DYLD_FRAMEWORK_PATH");
   const std::size_t name = library.find(".framework/");
@@ -283,7 +285,8 @@ void Read(const std::string &path) {
   }
 }
 
-// A piece of code for each missing function: it tells the name and ends.
+// Makes code for a missing function. The code prints the name and ends the
+// process.
 [[noreturn]] void Missing(const char *name) {
   Fail(std::string(name) + " was called, which the loader does not have");
 }
@@ -328,8 +331,9 @@ void *Resolve(const std::string &name) {
   const auto found = known.find(name);
   if (found != known.end()) return found->second;
   void *address = nullptr;
-  // Types are compared by the address of their description. dyld makes one of
-  // all copies; here that of the C++ library is taken, which cannot be changed.
+  // Types are compared by the address of their type_info. dyld uses one of all
+  // copies. This loader uses the copy of the C++ library, which cannot be
+  // changed.
   if (name.starts_with("__ZTI"))
     address = dlsym(RTLD_DEFAULT, name.c_str() + 1);
   for (const Image *image : theImages) {
@@ -341,7 +345,8 @@ void *Resolve(const std::string &name) {
   }
   if (address == nullptr) address = ClassNamed(name);
   if (address == nullptr) {
-    // A C name has an underscore before it, and may tell a variant behind "$".
+    // The symbol of a C name starts with an underscore. A variant may follow
+    // after "$".
     const std::string plain = name.substr(1, name.find('$') - 1);
     address = dlsym(RTLD_DEFAULT, ("darwin_" + plain).c_str());
     if (address == nullptr) address = dlsym(RTLD_DEFAULT, plain.c_str());

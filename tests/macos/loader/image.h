@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A program or library of macOS in the memory of this process.
+// A program or library for macOS in the memory of this process.
 #ifndef ZTK_TESTS_MACOS_LOADER_IMAGE_H_
 #define ZTK_TESTS_MACOS_LOADER_IMAGE_H_
 
@@ -19,7 +19,7 @@ namespace ztk::loader {
 struct Image {
   std::string path;
   std::vector<char> file;
-  std::uint8_t *base = nullptr;  // where its header lies
+  std::uint8_t *base = nullptr;  // the address of its header
   std::intptr_t slide = 0;
   std::vector<Segment> segments;
   std::vector<Section> sections;
@@ -28,7 +28,7 @@ struct Image {
   Fixups fixups{};
   std::uint64_t mainOffset = 0;
 
-  // The section's memory as a row of T; empty when there is none.
+  // Returns the memory of the section as an array of T; empty if there is none.
   template <typename T>
   std::span<T> Row(const std::string &name) const {
     for (const Section &section : sections) {
@@ -42,16 +42,17 @@ struct Image {
   }
 };
 
-// Maps the program and what it links that is no part of macOS. Ends the
-// process with a message for what cannot be loaded.
+// Maps the program and the libraries that it links, except those of macOS. If
+// one cannot be loaded, ends the process with a message.
 std::vector<Image *> Load(const std::string &path);
 
-// The address that a name of macOS stands for in this process: a definition of
-// an image, a function of this loader ("darwin_" before it), or the function of
-// the same name of this system. What is missing is named when it is called.
+// Returns the address of a symbol: a definition in an image, a function of this
+// loader (with the prefix "darwin_"), or the function of this system with the
+// same name. If there is none, returns the address of code that prints the
+// name.
 void *Resolve(const std::string &name);
 
-// The parts of loading that know another format.
+// The parts of loading for other formats.
 void RegisterUnwindInfo(const Image &image);
 void RegisterObjectiveC(const Image &image);
 void PrepareFoundation();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What of the Mach-O format the loader reads: 64-bit images for x86_64 whose
-// addresses are fixed up by dyld's opcodes.
+// The part of the Mach-O format that the loader reads: 64-bit images for x86_64
+// with dyld's opcodes.
 #ifndef ZTK_TESTS_MACOS_LOADER_MACH_O_H_
 #define ZTK_TESTS_MACOS_LOADER_MACH_O_H_
 
@@ -42,7 +42,7 @@ struct Section {
   std::uint32_t flags, reserved[3];
 };
 
-// The low byte of a section's flags.
+// The type of a section is the low byte of its flags.
 inline constexpr std::uint32_t kThreadData = 0x11;
 inline constexpr std::uint32_t kThreadZero = 0x12;
 inline constexpr std::uint32_t kThreadVariables = 0x13;

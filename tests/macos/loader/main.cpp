@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 //
-// macho-run PROGRAM [ARGUMENT...]: runs a program of macOS for x86_64. What
-// that proves and what it does not, tells README.md.
+// macho-run PROGRAM [ARGUMENT...]: runs a program for macOS on x86_64.
+// README.md describes what this proves and what it does not prove.
 #include <cstdlib>
 
 #include "image.h"
 #include "iokit_double.h"
 
-// What a program asks for by _NSGetArgv().
+// The arguments that a program gets from _NSGetArgv().
 extern "C" char **darwin_words;
 
 int main(int count, char **arguments, char **environment) {
   using namespace ztk::loader;
-  if (count < 2) Fail("name a program of macOS, and what it is given");
+  if (count < 2) Fail("give a program for macOS and its arguments");
   PrepareFoundation();
-  // The bus of a program that does not describe one.
+  // The default USB bus.
   const char *mixers = std::getenv("MACHO_RUN_MIXERS");
   if (mixers != nullptr) {
     ztk::iokit::CurrentWorld().bus.assign(
@@ -25,7 +25,7 @@ int main(int count, char **arguments, char **environment) {
   --count;
   darwin_words = arguments;
   using Code = void (*)(int, char **, char **, void *);
-  // A library is ready before who uses it.
+  // A library is initialised before the images that use it.
   for (auto image = images.rbegin(); image != images.rend(); ++image) {
     for (const Code code : (*image)->Row<Code>("__mod_init_func")) {
       code(count, arguments, environment, nullptr);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The objects of an image on this system's runtime: selectors are made known,
-// classes are made from their descriptions, constant texts get the layout of
-// GNUstep's, in place.
+// Registers the Objective-C objects of an image with the runtime of this
+// system: registers the selectors, makes the classes from their descriptions,
+// and changes constant texts to the layout of GNUstep.
 #import <Foundation/Foundation.h>
 
 #include <objc/message.h>
@@ -45,7 +45,7 @@ struct ConstantText {
   std::uint64_t length;
 };
 
-// By the place of their description.
+// The classes by the address of their description.
 std::map<void *, Class> theClasses;
 
 SEL Known(SEL name) {
@@ -63,7 +63,8 @@ void MakeClass(ClassObject *described) {
   const ClassData &data = *described->data;
   Class made = objc_allocateClassPair(described->super, data.name, 0);
   if (made == Nil) Fail(std::string("no class can be made of ") + data.name);
-  // Variables are found by their offsets, so that one of the whole size does.
+  // Code finds instance variables by their offsets, so one variable of the
+  // whole size is enough.
   if (data.instanceSize > data.instanceStart) {
     class_addIvar(made, "all", data.instanceSize - data.instanceStart, 3, "?");
   }
@@ -102,9 +103,9 @@ void RegisterObjectiveC(const Image &image) {
 }
 
 void PrepareFoundation() {
-  // The runtime of macOS makes a pool where there is none.
+  // The runtime of macOS makes an autorelease pool if there is none.
   [[NSAutoreleasePool alloc] init];
-  // GNUstep writes property lists in a form of its own unless it is told so.
+  // By default GNUstep writes property lists in another form than XML.
   [[NSUserDefaults standardUserDefaults]
       registerDefaults:[NSDictionary
                            dictionaryWithObject:@"YES"
@@ -117,14 +118,14 @@ extern "C" {
 
 void *darwin__objc_empty_cache;
 
-// Changes no register but r11, so that the arguments of the message stay where
-// they are.
+// This function changes only the register r11, so the arguments of the message
+// keep their registers.
 __attribute__((preserve_all, used)) void ZTKFindMethod(id object, SEL name,
                                                        IMP *method) {
   *method = objc_msg_lookup(object, name);
 }
 
-// As the compiler of macOS calls a method.
+// The compiler for macOS calls a method through this function.
 __attribute__((naked)) void darwin_objc_msgSend() {
   asm volatile("push %rax\n push %rdx\n push %rdx\n mov %rsp, %rdx\n"
                "call ZTKFindMethod@PLT\n"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Thread-local variables. A program has a descriptor of three words for each of
-// them. It gets the address of the variable in its thread by a call of the
-// function in the first word.
+// Thread-local variables. A program has a descriptor of three words for each
+// variable. It calls the function in the first word to get the address of the
+// variable in the current thread.
 #include <map>
 
 #include "image.h"
@@ -39,7 +39,7 @@ std::span<const char> FirstContent(const Image &image, std::size_t *size) {
 
 }  // namespace
 
-// Changes no register but r11.
+// This function changes only the register r11.
 extern "C" __attribute__((preserve_all, used)) void ZTKFindAddress(
     const Variable *variable, void **address) {
   thread_local std::map<const Image *, std::vector<char>> blocks;
@@ -53,7 +53,7 @@ extern "C" __attribute__((preserve_all, used)) void ZTKFindAddress(
   *address = block.data() + variable->offset;
 }
 
-// Called with the descriptor in rdi; changes no register but rax.
+// The descriptor is in rdi. This function changes only the register rax.
 extern "C" __attribute__((naked)) void ZTKAskForAddress() {
   asm volatile(
       "push %r11\n push %rsi\n push %rsi\n mov %rsp, %rsi\n"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Exceptions find their way through an image by its compact unwind entries.
-// The unwinder of this system knows call frame information instead, which is
-// written here from those entries: one description for each function.
+// An image has compact unwind entries for exceptions. The unwinder of this
+// system uses call frame information instead. So this file makes call frame
+// information from the entries: one description for each function.
 #include <cstring>
 
 #include "image.h"
@@ -38,7 +38,7 @@ const T *InfoAt(std::uint32_t offset) {
   return reinterpret_cast<const T *>(theInfo + offset);
 }
 
-// A second-level page: whole entries, or entries that share encodings.
+// A second-level page has complete entries, or entries that share encodings.
 void ReadPage(const UnwindHeader &header, const IndexEntry &index,
               std::vector<Function> *functions) {
   constexpr std::uint32_t kCompressed = 3;
@@ -86,7 +86,7 @@ std::vector<Function> ReadFunctions(const UnwindHeader &header) {
   return functions;
 }
 
-// Call frame information as bytes.
+// Writes call frame information.
 class Frames {
  public:
   template <typename T>
@@ -116,13 +116,13 @@ class Frames {
   std::vector<std::uint8_t> bytes_;
 };
 
-// What the functions of one personality share.
+// Writes the common part for all functions with one personality.
 std::size_t AddShared(Frames *frames, void *personality) {
   const std::size_t begin = frames->Begin();
   frames->Add(std::uint32_t{0});
   frames->Add({1, 'z'});
   if (personality != nullptr) frames->Add({'P', 'L'});
-  // Factors of 1 and -8; the return address is register 16.
+  // The alignment factors are 1 and -8. The return address is register 16.
   frames->Add({'R', 0, 1, 0x78, 16});
   if (personality != nullptr) {
     frames->Add({11, 0});
@@ -135,13 +135,15 @@ std::size_t AddShared(Frames *frames, void *personality) {
   return begin - 4;
 }
 
-// How the caller's registers are found. False for what is described otherwise.
+// Writes how the registers of the caller are found. Returns false if the
+// encoding is of another kind.
 bool AddRules(Frames *frames, std::uint32_t encoding) {
   constexpr int kRegisters[] = {0, 3, 12, 13, 14, 15};  // rbx, r12 to r15
   const std::uint32_t mode = (encoding >> 24) & 0xF;
   const int number = static_cast<int>((encoding >> 16) & 0xFF);
   if (mode == 1) {
-    // rbp leads to the frame; behind it lie the registers that are kept.
+    // rbp contains the address of the frame. The saved registers are next to
+    // it.
     frames->Add({0x0C, 6, 16, 0x80 | 6, 2, 0x80 | 16, 1});
     for (int i = 0; i < 5; ++i) {
       const std::uint32_t kept = (encoding >> (3 * i)) & 7;
@@ -150,7 +152,7 @@ bool AddRules(Frames *frames, std::uint32_t encoding) {
     }
     return true;
   }
-  // A frame of fixed size that keeps no register.
+  // A frame of fixed size without saved registers.
   if (mode == 2 && (encoding & 0x1C00) == 0 && number < 16) {
     frames->Add({0x0C, 7, number * 8, 0x80 | 16, 1});
     return true;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the loader has to do for a program before any of ours is tried:
-// initialisers, exceptions, variables of a thread, streams, arguments.
+// Tests the services of the loader that every program needs: initialisers,
+// exceptions, thread-local variables, streams, arguments.
 #include <cstdio>
 #include <iostream>
 #include <sstream>

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Runs the ztk that was built for macOS, with one mixer of the double.
+"""Runs ztk for macOS in the loader, with one mixer of the test double.
 
 Usage: program_test.py --loader PROGRAM --build FOLDER
 """
@@ -87,7 +87,7 @@ class Ztk(unittest.TestCase):
         self.assertIn("undone", self.out("undo"))
         self.assertEqual(self.remembered(), {"MaxLevel": 1})
 
-    def test_export_and_import_carry_what_is_remembered(self):
+    def test_export_and_import_transfer_the_stored_settings(self):
         self.out("boost", "set", "3")
         exported = self.out("export")
         self.assertEqual(json.loads(exported)["settings"],
@@ -98,18 +98,18 @@ class Ztk(unittest.TestCase):
         self.out("import", str(file))
         self.assertEqual(self.remembered(), {"MaxLevel": 2})
 
-    def test_a_wrong_word_is_an_exception_that_is_caught(self):
+    def test_the_exception_for_a_wrong_word_is_caught(self):
         result = self.run_ztk("boost", "set", "loud")
         self.assertEqual(result.returncode, 2)
         self.assertIn('no choice "loud"', result.stderr)
 
-    def test_without_a_mixer_the_choice_is_remembered_only(self):
+    def test_without_a_mixer_the_choice_is_only_stored(self):
         result = self.run_ztk("boost", "set", "1", mixers=0)
         self.assertEqual(result.stdout,
                          "Boost level: 1 -5 dB\n")
         self.assertIn("no mixer is attached", result.stderr)
 
-    def test_watch_hears_another_process(self):
+    def test_watch_receives_changes_of_another_process(self):
         watch = subprocess.Popen(self.command(["watch"]), text=True,
                                  env=self.environment, stdout=subprocess.PIPE,
                                  stderr=subprocess.PIPE)
@@ -132,13 +132,13 @@ class Ztk(unittest.TestCase):
             watch.stdout.close()
             watch.stderr.close()
 
-    def test_texts_that_cannot_be_found_are_explained_alike(self):
+    def test_missing_texts_have_the_same_explanation(self):
         why = "below /System/Library, where nothing can be installed"
         self.assertIn(why, self.run_ztk("versions").stderr)
         self.assertIn(why, self.run_ztk("warning").stderr)
         self.assertIn(why, self.run_ztk("doctor").stdout)
 
-    def test_the_manual_page_speaks_of_macos(self):
+    def test_the_manual_page_is_for_macos(self):
         page = (OPTIONS.build / "manual/ztk.1").read_text()
         for word in ("XDG_CONFIG_HOME", "D\\-Bus", "DBUS", "LANGUAGE",
                      "journalctl", "systemd"):
@@ -146,7 +146,7 @@ class Ztk(unittest.TestCase):
                 self.assertNotIn(word, page)
         self.assertIn("Library/Preferences", page)
 
-    def test_autoapply_says_that_it_is_not_built(self):
+    def test_autoapply_reports_that_it_is_not_available(self):
         result = self.run_ztk("autoapply", "on")
         self.assertEqual(result.returncode, 5)
         self.assertIn("not built for macOS", result.stderr)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The part of CoreFoundation's interface that the library uses, to build its
-// macOS port on a system without CoreFoundation. Names, types and values are
-// those of macOS; the test double in ../../iokit_double.h has the functions.
+// The part of CoreFoundation's interface that the library uses. With it the
+// macOS port can be built on a system without CoreFoundation. The names, types
+// and values are those of macOS. The test double (../../iokit_double.h) defines
+// the functions.
 #ifndef ZTK_TESTS_MACOS_COREFOUNDATION_H_
 #define ZTK_TESTS_MACOS_COREFOUNDATION_H_
 #pragma GCC system_header
@@ -31,7 +32,7 @@ typedef const struct __CFUUID *CFUUIDRef;
 typedef struct __CFRunLoopSource *CFRunLoopSourceRef;
 #define kCFAllocatorDefault ((CFAllocatorRef)0)
 
-// A constant text is an object of Foundation's: only Objective-C can make one.
+// A constant text is an object of Foundation. Only Objective-C can make one.
 #ifdef __OBJC__
 #define CFSTR(literal) ((CFStringRef) @"" literal)
 #endif

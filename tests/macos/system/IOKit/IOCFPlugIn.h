@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The loader of a service's interface.
+// The plug-in that loads the interface of a service.
 #ifndef ZTK_TESTS_MACOS_IOCFPLUGIN_H_
 #define ZTK_TESTS_MACOS_IOCFPLUGIN_H_
 #pragma GCC system_header

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// As much of IOKit's registry interface as the library uses.
+// The part of IOKit's registry interface that the library uses.
 #ifndef ZTK_TESTS_MACOS_IOKITLIB_H_
 #define ZTK_TESTS_MACOS_IOKITLIB_H_
 #pragma GCC system_header
@@ -29,7 +29,7 @@ extern "C" {
 
 kern_return_t IOMasterPort(mach_port_t bootstrapPort, mach_port_t *masterPort);
 CFMutableDictionaryRef IOServiceMatching(const char *name);
-// Consumes one reference of the dictionary.
+// Releases one reference to the dictionary.
 kern_return_t IOServiceGetMatchingServices(mach_port_t masterPort,
                                            CFDictionaryRef matching,
                                            io_iterator_t *existing);

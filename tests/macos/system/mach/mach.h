@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// As much of the kernel's port interface as the library uses.
+// The part of the kernel's port interface that the library uses.
 #ifndef ZTK_TESTS_MACOS_MACH_H_
 #define ZTK_TESTS_MACOS_MACH_H_
 #pragma GCC system_header

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The first version of the USB device interface, and nothing of the later
-// ones: a port that calls beyond it does not build here.
+// The first version of the USB device interface. A port that uses functions of
+// later versions cannot be built with this header.
 #ifndef ZTK_TESTS_MACOS_IOUSBLIB_H_
 #define ZTK_TESTS_MACOS_IOUSBLIB_H_
 #pragma GCC system_header
@@ -27,7 +27,8 @@ typedef struct {
   UInt32 wLenDone;
 } IOUSBDevRequest;
 
-// Functions that the library has no use for are here for their place only.
+// Functions that the library does not use are declared too, so that the offsets
+// are correct.
 typedef struct {
   IUNKNOWN_C_GUTS;
   IOReturn (*CreateDeviceAsyncEventSource)(void *self,
