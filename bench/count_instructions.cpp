@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// Makes each call of each contender once under callgrind, after other calls as
-// a warm-up, and makes callgrind write a file for it:
+// Makes each call of each contender once in callgrind, after other calls as a
+// warm-up. callgrind writes a file for each call:
 //
 //   valgrind --tool=callgrind --collect-atstart=no count_instructions
 //
-// The files say "Client Request: OPERATION/CONTENDER" and the instructions in
-// user space, those of threads that libusb starts included.
+// The files contain "Client Request: OPERATION/CONTENDER" and the number of
+// instructions in user space, including those of threads that libusb starts.
 #include <valgrind/callgrind.h>
 
 #include <cstdio>

@@ -1,6 +1,6 @@
 /* SPDX-License-Identifier: MIT
  *
- * Does nothing. Built twice, with the library and without it: the difference is
- * what loading the library costs a program that never calls it.
+ * Does nothing. It is built with the library and without it. The difference is
+ * the time that a program needs to load the library.
  */
 int main(void) { return 0; }

@@ -22,8 +22,8 @@ constexpr unsigned kTimeoutMs = 5000;
 constexpr std::uint16_t kRoutingRegister = 0x8002;
 constexpr std::uint16_t kSelectorLength = 5;
 
-// Joins the three parts without snprintf(), which would take longer than a
-// system call.
+// Joins the three parts of a path. snprintf() is not used because it takes
+// longer than a system call.
 class AttributePath {
  public:
   AttributePath() {
@@ -87,7 +87,7 @@ int Walk(int position, Mixer *mixer) {
   return mixers;
 }
 
-// Writes the digits before `end` into three places, filled with zeros.
+// Writes the number before `end` with three digits.
 void WriteThreeDigits(char *to, const char *begin, const char *end) {
   std::memset(to, '0', 3);
   std::memcpy(to + 3 - (end - begin), begin,
@@ -113,8 +113,8 @@ int OpenNode(const Mixer &mixer) {
   return -1;
 }
 
-// Finds the mixer at a position and sends it one request. False when it does
-// not open.
+// Finds the mixer at a position and sends it one request. Returns false if the
+// mixer cannot be opened.
 bool Ask(int position, std::uint8_t type, std::uint8_t request,
          std::uint16_t value, std::uint16_t length, void *data) {
   Mixer mixer;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// The floor: the system calls that the library makes on Linux, in the same
-// order, with as little code as possible between them. It does not sort,
-// allocates nothing, parses only what the next call needs, and does not check
-// what cannot happen on a virtual mixer. The difference to the library is the
-// cost of its sorting and its checks.
+// The floor makes the same system calls as the library on Linux, in the same
+// order, with as little code as possible between them. It does not sort or
+// allocate, parses only the data that the next call needs, and does not check
+// for errors that cannot happen with a virtual mixer. So the difference to the
+// library is the time of the library's sorting and checks.
 //
-// A test traces both and compares them call by call.
+// A test traces the floor and the library, and compares their system calls.
 #ifndef ZTK_BENCH_FLOOR_H_
 #define ZTK_BENCH_FLOOR_H_
 
@@ -22,17 +22,18 @@ const char *Prepare();
 // Counts the mixers.
 int Count();
 
-// The path of ZTK_SetUSBInputAudio() for channels 0 to 4, except that no
-// routing is looked up: sends `value` to every mixer, stores and announces
-// `index`, reads the selectors of every mixer. The number of mixers.
+// Does the same as ZTK_SetUSBInputAudio() for channels 0 to 4, but without
+// looking up the device value: sends `value` to every mixer, stores and
+// announces `index`, and reads the selectors of every mixer. Returns the number
+// of mixers.
 int Set(std::uint32_t channel, std::uint32_t index, std::uint16_t value);
 
-// The path of ZTK_GetMixerInputSelectorStatus(): the position on the last
-// mixer, -1 when none answers.
+// Does the same as ZTK_GetMixerInputSelectorStatus(): returns the position on
+// the last mixer, or -1 if no mixer answers.
 int Query(std::uint32_t channel);
 
-// The path of ZTK_SetCurrentUSBInputAudio(): reads the settings file, then
-// sends `value` to every mixer. The number of mixers.
+// Does the same as ZTK_SetCurrentUSBInputAudio(): reads the settings file, then
+// sends `value` to every mixer. Returns the number of mixers.
 int Apply(std::uint16_t value);
 
 }  // namespace ztk::bench::floor

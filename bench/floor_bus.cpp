@@ -21,11 +21,11 @@ namespace {
 constexpr int kBufferSize = 8 << 20;
 constexpr char kAuthentication[] =
     "\0AUTH EXTERNAL\r\nDATA\r\nNEGOTIATE_UNIX_FD\r\nBEGIN\r\n";
-// The last line that the bus sends before the messages.
+// The bus sends this line as the last one before the messages.
 constexpr char kAgreed[] = "AGREE_UNIX_FD\r\n";
 
-// A message starts with its fixed header; the two lengths are at these places,
-// and the fields are filled up to a multiple of 8.
+// A message starts with a fixed header, which has the two lengths at these
+// offsets. The header fields are padded to a multiple of 8 bytes.
 constexpr std::size_t kFixedHeader = 24;
 constexpr std::size_t kBodyLengthAt = 4;
 constexpr std::size_t kFieldsLengthAt = 12;
@@ -71,7 +71,8 @@ void EnlargeBuffer(int socket, int option, int forcedOption) {
              sizeof kBufferSize);
 }
 
-// What the library's bus client wants to know of the other end.
+// Makes the calls with which the library's bus client reads the properties of
+// the socket.
 void AskAboutPeer(int socket) {
   char answer[256];
   socklen_t length = sizeof(ucred);
@@ -101,8 +102,8 @@ bool Send(int socket, const char *bytes, std::size_t size) {
   return Send(socket, &part, 1);
 }
 
-// Receives the available bytes, and waits for them at most a second; 0 when
-// none arrive. Tries to receive before it waits, as the library does.
+// Receives the available bytes. Tries to receive before it waits, as the
+// library does, and waits for at most one second. Returns 0 if no bytes arrive.
 std::size_t Receive(int socket, char *bytes, std::size_t size) {
   for (;;) {
     char control[256];

@@ -8,7 +8,7 @@
 
 namespace ztk::bench::floor {
 
-// Each returns the reason of a failure, else null.
+// These functions return the reason of a failure, or null.
 const char *PrepareSettings();
 const char *PrepareBus();
 
@@ -17,7 +17,7 @@ void ReadSettings();
 // Reads the file and replaces it by one with the index of this channel only.
 void StoreIndex(std::uint32_t channel, std::uint32_t index);
 
-// Announces the index over a connection of its own.
+// Announces the index. Uses a new connection for each call.
 void AnnounceIndex(std::uint32_t channel, std::uint32_t index);
 
 }  // namespace ztk::bench::floor

@@ -20,7 +20,7 @@ constexpr std::size_t kLongestPath = 1024;
 char makersFolder[kLongestPath];
 char folder[kLongestPath + 16];
 char file[kLongestPath + 64];
-// The random part of the name of a new file begins after this length.
+// The offset of the random part in the name of a new file.
 std::size_t fileLength;
 
 constexpr char kContent[] =
@@ -33,7 +33,7 @@ constexpr char kContent[] =
     "\t<integer>0</integer>\n"
     "</dict>\n"
     "</plist>\n";
-// The two digits that change.
+// The offsets of the two digits that change.
 constexpr std::size_t kChannelAt = std::string_view(kContent).find("0</key>");
 constexpr std::size_t kIndexAt = std::string_view(kContent).find("0</integer>");
 char content[sizeof kContent];
@@ -94,7 +94,7 @@ void ReadFolder(int descriptor) {
   }
 }
 
-// Writes the content into a file without a name and gives it the name `fresh`.
+// Writes the content to an unnamed file and gives it the name `fresh`.
 void MakeFresh(const char *fresh) {
   struct stat status;
   lstat(file, &status);
@@ -109,8 +109,8 @@ void MakeFresh(const char *fresh) {
   close(made);
 }
 
-// The signal is blocked during the write, as the library does in order not to
-// end its program.
+// The signal is blocked during the write, as in the library: otherwise it could
+// end the process.
 void ReplaceSettings() {
   geteuid();
   sigset_t pending;

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Prints, as JSON, what count_instructions made callgrind count.
+"""Prints the numbers of instructions as JSON that callgrind counted in
+count_instructions.
 
     instructions.py FILE
 
-FILE is the name that callgrind was given; it adds a number for each call.
+FILE is the value of callgrind's option for the output file. callgrind adds a number to
+it for each call.
 """
 
 import glob

@@ -18,7 +18,7 @@ END
   bus=$!
   local address
   read -r address <"$1/address" || return 1
-  # Without "guid=", like the variable of a session.
+  # The variable of a session has no "guid=" either.
   export DBUS_SESSION_BUS_ADDRESS=${address%%,*}
 }
 
@@ -33,8 +33,8 @@ run_benchmarks() {  # bin results filter repetitions seconds
   }
 }
 
-# Times programs from start to end, in a root folder if one is given, and writes
-# the results to a file there.
+# Measures the time of programs from start to end and writes the results to a file. The
+# programs run in a root folder if one is given.
 time_programs() {  # bin file runs [root]
   ${4:+chroot "$4"} hyperfine --shell=none --warmup 1 --runs "$3" --style none \
     --export-json "$2" \

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Measures the calls of the library, of the floor and of a program that uses
-// libusb, on the devices that this process sees; bench/run provides virtual
-// ones.
+// libusb, with the devices that this process can access. bench/run provides
+// virtual devices.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -17,8 +17,8 @@ namespace {
 
 using namespace ztk::bench;
 
-// The caller sets this variable when this program has a home and a mixer to
-// write to.
+// The caller sets this variable if this program may write to its home folder
+// and to a mixer.
 constexpr char kMayChange[] = "ZTK_BENCH_MAY_CHANGE_SETTINGS";
 
 bool IsSet(const char *variable) { return std::getenv(variable) != nullptr; }
@@ -57,7 +57,7 @@ void NumberOfChoices(benchmark::State &state) {
 }
 
 void RejectedSetter(benchmark::State &state) {
-  std::uint32_t channel = 5;  // one too many
+  std::uint32_t channel = 5;  // out of range
   for (auto _ : state) {
     benchmark::DoNotOptimize(channel);
     benchmark::DoNotOptimize(ZTK_SetUSBInputAudio(kProduct, channel, 0));

@@ -21,7 +21,8 @@ bool IsMixer(libusb_device *device) {
          descriptor.idProduct == kMixerProductId;
 }
 
-// Calls `visit` with each mixer. Returns the number of mixers that it reached.
+// Calls `visit` with each mixer. Returns the number of mixers for which it
+// succeeded.
 template <typename Visit>
 int ForEachMixer(Visit visit) {
   libusb_context *context = nullptr;
@@ -66,8 +67,8 @@ int Count() {
 }
 
 int Set(std::uint32_t channel, std::uint32_t index, std::uint16_t value) {
-  // Both requests use one list; so the value is stored and announced after both
-  // of them, where the library does it in between.
+  // Both requests use the same list of devices. So the value is stored and
+  // announced after both requests; the library does this between them.
   const int mixers = ForEachMixer([&](libusb_device *mixer) {
     const bool sent = Send(mixer, value);
     return ReadSelector(mixer, channel) >= 0 && sent;

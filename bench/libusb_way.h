@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The same four operations as in a program that uses libusb: each call starts
-// libusb, lists the devices once, sends to every mixer in the list, and ends
-// libusb. The settings file and the announcement, which do not use USB, are
-// those of the floor.
+// The same four operations with libusb: each call starts libusb, lists the
+// devices once, sends requests to every mixer in the list, and ends libusb. The
+// code for the settings file and the announcement, which do not use USB, is
+// that of the floor.
 #ifndef ZTK_BENCH_LIBUSB_WAY_H_
 #define ZTK_BENCH_LIBUSB_WAY_H_
 
@@ -15,14 +15,14 @@
 
 namespace ztk::bench::libusb_way {
 
-// As in floor.h; -1 when libusb does not start. Set() and Apply() need
-// floor::Prepare().
+// Do the same as the functions in floor.h. Return -1 if libusb does not start.
+// Set() and Apply() need floor::Prepare().
 int Count();
 int Set(std::uint32_t channel, std::uint32_t index, std::uint16_t value);
 int Query(std::uint32_t channel);
 int Apply(std::uint16_t value);
 
-// In the order of kOperations.
+// The functions in the order of kOperations.
 inline constexpr bool (*kCalls[])(std::uint32_t turn) = {
     [](std::uint32_t) { return Count() > 0; },
     [](std::uint32_t turn) {

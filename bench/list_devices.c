@@ -1,6 +1,6 @@
 /* SPDX-License-Identifier: MIT
  *
- * The smallest program that lists USB devices with libusb, to compare it with
+ * A minimal program that lists USB devices with libusb, for comparison with
  * "ztk status".
  */
 #include <libusb.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The measured operations, once through the library and once through the floor.
+// The measured operations, with the library and with the floor.
 #ifndef ZTK_BENCH_OPERATIONS_H_
 #define ZTK_BENCH_OPERATIONS_H_
 
@@ -15,11 +15,13 @@ inline constexpr std::uint32_t kProduct = 10;
 inline constexpr std::uint32_t kChannel = 1;
 
 // Two choices without a warning, and the values that the mixer receives for
-// them. The turns alternate, so that every call changes something.
+// them. The calls alternate between the two choices, so that every call changes
+// something.
 inline constexpr std::uint32_t kChoices[2] = {2, 3};
 inline constexpr std::uint16_t kValues[2] = {0x0206, 0x0207};
 
-// One call with its turn, 0 or 1. False when it did not reach a mixer.
+// Makes one call with the choice 0 or 1. Returns false if it did not reach a
+// mixer.
 struct Operation {
   const char *name;
   bool (*library)(std::uint32_t turn);

@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Draws the growth of costs as SVG.
+"""Draws how the durations grow as SVG.
 
     plot.py FOLDER FILE
 
-Left: by the number of devices, with one mixer. Right: by the number of mixers
-among 30 devices. Solid lines are the library, dashed ones the floor. Dotted ones
-are the setter through libusb; they have a scale of their own, because they are
-much higher than the others.
+The left panel shows the growth with the number of devices, with one mixer. The right
+panel shows the growth with the number of mixers, with 30 devices. Solid lines are the
+library, dashed lines the floor. Dotted lines are the setter with libusb; they have
+another scale, because their values are much higher.
 """
 
 import sys
@@ -27,7 +27,7 @@ def text(x, y, words, anchor="middle", colour="#333"):
 
 
 def ceiling(value):
-    """The next round number."""
+    """Returns the next larger round number."""
     scale = 1
     while scale * 10 < value:
         scale *= 10
@@ -36,7 +36,7 @@ def ceiling(value):
 
 
 class Panel:
-    """One drawing; its axes start at zero, so linear growth is a line."""
+    """One drawing. Its axes start at zero."""
 
     def __init__(self, x, y, series, title):
         self.x, self.y = x, y

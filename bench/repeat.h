@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Calls one function a number of times, for counting its system calls. Before
-// each call and after the last one it writes to an invalid descriptor, which
-// fails and is a mark in the trace.
+// Calls one function several times, so that its system calls can be counted.
+// Before each call and after the last one it writes to an invalid descriptor.
+// This fails, and is a mark in the trace.
 #ifndef ZTK_BENCH_REPEAT_H_
 #define ZTK_BENCH_REPEAT_H_
 
@@ -31,8 +31,8 @@ inline const Operation *FindOperation(std::string_view name) {
   return nullptr;
 }
 
-// The whole program: CONTENDER OPERATION TIMES. `choose` names the call of a
-// contender, null for one that it does not know.
+// The main program with the arguments CONTENDER OPERATION TIMES. `choose`
+// returns the call of a contender, or null for an unknown contender.
 template <typename Choose>
 int RepeatMain(int argc, char **argv, const char *contenders, Choose choose) {
   const Operation *operation = argc == 4 ? FindOperation(argv[2]) : nullptr;

@@ -2,11 +2,11 @@
 # SPDX-License-Identifier: MIT
 """Prints a folder of benchmark results as Markdown.
 
-    report.py FOLDER            prints it
-    report.py FOLDER DOCUMENT   and writes it between the two marks in DOCUMENT
+    report.py FOLDER            prints the Markdown
+    report.py FOLDER DOCUMENT   also writes it between the two marks in DOCUMENT
 
-A missed goal is shown in the table and is not a failure: times depend on the
-machine and on its load. Only missing or invalid results are a failure.
+The table shows if a goal is missed, but this is not a failure, because times depend on
+the machine and its load. Only missing or invalid results are a failure.
 """
 
 import pathlib
@@ -24,7 +24,7 @@ LOADING = "the same, loading the library"
 PURE_GOAL = 20  # nanoseconds
 PURE = {"text": "text of a choice", "choices": "number of choices",
         "rejected": "refused setter"}
-# The number of walks over the bus for this number of mixers.
+# How often each operation reads the bus, for this number of mixers.
 WALKS = {"count": lambda mixers: 1, "set": lambda mixers: 1 + 2 * mixers,
          "query": lambda mixers: 1 + mixers, "apply": lambda mixers: 1 + mixers}
 BEGIN, END = "<!-- figures: bench/run writes them -->", "<!-- end of figures -->"
@@ -50,7 +50,7 @@ def table(head, rows, out):
 
 
 def started_programs(found, place):
-    """The medians from start to end in milliseconds, if they were measured."""
+    """Returns the medians from start to end in milliseconds, if they were measured."""
     times = found.json(f"{place}-start_up")
     return times and {program["command"]: program["median"] * 1e3
                       for program in times["results"]}
@@ -96,7 +96,7 @@ def one_mixer(found, out):
 
 
 def compared(times, name):
-    """The time of the library, compared with the others."""
+    """Returns the time of the library, compared with the others."""
     library = times[f"{name}/library"]
     ratios = [f"{library / times[f'{name}/floor']:.2f}"]
     if f"{name}/libusb" in times:

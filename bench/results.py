@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Reads a folder of results of bench/run; report.py and plot.py share it."""
+"""Reads a folder of results of bench/run, for report.py and plot.py."""
 
 import json
 import pathlib
@@ -13,9 +13,9 @@ SCALE = {"ns": 1, "us": 1e3, "ms": 1e6}
 
 
 def medians(file):
-    """The median of each benchmark, in nanoseconds. A count in the sandbox
-    never waits for anybody, so for it the time of the processor is taken:
-    other work on the machine does not count."""
+    """Returns the median of each benchmark, in nanoseconds. A count in the sandbox does
+    not wait, so its processor time is used, which does not depend on other work on the
+    machine."""
     found = {}
     processor = not file.name.startswith(("guest", "emulator"))
     for result in json.loads(file.read_text())["benchmarks"]:
@@ -31,7 +31,7 @@ def medians(file):
 
 
 class Results:
-    """Times by (place, mixers, devices), and the other counts."""
+    """The times by (place, mixers, devices), and the other numbers."""
 
     def __init__(self, folder):
         self.folder = pathlib.Path(folder)
@@ -52,16 +52,16 @@ class Results:
         return self.text(f"{place}-clock.txt") == "instructions"
 
     def place(self, name):
-        """The name of the place of the measurement."""
+        """Returns the description of the place of the measurement."""
         counted = f", {COUNTED}" if self.counts_instructions(name) else ""
         return PLACES[name] + counted
 
     def by_devices(self, place):
-        """(devices, times) with one mixer."""
+        """Returns (devices, times) for one mixer."""
         return [(world[2], times) for world, times in sorted(
             self.worlds.items()) if world[:2] == (place, 1)]
 
     def by_mixers(self, place):
-        """(mixers, times) among thirty devices."""
+        """Returns (mixers, times) for thirty devices."""
         return [(world[1], times) for world, times in sorted(
             self.worlds.items()) if world[0] == place and world[2] == 30]

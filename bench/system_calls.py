@@ -1,27 +1,24 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Counts the system calls of one call into the library, among virtual mixers.
+"""Counts the system calls of one library call, with virtual mixers.
 
-    system_calls.py BIN_FOLDER              counts, with one mixer, as a table
-    system_calls.py BIN_FOLDER library set  every call of one operation
-    system_calls.py --here BIN_FOLDER       counts, on the devices that are here,
-                                            of the library, the floor and libusb
+    system_calls.py BIN_FOLDER              prints the numbers for one mixer as a table
+    system_calls.py BIN_FOLDER library set  prints every system call of one operation
+    system_calls.py --here BIN_FOLDER       prints the numbers of the library, the floor
+                                            and libusb for the devices of this machine
 
-A program that repeats a call writes a mark into its trace before each one. The
-lines between the last two marks are exactly one call of a process that has warmed
-up; no start-up has to be subtracted.
+A program repeats a call, and writes a mark into its trace before each repetition. The
+lines between the last two marks are exactly one call after the start-up.
 
-With --here all system calls of all threads count, except waiting; the output is
-JSON.
+With --here the system calls of all threads count, except waiting. The output is JSON.
 
-The sandbox makes system calls of its own inside the program: it checks its folder
-before each open, blocks signals during that, and sends requests over a socket in
-place of ioctl(). They are recognised by their path or descriptor (each descriptor
-is followed from its open()) and left out; the log of the mixers counts the
-requests in place of ioctl(). So the counts are those of a machine with real
-devices. Two more kinds are left out, because they do not depend on the library:
-waiting for the message bus, and calls that the C library makes now and then, for
-memory and for random bits of a file name.
+The sandbox makes additional system calls in the program: it checks its folder before
+each open, blocks signals during this check, and sends requests over a socket instead of
+ioctl(). These calls are recognised by their path or descriptor and omitted. The number
+of requests is taken from the log of the mixers instead of ioctl(). So the numbers are
+those of a machine with real devices. Two more kinds of calls are omitted, because they
+do not depend on the library: waiting for the message bus, and calls that the C library
+makes only sometimes, for memory and for random bits of a file name.
 """
 
 import collections
@@ -42,7 +39,7 @@ SANDBOX_CHECK = re.compile(r"/tmp/umockdev\.\w+/(disabled|ioctl/|dev/)")
 PLIST_AT_END = re.compile(r'\.plist"')
 TEXT = re.compile(r'"((?:[^"\\]|\\.)*)"')
 PIECE = re.compile(r'iov_base="((?:[^"\\]|\\.)*)"')
-# The same call under several names, by C library and machine.
+# Different C libraries and machines use different names for the same call.
 SAME = {"newfstatat": "stat", "fstat": "stat", "lstat": "stat",
         "statx": "stat", "stat": "stat", "open": "openat",
         "renameat": "rename", "renameat2": "rename",
@@ -52,26 +49,26 @@ C_LIBRARY = {"brk", "mmap", "munmap", "madvise", "mremap", "futex",
 WAITING = {"ppoll", "recvmsg"}
 OPERATIONS = ("count", "set", "query", "apply")
 TIMES = 4
-FEW_TIMES = 2  # where only the number matters
+FEW_TIMES = 2  # if only the number matters
 
 
 class Unavailable(Exception):
-    """The calls cannot be counted here; the text is the reason."""
+    """The calls cannot be counted on this machine. The text is the reason."""
 
 
 class Trace:
-    """Turns the lines of a trace into those of the calls that count."""
+    """Reads the lines of a trace and keeps the calls that count."""
 
     def __init__(self, home):
         self.home = home
-        self.names = {}  # of the descriptors that are open
-        self.in_sandbox = False  # between its taking and giving back signals
+        self.names = {}  # the paths of the open descriptors
+        self.in_sandbox = False  # True while the sandbox blocks signals
         self.calls = []
 
     def add(self, name, arguments, result):
         is_lstat = name == "lstat" or "AT_SYMLINK_NOFOLLOW" in arguments
         name = SAME.get(name, name)
-        # Only root asks for the owner of the path of a settings file.
+        # The library reads the owner of a path only if it runs as root.
         if name == "stat" and is_lstat and (
                 not PLIST_AT_END.search(arguments) or
                 self.calls[-1:] == ["geteuid"]):
@@ -88,7 +85,7 @@ class Trace:
             return
         call = f"{name} {subject}{self.payload(name, arguments, result)}"
         self.follow(name, arguments, result, subject)
-        # The sandbox asks once more about a file that it does not know.
+        # For a file outside the sandbox, the sandbox makes the call a second time.
         if name == "stat" and self.calls and self.calls[-1] == call:
             return
         self.calls.append(call.rstrip())
@@ -102,9 +99,9 @@ class Trace:
         return was
 
     def subject(self, name, arguments):
-        """The object of the call: a path, or the path of a descriptor."""
+        """Returns the object of the call: a path, or the path of a descriptor."""
         if name == "socket":
-            # The library's socket closes on exec; the sandbox's does not.
+            # The socket of the library has SOCK_CLOEXEC, the one of the sandbox has not.
             return "bus" if "SOCK_CLOEXEC" in arguments else "sandbox socket"
         first = arguments.split(",", 1)[0]
         if first.isdigit():
@@ -146,7 +143,7 @@ def needed(program):
 
 
 def check_tracing():
-    """Raises Unavailable where a program cannot be traced with a bus."""
+    """Raises Unavailable if a program cannot be traced with a bus."""
     needed("dbus-daemon")
     strace = needed("strace")
     tried = subprocess.run([strace, "-o", os.devnull, "true"],
@@ -157,7 +154,7 @@ def check_tracing():
 
 
 class Bus:
-    """A message bus of our own."""
+    """A private message bus."""
 
     def __init__(self, folder):
         self.address = f"unix:path={folder}/bus"
@@ -184,7 +181,7 @@ class Bus:
 
 
 def calls_between_marks(trace_file, home):
-    """The calls of each repetition, start-up first and the end last."""
+    """Returns the calls of the start-up, of each repetition and of the end."""
     trace = Trace(home)
     repetitions = []
     processes = set()
@@ -204,7 +201,7 @@ def calls_between_marks(trace_file, home):
 
 
 def write_settings(home):
-    """Writes the settings file that every call except the first finds."""
+    """Writes a settings file, so that the first call is like the others."""
     folder = pathlib.Path(home, ".config/tarvix/Preferences")
     folder.mkdir(parents=True)
     (folder / "com.tarvix.VRM-D6autosetup.plist").write_text(
@@ -213,7 +210,7 @@ def write_settings(home):
 
 
 def script(folder, cases, temporary):
-    """A shell's script that traces the cases, in one sandbox to save time."""
+    """Returns a shell script that traces all cases in one sandbox, to save time."""
     lines = ["set -e"]
     for number, (who, operation) in enumerate(cases):
         lines += [f"strace -f -s 4096 -o trace.{number} "
@@ -241,11 +238,11 @@ def run_in_sandbox(folder, cases, temporary, devices):
 
 
 def one_call(temporary, number, home):
-    """The system calls of one call, from the trace with this number."""
+    """Returns the system calls of one call, from the trace with this number."""
     calls = calls_between_marks(pathlib.Path(temporary, f"trace.{number}"),
                                 home)
-    # The turns alternate, so the last is of the kind of the last but one
-    # before it, and both of a process that has warmed up.
+    # The two choices alternate, so the last call and the second call before it have the
+    # same choice. Both are made after the start-up.
     if len(calls) != TIMES + 1:
         raise RuntimeError("the trace is not complete")
     if calls[-1] != calls[-3]:
@@ -257,7 +254,7 @@ def one_call(temporary, number, home):
 
 
 def requests_of(temporary, count):
-    """The number of requests that reached the mixers in each run."""
+    """Returns the number of requests that the mixers received in each run."""
     totals = [len(pathlib.Path(temporary, f"log.{number}").read_text()
                   .splitlines()) for number in range(count)]
     if any(total % TIMES != 0 for total in totals):
@@ -266,8 +263,8 @@ def requests_of(temporary, count):
 
 
 def measure(folder, cases, mixers=1, other_devices=0):
-    """The system calls of one call for each (who, operation), in order. The
-    requests stand at the end as "ioctl": only their number is known."""
+    """Returns the system calls of one call for each (who, operation), in order. The
+    requests are at the end as "ioctl", because only their number is known."""
     check_tracing()
     folder = pathlib.Path(folder).resolve()
     with tempfile.TemporaryDirectory(dir="/tmp") as temporary:
@@ -283,8 +280,8 @@ RESUMED = re.compile(r"^\d+ +<\.\.\. (?P<resumed>\w+) resumed>")
 
 
 def measure_here(folder):
-    """The number of system calls of one call of every contender, on the
-    devices that this process sees. Changes the settings of this HOME."""
+    """Returns the number of system calls of one call of every contender, with the
+    devices that this process can access. Changes the settings of this HOME."""
     check_tracing()
     counts = {}
     with tempfile.TemporaryDirectory() as temporary:
@@ -300,14 +297,14 @@ def measure_here(folder):
 
 
 def calls_of_last(trace):
-    """The number of calls between the last two marks."""
+    """Returns the number of calls between the last two marks."""
     number = last = 0
     for line in trace.read_text(errors="replace").splitlines():
         if MARK in line:
             number, last = 0, number
             continue
-        # One that another thread interrupts appears twice: its beginning,
-        # which is no whole line, is not counted.
+        # A call that another thread interrupts has two lines. The first one, which is
+        # incomplete, is not counted.
         match = RESUMED.match(line) or LINE.match(line)
         name = match and (match["resumed"] if match.re is RESUMED else match[2])
         if name and name not in C_LIBRARY | WAITING:
@@ -316,7 +313,7 @@ def calls_of_last(trace):
 
 
 def names(calls):
-    """The number of calls of each kind."""
+    """Returns the number of calls of each kind."""
     return collections.Counter(call.split(" ", 1)[0] for call in calls)
 
 
