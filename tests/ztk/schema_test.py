@@ -132,7 +132,7 @@ SCENES = (
     # No message bus.
     (ONE, """
         export DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent
-        ztk watch --json; ztk boost set 1 --json; ztk output default --json
+        timeout -s INT 1 ztk watch --json; ztk boost set 1 --json; ztk output default --json
         ztk doctor --json
         """),
     # Invalid command lines, and calls that the library rejects.
