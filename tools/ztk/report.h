@@ -10,6 +10,7 @@
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ztk::model {}
@@ -69,6 +70,11 @@ struct Report {
   // Several errors, which the problem summarises.
   std::vector<std::string> errors;
   std::optional<Problem> problem;
+  // Reports the problem; an earlier one becomes a warning.
+  void SetProblem(Problem worse) {
+    if (problem) warnings.push_back(problem->message);
+    problem = std::move(worse);
+  }
   // The text is what the user asked for, so --quiet shows it too. Otherwise it
   // says what the command has done.
   bool isAnswer = false;

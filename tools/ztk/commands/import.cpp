@@ -75,8 +75,7 @@ void AddImported(const MadeChange &one, const MadeChanges &made,
                  Report *report) {
   const Change &change = one.change;
   const Setting &setting = *change.setting;
-  Json fields{{"setting", setting.name}, {"model", ModelName(setting)}};
-  AddValueFields(setting, change.channel, change.index, &fields);
+  Json fields = ValueFields(setting, change.channel, change.index);
   fields["result"] = one.result;
   fields["remembered"] = one.remembered;
   if (one.forgotten) fields["forgotten"] = true;
@@ -93,12 +92,9 @@ void AddKept(const std::vector<StoredValue> &kept, Report *report) {
   report->fields["kept"] = Json::array();
   std::vector<std::string> names;
   for (const StoredValue &value : kept) {
-    Json fields{{"setting", value.setting->name},
-                {"model", ModelName(*value.setting)}};
-    AddValueFields(*value.setting, value.channel, value.index, &fields);
-    report->fields["kept"].push_back(std::move(fields));
-    names.push_back(PlaceName(*value.setting, value.channel) + ": " +
-                    DescribedValue(*value.setting, value.channel, value.index));
+    report->fields["kept"].push_back(
+        ValueFields(*value.setting, value.channel, value.index));
+    names.push_back(NamedValue(*value.setting, value.channel, value.index));
   }
   if (kept.empty()) return;
   report->text +=

@@ -47,17 +47,8 @@ std::vector<StoredValue> ValuesFor(const Arguments &arguments) {
   return StoredValues(setting, channels);
 }
 
-Json FieldsOf(const StoredValue &value) {
-  Json fields{{"setting", value.setting->name},
-              {"model", ModelName(*value.setting)}};
-  AddValueFields(*value.setting, value.channel, value.index, &fields);
-  return fields;
-}
-
 std::string LineOf(const StoredValue &value, const char *what) {
-  return PlaceName(*value.setting, value.channel) + ": " +
-         DescribedValue(*value.setting, value.channel, value.index) + what +
-         "\n";
+  return NamedValue(*value.setting, value.channel, value.index) + what + "\n";
 }
 
 Report PlanOfReset(const std::vector<StoredValue> &values) {
@@ -73,7 +64,8 @@ Report PlanOfReset(const std::vector<StoredValue> &values) {
 void AddForgotten(const ForgottenStep &step, Report *report) {
   std::string why;
   for (const ForgottenValue &one : step.values) {
-    Json fields = FieldsOf(one.value);
+    Json fields =
+        ValueFields(*one.value.setting, one.value.channel, one.value.index);
     fields["forgotten"] = one.notForgotten.empty();
     report->fields["settings"].push_back(std::move(fields));
     if (one.notForgotten.empty()) {

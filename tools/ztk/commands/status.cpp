@@ -276,9 +276,7 @@ bool AddRemembered(Report *report) {
          ++channel) {
       const auto index = settings.Remembered(*setting, channel);
       if (!index) continue;
-      Json fields{{"setting", setting->name}, {"model", ModelName(*setting)}};
-      AddValueFields(*setting, channel, *index, &fields);
-      list.push_back(std::move(fields));
+      list.push_back(ValueFields(*setting, channel, *index));
       text += Row(PlaceName(*setting, channel),
                   DescribedValue(*setting, channel, *index) + "  (" +
                       ModelName(*setting) + ")");

@@ -44,13 +44,12 @@ void AddLeftAlone(const std::vector<std::string> &foreign, bool dropped,
                   Report *report) {
   report->fields["leftAlone"] = foreign;
   if (foreign.empty()) return;
-  if (report->problem) report->warnings.push_back(report->problem->message);
-  report->problem = {
-      .exit = ExitCode::Rejected,
-      .message =
-          "not undone, because another program has changed it since: " +
-          cli::Listed(foreign) +
-          (dropped ? "; ztk undo --list does not show it any more" : "")};
+  report->SetProblem(
+      {.exit = ExitCode::Rejected,
+       .message =
+           "not undone, because another program has changed it since: " +
+           cli::Listed(foreign) +
+           (dropped ? "; ztk undo --list does not show it any more" : "")});
 }
 
 // "6 MIC undone, "
@@ -73,8 +72,7 @@ const PastChange &PastOf(const Change &change,
 void AddUndone(const MadeChange &one, const PastChange &past,
                const MadeChanges &made, Report *report) {
   const Setting &setting = *past.setting;
-  Json fields{{"setting", setting.name}, {"model", ModelName(setting)}};
-  AddValueFields(setting, past.channel, one.change.index, &fields);
+  Json fields = ValueFields(setting, past.channel, one.change.index);
   fields["undoneValue"] =
       past.after ? Json(static_cast<std::int32_t>(*past.after)) : Json();
   fields["wasRemembered"] = past.before.has_value();
@@ -106,15 +104,13 @@ void AddRefused(const MadeChanges &made, Report *report) {
     if (one.result != ZTK_REJECTED) continue;
     const Change &change = one.change;
     refused.push_back(
-        PlaceName(*change.setting, change.channel) + ": " +
-        DescribedValue(*change.setting, change.channel, change.index));
+        NamedValue(*change.setting, change.channel, change.index));
   }
   if (refused.empty()) return;
-  if (report->problem) report->warnings.push_back(report->problem->message);
-  report->problem = {
-      .exit = ExitCode::Rejected,
-      .message = "cannot be restored, because the library refuses it: " +
-                 cli::Listed(refused)};
+  report->SetProblem(
+      {.exit = ExitCode::Rejected,
+       .message = "cannot be restored, because the library refuses it: " +
+                  cli::Listed(refused)});
 }
 
 // The remaining changes, without those that were rejected: a second try would

@@ -43,13 +43,6 @@ std::string KeyOf(const Setting &setting, std::uint32_t channel) {
   return Utf8(key.get());
 }
 
-// "USB input 2: 3 Post CH2 Fader"
-std::string Named(const Setting &setting, std::uint32_t channel,
-                  std::uint32_t index) {
-  return PlaceName(setting, channel) + ": " +
-         DescribedValue(setting, channel, index);
-}
-
 }  // namespace
 
 Plan::Plan() {
@@ -70,7 +63,7 @@ void Plan::AddToEach(const Setup &setup, const std::string &meaning) {
 void Plan::AddWriteRequest(const Setting &setting, std::uint32_t channel,
                            std::uint32_t index) {
   AddToEach(Writing(setting.writeRegister, setting.deviceValue(channel, index)),
-            Named(setting, channel, index));
+            NamedValue(setting, channel, index));
 }
 
 // The last channel has no selector: where a choice needs one, the library stops
@@ -93,7 +86,7 @@ void Plan::AddAnnouncement(const Change &change) {
   PlannedAnnouncement planned{
       .name = Utf8(name.get()),
       .numbers = {},
-      .meaning = Named(*change.setting, change.channel, change.index)};
+      .meaning = NamedValue(*change.setting, change.channel, change.index)};
   planned.numbers.emplace_back(Utf8(notify::kProductKey), change.product);
   if (change.setting->channels != 0) {
     planned.numbers.emplace_back(Utf8(notify::kChannelKey), change.channel);

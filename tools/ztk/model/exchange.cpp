@@ -213,8 +213,7 @@ ExportedSettings ExportSettings() {
       if (!index) continue;
       const auto choice = ChoiceAt(*setting, channel, *index);
       if (!choice) {
-        result.leftOut.push_back(PlaceName(*setting, channel) + ": " +
-                                 DescribedValue(*setting, channel, *index));
+        result.leftOut.push_back(NamedValue(*setting, channel, *index));
         continue;
       }
       Json &place = settings[ModelName(*setting)][setting->name];

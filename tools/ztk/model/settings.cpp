@@ -259,4 +259,10 @@ std::string DescribedValue(const Setting &setting, std::uint32_t channel,
          ", which is not a choice";
 }
 
+std::string NamedValue(const Setting &setting, std::uint32_t channel,
+                       std::uint32_t index) {
+  return PlaceName(setting, channel) + ": " +
+         DescribedValue(setting, channel, index);
+}
+
 }  // namespace ztk::model

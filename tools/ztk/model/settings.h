@@ -111,6 +111,10 @@ std::optional<std::uint32_t> CurrentIndex(const Setting &setting,
 std::string DescribedValue(const Setting &setting, std::uint32_t channel,
                            std::uint32_t index);
 
+// The channel and the value: "USB input 2: 3 Post CH2 Fader".
+std::string NamedValue(const Setting &setting, std::uint32_t channel,
+                       std::uint32_t index);
+
 }  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_MODEL_SETTINGS_H_

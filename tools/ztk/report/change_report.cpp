@@ -98,16 +98,15 @@ void ReportForgotten(const MadeChanges &made, const std::string &what,
                                   "; and " + ObstructionOf(made.reach).why};
     return;
   }
-  if (report->problem) report->warnings.push_back(report->problem->message);
   const bool none = std::none_of(made.changes.begin(), made.changes.end(),
                                  [](const MadeChange &change) {
                                    return change.remembered || change.forgotten;
                                  });
-  report->problem = {
-      .exit = ExitCode::NotRemembered,
-      .message = what +
-                 (none ? " is not remembered: " : ": not all is remembered: ") +
-                 remedy};
+  report->SetProblem({.exit = ExitCode::NotRemembered,
+                      .message = what +
+                                 (none ? " is not remembered: "
+                                       : ": not all is remembered: ") +
+                                 remedy});
 }
 
 void ReportAnnouncements(const MadeChanges &made, Report *report) {

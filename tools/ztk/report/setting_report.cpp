@@ -124,6 +124,13 @@ void AddValueFields(const Setting &setting, std::uint32_t channel,
   (*fields)["value"] = static_cast<std::int32_t>(index);
 }
 
+Json ValueFields(const Setting &setting, std::uint32_t channel,
+                 std::uint32_t index) {
+  Json fields{{"setting", setting.name}, {"model", ModelName(setting)}};
+  AddValueFields(setting, channel, index, &fields);
+  return fields;
+}
+
 Json ChannelField(const Setting &setting, std::uint32_t channel) {
   return setting.channels == 0 ? Json() : Json(channel + 1);
 }

@@ -52,6 +52,10 @@ std::uint32_t ParseProduct(const std::string &word);
 void AddValueFields(const Setting &setting, std::uint32_t channel,
                     std::uint32_t index, Json *fields);
 
+// The same, after "setting" and "model".
+Json ValueFields(const Setting &setting, std::uint32_t channel,
+                 std::uint32_t index);
+
 // The channel as people and programs count it, from 1.
 Json ChannelField(const Setting &setting, std::uint32_t channel);
 

@@ -18,16 +18,12 @@ namespace ztk::program {
 
 namespace {
 
-std::string NamedValue(const StoredValue &value) {
-  return PlaceName(*value.setting, value.channel) + ": " +
-         DescribedValue(*value.setting, value.channel, value.index);
+std::string Named(const StoredValue &value) {
+  return NamedValue(*value.setting, value.channel, value.index);
 }
 
 void AddSettingFields(const StoredValue &value, Report *report) {
-  Json fields;
-  fields["setting"] = value.setting->name;
-  fields["model"] = ModelName(*value.setting);
-  AddValueFields(*value.setting, value.channel, value.index, &fields);
+  Json fields = ValueFields(*value.setting, value.channel, value.index);
   fields["accepted"] = !value.refused;
   report->fields["settings"].push_back(std::move(fields));
 }
@@ -38,8 +34,7 @@ void AddSetting(const StoredValue &value, const Reach &reach, bool others,
   std::string sent = Sent(value.accepted, reach, others);
   // With a single mixer the number of mixers is not needed.
   if (value.accepted > 0 && reach.found() == 1) sent = ", sent";
-  report->text +=
-      NamedValue(value) + (value.refused ? ", refused" : sent) + "\n";
+  report->text += Named(value) + (value.refused ? ", refused" : sent) + "\n";
 }
 
 // What the user can do about a refused value.
@@ -59,14 +54,13 @@ void AddRefused(const std::vector<StoredValue> &settings, Report *report) {
   std::string remedy;
   for (const StoredValue &value : settings) {
     if (!value.refused) continue;
-    refused.push_back(NamedValue(value));
+    refused.push_back(Named(value));
     remedy = Remedy(value);
   }
   if (refused.empty()) return;
-  if (report->problem) report->warnings.push_back(report->problem->message);
-  report->problem = {.exit = ExitCode::Rejected,
-                     .message = "remembered, but refused when sent again: " +
-                                cli::Listed(refused) + "; " + remedy};
+  report->SetProblem({.exit = ExitCode::Rejected,
+                      .message = "remembered, but refused when sent again: " +
+                                 cli::Listed(refused) + "; " + remedy});
 }
 
 Report PlanOfApply(std::vector<StoredValue> settings) {
