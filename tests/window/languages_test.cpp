@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The window in the languages of the warning texts.
+#include <QApplication>
 #include <QLocale>
 #include <QPushButton>
 #include <QTest>
@@ -131,11 +132,19 @@ void LanguagesTest::CutNoText_data() { AddLanguages(); }
 
 void LanguagesTest::CutNoText() {
   const InLanguage language;
-  MainWindow window;
-  window.showState(FullState());
-  window.show();
-  SettleLayouts();
-  QCOMPARE(CutTexts(window), QStringList());
+  const QFont usual = QApplication::font();
+  for (const qreal scale : {1.0, 2.0}) {
+    QFont font = usual;
+    font.setPointSizeF(usual.pointSizeF() * scale);
+    QApplication::setFont(font);
+    MainWindow window;
+    window.showState(FullState());
+    window.show();
+    SettleLayouts();
+    const QStringList cut = CutTexts(window);
+    QApplication::setFont(usual);
+    QCOMPARE(cut, QStringList());
+  }
 }
 
 namespace {

@@ -30,6 +30,7 @@ class RowTrackerTest : public QObject {
   void KeepsAChoiceThatIsMadeBeforeTheMixersAreRead();
   void CountsAMixerThatIsGoneAsUnplugged();
   void KeepsAReasonWhileTheMixersAreTheSame();
+  void KeepsAReasonFromBeforeTheMixersAreRead();
   void KeepsWhyAChoiceWasNotStored();
 
  private:
@@ -210,6 +211,17 @@ void RowTrackerTest::KeepsAReasonWhileTheMixersAreTheSame() {
   Read({AnsweringMixer(1), AnsweringMixer(2)});
   QCOMPARE(Boost().reason, QString());
   QCOMPARE(Boost().delivery, Delivery::Idle);
+}
+
+void RowTrackerTest::KeepsAReasonFromBeforeTheMixersAreRead() {
+  StepOutcome outcome = Sent(1);
+  outcome.rows[0].delivery = Delivery::RememberedOnly;
+  outcome.rows[0].inMixers = InMixers::NotKnown;
+  outcome.rows[0].reason = "Mixer 2 does not answer.";
+  tracker_->TakeOutcome(outcome, 0);
+  Read({AnsweringMixer(1), Mixer(2, MixerAnswer::Silent)});
+  QCOMPARE(Boost().reason, QStringLiteral("Mixer 2 does not answer."));
+  QCOMPARE(Boost().delivery, Delivery::RememberedOnly);
 }
 
 void RowTrackerTest::KeepsWhyAChoiceWasNotStored() {

@@ -3,7 +3,9 @@
 // Opens the window, waits until it shows the state of all attached mixers, and
 // writes a picture of it. scripts/take-screenshots runs this program.
 //
-// Usage: take_screenshot FILE [dark] [USB channel:number of the choice]...
+// Usage: take_screenshot FILE [dark] [send] [USB channel:number of the
+// choice]...
+//   send  sends all that is remembered again first
 #include <QApplication>
 #include <QPalette>
 #include <QStyleFactory>
@@ -55,11 +57,14 @@ int main(int argc, char **argv) {
   Engine engine;
   MainWindow window;
   Connect(&window, &engine);
+  bool sends = false;
   for (int i = 2; i < argc; ++i) {
     unsigned channel = 0;
     unsigned choice = 0;
     if (std::strcmp(argv[i], "dark") == 0) {
       QApplication::setPalette(DarkPalette());
+    } else if (std::strcmp(argv[i], "send") == 0) {
+      sends = true;
     } else if (std::sscanf(argv[i], "%u:%u", &channel, &choice) == 2) {
       engine.choose(ztk::model::kInput, channel - 1, choice - 1);
     }
@@ -75,7 +80,10 @@ int main(int argc, char **argv) {
   rest.setSingleShot(true);
   rest.setInterval(1200);
   QObject::connect(&engine, &Engine::stateChanged, &rest, [&] {
-    if (IsSettled(engine.state())) rest.start();
+    if (!IsSettled(engine.state())) return;
+    if (sends) engine.resendAll();
+    sends = false;
+    rest.start();
   });
   bool saved = false;
   QObject::connect(&rest, &QTimer::timeout, &window, [&] {

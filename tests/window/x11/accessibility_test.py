@@ -122,7 +122,7 @@ class Window(unittest.TestCase):
         self.assertEqual(list(boxes), LABELS)
         self.assertEqual(boxes["USB 2 records:"].get_name(), "Post CH2 Fader")
         self.assertEqual(boxes["USB 2 records:"].get_description(),
-                         "Remembered.")
+                         "Remembered; not confirmed.")
         self.assertEqual(boxes["USB output level:"].get_name(), "-19 dB")
 
     def test_each_choice_is_read(self):

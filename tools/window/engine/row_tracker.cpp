@@ -19,9 +19,12 @@ QStringList AttachedPlaces(const QList<MixerState> &mixers) {
   return places;
 }
 
-bool Answers(const QList<MixerState> &mixers, const QString &place) {
+// Whether there is a mixer at this place that answers, or one that does not.
+bool IsThere(const QList<MixerState> &mixers, const QString &place,
+             bool answers) {
   return std::any_of(mixers.begin(), mixers.end(), [&](const MixerState &one) {
-    return one.place == place && one.answer == MixerAnswer::Answers;
+    return one.place == place &&
+           (one.answer == MixerAnswer::Answers) == answers;
   });
 }
 
@@ -118,7 +121,8 @@ void RowTracker::TakeMixers(const QList<MixerState> &mixers) {
   const QStringList places = AttachedPlaces(mixers);
   const bool answersAgain =
       std::any_of(places.begin(), places.end(), [&](const QString &place) {
-        return Answers(mixers, place) && !Answers(state_.mixers, place);
+        return IsThere(state_.mixers, place, false) &&
+               IsThere(mixers, place, true);
       });
   TakePlaces(places, answersAgain);
 }

@@ -106,8 +106,8 @@ void RoutingPage::SetActive(int channel) {
          "another circle.")
           .arg(channel + 1) +
       QLatin1Char('\n') +
-      tr("Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no "
-         "mixer has it."));
+      tr("Solid wire: every mixer has it. Dotted: not confirmed. Dashed: "
+         "only remembered."));
   for (ChoiceRow *row : rows_) {
     row->setActive(&row->setting() == &model::kInput &&
                    static_cast<int>(row->channel()) == channel);

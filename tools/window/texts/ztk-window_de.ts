@@ -542,8 +542,8 @@
             <translation>Klicken Sie auf einen Kreis, um ihn auf USB %1 aufzunehmen, oder ziehen Sie eine Zahl auf einen anderen Kreis.</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>Durchgezogene Linie: Jedes Mischpult hat es. Gepunktet: nicht bestätigt. Gestrichelt: Kein Mischpult hat es.</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>Durchgezogene Linie: Jedes Mischpult hat es. Gepunktet: nicht bestätigt. Gestrichelt: nur gespeichert.</translation>
         </message>
     </context>
     <context>

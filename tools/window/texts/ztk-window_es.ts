@@ -542,8 +542,8 @@
             <translation>Haga clic en un círculo para grabarlo en USB %1, o arrastre un número a otro círculo.</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>Línea continua: todas las mesas lo tienen. Punteada: sin confirmar. Discontinua: ninguna mesa lo tiene.</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>Línea continua: todas las mesas lo tienen. Punteada: sin confirmar. Discontinua: solo guardado.</translation>
         </message>
     </context>
     <context>

@@ -542,8 +542,8 @@
             <translation>Cliquez sur un cercle pour l’enregistrer sur USB %1, ou faites glisser un numéro vers un autre cercle.</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>Trait plein : toutes les tables l’ont. Pointillé : non confirmé. Tirets : aucune table ne l’a.</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>Trait plein : toutes les tables l’ont. Pointillé : non confirmé. Tirets : seulement enregistré.</translation>
         </message>
     </context>
     <context>

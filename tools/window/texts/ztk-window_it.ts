@@ -542,8 +542,8 @@
             <translation>Fare clic su un cerchio per registrarlo su USB %1, o trascinare un numero su un altro cerchio.</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>Linea continua: ogni mixer lo ha. Punteggiata: non confermato. Tratteggiata: nessun mixer lo ha.</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>Linea continua: ogni mixer lo ha. Punteggiata: non confermato. Tratteggiata: solo memorizzato.</translation>
         </message>
     </context>
     <context>

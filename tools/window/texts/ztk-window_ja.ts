@@ -541,8 +541,8 @@
             <translation>円をクリックすると USB %1 に録音します。番号を別の円へドラッグすることもできます。</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>実線: すべてのミキサーに届いています。点線: 未確認。破線: ミキサーに届いていません。</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>実線: すべてのミキサーに届いています。点線: 未確認。破線: 保存のみ。</translation>
         </message>
     </context>
     <context>

@@ -541,8 +541,8 @@
             <translation>원을 클릭하면 USB %1에 녹음합니다. 번호를 다른 원으로 끌 수도 있습니다.</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>실선: 모든 믹서에 있음. 점선: 확인되지 않음. 파선: 믹서에 없음.</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>실선: 모든 믹서에 있음. 점선: 확인되지 않음. 파선: 저장만 됨.</translation>
         </message>
     </context>
     <context>

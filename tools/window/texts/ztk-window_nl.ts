@@ -542,8 +542,8 @@
             <translation>Klik op een cirkel om die op USB %1 op te nemen, of sleep een nummer naar een andere cirkel.</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>Doorgetrokken lijn: elk mengpaneel heeft het. Gestippeld: niet bevestigd. Gestreept: geen mengpaneel heeft het.</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>Doorgetrokken lijn: elk mengpaneel heeft het. Gestippeld: niet bevestigd. Gestreept: alleen opgeslagen.</translation>
         </message>
     </context>
     <context>

@@ -542,8 +542,8 @@
             <translation>Clique num círculo para o gravar em USB %1, ou arraste um número para outro círculo.</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>Linha contínua: todas as mesas o têm. Pontilhada: não confirmado. Tracejada: nenhuma mesa o tem.</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>Linha contínua: todas as mesas o têm. Pontilhada: não confirmado. Tracejada: só guardado.</translation>
         </message>
     </context>
     <context>

@@ -543,8 +543,8 @@
             <translation>Щёлкните кружок, чтобы записывать его на USB %1, или перетащите номер на другой кружок.</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>Сплошная линия: есть на каждом микшере. Точечная: не подтверждено. Штриховая: нет ни на одном микшере.</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>Сплошная линия: есть на каждом микшере. Точечная: не подтверждено. Штриховая: только сохранено.</translation>
         </message>
     </context>
     <context>

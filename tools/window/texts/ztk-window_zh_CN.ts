@@ -541,8 +541,8 @@
             <translation>单击圆圈以在 USB %1 上录制，或将数字拖到另一个圆圈。</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>实线：每台混音台都有。点线：未确认。虚线：混音台都没有。</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>实线：每台混音台都有。点线：未确认。虚线：仅保存。</translation>
         </message>
     </context>
     <context>

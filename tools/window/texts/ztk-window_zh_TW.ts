@@ -541,8 +541,8 @@
             <translation>按一下圓圈以在 USB %1 上錄製，或將數字拖到另一個圓圈。</translation>
         </message>
         <message>
-            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: no mixer has it.</source>
-            <translation>實線：每台混音器都有。點線：未確認。虛線：混音器都沒有。</translation>
+            <source>Solid wire: every mixer has it. Dotted: not confirmed. Dashed: only remembered.</source>
+            <translation>實線：每台混音器都有。點線：未確認。虛線：僅儲存。</translation>
         </message>
     </context>
     <context>
