@@ -129,6 +129,13 @@ SCENES = (
     (ONE, "ztk doctor --json; ztk doctor --report report.json --json; rm report.json"),
     (NONE, "HOME=/nonexistent ztk doctor --json"),
     (("-n", "2", "--fault", "2:stall"), "ztk doctor --json"),
+    # A change whose effect another program has taken back.
+    (ONE, """
+        files=$HOME/.config/tarvix/Preferences
+        ztk boost set 2 --json; cp -r $files $HOME/kept
+        ztk boost set 3 --json; rm -r $files; mv $HOME/kept $files
+        ztk undo --json
+        """),
     # No message bus.
     (ONE, """
         export DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent
