@@ -134,7 +134,8 @@ cli::Command MakeDoctor() {
       "doctor", "Find out why something does not work, and what to do",
       "Checks the mixers, the settings files, the session's message bus and\n"
       "the warning texts. Nothing is changed; each mixer receives one query.\n"
-      "The exit status is 1 when a problem is found; a note is not a problem.",
+      "The exit status is 1 when a problem is found; a note is not a problem.\n"
+      "With --quiet only the problems are printed.",
       "ztk doctor", Diagnose);
   command.options = {{.names = Parameter::kReportFile,
                       .value = "FILE",
@@ -170,7 +171,9 @@ cli::Command MakeWatch() {
   return MakeOther(
       "watch", "Show changes by any program, and mixers that come and go",
       "Shows the changes that all programs of your session make, and mixers\n"
-      "that are plugged in or unplugged. Ctrl-C ends it, with exit status 0.",
+      "that are plugged in or unplugged. Ctrl-C ends it, with exit status 0.\n"
+      "Without a message bus only mixers are shown, and the exit status is 5.\n"
+      "--quiet is not accepted.",
       "ztk watch --json", Watch);
 }
 
