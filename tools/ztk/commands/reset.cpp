@@ -23,17 +23,15 @@ const Setting &SettingNamed(const std::string &word) {
                                      cli::NearestAndAccepted(word, names));
 }
 
-void RequireReadable(const Setting &setting) {
-  const std::string why = WhyUnreadable(setting);
-  if (why.empty()) return;
-  throw Failure(ExitCode::Failed, "nothing was forgotten: cannot read " + why);
-}
+constexpr char kNothingForgotten[] = "nothing was forgotten: cannot read ";
 
 // The values that the arguments name: those of a channel, of a setting, or all.
 std::vector<StoredValue> ValuesFor(const Arguments &arguments) {
   const std::string *word = arguments.Find(Parameter::kSetting);
   if (word == nullptr) {
-    for (const Setting *setting : AllSettings()) RequireReadable(*setting);
+    for (const Setting *setting : AllSettings()) {
+      RequireReadable(*setting, kNothingForgotten);
+    }
     return AllStoredValues();
   }
   const Setting &setting = SettingNamed(*word);
@@ -43,7 +41,7 @@ std::vector<StoredValue> ValuesFor(const Arguments &arguments) {
                       cli::Quoted(arguments.One(Parameter::kChannel)) + " out");
   }
   const std::vector<std::uint32_t> channels = ChannelsFor(setting, arguments);
-  RequireReadable(setting);
+  RequireReadable(setting, kNothingForgotten);
   return StoredValues(setting, channels);
 }
 

@@ -37,60 +37,57 @@ std::string Hex(unsigned number) {
   return text.data();
 }
 
-Fact Firmware(const MixerStatus &mixer) {
-  Fact fact{.name = "firmware",
-            .title = "firmware",
-            .value = {},
-            .words = mixer.firmware.why};
-  if (!mixer.firmware.value) return fact;
-  const std::uint16_t number = *mixer.firmware.value;
-  // The mixer sends a number; the version is derived from its bytes.
+// Without a value, the words give the reason.
+template <typename Value>
+Fact MakeFact(const char *name, const char *title,
+              const MixerFact<Value> &given,
+              void (*show)(const Value &value, Fact *fact)) {
+  Fact fact{.name = name, .title = title, .value = {}, .words = given.why};
+  if (given.value) show(*given.value, &fact);
+  return fact;
+}
+
+// The mixer sends a number; the version is derived from its bytes.
+void ShowFirmware(const std::uint16_t &number, Fact *fact) {
   const std::string version = FirmwareVersion(number);
-  fact.words = IsWholeFirmware(number) ? version : "unknown";
-  fact.value = {{"number", number}, {"hex", Hex(number)}, {"derived", version}};
-  return fact;
+  fact->words = IsWholeFirmware(number) ? version : "unknown";
+  fact->value = {
+      {"number", number}, {"hex", Hex(number)}, {"derived", version}};
 }
 
-Fact CertificationLevel(const MixerStatus &mixer) {
-  Fact fact{.name = "certificationLevel",
-            .title = "certified",
-            .value = {},
-            .words = mixer.certificationLevel.why};
-  if (!mixer.certificationLevel.value) return fact;
-  fact.value = *mixer.certificationLevel.value;
-  const std::uint32_t level = *mixer.certificationLevel.value;
-  fact.words =
+void ShowLevel(const std::uint32_t &level, Fact *fact) {
+  fact->value = level;
+  fact->words =
       IsWholeLevel(level) ? "level " + std::to_string(level) : "unknown";
-  return fact;
 }
 
-Fact Selectors(const MixerStatus &mixer) {
-  Fact fact{.name = "selectors",
-            .title = "selectors",
-            .value = {},
-            .words = mixer.selectors.why};
-  if (!mixer.selectors.value) return fact;
-  fact.value = Json::array();
+void ShowSelectors(const SelectorPositions &positions, Fact *fact) {
+  fact->value = Json::array();
+  fact->words = "";
   int channel = 0;
-  for (const auto &position : *mixer.selectors.value) {
-    fact.value.push_back(position ? Json(*position) : Json());
-    if (channel > 0) fact.words += "   ";
-    fact.words += "CH" + std::to_string(++channel) + " " +
-                  (position ? std::to_string(*position) : "unknown");
+  for (const auto &position : positions) {
+    fact->value.push_back(position ? Json(*position) : Json());
+    if (channel > 0) fact->words += "   ";
+    fact->words += "CH" + std::to_string(++channel) + " " +
+                   (position ? std::to_string(*position) : "unknown");
   }
-  return fact;
 }
 
-Fact Serato(const MixerStatus &mixer) {
-  Fact fact{.name = "serato",
-            .title = "Serato",
-            .value = {},
-            .words = mixer.seratoActive.why};
-  if (!mixer.seratoActive.value) return fact;
-  const bool active = *mixer.seratoActive.value;
-  fact.value = active ? "active" : "inactive";
-  fact.words = active ? "active" : "not active";
-  return fact;
+void ShowSerato(const bool &active, Fact *fact) {
+  fact->value = active ? "active" : "inactive";
+  fact->words = active ? "active" : "not active";
+}
+
+Fact Firmware(const MixerStatus &mixer) {
+  return MakeFact("firmware", "firmware", mixer.firmware, ShowFirmware);
+}
+
+std::vector<Fact> FactsOf(const MixerStatus &mixer) {
+  return {Firmware(mixer),
+          MakeFact("certificationLevel", "certified", mixer.certificationLevel,
+                   ShowLevel),
+          MakeFact("selectors", "selectors", mixer.selectors, ShowSelectors),
+          MakeFact("serato", "Serato", mixer.seratoActive, ShowSerato)};
 }
 
 std::string Row(const std::string &title, const std::string &words) {
@@ -129,11 +126,6 @@ std::string StateWords(const MixerStatus &mixer) {
   return "cannot be asked";
 }
 
-std::vector<Fact> FactsOf(const MixerStatus &mixer) {
-  return {Firmware(mixer), CertificationLevel(mixer), Selectors(mixer),
-          Serato(mixer)};
-}
-
 Json FieldsOf(const MixerStatus &mixer) {
   Json fields{{"position", mixer.mixer.number},
               {"reachable", IsOpened(mixer)},
@@ -145,7 +137,6 @@ Json FieldsOf(const MixerStatus &mixer) {
     return fields;
   }
   for (Fact &fact : FactsOf(mixer)) {
-    // When the value is null, the words give the reason.
     if (fact.value.is_null()) fields["unanswered"][fact.name] = fact.words;
     fields[fact.name] = std::move(fact.value);
   }

@@ -18,6 +18,8 @@ namespace ztk::program {
 
 namespace {
 
+constexpr char kNothingSent[] = "nothing was sent: cannot read ";
+
 std::string Named(const StoredValue &value) {
   return NamedValue(*value.setting, value.channel, value.index);
 }
@@ -165,13 +167,6 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
   return report;
 }
 
-// A value that cannot be read cannot be sent.
-void RequireReadable(const Setting &setting) {
-  const std::string why = WhyUnreadable(setting);
-  if (why.empty()) return;
-  throw Failure(ExitCode::Failed, "nothing was sent: cannot read " + why);
-}
-
 }  // namespace
 
 Report ApplySetting(const Setting &setting, const Arguments &arguments) {
@@ -184,7 +179,7 @@ Report ApplySetting(const Setting &setting, const Arguments &arguments) {
                   "nothing is remembered for the " + ProductName(product) +
                       ": " + Belonging(setting) + " Leave --product out");
   }
-  RequireReadable(setting);
+  RequireReadable(setting, kNothingSent);
   return Apply(StoredValues(setting, channels),
                channels.size() == 1 ? PlaceName(setting, channels.front())
                                     : setting.title,
@@ -198,7 +193,7 @@ std::vector<StoredValue> ValuesOf(std::optional<std::uint32_t> product) {
   std::vector<StoredValue> values;
   for (const Setting *setting : AllSettings()) {
     if (product && setting->product != *product) continue;
-    RequireReadable(*setting);
+    RequireReadable(*setting, kNothingSent);
     for (const StoredValue &value :
          StoredValues(*setting, AllChannels(*setting))) {
       values.push_back(value);

@@ -84,6 +84,11 @@ std::string WarnOfUnreadable(const Setting &setting, Report *report) {
   return why;
 }
 
+void RequireReadable(const Setting &setting, const std::string &what) {
+  const std::string why = WhyUnreadable(setting);
+  if (!why.empty()) throw Failure(ExitCode::Failed, what + why);
+}
+
 void WarnOfOtherModel(const Setting &setting, const Reach &reach,
                       Report *report) {
   if (setting.product == kOwnProduct || reach.answered() == 0) return;

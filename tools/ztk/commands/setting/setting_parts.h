@@ -56,6 +56,10 @@ void AddSettingNames(const Setting &setting, std::uint32_t product,
 // the reason; empty when it can be read.
 std::string WarnOfUnreadable(const Setting &setting, Report *report);
 
+// Throws where the settings file cannot be read: what it holds cannot be sent
+// or forgotten. `what` begins the message.
+void RequireReadable(const Setting &setting, const std::string &what);
+
 // Adds a warning where something was sent, and every attached mixer calls
 // itself another model than the one that the setting belongs to.
 void WarnOfOtherModel(const Setting &setting, const Reach &reach,
