@@ -80,6 +80,17 @@ TEST_F(DoctorSettings, NameAFileThatStandsWhereAFolderHasToBe) {
   EXPECT_TRUE(Helps(finding, "settings"));
 }
 
+TEST_F(DoctorSettings, NameAHomeFolderThatDoesNotExist) {
+  const Json finding =
+      OnlyOneIn("settings", Diagnosis("unset XDG_CONFIG_HOME XDG_STATE_HOME\n"
+                                      "export HOME=$DIR/none/user\n"));
+  const std::string home = home_.path().string() + "/none/user";
+  EXPECT_EQ(Word(finding, "id"), "settings-not-writable");
+  EXPECT_EQ(Word(finding, "finding"),
+            "settings are not remembered: there is no folder " + home);
+  EXPECT_EQ(Word(finding, "command"), "mkdir -p " + home);
+}
+
 TEST_F(DoctorSettings, AreNotWritableOnAFileSystemThatIsReadOnly) {
   Remember("VRM-D6", {{"MaxLevel", 1}});
   const Result result =

@@ -49,7 +49,7 @@ std::string MoveAwayCommand(const std::string &path);
 // A command that makes a read-only file system writable.
 std::string MakeWritableCommand(const std::string &folder);
 // Notes about the folder of the settings.
-Findings FindOddLibrary(const std::string &library);
+Findings FindUserFolderNotes(const std::string &library);
 // Explains that the bundle of texts is missing, or was found but has no text.
 Finding ExplainTexts(bool found);
 

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "platform/common/file_access.h"
 #include "platform/paths.h"
 #include "platform/property_list.h"
 #include "platform/text.h"
@@ -39,7 +40,8 @@ std::string Target(const std::string &path) {
 
 void FindUnreadable(const std::string &path, Findings *findings) {
   struct stat status {};
-  // A file where a folder is needed is the problem.
+  // A missing file is no problem. FindUnwritable() reports a file in place of a
+  // folder (ENOTDIR).
   if (!Exists(path, &status) && (errno == ENOENT || errno == ENOTDIR)) return;
   platform::property_list::Dictionary *settings =
       WithText(path, platform::property_list::ReadFile);
@@ -127,12 +129,22 @@ Finding Unwritable(const std::string &folder, int error) {
   return finding;
 }
 
-// The first setter makes the missing folders of the path: the last existing
-// folder decides whether that is possible.
+// The first setter creates missing folders, but no missing home folder. The
+// last existing folder decides whether that is possible.
 void FindUnwritable(std::string folder, Findings *findings) {
   struct stat status {};
-  while (folder != "/" && !Exists(folder, &status)) {
-    // The next round finds a file in place of a folder.
+  // Also ends at a file in place of a folder.
+  for (int missing = 0; !Exists(folder, &status); ++missing) {
+    if (missing == platform::kMaxMissingFolders) {
+      findings->push_back({.id = "settings-not-writable",
+                           .what = "settings are not remembered: there is no "
+                                   "folder " +
+                                   folder,
+                           .cause = "missing folders are created inside a "
+                                    "home folder, but not the home folder",
+                           .command = "mkdir -p " + ShellQuoted(folder)});
+      return;
+    }
     folder = FolderOf(folder);
   }
   if (!S_ISDIR(status.st_mode)) {
@@ -157,8 +169,8 @@ void FindUnwritable(std::string folder, Findings *findings) {
 
 Findings CheckSettingsFiles(const std::vector<std::string> &models,
                             std::string *good) {
-  const platform::text::OwnedText library(platform::paths::UserLibrary());
-  if (library.get() == nullptr) {
+  const platform::text::OwnedText userFolder(platform::paths::UserLibrary());
+  if (userFolder.get() == nullptr) {
     return {{.id = "settings-no-home",
              .what = "settings are not remembered: you have no home folder",
              .cause = "HOME is not set, and the list of users has no entry for "
@@ -166,7 +178,7 @@ Findings CheckSettingsFiles(const std::vector<std::string> &models,
              .command = "export HOME=/path/to/your/home"}};
   }
   Findings findings;
-  const std::string folder = Utf8(library.get()) + "/Preferences";
+  const std::string folder = Utf8(userFolder.get()) + "/Preferences";
   for (const std::string &model : models) {
     const platform::text::OwnedText file(WithText(model, store::MakePath));
     const std::string path = Utf8(file.get());
@@ -179,7 +191,7 @@ Findings CheckSettingsFiles(const std::vector<std::string> &models,
     }
   }
   FindUnwritable(folder, &findings);
-  for (const Finding &finding : FindOddLibrary(Utf8(library.get()))) {
+  for (const Finding &finding : FindUserFolderNotes(Utf8(userFolder.get()))) {
     findings.push_back(finding);
   }
   *good = "they can be read and written in " + folder;

@@ -330,7 +330,7 @@ std::string MakeWritableCommand(const std::string &folder) {
          ShellQuoted(folder) + ")\"";
 }
 
-Findings FindOddLibrary(const std::string &library) {
+Findings FindUserFolderNotes(const std::string &library) {
   if (!library.ends_with("/Library")) return {};
   return {
       {.id = "settings-shared",

@@ -54,7 +54,7 @@ std::string MakeWritableCommand(const std::string &folder) {
   return "sudo mount -uw " + ShellQuoted(known ? system.f_mntonname : folder);
 }
 
-Findings FindOddLibrary(const std::string & /*library*/) { return {}; }
+Findings FindUserFolderNotes(const std::string & /*library*/) { return {}; }
 
 Finding ExplainTexts(bool found) {
   const std::string why = WhyInstalledIsNotFound();
