@@ -389,7 +389,7 @@ ZTK_EXPORT ZTKResult ZTK_GetCurrentUSBInputAudioIndex(uint32_t productId,
 /**
  * Sends the stored choice of a channel to every mixer again.
  *
- * Nothing is stored or announced, no selector is read.
+ * Stores and announces nothing, and reads no selector.
  *
  * @param productId  Served: 10.
  * @param channel    0 to 5, as ZTK_GetCurrentUSBInputAudioIndex() takes it.
@@ -836,7 +836,7 @@ ZTK_EXPORT ZTKResult ZTK_GetMixerSeratoActiveStatus(uint32_t productId,
  * for each change. After unregistering it does not run any more.
  *
  * The functions that register take:
- * - productId: the comment of each function tells which products it serves.
+ * - productId: the comment of each function names the products that it serves.
  * - callback: the function to call. It runs on the event loop that is described
  *   at the beginning of this file. Null means that nothing is called.
  * - context: a pointer that is passed to the callback. It must stay valid until

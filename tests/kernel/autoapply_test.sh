@@ -96,44 +96,44 @@ fi
 until_true all_mixers
 udevadm settle
 
-expect_start "it is off at first" "Off: " "$(as_guest ztk autoapply status)"
+expect_start "autoapply is off at first" "Off: " "$(as_guest ztk autoapply status)"
 as_guest ztk input set 2 post >/dev/null
 as_guest ztk boost set "-10 dB" >/dev/null
 plug_in_again
-expect "plugging in sends nothing while it is off" "" "$(writes)"
-expect "and nothing is in the journal" 0 "$(runs_logged)"
+expect "plugging in sends nothing while autoapply is off" "" "$(writes)"
+expect "the journal has no entry of ztk-apply" 0 "$(runs_logged)"
 
-expect_start "the user turns it on" "On: " "$(as_guest ztk autoapply on)"
-expect "which leaves one link behind" ztk-apply@.service \
+expect_start "the user turns autoapply on" "On: " "$(as_guest ztk autoapply on)"
+expect "turning it on creates one link" ztk-apply@.service \
   "$(ls /home/guest/.config/systemd/user)"
-expect "and sends nothing by itself" "" "$(writes)"
+expect "turning it on sends nothing" "" "$(writes)"
 
 as_guest mv /home/guest/.config/tarvix /home/guest/away
 as_guest systemctl --user start ztk-apply@by-hand.service
 until_true something_logged
-expect "the journal tells that there was nothing to send" \
+expect "the journal says that there was nothing to send" \
   "Nothing is remembered for any model: nothing to send." \
   "$(journalctl --quiet --output cat -t ztk-apply)"
-expect "and nothing was sent" "" "$(writes)"
+expect "nothing was sent without a settings file" "" "$(writes)"
 as_guest mv /home/guest/away /home/guest/.config/tarvix
 
 plug_in_again
-expect "plugging in sends what is remembered, and only that" \
+expect "plugging in sends only the stored choices" \
   "mixer 1: 40 03 0200 8003 0000
 mixer 1: 40 03 0206 8002 0000
 mixer 2: 40 03 0200 8003 0000
 mixer 2: 40 03 0206 8002 0000" "$(writes | sort -u)"
-expect_start "the journal tells of it" \
+expect_start "the journal names the sent choices" \
   "USB input 2: 3 Post CH2 Fader, sent" \
   "$(journalctl --quiet --output cat -t ztk-apply | sed -n 2p)"
-expect "no run of it failed" "" \
+expect "no run of ztk-apply failed" "" \
   "$(as_guest systemctl --user list-units --failed --no-legend)"
 
-expect_start "the user turns it off" "Off: " "$(as_guest ztk autoapply off)"
-expect "which leaves nothing behind" "" \
+expect_start "the user turns autoapply off" "Off: " "$(as_guest ztk autoapply off)"
+expect "turning it off removes the link" "" \
   "$(find /home/guest/.config/systemd -type l 2>/dev/null)"
 plug_in_again
-expect "plugging in sends nothing any more" "" "$(writes)"
+expect "plugging in sends nothing after that" "" "$(writes)"
 
 as_guest ztk autoapply on >/dev/null
 user_manager=user@$(id -u guest).service

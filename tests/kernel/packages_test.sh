@@ -43,11 +43,11 @@ may_open() {
     bash "$node"
 }
 
-expect "before, the user may not open the mixer" no "$(may_open)"
+expect "without the packages the user may not open the mixer" no "$(may_open)"
 dpkg --install "$packages"/libztkfunc{1,-common}_*.deb "$packages"/ztk_*.deb \
   >/dev/null
 udevadm settle
-expect "installing lets the user open it, where it is" yes "$(may_open)"
-expect "and set it" "mixer 1: 40 03 0109 8002 0000" "$(
+expect "after installing, the user may open the attached mixer" yes "$(may_open)"
+expect "the user may set the mixer" "mixer 1: 40 03 0109 8002 0000" "$(
   runuser -u guest -- env HOME=/home/guest ztk input set 1 mic &>/dev/null
   grep ': 40 ' "$requests")"

@@ -101,7 +101,7 @@ plug_in_again() {
 everybody=$(open_to root)
 grep -qx 'Foot Switch' <<<"$everybody" ||
   fail "no other product of the maker's is attached: $everybody"
-expect "without the rule root alone reaches the mixers" "2 0 0" \
+expect "without the rule only root can open the mixers" "2 0 0" \
   "$(reachable root) $(reachable guest) $(reachable nobody)"
 
 # The rule was installed after the mixers were plugged in.
@@ -111,7 +111,7 @@ expect "the doctor sees that the rule came too late" \
   "the rule that grants you access was installed after the mixer was plugged \
 in; this command has the same effect as plugging it in again" "$cause"
 type_command
-expect "and the one command lets the user set both mixers" \
+expect "the command of the doctor lets the user set both mixers" \
   "mixer 1: 40 03 0107 8002 0000
 mixer 2: 40 03 0107 8002 0000" "$(sent_for guest "cross fader a")"
 rm "/lib/udev/rules.d/${rules##*/}"
@@ -123,10 +123,10 @@ ask_doctor guest
 expect "the doctor sees that the rule is missing" \
   "only root may open it, because no udev rule grants you access" "$cause"
 type_command
-expect "and the one command lets the user set both mixers" \
+expect "the command of the doctor lets the user set both mixers" \
   "mixer 1: 40 03 0108 8002 0000
 mixer 2: 40 03 0108 8002 0000" "$(sent_for guest "cross fader b")"
-expect "but nobody else" 0 "$(reachable nobody)"
+expect "another user still cannot open the mixers" 0 "$(reachable nobody)"
 rm /etc/udev/rules.d/70-tarvix-mixer.rules
 udevadm control --reload
 
@@ -137,23 +137,23 @@ plug_in_again
 # This has the same effect as plugging in the other devices again.
 udevadm trigger --subsystem-match=usb --action=add --settle
 
-expect "the user of the session reaches both mixers" 2 "$(reachable guest)"
-expect "and may set them" "mixer 1: 40 03 0109 8002 0000
+expect "the user of the session can open both mixers" 2 "$(reachable guest)"
+expect "the user of the session can set both mixers" "mixer 1: 40 03 0109 8002 0000
 mixer 2: 40 03 0109 8002 0000" "$(sent_for guest mic)"
-expect "another user does not reach them" 0 "$(reachable nobody)"
+expect "another user cannot open the mixers" 0 "$(reachable nobody)"
 status=0
 as nobody "$bin/ztk" input set 1 mic &>/dev/null || status=$?
-expect "and ztk exits with 3" 3 "$status"
-expect "nothing else is open to the user of the session" VRM-D6 \
+expect "ztk of another user exits with 3" 3 "$status"
+expect "the user of the session can open no other device" VRM-D6 \
   "$(open_to guest)"
-expect "nothing at all is open to another user" "" "$(open_to nobody)"
+expect "another user can open no device" "" "$(open_to nobody)"
 
 systemctl stop guest-session
 for ((tries = 0; tries < 100; ++tries)); do
   [[ $(reachable guest) != 0 ]] || break
   sleep 0.1
 done
-expect "who has logged out reaches no mixer" 0 "$(reachable guest)"
+expect "after logging out, the user can open no mixer" 0 "$(reachable guest)"
 
 # Tests the same user in other sessions: over ssh, and in a service of the system.
 ask_doctor guest SSH_CONNECTION="::1 9 ::1 22"
@@ -161,12 +161,12 @@ expect "the doctor sees that the user came over ssh" \
   "the rule grants access to the user who is logged in at this seat, and you are \
 logged in over ssh; this grants guest access from everywhere" "$cause"
 ask_doctor guest
-expect "the doctor sees that it runs in a service" \
+expect "the doctor sees that the command runs in a service" \
   "the rule grants access to the user who is logged in at this seat, and \
 guest-command.service belongs to no seat; this grants guest access from \
 everywhere" "$cause"
 type_command
-expect "and the one command lets the user set both mixers" \
+expect "the command of the doctor lets the user set both mixers" \
   "mixer 1: 40 03 010a 8002 0000
 mixer 2: 40 03 010a 8002 0000" "$(sent_for guest "rec out")"
-expect "but nobody else" 0 "$(reachable nobody)"
+expect "another user still cannot open the mixers" 0 "$(reachable nobody)"

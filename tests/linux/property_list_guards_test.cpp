@@ -220,7 +220,7 @@ TEST_F(BadFile, IsKeptUnderTheFirstFreeNumber) {
   EXPECT_EQ(ContentOf(path_ + ".unreadable-2"), "of another time");
   ASSERT_TRUE(Write());
   EXPECT_EQ(ztk::test::NamesIn(folder_.path()).size(), 5U)
-      << "a readable file is not kept";
+      << "a readable file was kept";
 }
 
 TEST_F(BadFile, IsNotKeptIfAnotherFileIsReplaced) {

@@ -271,7 +271,8 @@ TEST_F(WriteAtomically, KeepsTheOldFileOnAFullFileSystem) {
     std::filesystem::remove(folder_ / "filler");
     return Write(path_) && ContentOf(path_) == both_ ? 0 : 4;
   });
-  if (code == kCannotMount) GTEST_SKIP() << "no tmpfs may be mounted here";
+  if (code == kCannotMount)
+    GTEST_SKIP() << "this process may not mount a tmpfs";
   EXPECT_EQ(code, 0);
 }
 
@@ -306,7 +307,8 @@ TEST_F(OfAnotherUser, AFileWithoutPermissionIsRenamedAndReplaced) {
   Put(path_, old_);
   ASSERT_EQ(chmod(path_.c_str(), 0600), 0);
   const std::string protection = ContentOf("/proc/sys/fs/protected_hardlinks");
-  if (protection != "1\n") GTEST_SKIP() << "anyone may link any file here";
+  if (protection != "1\n")
+    GTEST_SKIP() << "this system lets any user link any file";
   EXPECT_EQ(ReadAndWritten(), 2);
   EXPECT_EQ(ContentOf(path_), fresh_);
   EXPECT_EQ(ContentOf(path_ + ".unreadable-1"), old_);
@@ -339,7 +341,7 @@ TEST_F(OfAnotherUser, TheUsersOwnFileWithoutPermissionIsKept) {
   ASSERT_EQ(chmod(path_.c_str(), 0), 0);
   EXPECT_EQ(ReadAndWritten(), 2);
   EXPECT_EQ(ContentOf(path_), fresh_);
-  EXPECT_EQ(ModeOf(path_), 0600U) << "otherwise the next write keeps it again";
+  EXPECT_EQ(ModeOf(path_), 0600U) << "the next write would keep this file too";
   EXPECT_EQ(ModeOf(path_ + ".unreadable-1"), 0U);
   ASSERT_EQ(chmod((path_ + ".unreadable-1").c_str(), 0600), 0);
   EXPECT_EQ(ContentOf(path_ + ".unreadable-1"), old_);
@@ -359,7 +361,8 @@ TEST_F(OfAnotherUser, AReadOnlyFolderKeepsItsFile) {
 TEST_F(OfAnotherUser, AFileThatCannotBeLinkedIsCopied) {
   if (!asRoot_) GTEST_SKIP() << kNeedsRoot;
   const std::string protection = ContentOf("/proc/sys/fs/protected_hardlinks");
-  if (protection != "1\n") GTEST_SKIP() << "anyone may link any file here";
+  if (protection != "1\n")
+    GTEST_SKIP() << "this system lets any user link any file";
   // Only users who may write a file may link it. This file belongs to root.
   Put(path_, "broken");
   ASSERT_EQ(chmod(path_.c_str(), 0644), 0);

@@ -136,7 +136,8 @@ TEST_F(Locking, DoesNotPreventAChangeIfAnotherProcessKeepsTheLock) {
   ASSERT_EQ(flock(other, LOCK_EX), 0);
   EXPECT_EQ(Set(path_), 0);
   EXPECT_EQ(ContentOf(path_), both_);
-  EXPECT_TRUE(FolderIsLocked(folder_.path())) << "by the other process";
+  EXPECT_TRUE(FolderIsLocked(folder_.path()))
+      << "the other process unlocked it";
   close(other);
 }
 

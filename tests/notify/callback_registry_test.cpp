@@ -143,7 +143,8 @@ TEST_F(Register, StoresCallbackAndContextOnlyInTheSlotOfTheProduct) {
     }
     family.registerOne(family.productId, false, nullptr);
     family.unregister(family.productId, nullptr);
-    EXPECT_TRUE(TablesAreBlank()) << "another family's tables were written";
+    EXPECT_TRUE(TablesAreBlank())
+        << "the tables of another setting were written";
   }
 }
 

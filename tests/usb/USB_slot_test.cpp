@@ -37,7 +37,8 @@ class ReferencesTest : public SlotTest {
     closeUSB(&slot);
     Held expected;
     expected.interfaces = CurrentWorld().held.interfaces;
-    EXPECT_EQ(CurrentWorld().held, expected) << "something else is held too";
+    EXPECT_EQ(CurrentWorld().held, expected)
+        << "the slots hold other objects too";
     return CurrentWorld().held.interfaces;
   }
 };

@@ -85,7 +85,8 @@ TEST_F(DeviceRequestTest, ReturnsTheResultUnchanged) {
     std::uint16_t word = 0;
     std::uint16_t length = 0;
     EXPECT_EQ(DeviceRequest(device, 0x40, 3, 0, 0x8002, &word, &length), code);
-    EXPECT_THAT(TakeCalls(), ElementsAre("request")) << "it was tried again";
+    EXPECT_THAT(TakeCalls(), ElementsAre("request"))
+        << "the request was repeated";
   }
 }
 

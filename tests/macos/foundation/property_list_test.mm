@@ -79,7 +79,7 @@ TEST_F(MacPropertyList, ReadsTextsAsInTheTableForBothPorts) {
 }
 
 TEST_F(MacPropertyList, ReadsEntriesAsInTheTableForBothPorts) {
-  if (kOnGNUstep) GTEST_SKIP() << "GNUstep reads numbers by other rules";
+  if (kOnGNUstep) GTEST_SKIP() << "GNUstep reads numbers differently";
   for (const EntryRow &row : kEntryRows) {
     if (row.onIntel && !kIsIntel) continue;
     SCOPED_TRACE(row.element);
@@ -93,7 +93,7 @@ TEST_F(MacPropertyList, ReadsEntriesAsInTheTableForBothPorts) {
 }
 
 TEST_F(MacPropertyList, ReadsTheFormsAsInTheTable) {
-  if (kOnGNUstep) GTEST_SKIP() << "GNUstep reads other forms";
+  if (kOnGNUstep) GTEST_SKIP() << "GNUstep reads different forms of the file";
   for (const FormRow &row : FormRows()) {
     SCOPED_TRACE(row.name);
     WriteAll(File(), row.bytes);
