@@ -302,8 +302,8 @@ TEST_F(Get, SaysWhyThereIsNothingToReadForAnotherModel) {
   EXPECT_EQ(result.status, 4);
   EXPECT_EQ(result.out, "");
   EXPECT_EQ(result.err,
-            "ztk: nothing can be read for the VRM-B5: USB input audio belongs "
-            "to the VRM-D6. Leave --product out\n");
+            "ztk: nothing can be read for the VRM-B5: USB input audio is a "
+            "setting of the VRM-D6. Leave --product out\n");
 }
 
 TEST_F(Get, ShowsAnyNumberThatStandsInTheFile) {
