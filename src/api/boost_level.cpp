@@ -60,8 +60,8 @@ ZTKResult ZTK_GetCurrentBoostLevelIndex(uint32_t productId,
 
 ZTKResult ZTK_SetCurrentBoostLevelIndex(uint32_t productId) {
   std::uint32_t index = 0;
-  const ZTKResult remembered = ZTK_GetCurrentBoostLevelIndex(productId, &index);
-  if (remembered != ZTK_SUCCESS || !CanBeResent(index)) return ZTK_REJECTED;
+  const ZTKResult result = ZTK_GetCurrentBoostLevelIndex(productId, &index);
+  if (result != ZTK_SUCCESS || !CanBeResent(index)) return ZTK_REJECTED;
 
   usb::SendToEveryMixer(productId, kWriteRegister, DeviceValue(index));
   return ZTK_SUCCESS;

@@ -188,9 +188,9 @@ ZTKResult ZTK_GetCurrentUSBInputAudioIndex(uint32_t productId, int32_t channel,
 
 ZTKResult ZTK_SetCurrentUSBInputAudio(uint32_t productId, uint32_t channel) {
   std::uint32_t index = 0;
-  const ZTKResult remembered = ZTK_GetCurrentUSBInputAudioIndex(
+  const ZTKResult result = ZTK_GetCurrentUSBInputAudioIndex(
       productId, static_cast<std::int32_t>(channel), &index);
-  if (remembered != ZTK_SUCCESS) return ZTK_REJECTED;
+  if (result != ZTK_SUCCESS) return ZTK_REJECTED;
   if (!CanBeResent(channel, index)) return ZTK_REJECTED;
 
   usb::SendToEveryMixer(productId, kWriteRegister, DeviceValue(channel, index));

@@ -61,9 +61,8 @@ ZTKResult ZTK_GetCurrentMidiChannelIndex(uint32_t productId,
 
 ZTKResult ZTK_SetCurrentMidiChannelIndex(uint32_t productId) {
   std::uint32_t index = 0;
-  const ZTKResult remembered =
-      ZTK_GetCurrentMidiChannelIndex(productId, &index);
-  if (remembered != ZTK_SUCCESS || !CanBeResent(index)) return ZTK_REJECTED;
+  const ZTKResult result = ZTK_GetCurrentMidiChannelIndex(productId, &index);
+  if (result != ZTK_SUCCESS || !CanBeResent(index)) return ZTK_REJECTED;
 
   usb::SendToEveryMixer(productId, kWriteRegister, DeviceValue(index));
   return ZTK_SUCCESS;

@@ -123,9 +123,9 @@ ZTKResult ZTK_GetCurrentUSBOutputAudioIndex(uint32_t productId,
 
 ZTKResult ZTK_SetCurrentUSBOutputAudio(uint32_t productId, uint32_t channel) {
   std::uint32_t index = 0;
-  const ZTKResult remembered =
+  const ZTKResult result =
       ZTK_GetCurrentUSBOutputAudioIndex(productId, channel, &index);
-  if (remembered != ZTK_SUCCESS) return ZTK_REJECTED;
+  if (result != ZTK_SUCCESS) return ZTK_REJECTED;
 
   // Deliberate: the remembered index is not tested against the choices.
   SendChoice(productId, channel, index);

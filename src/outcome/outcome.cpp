@@ -9,8 +9,8 @@ using namespace ztk;
 
 namespace {
 
-// The record has neither a constructor nor a destructor, so no thread has to
-// register a function that runs when it ends.
+// ZTKOutcome has neither a constructor nor a destructor, so no function has to
+// be registered that runs at the end of a thread.
 constinit thread_local ZTKOutcome theRecord = {};
 
 std::uint32_t ResultOf(platform::usb::Code code) {

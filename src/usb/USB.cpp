@@ -9,7 +9,7 @@ using namespace ztk::usb;
 
 namespace {
 
-namespace port = platform::usb;
+namespace backend = platform::usb;
 
 constexpr char kServiceClass[] = "IOUSBDevice";
 constexpr char kVendorKey[] = "idVendor";
@@ -28,48 +28,48 @@ struct Identity {
   std::uint16_t product = 0;
 
   bool IsMixer() const {
-    return result == port::kSuccess && vendor == build::kUsbVendorId &&
+    return result == backend::kSuccess && vendor == build::kUsbVendorId &&
            product == kMixerProductId;
   }
 };
 
-Identity Identify(port::Device *device) {
-  Identity identity{.result = port::kSuccess};
+Identity Identify(backend::Device *device) {
+  Identity identity{.result = backend::kSuccess};
   // The class and subclass are read but not used. A device whose class cannot
   // be read is skipped.
   std::uint8_t unusedClass = 0;
-  identity.result = port::GetDeviceClass(device, &unusedClass);
-  if (identity.result != port::kSuccess) return identity;
-  identity.result = port::GetDeviceSubClass(device, &unusedClass);
-  if (identity.result != port::kSuccess) return identity;
-  identity.result = port::GetDeviceVendor(device, &identity.vendor);
-  if (identity.result != port::kSuccess) return identity;
-  identity.result = port::GetDeviceProduct(device, &identity.product);
+  identity.result = backend::GetDeviceClass(device, &unusedClass);
+  if (identity.result != backend::kSuccess) return identity;
+  identity.result = backend::GetDeviceSubClass(device, &unusedClass);
+  if (identity.result != backend::kSuccess) return identity;
+  identity.result = backend::GetDeviceVendor(device, &identity.vendor);
+  if (identity.result != backend::kSuccess) return identity;
+  identity.result = backend::GetDeviceProduct(device, &identity.product);
   return identity;
 }
 
 // Returns the device interface of a service, or null if the device has to be
 // skipped. Releases the service. *result is the result of CreatePlugIn().
-port::Device *InterfaceOf(port::Service service, Code *result) {
-  port::PlugIn *plugIn = nullptr;
-  *result = port::CreatePlugIn(service, &plugIn);
-  port::ReleaseService(service);
-  if (*result != port::kSuccess || plugIn == nullptr) return nullptr;
+backend::Device *InterfaceOf(backend::Service service, Code *result) {
+  backend::PlugIn *plugIn = nullptr;
+  *result = backend::CreatePlugIn(service, &plugIn);
+  backend::ReleaseService(service);
+  if (*result != backend::kSuccess || plugIn == nullptr) return nullptr;
 
-  port::Device *device = port::QueryDevice(plugIn);
-  port::ReleasePlugIn(plugIn);
+  backend::Device *device = backend::QueryDevice(plugIn);
+  backend::ReleasePlugIn(plugIn);
   return device;
 }
 
 // Visits all devices and puts the mixer at position `index` into the slot.
 // Deliberate: the loop does not end at this mixer. The interfaces of the
 // devices after it are not released, and their failures change the result.
-Code ChooseMixer(port::Iterator iterator, Connection *slot, std::uint32_t index,
-                 port::Result *cause) {
-  Code result = port::kSuccess;
+Code ChooseMixer(backend::Iterator iterator, Connection *slot,
+                 std::uint32_t index, backend::Result *cause) {
+  Code result = backend::kSuccess;
   bool chosen = false;
-  while (port::Service service = port::NextService(iterator)) {
-    port::Device *device = InterfaceOf(service, &result);
+  while (backend::Service service = backend::NextService(iterator)) {
+    backend::Device *device = InterfaceOf(service, &result);
     if (device == nullptr) continue;
 
     const Identity identity = Identify(device);
@@ -78,24 +78,24 @@ Code ChooseMixer(port::Iterator iterator, Connection *slot, std::uint32_t index,
       if (index == 0) {
         chosen = true;
         if (*slot != nullptr) {
-          port::ReleaseDevice(device);
-          return port::kError;
+          backend::ReleaseDevice(device);
+          return backend::kError;
         }
-        *slot = port::MakeReady(device, cause);
+        *slot = backend::MakeReady(device, cause);
       }
       // For the mixers after the chosen one, the index wraps around to large
       // numbers and does not become 0 again.
       --index;
     }
-    if (!chosen) result = port::ReleaseDevice(device);
+    if (!chosen) result = backend::ReleaseDevice(device);
   }
   return result;
 }
 
-Code FindEveryDevice(port::Port masterPort, port::Iterator *iterator) {
-  port::Matching *matching = port::CreateMatching(kServiceClass);
-  if (matching == nullptr) return port::kSuccess;
-  return port::FindServices(masterPort, matching, iterator);
+Code FindEveryDevice(backend::Port masterPort, backend::Iterator *iterator) {
+  backend::Matching *matching = backend::CreateMatching(kServiceClass);
+  if (matching == nullptr) return backend::kSuccess;
+  return backend::FindServices(masterPort, matching, iterator);
 }
 
 // Does not return the number of transferred bytes, which callers do not use.
@@ -113,115 +113,116 @@ Code Write(Connection device, std::uint16_t reg, std::uint16_t value) {
 
 namespace ztk::usb {
 
-Code Open(Connection *slot, std::uint32_t index, port::Result *cause) {
+Code Open(Connection *slot, std::uint32_t index, backend::Result *cause) {
   // The cause if there is no mixer at this position.
-  *cause = {.code = port::kNoDevice};
-  port::Port masterPort = nullptr;
-  port::Iterator iterator = nullptr;
-  Code result = port::GetMasterPort(&masterPort);
-  if (result == port::kSuccess) result = FindEveryDevice(masterPort, &iterator);
-  if (result != port::kSuccess) *cause = {.code = result};
-  if (result == port::kSuccess && iterator != nullptr) {
+  *cause = {.code = backend::kNoDevice};
+  backend::Port masterPort = nullptr;
+  backend::Iterator iterator = nullptr;
+  Code result = backend::GetMasterPort(&masterPort);
+  if (result == backend::kSuccess)
+    result = FindEveryDevice(masterPort, &iterator);
+  if (result != backend::kSuccess) *cause = {.code = result};
+  if (result == backend::kSuccess && iterator != nullptr) {
     result = ChooseMixer(iterator, slot, index, cause);
   }
 
-  if (*slot == nullptr) result = port::kError;
-  if (iterator != nullptr) port::ReleaseIterator(iterator);
-  if (masterPort != nullptr) port::ReleaseMasterPort(masterPort);
+  if (*slot == nullptr) result = backend::kError;
+  if (iterator != nullptr) backend::ReleaseIterator(iterator);
+  if (masterPort != nullptr) backend::ReleaseMasterPort(masterPort);
   // The mixer could be opened, but a device after it failed.
-  if (result != port::kSuccess && cause->code == port::kSuccess) {
+  if (result != backend::kSuccess && cause->code == backend::kSuccess) {
     *cause = {.code = result};
   }
   return result;
 }
 
-port::Result ReadRegister(Connection device, std::uint16_t reg,
-                          std::uint8_t *buffer, std::uint16_t length,
-                          std::uint32_t *lengthDone) {
-  port::ControlRequest request{.requestType = kReadRequestType,
-                               .request = kReadRequest,
-                               .value = 0,
-                               .index = reg,
-                               .length = length,
-                               .data = buffer,
-                               .lengthDone = 0,
-                               .systemCode = 0};
-  const Code code = port::Request(device, &request);
+backend::Result ReadRegister(Connection device, std::uint16_t reg,
+                             std::uint8_t *buffer, std::uint16_t length,
+                             std::uint32_t *lengthDone) {
+  backend::ControlRequest request{.requestType = kReadRequestType,
+                                  .request = kReadRequest,
+                                  .value = 0,
+                                  .index = reg,
+                                  .length = length,
+                                  .data = buffer,
+                                  .lengthDone = 0,
+                                  .systemCode = 0};
+  const Code code = backend::Request(device, &request);
   *lengthDone = request.lengthDone;
   return {.code = code, .systemCode = request.systemCode};
 }
 
-port::Result WriteRegister(Connection device, std::uint16_t reg,
-                           std::uint16_t value) {
+backend::Result WriteRegister(Connection device, std::uint16_t reg,
+                              std::uint16_t value) {
   std::uint16_t dataWord = 0;  // never transferred
-  port::ControlRequest request{.requestType = kWriteRequestType,
-                               .request = kWriteRequest,
-                               .value = value,
-                               .index = reg,
-                               .length = 0,
-                               .data = &dataWord,
-                               .lengthDone = 0,
-                               .systemCode = 0};
-  const Code code = port::Request(device, &request);
+  backend::ControlRequest request{.requestType = kWriteRequestType,
+                                  .request = kWriteRequest,
+                                  .value = value,
+                                  .index = reg,
+                                  .length = 0,
+                                  .data = &dataWord,
+                                  .lengthDone = 0,
+                                  .systemCode = 0};
+  const Code code = backend::Request(device, &request);
   return {.code = code, .systemCode = request.systemCode};
 }
 
 }  // namespace ztk::usb
 
 std::int32_t CheckUSBAudio(std::uint32_t /*productId*/) {
-  port::Port masterPort = nullptr;
-  port::GetMasterPort(&masterPort);
-  port::Matching *matching = port::CreateMatching(kServiceClass);
+  backend::Port masterPort = nullptr;
+  backend::GetMasterPort(&masterPort);
+  backend::Matching *matching = backend::CreateMatching(kServiceClass);
   if (matching == nullptr) return 0;
 
   // Deliberate: the numbers and the port are not released.
-  port::SetMatchingValue(matching, kVendorKey,
-                         port::MakeNumber(build::kUsbVendorId));
-  port::SetMatchingValue(matching, kProductKey,
-                         port::MakeNumber(kMixerProductId));
-  port::Iterator iterator = nullptr;
-  const Code found = port::FindServices(masterPort, matching, &iterator);
-  if (found != port::kSuccess || iterator == nullptr) return 0;
+  backend::SetMatchingValue(matching, kVendorKey,
+                            backend::MakeNumber(build::kUsbVendorId));
+  backend::SetMatchingValue(matching, kProductKey,
+                            backend::MakeNumber(kMixerProductId));
+  backend::Iterator iterator = nullptr;
+  const Code found = backend::FindServices(masterPort, matching, &iterator);
+  if (found != backend::kSuccess || iterator == nullptr) return 0;
 
   std::int32_t count = 0;
-  while (port::Service service = port::NextService(iterator)) {
+  while (backend::Service service = backend::NextService(iterator)) {
     ++count;
-    port::ReleaseService(service);
+    backend::ReleaseService(service);
   }
-  port::ReleaseIterator(iterator);
+  backend::ReleaseIterator(iterator);
   return count;
 }
 
 Code open_pipes(Connection *slot, std::uint32_t index) {
-  if (slot == nullptr) return port::kError;
+  if (slot == nullptr) return backend::kError;
   *slot = nullptr;
   return openUSB(slot, index);
 }
 
 Code openUSB(Connection *slot, std::uint32_t index) {
-  port::Result unused;
+  backend::Result unused;
   return Open(slot, index, &unused);
 }
 
 void closeUSB(Connection *slot) {
   if (*slot == nullptr) return;
-  port::CloseDevice(*slot);
-  port::ReleaseDevice(*slot);
+  backend::CloseDevice(*slot);
+  backend::ReleaseDevice(*slot);
   *slot = nullptr;
 }
 
 Code DeviceRequest(Connection device, std::uint8_t requestType,
                    std::uint8_t request, std::uint16_t value,
                    std::uint16_t index, void *data, std::uint16_t *length) {
-  port::ControlRequest record{.requestType = requestType,
-                              .request = request,
-                              .value = value,
-                              .index = index,
-                              .length = *length,
-                              .data = data,
-                              .lengthDone = 0,
-                              .systemCode = 0};
-  const Code result = port::Request(device, &record);
+  backend::ControlRequest record{.requestType = requestType,
+                                 .request = request,
+                                 .value = value,
+                                 .index = index,
+                                 .length = *length,
+                                 .data = data,
+                                 .lengthDone = 0,
+                                 .systemCode = 0};
+  const Code result = backend::Request(device, &record);
   *length = static_cast<std::uint16_t>(record.lengthDone & 0xFFFF);
   return result;
 }

@@ -106,7 +106,7 @@ TEST_F(KernelFaults, AfterAMixerIsUnpluggedASetterContinuesWithTheNext) {
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 2: 40 03 0200 8003 0000"));
 }
 
-TEST_F(KernelFaults, AQueryReturnsItsPresetValueIfTheMixerIsUnplugged) {
+TEST_F(KernelFaults, AQueryFailsIfTheMixerIsUnplugged) {
   const struct {
     const char *name;
     ZTKResult (*call)(uint32_t *value);
@@ -149,14 +149,13 @@ TEST_F(KernelFaults, UnpluggingASilentMixerEndsTheRequest) {
   Inject(1, "silence");
   usb::Connection slot = nullptr;
   ASSERT_EQ(open_pipes(&slot, 0), 0u);
-  std::thread hand([this] {
-    // Waits until the request has been sent; the library then waits for the
-    // mixer.
+  std::thread unplugger([this] {
+    // Gives the main thread time to send the request and to wait for the mixer.
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
     world().Unplug(1);
   });
   EXPECT_EQ(SetMidiChannelSetting(slot, 0x0100), kNoDevice);
-  hand.join();
+  unplugger.join();
   closeUSB(&slot);
   EXPECT_THAT(TakeLog(), ElementsAre("mixer 1: 40 03 0100 8004 0000 -> gone"));
 }
@@ -294,19 +293,20 @@ TEST_F(KernelFaults, ManySettersWhileMixersComeAndGo) {
   PlugMixers(2);
   ZTK_SetUSBInputAudio(10, 0, 0);
   const std::size_t descriptors = CountDescriptors();
-  // Moving a mixer takes as long as several calls, and calls wait while the
-  // kernel configures a mixer.
-  constexpr int kCallsForAMove = 25;
+  // The number of calls for each time that a mixer is unplugged and plugged in.
+  // That takes as long as several calls, and calls wait while the kernel
+  // configures a mixer.
+  constexpr int kCallsPerReplug = 25;
   const int calls = SetterCalls();
   std::atomic<int> done = 0;
-  int moves = 0;
-  std::thread hand([&] {
+  int replugs = 0;
+  std::thread unplugger([&] {
     while (done < calls) {
-      if (done / kCallsForAMove < moves) {
+      if (done / kCallsPerReplug < replugs) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
         continue;
       }
-      const int mixer = 1 + moves++ % 2;
+      const int mixer = 1 + replugs++ % 2;
       world().Unplug(mixer);
       world().PlugIn(mixer);
     }
@@ -328,7 +328,7 @@ TEST_F(KernelFaults, ManySettersWhileMixersComeAndGo) {
         results.insert(ZTK_SetUSBOutputAudio(8, step % 3, step % 3));
     }
   }
-  hand.join();
+  unplugger.join();
   EXPECT_THAT(results, Each(AnyOf(100u, 101u)));
   EXPECT_THAT(OpenDevices(), IsEmpty());
   // The server releases a connection when it notices that it was closed.
@@ -336,9 +336,9 @@ TEST_F(KernelFaults, ManySettersWhileMixersComeAndGo) {
           [&] { return CountDescriptors() == descriptors; });
   EXPECT_EQ(CheckUSBAudio(10), 2);
   RecordProperty("calls", calls);
-  RecordProperty("moves", moves);
+  RecordProperty("replugs", replugs);
   std::printf("%d setter calls while mixers came and went %d times\n", calls,
-              moves);
+              replugs);
 }
 
 }  // namespace

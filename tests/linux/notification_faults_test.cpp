@@ -77,7 +77,7 @@ TEST_F(WithoutBus, CallsReturnWithoutAnEffect) {
   } rows[] = {
       {"nobody listens", bus_.address().c_str(), nullptr},
       {"empty", "", nullptr},
-      {"no address", "nonsense", nullptr},
+      {"not an address", "nonsense", nullptr},
       {"unknown kind", "carrier:pigeon=1", nullptr},
       {"not set", nullptr, nullptr},
       {"not set, empty runtime folder", nullptr, bus_.folder().c_str()},
@@ -118,11 +118,11 @@ TEST_F(WithoutBus, CallsReturnIfTheServerDoesNotAnswer) {
   const int listener = Listen();
   const auto descriptors = OpenDescriptors();
   Probe probe;
-  const std::clock_t worked = std::clock();
+  const std::clock_t timeBefore = std::clock();
   Report("post", [] { PostIndex(kName, 1); });
   Report("observe", [&probe] { probe.Observe(kName); });
   // This is processor time: a call that waits must not use it.
-  EXPECT_LT(std::clock() - worked, CLOCKS_PER_SEC / 2);
+  EXPECT_LT(std::clock() - timeBefore, CLOCKS_PER_SEC / 2);
   EXPECT_EQ(OpenDescriptors(), descriptors);
   close(listener);
 }
@@ -161,7 +161,8 @@ TEST_F(OnEndingBus, DeliversSignalsThatTheBusSentBefore) {
   probe.Observe(kName);
   PostIndex(kName, 1);
   PostIndex(kName, 2);
-  // The bus answers this after it has delivered the two others.
+  // The bus answers this registration after it has delivered the two
+  // notifications.
   probe.Observe("Other");
   bus_.Stop();
   EXPECT_TRUE(RunUntilReceived(probe, 2));

@@ -2,8 +2,9 @@
 # SPDX-License-Identifier: MIT
 """Tests the binding with the real library and two virtual mixers.
 
-Must be run inside ``ztk-virtual-mixer run -n 2 --private-settings``, with a
-message bus of its own.
+Run it with ``dbus-run-session -- ztk-virtual-mixer run -n 2 --private-settings --``:
+it needs two virtual mixers, settings that may be deleted, and a message bus that no
+other program uses.
 """
 from __future__ import annotations
 
@@ -448,5 +449,6 @@ class LoadingTest(BindingTest):
 
 if __name__ == "__main__":
     if "ZTK_VIRTUAL_MIXER" not in os.environ and shutil.which("ztk-virtual-mixer") is None:
-        sys.exit("run this test in: ztk-virtual-mixer run -n 2 --private-settings")
+        sys.exit("run this test with: dbus-run-session -- "
+            "ztk-virtual-mixer run -n 2 --private-settings --")
     unittest.main(verbosity=2)

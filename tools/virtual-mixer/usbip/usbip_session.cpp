@@ -9,12 +9,13 @@ namespace {
 
 // A control transfer's length has 16 bits.
 constexpr std::uint32_t kLongestTransfer = 0xFFFF;
-// A kernel sends one request at a time to a pipe. A client with this many
-// waiting requests is disconnected.
+// A kernel sends one request at a time to a pipe. A client with more than this
+// many waiting requests is disconnected.
 constexpr std::size_t kMostWaiting = 256;
-// The two values for "no isochronous packets", of old and new kernels.
-constexpr std::uint32_t kNoPackets = 0;
-constexpr std::uint32_t kNoPacketsEither = 0xFFFFFFFF;
+// A request without isochronous packets has one of these numbers of packets,
+// which depends on the version of the kernel.
+constexpr std::uint32_t kPacketsZero = 0;
+constexpr std::uint32_t kPacketsNotUsed = 0xFFFFFFFF;
 
 std::int32_t StatusOf(TransferStatus status) {
   return status == TransferStatus::Ok ? 0 : kBrokenPipe;
@@ -75,7 +76,7 @@ std::size_t Session::TakeOperation() {
 std::size_t Session::TakeCommand(Clock::time_point now) {
   if (input_.size() < kUrbCommandSize) return 0;
   const UrbCommand command = ReadUrbCommand(input_.data());
-  if (!IsLawful(command)) {
+  if (!IsValid(command)) {
     Break();
     return 0;
   }
@@ -92,14 +93,16 @@ std::size_t Session::TakeCommand(Clock::time_point now) {
   return whole;
 }
 
-// After a message that breaks these rules the next message cannot be found.
-bool Session::IsLawful(const UrbCommand &command) const {
+// Whether the message keeps the rules of the protocol. The length of one that
+// does not is unknown, so the next message cannot be found.
+bool Session::IsValid(const UrbCommand &command) const {
   const Export device = devices_->Describe(lease_->device);
   if (command.deviceId != DeviceId(device.address)) return false;
   if (command.code == kUnlink) return true;
   return command.code == kSubmit && command.direction <= kIn &&
          command.length <= kLongestTransfer &&
-         (command.packets == kNoPackets || command.packets == kNoPacketsEither);
+         (command.packets == kPacketsZero ||
+          command.packets == kPacketsNotUsed);
 }
 
 void Session::Submit(const UrbCommand &command, const Bytes &data,
@@ -129,8 +132,8 @@ void Session::Submit(const UrbCommand &command, const Bytes &data,
   if (waiting_.size() > kMostWaiting) Break();
 }
 
-// The sender cancels the request: for the sender the mixer was silent. An
-// answer that was sent already is not taken back.
+// Cancels a waiting request; the log shows it as one that the mixer did not
+// answer. If the answer was sent already, only the cancellation is confirmed.
 void Session::Unlink(const UrbCommand &command) {
   const auto found =
       std::find_if(waiting_.begin(), waiting_.end(), [&](const Waiting &one) {

@@ -74,7 +74,7 @@ class Session {
   std::size_t TakeMessage(Clock::time_point now);
   std::size_t TakeOperation();
   std::size_t TakeCommand(Clock::time_point now);
-  bool IsLawful(const UrbCommand &command) const;
+  bool IsValid(const UrbCommand &command) const;
   void Submit(const UrbCommand &command, const Bytes &data,
               Clock::time_point now);
   void Unlink(const UrbCommand &command);
