@@ -102,7 +102,7 @@ TEST_F(Serve, SaysPlainlyWhatIsWrong) {
     std::string expected;
   } rows[] = {
       {{"--listen", "nonsense"}, 2, "bad address \"nonsense\"; accepted: "},
-      {{"--listen", "127.0.0.1:0", "--attach"}, 2, "excludes"},
+      {{"--listen", "127.0.0.1:0", "--attach"}, 2, "used together"},
       {{"-n", "128"}, 2, "128"},
       {{"--fault", "bogus"}, 2, "--fault bogus: unknown fault"},
       {{"--log", "/no/such/folder/log"}, 1, "cannot write the log"},
@@ -134,7 +134,7 @@ TEST_F(Serve, SaysWhatIsMissingToAttach) {
 TEST_F(Serve, IsRefusedInsideASandbox) {
   const ToolResult result = Inside({}, "$TOOL serve -- true");
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(result.err, HasSubstr("inside a sandbox there is no kernel"));
+  EXPECT_THAT(result.err, HasSubstr("serve needs the kernel of this machine"));
 }
 
 }  // namespace
