@@ -131,9 +131,9 @@ TEST_F(Apply, IsNotPromisedForAHighMidiChannel) {
       "MIDI channel: 5 CH 5, sent to 1 mixer, remembered\n" +
           note + "MIDI channel: 5 CH 5, sent to 1 mixer, remembered\n" + note);
   EXPECT_THAT(NoMixer("ztk midi set 4").err,
-              testing::EndsWith("once one is, run: ztk midi apply\n"));
+              testing::EndsWith("when one is attached, run: ztk midi apply\n"));
   EXPECT_THAT(NoMixer("ztk midi set 5").err,
-              testing::EndsWith("once one is, run: ztk midi set 5\n"));
+              testing::EndsWith("when one is attached, run: ztk midi set 5\n"));
 }
 
 TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {
@@ -208,10 +208,11 @@ TEST_F(Apply, WarnsOnceOfSilentChannels) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(
       result.err,
-      "ztk: warning: silent, because the input selector is not in position "
-      "4: USB input 1, USB input 2; ztk status shows the positions\n"
-      "ztk: warning: silent, because the input selector is not in position "
-      "4: USB input 2; ztk status shows the positions\n");
+      "ztk: warning: no sound is recorded on USB input 1, USB input 2, because "
+      "the input selector is not in position 4; ztk status shows the "
+      "positions\n"
+      "ztk: warning: no sound is recorded on USB input 2, because the input "
+      "selector is not in position 4; ztk status shows the positions\n");
   EXPECT_EQ(OneMixer("ztk apply").err, "");
 }
 

@@ -36,7 +36,7 @@ TEST_F(Reach, IsThreeWithoutAMixerAndTheValueIsRemembered) {
   EXPECT_EQ(ErrorWord(json), "no-mixer");
   EXPECT_EQ(LastLine(result.err),
             "ztk: USB input 2 is saved, but not sent: no mixer is attached; "
-            "once one is, run: ztk input apply");
+            "when one is attached, run: ztk input apply");
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output1"));
 }
 

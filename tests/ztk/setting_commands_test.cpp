@@ -257,8 +257,8 @@ TEST_F(List, MarksTheRememberedChoice) {
 
 TEST_F(List, SaysWhenTheMarkIsADefault) {
   const Result result = NoMixer("ztk boost list");
-  EXPECT_THAT(result.out,
-              HasSubstr("Boost level (nothing remembered; * is the default)"));
+  EXPECT_THAT(result.out, HasSubstr("Boost level (nothing remembered, so the "
+                                    "default is the current choice)"));
   EXPECT_THAT(result.out, HasSubstr("\n* 4  -19 dB\n"));
 }
 

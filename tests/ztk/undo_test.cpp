@@ -125,14 +125,15 @@ TEST_F(Undo, SaysWhatCannotBePutBack) {
   EXPECT_EQ(LastLine(File("dry")), "4");
   EXPECT_THAT(File("dry"), Not(HasSubstr("MaxLevel")));
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 2 -10 dB undone, 77, which is not a choice refused");
+            "Boost level: 2 -10 dB not undone: the library refuses the value "
+            "before it, 77, which is not a choice");
   EXPECT_EQ(Line(result.out, 1), "4");
   EXPECT_THAT(result.err, HasSubstr("cannot be restored, because the library "
                                     "refuses it: Boost level: 77"));
   EXPECT_EQ(Line(result.out, 2), "Nothing to undo.");
 }
 
-TEST_F(Undo, IsThreeWithoutAMixerAndStillPutsBack) {
+TEST_F(Undo, ExitsWith3WithoutAMixerButRestoresTheValue) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   const Result result =
       NoMixer("ztk boost set 2 2> /dev/null; ztk undo; echo $?; ztk boost get");
@@ -146,7 +147,7 @@ TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
       NoMixer("ztk output set 1 2; ztk undo").err,
       HasSubstr(
           "ztk: nothing is remembered, and the default was not sent: no mixer "
-          "is attached; once one is, run: ztk output default 1\n"));
+          "is attached; when one is attached, run: ztk output default 1\n"));
   Remember("VRM-D6", {{"MaxLevel", 2}, {"Output0", 0}});
   Remember("VRM-K2", {{"MidiChannel", 0}});
   Remember("VRM-B5", {{"Input1", 0}});
@@ -168,7 +169,7 @@ TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
 TEST_F(Undo, TellsToSetAHighMidiChannelOnceMore) {
   Remember("VRM-K2", {{"MidiChannel", 9}});
   EXPECT_THAT(LastLine(NoMixer("ztk midi set 1; ztk undo").err),
-              testing::EndsWith("once one is, run: ztk midi set 10"));
+              testing::EndsWith("when one is attached, run: ztk midi set 10"));
 }
 
 TEST_F(Undo, ShowsInADryRunWhatItWouldDo) {
@@ -186,12 +187,13 @@ TEST_F(Undo, ListsWhatCanBeUndone) {
   const Result result = OneMixer(
       "ztk boost set 2 > /dev/null; ztk input set 1 mic > /dev/null\n"
       "ztk reset input > /dev/null; ztk undo --list");
-  EXPECT_EQ(result.out,
-            "The last change is number 1; ztk undo N takes back changes 1 to "
-            "N.\n"
-            "  1   reset        USB input 1: forgotten, before 6 MIC\n"
-            "  2   input set    USB input 1: 6 MIC, before nothing remembered\n"
-            "  3   boost set    Boost level: 2 -10 dB, before 1 -5 dB\n");
+  EXPECT_EQ(
+      result.out,
+      "The last change is number 1; ztk undo N takes back changes 1 to "
+      "N.\n"
+      "  1   reset        USB input 1: forgotten (previously 6 MIC)\n"
+      "  2   input set    USB input 1: 6 MIC (previously nothing remembered)\n"
+      "  3   boost set    Boost level: 2 -10 dB (previously 1 -5 dB)\n");
   EXPECT_EQ(NoMixer("ztk undo 3 --dry-run | grep -c -e '->'").out, "1\n");
 }
 
@@ -201,11 +203,12 @@ TEST_F(Undo, TakesBackSeveralChangesAtOnce) {
       "ztk input set 1 3 > /dev/null; ztk boost set 2 > /dev/null\n"
       "ztk boost set 3 > /dev/null; ztk undo 2; ztk undo --list | tail -n +2\n"
       "ztk undo 2; echo $?; ztk undo 0; echo $?");
-  EXPECT_EQ(result.out,
-            "Boost level: 3 -15 dB undone, 1 -5 dB, sent to 1 mixer, "
-            "remembered\n"
-            "  1   input set    USB input 1: 3 Post CH1 Fader, before 6 MIC\n"
-            "2\n2\n");
+  EXPECT_EQ(
+      result.out,
+      "Boost level: 3 -15 dB undone, 1 -5 dB, sent to 1 mixer, "
+      "remembered\n"
+      "  1   input set    USB input 1: 3 Post CH1 Fader (previously 6 MIC)\n"
+      "2\n2\n");
   EXPECT_THAT(Line(result.err, 0),
               StartsWith("ztk: no change \"2\" to undo; nearest: 1; "));
   EXPECT_EQ(Writes().back(), "mixer 1: 40 03 0300 8003 0000");
@@ -318,7 +321,7 @@ TEST_F(Undo, IsKeptUnderTheStateFolderOfTheUser) {
               StartsWith("{\"command\":\"boost set\",\"changes\":[{"));
 }
 
-TEST_F(Undo, IsMissedWithAWarningAndNothingElse) {
+TEST_F(Undo, OnlyWarnsWhenTheHistoryCannotBeWritten) {
   WriteAll(home_.path() / ".local/state", "");
   const Result result = OneMixer("ztk boost set 2; echo $?; ztk undo; echo $?");
   EXPECT_EQ(Line(result.out, 0),
@@ -326,7 +329,8 @@ TEST_F(Undo, IsMissedWithAWarningAndNothingElse) {
   EXPECT_EQ(Line(result.out, 1), "0");
   EXPECT_EQ(Line(result.out, 2), "5");
   EXPECT_THAT(Line(result.err, 0),
-              StartsWith("ztk: warning: ztk undo cannot undo this: "));
+              StartsWith("ztk: warning: ztk undo will not be able to undo this "
+                         "change, because it was not recorded: "));
 }
 
 TEST_F(Undo, GoesBackAHundredStepsAndNoFurther) {
@@ -368,8 +372,9 @@ TEST_F(Undo, NeverReplacesAHistoryThatCannotBeRead) {
   EXPECT_EQ(Line(result.out, 1), "0");
   EXPECT_EQ(Line(result.out, 2), "5");
   EXPECT_THAT(Line(result.err, 0),
-              HasSubstr("ztk undo cannot undo this: " + History().string() +
-                        ": it is a symbolic link"));
+              HasSubstr("ztk undo will not be able to undo this change, "
+                        "because it was not recorded: " +
+                        History().string() + ": it is a symbolic link"));
   EXPECT_THAT(Line(result.err, 1), HasSubstr("nothing can be undone: "));
   EXPECT_TRUE(std::filesystem::is_symlink(History()));
   EXPECT_EQ(File("other"), "other\n");
@@ -403,8 +408,9 @@ TEST_F(Undo, DoesNotOpenALockThatIsALinkOrAPipe) {
               HasSubstr("ztk.lock: it is not a regular file"));
 }
 
-// The home folder of the password database is the one of another user then:
-// only the names of the files tell where ztk looks. Nothing may be created.
+// Without a usable HOME, ztk takes the home folder from the password database.
+// Here that is the folder of another user, which does not exist: the test
+// checks which paths the messages name, and that nothing is created.
 TEST_F(Undo, LooksInThePasswordDatabaseWithoutAUsableHome) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can be another user";
   for (const char *home : {"-u HOME", "HOME=relative/home", "HOME="}) {
@@ -429,7 +435,8 @@ TEST_F(Undo, DoesNotCreateAMissingHome) {
   const Result result = OneMixer(
       "export HOME=$DIR/missing; ztk boost set 2; ztk undo; "
       "ls -d $DIR/missing");
-  EXPECT_THAT(result.err, HasSubstr("ztk undo cannot undo this: "));
+  EXPECT_THAT(result.err, HasSubstr("ztk undo will not be able to undo this "
+                                    "change, because it was not recorded: "));
   EXPECT_THAT(result.out, HasSubstr("not remembered"));
   EXPECT_FALSE(std::filesystem::exists(home_.path() / "missing"));
 }
@@ -466,10 +473,11 @@ TEST_F(Undo, NamesTheCommandThatSendsADefaultThatWasNotAccepted) {
             "ztk: nothing is remembered, and the default was sent, but the "
             "mixer refused it; switch it off and on again, then run: ztk input "
             "set 2 1 (set also remembers the default)");
-  EXPECT_EQ(LastLine(NoMixer("ztk boost set 2; ztk undo").err),
-            "ztk: nothing is remembered, and the default was not sent: no "
-            "mixer is attached; once one is, run: ztk boost set 4 (set also "
-            "remembers the default)");
+  EXPECT_EQ(
+      LastLine(NoMixer("ztk boost set 2; ztk undo").err),
+      "ztk: nothing is remembered, and the default was not sent: no "
+      "mixer is attached; when one is attached, run: ztk boost set 4 (set also "
+      "remembers the default)");
   OneMixer("ztk input set 2 1");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0203 8002 0000"));
 }
@@ -479,10 +487,11 @@ TEST_F(Undo, TellsApartWhatIsSavedAndWhatIsForgotten) {
   const Result result = NoMixer(
       "ztk boost set 2 2> /dev/null; ztk output set 1 2 2> /dev/null\n"
       "ztk undo 2");
-  EXPECT_EQ(LastLine(result.err),
-            "ztk: what was restored is saved or forgotten, but not sent: no "
-            "mixer is attached; once one is, run: ztk output default 1; ztk "
-            "apply");
+  EXPECT_EQ(
+      LastLine(result.err),
+      "ztk: the change is stored, but not sent: no "
+      "mixer is attached; when one is attached, run: ztk output default 1; ztk "
+      "apply");
 }
 
 TEST_F(Undo, SaysWhenTheValueBeforeIsTheSame) {
@@ -494,7 +503,7 @@ TEST_F(Undo, SaysWhenTheValueBeforeIsTheSame) {
             "mixer, remembered\n");
 }
 
-TEST_F(Undo, SaysThatTheListLosesWhatIsLeftAlone) {
+TEST_F(Undo, WarnsThatTheListLosesAStepThatWasNotUndone) {
   OneMixer("ztk boost set 2");
   Remember("VRM-D6", {{"MaxLevel", 0}});
   const Result result =

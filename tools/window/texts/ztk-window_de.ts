@@ -359,11 +359,11 @@
             <translation>die Einstellungen in %1 sind nicht gespeichert</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>Sie durften die Datei nicht lesen, als eine Einstellung gespeichert wurde; dieser Befehl holt sie zurück, anstelle der seitdem gespeicherten Einstellungen</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>die Datei war beschädigt, als eine Einstellung gespeichert wurde; sobald sie repariert ist, holt dieser Befehl sie zurück, anstelle der seitdem gespeicherten Einstellungen</translation>
         </message>
         <message>

@@ -359,11 +359,11 @@
             <translation>los ajustes de %1 no están guardados</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>no tenía permiso para leer el archivo cuando se guardó un ajuste; esta orden lo recupera, en lugar de los ajustes guardados desde entonces</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>el archivo estaba dañado cuando se guardó un ajuste; una vez reparado, esta orden lo recupera, en lugar de los ajustes guardados desde entonces</translation>
         </message>
         <message>

@@ -359,11 +359,11 @@
             <translation>les réglages de %1 ne sont pas enregistrés</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>vous n’aviez pas le droit de lire le fichier lorsqu’un réglage a été enregistré ; cette commande le rétablit, à la place des réglages enregistrés depuis</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>le fichier était endommagé lorsqu’un réglage a été enregistré ; une fois réparé, cette commande le rétablit, à la place des réglages enregistrés depuis</translation>
         </message>
         <message>

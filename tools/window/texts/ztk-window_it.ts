@@ -359,11 +359,11 @@
             <translation>le impostazioni in %1 non sono memorizzate</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>non aveva il permesso di leggere il file quando un’impostazione è stata memorizzata; questo comando lo ripristina, al posto delle impostazioni memorizzate da allora</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>il file era danneggiato quando un’impostazione è stata memorizzata; una volta riparato, questo comando lo ripristina, al posto delle impostazioni memorizzate da allora</translation>
         </message>
         <message>

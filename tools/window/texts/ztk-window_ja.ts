@@ -359,11 +359,11 @@
             <translation>%1 の設定は保存されていません</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>設定を保存したとき、ファイルを読み込む権限がありませんでした。このコマンドは、その後に保存された設定に代えてこのファイルを元に戻します</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>設定を保存したとき、ファイルが壊れていました。修復後、このコマンドは、その後に保存された設定に代えてこのファイルを元に戻します</translation>
         </message>
         <message>

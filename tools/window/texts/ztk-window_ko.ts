@@ -359,11 +359,11 @@
             <translation>%1 파일의 설정은 저장되어 있지 않습니다</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>설정을 저장할 때 파일을 읽을 권한이 없었습니다. 이 명령은 그 뒤에 저장된 설정 대신 이 파일을 되돌립니다</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>설정을 저장할 때 파일이 손상되어 있었습니다. 파일을 복구한 뒤 이 명령은 그 뒤에 저장된 설정 대신 이 파일을 되돌립니다</translation>
         </message>
         <message>

@@ -359,11 +359,11 @@
             <translation>de instellingen in %1 zijn niet opgeslagen</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>u had geen rechten om het bestand te lezen toen een instelling werd opgeslagen; deze opdracht zet het terug, in plaats van de sindsdien opgeslagen instellingen</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>het bestand was beschadigd toen een instelling werd opgeslagen; zodra het is hersteld, zet deze opdracht het terug, in plaats van de sindsdien opgeslagen instellingen</translation>
         </message>
         <message>

@@ -359,11 +359,11 @@
             <translation>as definições em %1 não estão guardadas</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>não tinha permissão para ler o ficheiro quando uma definição foi guardada; este comando repõe-no, em vez das definições guardadas desde então</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>o ficheiro estava danificado quando uma definição foi guardada; depois de reparado, este comando repõe-no, em vez das definições guardadas desde então</translation>
         </message>
         <message>

@@ -359,11 +359,11 @@
             <translation>настройки из %1 не сохранены</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>у вас не было прав на чтение файла, когда сохранялась настройка; эта команда возвращает его вместо настроек, сохранённых с тех пор</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>файл был повреждён, когда сохранялась настройка; после исправления эта команда возвращает его вместо настроек, сохранённых с тех пор</translation>
         </message>
         <message>

@@ -359,11 +359,11 @@
             <translation>%1 中的设置未保存</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>保存设置时您没有读取该文件的权限；此命令会恢复该文件，取代此后保存的设置</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>保存设置时该文件已损坏；修复后，此命令会恢复该文件，取代此后保存的设置</translation>
         </message>
         <message>

@@ -359,11 +359,11 @@
             <translation>%1 中的設定未儲存</translation>
         </message>
         <message>
-            <source>you had no permission to read the file when a setting was stored; this brings it back, in place of the settings stored since</source>
+            <source>you had no permission to read the file when a setting was stored, so it was renamed; the command puts it back and replaces the settings stored since</source>
             <translation>儲存設定時您沒有讀取該檔案的權限；此指令會還原該檔案，取代此後儲存的設定</translation>
         </message>
         <message>
-            <source>the file was damaged when a setting was stored; once it is repaired, this brings it back, in place of the settings stored since</source>
+            <source>the file was damaged when a setting was stored, so it was renamed; once you have repaired it, the command puts it back and replaces the settings stored since</source>
             <translation>儲存設定時該檔案已損壞；修復後，此指令會還原該檔案，取代此後儲存的設定</translation>
         </message>
         <message>

@@ -94,7 +94,10 @@ Report Reset(const Arguments &arguments) {
   SharedHistory history;
   const ForgottenStep step = ForgetValues("reset", values, history.get());
   if (!step.notRecorded.empty()) {
-    report.warnings.push_back("ztk undo cannot undo this: " + step.notRecorded);
+    report.warnings.push_back(
+        "ztk undo will not be able to undo this change, because it was not "
+        "recorded: " +
+        step.notRecorded);
   }
   AddForgotten(step, &report);
   report.text +=

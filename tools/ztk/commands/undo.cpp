@@ -82,16 +82,21 @@ void AddUndone(const MadeChange &one, const PastChange &past,
   fields["announced"] = one.announced;
   report->fields["settings"].push_back(std::move(fields));
   const bool same = past.before.has_value() && past.before == past.after;
-  report->text += PlaceName(setting, past.channel) + ": " +
-                  (same ? "" : UndoneWords(past)) +
-                  (past.before ? "" : "default ") +
-                  DescribedValue(setting, past.channel, one.change.index) +
-                  (same ? ", the same as before the changes" : "");
+  const std::string value =
+      DescribedValue(setting, past.channel, one.change.index);
+  report->text += PlaceName(setting, past.channel) + ": ";
   if (one.result == ZTK_REJECTED) {
-    report->text += " refused\n";
+    report->text +=
+        (past.after ? DescribedValue(setting, past.channel, *past.after) +
+                          " not undone"
+                    : "not restored") +
+        ": the library refuses the value before it, " + value + "\n";
     return;
   }
-  report->text += Described(one, made) + "\n";
+  report->text += (same ? "" : UndoneWords(past)) +
+                  (past.before ? "" : "default ") + value +
+                  (same ? ", the same as before the changes" : "") +
+                  Described(one, made) + "\n";
   if (!past.before) {
     report->text += "  nothing was remembered before, and nothing is now\n";
   }
@@ -233,10 +238,10 @@ std::string ListedStep(std::size_t number, const Step &step) {
     const Setting &setting = *change.setting;
     text +=
         begin + PlaceName(setting, change.channel) + ": " +
-        ValueWords(setting, change.channel, change.after) + ", before " +
+        ValueWords(setting, change.channel, change.after) + " (previously " +
         (change.before ? DescribedValue(setting, change.channel, *change.before)
                        : "nothing remembered") +
-        "\n";
+        ")\n";
     begin = std::string(kCommandColumn + 1, ' ');
   }
   return text;

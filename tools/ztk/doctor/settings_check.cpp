@@ -61,16 +61,16 @@ void FindUnreadable(const std::string &path, Findings *findings) {
   findings->push_back(finding);
 }
 
-// Each settings file that could not be read and is kept under another name. One
-// that is damaged would not be read in its old place either.
+// Reports each settings file that could not be read earlier and was therefore
+// renamed. A damaged file has to be repaired before it is renamed back.
 void FindKept(const std::string &path, Findings *findings) {
   for (const std::string &kept : KeptFiles(path)) {
     Finding finding{.id = "settings-kept",
                     .what = "the settings in " + kept + " are not remembered",
                     .cause =
                         "you had no permission to read the file when a "
-                        "setting was stored; this brings it back, in place of "
-                        "the settings stored since",
+                        "setting was stored, so it was renamed; the command "
+                        "puts it back and replaces the settings stored since",
                     .command = BringBackCommand(kept, path),
                     .isNote = true};
     platform::property_list::Dictionary *settings =
@@ -78,9 +78,9 @@ void FindKept(const std::string &path, Findings *findings) {
     platform::property_list::Release(settings);
     if (settings == nullptr && access(kept.c_str(), R_OK) == 0) {
       finding.cause =
-          "the file was damaged when a setting was stored; once it is "
-          "repaired, this brings it back, in place of the settings stored "
-          "since";
+          "the file was damaged when a setting was stored, so it was renamed; "
+          "once you have repaired it, the command puts it back and replaces "
+          "the settings stored since";
     }
     findings->push_back(finding);
   }

@@ -58,7 +58,8 @@ Obstruction ObstructionOf(const Mixer &mixer) {
 
 Obstruction ObstructionOf(const Reach &reach) {
   if (reach.found() == 0) {
-    return {.why = "not sent: no mixer is attached", .remedy = "once one is, "};
+    return {.why = "not sent: no mixer is attached",
+            .remedy = "when one is attached, "};
   }
   if (reach.found() == 1) return ObstructionOf(reach.mixers.front());
   const std::string none =
@@ -141,7 +142,7 @@ std::string SavedWords(const MadeChanges &made, const std::string &what) {
                     [](const MadeChange &one) { return one.forgotten; }));
   if (forgotten == 0) return what + " is saved, but ";
   if (forgotten < made.changes.size()) {
-    return what + " is saved or forgotten, but ";
+    return "the change is stored, but ";
   }
   const bool sent = !ObstructionOf(made.reach).why.starts_with("not sent: ");
   return std::string("nothing is remembered, and the default") +
@@ -196,8 +197,10 @@ MadeChanges RunStep(const std::string &command,
   const Progress progress = WaitForChanges(changes);
   MadeStep step = MakeStep(command, changes, history.get());
   if (!step.notRecorded.empty()) {
-    report->warnings.push_back("ztk undo cannot undo this: " +
-                               step.notRecorded);
+    report->warnings.push_back(
+        "ztk undo will not be able to undo this change, because it was not "
+        "recorded: " +
+        step.notRecorded);
   }
   return std::move(step.made);
 }

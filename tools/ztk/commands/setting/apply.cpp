@@ -65,7 +65,7 @@ void AddRefused(const std::vector<StoredValue> &settings, Report *report) {
                                  cli::Listed(refused) + "; " + remedy});
 }
 
-Report PlanOfApply(std::vector<StoredValue> settings) {
+Report ReportOfDryRun(std::vector<StoredValue> settings) {
   Plan plan;
   Report report;
   report.fields["settings"] = Json::array();
@@ -116,8 +116,9 @@ void WarnOfSilence(const std::vector<StoredValue> &settings, Report *report) {
   }
   if (names.empty()) return;
   report->warnings.push_back(
-      "silent, because the input selector is not in position " +
-      std::to_string(ZTK_SELECTOR_AUDIBLE) + ": " + cli::Listed(names) +
+      "no sound is recorded on " + cli::Listed(names) +
+      ", because the input selector is not in position " +
+      std::to_string(ZTK_SELECTOR_AUDIBLE) +
       "; ztk status shows the positions");
 }
 
@@ -131,7 +132,8 @@ void AddLeftOut(const std::vector<std::string> &models, Report *report) {
   }
 }
 
-// `command` is what the user typed, in its shortest form.
+// `command` is the command, without a channel, that the report suggests if a
+// mixer was not reached.
 Report Apply(std::vector<StoredValue> settings, const std::string &what,
              const std::string &command, const Arguments &arguments) {
   Report report;
@@ -140,7 +142,7 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
     report.text = "Nothing is remembered for " + what + ": nothing to send.\n";
     return report;
   }
-  if (arguments.Has(Parameter::kDryRun)) return PlanOfApply(settings);
+  if (arguments.Has(Parameter::kDryRun)) return ReportOfDryRun(settings);
 
   const Reach reach = [&settings] {
     const Progress progress = WaitForRequests(settings.size());
@@ -202,9 +204,9 @@ std::vector<StoredValue> ValuesOf(std::optional<std::uint32_t> product) {
   return values;
 }
 
-// Without the name of a model: the values of the VRM-D6; when it has none,
-// those of its sister models, so that their owners need not name them. Adds the
-// models that are left out to the list.
+// Returns the values that "ztk apply" sends if the user names no model: those
+// of the VRM-D6 or, if nothing is remembered for it, those of all sister
+// models. Adds each model whose values are not returned to *leftOut.
 std::vector<StoredValue> UsualValues(std::vector<std::string> *leftOut) {
   std::vector<StoredValue> values = ValuesOf(std::nullopt);
   const auto isOwn = [](const StoredValue &value) {

@@ -29,7 +29,7 @@ void AddChoiceList(const Setting &setting, std::uint32_t product,
   if (!current) {
     text += " (listed only)";
   } else if (!remembered) {
-    text += " (nothing remembered; * is the default)";
+    text += " (nothing remembered, so the default is the current choice)";
   } else if (*current >= choices.size()) {
     text += " (remembered: " + DescribedValue(setting, channel, *current) + ")";
   }
