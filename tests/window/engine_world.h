@@ -60,8 +60,12 @@ inline constexpr int kPatience = 20'000;
 
 }  // namespace ztk::window
 
-// Waits until it is so.
-#define EVENTUALLY(condition) \
-  QTRY_VERIFY_WITH_TIMEOUT(condition, ::ztk::window::kPatience)
+// Waits until the condition holds.
+// Not QTRY_VERIFY_WITH_TIMEOUT(): in newer versions of Qt it converts between
+// types of integers, about which gcc warns.
+#define EVENTUALLY(condition)                                            \
+  QVERIFY2(QTest::qWaitFor([&] { return static_cast<bool>(condition); }, \
+                           ::ztk::window::kPatience),                    \
+           #condition)
 
 #endif  // ZTK_TESTS_WINDOW_ENGINE_WORLD_H_
