@@ -32,12 +32,13 @@ inline constexpr std::uint32_t kTextBelow = 4;
 
 inline constexpr std::uint64_t kTableLength = 9;
 
+// What the computer plays is an input of the mixer, hence the register's name.
 inline constexpr std::uint16_t kWriteRegister = usb::kMixerInputRegister;
 // Length in bytes of the input selectors' reply, which is read after each
 // change.
 inline constexpr std::uint16_t kSelectorInfoLength = 4;
 
-// Returns the default choice of a channel, which has the channel's number.
+// Returns the index of a channel's default choice. It is equal to the channel.
 constexpr std::uint32_t DefaultIndex(std::uint32_t channel) { return channel; }
 
 // Returns the position of a choice in the table of device values. The index may
@@ -46,7 +47,9 @@ constexpr std::uint64_t PositionOf(std::uint32_t channel, std::uint32_t index) {
   return std::uint64_t{channel} * kChoices + index;
 }
 
-// Returns whether a choice has a device value. Nothing is sent without one.
+// Returns whether the table has this position. Nothing is sent if it does not.
+// Deliberate: an index that is no choice can have a position of the next
+// channel.
 constexpr bool HasDeviceValue(std::uint32_t channel, std::uint32_t index) {
   return PositionOf(channel, index) < kTableLength;
 }

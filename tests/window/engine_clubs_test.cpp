@@ -113,11 +113,11 @@ void EngineClubsTest::SaysWhyAFileIsNoClub() {
   QVERIFY(QDir().mkpath(QFileInfo(path).path()));
   test::WriteAll(path.toStdString(), text.toStdString());
   QVERIFY(Preview(path).error.startsWith(
-      QStringLiteral("The file holds no valid settings: ")));
+      QStringLiteral("The file contains an error: ")));
   engine().applyClub(path);
   EVENTUALLY(!reports().isEmpty());
   QVERIFY(reports().front().startsWith(
-      QStringLiteral("The file holds no valid settings: ")));
+      QStringLiteral("The file contains an error: ")));
   QVERIFY(!state().canUndo);
 }
 

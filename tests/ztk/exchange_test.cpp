@@ -132,7 +132,7 @@ TEST_F(Import, ChecksAllOfItBeforeItChangesAnything) {
                     "boost":{"1":"-5 dB"},"output":{"1":"AUX"}},
           "VRM-Z9":{},"VRM-B5":[],"VRM-K2":{"midi":"CH 16"}}})"),
       ElementsAre(
-          "version: accepted: 1",
+          "version: it is not supported; accepted: 1",
           "no entry \"more\"; accepted: version, settings",
           "settings.VRM-D6.input: no channel \"6\"; accepted: 1 to 5",
           StartsWith("settings.VRM-D6.input.1: no choice \"nothing\"; "
@@ -142,7 +142,7 @@ TEST_F(Import, ChecksAllOfItBeforeItChangesAnything) {
           StartsWith("settings.VRM-D6.boost: the text of a choice is needed"),
           "settings.VRM-D6: no setting \"output\"; accepted: input, boost",
           "settings: no model \"VRM-Z9\"; accepted: VRM-D6, VRM-B5, VRM-K2",
-          "settings.VRM-B5: accepted: an object"));
+          "settings.VRM-B5: it is not a JSON object"));
 }
 
 TEST_F(Import, RefusesWhatIsNoExport) {
@@ -163,7 +163,7 @@ TEST_F(Import, TellsErrorsInJsonToo) {
   EXPECT_EQ(result.status, 2);
   const Json json = OneObject(result.out);
   EXPECT_EQ(json.value("errors", Json()),
-            Json({"settings: accepted: an object"}));
+            Json({"settings: it is not a JSON object"}));
   EXPECT_EQ(json.value("error", Json::object()).value("code", ""), "usage");
 }
 

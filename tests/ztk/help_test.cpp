@@ -28,7 +28,7 @@ TEST_F(Help, TellsTheExitCodes) {
        {"0  done", "1  ztk doctor has found a problem",
         "2  invalid command line or import file; nothing was sent",
         "3  no mixer answered", "4  rejected", "5  another error",
-        "6  some mixers answered", "7  sent, but not remembered",
+        "6  some mixers accepted", "7  sent, but not remembered",
         "\n  130  interrupted by Ctrl-C; ztk watch ends with status 0 "
         "instead\n",
         "\nExamples:\n  ztk status\n",

@@ -66,7 +66,8 @@ TEST_F(Reach, IsSixWhenOneOfSeveralMayNotBeOpened) {
   EXPECT_EQ(json["warnings"].size(), 1U);
   EXPECT_THAT(result.err, StartsWith("ztk: warning: mixer 2 is attached"));
   EXPECT_THAT(Line(result.err, 1),
-              HasSubstr("only 2 of 3 mixers answered; once the others do, run: "
+              HasSubstr("only 2 of 3 mixers accepted the change; when the "
+                        "others are ready, run: "
                         "ztk boost apply"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000",
                                     "mixer 3: 40 03 0200 8003 0000"));
@@ -241,8 +242,9 @@ TEST_F(Reach, DoesNotSayThatWhatWasNotRememberedCanBeApplied) {
   const Result result =
       Inside({"-n", "2", "--fault", "2:stall@w8003"}, "ztk boost set 1");
   EXPECT_EQ(result.status, 7);
-  EXPECT_THAT(result.err, HasSubstr("warning: only 1 of 2 mixers answered; "
-                                    "once the others do, set it again\n"));
+  EXPECT_THAT(result.err, HasSubstr("warning: only 1 of 2 mixers accepted the "
+                                    "change; when the others are ready, set it "
+                                    "again\n"));
   EXPECT_THAT(LastLine(result.err),
               StartsWith("ztk: Boost level is not remembered: "));
 }

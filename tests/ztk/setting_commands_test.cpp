@@ -142,7 +142,8 @@ TEST_F(InputRaw, IsRejectedForASourceThatTheLibraryRefuses) {
   const Result result = OneMixer("ztk input raw 3 0 16 --json");
   EXPECT_EQ(result.status, 4);
   EXPECT_EQ(OneObject(result.out)["error"]["code"], "rejected");
-  EXPECT_THAT(result.err, HasSubstr("SOURCE: 0 to 15"));
+  EXPECT_THAT(result.err,
+              HasSubstr("SOURCE is too large: 16; accepted: 0 to 15"));
   EXPECT_THAT(Requests(), IsEmpty());
 }
 

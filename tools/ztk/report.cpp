@@ -36,7 +36,9 @@ constexpr ExitMeaning kExitMeanings[] = {
          "the program that reads the output has ended"},
     {.exit = ExitCode::SomeMixers,
      .word = "some-mixers",
-     .text = "some mixers answered, others did not; a choice is remembered"},
+     .text =
+         "some mixers accepted the change, others did not; set, import and\n"
+         "undo have changed the settings file nevertheless"},
     {.exit = ExitCode::NotRemembered,
      .word = "not-remembered",
      .text = "sent, but not remembered: the settings file does not contain it"},

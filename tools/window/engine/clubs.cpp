@@ -28,7 +28,8 @@ QDir Folder() {
       QStringLiteral("/tarvix/clubs"));
 }
 
-// A club's name may hold what a file's name may not.
+// Returns the name of the file for a club. A character that no file name may
+// contain is replaced by "-", and a dot at the beginning gets one before it.
 QString FileName(const QString &name) {
   QString file = name.trimmed();
   for (QChar &letter : file) {
@@ -74,7 +75,7 @@ ClubFile ReadClub(const QString &path) {
   }
   model::ImportedSettings import = model::ParseImport(text.toStdString());
   if (import.errorCount > 0) {
-    club.error = Clubs::tr("The file holds no valid settings: %1.")
+    club.error = Clubs::tr("The file contains an error: %1.")
                      .arg(QString::fromStdString(import.errors.front()));
     return club;
   }
@@ -115,7 +116,7 @@ QString SaveClub(const QString &name) {
     return Clubs::tr("The club cannot be saved: %1.").arg(file.errorString());
   }
   if (settings.leftOut.empty()) return {};
-  return Clubs::tr("Saved without %1.")
+  return Clubs::tr("Saved, but not everything: %1.")
       .arg(QString::fromStdString(settings.leftOut.front()));
 }
 

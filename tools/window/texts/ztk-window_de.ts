@@ -53,8 +53,8 @@
             <translation>Die Datei ist zu groß für Einstellungen.</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>Die Datei enthält keine gültigen Einstellungen: %1.</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>Die Datei enthält einen Fehler: %1.</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>Der Club kann nicht gespeichert werden: %1.</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>Gespeichert ohne %1.</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>Gespeichert, aber nicht alles: %1.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

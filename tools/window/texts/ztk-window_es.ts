@@ -53,8 +53,8 @@
             <translation>El archivo es demasiado grande para contener ajustes.</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>El archivo no contiene ajustes válidos: %1.</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>El archivo contiene un error: %1.</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>No se puede guardar el club: %1.</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>Guardado sin %1.</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>Guardado, pero no todo: %1.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

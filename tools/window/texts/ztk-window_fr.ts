@@ -53,8 +53,8 @@
             <translation>Le fichier est trop grand pour contenir des réglages.</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>Le fichier ne contient pas de réglages valides : %1.</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>Le fichier contient une erreur : %1.</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>Le club ne peut pas être enregistré : %1.</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>Enregistré sans %1.</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>Enregistré, mais pas en totalité : %1.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

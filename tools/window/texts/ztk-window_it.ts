@@ -53,8 +53,8 @@
             <translation>Il file è troppo grande per contenere impostazioni.</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>Il file non contiene impostazioni valide: %1.</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>Il file contiene un errore: %1.</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>Il club non può essere salvato: %1.</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>Salvato senza %1.</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>Salvato, ma non tutto: %1.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -53,8 +53,8 @@
             <translation>ファイルが設定としては大きすぎます。</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>ファイルに有効な設定がありません: %1。</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>ファイルにエラーがあります: %1</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>クラブを保存できません: %1。</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>%1 を除いて保存しました。</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>保存しましたが、一部は保存されていません: %1</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -53,8 +53,8 @@
             <translation>설정 파일이라고 하기에는 너무 큽니다.</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>파일에 올바른 설정이 없습니다: %1.</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>파일에 오류가 있습니다: %1.</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>클럽을 저장할 수 없습니다: %1.</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>%1 없이 저장했습니다.</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>저장했지만 일부는 저장되지 않았습니다: %1.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

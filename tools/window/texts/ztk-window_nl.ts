@@ -53,8 +53,8 @@
             <translation>Het bestand is te groot om instellingen te bevatten.</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>Het bestand bevat geen geldige instellingen: %1.</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>Het bestand bevat een fout: %1.</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>De club kan niet worden opgeslagen: %1.</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>Opgeslagen zonder %1.</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>Opgeslagen, maar niet alles: %1.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -53,8 +53,8 @@
             <translation>O ficheiro é demasiado grande para conter definições.</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>O ficheiro não contém definições válidas: %1.</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>O ficheiro contém um erro: %1.</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>O clube não pode ser guardado: %1.</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>Guardado sem %1.</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>Guardado, mas não tudo: %1.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

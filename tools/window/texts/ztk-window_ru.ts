@@ -53,8 +53,8 @@
             <translation>Файл слишком велик для файла настроек.</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>В файле нет верных настроек: %1.</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>Файл содержит ошибку: %1.</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>Не удаётся сохранить клуб: %1.</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>Сохранено без %1.</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>Сохранено, но не всё: %1.</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -53,8 +53,8 @@
             <translation>文件过大，不可能是设置文件。</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>文件中没有有效的设置：%1。</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>文件中有错误：%1。</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>无法保存俱乐部设置：%1。</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>已保存，但不包括 %1。</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>已保存，但不完整：%1。</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -53,8 +53,8 @@
             <translation>檔案過大，不可能是設定檔。</translation>
         </message>
         <message>
-            <source>The file holds no valid settings: %1.</source>
-            <translation>檔案中沒有有效的設定：%1。</translation>
+            <source>The file contains an error: %1.</source>
+            <translation>檔案中有錯誤：%1。</translation>
         </message>
         <message>
             <source>The club needs a name.</source>
@@ -69,8 +69,8 @@
             <translation>無法儲存俱樂部設定：%1。</translation>
         </message>
         <message>
-            <source>Saved without %1.</source>
-            <translation>已儲存，但不包括 %1。</translation>
+            <source>Saved, but not everything: %1.</source>
+            <translation>已儲存，但不完整：%1。</translation>
         </message>
         <message>
             <source>No mixer is attached.</source>

@@ -17,7 +17,8 @@
 
 namespace ztk::model {
 
-// The fields of a request's setup packet; none of these sends data.
+// The fields of a request's setup packet. No planned request has data after
+// this packet; only a reply can follow it.
 struct Setup {
   std::uint8_t type;
   std::uint8_t request;
@@ -29,7 +30,7 @@ struct Setup {
 struct PlannedRequest {
   int mixer;  // counts from 1
   Setup setup;
-  std::string meaning;  // in the words of the settings
+  std::string meaning;  // for the user: "USB input 2: 3 Post CH2 Fader"
 };
 
 struct PlannedWrite {
@@ -44,7 +45,7 @@ struct PlannedWrite {
 struct PlannedAnnouncement {
   std::string name;
   std::vector<std::pair<std::string, std::uint32_t>> numbers;
-  std::string meaning;  // in the words of the settings
+  std::string meaning;  // for the user: "USB input 2: 3 Post CH2 Fader"
 };
 
 class Plan {
@@ -52,16 +53,18 @@ class Plan {
   // Finds the attached mixers, and sends nothing to them.
   Plan();
 
-  // A setter: sends, remembers, announces, and reads the selectors.
+  // The following functions only add to the plan: nothing is sent or stored.
+  //
+  // Adds what a setter does: send, remember, announce, read the selectors.
   void AddChange(const Change &change);
-  // Removes a value from its file.
+  // Adds the removal of a value from its file.
   void AddForgetting(const Setting &setting, std::uint32_t channel);
-  // Sends a value again.
+  // Adds sending a value again.
   void AddSendingAgain(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
-  // Sends and announces the default of a USB output.
+  // Adds sending and announcing the default of a USB output.
   void AddDefault(const Setting &setting, std::uint32_t channel);
-  // Sends a raw value of a USB input.
+  // Adds sending a raw value of a USB input.
   void AddRaw(std::uint32_t channel, std::uint32_t high, std::uint32_t source);
 
   std::size_t mixersFound() const { return found_; }

@@ -110,9 +110,9 @@ class ImportReader {
 
   void ReadEntry(const std::string &name, const Json &value) {
     if (name == "version") {
-      if (value != kVersion) AddError(name, "accepted: 1");
+      if (value != kVersion) AddError(name, "it is not supported; accepted: 1");
     } else if (name == "settings") {
-      if (!value.is_object()) return AddError(name, "accepted: an object");
+      if (!value.is_object()) return AddError(name, "it is not a JSON object");
       for (const auto &[model, settings] : value.items()) {
         ReadModel(model, settings);
       }
@@ -134,7 +134,8 @@ class ImportReader {
       });
     }
     const std::string place = "settings." + model;
-    if (!settings.is_object()) return AddError(place, "accepted: an object");
+    if (!settings.is_object())
+      return AddError(place, "it is not a JSON object");
     for (const auto &[name, value] : settings.items()) {
       const Setting *found = FindSetting(model, name);
       if (found != nullptr) {

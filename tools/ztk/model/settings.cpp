@@ -127,7 +127,7 @@ const Setting kMidi{
     .name = "midi",
     .title = "MIDI channel",
     .place = "MIDI channel",
-    .idea = "what its controls send on",
+    .idea = "the channel that its controls use",
     .example = "\"ch 3\"",
     .product = midi::kProduct,
     .model = midi::kModel,

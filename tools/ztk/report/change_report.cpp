@@ -222,10 +222,11 @@ void ReportReach(const Reach &reach, const DeliveryTexts &texts,
                               {"unanswered", std::move(unanswered)}};
   if (answered == reach.found() && answered > 0) return;
   if (answered > 0) {
-    report->problem = {.exit = ExitCode::SomeMixers,
-                       .message = "only " + InNumbers(answered, reach.found()) +
-                                  " answered; once the others do, " +
-                                  texts.again};
+    report->problem = {
+        .exit = ExitCode::SomeMixers,
+        .message = "only " + InNumbers(answered, reach.found()) +
+                   " accepted the change; when the others are ready, " +
+                   texts.again};
     return;
   }
   const Obstruction obstruction = ObstructionOf(reach);

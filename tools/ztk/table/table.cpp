@@ -91,7 +91,7 @@ cli::Command MakeImport() {
 
 cli::Command MakeApply() {
   cli::Command command = MakeOther(
-      "apply", "Send all remembered settings again",
+      "apply", "Send the remembered settings again (of every model: --all)",
       "Sends what is remembered for the VRM-D6. If nothing is remembered for\n"
       "it, sends what is remembered for its sister models. A setting without "
       "a\n"

@@ -11,8 +11,6 @@ namespace ztk::program {
 
 namespace {
 
-constexpr char kAcceptedSources[] = " (SOURCE: 0 to 15)";
-
 // HIGH or SOURCE.
 std::uint32_t RawNumber(const Arguments &arguments, const char *name) {
   const std::string &word = *arguments.Find(name);
@@ -42,12 +40,20 @@ void AddRawFields(const Setting &setting, const RawValue &raw, Report *report) {
   report->fields["source"] = raw.source;
 }
 
-Report PlanOfRaw(const Setting &setting, std::uint32_t product,
-                 const RawValue &raw) {
-  CheckServed(setting, product, raw.InWords());
-  if (raw.source >= input_audio::kSources) {
-    ThrowRejected(setting, product, raw.InWords() + kAcceptedSources);
+[[noreturn]] void ThrowRefused(const Setting &setting, std::uint32_t product,
+                               const RawValue &raw) {
+  if (product != setting.product || raw.source < input_audio::kSources) {
+    ThrowRejected(setting, product, raw.InWords());
   }
+  throw Failure(ExitCode::Rejected,
+                "SOURCE is too large: " + std::to_string(raw.source) +
+                    "; accepted: 0 to 15" + SeeHelp(setting, "raw"));
+}
+
+Report DryRunOfRaw(const Setting &setting, std::uint32_t product,
+                   const RawValue &raw) {
+  CheckServed(setting, product, raw.InWords());
+  if (raw.source >= input_audio::kSources) ThrowRefused(setting, product, raw);
   Plan plan;
   plan.AddRaw(raw.channel, raw.high, raw.source);
   Report report;
@@ -66,7 +72,7 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
                      .high = RawNumber(arguments, Parameter::kHigh),
                      .source = RawNumber(arguments, Parameter::kSource)};
   if (arguments.Has(Parameter::kDryRun)) {
-    return PlanOfRaw(setting, product, raw);
+    return DryRunOfRaw(setting, product, raw);
   }
   RecordedCalls calls;
   const ZTKResult result = [&] {
@@ -75,9 +81,7 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
       return ZTK_SetUSBInputAudioDirect(product, channel, raw.high, raw.source);
     });
   }();
-  if (result == ZTK_REJECTED) {
-    ThrowRejected(setting, product, raw.InWords() + kAcceptedSources);
-  }
+  if (result == ZTK_REJECTED) ThrowRefused(setting, product, raw);
   Report report;
   AddSettingNames(setting, product, &report);
   AddRawFields(setting, raw, &report);
