@@ -66,7 +66,6 @@ Character FirstCharacter(std::string_view text) {
 
 std::string CleanText(std::string_view text) {
   std::string clean;
-  clean.reserve(text.size());
   while (!text.empty()) {
     const Character first = FirstCharacter(text);
     clean += first.good ? text.substr(0, first.length) : kReplacement;
