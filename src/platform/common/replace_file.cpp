@@ -21,16 +21,14 @@
 namespace ztk::platform {
 namespace {
 
-// Copies a regular file to a new file. Removes the new file on failure.
+// Copies a regular file to a new file. Removes the new file on failure. Then
+// errno is EEXIST only if the name of the new file is taken.
 bool CopyFile(const std::string &from, const std::string &to) {
   const FileDescriptor source(
       open(from.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
   struct stat status = {};
   if (!source.valid() || fstat(source.get(), &status) != 0) return false;
-  if (!S_ISREG(status.st_mode)) {
-    errno = EPERM;
-    return false;
-  }
+  if (!S_ISREG(status.st_mode)) return false;
   const FileDescriptor copy(
       open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
   if (!copy.valid()) return false;
@@ -47,7 +45,6 @@ bool CopyFile(const std::string &from, const std::string &to) {
     }
   }
   unlink(to.c_str());
-  errno = EIO;
   return false;
 }
 
