@@ -183,8 +183,17 @@ TEST_F(DryRun, LeavesOutMixersThatCannotBeOpened) {
       Inside({"-n", "2", "--forbid", "1"}, "ztk boost set 1 --dry-run --json");
   EXPECT_EQ(Told(OneObject(result.out)),
             std::vector<std::string>({"mixer 2: 40 03 0300 8003 0000"}));
+  EXPECT_THAT(
+      Inside({"-n", "2", "--forbid", "1"}, "ztk boost set 1 --dry-run").out,
+      HasSubstr(
+          "  1 of 2 mixers cannot be opened and would receive nothing\n"));
   EXPECT_THAT(NoMixer("ztk boost set 1 --dry-run").out,
               HasSubstr("no request, as no mixer is attached"));
+}
+
+TEST_F(DryRun, OfResetSaysThatThereIsNothingToForget) {
+  EXPECT_EQ(OneMixer("ztk reset --dry-run").out,
+            "Nothing is remembered: nothing to forget.\n");
 }
 
 TEST_F(DryRun, SaysThatNothingWouldBeSent) {

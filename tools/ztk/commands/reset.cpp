@@ -84,7 +84,9 @@ void AddForgotten(const ForgottenStep &step, Report *report) {
 
 Report Reset(const Arguments &arguments) {
   const std::vector<StoredValue> values = ValuesFor(arguments);
-  if (arguments.Has(Parameter::kDryRun)) return PlanOfReset(values);
+  if (arguments.Has(Parameter::kDryRun) && !values.empty()) {
+    return PlanOfReset(values);
+  }
   Report report;
   report.fields["settings"] = Json::array();
   if (values.empty()) {

@@ -210,10 +210,9 @@ Report ShowWarning(const Arguments &arguments) {
   if (text == nullptr) {
     const std::string why = WhyInstalledIsNotFound();
     throw Failure(ExitCode::Failed,
-                  "the library finds no such text: " +
-                      (why.empty() ? "make sure that VRM-D6Setup.framework is "
-                                     "installed"
-                                   : why));
+                  why.empty() ? "the warning texts are not installed; ztk "
+                                "doctor shows how to install them"
+                              : "the library finds no such text: " + why);
   }
   Report report;
   report.isAnswer = true;

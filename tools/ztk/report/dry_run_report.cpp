@@ -45,6 +45,12 @@ std::string RequestLines(const Plan &plan) {
     text += (mixers.size() == 1 ? "  mixer " : "  mixers ") +
             cli::Listed(mixers) + "  " + meaning + "\n";
   }
+  const std::size_t closed = plan.mixersFound() - plan.mixersThatCanBeOpened();
+  if (closed > 0) {
+    text += "  " + std::to_string(closed) + " of " +
+            std::to_string(plan.mixersFound()) +
+            " mixers cannot be opened and would receive nothing\n";
+  }
   return text;
 }
 
