@@ -125,7 +125,6 @@ Code FindServices(Port /*port*/, Matching *matching, Iterator *iterator) try {
   *iterator = snapshot.release();
   return kSuccess;
 } catch (const std::bad_alloc &) {
-  *iterator = nullptr;
   return kError;
 }
 
@@ -170,15 +169,11 @@ Code GetDeviceProduct(Device *device, std::uint16_t *product) {
 // A device of the snapshot is freed with the iterator, but a connection has to
 // exist longer, so it is a separate object.
 Device *MakeReady(Device *device, Result *result) try {
-  const int node = OpenNode(device->facts, result);
-  if (node < 0) return nullptr;
-  auto *connection = new (std::nothrow)
-      Device{.facts = device->facts, .isConnection = true, .node = node};
-  if (connection == nullptr) {
-    close(node);
-    *result = ResultOfOpening(ENOMEM);
-  }
-  return connection;
+  // The memory is allocated first, so that no node stays open if that fails.
+  auto connection = std::make_unique<Device>(
+      Device{.facts = device->facts, .isConnection = true});
+  connection->node = OpenNode(device->facts, result);
+  return connection->node < 0 ? nullptr : connection.release();
 } catch (const std::bad_alloc &) {
   *result = ResultOfOpening(ENOMEM);
   return nullptr;

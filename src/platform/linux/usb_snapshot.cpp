@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <string_view>
 
 #include "platform/common/file_descriptor.h"
@@ -41,6 +42,11 @@ std::size_t ReadAttribute(std::string_view entry, std::string_view attribute,
   const ssize_t got = read(file.get(), bytes, size);
   return got < 0 ? 0 : static_cast<std::size_t>(got);
 }
+
+// Closes the folder also if an allocation fails.
+struct CloseFolder {
+  void operator()(DIR *folder) const { closedir(folder); }
+};
 
 std::uint16_t Number16(const std::uint8_t *bytes, ByteOrder order) {
   std::uint16_t number = 0;
@@ -94,12 +100,12 @@ int BusOf(std::uint64_t place) {
 }
 
 bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices) {
-  DIR *directory = opendir(kDevices);
-  if (directory == nullptr) return false;
+  const std::unique_ptr<DIR, CloseFolder> folder(opendir(kDevices));
+  if (folder == nullptr) return false;
   constexpr std::size_t kUsualDevices = 32;
   if (wanted.IsAny()) devices->reserve(kUsualDevices);
   DeviceIdentity identity;
-  while (const dirent *found = readdir(directory)) {
+  while (const dirent *found = readdir(folder.get())) {
     if (!IsDevice(found->d_name)) continue;
     if (!ReadIdentity(found->d_name, &identity)) continue;
     if (!wanted.Is(identity)) continue;
@@ -107,7 +113,6 @@ bool ReadBus(const WantedDevice &wanted, std::vector<DeviceFacts> *devices) {
                         .place = PlaceOf(found->d_name),
                         .identity = identity});
   }
-  closedir(directory);
   std::sort(devices->begin(), devices->end(),
             [](const DeviceFacts &left, const DeviceFacts &right) {
               return left.place < right.place;
