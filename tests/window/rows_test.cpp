@@ -144,29 +144,37 @@ void RowsTest::TellsWhatIsKnownOfTheMixers_data() {
   QTest::addColumn<int>("inMixers");
   QTest::addColumn<bool>("isStored");
   QTest::addColumn<QString>("expected");
+  QTest::addColumn<int>("wire");
   const auto row = [](const char *name, InMixers inMixers, bool isStored,
-                      const char *expected) {
-    QTest::newRow(name) << static_cast<int>(inMixers) << isStored << expected;
+                      const char *expected, InMixers wire) {
+    QTest::newRow(name) << static_cast<int>(inMixers) << isStored << expected
+                        << static_cast<int>(wire);
   };
-  row("not known", InMixers::NotKnown, true, "Remembered; not confirmed.");
-  row("in none", InMixers::None, true, "Remembered; no mixer has it.");
+  row("not known", InMixers::NotKnown, true, "Remembered; not confirmed.",
+      InMixers::NotKnown);
+  row("in none", InMixers::None, true, "Remembered; no mixer has it.",
+      InMixers::None);
   row("not known, default", InMixers::NotKnown, false,
-      "Nothing is remembered; this is the default.");
+      "Nothing is remembered; this is the default.", InMixers::NotKnown);
+  // Its wire is not dashed, which would mean "only remembered".
   row("in none, default", InMixers::None, false,
-      "Nothing is remembered; this is the default.");
+      "Nothing is remembered; this is the default.", InMixers::NotKnown);
+  row("in every one, default", InMixers::Every, false,
+      "Nothing is remembered; this is the default.", InMixers::Every);
 }
 
 void RowsTest::TellsWhatIsKnownOfTheMixers() {
   QFETCH(const int, inMixers);
   QFETCH(const bool, isStored);
   QFETCH(const QString, expected);
+  QFETCH(const int, wire);
   RowState &row = RowOf(&state_, model::kInput, 0);
   row.delivery = Delivery::Idle;
   row.inMixers = static_cast<InMixers>(inMixers);
   if (!isStored) row.stored.reset();
   window_->showState(state_);
   QCOMPARE(InputRow(0)->text(), expected);
-  QCOMPARE(static_cast<int>(PictureOf(state_).channels[0].inMixers), inMixers);
+  QCOMPARE(static_cast<int>(PictureOf(state_).channels[0].inMixers), wire);
 }
 
 // Undo can bring back the default, after which nothing is remembered.

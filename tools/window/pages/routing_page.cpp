@@ -34,6 +34,13 @@ PictureState::Selector SelectorOf(const State &state, std::size_t lane) {
   return selector;
 }
 
+// Dashed means "only remembered", so a row with nothing remembered is not
+// dashed.
+InMixers WireOf(const RowState &row) {
+  return row.inMixers == InMixers::None && !row.stored ? InMixers::NotKnown
+                                                       : row.inMixers;
+}
+
 }  // namespace
 
 PictureState PictureOf(const State &state) {
@@ -43,7 +50,7 @@ PictureState PictureOf(const State &state) {
     const RowState *row = state.Row(model::kInput, channel);
     if (row == nullptr) continue;
     picture.channels[i] = {.tap = model::TapOf(channel, row->shown),
-                           .inMixers = row->inMixers};
+                           .inMixers = WireOf(*row)};
   }
   for (std::size_t lane = 0; lane < picture.selectors.size(); ++lane) {
     picture.selectors[lane] = SelectorOf(state, lane);
