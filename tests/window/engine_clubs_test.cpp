@@ -23,6 +23,7 @@ class EngineClubsTest : public EngineWorld {
  private slots:
   void SavesAFileThatZtkImports();
   void ShowsWhatAClubWouldChange();
+  void SaysWhetherTheMixersMayLackAClub();
   void AppliesAClubAsOneStep();
   void SaysWhyAFileIsNoClub_data();
   void SaysWhyAFileIsNoClub();
@@ -78,6 +79,36 @@ void EngineClubsTest::ShowsWhatAClubWouldChange() {
   QCOMPARE(preview.changes[0].before, QStringLiteral("MIC"));
   QCOMPARE(preview.changes[0].after, QStringLiteral("Post CH2 Fader"));
   EVENTUALLY(Row(kInput, 1).shown == 5);
+}
+
+void EngineClubsTest::SaysWhetherTheMixersMayLackAClub() {
+  Ztk({"boost", "set", "1"});
+  StartEngine();
+  engine().saveClub(QStringLiteral("a"));
+  EVENTUALLY(state().clubs.size() == 1);
+  const QString path = state().clubs[0].path;
+  QVERIFY(Preview(path).needsSending);
+  engine().resendAll();
+  EVENTUALLY(Row(kBoost, 0).inMixers == InMixers::Every);
+  QVERIFY(!Preview(path).needsSending);
+  // A choice that is refused is known not to be in every mixer.
+  Mixer({"fault", "stall"});
+  engine().resendAll();
+  EVENTUALLY(Row(kBoost, 0).inMixers == InMixers::None);
+  QVERIFY(!state().NeedsSending());
+  QVERIFY(Preview(path).needsSending);
+  Mixer({"fault", "none"});
+  // Without a mixer there is nothing to send to.
+  Mixer({"unplug"});
+  EVENTUALLY(state().mixers.isEmpty());
+  QVERIFY(!Preview(path).needsSending);
+  Mixer({"plug"});
+  EVENTUALLY(state().mixers.size() == 2);
+  QVERIFY(Preview(path).needsSending);
+  // Applying it sends it too.
+  Ztk({"boost", "set", "2"});
+  EVENTUALLY(Row(kBoost, 0).shown == 1);
+  QVERIFY(!Preview(path).needsSending);
 }
 
 void EngineClubsTest::AppliesAClubAsOneStep() {

@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -58,6 +59,7 @@ class MainWindowTest : public QObject {
   void ListsClubsAndAppliesAfterAPreview();
   void DoesNotApplyABrokenClub();
   void DoesNotApplyAClubThatChangesNothing();
+  void OffersToSendAClubThatIsNotConfirmed();
   void AsksBeforeItReplacesAClub();
   void WantsANameForAClub();
   void ReadsTheClubsAgainWhenTheyAreUsed();
@@ -384,6 +386,30 @@ void MainWindowTest::DoesNotApplyAClubThatChangesNothing() {
   QCOMPARE(buttons->buttons().size(), 1);
   QCOMPARE(buttons->standardButton(buttons->buttons()[0]),
            QDialogButtonBox::Close);
+}
+
+void MainWindowTest::OffersToSendAClubThatIsNotConfirmed() {
+  QSignalSpy resend(window_.get(), &MainWindow::resendWanted);
+  QSignalSpy apply(window_.get(), &MainWindow::applyWanted);
+  window_->showPreview({.club = {.name = "Friday", .path = "/f"},
+                        .changes = {},
+                        .error = {},
+                        .needsSending = true});
+  QPointer<ClubDialog> dialog = window_->findChild<ClubDialog *>();
+  QCOMPARE(dialog->findChild<QLabel *>()->text(),
+           QStringLiteral("“Friday” changes nothing: all of its settings are "
+                          "remembered already.\nIt is not known whether every "
+                          "mixer has what is remembered. Send all again to be "
+                          "sure."));
+  SettleLayouts();
+  QCOMPARE(CutTexts(*dialog), QStringList());
+  QCOMPARE(dialog->findChild<QDialogButtonBox *>()->buttons().size(), 2);
+  for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+    if (button->text() == QLatin1String("&Send all again")) button->click();
+  }
+  QCOMPARE(resend.size(), 1);
+  QCOMPARE(apply.size(), 0);
+  QVERIFY(dialog.isNull() || !dialog->isVisible());
 }
 
 void MainWindowTest::AsksBeforeItReplacesAClub() {

@@ -288,6 +288,7 @@ void MainWindow::showPreview(const ClubPreview &preview) {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &ClubDialog::accepted, this,
           [this, path = preview.club.path] { emit applyWanted(path); });
+  if (preview.needsSending) dialog->OfferSending(notKnown_->text(), resend_);
   dialog->open();
 }
 

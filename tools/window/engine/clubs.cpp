@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <algorithm>
 
 #include "window/engine/sentences.h"
 #include "ztk/model/exchange.h"
@@ -83,8 +84,7 @@ ClubFile ReadClub(const QString &path) {
   return club;
 }
 
-ClubPreview PreviewOf(const QString &path) {
-  const ClubFile file = ReadClub(path);
+ClubPreview PreviewOf(const QString &path, const ClubFile &file) {
   ClubPreview preview{.club = ClubAt(path), .changes = {}, .error = file.error};
   model::SettingsSnapshot settings;
   for (const model::Change &change : file.changes) {
@@ -98,6 +98,21 @@ ClubPreview PreviewOf(const QString &path) {
          .after = ChoiceText(setting, change.channel, change.index)});
   }
   return preview;
+}
+
+bool NeedsSending(const ClubFile &file, const State &state) {
+  if (state.NeedsSending()) return true;
+  const bool anyAttached = std::any_of(
+      state.mixers.begin(), state.mixers.end(), [](const MixerState &mixer) {
+        return mixer.answer != MixerAnswer::Gone;
+      });
+  return anyAttached && std::any_of(file.changes.begin(), file.changes.end(),
+                                    [&state](const model::Change &change) {
+                                      const RowState *row = state.Row(
+                                          *change.setting, change.channel);
+                                      return row != nullptr &&
+                                             row->inMixers != InMixers::Every;
+                                    });
 }
 
 QString SaveClub(const QString &name) {

@@ -27,7 +27,11 @@ struct ClubFile {
 ClubFile ReadClub(const QString &path);
 
 // What applying it would change now.
-ClubPreview PreviewOf(const QString &path);
+ClubPreview PreviewOf(const QString &path, const ClubFile &file);
+
+// Whether a mixer is attached, and it is not confirmed that every mixer has
+// what is remembered, or what the club contains.
+bool NeedsSending(const ClubFile &file, const State &state);
 
 // Saves what is stored now. Returns why that failed, or what is missing in the
 // file; empty if the file contains everything.

@@ -278,11 +278,17 @@ void Engine::checkNow() { private_->CheckMixers(); }
 void Engine::setVisible(bool visible) { private_->SetVisible(visible); }
 
 void Engine::previewClub(const QString &path) {
-  private_->worker.Post(
-      Worker::Kind::Reading, "preview", [this, path]() -> Worker::Result {
-        const ClubPreview preview = PreviewOf(path);
-        return [this, preview] { emit clubPreviewed(preview); };
-      });
+  private_->worker.Post(Worker::Kind::Reading, "preview",
+                        [this, path]() -> Worker::Result {
+                          const ClubFile file = ReadClub(path);
+                          ClubPreview preview = PreviewOf(path, file);
+                          return [this, file, preview]() mutable {
+                            preview.needsSending = preview.error.isEmpty() &&
+                                                   preview.changes.isEmpty() &&
+                                                   NeedsSending(file, state());
+                            emit clubPreviewed(preview);
+                          };
+                        });
 }
 
 void Engine::applyClub(const QString &path) {

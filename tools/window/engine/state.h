@@ -157,6 +157,8 @@ struct ClubPreview {
   QList<Line> changes;
   // Why the file cannot be applied; empty where it can.
   QString error;
+  // It changes nothing that is remembered, but the mixers may not have it.
+  bool needsSending = false;
 };
 
 }  // namespace ztk::window

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/pages/club_dialog.h"
 
+#include <QAction>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -48,28 +49,38 @@ QWidget *TableOf(const ClubPreview &preview, QWidget *parent) {
 }  // namespace
 
 ClubDialog::ClubDialog(const ClubPreview &preview, QWidget *parent)
-    : QDialog(parent) {
+    : QDialog(parent),
+      introduction_(new QLabel(Introduction(preview), this)),
+      buttons_(new QDialogButtonBox(this)) {
   setWindowTitle(tr("Apply a club"));
-  auto *introduction = new QLabel(Introduction(preview), this);
-  introduction->setWordWrap(true);
-  introduction->setTextFormat(Qt::PlainText);
-  auto *buttons = new QDialogButtonBox(this);
+  introduction_->setWordWrap(true);
+  introduction_->setTextFormat(Qt::PlainText);
   if (preview.error.isEmpty() && !preview.changes.isEmpty()) {
-    buttons->addButton(tr("&Apply"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(QDialogButtonBox::Cancel);
+    buttons_->addButton(tr("&Apply"), QDialogButtonBox::AcceptRole);
+    buttons_->addButton(QDialogButtonBox::Cancel);
   } else {
-    buttons->addButton(QDialogButtonBox::Close);
+    buttons_->addButton(QDialogButtonBox::Close);
   }
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
   const int unit = fontMetrics().height();
-  introduction->setMinimumWidth(20 * unit);
+  introduction_->setMinimumWidth(20 * unit);
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(unit, unit, unit, unit);
   layout->setSpacing(unit);
-  layout->addWidget(introduction);
+  layout->addWidget(introduction_);
   layout->addWidget(TableOf(preview, this));
-  layout->addWidget(buttons);
+  layout->addWidget(buttons_);
+}
+
+void ClubDialog::OfferSending(const QString &why, QAction *send) {
+  introduction_->setText(introduction_->text() + QLatin1Char('\n') + why);
+  QPushButton *button =
+      buttons_->addButton(send->text(), QDialogButtonBox::ActionRole);
+  connect(button, &QPushButton::clicked, this, [this, send] {
+    send->trigger();
+    reject();
+  });
 }
 
 }  // namespace ztk::window

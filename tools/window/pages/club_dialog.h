@@ -3,8 +3,13 @@
 #define ZTK_TOOLS_WINDOW_PAGES_CLUB_DIALOG_H_
 
 #include <QDialog>
+#include <QString>
 
 #include "window/engine/state.h"
+
+class QAction;
+class QDialogButtonBox;
+class QLabel;
 
 namespace ztk::window {
 
@@ -14,6 +19,14 @@ class ClubDialog : public QDialog {
 
  public:
   explicit ClubDialog(const ClubPreview &preview, QWidget *parent = nullptr);
+
+  // Adds a button that triggers the action and closes the dialog, and a
+  // sentence that says why.
+  void OfferSending(const QString &why, QAction *send);
+
+ private:
+  QLabel *introduction_;
+  QDialogButtonBox *buttons_;
 };
 
 }  // namespace ztk::window
