@@ -24,6 +24,7 @@ class EngineClubsTest : public EngineWorld {
   void SavesAFileThatZtkImports();
   void ShowsWhatAClubWouldChange();
   void SaysWhetherTheMixersMayLackAClub();
+  void NamesWhatIsNotInAClub();
   void AppliesAClubAsOneStep();
   void SaysWhyAFileIsNoClub_data();
   void SaysWhyAFileIsNoClub();
@@ -109,6 +110,23 @@ void EngineClubsTest::SaysWhetherTheMixersMayLackAClub() {
   Ztk({"boost", "set", "2"});
   EVENTUALLY(Row(kBoost, 0).shown == 1);
   QVERIFY(!Preview(path).needsSending);
+}
+
+void EngineClubsTest::NamesWhatIsNotInAClub() {
+  Ztk({"input", "set", "2", "3"});
+  StartEngine();
+  engine().saveClub(QStringLiteral("a"));
+  EVENTUALLY(state().clubs.size() == 1);
+  const QString path = state().clubs[0].path;
+  QCOMPARE(Preview(path).kept, QStringList());
+  Ztk({"input", "set", "1", "mic"});
+  Ztk({"boost", "set", "1"});
+  QCOMPARE(Preview(path).kept,
+           (QStringList{"USB input 1", "USB output level"}));
+  engine().applyClub(path);
+  EVENTUALLY(Row(kInput, 1).delivery == Delivery::Sent);
+  EVENTUALLY(Row(kInput, 0).shown == 5);
+  QCOMPARE(Row(kInput, 0).stored, std::optional(5U));
 }
 
 void EngineClubsTest::AppliesAClubAsOneStep() {

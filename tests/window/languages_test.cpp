@@ -11,6 +11,7 @@
 #include "window/cut_texts.h"
 #include "window/engine/sentences.h"
 #include "window/main_window.h"
+#include "window/pages/club_dialog.h"
 #include "window/registry.h"
 #include "window/states.h"
 #include "window/translation.h"
@@ -78,6 +79,19 @@ void AddLanguages() {
   QTest::newRow("zh_TW") << "未連接混音器。" << 10U;
 }
 
+// Those of the dialog for a club that changes nothing, with all it can say.
+QStringList CutTextsOfAClub(MainWindow *window) {
+  window->showPreview(
+      {.club = {.name = "Friday", .path = "/f"},
+       .changes = {},
+       .error = {},
+       .kept = {PlaceText(model::kInput, 0), PlaceText(model::kInput, 1),
+                PlaceText(model::kBoost, 0)},
+       .needsSending = true});
+  SettleLayouts();
+  return CutTexts(*window->findChild<ClubDialog *>());
+}
+
 // Shows the application in the language of the row while it lives.
 class InLanguage {
  public:
@@ -141,7 +155,8 @@ void LanguagesTest::CutNoText() {
     window.showState(FullState());
     window.show();
     SettleLayouts();
-    const QStringList cut = CutTexts(window);
+    QStringList cut = CutTexts(window);
+    cut += CutTextsOfAClub(&window);
     QApplication::setFont(usual);
     QCOMPARE(cut, QStringList());
   }

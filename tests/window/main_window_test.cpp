@@ -353,7 +353,8 @@ void MainWindowTest::ListsClubsAndAppliesAfterAPreview() {
                         .changes = {{.place = "USB input 2",
                                      .before = "REC OUT",
                                      .after = "Post CH2 Fader"}},
-                        .error = {}});
+                        .error = {},
+                        .kept = {"USB input 1", "MIDI channel"}});
   auto *dialog = window_->findChild<ClubDialog *>();
   QVERIFY(dialog != nullptr);
   QStringList texts;
@@ -361,6 +362,8 @@ void MainWindowTest::ListsClubsAndAppliesAfterAPreview() {
     texts.append(label->text());
   }
   QVERIFY(texts.contains("Post CH2 Fader"));
+  QVERIFY(texts.contains(
+      "Not in this club, and not changed: USB input 1, MIDI channel."));
   QCOMPARE(apply.size(), 0);
   dialog->accept();
   QCOMPARE(apply.size(), 1);
@@ -370,7 +373,8 @@ void MainWindowTest::ListsClubsAndAppliesAfterAPreview() {
 void MainWindowTest::DoesNotApplyABrokenClub() {
   window_->showPreview({.club = {.name = "Friday", .path = "/f"},
                         .changes = {},
-                        .error = "The file is empty."});
+                        .error = "The file is empty.",
+                        .kept = {}});
   auto *dialog = window_->findChild<ClubDialog *>();
   auto *buttons = dialog->findChild<QDialogButtonBox *>();
   QCOMPARE(buttons->buttons().size(), 1);
@@ -379,8 +383,10 @@ void MainWindowTest::DoesNotApplyABrokenClub() {
 }
 
 void MainWindowTest::DoesNotApplyAClubThatChangesNothing() {
-  window_->showPreview(
-      {.club = {.name = "Friday", .path = "/f"}, .changes = {}, .error = {}});
+  window_->showPreview({.club = {.name = "Friday", .path = "/f"},
+                        .changes = {},
+                        .error = {},
+                        .kept = {}});
   auto *buttons =
       window_->findChild<ClubDialog *>()->findChild<QDialogButtonBox *>();
   QCOMPARE(buttons->buttons().size(), 1);
@@ -394,6 +400,7 @@ void MainWindowTest::OffersToSendAClubThatIsNotConfirmed() {
   window_->showPreview({.club = {.name = "Friday", .path = "/f"},
                         .changes = {},
                         .error = {},
+                        .kept = {},
                         .needsSending = true});
   QPointer<ClubDialog> dialog = window_->findChild<ClubDialog *>();
   QCOMPARE(dialog->findChild<QLabel *>()->text(),
@@ -403,6 +410,7 @@ void MainWindowTest::OffersToSendAClubThatIsNotConfirmed() {
                           "sure."));
   SettleLayouts();
   QCOMPARE(CutTexts(*dialog), QStringList());
+  QVERIFY(dialog->findChild<QLabel *>("kept") == nullptr);
   QCOMPARE(dialog->findChild<QDialogButtonBox *>()->buttons().size(), 2);
   for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
     if (button->text() == QLatin1String("&Send all again")) button->click();

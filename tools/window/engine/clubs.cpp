@@ -43,6 +43,26 @@ QString FileName(const QString &name) {
   return file + QLatin1String(kSuffix);
 }
 
+// The places of what is remembered and not in the file.
+QStringList KeptPlaces(const ClubFile &file,
+                       model::SettingsSnapshot *settings) {
+  QStringList kept;
+  for (const model::Setting *setting : model::AllSettings()) {
+    for (std::uint32_t channel = 0; channel < model::ChannelsToWalk(*setting);
+         ++channel) {
+      const bool isInFile = std::any_of(
+          file.changes.begin(), file.changes.end(),
+          [setting, channel](const model::Change &change) {
+            return change.setting == setting && change.channel == channel;
+          });
+      if (!isInFile && settings->Remembered(*setting, channel)) {
+        kept.append(PlaceText(*setting, channel));
+      }
+    }
+  }
+  return kept;
+}
+
 ClubState ClubAt(const QString &path) {
   return {.name = QFileInfo(path).completeBaseName(), .path = path};
 }
@@ -85,7 +105,8 @@ ClubFile ReadClub(const QString &path) {
 }
 
 ClubPreview PreviewOf(const QString &path, const ClubFile &file) {
-  ClubPreview preview{.club = ClubAt(path), .changes = {}, .error = file.error};
+  ClubPreview preview{
+      .club = ClubAt(path), .changes = {}, .error = file.error, .kept = {}};
   model::SettingsSnapshot settings;
   for (const model::Change &change : file.changes) {
     const model::Setting &setting = *change.setting;
@@ -97,6 +118,7 @@ ClubPreview PreviewOf(const QString &path, const ClubFile &file) {
              before ? ChoiceText(setting, change.channel, *before) : QString(),
          .after = ChoiceText(setting, change.channel, change.index)});
   }
+  if (file.error.isEmpty()) preview.kept = KeptPlaces(file, &settings);
   return preview;
 }
 

@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -157,6 +158,8 @@ struct ClubPreview {
   QList<Line> changes;
   // Why the file cannot be applied; empty where it can.
   QString error;
+  // The places of what is remembered and not in the club. It stays as it is.
+  QStringList kept;
   // It changes nothing that is remembered, but the mixers may not have it.
   bool needsSending = false;
 };

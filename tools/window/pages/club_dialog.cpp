@@ -46,6 +46,16 @@ QWidget *TableOf(const ClubPreview &preview, QWidget *parent) {
   return table;
 }
 
+QLabel *KeptLabel(const ClubPreview &preview, QWidget *parent) {
+  auto *label = new QLabel(parent);
+  label->setWordWrap(true);
+  label->setTextFormat(Qt::PlainText);
+  label->setObjectName(QStringLiteral("kept"));
+  label->setText(ClubDialog::tr("Not in this club, and not changed: %1.")
+                     .arg(preview.kept.join(QStringLiteral(", "))));
+  return label;
+}
+
 }  // namespace
 
 ClubDialog::ClubDialog(const ClubPreview &preview, QWidget *parent)
@@ -70,6 +80,7 @@ ClubDialog::ClubDialog(const ClubPreview &preview, QWidget *parent)
   layout->setSpacing(unit);
   layout->addWidget(introduction_);
   layout->addWidget(TableOf(preview, this));
+  if (!preview.kept.isEmpty()) layout->addWidget(KeptLabel(preview, this));
   layout->addWidget(buttons_);
 }
 

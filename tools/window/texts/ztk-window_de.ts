@@ -34,6 +34,10 @@
             <translation>„%1“ ändert diese Einstellungen:</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>In diesem Club nicht enthalten und unverändert: %1.</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>Club anwenden</translation>
         </message>

@@ -34,6 +34,10 @@
             <translation>«%1» cambia estos ajustes:</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>No incluido en este club y sin cambios: %1.</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>Aplicar un club</translation>
         </message>

@@ -34,6 +34,10 @@
             <translation>« %1 » change ces réglages :</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>Absent de ce club et inchangé : %1.</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>Appliquer un club</translation>
         </message>

@@ -34,6 +34,10 @@
             <translation>«%1» cambia queste impostazioni:</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>Non incluso in questo club e non modificato: %1.</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>Applica un club</translation>
         </message>

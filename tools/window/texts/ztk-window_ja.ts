@@ -34,6 +34,10 @@
             <translation>「%1」は次の設定を変更します:</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>このクラブに含まれず、変更されない設定: %1。</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>クラブの適用</translation>
         </message>

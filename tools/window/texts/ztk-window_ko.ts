@@ -34,6 +34,10 @@
             <translation>“%1”은(는) 다음 설정을 바꿉니다:</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>이 클럽에 없어 바뀌지 않는 설정: %1.</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>클럽 적용</translation>
         </message>

@@ -34,6 +34,10 @@
             <translation>‘%1’ verandert deze instellingen:</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>Niet in deze club en niet gewijzigd: %1.</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>Club toepassen</translation>
         </message>

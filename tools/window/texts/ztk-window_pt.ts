@@ -34,6 +34,10 @@
             <translation>«%1» altera estas definições:</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>Não incluído neste clube e inalterado: %1.</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>Aplicar um clube</translation>
         </message>

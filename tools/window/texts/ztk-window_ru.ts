@@ -34,6 +34,10 @@
             <translation>«%1» изменит эти настройки:</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>Нет в этом клубе и не изменяется: %1.</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>Применить клуб</translation>
         </message>

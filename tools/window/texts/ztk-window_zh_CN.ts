@@ -34,6 +34,10 @@
             <translation>“%1”将更改以下设置：</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>此俱乐部设置中未包含、保持不变的设置：%1。</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>应用俱乐部设置</translation>
         </message>

@@ -34,6 +34,10 @@
             <translation>「%1」將變更以下設定：</translation>
         </message>
         <message>
+            <source>Not in this club, and not changed: %1.</source>
+            <translation>此俱樂部設定中未包含、保持不變的設定：%1。</translation>
+        </message>
+        <message>
             <source>Apply a club</source>
             <translation>套用俱樂部設定</translation>
         </message>
