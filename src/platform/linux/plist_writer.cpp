@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdlib>
+#include <memory>
 #include <string_view>
 
 #include "platform/linux/c_locale.h"
@@ -62,8 +63,8 @@ std::string MakeXml(plist_t root) {
   plist_to_xml(root, &made, &length);
   if (made == nullptr) return "";
   const bool complete = errno != ENOMEM;
+  const std::unique_ptr<char, void (*)(void *)> owned(made, std::free);
   std::string xml(made, complete ? length : 0);
-  std::free(made);
   MakeDatesStrict(&xml);
   return xml;
 }

@@ -120,9 +120,10 @@ ReadResult AddEntriesOfFile(Dictionary *dictionary, ZTKTextRef path) try {
 void SetInteger(Dictionary *dictionary, ZTKTextRef key,
                 std::int32_t value) try {
   if (dictionary == nullptr || key == nullptr) return;
+  // The text is made first: if its allocation fails, no node remains.
+  const std::string clean = CleanText(key);
   errno = 0;
-  plist_dict_set_item(dictionary->root, CleanText(key).c_str(),
-                      MakeInteger(value));
+  plist_dict_set_item(dictionary->root, clean.c_str(), MakeInteger(value));
   dictionary->lacksMemory = dictionary->lacksMemory || errno == ENOMEM;
 } catch (const std::bad_alloc &) {
   dictionary->lacksMemory = true;
