@@ -226,12 +226,13 @@ TEST_F(Doctor, FindsThatTheSeatIsElsewhere) {
   const RootFiles files{
       {"/usr/lib/udev/rules.d/70-tarvix-mixer.rules", kGoodRule},
       {"/run/udev/data/c189:1", "I:12345\n"}};
-  // Written again from inside: later versions of umockdev look for these files
-  // in the sandbox.
+  // Written again from inside: later versions of umockdev redirect open() to a
+  // folder of the sandbox, but not mkdir().
   const std::string tagged =
       kAsOnARealSystem +
       std::string(
-          "mkdir -p /run/udev/data && "
+          "mkdir -p /run/udev/data; "
+          "mkdir -p \"$UMOCKDEV_DIR/run/udev/data\"; "
           "printf 'I:12345\\nG:uaccess\\nQ:uaccess\\nV:1\\n' "
           "> /run/udev/data/c189:1; ");
   RunWithFiles(files, {"-n", "1", "--forbid", "1"},
