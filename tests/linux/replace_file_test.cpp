@@ -125,17 +125,18 @@ TEST_F(NewFile, HasANameFromTheBeginningWithoutProc) {
 
 // A user may link the own file without the permission to read it.
 TEST_F(KeepingTheOldFile, DoesNotReplaceAFileThatHasTheFirstName) {
-  constexpr uid_t kNobody = 65534;
+  constexpr uid_t kOtherOwner = 65534;
   Put(path_, "old");
   Put(kept_, "of another time");
   ASSERT_EQ(chmod(path_.c_str(), 0), 0);
   const bool asRoot = getuid() == 0;
   if (asRoot) {
-    ASSERT_EQ(chown(folder_.path().c_str(), kNobody, kNobody), 0);
-    ASSERT_EQ(chown(path_.c_str(), kNobody, kNobody), 0);
+    ASSERT_EQ(chown(folder_.path().c_str(), kOtherOwner, kOtherOwner), 0);
+    ASSERT_EQ(chown(path_.c_str(), kOtherOwner, kOtherOwner), 0);
   }
   const int code = ztk::test::ExitCodeOf([this, asRoot] {
-    if (asRoot && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) return -1;
+    if (asRoot && (setgid(kOtherOwner) != 0 || setuid(kOtherOwner) != 0))
+      return -1;
     return Replace();
   });
   EXPECT_EQ(code, 0);
