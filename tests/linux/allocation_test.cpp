@@ -11,21 +11,11 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
-#include <new>
 
 #include "ZTKOutcome.h"
+#include "linux/failing_new.h"
 
 namespace {
-
-// The number of the allocation that fails, from 1; 0 if none fails.
-long failing = 0;
-long counted = 0;
-
-void *Allocate(std::size_t size) {
-  if (failing != 0 && ++counted == failing) return nullptr;
-  return std::malloc(size == 0 ? 1 : size);
-}
 
 void OnChannel(std::int32_t, std::int32_t, void *) {}
 
@@ -99,11 +89,8 @@ long FailEach(const Call &call) {
   const int descriptor = LowestFreeDescriptor();
   bool mixerLackedMemory = false;
   for (long which = 1;; ++which) {
-    counted = 0;
-    failing = which;
-    const ZTKResult result = call.call();
-    failing = 0;
-    if (counted < which) {
+    ZTKResult result = 0;
+    if (!ztk::test::RunFailing(which, [&] { result = call.call(); })) {
       if (mixerLackedMemory == call.opensMixer) return which - 1;
       std::printf("%s: the record does not contain the lack of memory\n",
                   call.name);
@@ -124,19 +111,6 @@ long FailEach(const Call &call) {
 }
 
 }  // namespace
-
-// The operators are defined after their callers, so that the compiler does not
-// assume that they never return null.
-void *operator new(std::size_t size) {
-  void *memory = Allocate(size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
-  return Allocate(size);
-}
-void operator delete(void *memory) noexcept { std::free(memory); }
-void operator delete(void *memory, std::size_t) noexcept { std::free(memory); }
 
 int main() {
   int failures = 0;

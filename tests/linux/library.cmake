@@ -15,9 +15,10 @@ target_compile_definitions(plain_child PRIVATE
   $<TARGET_PROPERTY:ztk_platform_linux,COMPILE_DEFINITIONS>)
 
 # The core and the port are linked into this test.
-add_executable(allocation_test allocation_test.cpp)
+add_executable(allocation_test allocation_test.cpp failing_new.cpp)
 target_link_libraries(allocation_test PRIVATE
   ztk_headers ztk_core ztk_platform_linux)
+target_include_directories(allocation_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
 add_dependencies(allocation_test ztk-virtual-mixer)
 add_test(NAME allocation_test
   COMMAND ztk-virtual-mixer run --private-settings -- $<TARGET_FILE:allocation_test>)

@@ -5,12 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <cstddef>
-#include <cstdlib>
-#include <functional>
-#include <new>
 #include <string>
 
+#include "linux/failing_new.h"
 #include "linux/plist_files.h"
 #include "linux/temp_folder.h"
 #include "platform/property_list.h"
@@ -21,24 +18,7 @@ namespace {
 namespace plist = ztk::platform::property_list;
 using plist::ReadState;
 using ztk::test::ContentOf;
-
-// The number of the next allocation that fails, from 1; 0 if none fails.
-long failing = 0;
-
-void *Allocate(std::size_t size) {
-  if (failing != 0 && --failing == 0) return nullptr;
-  return std::malloc(size == 0 ? 1 : size);
-}
-
-// Calls the function while allocation number `which` fails. Returns false if
-// the function has fewer allocations.
-bool RunFailing(long which, const std::function<void()> &function) {
-  failing = which;
-  function();
-  const bool failed = failing == 0;
-  failing = 0;
-  return failed;
-}
+using ztk::test::RunFailing;
 
 class OutOfMemory : public testing::Test {
  protected:
@@ -142,16 +122,3 @@ TEST_F(OutOfMemory, NoUsbDevicesAreMatched) {
 }
 
 }  // namespace
-
-// The operators are defined after their callers, so that the compiler does not
-// assume that they never return null.
-void *operator new(std::size_t size) {
-  void *memory = Allocate(size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
-  return Allocate(size);
-}
-void operator delete(void *memory) noexcept { std::free(memory); }
-void operator delete(void *memory, std::size_t) noexcept { std::free(memory); }
