@@ -95,12 +95,7 @@ Report Reset(const Arguments &arguments) {
   }
   SharedHistory history;
   const ForgottenStep step = ForgetValues("reset", values, history.get());
-  if (!step.notRecorded.empty()) {
-    report.warnings.push_back(
-        "ztk undo will not be able to undo this change, because it was not "
-        "recorded: " +
-        step.notRecorded);
-  }
+  WarnIfNotRecorded(step.notRecorded, &report);
   AddForgotten(step, &report);
   report.text +=
       "Nothing was sent: the mixer keeps its settings until it is switched "

@@ -186,22 +186,27 @@ SharedHistory::SharedHistory() {
   }
 }
 
+void WarnIfNotRecorded(const std::string &why, Report *report) {
+  if (why.empty()) return;
+  report->warnings.push_back(
+      "ztk undo will not be able to undo this change, because it was not "
+      "recorded: " +
+      why);
+}
+
 MadeChanges RunStep(const std::string &command,
                     const std::vector<Change> &changes, bool quiet,
                     Report *report) {
   SharedHistory history;
-  const std::size_t mixers = MixerPlaces().size();
-  if (mixers > 1 && !quiet && cli::IsTerminal(STDERR_FILENO)) {
-    WriteError("sending to " + std::to_string(mixers) + " mixers");
+  if (!quiet && cli::IsTerminal(STDERR_FILENO)) {
+    const std::size_t mixers = MixerPlaces().size();
+    if (mixers > 1) {
+      WriteError("sending to " + std::to_string(mixers) + " mixers");
+    }
   }
   const Progress progress = WaitForChanges(changes);
   MadeStep step = MakeStep(command, changes, history.get());
-  if (!step.notRecorded.empty()) {
-    report->warnings.push_back(
-        "ztk undo will not be able to undo this change, because it was not "
-        "recorded: " +
-        step.notRecorded);
-  }
+  WarnIfNotRecorded(step.notRecorded, report);
   return std::move(step.made);
 }
 

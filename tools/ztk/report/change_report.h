@@ -36,6 +36,9 @@ Progress WaitForChanges(const std::vector<Change> &changes);
 // for some settings a query of the input selectors.
 std::size_t RequestsOf(const Setting &setting);
 
+// Adds a warning that undo will not know the step. `why` is empty if it will.
+void WarnIfNotRecorded(const std::string &why, Report *report);
+
 // Makes the changes as one step of the history, and shows when it waits for a
 // mixer. In a terminal it shows the number of mixers when there are several,
 // unless `quiet`. Adds a warning when undo will not know the step.

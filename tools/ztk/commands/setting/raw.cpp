@@ -47,7 +47,9 @@ void AddRawFields(const Setting &setting, const RawValue &raw, Report *report) {
   }
   throw Failure(ExitCode::Rejected,
                 "SOURCE is too large: " + std::to_string(raw.source) +
-                    "; accepted: 0 to 15" + SeeHelp(setting, "raw"));
+                    "; accepted: 0 to " +
+                    std::to_string(input_audio::kSources - 1) +
+                    SeeHelp(setting, "raw"));
 }
 
 Report DryRunOfRaw(const Setting &setting, std::uint32_t product,
