@@ -7,14 +7,10 @@ namespace ztk::window {
 
 namespace {
 
-bool IsAttached(const MixerState &mixer) {
-  return mixer.answer != MixerAnswer::Gone;
-}
-
 QStringList AttachedPlaces(const QList<MixerState> &mixers) {
   QStringList places;
   for (const MixerState &mixer : mixers) {
-    if (IsAttached(mixer)) places.append(mixer.place);
+    if (mixer.isAttached()) places.append(mixer.place);
   }
   return places;
 }

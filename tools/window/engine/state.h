@@ -36,6 +36,8 @@ struct MixerState {
   // Of CH1 to CH4, each 0 to 4.
   std::array<std::optional<int>, 4> selectors;
 
+  bool isAttached() const { return answer != MixerAnswer::Gone; }
+
   bool operator==(const MixerState &) const = default;
 };
 
