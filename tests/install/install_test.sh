@@ -86,7 +86,12 @@ readme() {
     cd "$folder"
     # shellcheck disable=SC2086,SC2317  # several flags; called by eval
     cc() { "$CC" $flags "$@"; }
-    PKG_CONFIG_PATH=$PREFIX/$LIBDIR/pkgconfig
+    # The flags of pkg-config are not quoted, so README's command needs a prefix
+    # without spaces.
+    links=$(mktemp -d)
+    trap 'rm -rf "$links"' EXIT
+    ln -s "$PREFIX" "$links/prefix"
+    PKG_CONFIG_PATH=$links/prefix/$LIBDIR/pkgconfig
     export PKG_CONFIG_PATH
     eval "$(readme_block "sh compile")"
     [[ -x a.out ]] || fail "README's command did not build the program."
@@ -101,7 +106,7 @@ pkg_config() {
   expect "$VERSION" "$(with_pkg_config --modversion)" "Version of the package"
   local to=$WORK/by-pkg-config options
   mkdir -p "$to"
-  read -ra options <<<"$flags $(with_pkg_config --cflags --libs)"
+  eval "options=($flags $(with_pkg_config --cflags --libs))"
   "$CC" -std=c99 -pedantic -Wall -Wextra -Werror "$CONSUMER/consumer.c" \
     "${options[@]}" -o "$to/consumer_c"
   "$CXX" -std=c++17 -pedantic -Wall -Wextra -Werror "$CONSUMER/consumer.cpp" \
@@ -120,7 +125,7 @@ bundle() {
     exit 77
   }
   local program=$WORK/consumer_of_bundle options
-  read -ra options <<<"$flags $(with_pkg_config --cflags --libs)"
+  eval "options=($flags $(with_pkg_config --cflags --libs))"
   "$CC" "$CONSUMER/consumer.c" "${options[@]}" -o "$program"
 
   local text

@@ -171,8 +171,11 @@ class ResourceAttacks(Attack):
 
     def failing_allocations(self):
         count_file = self.place.home / "allocations"
+        # LD_PRELOAD cannot contain a path with a space.
+        library = self.place.home / "fail_allocation.so"
+        library.symlink_to(self.fail_allocation)
         preload = " ".join(filter(None, (os.environ.get("LD_PRELOAD"),
-                                         self.fail_allocation)))
+                                         str(library))))
         self.place.refill()
         self.set_boost(extra={"LD_PRELOAD": preload,
                               "ZTK_COUNT_ALLOCATIONS": str(count_file)})

@@ -13,6 +13,12 @@ ToolTest::ToolTest() {
   if (mkdtemp(made.data()) == nullptr) std::abort();
   folder_ = made;
   std::filesystem::create_directory(folder_ + "/tmp");
+  // Scripts name the programs without quotation marks, but the path of the
+  // build may contain spaces.
+  std::filesystem::create_symlink(PROBE, folder_ + "/probe");
+  std::filesystem::create_symlink(UDEV_PROBE, folder_ + "/udev-probe");
+  std::filesystem::create_symlink(VIRTUAL_MIXER,
+                                  folder_ + "/ztk-virtual-mixer");
 }
 
 ToolTest::~ToolTest() { std::filesystem::remove_all(folder_); }
@@ -20,9 +26,9 @@ ToolTest::~ToolTest() { std::filesystem::remove_all(folder_); }
 ToolResult ToolTest::Run(const std::vector<std::string> &words) const {
   return test::RunProgram(words, folder_, [this] {
     setenv("TMPDIR", (folder_ + "/tmp").c_str(), 1);
-    setenv("PROBE", PROBE, 1);
-    setenv("UDEV_PROBE", UDEV_PROBE, 1);
-    setenv("TOOL", VIRTUAL_MIXER, 1);
+    setenv("PROBE", (folder_ + "/probe").c_str(), 1);
+    setenv("UDEV_PROBE", (folder_ + "/udev-probe").c_str(), 1);
+    setenv("TOOL", (folder_ + "/ztk-virtual-mixer").c_str(), 1);
     setenv("DIR", folder_.c_str(), 1);
     return 0;
   });

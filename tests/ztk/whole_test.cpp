@@ -10,10 +10,9 @@ namespace {
 class Whole : public CliWorld {};
 
 TEST_F(Whole, AfterTwoHundredKills) {
-  const Result result =
-      OneMixer(std::string(ZTK_KILL_CHILD) + " 200 " +
-               home_.SettingsFile("VRM-D6").string() +
-               "; ztk undo > /dev/null 2> $DIR/e; grep -c damaged $DIR/e");
+  const Result result = OneMixer(
+      "'" ZTK_KILL_CHILD "' 200 " + home_.SettingsFile("VRM-D6").string() +
+      "; ztk undo > /dev/null 2> $DIR/e; grep -c damaged $DIR/e");
   const std::vector<std::string> lines = SplitLines(result.out);
   ASSERT_EQ(lines.size(), 2U) << result.out;
   int killed = 0;

@@ -170,9 +170,10 @@ TEST_F(Running, SaysThatThereIsNoTemporaryFolder) {
 }
 
 TEST_F(Running, WorksWithoutStandardStreams) {
-  const std::string command = "TMPDIR=" + Folder() + "/tmp " + VIRTUAL_MIXER +
-                              " run -- sh -c '" + PROBE + " read 1 8001 2 >" +
-                              Folder() + "/seen' <&- >&- 2>&-";
+  const std::string command =
+      "cd " + Folder() +
+      " && TMPDIR=$PWD/tmp ./ztk-virtual-mixer run -- sh -c "
+      "'./probe read 1 8001 2 >seen' <&- >&- 2>&-";
   EXPECT_EQ(std::system(command.c_str()), 0);
   EXPECT_THAT(Lines("seen"), ElementsAre("2: 36 04"));
   EXPECT_THAT(LeftBehind(), IsEmpty());

@@ -115,8 +115,9 @@ TEST_F(Settings, GoWithAPrivateRunThatIsAborted) {
 // The library ignores a relative path.
 TEST_F(Settings, ArePrivateWithARelativeTemporaryFolderToo) {
   const std::string command =
-      "cd " + Folder() + " && TMPDIR=tmp " + VIRTUAL_MIXER +
-      " run --private-settings -- sh -c 'echo $XDG_CONFIG_HOME' >seen";
+      "cd " + Folder() +
+      " && TMPDIR=tmp ./ztk-virtual-mixer run "
+      "--private-settings -- sh -c 'echo $XDG_CONFIG_HOME' >seen";
   EXPECT_EQ(std::system(command.c_str()), 0);
   EXPECT_THAT(Lines("seen"), ElementsAre(StartsWith("/tmp/ztk-settings.")));
 }
