@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTabBar>
 
 namespace ztk::window {
@@ -30,9 +32,19 @@ bool IsCut(const QWidget &widget) {
          widget.height() < widget.minimumSizeHint().height();
 }
 
+// Whether any choice is cut, also one that is not chosen now.
 bool IsCut(const QComboBox &box) {
-  const int text = box.fontMetrics().horizontalAdvance(box.currentText());
-  return IsCut(static_cast<const QWidget &>(box)) || box.width() < text;
+  QStyleOptionComboBox option;
+  option.initFrom(&box);
+  const int room = box.style()
+                       ->subControlRect(QStyle::CC_ComboBox, &option,
+                                        QStyle::SC_ComboBoxEditField, &box)
+                       .width();
+  for (int i = 0; i < box.count(); ++i) {
+    if (box.fontMetrics().horizontalAdvance(box.itemText(i)) > room)
+      return true;
+  }
+  return IsCut(static_cast<const QWidget &>(box));
 }
 
 template <typename Widget>

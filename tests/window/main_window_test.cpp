@@ -19,6 +19,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QTest>
 #include <QToolTip>
 
@@ -510,7 +511,8 @@ void MainWindowTest::ShowsTheRowThatHasTheFocus() {
 void MainWindowTest::TheSisterModelsHaveTheirOwnPages() {
   QStringList labels;
   QStringList boxes;
-  for (const RowsPage *page : window_->otherPages()) {
+  for (RowsPage *page : window_->otherPages()) {
+    window_->findChild<QTabWidget *>()->setCurrentWidget(page);
     for (const ChoiceRow *row : page->rows()) {
       labels.append(row->findChild<QLabel *>()->text());
       boxes.append(row->box()->currentText());

@@ -61,7 +61,6 @@ PictureState PictureOf(const State &state) {
 RoutingPage::RoutingPage(QWidget *parent)
     : QWidget(parent), picture_(new Picture(this)), hint_(new QLabel(this)) {
   const int unit = fontMetrics().height();
-  hint_->setWordWrap(true);
   auto *column = new QVBoxLayout;
   column->setSpacing(unit / 2);
   auto *layout = new QHBoxLayout;

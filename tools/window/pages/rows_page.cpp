@@ -9,12 +9,14 @@ namespace ztk::window {
 
 RowsPage::RowsPage(const QList<const model::Setting *> &settings,
                    QWidget *parent)
-    : QWidget(parent) {
+    : QWidget(parent), settings_(settings) {}
+
+void RowsPage::MakeRows() {
   const int unit = fontMetrics().height();
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(unit, unit, unit, unit);
   layout->setSpacing(unit);
-  for (const model::Setting *setting : settings) {
+  for (const model::Setting *setting : settings_) {
     for (std::uint32_t channel = 0; channel < model::ChannelsToWalk(*setting);
          ++channel) {
       auto *row = new ChoiceRow(*setting, channel, this);
@@ -28,7 +30,16 @@ RowsPage::RowsPage(const QList<const model::Setting *> &settings,
 }
 
 void RowsPage::showState(const State &state) {
+  state_ = state;
   for (ChoiceRow *row : rows_) row->showState(state);
+}
+
+void RowsPage::showEvent(QShowEvent *event) {
+  if (rows_.isEmpty()) {
+    MakeRows();
+    showState(state_);
+  }
+  QWidget::showEvent(event);
 }
 
 }  // namespace ztk::window

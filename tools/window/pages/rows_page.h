@@ -11,7 +11,9 @@ namespace ztk::window {
 
 class ChoiceRow;
 
-// The page of a model whose settings are shown as rows, without a picture.
+// The page of a model whose settings are shown as rows, without a picture. The
+// rows are made when the page is shown for the first time: most owners never
+// open the page of a sister model, and the window starts faster without them.
 class RowsPage : public QWidget {
   Q_OBJECT
 
@@ -26,7 +28,14 @@ class RowsPage : public QWidget {
   void chosen(const ztk::model::Setting &setting, std::uint32_t channel,
               std::uint32_t index);
 
+ protected:
+  void showEvent(QShowEvent *event) override;
+
  private:
+  void MakeRows();
+
+  const QList<const model::Setting *> settings_;
+  State state_;
   QList<ChoiceRow *> rows_;
 };
 

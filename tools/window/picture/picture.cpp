@@ -37,6 +37,13 @@ QString Alternatives(const model::Tap &tap) {
                                 .arg(channels.join(QLatin1String(", ")));
 }
 
+PictureWords Words() {
+  return {.inputs = Picture::tr("Inputs"),
+          .selector = Picture::tr("Selector"),
+          .fader = Picture::tr("Fader"),
+          .crossFader = Picture::tr("Cross fader")};
+}
+
 }  // namespace
 
 QString TapName(const model::Tap &tap) {
@@ -91,24 +98,26 @@ QSize Picture::sizeHint() const { return minimumSizeHint(); }
 
 QSize Picture::minimumSizeHint() const { return least_; }
 
-// As large as there is room for.
+// The words and the font decide how small the picture can be.
 void Picture::LayOut() {
-  const PictureWords words{.inputs = tr("Inputs"),
-                           .selector = tr("Selector"),
-                           .fader = tr("Fader"),
-                           .crossFader = tr("Cross fader")};
-  layout_ = LayOutPicture(words, font());
-  const QSizeF least = layout_.size;
+  smallest_ = LayOutPicture(Words(), font());
+  const QSizeF least = smallest_.size;
   const QSize leastInPixels(static_cast<int>(std::ceil(least.width())),
                             static_cast<int>(std::ceil(least.height())));
   if (leastInPixels != least_) {
     least_ = leastInPixels;
     updateGeometry();
   }
+  TakeRoom();
+}
+
+// As large as there is room for.
+void Picture::TakeRoom() {
+  const QSizeF least = smallest_.size;
   const qreal room =
       std::min(width() / least.width(), height() / least.height());
   const qreal scale = std::clamp<qreal>(room, 1, kLargestScale);
-  if (scale > 1) layout_ = LayOutPicture(words, font(), scale);
+  layout_ = scale > 1 ? LayOutPicture(Words(), font(), scale) : smallest_;
   LayOutTheWires();
 }
 
@@ -236,7 +245,7 @@ void Picture::changeEvent(QEvent *event) {
   }
 }
 
-void Picture::resizeEvent(QResizeEvent * /*event*/) { LayOut(); }
+void Picture::resizeEvent(QResizeEvent * /*event*/) { TakeRoom(); }
 
 void Picture::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);

@@ -66,6 +66,7 @@ class Picture : public QWidget {
   };
 
   void LayOut();
+  void TakeRoom();
   void LayOutTheWires();
   void Choose(int channel, const model::Tap &tap);
   bool CanBeChosen(const TapSpot &spot) const;
@@ -80,6 +81,7 @@ class Picture : public QWidget {
   void ShowToolTip(QHelpEvent *event);
   QString ToolTipAt(QPointF point) const;
 
+  PictureLayout smallest_;  // with these words and this font
   PictureLayout layout_;
   QSize least_;
   PictureState state_;

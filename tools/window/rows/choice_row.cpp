@@ -27,7 +27,6 @@ ChoiceRow::ChoiceRow(const model::Setting &setting, std::uint32_t channel,
     box_->addItem(QString::fromStdString(choice.text));
   }
   box_->setCurrentIndex(-1);  // nothing is known yet
-  box_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   box_->installEventFilter(this);
   box_->setObjectName(QStringLiteral("%1 %2").arg(
       QLatin1String(setting.name), QString::number(channel + 1)));
