@@ -124,7 +124,7 @@ mixer 1: 40 03 0206 8002 0000
 mixer 2: 40 03 0200 8003 0000
 mixer 2: 40 03 0206 8002 0000" "$(writes | sort -u)"
 expect_start "the journal names the sent choices" \
-  "USB input 2: 3 Post CH2 Fader, sent" \
+  "USB input 2: Post CH2 Fader (3), sent" \
   "$(journalctl --quiet --output cat -t ztk-apply | sed -n 2p)"
 expect "no run of ztk-apply failed" "" \
   "$(as_guest systemctl --user list-units --failed --no-legend)"

@@ -69,7 +69,7 @@ TEST_F(KernelPrograms, StatusReadsAMixerOfTheKernel) {
       "  Serato        not active\n"
       "Nothing is remembered\n"
       "USB input 1 is silent: the input selector for CH1 is in position "
-      "3; 1 CH1 Control Tone PHONO is heard only in position 4: turn it to "
+      "3; CH1 Control Tone PHONO (1) is heard only in position 4: turn it to "
       "4\n"
       "Next: turn the input selector for CH1 to position 4\n"
       "status 0");
@@ -79,7 +79,7 @@ TEST_F(KernelPrograms, ASettingReachesBothMixersAndTheLogIsAsInTheSandbox) {
   EXPECT_EQ(Attached("-n 2 --log /tmp/kernel-log",
                      "$Z input set 1 mic 2>/dev/null; "
                      "grep -E \": (c0|40) \" /tmp/kernel-log | head -n 4"),
-            "USB input 1: 6 MIC, sent to 2 mixers, remembered\n"
+            "USB input 1: MIC (6), sent to 2 mixers, remembered\n"
             "mixer 1: 40 03 0109 8002 0000\n"
             "mixer 2: 40 03 0109 8002 0000\n"
             "mixer 1: c0 00 0000 8002 0005 -> 00 04 04 04 04\n"

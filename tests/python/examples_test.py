@@ -52,7 +52,7 @@ class SceneSwitcher(unittest.TestCase):
     def test_a_key_sets_the_scene(self) -> None:
         run = self.run_switcher(f"1={self.folder}/club.json", keys="1\n")
         self.assertEqual((run.stdout, run.returncode), ("scene 1 is set\n", 0))
-        self.assertIn("6 MIC", ztk("input", "get", "2"))
+        self.assertIn("MIC (6)", ztk("input", "get", "2"))
         self.assertIn("-5 dB", ztk("boost", "get"))
 
     def test_a_midi_note_sets_the_scene(self) -> None:

@@ -132,7 +132,7 @@ void EngineTest::MakesAChangeThatWasAskedForBeforeItEnds() {
   engine().choose(kInput, 0, 4);
   engine().choose(kBoost, 0, 0);
   EndEngine();
-  QVERIFY(Ztk({"boost", "get"}).contains(QStringLiteral("1 -5 dB")));
+  QVERIFY(Ztk({"boost", "get"}).contains(QStringLiteral("-5 dB (1)")));
 }
 
 void EngineTest::HearsAnotherProgram() {

@@ -14,8 +14,8 @@ TEST_F(Apply, SendsWhatIsRememberedAndNothingElse) {
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(
       result.out,
-      "USB input 2: 3 Post CH2 Fader, sent\n"
-      "USB input 5: 8 MIC, sent\n"
+      "USB input 2: Post CH2 Fader (3), sent\n"
+      "USB input 5: MIC (8), sent\n"
       "Not sent: what is remembered for the VRM-B5; ztk apply --all sends "
       "it too\n"
       "Not sent: what is remembered for the VRM-K2; ztk apply --all sends "
@@ -55,8 +55,8 @@ TEST_F(Apply, TellsOfEachSettingWhetherTheMixerHasAcceptedIt) {
       Inside({"-n", "1", "--fault", "stall@w8003"}, "ztk apply");
   EXPECT_EQ(result.status, 3);
   EXPECT_EQ(result.out,
-            "USB input 2: 3 Post CH2 Fader, sent\n"
-            "Boost level: 1 -5 dB, not accepted\n");
+            "USB input 2: Post CH2 Fader (3), sent\n"
+            "Boost level: -5 dB (1), not accepted\n");
 }
 
 TEST_F(Apply, TakesAnotherModelsFamily) {
@@ -80,7 +80,7 @@ TEST_F(Apply, NamesTheModelsThatItLeavesOut) {
     EXPECT_EQ(json["leftOut"], Json({"VRM-K2"}));
   }
   Remember("VRM-D6", {});
-  EXPECT_EQ(OneMixer("ztk apply").out, "MIDI channel: 4 CH 4, sent\n");
+  EXPECT_EQ(OneMixer("ztk apply").out, "MIDI channel: CH 4 (4), sent\n");
   // A user who names a model knows which settings are left out.
   EXPECT_EQ(OneMixer("ztk apply --product VRM-D6").out,
             "Nothing is remembered for the VRM-D6: nothing to send.\n");
@@ -90,9 +90,10 @@ TEST_F(Apply, SendsWhatIsRememberedForEveryModelWhenToldSo) {
   Remember("VRM-D6", {{"Output1", 2}});
   Remember("VRM-B5", {{"Input1", 2}});
   const Result result = OneMixer("ztk apply --all; echo $?");
-  EXPECT_EQ(result.out,
-            "USB input 2: 3 Post CH2 Fader, sent\nUSB output 2: 3 AUX, sent\n"
-            "0\n");
+  EXPECT_EQ(
+      result.out,
+      "USB input 2: Post CH2 Fader (3), sent\nUSB output 2: AUX (3), sent\n"
+      "0\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0206 8002 0000",
                                     "mixer 1: 40 03 0204 8016 0000"));
   EXPECT_EQ(OneMixer("ztk apply --all --product VRM-B5").status, 2);
@@ -113,7 +114,7 @@ TEST_F(Apply, ReportsAValueThatTheLibraryRefuses) {
   const Json json = OneObject(result.out);
   EXPECT_EQ(json["settings"][0]["accepted"], false);
   EXPECT_EQ(json["error"]["code"], "rejected");
-  EXPECT_THAT(result.err, HasSubstr("MIDI channel: 10 CH 10"));
+  EXPECT_THAT(result.err, HasSubstr("MIDI channel: CH 10 (10)"));
   EXPECT_THAT(result.err,
               HasSubstr("; apply can only re-send channels 1 to 4; for 5 to 16 "
                         "use set again: ztk midi set 10\n"));
@@ -127,9 +128,10 @@ TEST_F(Apply, IsNotPromisedForAHighMidiChannel) {
            R"({"version":1,"settings":{"VRM-K2":{"midi":"CH 5"}}})");
   EXPECT_EQ(
       OneMixer("ztk midi set 4; ztk midi set 5; ztk import $DIR/file").out,
-      "MIDI channel: 4 CH 4, sent to 1 mixer, remembered\n"
-      "MIDI channel: 5 CH 5, sent to 1 mixer, remembered\n" +
-          note + "MIDI channel: 5 CH 5, sent to 1 mixer, remembered\n" + note);
+      "MIDI channel: CH 4 (4), sent to 1 mixer, remembered\n"
+      "MIDI channel: CH 5 (5), sent to 1 mixer, remembered\n" +
+          note + "MIDI channel: CH 5 (5), sent to 1 mixer, remembered\n" +
+          note);
   EXPECT_THAT(NoMixer("ztk midi set 4").err,
               testing::EndsWith("when one is attached, run: ztk midi apply\n"));
   EXPECT_THAT(NoMixer("ztk midi set 5").err,
@@ -140,7 +142,7 @@ TEST_F(Apply, SendsTheOthersWhenOneIsRefused) {
   Remember("VRM-D6", {{"Output0", 5}, {"MaxLevel", 4}});
   const Result result = OneMixer("ztk apply");
   EXPECT_EQ(result.status, 4);
-  EXPECT_THAT(result.out, HasSubstr("USB input 1: 6 MIC, sent\n"));
+  EXPECT_THAT(result.out, HasSubstr("USB input 1: MIC (6), sent\n"));
   EXPECT_THAT(result.out,
               HasSubstr("Boost level: 4, which is not a choice, refused\n"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0109 8002 0000"));
@@ -169,7 +171,7 @@ TEST_F(Apply, IsThreeWithoutAMixerAndStillReportsARefusedValue) {
   Remember("VRM-D6", {{"Output0", 5}});
   const Result result = NoMixer("ztk apply");
   EXPECT_EQ(result.status, 3);
-  EXPECT_EQ(result.out, "USB input 1: 6 MIC\n");
+  EXPECT_EQ(result.out, "USB input 1: MIC (6)\n");
   Remember("VRM-D6", {{"Output0", 5}, {"MaxLevel", 4}});
   EXPECT_EQ(NoMixer("ztk apply").status, 4);
 }
@@ -187,7 +189,7 @@ TEST_F(Apply, SkipsAValueThatIsNoNumber) {
   WriteAll(home_.SettingsFile("VRM-D6"),
            "<plist version=\"1.0\"><dict><key>Output0</key><array/>"
            "<key>Output1</key><string>5</string></dict></plist>");
-  EXPECT_EQ(OneMixer("ztk apply").out, "USB input 2: 6 MIC, sent\n");
+  EXPECT_EQ(OneMixer("ztk apply").out, "USB input 2: MIC (6), sent\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0209 8002 0000"));
 }
 

@@ -13,6 +13,8 @@ const std::vector<Choice> kRouting{{.number = 1, .text = "CH1 Tone PHONO"},
                                    {.number = 5, .text = "Cross Fader B"},
                                    {.number = 6, .text = "MIC"},
                                    {.number = 7, .text = "REC OUT"}};
+const std::vector<Choice> kRouting2{{.number = 1, .text = "CH1 CD/LINE"},
+                                    {.number = 2, .text = "MIC"}};
 const std::vector<Choice> kLevels{{.number = 1, .text = "-5 dB"},
                                   {.number = 2, .text = "-10 dB"},
                                   {.number = 3, .text = "-15 dB"},
@@ -43,10 +45,10 @@ void CheckAll(const std::vector<Row> &rows) {
 }
 
 TEST(FindChoice, FindsByNumber) {
-  CheckAll({{"first", kRouting, "1", "1 CH1 Tone PHONO"},
-            {"last", kRouting, "7", "7 REC OUT"},
-            {"leading zero", kRouting, "03", "3 Post CH1 Fader"},
-            {"two digits", kMidi, "10", "10 CH 10"},
+  CheckAll({{"first", kRouting, "1", "CH1 Tone PHONO (1)"},
+            {"last", kRouting, "7", "REC OUT (7)"},
+            {"leading zero", kRouting, "03", "Post CH1 Fader (3)"},
+            {"two digits", kMidi, "10", "CH 10 (10)"},
             {"none", kRouting, "0", "[]"},
             {"behind the last", kRouting, "8", "[]"},
             {"too long for a number", kRouting, "99999999999999999999", "[]"},
@@ -54,41 +56,61 @@ TEST(FindChoice, FindsByNumber) {
 }
 
 TEST(FindChoice, FindsByTextInAnyCaseAndSpacing) {
-  CheckAll({{"as listed", kRouting, "Post CH1 Fader", "3 Post CH1 Fader"},
-            {"lower case", kRouting, "post ch1 fader", "3 Post CH1 Fader"},
-            {"upper case", kRouting, "REC OUT", "7 REC OUT"},
-            {"no spaces", kRouting, "recout", "7 REC OUT"},
-            {"more spaces", kRouting, "  rec \t out ", "7 REC OUT"}});
+  CheckAll({{"as listed", kRouting, "Post CH1 Fader", "Post CH1 Fader (3)"},
+            {"lower case", kRouting, "post ch1 fader", "Post CH1 Fader (3)"},
+            {"upper case", kRouting, "REC OUT", "REC OUT (7)"},
+            {"no spaces", kRouting, "recout", "REC OUT (7)"},
+            {"more spaces", kRouting, "  rec \t out ", "REC OUT (7)"}});
 }
 
 TEST(FindChoice, FindsByABeginningThatOnlyOneHas) {
-  CheckAll({{"one letter", kRouting, "m", "6 MIC"},
-            {"a word", kRouting, "post", "3 Post CH1 Fader"},
-            {"not the beginning", kRouting, "fader", "[]"},
+  CheckAll({{"one letter", kRouting, "m", "MIC (6)"},
+            {"a word", kRouting, "post", "Post CH1 Fader (3)"},
             {"longer than the text", kRouting, "mice", "[]"}});
+}
+
+TEST(FindChoice, FindsByAWordThatOnlyOneHas) {
+  CheckAll({{"the last word", kRouting, "line", "CH1 Tone LINE (2)"},
+            {"upper case", kRouting, "LINE", "CH1 Tone LINE (2)"},
+            {"two words", kRouting, "tone line", "CH1 Tone LINE (2)"},
+            {"the beginning of a word", kRouting, "pho", "CH1 Tone PHONO (1)"},
+            {"after a slash", kRouting2, "line", "CH1 CD/LINE (1)"},
+            {"several have it", kRouting, "fader",
+             "[Post CH1 Fader (3), Cross Fader A (4), Cross Fader B (5)]"},
+            {"inside a word", kRouting, "ine", "[]"},
+            {"a number", kLevels, "10", "[]"}});
+}
+
+TEST(FindChoice, FindsWhatIsPrinted) {
+  CheckAll({{"in a sentence", kLevels, "-10 dB (2)", "-10 dB (2)"},
+            {"other letters", kRouting, "mic(6)", "MIC (6)"},
+            {"in a list", kRouting, "3  Post CH1 Fader", "Post CH1 Fader (3)"},
+            {"another number", kLevels, "-10 dB (3)", "[]"},
+            {"another number first", kRouting, "4 MIC", "[]"}});
 }
 
 TEST(FindChoice, NamesAllThatABeginningCanMean) {
   CheckAll(
-      {{"two", kRouting, "cross", "[4 Cross Fader A, 5 Cross Fader B]"},
-       {"negative levels", kLevels, "-1", "[2 -10 dB, 3 -15 dB, 4 -19 dB]"}});
+      {{"two", kRouting, "cross", "[Cross Fader A (4), Cross Fader B (5)]"},
+       {"negative levels", kLevels, "-1",
+        "[-10 dB (2), -15 dB (3), -19 dB (4)]"}});
 }
 
 TEST(FindChoice, PrefersAWholeTextToLongerOnes) {
-  CheckAll({{"with a space", kMidi, "ch 1", "1 CH 1"},
-            {"without", kMidi, "ch1", "1 CH 1"}});
+  CheckAll({{"with a space", kMidi, "ch 1", "CH 1 (1)"},
+            {"without", kMidi, "ch1", "CH 1 (1)"}});
 }
 
 TEST(FindChoice, FindsALevelWithAndWithoutItsSign) {
-  CheckAll({{"as listed", kLevels, "-10 dB", "2 -10 dB"},
-            {"no space", kLevels, "-10dB", "2 -10 dB"},
-            {"no unit", kLevels, "-10", "2 -10 dB"},
-            {"no sign, with unit", kLevels, "19 db", "4 -19 dB"}});
+  CheckAll({{"as listed", kLevels, "-10 dB", "-10 dB (2)"},
+            {"no space", kLevels, "-10dB", "-10 dB (2)"},
+            {"no unit", kLevels, "-10", "-10 dB (2)"},
+            {"no sign, with unit", kLevels, "19 db", "-19 dB (4)"}});
 }
 
 // Otherwise 4 would mean -19 dB and 5 would mean -5 dB.
 TEST(FindChoice, TakesABareNumberForNothingElse) {
-  CheckAll({{"a listed one", kLevels, "3", "3 -15 dB"},
+  CheckAll({{"a listed one", kLevels, "3", "-15 dB (3)"},
             {"a level", kLevels, "5", "[]"},
             {"two digits", kLevels, "10", "[]"}});
 }

@@ -62,7 +62,7 @@ TEST_F(DoctorSettings, ThatWereSetAsideAreANote) {
                                           ".unreadable-1 && mv " + file +
                                           ".unreadable-1 " + file);
   EXPECT_TRUE(Helps(finding, "settings"));
-  EXPECT_THAT(NoMixer("ztk boost get").out, HasSubstr("2 -10 dB\n"));
+  EXPECT_THAT(NoMixer("ztk boost get").out, HasSubstr("-10 dB (2)\n"));
 }
 
 TEST_F(DoctorSettings, AreUnreadableWhenSomethingElseStandsThere) {
@@ -174,7 +174,7 @@ TEST_F(DoctorSettings, OfAHomeThatIsSharedAreANote) {
   EXPECT_EQ(Word(finding, "id"), "settings-shared");
   EXPECT_EQ(Word(finding, "severity"), "note");
   EXPECT_TRUE(Helps(finding, "settings"));
-  EXPECT_THAT(NoMixer("ztk boost get").out, HasSubstr("2 -10 dB\n"));
+  EXPECT_THAT(NoMixer("ztk boost get").out, HasSubstr("-10 dB (2)\n"));
 }
 
 }  // namespace

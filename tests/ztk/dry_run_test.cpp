@@ -124,13 +124,13 @@ TEST_F(DryRun, ShowsRequestsFileAndAnnouncement) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out,
             "Dry run: nothing is sent or stored. This would happen:\n"
-            "  mixer 1  USB input 2: 3 Post CH2 Fader\n"
+            "  mixer 1  USB input 2: Post CH2 Fader (3)\n"
             "  mixer 1  read the input selectors\n"
-            "  file  USB input 2: 5 Cross Fader B -> 3 Post CH2 Fader\n"
+            "  file  USB input 2: Cross Fader B (5) -> Post CH2 Fader (3)\n"
             "        in " +
                 home_.SettingsFile("VRM-D6").string() +
                 "\n"
-                "  bus   USB input 2: 3 Post CH2 Fader\n");
+                "  bus   USB input 2: Post CH2 Fader (3)\n");
   EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6")), before);
   EXPECT_THAT(Requests(), IsEmpty());
   const Json json = OneObject(OneMixer("ztk midi set 2 --dry-run --json").out);
@@ -150,10 +150,10 @@ TEST_F(DryRun, TellsAValueThatStaysFromOneThatChanges) {
   const Result result = OneMixer(
       "ztk export > $DIR/club.json; ztk input set 1 1 > /dev/null;"
       "ztk import $DIR/club.json --dry-run");
-  EXPECT_THAT(result.out, HasSubstr("  USB input 1: 1 CH1 Control Tone PHONO "
-                                    "-> 7 REC OUT\n"));
+  EXPECT_THAT(result.out, HasSubstr("  USB input 1: CH1 Control Tone PHONO (1) "
+                                    "-> REC OUT (7)\n"));
   EXPECT_THAT(result.out,
-              HasSubstr("  USB input 2: 5 Cross Fader B, unchanged\n"));
+              HasSubstr("  USB input 2: Cross Fader B (5), unchanged\n"));
 }
 
 TEST_F(DryRun, ShowsEachRequestAndEachFileOnce) {
@@ -163,19 +163,19 @@ TEST_F(DryRun, ShowsEachRequestAndEachFileOnce) {
       Inside({"-n", "3"}, "ztk import $DIR/club.json --dry-run");
   EXPECT_EQ(result.out,
             "Dry run: nothing is sent or stored. This would happen:\n"
-            "  mixers 1, 2, 3  USB input 1: 6 MIC\n"
+            "  mixers 1, 2, 3  USB input 1: MIC (6)\n"
             "  mixers 1, 2, 3  read the input selectors\n"
-            "  mixers 1, 2, 3  USB input 2: 6 MIC\n"
-            "  mixers 1, 2, 3  Boost level: 1 -5 dB\n"
-            "  file  USB input 1: nothing -> 6 MIC\n"
-            "  file  USB input 2: nothing -> 6 MIC\n"
-            "  file  Boost level: nothing -> 1 -5 dB\n"
+            "  mixers 1, 2, 3  USB input 2: MIC (6)\n"
+            "  mixers 1, 2, 3  Boost level: -5 dB (1)\n"
+            "  file  USB input 1: nothing -> MIC (6)\n"
+            "  file  USB input 2: nothing -> MIC (6)\n"
+            "  file  Boost level: nothing -> -5 dB (1)\n"
             "        in " +
                 home_.SettingsFile("VRM-D6").string() +
                 "\n"
-                "  bus   USB input 1: 6 MIC\n"
-                "  bus   USB input 2: 6 MIC\n"
-                "  bus   Boost level: 1 -5 dB\n");
+                "  bus   USB input 1: MIC (6)\n"
+                "  bus   USB input 2: MIC (6)\n"
+                "  bus   Boost level: -5 dB (1)\n");
 }
 
 TEST_F(DryRun, LeavesOutMixersThatCannotBeOpened) {
@@ -216,7 +216,7 @@ TEST_F(DryRun, AnnouncesNothing) {
       "ztk boost set 1 --dry-run; ztk output default --dry-run\n"
       "ztk input set 1 mic --dry-run; ztk boost set 2 > /dev/null\n"
       "until grep -q Boost $DIR/seen; do sleep 0.01; done");
-  EXPECT_THAT(Lines("seen"), ElementsAre("Boost level: 2 -10 dB"));
+  EXPECT_THAT(Lines("seen"), ElementsAre("Boost level: -10 dB (2)"));
 }
 
 }  // namespace

@@ -113,12 +113,12 @@ TEST_F(Import, SendsRemembersAndAnnouncesLikeASetter) {
   const Result result = OneMixer("ztk import - < $DIR/file; ztk undo");
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 1 -5 dB, sent to 1 mixer, remembered");
+            "Boost level: -5 dB (1), sent to 1 mixer, remembered");
   EXPECT_EQ(Line(result.out, 1),
-            "MIDI channel: 3 CH 3, sent to 1 mixer, remembered");
+            "MIDI channel: CH 3 (3), sent to 1 mixer, remembered");
   // Undone as a single command.
-  EXPECT_THAT(Line(result.out, 2), StartsWith("MIDI channel: 3 CH 3 undone"));
-  EXPECT_THAT(Line(result.out, 4), StartsWith("Boost level: 1 -5 dB undone"));
+  EXPECT_THAT(Line(result.out, 2), StartsWith("MIDI channel: CH 3 (3) undone"));
+  EXPECT_THAT(Line(result.out, 4), StartsWith("Boost level: -5 dB (1) undone"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000",
                                     "mixer 1: 40 03 0200 8004 0000",
                                     "mixer 1: 40 03 0000 8004 0000",
@@ -136,7 +136,7 @@ TEST_F(Import, ChecksAllOfItBeforeItChangesAnything) {
           "no entry \"more\"; accepted: version, settings",
           "settings.VRM-D6.input: no channel \"6\"; accepted: 1 to 5",
           StartsWith("settings.VRM-D6.input.1: no choice \"nothing\"; "
-                     "accepted: 1 CH1 Control Tone PHONO, "),
+                     "accepted: CH1 Control Tone PHONO (1), "),
           StartsWith("settings.VRM-D6.input.2: the text of a choice is needed"),
           StartsWith("settings.VRM-D6.input.3: no choice \"Cross\""),
           StartsWith("settings.VRM-D6.boost: the text of a choice is needed"),
@@ -183,7 +183,7 @@ TEST_F(Import, ShowsInADryRunWhatItWouldDo) {
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
   const Result result = OneMixer("ztk import $DIR/file --dry-run");
   EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.out, HasSubstr("Boost level: nothing -> 1 -5 dB\n"));
+  EXPECT_THAT(result.out, HasSubstr("Boost level: nothing -> -5 dB (1)\n"));
   EXPECT_THAT(Requests(), IsEmpty());
   EXPECT_FALSE(HasSettings("VRM-D6"));
 }
@@ -202,9 +202,9 @@ TEST_F(Import, NamesWhatItKeeps) {
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
   EXPECT_EQ(
       OneMixer("ztk import $DIR/file").out,
-      "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n"
-      "Kept, because the file does not contain it: USB input 2: 6 MIC (ztk "
-      "import --only forgets it)\n");
+      "Boost level: -5 dB (1), sent to 1 mixer, remembered\n"
+      "Kept, because the file does not contain it: USB input 2: MIC (6); ztk "
+      "import --only forgets it\n");
   const Json json = OneObject(OneMixer("ztk import $DIR/file --json").out);
   EXPECT_EQ(json["kept"], Json::parse(R"([{"setting":"input","model":"VRM-D6",
       "channel":2,"number":6,"text":"MIC","value":5}])"));
@@ -217,8 +217,8 @@ TEST_F(Import, ForgetsTheRestWhenToldSo) {
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}})");
   EXPECT_EQ(
       OneMixer("ztk import --only $DIR/file").out,
-      "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n"
-      "USB input 2: forgotten, default 1 CH2 Control Tone PHONO, sent to 1 "
+      "Boost level: -5 dB (1), sent to 1 mixer, remembered\n"
+      "USB input 2: forgotten, default CH2 Control Tone PHONO (1), sent to 1 "
       "mixer\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000",
                                     "mixer 1: 40 03 0203 8002 0000"));
@@ -278,9 +278,10 @@ TEST_F(Import, NamesTheCommandsThatSendTheDefaultsOfWhatItForgets) {
             "ztk: the change is stored, but the mixer "
             "refused it; switch it off and on again, then run: ztk "
             "input set 4 1; ztk import --only c.json");
-  EXPECT_EQ(LastLine(result.out),
-            "USB input 4: forgotten, default 1 CH4 Control Tone PHONO, sent to "
-            "1 mixer");
+  EXPECT_EQ(
+      LastLine(result.out),
+      "USB input 4: forgotten, default CH4 Control Tone PHONO (1), sent to "
+      "1 mixer");
 }
 
 }  // namespace

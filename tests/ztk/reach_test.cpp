@@ -77,7 +77,7 @@ TEST_F(Reach, NamesAllWhenNoneOfSeveralMayBeOpened) {
   const Result result =
       Inside({"-n", "2", "--forbid", "1", "--forbid", "2"}, "ztk boost set 2");
   EXPECT_EQ(result.status, 3);
-  EXPECT_EQ(result.out, "Boost level: 2 -10 dB\n");
+  EXPECT_EQ(result.out, "Boost level: -10 dB (2)\n");
   EXPECT_THAT(Line(result.err, 0), HasSubstr("mixer 1 is attached"));
   EXPECT_THAT(Line(result.err, 1), HasSubstr("mixer 2 is attached"));
   EXPECT_THAT(Line(result.err, 2), HasSubstr("none of 2 mixers answered"));
@@ -86,7 +86,7 @@ TEST_F(Reach, NamesAllWhenNoneOfSeveralMayBeOpened) {
 TEST_F(Reach, SendsToEveryMixer) {
   const Result result = Inside({"-n", "2"}, "ztk input set 1 mic");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.out, "USB input 1: 6 MIC, sent to 2 mixers, remembered\n");
+  EXPECT_EQ(result.out, "USB input 1: MIC (6), sent to 2 mixers, remembered\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0109 8002 0000",
                                     "mixer 2: 40 03 0109 8002 0000"));
 }
@@ -169,7 +169,7 @@ TEST_F(Reach, SaysNothingOfASelectorThatWasNotRead) {
 TEST_F(Reach, SaysOnceThatTheMixerRefusedTheValue) {
   const Result result = Inside({"-n", "1", "--fault", "stall"},
                                "ztk boost set 2; ztk boost apply");
-  EXPECT_EQ(result.out, "Boost level: 2 -10 dB\nBoost level: 2 -10 dB\n");
+  EXPECT_EQ(result.out, "Boost level: -10 dB (2)\nBoost level: -10 dB (2)\n");
   EXPECT_EQ(
       result.err,
       "ztk: Boost level is saved, but the mixer refused it; switch it off "
@@ -183,10 +183,10 @@ TEST_F(Reach, SaysOfEachValueHowManyMixersHaveAcceptedIt) {
       Inside({"-n", "2", "--fault", "2:stall@w8003"},
              "ztk input set 1 mic; ztk boost set 2; ztk apply");
   EXPECT_EQ(result.out,
-            "USB input 1: 6 MIC, sent to 2 mixers, remembered\n"
-            "Boost level: 2 -10 dB, sent to 1 of 2 mixers, remembered\n"
-            "USB input 1: 6 MIC, sent to 2 mixers\n"
-            "Boost level: 2 -10 dB, sent to 1 of 2 mixers\n");
+            "USB input 1: MIC (6), sent to 2 mixers, remembered\n"
+            "Boost level: -10 dB (2), sent to 1 of 2 mixers, remembered\n"
+            "USB input 1: MIC (6), sent to 2 mixers\n"
+            "Boost level: -10 dB (2), sent to 1 of 2 mixers\n");
 }
 
 TEST_F(Reach, SaysThatTheAttachedMixerIsOfAnotherModel) {
@@ -220,7 +220,7 @@ TEST_F(Reach, IsFiveWhenTheValueWentNowhere) {
   WriteAll(home_.path() / ".config/tarvix/Preferences", "");
   const Result result = NoMixer("ztk boost set 1");
   EXPECT_EQ(result.status, 5);
-  EXPECT_EQ(result.out, "Boost level: 1 -5 dB\n");
+  EXPECT_EQ(result.out, "Boost level: -5 dB (1)\n");
   EXPECT_THAT(result.err, StartsWith("ztk: Boost level is not remembered: "));
   EXPECT_THAT(result.err, HasSubstr("; and not sent: no mixer is attached\n"));
   EXPECT_THAT(result.err, HasSubstr("; make sure that you can write to "));

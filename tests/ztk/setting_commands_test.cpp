@@ -18,7 +18,7 @@ TEST_F(InputSet, SendsRemembersAndReadsTheSelector) {
   const Result result = OneMixer("ztk input set 2 3");
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out,
-            "USB input 2: 3 Post CH2 Fader, sent to 1 mixer, remembered\n");
+            "USB input 2: Post CH2 Fader (3), sent to 1 mixer, remembered\n");
   EXPECT_THAT(result.err, IsEmpty());
   EXPECT_THAT(Requests(),
               ElementsAre("mixer 1: 40 03 0206 8002 0000",
@@ -92,9 +92,10 @@ TEST_F(InputSet, FindsTheChoiceByNumberTextAndBeginning) {
 TEST_F(InputSet, ListsWhatAnAmbiguousBeginningCanMean) {
   const Result result = OneMixer("ztk input set 1 cross");
   EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.err,
-            "ztk: choice \"cross\" can mean: 4 Cross Fader A, 5 Cross Fader B; "
-            "type more of it, or its number; see ztk input set --help\n");
+  EXPECT_EQ(
+      result.err,
+      "ztk: choice \"cross\" can mean: Cross Fader A (4), Cross Fader B (5); "
+      "type more of it, or its number; see ztk input set --help\n");
   EXPECT_THAT(Requests(), IsEmpty());
 }
 
@@ -105,8 +106,8 @@ TEST_F(InputSet, ListsWhatIsAcceptedForAWrongOrMissingChoice) {
   const std::vector<std::string> lines = SplitLines(result.err);
   ASSERT_EQ(lines.size(), 3U);
   for (const std::string &line : lines) {
-    EXPECT_THAT(line, HasSubstr("accepted: 1 CH1 Control Tone PHONO, 2 "));
-    EXPECT_THAT(line, HasSubstr(", 7 REC OUT"));
+    EXPECT_THAT(line, HasSubstr("accepted: CH1 Control Tone PHONO (1), "));
+    EXPECT_THAT(line, HasSubstr(", REC OUT (7)"));
   }
 }
 
@@ -115,7 +116,7 @@ TEST_F(InputSet, DoesNotTakeThePlaceholder) {
       "ztk input set 1 'PARAM ERROR'; echo $?; ztk input set 1 8; echo $?;"
       "ztk input set 5 9; echo $?");
   EXPECT_EQ(result.out, "2\n2\n2\n");
-  EXPECT_THAT(result.err, Not(HasSubstr("8 PARAM ERROR")));
+  EXPECT_THAT(result.err, Not(HasSubstr("PARAM ERROR (8)")));
   EXPECT_THAT(Requests(), IsEmpty());
 }
 
@@ -187,7 +188,7 @@ TEST_F(OutputDefault, SendsOneOrAllAndRemembersNothing) {
   const Result result = OneMixer("ztk output default 3; ztk output default");
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(Line(result.out, 0),
-            "USB output 3: default 3 AUX, sent to 1 mixer, not remembered");
+            "USB output 3: default AUX (3), sent to 1 mixer, not remembered");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0304 8016 0000",
                                     "mixer 1: 40 03 0100 8016 0000",
                                     "mixer 1: 40 03 0201 8016 0000",
@@ -202,7 +203,7 @@ TEST_F(BoostSet, TakesALevelHoweverItIsTyped) {
     const Result result = OneMixer(std::string("ztk boost set ") + words);
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out,
-              "Boost level: 2 -10 dB, sent to 1 mixer, remembered\n");
+              "Boost level: -10 dB (2), sent to 1 mixer, remembered\n");
     EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
   }
 }
@@ -211,9 +212,10 @@ TEST_F(BoostSet, TakesALevelHoweverItIsTyped) {
 TEST_F(BoostSet, TakesABareNumberForTheOneOfAChoice) {
   const Result result = OneMixer("ztk boost set 5");
   EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.err,
-            "ztk: Boost level has no choice \"5\"; nearest: 1 -5 dB; accepted: "
-            "1 -5 dB, 2 -10 dB, 3 -15 dB, 4 -19 dB\n");
+  EXPECT_EQ(
+      result.err,
+      "ztk: Boost level has no choice \"5\"; nearest: -5 dB (1); accepted: "
+      "-5 dB (1), -10 dB (2), -15 dB (3), -19 dB (4)\n");
   EXPECT_THAT(Requests(), IsEmpty());
 }
 
@@ -232,7 +234,7 @@ TEST_F(MidiSet, BelongsToTheK2) {
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(
       result.out,
-      "MIDI channel: 10 CH 10, sent to 1 mixer, remembered\n"
+      "MIDI channel: CH 10 (10), sent to 1 mixer, remembered\n"
       "  apply can only re-send channels 1 to 4; for 5 to 16 use set again\n");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0900 8004 0000"));
   EXPECT_TRUE(HasSettings("VRM-K2"));
@@ -284,14 +286,16 @@ TEST_F(List, ShowsAllChannelsAndNoPlaceholder) {
 TEST_F(Get, TellsRememberedValuesFromDefaults) {
   Remember("VRM-D6", {{"Output0", 2}});
   const Result result = NoMixer("ztk input get");
-  EXPECT_EQ(
-      result.out,
-      "USB input audio is a setting of the VRM-D6.\n"
-      "USB input 1  3 Post CH1 Fader\n"
-      "USB input 2  1 CH2 Control Tone PHONO (default; nothing remembered)\n"
-      "USB input 3  1 CH3 Control Tone PHONO (default; nothing remembered)\n"
-      "USB input 4  1 CH4 Control Tone PHONO (default; nothing remembered)\n"
-      "USB input 5  1 REC OUT (default; nothing remembered)\n");
+  EXPECT_EQ(result.out,
+            "USB input audio is a setting of the VRM-D6.\n"
+            "USB input 1  Post CH1 Fader (3)\n"
+            "USB input 2  CH2 Control Tone PHONO (1), default: nothing is "
+            "remembered\n"
+            "USB input 3  CH3 Control Tone PHONO (1), default: nothing is "
+            "remembered\n"
+            "USB input 4  CH4 Control Tone PHONO (1), default: nothing is "
+            "remembered\n"
+            "USB input 5  REC OUT (1), default: nothing is remembered\n");
   const Json json = OneObject(NoMixer("ztk input get 1 --json").out);
   EXPECT_EQ(json["channels"],
             Json::parse(R"([{"channel":1,"number":3,"text":"Post CH1 Fader",

@@ -12,10 +12,10 @@ const std::vector<Choice> kLevels{{.number = 1, .text = "-5 dB"},
                                   {.number = 4, .text = "-19 dB"}};
 
 TEST(NearestChoice, TakesANumberForALevelOrForTheEndOfTheList) {
-  EXPECT_EQ(NearestChoice("5", kLevels), "; nearest: 1 -5 dB");
-  EXPECT_EQ(NearestChoice("10", kLevels), "; nearest: 2 -10 dB");
-  EXPECT_EQ(NearestChoice("9", kLevels), "; nearest: 4 -19 dB");
-  EXPECT_EQ(NearestChoice("0", kLevels), "; nearest: 1 -5 dB");
+  EXPECT_EQ(NearestChoice("5", kLevels), "; nearest: -5 dB (1)");
+  EXPECT_EQ(NearestChoice("10", kLevels), "; nearest: -10 dB (2)");
+  EXPECT_EQ(NearestChoice("9", kLevels), "; nearest: -19 dB (4)");
+  EXPECT_EQ(NearestChoice("0", kLevels), "; nearest: -5 dB (1)");
 }
 
 TEST(NearestChoice, SuggestsNothingThatIsNotSimilar) {

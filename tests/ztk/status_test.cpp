@@ -22,9 +22,9 @@ TEST_F(Status, ShowsTheMixerAndWhatIsRemembered) {
             "  selectors     CH1 4   CH2 3   CH3 4   CH4 4\n"
             "  Serato        active\n"
             "Remembered\n"
-            "  USB input 2   3 Post CH2 Fader  (VRM-D6)\n"
-            "  Boost level   1 -5 dB  (VRM-D6)\n"
-            "  MIDI channel  40, which is not a choice  (VRM-K2)\n");
+            "  USB input 2   Post CH2 Fader (3), VRM-D6\n"
+            "  Boost level   -5 dB (1), VRM-D6\n"
+            "  MIDI channel  40, which is not a choice, VRM-K2\n");
   EXPECT_THAT(result.err, IsEmpty());
 }
 
@@ -169,10 +169,10 @@ TEST_F(Status, SaysWhyAChannelIsSilent) {
              "ztk status --json");
   const char *const silent =
       "USB input 1 is silent: the input selector for CH1 is in position 3; "
-      "1 CH1 Control Tone PHONO is heard only in position 4: turn it to 4";
+      "CH1 Control Tone PHONO (1) is heard only in position 4: turn it to 4";
   EXPECT_EQ(Line(result.out, 0), silent);
   EXPECT_EQ(Line(result.out, 1), silent);
-  EXPECT_EQ(Line(result.out, 3), "USB input 2  3 Post CH2 Fader");
+  EXPECT_EQ(Line(result.out, 3), "USB input 2  Post CH2 Fader (3)");
   EXPECT_EQ(
       OneObject(LastLine(result.out) + "\n")["silent"],
       Json::parse(R"([{"mixer":1,"channel":1,"position":3,"needed":4}])"));
@@ -294,7 +294,7 @@ TEST_F(Status, NamesAFileThatCannotBeRead) {
       "echo $?");
   EXPECT_THAT(result.out, HasSubstr("What is remembered cannot be read\n"));
   EXPECT_THAT(result.out,
-              HasSubstr("(default; the file cannot be read)\n5\n5"));
+              HasSubstr(", default: the file cannot be read\n5\n5"));
   const std::string file = home_.SettingsFile("VRM-D6").string();
   const std::vector<std::string> lines = SplitLines(result.err);
   ASSERT_EQ(lines.size(), 4U);

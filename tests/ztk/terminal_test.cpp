@@ -44,9 +44,9 @@ TEST_F(Terminal, ShowsWhatIsChosenWithoutACommand) {
   const std::string shown = Shown("ztk; echo =$?", 80);
   EXPECT_THAT(shown, StartsWith("1 mixer is attached.\n\n"
                                 "USB input audio (VRM-D6)\n"
-                                "  USB input 1        1 "));
-  EXPECT_THAT(shown, HasSubstr("\n  USB input 2        3 Post CH2 Fader\n"));
-  EXPECT_THAT(shown, HasSubstr(" (default)\n"));
+                                "  USB input 1        CH1 "));
+  EXPECT_THAT(shown, HasSubstr("\n  USB input 2        Post CH2 Fader (3)\n"));
+  EXPECT_THAT(shown, HasSubstr(", default\n"));
   EXPECT_THAT(shown, HasSubstr("\nNext:\n  ztk input set "));
   EXPECT_THAT(shown, HasSubstr("=0\n"));
   EXPECT_LE(SplitLines(shown).size(), 26U);
@@ -125,7 +125,7 @@ TEST_F(Terminal, ShowsThatItWaitsForSilentMixers) {
       "\r\033[KWaiting for 3 mixers, 1 of at most 3 s; Ctrl-C"));
   EXPECT_EQ(terminal.End(), 3);
   // It is removed before the answer is shown.
-  EXPECT_THAT(terminal.shown(), HasSubstr("\r\033[KBoost level: 1 -5 dB"));
+  EXPECT_THAT(terminal.shown(), HasSubstr("\r\033[KBoost level: -5 dB (1)"));
 }
 
 TEST_F(Terminal, ShortensWhatIsWaitedForInANarrowTerminal) {
@@ -182,7 +182,7 @@ TEST_F(Terminal, IsNotInterruptedWhereTheSignalIsIgnored) {
       "trap '' INT; ztk boost set 1 > $DIR/o & until [ -s $DIR/requests ];"
       "do sleep 0.01; done; kill -INT $!; wait $!; echo $?");
   EXPECT_EQ(result.out, "0\n");
-  EXPECT_EQ(File("o"), "Boost level: 1 -5 dB, sent to 1 mixer, remembered\n");
+  EXPECT_EQ(File("o"), "Boost level: -5 dB (1), sent to 1 mixer, remembered\n");
 }
 
 // The next output, such as the prompt of a shell, starts on a new line.
@@ -207,7 +207,7 @@ TEST_F(Picking, TakesANumberOrTextFromTheList) {
     terminal.Type(answer);
     EXPECT_EQ(terminal.End(), 0);
     EXPECT_THAT(terminal.shown(),
-                HasSubstr("\nUSB input 2: 3 Post CH2 Fader, sent to 1 mixer, "
+                HasSubstr("\nUSB input 2: Post CH2 Fader (3), sent to 1 mixer, "
                           "remembered\n"));
     EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0206 8002 0000"));
     Remember("VRM-D6", {});
@@ -218,9 +218,9 @@ TEST_F(Picking, AsksAgainAfterAWrongWord) {
   PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk boost set"), 40);
   ASSERT_TRUE(terminal.WaitFor("Boost level, number or text: "));
   terminal.Type("12\n");
-  EXPECT_TRUE(terminal.WaitFor("no choice \"12\"; nearest: 4 -19 dB\n"));
+  EXPECT_TRUE(terminal.WaitFor("no choice \"12\"; nearest: -19 dB (4)\n"));
   terminal.Type("-1\n");
-  EXPECT_TRUE(terminal.WaitFor("\"-1\" can mean: 2 -10 dB, 3 -15 dB, 4 -19\n"));
+  EXPECT_TRUE(terminal.WaitFor("\"-1\" can mean: -10 dB (2), -15 dB (3),\n"));
   EXPECT_TRUE(terminal.WaitFor("Boost level, number or text: "));
   terminal.Type("-10\n");
   EXPECT_EQ(terminal.End(), 0);
@@ -237,7 +237,7 @@ TEST_F(Picking, AsksForTheChannelToo) {
   EXPECT_TRUE(terminal.WaitFor("USB input 2, number or text: "));
   terminal.Type("6\n");
   EXPECT_EQ(terminal.End(), 0);
-  EXPECT_THAT(terminal.shown(), HasSubstr("USB input 2: 6 MIC, sent"));
+  EXPECT_THAT(terminal.shown(), HasSubstr("USB input 2: MIC (6), sent"));
 }
 
 TEST_F(Picking, SendsNothingWithoutAnAnswer) {

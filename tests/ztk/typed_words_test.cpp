@@ -14,7 +14,7 @@ TEST_F(TypedWords, NameAChannelAsStatusCallsIt) {
       "ztk input get CH6; echo $?; ztk input get CH; echo $?");
   EXPECT_EQ(result.out,
             "USB input audio is a setting of the VRM-D6.\n"
-            "USB input 2  6 MIC\n2\n2\n");
+            "USB input 2  MIC (6)\n2\n2\n");
   EXPECT_THAT(result.err, HasSubstr("has no channel \"CH6\""));
 }
 
@@ -57,24 +57,43 @@ TEST_F(TypedWords, AskForNoOutput) {
   EXPECT_EQ(NoMixer("ztk watch -q").status, 2);
 }
 
+TEST_F(TypedWords, NameAChoiceAsItIsPrintedOrByOneOfItsWords) {
+  Result result = OneMixer(
+      "ztk boost set '-10 dB (2)'; ztk boost set -10 dB '(2)'; "
+      "ztk input set 1 3 Post CH1 Fader; ztk input set 1 line");
+  EXPECT_EQ(result.out,
+            "Boost level: -10 dB (2), sent to 1 mixer, remembered\n"
+            "Boost level: -10 dB (2), sent to 1 mixer, remembered\n"
+            "USB input 1: Post CH1 Fader (3), sent to 1 mixer, remembered\n"
+            "USB input 1: CH1 Control Tone LINE (2), sent to 1 mixer, "
+            "remembered\n");
+  EXPECT_EQ(result.status, 0);
+  result = OneMixer("ztk input set 1 fader");
+  EXPECT_EQ(result.err,
+            "ztk: choice \"fader\" can mean: Post CH1 Fader (3), Cross Fader A "
+            "(4), Cross Fader B (5); type more of it, or its number; see ztk "
+            "input set --help\n");
+  EXPECT_EQ(result.status, 2);
+}
+
 TEST_F(TypedWords, AskForTheAnswerWithoutNotes) {
   Remember("VRM-D6", {{"Output1", 2}});
   // Without -q, ztk says that USB input 2 is silent.
   const std::vector<std::string> options{"-n", "1", "--selector", "1=2"};
   EXPECT_EQ(Inside(options, "ztk input get 1 -q").out,
-            "USB input 1  1 CH1 Control Tone PHONO (default; nothing "
-            "remembered)\n");
+            "USB input 1  CH1 Control Tone PHONO (1), default: nothing is "
+            "remembered\n");
   EXPECT_THAT(Inside(options, "ztk input get 1").out,
               HasSubstr(" is silent: "));
   EXPECT_THAT(Requests().size(), 1U);
   EXPECT_THAT(Inside(options, "ztk input get 1 -q --json").out,
               HasSubstr("\"position\":2"));
   EXPECT_EQ(NoMixer("ztk input get 2 -q").out,
-            "USB input 2  3 Post CH2 Fader\n");
+            "USB input 2  Post CH2 Fader (3)\n");
   EXPECT_THAT(NoMixer("ztk input list 2 -q").out, StartsWith("\nUSB input 2"));
   EXPECT_EQ(NoMixer("ztk status -q").out,
             "No mixer is attached\nRemembered\n"
-            "  USB input 2   3 Post CH2 Fader  (VRM-D6)\n");
+            "  USB input 2   Post CH2 Fader (3), VRM-D6\n");
   EXPECT_THAT(NoMixer("ztk export -q").out, StartsWith("{\n"));
   EXPECT_THAT(NoMixer("ztk models -q; ztk versions -q").out,
               HasSubstr("VRM-B5"));

@@ -22,14 +22,14 @@ TEST_F(Undo, PutsBackStepByStepLikeASetter) {
       "ztk undo; echo $?");
   EXPECT_THAT(
       SplitLines(result.out),
-      ElementsAre("USB input 2: 6 MIC undone, 3 Post CH2 Fader, sent to "
+      ElementsAre("USB input 2: MIC (6) undone, Post CH2 Fader (3), sent to "
                   "1 mixer, remembered",
                   "0",
-                  "Boost level: 2 -10 dB undone, 1 -5 dB, sent to 1 "
+                  "Boost level: -10 dB (2) undone, -5 dB (1), sent to 1 "
                   "mixer, remembered",
                   "0",
-                  "USB input 2: 3 Post CH2 Fader undone, 5 Cross Fader "
-                  "B, sent to 1 mixer, remembered",
+                  "USB input 2: Post CH2 Fader (3) undone, Cross Fader "
+                  "B (5), sent to 1 mixer, remembered",
                   "0", "Nothing to undo.", "0"));
   const std::vector<std::string> writes = Writes();
   ASSERT_EQ(writes.size(), 6U);
@@ -60,17 +60,17 @@ TEST_F(Undo, PutsTheDefaultBackWhereNothingWasRemembered) {
       "  nothing was remembered before, and nothing is now";
   EXPECT_THAT(
       SplitLines(result.out),
-      ElementsAre("MIDI channel: 7 CH 7 undone, default 1 CH 1, sent to "
+      ElementsAre("MIDI channel: CH 7 (7) undone, default CH 1 (1), sent to "
                   "1 mixer",
                   note,
-                  "Boost level: 1 -5 dB undone, default 4 -19 dB, sent "
+                  "Boost level: -5 dB (1) undone, default -19 dB (4), sent "
                   "to 1 mixer",
                   note,
-                  "USB output 2: 3 AUX undone, default 2 CH2, sent to 1 "
+                  "USB output 2: AUX (3) undone, default CH2 (2), sent to 1 "
                   "mixer",
                   note,
-                  "USB input 1: 6 MIC undone, default 1 CH1 Control Tone "
-                  "PHONO, sent to 1 mixer",
+                  "USB input 1: MIC (6) undone, default CH1 Control Tone "
+                  "PHONO (1), sent to 1 mixer",
                   note));
   EXPECT_EQ(OneMixer("ztk status | tail -n 1").out, "Nothing is remembered\n");
 }
@@ -84,10 +84,10 @@ TEST_F(Undo, LeavesAloneWhatAnotherProgramHasChangedSince) {
   EXPECT_THAT(
       Line(result.err, 0),
       HasSubstr("not undone, because another program has changed it since: USB "
-                "input 1 is 6 MIC (to restore the earlier value, run: ztk "
-                "input set 1 2)"));
+                "input 1 is MIC (6); to restore the earlier value, run: ztk "
+                "input set 1 2"));
   // Each undo decides about one step only.
-  EXPECT_THAT(Line(result.out, 1), HasSubstr("Boost level: 2 -10 dB undone"));
+  EXPECT_THAT(Line(result.out, 1), HasSubstr("Boost level: -10 dB (2) undone"));
   EXPECT_EQ(Line(result.out, 2), "0");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
 }
@@ -100,7 +100,7 @@ TEST_F(Undo, DoesNotCountWhatChangedNothing) {
       "ztk output default > /dev/null; ztk boost set 3 --dry-run > /dev/null;"
       "ztk undo; ztk undo");
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 2 -10 dB undone, 1 -5 dB, sent to 1 mixer, "
+            "Boost level: -10 dB (2) undone, -5 dB (1), sent to 1 mixer, "
             "remembered");
   EXPECT_EQ(Line(result.out, 1), "Nothing to undo.");
 }
@@ -113,7 +113,7 @@ TEST_F(Undo, SaysThatItSkipsWhatHasNoEffectAnyMore) {
   EXPECT_EQ(OneObject(dry.out).value("skippedSteps", 0), 1);
   EXPECT_EQ(OneMixer("ztk undo").out,
             "Skipped 1 change that has no effect any more.\n"
-            "Boost level: 2 -10 dB undone, 1 -5 dB, sent to 1 mixer, "
+            "Boost level: -10 dB (2) undone, -5 dB (1), sent to 1 mixer, "
             "remembered\n");
 }
 
@@ -125,7 +125,7 @@ TEST_F(Undo, SaysWhatCannotBePutBack) {
   EXPECT_EQ(LastLine(File("dry")), "4");
   EXPECT_THAT(File("dry"), Not(HasSubstr("MaxLevel")));
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 2 -10 dB not undone: the library refuses the value "
+            "Boost level: -10 dB (2) not undone: the library refuses the value "
             "before it, 77, which is not a choice");
   EXPECT_EQ(Line(result.out, 1), "4");
   EXPECT_THAT(result.err, HasSubstr("cannot be restored, because the library "
@@ -137,9 +137,9 @@ TEST_F(Undo, ExitsWith3WithoutAMixerButRestoresTheValue) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   const Result result =
       NoMixer("ztk boost set 2 2> /dev/null; ztk undo; echo $?; ztk boost get");
-  EXPECT_EQ(Line(result.out, 1), "Boost level: 2 -10 dB undone, 1 -5 dB");
+  EXPECT_EQ(Line(result.out, 1), "Boost level: -10 dB (2) undone, -5 dB (1)");
   EXPECT_EQ(Line(result.out, 2), "3");
-  EXPECT_EQ(LastLine(result.out), "Boost level  1 -5 dB");
+  EXPECT_EQ(LastLine(result.out), "Boost level  -5 dB (1)");
 }
 
 TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
@@ -176,10 +176,10 @@ TEST_F(Undo, ShowsInADryRunWhatItWouldDo) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   OneMixer("ztk boost set 2");
   const Result result = OneMixer("ztk undo --dry-run; ztk boost get");
-  EXPECT_THAT(result.out, HasSubstr("Boost level: 2 -10 dB -> 1 -5 dB\n"));
-  EXPECT_EQ(LastLine(result.out), "Boost level  2 -10 dB");
+  EXPECT_THAT(result.out, HasSubstr("Boost level: -10 dB (2) -> -5 dB (1)\n"));
+  EXPECT_EQ(LastLine(result.out), "Boost level  -10 dB (2)");
   EXPECT_THAT(Requests(), IsEmpty());
-  EXPECT_THAT(OneMixer("ztk undo").out, StartsWith("Boost level: 2 -10 dB "));
+  EXPECT_THAT(OneMixer("ztk undo").out, StartsWith("Boost level: -10 dB (2) "));
 }
 
 TEST_F(Undo, ListsWhatCanBeUndone) {
@@ -191,9 +191,9 @@ TEST_F(Undo, ListsWhatCanBeUndone) {
       result.out,
       "The last change is number 1; ztk undo N takes back changes 1 to "
       "N.\n"
-      "  1   reset        USB input 1: forgotten (previously 6 MIC)\n"
-      "  2   input set    USB input 1: 6 MIC (previously nothing remembered)\n"
-      "  3   boost set    Boost level: 2 -10 dB (previously 1 -5 dB)\n");
+      "  1   reset        USB input 1: forgotten, previously MIC (6)\n"
+      "  2   input set    USB input 1: MIC (6), previously nothing remembered\n"
+      "  3   boost set    Boost level: -10 dB (2), previously -5 dB (1)\n");
   EXPECT_EQ(NoMixer("ztk undo 3 --dry-run | grep -c -e '->'").out, "1\n");
 }
 
@@ -205,9 +205,9 @@ TEST_F(Undo, TakesBackSeveralChangesAtOnce) {
       "ztk undo 2; echo $?; ztk undo 0; echo $?");
   EXPECT_EQ(
       result.out,
-      "Boost level: 3 -15 dB undone, 1 -5 dB, sent to 1 mixer, "
+      "Boost level: -15 dB (3) undone, -5 dB (1), sent to 1 mixer, "
       "remembered\n"
-      "  1   input set    USB input 1: 3 Post CH1 Fader (previously 6 MIC)\n"
+      "  1   input set    USB input 1: Post CH1 Fader (3), previously MIC (6)\n"
       "2\n2\n");
   EXPECT_THAT(Line(result.err, 0),
               StartsWith("ztk: no change \"2\" to undo; nearest: 1; "));
@@ -221,7 +221,7 @@ TEST_F(Undo, StopsAtAValueOfAnotherProgram) {
   const Result result =
       OneMixer("ztk boost set 4 > /dev/null; ztk undo 2; echo $?");
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 4 -19 dB undone, 3 -15 dB, sent to 1 mixer, "
+            "Boost level: -19 dB (4) undone, -15 dB (3), sent to 1 mixer, "
             "remembered");
   EXPECT_EQ(Line(result.out, 1), "4");
 }
@@ -242,9 +242,9 @@ TEST_F(Reset, ForgetsEverythingAndSendsNothing) {
   const Result result = OneMixer("ztk reset; echo $?; ztk export 2>&1 | wc -l");
   EXPECT_EQ(
       result.out,
-      "USB input 2: 6 MIC, forgotten\n"
-      "USB output 2: 3 AUX, forgotten\n"
-      "Boost level: 1 -5 dB, forgotten\n"
+      "USB input 2: MIC (6), forgotten\n"
+      "USB output 2: AUX (3), forgotten\n"
+      "Boost level: -5 dB (1), forgotten\n"
       "Nothing was sent: the mixer keeps its settings until it is switched "
       "off.\n"
       "ztk undo brings back what was forgotten.\n"
@@ -261,8 +261,8 @@ TEST_F(Reset, ForgetsWhatIsNamed) {
       "ztk reset input ch2 | head -n 1; ztk reset boost | head -n 1;"
       "ztk reset boost; ztk reset boost 1; echo $?; ztk reset inptu; echo $?");
   EXPECT_EQ(result.out,
-            "USB input 2: 6 MIC, forgotten\n"
-            "Boost level: 1 -5 dB, forgotten\n"
+            "USB input 2: MIC (6), forgotten\n"
+            "Boost level: -5 dB (1), forgotten\n"
             "Nothing is remembered: nothing to forget.\n2\n2\n");
   EXPECT_THAT(result.err, HasSubstr("no setting \"inptu\"; nearest: input"));
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output2"));
@@ -272,13 +272,13 @@ TEST_F(Reset, IsUndone) {
   Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 5}});
   const std::string before = ReadAll(home_.SettingsFile("VRM-D6"));
   EXPECT_EQ(OneMixer("ztk reset > /dev/null; ztk undo").out,
-            "Boost level: restored, 1 -5 dB, sent to 1 mixer, "
+            "Boost level: restored, -5 dB (1), sent to 1 mixer, "
             "remembered\n"
-            "USB input 2: restored, 6 MIC, sent to 1 mixer, "
+            "USB input 2: restored, MIC (6), sent to 1 mixer, "
             "remembered\n");
   EXPECT_EQ(OneMixer("ztk status | tail -n 2").out,
-            "  USB input 2   6 MIC  (VRM-D6)\n"
-            "  Boost level   1 -5 dB  (VRM-D6)\n");
+            "  USB input 2   MIC (6), VRM-D6\n"
+            "  Boost level   -5 dB (1), VRM-D6\n");
 }
 
 TEST_F(Reset, SaysWhatItCannotForget) {
@@ -287,7 +287,7 @@ TEST_F(Reset, SaysWhatItCannotForget) {
       "folder=$HOME/.config/tarvix/Preferences; chattr +i $folder || exit 97\n"
       "trap 'chattr -i $folder' EXIT; ztk reset; echo $?");
   if (result.status == 97) GTEST_SKIP() << "no file can be protected here";
-  EXPECT_EQ(Line(result.out, 0), "Boost level: 1 -5 dB, still remembered");
+  EXPECT_EQ(Line(result.out, 0), "Boost level: -5 dB (1), still remembered");
   EXPECT_EQ(LastLine(result.out), "5");
   EXPECT_THAT(result.err, HasSubstr("not everything is forgotten: "));
 }
@@ -304,7 +304,7 @@ TEST_F(Undo, UsesWhatCanBeReadOfADamagedHistory) {
   WriteAll(History(), damage);
   const Result result = OneMixer("ztk undo; echo $?; ztk undo");
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 2 -10 dB undone, 1 -5 dB, sent to 1 mixer, "
+            "Boost level: -10 dB (2) undone, -5 dB (1), sent to 1 mixer, "
             "remembered");
   EXPECT_EQ(Line(result.out, 1), "0");
   EXPECT_EQ(Line(result.out, 2), "Nothing to undo.");
@@ -325,7 +325,7 @@ TEST_F(Undo, OnlyWarnsWhenTheHistoryCannotBeWritten) {
   WriteAll(home_.path() / ".local/state", "");
   const Result result = OneMixer("ztk boost set 2; echo $?; ztk undo; echo $?");
   EXPECT_EQ(Line(result.out, 0),
-            "Boost level: 2 -10 dB, sent to 1 mixer, remembered");
+            "Boost level: -10 dB (2), sent to 1 mixer, remembered");
   EXPECT_EQ(Line(result.out, 1), "0");
   EXPECT_EQ(Line(result.out, 2), "5");
   EXPECT_THAT(Line(result.err, 0),
@@ -496,11 +496,12 @@ TEST_F(Undo, TellsApartWhatIsSavedAndWhatIsForgotten) {
 
 TEST_F(Undo, SaysWhenTheValueBeforeIsTheSame) {
   Remember("VRM-D6", {{"MaxLevel", 1}});
-  EXPECT_EQ(OneMixer("ztk boost set 3 > /dev/null; ztk boost set 2 > /dev/null"
-                     "\nztk undo 2")
-                .out,
-            "Boost level: 2 -10 dB, the same as before the changes, sent to 1 "
-            "mixer, remembered\n");
+  EXPECT_EQ(
+      OneMixer("ztk boost set 3 > /dev/null; ztk boost set 2 > /dev/null"
+               "\nztk undo 2")
+          .out,
+      "Boost level: -10 dB (2), the same as before the changes, sent to 1 "
+      "mixer, remembered\n");
 }
 
 TEST_F(Undo, WarnsThatTheListLosesAStepThatWasNotUndone) {

@@ -107,13 +107,15 @@ TEST_F(Warning, IsExplainedPlainlyWithoutTheBundle) {
   const Result result =
       Inside({"-n", "1", "--selector", "1=0"}, "ztk input set 1 1");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.err,
-            "ztk: warning: the input selector for CH1 is in position 0; 1 CH1 "
-            "Control Tone PHONO is heard only in position 4: turn it to 4\n");
-  EXPECT_EQ(Inside({"-n", "2", "--selector", "2:1=3"}, "ztk input set 1 1").err,
-            "ztk: warning: the input selector of mixer 2 for CH1 is in "
-            "position 3; 1 CH1 Control Tone PHONO is heard only in position 4: "
-            "turn it to 4\n");
+  EXPECT_EQ(
+      result.err,
+      "ztk: warning: the input selector for CH1 is in position 0; CH1 "
+      "Control Tone PHONO (1) is heard only in position 4: turn it to 4\n");
+  EXPECT_EQ(
+      Inside({"-n", "2", "--selector", "2:1=3"}, "ztk input set 1 1").err,
+      "ztk: warning: the input selector of mixer 2 for CH1 is in "
+      "position 3; CH1 Control Tone PHONO (1) is heard only in position 4: "
+      "turn it to 4\n");
 }
 
 TEST_F(Warning, IsExplainedForEachChannelOfAnImportAndOfItsUndo) {

@@ -55,8 +55,8 @@ TEST_F(Watch, ShowsAChangeOfEveryFamilyMadeByAnotherProcess) {
   EXPECT_THAT(result.out, HasSubstr("status 0\n"));
   EXPECT_THAT(Lines("seen"),
               testing::UnorderedElementsAre(
-                  "USB input 3: 6 MIC", "USB output 2: 3 AUX",
-                  "Boost level: 2 -10 dB", "MIDI channel: 16 CH 16"));
+                  "USB input 3: MIC (6)", "USB output 2: AUX (3)",
+                  "Boost level: -10 dB (2)", "MIDI channel: CH 16 (16)"));
 }
 
 TEST_F(Watch, WritesOneObjectALine) {

@@ -38,8 +38,8 @@ TEST_F(Whole, WhenTwoChangeDifferentSettingsAtOnce) {
       "wait; ztk input get 1; ztk boost get");
   EXPECT_THAT(File("one"), Not(HasSubstr("lost")));
   EXPECT_THAT(File("two"), Not(HasSubstr("lost")));
-  EXPECT_EQ(Line(result.out, 1), "USB input 1  7 REC OUT");
-  EXPECT_EQ(LastLine(result.out), "Boost level  2 -10 dB");
+  EXPECT_EQ(Line(result.out, 1), "USB input 1  REC OUT (7)");
+  EXPECT_EQ(LastLine(result.out), "Boost level  -10 dB (2)");
   EXPECT_EQ(SplitLines(
                 ReadAll(home_.path() / ".local/state/tarvix/ztk-history.jsonl"))
                 .size(),
@@ -53,8 +53,8 @@ TEST_F(Whole, WhenOneIsStoppedInTheMiddleForTheOthersToWait) {
       "ztk boost set 1 > /dev/null & sleep 0.3; ztk input set 1 mic; wait;"
       "ztk boost get");
   EXPECT_EQ(Line(result.out, 0),
-            "USB input 1: 6 MIC, sent to 1 mixer, remembered");
-  EXPECT_EQ(LastLine(result.out), "Boost level  1 -5 dB");
+            "USB input 1: MIC (6), sent to 1 mixer, remembered");
+  EXPECT_EQ(LastLine(result.out), "Boost level  -5 dB (1)");
 }
 
 }  // namespace

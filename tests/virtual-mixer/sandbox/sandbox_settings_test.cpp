@@ -47,7 +47,8 @@ class Settings : public ToolTest {
 
 TEST_F(Settings, AreTheUsersOwnUnlessTheyArePrivate) {
   const ToolResult result = Inside({}, "ztk boost set 2");
-  EXPECT_EQ(result.out, "Boost level: 2 -10 dB, sent to 1 mixer, remembered\n");
+  EXPECT_EQ(result.out,
+            "Boost level: -10 dB (2), sent to 1 mixer, remembered\n");
   EXPECT_TRUE(Has(kSettings));
   EXPECT_TRUE(Has(kHistory));
 }
@@ -57,9 +58,9 @@ TEST_F(Settings, GoWithThePrivateRunThatMadeThem) {
       Private("ztk boost set 2; ztk boost set 1; ztk undo");
   EXPECT_THAT(
       SplitLines(result.out),
-      ElementsAre("Boost level: 2 -10 dB, sent to 1 mixer, remembered",
-                  "Boost level: 1 -5 dB, sent to 1 mixer, remembered",
-                  "Boost level: 1 -5 dB undone, 2 -10 dB, sent to 1 mixer, "
+      ElementsAre("Boost level: -10 dB (2), sent to 1 mixer, remembered",
+                  "Boost level: -5 dB (1), sent to 1 mixer, remembered",
+                  "Boost level: -5 dB (1) undone, -10 dB (2), sent to 1 mixer, "
                   "remembered"));
   EXPECT_FALSE(Has("/.config/tarvix"));
   EXPECT_FALSE(Has("/.local"));
@@ -70,10 +71,11 @@ TEST_F(Settings, AreNotThereAtFirstInAPrivateRun) {
   Inside({}, "ztk boost set 2");
   EXPECT_EQ(Private("ztk boost get; ztk undo").out,
             "Boost level is a setting of the VRM-D6.\n"
-            "Boost level  4 -19 dB (default; nothing remembered)\n"
+            "Boost level  -19 dB (4), default: nothing is remembered\n"
             "Nothing to undo.\n");
-  EXPECT_EQ(Inside({}, "ztk boost get").out,
-            "Boost level is a setting of the VRM-D6.\nBoost level  2 -10 dB\n");
+  EXPECT_EQ(
+      Inside({}, "ztk boost get").out,
+      "Boost level is a setting of the VRM-D6.\nBoost level  -10 dB (2)\n");
 }
 
 TEST_F(Settings, OfOtherProgramsAreTheUsersOwnEvenThen) {
@@ -94,14 +96,14 @@ TEST_F(Settings, OfOtherProgramsAreFoundWhereTheVariableSays) {
 TEST_F(Settings, OfAHomeSharedWithMacOSStayApartToo) {
   std::filesystem::create_directories(home_ + "/Library/Preferences");
   EXPECT_EQ(Private("ztk boost set 2").out,
-            "Boost level: 2 -10 dB, sent to 1 mixer, remembered\n");
+            "Boost level: -10 dB (2), sent to 1 mixer, remembered\n");
   EXPECT_TRUE(std::filesystem::is_empty(home_ + "/Library/Preferences"));
 }
 
 TEST_F(Settings, ArePrivateWithoutAHomeToo) {
   unsetenv("HOME");
   EXPECT_EQ(Private("ztk boost set 2").out,
-            "Boost level: 2 -10 dB, sent to 1 mixer, remembered\n");
+            "Boost level: -10 dB (2), sent to 1 mixer, remembered\n");
   EXPECT_THAT(LeftBehind(), IsEmpty());
 }
 

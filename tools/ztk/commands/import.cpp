@@ -99,7 +99,7 @@ void AddKept(const std::vector<StoredValue> &kept, Report *report) {
   if (kept.empty()) return;
   report->text +=
       "Kept, because the file does not contain it: " + cli::Listed(names) +
-      " (ztk import --only forgets it)\n";
+      "; ztk import --only forgets it\n";
 }
 
 Report PlanOfImport(const std::vector<Change> &changes) {

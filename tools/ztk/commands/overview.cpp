@@ -29,7 +29,7 @@ std::string ChoicesNow(const Setting &setting, SettingsSnapshot *settings) {
     if (!index) continue;
     text += cli::Padded("  " + PlaceName(setting, channel), kColumn) + " " +
             DescribedValue(setting, channel, *index) +
-            (settings->Remembered(setting, channel) ? "" : " (default)") + "\n";
+            (settings->Remembered(setting, channel) ? "" : ", default") + "\n";
   }
   return text;
 }

@@ -269,8 +269,8 @@ bool AddRemembered(Report *report) {
       if (!index) continue;
       list.push_back(ValueFields(*setting, channel, *index));
       text += Row(PlaceName(*setting, channel),
-                  DescribedValue(*setting, channel, *index) + "  (" +
-                      ModelName(*setting) + ")");
+                  DescribedValue(*setting, channel, *index) + ", " +
+                      ModelName(*setting));
     }
   }
   report->fields["remembered"] = std::move(list);

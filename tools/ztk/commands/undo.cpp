@@ -33,8 +33,8 @@ std::vector<std::string> ForeignOnes(const std::vector<UndoItem> &undoings) {
         PlaceName(*past.setting, past.channel) + " is " +
         (now ? DescribedValue(*past.setting, past.channel, *now)
              : "not remembered any more") +
-        " (to restore the earlier value, run: " +
-        SetCommand(*past.setting, past.channel, FormerIndex(past)) + ")");
+        "; to restore the earlier value, run: " +
+        SetCommand(*past.setting, past.channel, FormerIndex(past)));
   }
   return foreign;
 }
@@ -52,7 +52,7 @@ void AddLeftAlone(const std::vector<std::string> &foreign, bool dropped,
            (dropped ? "; ztk undo --list does not show it any more" : "")});
 }
 
-// "6 MIC undone, "
+// "MIC (6) undone, "
 std::string UndoneWords(const PastChange &past) {
   if (!past.after) return "restored, ";
   return DescribedValue(*past.setting, past.channel, *past.after) + " undone, ";
@@ -226,7 +226,7 @@ void UndoLast(std::size_t count, bool dryRun, History *history,
   report->fields["stepsLeft"] = history->steps().size();
 }
 
-// "input set  USB input 2: 6 MIC, before 1 CH2 Control Tone PHONO"
+// "input set  USB input 2: MIC (6), previously CH2 Control Tone PHONO (1)"
 std::string ListedStep(std::size_t number, const Step &step) {
   constexpr std::size_t kNumberColumn = 5;
   constexpr std::size_t kCommandColumn = 18;
@@ -238,10 +238,10 @@ std::string ListedStep(std::size_t number, const Step &step) {
     const Setting &setting = *change.setting;
     text +=
         begin + PlaceName(setting, change.channel) + ": " +
-        ValueWords(setting, change.channel, change.after) + " (previously " +
+        ValueWords(setting, change.channel, change.after) + ", previously " +
         (change.before ? DescribedValue(setting, change.channel, *change.before)
                        : "nothing remembered") +
-        ")\n";
+        "\n";
     begin = std::string(kCommandColumn + 1, ' ');
   }
   return text;

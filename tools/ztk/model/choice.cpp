@@ -36,6 +36,33 @@ std::vector<Choice> BeginningWith(const std::vector<Choice> &choices,
   return found;
 }
 
+// Every place after a space or a slash begins a word, and so does the first.
+bool BeginsAWord(const std::string &text, const std::string &words) {
+  for (std::size_t place = 0; place < text.size(); ++place) {
+    const bool begins =
+        place == 0 || IsSpace(text[place - 1]) || text[place - 1] == '/';
+    if (begins && Folded(text.substr(place)).starts_with(words)) return true;
+  }
+  return false;
+}
+
+// The choices with a word that begins so.
+std::vector<Choice> Containing(const std::vector<Choice> &choices,
+                               const std::string &words) {
+  std::vector<Choice> found;
+  for (const Choice &choice : choices) {
+    if (BeginsAWord(choice.text, words)) found.push_back(choice);
+  }
+  return found;
+}
+
+// Whether the words are the choice as it is printed: "MIC (6)", or "6  MIC" in
+// a list.
+bool IsPrinted(const Choice &choice, const std::string &words) {
+  return words == Folded(Described(choice)) ||
+         words == Folded(std::to_string(choice.number) + choice.text);
+}
+
 bool IsDigits(const std::string &words) {
   return !words.empty() &&
          words.find_first_not_of("0123456789") == std::string::npos;
@@ -49,19 +76,22 @@ Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
 
   const std::optional<std::uint32_t> number = cli::ParseNumber(words);
   for (const Choice &choice : choices) {
-    if (number == choice.number) return {.choice = choice, .candidates = {}};
+    if (number == choice.number || IsPrinted(choice, wanted)) {
+      return {.choice = choice, .candidates = {}};
+    }
   }
   std::vector<Choice> found = BeginningWith(choices, wanted, false);
   // A word that is only a number is always the number of a choice.
   if (found.empty() && !IsDigits(wanted)) {
     found = BeginningWith(choices, wanted, true);
+    if (found.empty()) found = Containing(choices, wanted);
   }
   if (found.size() == 1) return {.choice = found.front(), .candidates = {}};
   return {.choice = std::nullopt, .candidates = std::move(found)};
 }
 
 std::string Described(const Choice &choice) {
-  return std::to_string(choice.number) + " " + choice.text;
+  return choice.text + " (" + std::to_string(choice.number) + ")";
 }
 
 std::string Described(const std::vector<Choice> &choices) {

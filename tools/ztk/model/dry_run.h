@@ -30,7 +30,7 @@ struct Setup {
 struct PlannedRequest {
   int mixer;  // counts from 1
   Setup setup;
-  std::string meaning;  // for the user: "USB input 2: 3 Post CH2 Fader"
+  std::string meaning;  // for the user: "USB input 2: Post CH2 Fader (3)"
 };
 
 struct PlannedWrite {
@@ -45,7 +45,7 @@ struct PlannedWrite {
 struct PlannedAnnouncement {
   std::string name;
   std::vector<std::pair<std::string, std::uint32_t>> numbers;
-  std::string meaning;  // for the user: "USB input 2: 3 Post CH2 Fader"
+  std::string meaning;  // for the user: "USB input 2: Post CH2 Fader (3)"
 };
 
 class Plan {

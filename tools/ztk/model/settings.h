@@ -107,11 +107,11 @@ std::optional<std::uint32_t> CurrentIndex(const Setting &setting,
                                           std::uint32_t product,
                                           std::uint32_t channel);
 
-// "3 Post CH2 Fader", or "77, which is not a choice".
+// "Post CH2 Fader (3)", or "77, which is not a choice".
 std::string DescribedValue(const Setting &setting, std::uint32_t channel,
                            std::uint32_t index);
 
-// The channel and the value: "USB input 2: 3 Post CH2 Fader".
+// The channel and the value: "USB input 2: Post CH2 Fader (3)".
 std::string NamedValue(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
 

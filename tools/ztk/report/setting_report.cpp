@@ -22,13 +22,6 @@ const Choice &NearestNumber(const std::string &digits,
                                                     : choices.back();
 }
 
-// Whether one of the words of the text begins so.
-bool HasWord(const std::string &text, const std::string &beginning) {
-  if (beginning.empty()) return false;
-  return (" " + cli::LowerCase(text)).find(" " + cli::LowerCase(beginning)) !=
-         std::string::npos;
-}
-
 }  // namespace
 
 std::string Belonging(const Setting &setting) {
@@ -74,14 +67,9 @@ std::string NearestChoice(const std::string &words,
       words.find_first_not_of("0123456789") == std::string::npos) {
     return "; nearest: " + Described(NearestNumber(words, choices));
   }
-  // One word of several choices names them all, and prefers none.
-  std::vector<Choice> containing;
   std::vector<std::string> texts;
-  for (const Choice &choice : choices) {
-    if (HasWord(choice.text, words)) containing.push_back(choice);
-    texts.push_back(choice.text);
-  }
-  if (!containing.empty()) return "; nearest: " + Described(containing);
+  texts.reserve(choices.size());
+  for (const Choice &choice : choices) texts.push_back(choice.text);
   const std::string nearest = cli::Nearest(words, texts);
   for (const Choice &choice : choices) {
     if (choice.text == nearest) return "; nearest: " + Described(choice);

@@ -33,8 +33,8 @@ std::string Summary(const Setting &setting);
 std::string SetCommand(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
 
-// "; nearest: 6 MIC" for words that are not the beginning of a choice; empty
-// if no choice is similar.
+// "; nearest: MIC (6)" for words that name no choice; empty if no choice is
+// similar.
 std::string NearestChoice(const std::string &words,
                           const std::vector<Choice> &choices);
 

@@ -80,9 +80,9 @@ class Ztk(unittest.TestCase):
 
     def test_a_choice_is_sent_remembered_and_undone(self):
         self.assertEqual(self.out("boost", "set", "-10 dB"),
-                         "Boost level: 2 -10 dB, sent to 1 mixer, remembered\n")
+                         "Boost level: -10 dB (2), sent to 1 mixer, remembered\n")
         self.assertEqual(self.out("input", "set", "2", "mic"),
-                         "USB input 2: 6 MIC, sent to 1 mixer, remembered\n")
+                         "USB input 2: MIC (6), sent to 1 mixer, remembered\n")
         self.assertEqual(self.remembered(), {"MaxLevel": 1, "Output1": 5})
         self.assertIn("undone", self.out("undo"))
         self.assertEqual(self.remembered(), {"MaxLevel": 1})
@@ -106,7 +106,7 @@ class Ztk(unittest.TestCase):
     def test_without_a_mixer_the_choice_is_only_stored(self):
         result = self.run_ztk("boost", "set", "1", mixers=0)
         self.assertEqual(result.stdout,
-                         "Boost level: 1 -5 dB\n")
+                         "Boost level: -5 dB (1)\n")
         self.assertIn("no mixer is attached", result.stderr)
 
     def test_watch_receives_changes_of_another_process(self):
@@ -120,10 +120,10 @@ class Ztk(unittest.TestCase):
                           ["output", "set", "1", "2"], ["midi", "set", "4"]):
                 self.out(*words)
             self.assertEqual([watch.stdout.readline() for _ in range(4)],
-                             ["Boost level: 1 -5 dB\n",
-                              "USB input 2: 3 Post CH2 Fader\n",
-                              "USB output 1: 2 CH2\n",
-                              "MIDI channel: 4 CH 4\n"])
+                             ["Boost level: -5 dB (1)\n",
+                              "USB input 2: Post CH2 Fader (3)\n",
+                              "USB output 1: CH2 (2)\n",
+                              "MIDI channel: CH 4 (4)\n"])
             watch.send_signal(signal.SIGINT)
             self.assertEqual(watch.wait(timeout=30), 0)
         finally:

@@ -64,8 +64,8 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
     report.text += PlaceName(setting, channel) + "  " +
                    DescribedValue(setting, channel, *index) +
                    (remembered    ? "\n"
-                    : why.empty() ? " (default; nothing remembered)\n"
-                                  : " (default; the file cannot be read)\n");
+                    : why.empty() ? ", default: nothing is remembered\n"
+                                  : ", default: the file cannot be read\n");
   }
   if (&setting == &kInput && (!quiet || arguments.Has(Parameter::kJson))) {
     AddSilenceOf(channels, &report);

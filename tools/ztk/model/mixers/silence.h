@@ -26,7 +26,7 @@ struct SilentRouting {
 std::vector<SilentRouting> FindSilentRoutings(
     const std::vector<MixerStatus> &mixers);
 
-// "USB input 1 is silent: the input selector for CH1 is in position 3; 1 CH1
+// "USB input 1 is silent: the input selector for CH1 is in position 3; CH1 (1)
 // Control Tone PHONO is heard only in position 4: turn it to 4". Names the
 // mixer when there are several.
 std::string Described(const SilentRouting &routing, bool namesMixer);
