@@ -3,6 +3,7 @@
 // What the window shows of a state, and what it asks for.
 #include "window/main_window.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -262,8 +263,10 @@ void MainWindowTest::WithoutAMixerEverythingStaysUsable() {
   window_->showState(state_);
   QVERIFY(TextOf("mixers").startsWith(QLatin1String("No mixer is attached.")));
   QSignalSpy chosen(window_.get(), &MainWindow::chosen);
-  InputRow(0)->box()->setFocus();
-  QTest::keyClick(InputRow(0)->box(), Qt::Key_Up);
+  QComboBox *box = InputRow(0)->box();
+  box->setFocus();
+  QTest::keyClick(box, Qt::Key_Up);
+  QTest::keyClick(box->view(), Qt::Key_Return);
   QCOMPARE(chosen.size(), 1);
 }
 

@@ -152,12 +152,14 @@ class PictureTest : public QObject {
   void FiveNumbersFitOnTheCrossFader();
   void GrowsWithTheFont();
   void AClickChoosesForTheActiveChannel();
+  void AClickOnTheNameOfASignalChoosesIt();
   void AClickOnATapOfAnotherLaneChoosesNothing();
   void DraggingTheNumberChoosesForItsChannel();
   void DraggingTheArrowChoosesForItsChannel();
   void ADragThatEndsNowhereChoosesNothing();
   void AClickOnAnArrowMakesItsChannelActive();
   void AClickOnANumberThatIsOutOfReachMakesItsChannelActive();
+  void EnterOnANumberThatIsOutOfReachMakesItsChannelActive();
   void TheKeyboardReachesEveryTap();
   void DigitsNameTheActiveChannel();
   void DescribesTheTapWithTheFocus();
@@ -326,6 +328,20 @@ void PictureTest::AClickChoosesForTheActiveChannel() {
           (Tap{.source = Source::PostFader, .lane = 1}));
 }
 
+void PictureTest::AClickOnTheNameOfASignalChoosesIt() {
+  QSignalSpy chosen(picture_.get(), &Picture::tapChosen);
+  picture_->setActiveChannel(1);
+  for (const PictureLabel &label : picture_->parts().labels) {
+    if (label.text != QLatin1String("LINE")) continue;
+    QTest::mouseClick(picture_.get(), Qt::LeftButton, {},
+                      label.box.center().toPoint());
+  }
+  // CH2 is the only one of the four that channel 2 can record.
+  QCOMPARE(chosen.size(), 1);
+  QVERIFY(chosen[0][1].value<Tap>() ==
+          (Tap{.source = Source::Line, .lane = 1}));
+}
+
 void PictureTest::AClickOnATapOfAnotherLaneChoosesNothing() {
   QSignalSpy chosen(picture_.get(), &Picture::tapChosen);
   picture_->setActiveChannel(1);
@@ -389,6 +405,23 @@ void PictureTest::AClickOnANumberThatIsOutOfReachMakesItsChannelActive() {
                     PlaceOf({.source = Source::RecOut}));
   QCOMPARE(chosen.size(), 1);
   QCOMPARE(chosen[0][0].toInt(), 0);
+}
+
+void PictureTest::EnterOnANumberThatIsOutOfReachMakesItsChannelActive() {
+  QSignalSpy active(picture_.get(), &Picture::activeChannelChanged);
+  QSignalSpy chosen(picture_.get(), &Picture::tapChosen);
+  picture_->setActiveChannel(0);
+  picture_->setFocus();
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Left}) {
+    QTest::keyClick(picture_.get(), key);
+  }
+  QVERIFY2(picture_->accessibleDescription().startsWith(
+               QLatin1String("CH2 LINE, recorded by USB 2")),
+           qPrintable(picture_->accessibleDescription()));
+  QTest::keyClick(picture_.get(), Qt::Key_Return);
+  QCOMPARE(active.size(), 1);
+  QCOMPARE(active[0][0].toInt(), 1);
+  QCOMPARE(chosen.size(), 0);
 }
 
 void PictureTest::TheKeyboardReachesEveryTap() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // What a row tells about its setting, and how a choice is made in it.
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QSignalSpy>
@@ -36,7 +37,9 @@ class RowsTest : public QObject {
   void ExplainsASilentChannelInTheWordsOfTheLibrary();
   void ShowsANumberThatIsNoChoice();
   void AChoiceInARowIsWanted();
-  void EachArrowKeyIsAChoice();
+  void KeysChooseOnlyTheEntryThatIsConfirmed();
+  void EscapeLeavesTheChoiceAsItIs();
+  void ALetterGoesToTheEntryThatBeginsWithIt();
   void TheWheelChangesNothing();
 
  private:
@@ -238,15 +241,41 @@ void RowsTest::AChoiceInARowIsWanted() {
   QCOMPARE(chosen[0][2].toUInt(), 2U);
 }
 
-void RowsTest::EachArrowKeyIsAChoice() {
+void RowsTest::KeysChooseOnlyTheEntryThatIsConfirmed() {
   QSignalSpy chosen(window_.get(), &MainWindow::chosen);
   QComboBox *box = InputRow(0)->box();
   box->setFocus();
   QTest::keyClick(box, Qt::Key_Down);
+  QVERIFY(box->view()->isVisible());
+  QTest::keyClick(box->view(), Qt::Key_Down);
+  QTest::keyClick(box->view(), Qt::Key_Down);
+  QCOMPARE(chosen.size(), 0);
+  QTest::keyClick(box->view(), Qt::Key_Return);
+  QCOMPARE(chosen.size(), 1);
+  QCOMPARE(chosen[0][2].toUInt(), 4U);
+}
+
+void RowsTest::EscapeLeavesTheChoiceAsItIs() {
+  QSignalSpy chosen(window_.get(), &MainWindow::chosen);
+  QComboBox *box = InputRow(0)->box();
+  box->setFocus();
   QTest::keyClick(box, Qt::Key_Down);
-  QCOMPARE(chosen.size(), 2);
-  QCOMPARE(chosen[0][2].toUInt(), 3U);
-  QCOMPARE(chosen[1][2].toUInt(), 4U);
+  QTest::keyClick(box->view(), Qt::Key_Down);
+  QTest::keyClick(box->view(), Qt::Key_Escape);
+  QTRY_VERIFY(!box->view()->isVisible());
+  QCOMPARE(box->currentIndex(), 2);
+  QCOMPARE(chosen.size(), 0);
+}
+
+void RowsTest::ALetterGoesToTheEntryThatBeginsWithIt() {
+  QSignalSpy chosen(window_.get(), &MainWindow::chosen);
+  QComboBox *box = InputRow(0)->box();
+  box->setFocus();
+  QTest::keyClick(box, 'm');
+  QVERIFY(box->view()->isVisible());
+  QCOMPARE(box->view()->currentIndex().data().toString(),
+           QStringLiteral("MIC"));
+  QCOMPARE(chosen.size(), 0);
 }
 
 void RowsTest::TheWheelChangesNothing() {

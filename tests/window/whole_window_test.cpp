@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The window with its engine: mouse clicks, keys and changes by other programs.
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
@@ -96,9 +97,12 @@ void WholeWindowTest::RecordsWhatIsClicked() {
 void WholeWindowTest::RecordsWhatIsChosenWithTheKeyboard() {
   Open();
   QTest::keyClick(window_.get(), Qt::Key_5, Qt::AltModifier);
-  QVERIFY(InputRow(4).box()->hasFocus());
-  QTest::keyClick(InputRow(4).box(), Qt::Key_Down);
-  QTest::keyClick(InputRow(4).box(), Qt::Key_Down);
+  QComboBox *box = InputRow(4).box();
+  QVERIFY(box->hasFocus());
+  QTest::keyClick(box, Qt::Key_Down);
+  QTest::keyClick(box->view(), Qt::Key_Down);
+  QTest::keyClick(box->view(), Qt::Key_Down);
+  QTest::keyClick(box->view(), Qt::Key_Return);
   EVENTUALLY(InputRow(4).text() ==
              QStringLiteral("Sent to 2 mixers, and remembered."));
   QVERIFY(Ztk({"input", "get", "5"}).contains("Post CH2 Fader"));

@@ -156,6 +156,8 @@ class Window(unittest.TestCase):
                    lambda: self.focused() == "USB 3 records:")
         before = remembered(3)
         press("Down")
+        time.sleep(0.5)  # the list opens
+        press("Down", "Return")
         eventually("the choice is stored", lambda: remembered(3) != before)
         self.assertEqual(remembered(3), "Cross Fader B")
         eventually("the row tells that the mixer has it", lambda:

@@ -158,6 +158,9 @@ const TapSpot *Picture::SpotAt(QPointF point) const {
     return layout_.Spot(
         *state_.channels[static_cast<std::size_t>(wire.channel)].tap);
   }
+  for (const PictureLabel &label : layout_.labels) {
+    if (label.tap && label.box.contains(point)) return layout_.Spot(*label.tap);
+  }
   return nullptr;
 }
 
@@ -336,6 +339,19 @@ void Picture::MoveFocus(QPointF direction) {
   update();
 }
 
+// As a click does: a number that the active channel cannot have makes its own
+// channel active.
+void Picture::ChooseFocused() {
+  if (!CanBeChosen(*layout_.Spot(focus_))) {
+    for (std::size_t i = 0; i < state_.channels.size(); ++i) {
+      if (state_.channels[i].tap != focus_) continue;
+      emit activeChannelChanged(static_cast<int>(i));
+      return;
+    }
+  }
+  Choose(active_, focus_);
+}
+
 void Picture::keyPressEvent(QKeyEvent *event) {
   switch (event->key()) {
     case Qt::Key_Left:
@@ -349,7 +365,7 @@ void Picture::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-      return Choose(active_, focus_);
+      return ChooseFocused();
     default:
       break;
   }

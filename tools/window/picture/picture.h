@@ -74,6 +74,7 @@ class Picture : public QWidget {
   // The wire that has its number or its arrow at this point.
   const Wire *WireAt(QPointF point) const;
   void PointAt(const TapSpot *spot);
+  void ChooseFocused();
   void MoveFocus(QPointF direction);
   void FocusOnActive();
   void Describe();

@@ -112,6 +112,13 @@ class Builder {
          .bold = bold});
   }
 
+  // The name of a signal.
+  void AddName(const QString &name, qreal x, qreal middle,
+               Qt::AlignmentFlag alignment, const Tap &tap) {
+    AddText(name, x, middle, alignment);
+    layout_.labels.last().tap = tap;
+  }
+
   qreal AddGutter(qreal top, qreal height) {
     layout_.gutters.append({.top = top, .bottom = top + height * u_});
     return top + height * u_;
@@ -156,7 +163,8 @@ class Builder {
 
   void AddInput(Source source, std::uint32_t lane, const QString &name, qreal y,
                 QPointF selector) {
-    AddText(name, inputs_ - kTextGap * u_, y, Qt::AlignRight);
+    AddName(name, inputs_ - kTextGap * u_, y, Qt::AlignRight,
+            {.source = source, .lane = lane});
     AddTap(source, lane, {inputs_, y}, source == Source::Phono);
     layout_.signalLines.append(QLineF({inputs_, y}, selector));
   }
@@ -174,8 +182,10 @@ class Builder {
     AddTap(Source::CrossFaderA, 0, {a, top}, true, 1);
     AddTap(Source::CrossFaderB, 0, {b, top}, true, -1);
     const qreal middle = top + 1.35 * u_;
-    AddText(QStringLiteral("A"), a, middle, Qt::AlignHCenter);
-    AddText(QStringLiteral("B"), b, middle, Qt::AlignHCenter);
+    AddName(QStringLiteral("A"), a, middle, Qt::AlignHCenter,
+            {.source = Source::CrossFaderA});
+    AddName(QStringLiteral("B"), b, middle, Qt::AlignHCenter,
+            {.source = Source::CrossFaderB});
     AddText(words_.crossFader, mix_ - (kHalfCrossFader + kTextGap) * u_, middle,
             Qt::AlignRight, true);
     const qreal bottom = top + kCrossFaderHeight * u_;
@@ -189,9 +199,10 @@ class Builder {
   void AddLastLine(qreal y) {
     const QPointF mic(inputs_, y);
     const QPointF recOut(mix_ + 1.6 * u_, y);
-    AddText(QStringLiteral("MIC"), inputs_ - kTextGap * u_, y, Qt::AlignRight);
-    AddText(QStringLiteral("REC OUT"), mix_ + 0.6 * u_, y - 1.15 * u_,
-            Qt::AlignLeft);
+    AddName(QStringLiteral("MIC"), inputs_ - kTextGap * u_, y, Qt::AlignRight,
+            {.source = Source::Mic});
+    AddName(QStringLiteral("REC OUT"), mix_ + 0.6 * u_, y - 1.15 * u_,
+            Qt::AlignLeft, {.source = Source::RecOut});
     layout_.signalLines.append(QLineF(mic, recOut));
     layout_.joints.append({mix_, y});
     AddTap(Source::Mic, 0, mic, false);

@@ -11,6 +11,7 @@
 #include <QList>
 #include <QRectF>
 #include <QString>
+#include <optional>
 
 #include "ztk/model/routing.h"
 
@@ -29,6 +30,8 @@ struct PictureLabel {
   QString text;
   QRectF box;
   bool bold = false;
+  // The signal that the text names. A click on the text chooses it.
+  std::optional<model::Tap> tap = std::nullopt;
 };
 
 enum class KnobKind : std::uint8_t { Selector, Fader, CrossFader };
