@@ -244,24 +244,25 @@ TEST_F(List, MarksTheRememberedChoice) {
   Remember("VRM-D6", {{"Output1", 4}});
   const Result result = NoMixer("ztk input list 2");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.out,
-            "USB input audio is a setting of the VRM-D6. * marks the current "
-            "choice.\n"
-            "\n"
-            "USB input 2\n"
-            "  1  CH2 Control Tone PHONO\n"
-            "  2  CH2 Control Tone LINE\n"
-            "  3  Post CH2 Fader\n"
-            "  4  Cross Fader A\n"
-            "* 5  Cross Fader B\n"
-            "  6  MIC\n"
-            "  7  REC OUT\n");
+  EXPECT_EQ(
+      result.out,
+      "USB input audio is a setting of the VRM-D6. * marks the remembered "
+      "choice.\n"
+      "\n"
+      "USB input 2\n"
+      "  1  CH2 Control Tone PHONO\n"
+      "  2  CH2 Control Tone LINE\n"
+      "  3  Post CH2 Fader\n"
+      "  4  Cross Fader A\n"
+      "* 5  Cross Fader B\n"
+      "  6  MIC\n"
+      "  7  REC OUT\n");
 }
 
 TEST_F(List, SaysWhenTheMarkIsADefault) {
   const Result result = NoMixer("ztk boost list");
-  EXPECT_THAT(result.out, HasSubstr("Boost level (nothing remembered, so the "
-                                    "default is the current choice)"));
+  EXPECT_THAT(result.out, HasSubstr("Boost level (nothing is remembered; * "
+                                    "marks the default)"));
   EXPECT_THAT(result.out, HasSubstr("\n* 4  -19 dB\n"));
 }
 
@@ -286,16 +287,18 @@ TEST_F(List, ShowsAllChannelsAndNoPlaceholder) {
 TEST_F(Get, TellsRememberedValuesFromDefaults) {
   Remember("VRM-D6", {{"Output0", 2}});
   const Result result = NoMixer("ztk input get");
-  EXPECT_EQ(result.out,
-            "USB input audio is a setting of the VRM-D6.\n"
-            "USB input 1  Post CH1 Fader (3)\n"
-            "USB input 2  CH2 Control Tone PHONO (1), default: nothing is "
-            "remembered\n"
-            "USB input 3  CH3 Control Tone PHONO (1), default: nothing is "
-            "remembered\n"
-            "USB input 4  CH4 Control Tone PHONO (1), default: nothing is "
-            "remembered\n"
-            "USB input 5  REC OUT (1), default: nothing is remembered\n");
+  EXPECT_EQ(
+      result.out,
+      "USB input audio is a setting of the VRM-D6. ztk shows the remembered "
+      "choices.\n"
+      "USB input 1  Post CH1 Fader (3)\n"
+      "USB input 2  CH2 Control Tone PHONO (1), default: nothing is "
+      "remembered\n"
+      "USB input 3  CH3 Control Tone PHONO (1), default: nothing is "
+      "remembered\n"
+      "USB input 4  CH4 Control Tone PHONO (1), default: nothing is "
+      "remembered\n"
+      "USB input 5  REC OUT (1), default: nothing is remembered\n");
   const Json json = OneObject(NoMixer("ztk input get 1 --json").out);
   EXPECT_EQ(json["channels"],
             Json::parse(R"([{"channel":1,"number":3,"text":"Post CH1 Fader",

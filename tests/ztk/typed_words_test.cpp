@@ -12,9 +12,11 @@ TEST_F(TypedWords, NameAChannelAsStatusCallsIt) {
   const Result result = OneMixer(
       "ztk input set CH2 mic > /dev/null && ztk input get ch2; "
       "ztk input get CH6; echo $?; ztk input get CH; echo $?");
-  EXPECT_EQ(result.out,
-            "USB input audio is a setting of the VRM-D6.\n"
-            "USB input 2  MIC (6)\n2\n2\n");
+  EXPECT_EQ(
+      result.out,
+      "USB input audio is a setting of the VRM-D6. ztk shows the remembered "
+      "choice.\n"
+      "USB input 2  MIC (6)\n2\n2\n");
   EXPECT_THAT(result.err, HasSubstr("has no channel \"CH6\""));
 }
 

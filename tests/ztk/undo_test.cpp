@@ -489,7 +489,7 @@ TEST_F(Undo, TellsApartWhatIsSavedAndWhatIsForgotten) {
       "ztk undo 2");
   EXPECT_EQ(
       LastLine(result.err),
-      "ztk: the change is stored, but not sent: no "
+      "ztk: the change is remembered, but not sent: no "
       "mixer is attached; when one is attached, run: ztk output default 1; ztk "
       "apply");
 }

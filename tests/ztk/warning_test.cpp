@@ -52,7 +52,7 @@ TEST_F(Warning, IsNotShownBesideTheErrorWithoutAMixer) {
   WithBundle({"-n", "0"}, "ztk input set 2 1");
   EXPECT_EQ(result_.status, 3);
   EXPECT_THAT(result_.err,
-              StartsWith("ztk: USB input 2 is saved, but not sent"));
+              StartsWith("ztk: USB input 2 is remembered, but not sent"));
   EXPECT_EQ(SplitLines(result_.err).size(), 1U);
 }
 

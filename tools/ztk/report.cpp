@@ -22,7 +22,7 @@ constexpr ExitMeaning kExitMeanings[] = {
      .word = "no-mixer",
      .text = "no mixer answered; set, import and undo have changed the\n"
              "settings file nevertheless. Raw values and the defaults of ztk\n"
-             "output default are not stored"},
+             "output default are not remembered"},
     {.exit = ExitCode::Rejected,
      .word = "rejected",
      .text =

@@ -70,12 +70,13 @@ TEST_F(Settings, GoWithThePrivateRunThatMadeThem) {
 TEST_F(Settings, AreNotThereAtFirstInAPrivateRun) {
   Inside({}, "ztk boost set 2");
   EXPECT_EQ(Private("ztk boost get; ztk undo").out,
-            "Boost level is a setting of the VRM-D6.\n"
+            "Boost level is a setting of the VRM-D6. ztk shows the remembered "
+            "choice.\n"
             "Boost level  -19 dB (4), default: nothing is remembered\n"
             "Nothing to undo.\n");
-  EXPECT_EQ(
-      Inside({}, "ztk boost get").out,
-      "Boost level is a setting of the VRM-D6.\nBoost level  -10 dB (2)\n");
+  EXPECT_EQ(Inside({}, "ztk boost get").out,
+            "Boost level is a setting of the VRM-D6. ztk shows the remembered "
+            "choice.\nBoost level  -10 dB (2)\n");
 }
 
 TEST_F(Settings, OfOtherProgramsAreTheUsersOwnEvenThen) {

@@ -41,8 +41,8 @@ Report ShowOverview(const Arguments & /*arguments*/) {
   SettingsSnapshot settings;
   report.text = Attached(MixerPlaces().size());
   for (const Setting *setting : AllSettings()) {
-    report.text += "\n" + std::string(setting->title) + " (" +
-                   ModelName(*setting) + ")\n" +
+    report.text += "\n" + std::string(setting->title) + " of the " +
+                   ModelName(*setting) + ", as remembered\n" +
                    ChoicesNow(*setting, &settings);
   }
   report.text +=

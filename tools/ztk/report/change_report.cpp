@@ -140,9 +140,9 @@ std::string SavedWords(const MadeChanges &made, const std::string &what) {
   const auto forgotten = static_cast<std::size_t>(
       std::count_if(made.changes.begin(), made.changes.end(),
                     [](const MadeChange &one) { return one.forgotten; }));
-  if (forgotten == 0) return what + " is saved, but ";
+  if (forgotten == 0) return what + " is remembered, but ";
   if (forgotten < made.changes.size()) {
-    return "the change is stored, but ";
+    return "the change is remembered, but ";
   }
   const bool sent = !ObstructionOf(made.reach).why.starts_with("not sent: ");
   return std::string("nothing is remembered, and the default") +
@@ -272,7 +272,7 @@ std::string Described(const MadeChange &change, const MadeChanges &made) {
       std::any_of(made.changes.begin(), made.changes.end(),
                   [](const MadeChange &other) { return other.accepted > 0; });
   const std::string sent = Sent(change.accepted, made.reach, others);
-  // Otherwise the problem says why nothing was sent, and what is saved.
+  // Otherwise the problem says why nothing was sent, and what is remembered.
   if (sent.empty() || change.forgotten) return sent;
   return sent + (change.remembered ? ", remembered" : ", not remembered");
 }

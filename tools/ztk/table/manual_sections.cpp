@@ -90,8 +90,10 @@ std::vector<cli::Section> ManualIntroduction() {
             .meaning = "A mixer has accepted it over USB. The same value is "
                        "sent to every attached mixer."},
            {.name = "remembered",
-            .meaning = "Saved in a settings file, see FILES. ztk apply "
-                       "sends it again, ztk reset forgets it."},
+            .meaning = "Kept in a settings file, see FILES. ztk apply "
+                       "sends it again, ztk reset forgets it. A mixer cannot "
+                       "be asked which choice it has, so get, list and status "
+                       "show the remembered one."},
            {.name = "announced",
             .meaning = "Reported on the message bus of your session, where "
                        "other programs and ztk watch\nreceive it."}}}};

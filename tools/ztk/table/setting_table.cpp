@@ -123,7 +123,8 @@ std::vector<cli::Command> SettingCommands(const Setting &setting) {
   std::vector<cli::Command> commands{
       MakePlain(setting, "list", "List the choices with their numbers",
                 ListChoices),
-      MakePlain(setting, "get", "Show the current choice", GetRemembered),
+      MakePlain(setting, "get", "Show the current choice, as it is remembered",
+                GetRemembered),
       MakeSet(setting)};
   if (&setting == &kOutput) {
     commands.push_back(MakeSending(setting, "default",

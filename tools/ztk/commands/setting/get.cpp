@@ -45,10 +45,13 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
   report.isAnswer = true;
   AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
-  const bool quiet = arguments.Has(Parameter::kQuiet);
-  if (!quiet) report.text = Belonging(setting) + "\n";
-  const std::string why = WarnOfUnreadable(setting, &report);
   const std::vector<std::uint32_t> channels = ChannelsFor(setting, arguments);
+  const bool quiet = arguments.Has(Parameter::kQuiet);
+  // A mixer cannot be asked for its choice.
+  if (!quiet)
+    report.text = Belonging(setting) + " ztk shows the remembered " +
+                  (channels.size() == 1 ? "choice.\n" : "choices.\n");
+  const std::string why = WarnOfUnreadable(setting, &report);
   for (const std::uint32_t channel : channels) {
     const auto index = CurrentIndex(setting, product, channel);
     if (!index) {

@@ -29,7 +29,7 @@ void AddChoiceList(const Setting &setting, std::uint32_t product,
   if (!current) {
     text += " (listed only)";
   } else if (!remembered) {
-    text += " (nothing remembered, so the default is the current choice)";
+    text += " (nothing is remembered; * marks the default)";
   } else if (*current >= choices.size()) {
     text += " (remembered: " + DescribedValue(setting, channel, *current) + ")";
   }
@@ -56,7 +56,7 @@ Report ListChoices(const Setting &setting, const Arguments &arguments) {
   AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
   if (!arguments.Has(Parameter::kQuiet)) {
-    report.text = Belonging(setting) + " * marks the current choice.\n";
+    report.text = Belonging(setting) + " * marks the remembered choice.\n";
   }
   WarnOfUnreadable(setting, &report);
   for (const std::uint32_t channel : ChannelsFor(setting, arguments)) {
