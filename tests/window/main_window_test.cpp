@@ -8,14 +8,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QHelpEvent>
-#include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -25,7 +20,6 @@
 #include <QToolTip>
 
 #include "window/cut_texts.h"
-#include "window/pages/club_dialog.h"
 #include "window/pages/notices.h"
 #include "window/pages/routing_page.h"
 #include "window/pages/rows_page.h"
@@ -58,13 +52,6 @@ class MainWindowTest : public QObject {
   void OffersUndoWithWhatItTakesBack();
   void SendsAllAgain();
   void SwitchesAutoapply();
-  void ListsClubsAndAppliesAfterAPreview();
-  void DoesNotApplyABrokenClub();
-  void DoesNotApplyAClubThatChangesNothing();
-  void OffersToSendAClubThatIsNotConfirmed();
-  void AsksBeforeItReplacesAClub();
-  void WantsANameForAClub();
-  void ReadsTheClubsAgainWhenTheyAreUsed();
   void EachActionHasItsOwnKey();
   void AClickBesideTheBoxMakesTheRowActive_data();
   void AClickBesideTheBoxMakesTheRowActive();
@@ -343,140 +330,6 @@ void MainWindowTest::SwitchesAutoapply() {
   state_.autoapply = Autoapply::On;
   window_->showState(state_);
   QVERIFY(action->isChecked());
-}
-
-void MainWindowTest::ListsClubsAndAppliesAfterAPreview() {
-  QSignalSpy preview(window_.get(), &MainWindow::previewWanted);
-  QSignalSpy apply(window_.get(), &MainWindow::applyWanted);
-  state_.clubs = {{.name = "Friday", .path = "/clubs/Friday.json"}};
-  window_->showState(state_);
-  Action("Friday")->trigger();
-  QCOMPARE(preview.size(), 1);
-  QCOMPARE(preview[0][0].toString(), QStringLiteral("/clubs/Friday.json"));
-  window_->showPreview({.club = state_.clubs[0],
-                        .changes = {{.place = "USB input 2",
-                                     .before = "REC OUT",
-                                     .after = "Post CH2 Fader"}},
-                        .error = {},
-                        .kept = {"USB input 1", "MIDI channel"}});
-  auto *dialog = window_->findChild<ClubDialog *>();
-  QVERIFY(dialog != nullptr);
-  QStringList texts;
-  for (QLabel *label : dialog->findChildren<QLabel *>()) {
-    texts.append(label->text());
-  }
-  QVERIFY(texts.contains("Post CH2 Fader"));
-  QVERIFY(texts.contains(
-      "Not in this club, and not changed: USB input 1, MIDI channel."));
-  QCOMPARE(apply.size(), 0);
-  dialog->accept();
-  QCOMPARE(apply.size(), 1);
-  QCOMPARE(apply[0][0].toString(), QStringLiteral("/clubs/Friday.json"));
-}
-
-void MainWindowTest::DoesNotApplyABrokenClub() {
-  window_->showPreview({.club = {.name = "Friday", .path = "/f"},
-                        .changes = {},
-                        .error = "The file is empty.",
-                        .kept = {}});
-  auto *dialog = window_->findChild<ClubDialog *>();
-  auto *buttons = dialog->findChild<QDialogButtonBox *>();
-  QCOMPARE(buttons->buttons().size(), 1);
-  QCOMPARE(buttons->standardButton(buttons->buttons()[0]),
-           QDialogButtonBox::Close);
-}
-
-void MainWindowTest::DoesNotApplyAClubThatChangesNothing() {
-  window_->showPreview({.club = {.name = "Friday", .path = "/f"},
-                        .changes = {},
-                        .error = {},
-                        .kept = {}});
-  auto *buttons =
-      window_->findChild<ClubDialog *>()->findChild<QDialogButtonBox *>();
-  QCOMPARE(buttons->buttons().size(), 1);
-  QCOMPARE(buttons->standardButton(buttons->buttons()[0]),
-           QDialogButtonBox::Close);
-}
-
-void MainWindowTest::OffersToSendAClubThatIsNotConfirmed() {
-  QSignalSpy resend(window_.get(), &MainWindow::resendWanted);
-  QSignalSpy apply(window_.get(), &MainWindow::applyWanted);
-  window_->showPreview({.club = {.name = "Friday", .path = "/f"},
-                        .changes = {},
-                        .error = {},
-                        .kept = {},
-                        .needsSending = true});
-  QPointer<ClubDialog> dialog = window_->findChild<ClubDialog *>();
-  QCOMPARE(dialog->findChild<QLabel *>()->text(),
-           QStringLiteral("“Friday” changes nothing: all of its settings are "
-                          "remembered already.\nIt is not known whether every "
-                          "mixer has what is remembered. Send all again to be "
-                          "sure."));
-  SettleLayouts();
-  QCOMPARE(CutTexts(*dialog), QStringList());
-  QVERIFY(dialog->findChild<QLabel *>("kept") == nullptr);
-  QCOMPARE(dialog->findChild<QDialogButtonBox *>()->buttons().size(), 2);
-  for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
-    if (button->text() == QLatin1String("&Send all again")) button->click();
-  }
-  QCOMPARE(resend.size(), 1);
-  QCOMPARE(apply.size(), 0);
-  QVERIFY(dialog.isNull() || !dialog->isVisible());
-}
-
-void MainWindowTest::AsksBeforeItReplacesAClub() {
-  QSignalSpy save(window_.get(), &MainWindow::saveWanted);
-  state_.clubs = {{.name = "Zed & Co", .path = "/clubs/Zed & Co.json"},
-                  {.name = "A-B", .path = "/clubs/A-B.json"}};
-  window_->showState(state_);
-  QVERIFY(Action("Zed  Co") != nullptr);
-  QCOMPARE(Action("Zed  Co")->text(), QStringLiteral("Zed && Co"));
-  const auto answer = [this](const QString &name,
-                             QMessageBox::StandardButton button) {
-    Action("Save as a club")->trigger();
-    auto *dialog = window_->findChild<QInputDialog *>();
-    dialog->setTextValue(name);
-    dialog->accept();
-    delete dialog;
-    auto *question = window_->findChild<QMessageBox *>();
-    if (question == nullptr) return false;
-    question->button(button)->click();
-    delete question;
-    return true;
-  };
-  QVERIFY(answer("Zed & Co", QMessageBox::Cancel));
-  QCOMPARE(save.size(), 0);
-  QVERIFY(answer(" Zed & Co ", QMessageBox::Yes));
-  QCOMPARE(save.size(), 1);
-  // A file name holds no slash.
-  QVERIFY(answer("A/B", QMessageBox::Cancel));
-  QCOMPARE(save.size(), 1);
-  QVERIFY(!answer("Friday", QMessageBox::Cancel));
-  QCOMPARE(save.size(), 2);
-  QCOMPARE(save[1][0].toString(), QStringLiteral("Friday"));
-}
-
-void MainWindowTest::WantsANameForAClub() {
-  Action("Save as a club")->trigger();
-  auto *dialog = window_->findChild<QInputDialog *>();
-  const QPushButton *ok =
-      dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
-  QVERIFY(!ok->isEnabled());
-  dialog->setTextValue("  ");
-  QVERIFY(!ok->isEnabled());
-  dialog->setTextValue("Friday");
-  QVERIFY(ok->isEnabled());
-}
-
-void MainWindowTest::ReadsTheClubsAgainWhenTheyAreUsed() {
-  QSignalSpy wanted(window_.get(), &MainWindow::clubsWanted);
-  for (const QAction *menu : window_->menuBar()->actions()) {
-    if (menu->text() == QLatin1String("&Clubs"))
-      emit menu->menu()->aboutToShow();
-  }
-  QCOMPARE(wanted.size(), 1);
-  Action("Save as a club")->trigger();
-  QCOMPARE(wanted.size(), 2);
 }
 
 // A theme may add keys to the standard ones.

@@ -5,12 +5,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -20,8 +17,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "window/engine/clubs.h"
 #include "window/pages/club_dialog.h"
+#include "window/pages/club_menu.h"
 #include "window/pages/notices.h"
 #include "window/pages/routing_page.h"
 #include "window/pages/rows_page.h"
@@ -156,9 +153,12 @@ void MainWindow::MakeMenus() {
   QAction *check = AddAction(mixer, tr("&Check again"), Qt::Key_F5);
   connect(check, &QAction::triggered, this, &MainWindow::checkWanted);
 
-  clubMenu_ = menuBar()->addMenu(tr("&Clubs"));
-  connect(clubMenu_, &QMenu::aboutToShow, this, &MainWindow::clubsWanted);
-  ShowClubs({});
+  clubs_ = new ClubMenu(this);
+  menuBar()->addMenu(clubs_);
+  connect(clubs_, &QMenu::triggered, this, [this] { showMessage({}); });
+  connect(clubs_, &ClubMenu::previewWanted, this, &MainWindow::previewWanted);
+  connect(clubs_, &ClubMenu::saveWanted, this, &MainWindow::saveWanted);
+  connect(clubs_, &ClubMenu::clubsWanted, this, &MainWindow::clubsWanted);
 }
 
 QWidget *MainWindow::MakeLowerBar() {
@@ -198,7 +198,7 @@ void MainWindow::showState(const State &state) {
   ShowResend(state);
   ShowNotKnown(state.NeedsSending());
   ShowAutoapply(state);
-  if (state.clubs != clubs_) ShowClubs(state.clubs);
+  clubs_->showClubs(state.clubs);
   // After the layouts have taken in what is new.
   QTimer::singleShot(0, this, &MainWindow::TakeSpace);
 }
@@ -224,63 +224,6 @@ void MainWindow::ShowAutoapply(const State &state) {
   autoapply_->setEnabled(state.autoapply != Autoapply::Unavailable);
   autoapply_->setChecked(state.autoapply == Autoapply::On);
   autoapply_->setToolTip(state.whyNoAutoapply);
-}
-
-void MainWindow::ShowClubs(const QList<ClubState> &clubs) {
-  clubs_ = clubs;
-  clubMenu_->clear();
-  for (const ClubState &club : clubs) {
-    QString text = club.name;
-    text.replace(QLatin1Char('&'), QLatin1String("&&"));
-    QAction *action = AddAction(clubMenu_, text, QKeySequence());
-    connect(action, &QAction::triggered, this,
-            [this, path = club.path] { emit previewWanted(path); });
-  }
-  if (!clubs.isEmpty()) clubMenu_->addSeparator();
-  QAction *save =
-      AddAction(clubMenu_, tr("&Save as a club…"), QKeySequence::Save);
-  connect(save, &QAction::triggered, this, &MainWindow::AskForName);
-}
-
-void MainWindow::AskForName() {
-  auto *dialog = new QInputDialog(this);
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setWindowTitle(tr("Save as a club"));
-  dialog->setLabelText(
-      tr("Name of the club; all remembered settings are "
-         "saved under it:"));
-  connect(dialog, &QInputDialog::textValueSelected, this,
-          [this](const QString &name) { Save(name.trimmed()); });
-  dialog->open();
-  QPushButton *ok =
-      dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
-  ok->setEnabled(false);
-  connect(
-      dialog, &QInputDialog::textValueChanged, ok,
-      [ok](const QString &name) { ok->setEnabled(!name.trimmed().isEmpty()); });
-  // Another program may have saved a club since.
-  emit clubsWanted();
-}
-
-void MainWindow::Save(const QString &name) {
-  if (name.isEmpty()) return;
-  const QString listed = ListedClubName(name);
-  if (std::none_of(
-          clubs_.begin(), clubs_.end(),
-          [&listed](const ClubState &club) { return club.name == listed; })) {
-    emit saveWanted(name);
-    return;
-  }
-  auto *question = new QMessageBox(
-      QMessageBox::Question, tr("Save as a club"),
-      tr("There is already a club “%1”. Replace it?").arg(listed),
-      QMessageBox::Yes | QMessageBox::Cancel, this);
-  question->setAttribute(Qt::WA_DeleteOnClose);
-  question->setTextFormat(Qt::PlainText);
-  question->setDefaultButton(QMessageBox::Cancel);
-  connect(question, &QMessageBox::accepted, this,
-          [this, name] { emit saveWanted(name); });
-  question->open();
 }
 
 void MainWindow::showPreview(const ClubPreview &preview) {

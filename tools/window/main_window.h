@@ -14,6 +14,7 @@ class QTabWidget;
 
 namespace ztk::window {
 
+class ClubMenu;
 class Notices;
 class RoutingPage;
 class RowsPage;
@@ -65,20 +66,16 @@ class MainWindow : public QMainWindow {
   void TakeSpace();
   void ShowUndo(const State &state);
   void ShowAutoapply(const State &state);
-  void ShowClubs(const QList<ClubState> &clubs);
   void ShowResend(const State &state);
   void ShowNotKnown(bool notKnown);
-  void AskForName();
-  void Save(const QString &name);
   void TellVisibility();
 
   QWidget *content_ = nullptr;
   QSize taken_;
-  QMenu *clubMenu_ = nullptr;
+  ClubMenu *clubs_ = nullptr;
   QAction *undo_ = nullptr;
   QAction *resend_ = nullptr;
   QAction *autoapply_ = nullptr;
-  QList<ClubState> clubs_;
   Notices *notices_ = nullptr;
   RoutingPage *routing_ = nullptr;
   QList<RowsPage *> otherPages_;

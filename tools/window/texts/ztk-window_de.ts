@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Clubs</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>Als Club &amp;speichern …</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Als Club speichern</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Name des Clubs; alle gespeicherten Einstellungen werden darunter abgelegt:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Es gibt schon einen Club „%1“. Soll er ersetzt werden?</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>Erneut &amp;prüfen</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>&amp;Clubs</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>Sendet das Gespeicherte an die Mischpulte; ändert nichts.</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>&amp;Rückgängig: %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>Als Club &amp;speichern …</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>Als Club speichern</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>Name des Clubs; alle gespeicherten Einstellungen werden darunter abgelegt:</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>Es gibt schon einen Club „%1“. Soll er ersetzt werden?</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

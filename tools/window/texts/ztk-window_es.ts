@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Clubes</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>&amp;Guardar como club…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Guardar como club</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Nombre del club; todos los ajustes guardados se almacenan con él:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Ya existe un club «%1». ¿Quiere reemplazarlo?</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>&amp;Comprobar de nuevo</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>&amp;Clubes</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>Envía a las mesas lo guardado; no cambia nada.</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>&amp;Deshacer: %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>&amp;Guardar como club…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>Guardar como club</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>Nombre del club; todos los ajustes guardados se almacenan con él:</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>Ya existe un club «%1». ¿Quiere reemplazarlo?</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Clubs</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>&amp;Enregistrer comme club…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Enregistrer comme club</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Nom du club ; tous les réglages mémorisés sont enregistrés sous ce nom :</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Il existe déjà un club « %1 ». Le remplacer ?</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>&amp;Vérifier à nouveau</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>&amp;Clubs</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>Envoie aux tables ce qui est enregistré ; ne change rien.</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>&amp;Annuler : %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>&amp;Enregistrer comme club…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>Enregistrer comme club</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>Nom du club ; tous les réglages mémorisés sont enregistrés sous ce nom :</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>Il existe déjà un club « %1 ». Le remplacer ?</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Club</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>&amp;Salva come club…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Salva come club</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Nome del club; tutte le impostazioni memorizzate vengono salvate con questo nome:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Esiste già un club «%1». Sostituirlo?</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>&amp;Controlla di nuovo</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>&amp;Club</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>Invia ai mixer ciò che è memorizzato; non cambia nulla.</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>&amp;Annulla: %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>&amp;Salva come club…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>Salva come club</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>Nome del club; tutte le impostazioni memorizzate vengono salvate con questo nome:</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>Esiste già un club «%1». Sostituirlo?</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>クラブ(&amp;L)</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>クラブとして保存(&amp;S)…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>クラブとして保存</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>クラブの名前（保存されているすべての設定をこの名前で保存します）:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>クラブ「%1」はすでにあります。置き換えますか？</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>再確認(&amp;C)</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>クラブ(&amp;L)</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>保存されている内容をミキサーに送信します。何も変更しません。</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>元に戻す(&amp;U): %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>クラブとして保存(&amp;S)…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>クラブとして保存</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>クラブの名前（保存されているすべての設定をこの名前で保存します）:</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>クラブ「%1」はすでにあります。置き換えますか？</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>클럽(&amp;L)</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>클럽으로 저장(&amp;S)…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>클럽으로 저장</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>클럽 이름(저장된 모든 설정이 이 이름으로 저장됩니다):</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>클럽 “%1”이(가) 이미 있습니다. 바꾸시겠습니까?</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>다시 확인(&amp;C)</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>클럽(&amp;L)</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>저장된 설정을 믹서로 보냅니다. 아무것도 바꾸지 않습니다.</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>실행 취소(&amp;U): %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>클럽으로 저장(&amp;S)…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>클럽으로 저장</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>클럽 이름(저장된 모든 설정이 이 이름으로 저장됩니다):</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>클럽 “%1”이(가) 이미 있습니다. 바꾸시겠습니까?</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

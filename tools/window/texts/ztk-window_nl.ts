@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Clubs</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>Als club op&amp;slaan…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Als club opslaan</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Naam van de club; alle opgeslagen instellingen worden daaronder bewaard:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Er is al een club ‘%1’. Vervangen?</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>Opnieuw &amp;controleren</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>&amp;Clubs</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>Verzendt wat is opgeslagen naar de mengpanelen; verandert niets.</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>&amp;Ongedaan maken: %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>Als club op&amp;slaan…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>Als club opslaan</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>Naam van de club; alle opgeslagen instellingen worden daaronder bewaard:</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>Er is al een club ‘%1’. Vervangen?</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Clubes</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>&amp;Guardar como clube…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Guardar como clube</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Nome do clube; todas as definições guardadas ficam com este nome:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Já existe um clube “%1”. Substituí-lo?</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>&amp;Verificar novamente</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>&amp;Clubes</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>Envia às mesas o que está guardado; não altera nada.</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>&amp;Anular: %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>&amp;Guardar como clube…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>Guardar como clube</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>Nome do clube; todas as definições guardadas ficam com este nome:</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>Já existe um clube “%1”. Substituí-lo?</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>&amp;Клубы</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>&amp;Сохранить как клуб…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>Сохранить как клуб</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>Название клуба; под ним сохраняются все настройки:</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>Клуб «%1» уже есть. Заменить его?</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>&amp;Проверить снова</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>&amp;Клубы</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>Отправляет сохранённое на микшеры; ничего не меняет.</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>&amp;Отменить: %1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>&amp;Сохранить как клуб…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>Сохранить как клуб</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>Название клуба; под ним сохраняются все настройки:</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>Клуб «%1» уже есть. Заменить его?</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

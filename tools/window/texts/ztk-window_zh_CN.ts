@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>俱乐部(&amp;L)</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>另存为俱乐部(&amp;S)…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>另存为俱乐部</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>俱乐部名称（所有已保存的设置将以此名称保存）：</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>已存在俱乐部“%1”。要替换吗？</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>重新检查(&amp;C)</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>俱乐部(&amp;L)</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>将已保存的设置发送到混音台；不更改任何内容。</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>撤销(&amp;U)：%1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>另存为俱乐部(&amp;S)…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>另存为俱乐部</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>俱乐部名称（所有已保存的设置将以此名称保存）：</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>已存在俱乐部“%1”。要替换吗？</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>

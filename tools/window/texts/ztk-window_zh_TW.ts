@@ -47,6 +47,29 @@
         </message>
     </context>
     <context>
+        <name>ClubMenu</name>
+        <message>
+            <source>&amp;Clubs</source>
+            <translation>俱樂部(&amp;L)</translation>
+        </message>
+        <message>
+            <source>&amp;Save as a club…</source>
+            <translation>另存為俱樂部(&amp;S)…</translation>
+        </message>
+        <message>
+            <source>Save as a club</source>
+            <translation>另存為俱樂部</translation>
+        </message>
+        <message>
+            <source>Name of the club; all remembered settings are saved under it:</source>
+            <translation>俱樂部名稱（所有已儲存的設定將以此名稱儲存）：</translation>
+        </message>
+        <message>
+            <source>There is already a club “%1”. Replace it?</source>
+            <translation>已有俱樂部「%1」。要取代嗎？</translation>
+        </message>
+    </context>
+    <context>
         <name>Engine</name>
         <message>
             <source>The file cannot be read: %1.</source>
@@ -220,32 +243,12 @@
             <translation>重新檢查(&amp;C)</translation>
         </message>
         <message>
-            <source>&amp;Clubs</source>
-            <translation>俱樂部(&amp;L)</translation>
-        </message>
-        <message>
             <source>Sends what is remembered to the mixers; changes nothing.</source>
             <translation>將已儲存的設定傳送到混音器；不變更任何內容。</translation>
         </message>
         <message>
             <source>&amp;Undo: %1</source>
             <translation>復原(&amp;U)：%1</translation>
-        </message>
-        <message>
-            <source>&amp;Save as a club…</source>
-            <translation>另存為俱樂部(&amp;S)…</translation>
-        </message>
-        <message>
-            <source>Save as a club</source>
-            <translation>另存為俱樂部</translation>
-        </message>
-        <message>
-            <source>Name of the club; all remembered settings are saved under it:</source>
-            <translation>俱樂部名稱（所有已儲存的設定將以此名稱儲存）：</translation>
-        </message>
-        <message>
-            <source>There is already a club “%1”. Replace it?</source>
-            <translation>已有俱樂部「%1」。要取代嗎？</translation>
         </message>
         <message>
             <source>It is not known whether every mixer has what is remembered. Send all again to be sure.</source>
