@@ -23,6 +23,18 @@
 
 namespace ztk::window {
 
+namespace {
+
+// The button whose text, without its mnemonic, is this.
+void Press(QMessageBox *question, const QString &text) {
+  for (QAbstractButton *button : question->buttons()) {
+    if (button->text().remove(QLatin1Char('&')) == text) button->click();
+  }
+  delete question;
+}
+
+}  // namespace
+
 class ClubMenuTest : public QObject {
   Q_OBJECT
 
@@ -34,6 +46,7 @@ class ClubMenuTest : public QObject {
   void DoesNotApplyAClubThatChangesNothing();
   void OffersToSendAClubThatIsNotConfirmed();
   void AsksBeforeItReplacesAClub();
+  void AsksBeforeItDeletesAClub();
   void WantsANameForAClub();
   void ReadsTheClubsAgainWhenTheyAreUsed();
 
@@ -148,8 +161,7 @@ void ClubMenuTest::AsksBeforeItReplacesAClub() {
   window_->showState(state_);
   QVERIFY(Action("Zed  Co") != nullptr);
   QCOMPARE(Action("Zed  Co")->text(), QStringLiteral("Zed && Co"));
-  const auto answer = [this](const QString &name,
-                             QMessageBox::StandardButton button) {
+  const auto answer = [this](const QString &name, const QString &button) {
     Action("Save as a club")->trigger();
     auto *dialog = window_->findChild<QInputDialog *>();
     dialog->setTextValue(name);
@@ -157,20 +169,38 @@ void ClubMenuTest::AsksBeforeItReplacesAClub() {
     delete dialog;
     auto *question = window_->findChild<QMessageBox *>();
     if (question == nullptr) return false;
-    question->button(button)->click();
-    delete question;
+    Press(question, button);
     return true;
   };
-  QVERIFY(answer("Zed & Co", QMessageBox::Cancel));
+  QVERIFY(answer("Zed & Co", "Cancel"));
   QCOMPARE(save.size(), 0);
-  QVERIFY(answer(" Zed & Co ", QMessageBox::Yes));
+  QVERIFY(answer(" Zed & Co ", "Replace"));
   QCOMPARE(save.size(), 1);
   // A file name holds no slash.
-  QVERIFY(answer("A/B", QMessageBox::Cancel));
+  QVERIFY(answer("A/B", "Cancel"));
   QCOMPARE(save.size(), 1);
-  QVERIFY(!answer("Friday", QMessageBox::Cancel));
+  QVERIFY(!answer("Friday", "Cancel"));
   QCOMPARE(save.size(), 2);
   QCOMPARE(save[1][0].toString(), QStringLiteral("Friday"));
+}
+
+void ClubMenuTest::AsksBeforeItDeletesAClub() {
+  QSignalSpy deletion(window_.get(), &MainWindow::deleteWanted);
+  QVERIFY(Action("Delete a club") == nullptr);
+  state_.clubs = {{.name = "A & B", .path = "/clubs/A & B.json"}};
+  window_->showState(state_);
+  const auto *menu = Action("Delete a club")->menu();
+  for (const QString button : {"Cancel", "Delete"}) {
+    menu->actions()[0]->trigger();
+    auto *question = window_->findChild<QMessageBox *>();
+    QCOMPARE(question->text(),
+             QStringLiteral("Delete the club “A & B”? This cannot be undone."));
+    QCOMPARE(question->defaultButton(), question->button(QMessageBox::Cancel));
+    QCOMPARE(deletion.size(), 0);
+    Press(question, button);
+  }
+  QCOMPARE(deletion.size(), 1);
+  QCOMPARE(deletion[0][0].toString(), QStringLiteral("/clubs/A & B.json"));
 }
 
 void ClubMenuTest::WantsANameForAClub() {

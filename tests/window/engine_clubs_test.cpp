@@ -29,6 +29,8 @@ class EngineClubsTest : public EngineWorld {
   void SaysWhyAFileIsNoClub_data();
   void SaysWhyAFileIsNoClub();
   void KeepsTheFileInItsFolder();
+  void DeletesAClub();
+  void SaysWhyAClubCannotBeDeleted();
   void AsksForAName();
 
  private:
@@ -175,6 +177,32 @@ void EngineClubsTest::KeepsTheFileInItsFolder() {
   engine().saveClub(QStringLiteral("../a/b"));
   EVENTUALLY(state().clubs.size() == 1);
   QCOMPARE(state().clubs[0].path, PathOf(QStringLiteral("-..-a-b.json")));
+}
+
+void EngineClubsTest::DeletesAClub() {
+  StartEngine();
+  engine().saveClub(QStringLiteral("Friday"));
+  EVENTUALLY(state().clubs.size() == 1);
+  const QString path = state().clubs[0].path;
+  EVENTUALLY(reports().size() == 1);
+  engine().deleteClub(path);
+  EVENTUALLY(state().clubs.isEmpty());
+  QVERIFY(!QFile::exists(path));
+  EVENTUALLY(reports().size() == 2);
+  QCOMPARE(reports()[1], QStringLiteral("Deleted “Friday”."));
+}
+
+void EngineClubsTest::SaysWhyAClubCannotBeDeleted() {
+  StartEngine();
+  // A folder that is not empty.
+  const QString path = PathOf(QStringLiteral("x.json"));
+  QVERIFY(QDir().mkpath(path + QStringLiteral("/y")));
+  engine().deleteClub(path);
+  EVENTUALLY(!reports().isEmpty());
+  QVERIFY2(reports().front().startsWith(
+               QStringLiteral("The club “x” cannot be deleted: ")),
+           qPrintable(reports().front()));
+  QVERIFY(QFile::exists(path));
 }
 
 void EngineClubsTest::AsksForAName() {

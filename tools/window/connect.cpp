@@ -19,6 +19,8 @@ void Connect(MainWindow *window, Engine *engine) {
   QObject::connect(window, &MainWindow::applyWanted, engine,
                    &Engine::applyClub);
   QObject::connect(window, &MainWindow::saveWanted, engine, &Engine::saveClub);
+  QObject::connect(window, &MainWindow::deleteWanted, engine,
+                   &Engine::deleteClub);
   QObject::connect(window, &MainWindow::clubsWanted, engine,
                    &Engine::readClubs);
   QObject::connect(window, &MainWindow::visibilityChanged, engine,

@@ -158,6 +158,7 @@ void MainWindow::MakeMenus() {
   connect(clubs_, &QMenu::triggered, this, [this] { showMessage({}); });
   connect(clubs_, &ClubMenu::previewWanted, this, &MainWindow::previewWanted);
   connect(clubs_, &ClubMenu::saveWanted, this, &MainWindow::saveWanted);
+  connect(clubs_, &ClubMenu::deleteWanted, this, &MainWindow::deleteWanted);
   connect(clubs_, &ClubMenu::clubsWanted, this, &MainWindow::clubsWanted);
 }
 

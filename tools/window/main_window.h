@@ -46,6 +46,7 @@ class MainWindow : public QMainWindow {
   void previewWanted(const QString &path);
   void applyWanted(const QString &path);
   void saveWanted(const QString &name);
+  void deleteWanted(const QString &path);
   // The list of clubs is about to be used.
   void clubsWanted();
   // Whether anybody can see the window.

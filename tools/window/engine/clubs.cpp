@@ -156,4 +156,13 @@ QString SaveClub(const QString &name) {
       .arg(QString::fromStdString(settings.leftOut.front()));
 }
 
+QString DeleteClub(const QString &path) {
+  QFile file(path);
+  if (file.remove() || !file.exists()) {
+    return Clubs::tr("Deleted “%1”.").arg(ClubAt(path).name);
+  }
+  return Clubs::tr("The club “%1” cannot be deleted: %2.")
+      .arg(ClubAt(path).name, file.errorString());
+}
+
 }  // namespace ztk::window

@@ -37,6 +37,10 @@ bool NeedsSending(const ClubFile &file, const State &state);
 // file; empty if the file contains everything.
 QString SaveClub(const QString &name);
 
+// Deletes the file of a club. Returns a sentence for the user: that the club is
+// deleted, also if another program has done so before, or why it is not.
+QString DeleteClub(const QString &path);
+
 }  // namespace ztk::window
 
 #endif  // ZTK_TOOLS_WINDOW_ENGINE_CLUBS_H_

@@ -309,6 +309,17 @@ void Engine::saveClub(const QString &name) {
       });
 }
 
+void Engine::deleteClub(const QString &path) {
+  private_->worker.Post(Worker::Kind::Change, "delete " + path.toStdString(),
+                        [this, path]() -> Worker::Result {
+                          const QString report = DeleteClub(path);
+                          return [this, report] {
+                            private_->ReadClubs();
+                            emit reported(report);
+                          };
+                        });
+}
+
 void Engine::readClubs() { private_->ReadClubs(); }
 
 }  // namespace ztk::window

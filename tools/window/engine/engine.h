@@ -48,6 +48,7 @@ class Engine : public QObject {
   void previewClub(const QString &path);
   void applyClub(const QString &path);
   void saveClub(const QString &name);
+  void deleteClub(const QString &path);
   // Lists the clubs again; other programs may write them too.
   void readClubs();
 

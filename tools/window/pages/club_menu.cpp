@@ -11,6 +11,16 @@
 
 namespace ztk::window {
 
+namespace {
+
+// "&" underlines the next letter in a menu; "&&" is shown as "&".
+QString Entry(const ClubState &club) {
+  QString text = club.name;
+  return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+}  // namespace
+
 ClubMenu::ClubMenu(QWidget *parent) : QMenu(tr("&Clubs"), parent) {
   connect(this, &QMenu::aboutToShow, this, &ClubMenu::clubsWanted);
   showClubs({});
@@ -21,15 +31,22 @@ void ClubMenu::showClubs(const QList<ClubState> &clubs) {
   clubs_ = clubs;
   clear();
   for (const ClubState &club : clubs) {
-    QString text = club.name;
-    text.replace(QLatin1Char('&'), QLatin1String("&&"));
-    connect(addAction(text), &QAction::triggered, this,
+    connect(addAction(Entry(club)), &QAction::triggered, this,
             [this, path = club.path] { emit previewWanted(path); });
   }
   if (!clubs.isEmpty()) addSeparator();
   QAction *save = addAction(tr("&Save as a club…"));
   save->setShortcut(QKeySequence::Save);
   connect(save, &QAction::triggered, this, &ClubMenu::AskForName);
+  if (!clubs.isEmpty()) AddDeletion();
+}
+
+void ClubMenu::AddDeletion() {
+  QMenu *menu = addMenu(tr("&Delete a club"));
+  for (const ClubState &club : clubs_) {
+    connect(menu->addAction(Entry(club)), &QAction::triggered, this,
+            [this, club] { AskBeforeDeleting(club); });
+  }
 }
 
 void ClubMenu::AskForName() {
@@ -61,16 +78,32 @@ void ClubMenu::Save(const QString &name) {
     emit saveWanted(name);
     return;
   }
-  auto *question = new QMessageBox(
-      QMessageBox::Question, tr("Save as a club"),
-      tr("There is already a club “%1”. Replace it?").arg(listed),
-      QMessageBox::Yes | QMessageBox::Cancel, parentWidget());
-  question->setAttribute(Qt::WA_DeleteOnClose);
-  question->setTextFormat(Qt::PlainText);
-  question->setDefaultButton(QMessageBox::Cancel);
-  connect(question, &QMessageBox::accepted, this,
+  connect(Ask(tr("Save as a club"),
+              tr("There is already a club “%1”. Replace it?").arg(listed),
+              tr("&Replace")),
+          &QMessageBox::accepted, this,
           [this, name] { emit saveWanted(name); });
-  question->open();
+}
+
+void ClubMenu::AskBeforeDeleting(const ClubState &club) {
+  connect(Ask(tr("Delete a club"),
+              tr("Delete the club “%1”? This cannot be undone.").arg(club.name),
+              tr("&Delete")),
+          &QMessageBox::accepted, this,
+          [this, path = club.path] { emit deleteWanted(path); });
+}
+
+// Opens a question that Cancel answers unless the user chooses `answer`.
+QMessageBox *ClubMenu::Ask(const QString &title, const QString &question,
+                           const QString &answer) {
+  auto *box = new QMessageBox(QMessageBox::Question, title, question,
+                              QMessageBox::Cancel, parentWidget());
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setTextFormat(Qt::PlainText);
+  box->addButton(answer, QMessageBox::AcceptRole);
+  box->setDefaultButton(QMessageBox::Cancel);
+  box->open();
+  return box;
 }
 
 }  // namespace ztk::window

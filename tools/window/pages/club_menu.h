@@ -6,6 +6,8 @@
 
 #include "window/engine/state.h"
 
+class QMessageBox;
+
 namespace ztk::window {
 
 // The menu of the saved settings, with the questions that it asks. It only
@@ -21,12 +23,17 @@ class ClubMenu : public QMenu {
  signals:
   void previewWanted(const QString &path);
   void saveWanted(const QString &name);
+  void deleteWanted(const QString &path);
   // The list of clubs is about to be used.
   void clubsWanted();
 
  private:
   void AskForName();
   void Save(const QString &name);
+  void AddDeletion();
+  void AskBeforeDeleting(const ClubState &club);
+  QMessageBox *Ask(const QString &title, const QString &question,
+                   const QString &answer);
 
   QList<ClubState> clubs_;
 };

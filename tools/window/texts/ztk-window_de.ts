@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>Es gibt schon einen Club „%1“. Soll er ersetzt werden?</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>Club &amp;löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>Club löschen</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>Soll der Club „%1“ gelöscht werden? Das kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>de</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>„%1“ wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>Der Club „%1“ kann nicht gelöscht werden: %2.</translation>
     </message>
 </context>
 <context>

@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>Ya existe un club «%1». ¿Quiere reemplazarlo?</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>&amp;Borrar un club</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>Borrar un club</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>¿Quiere borrar el club «%1»? No se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Borrar</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>es</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>Se ha borrado «%1».</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>No se puede borrar el club «%1»: %2.</translation>
     </message>
 </context>
 <context>

@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>Il existe déjà un club « %1 ». Le remplacer ?</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>&amp;Supprimer un club</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>Supprimer un club</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>Supprimer le club « %1 » ? Cette action est irréversible.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>fr</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>« %1 » a été supprimé.</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>Le club « %1 » ne peut pas être supprimé : %2.</translation>
     </message>
 </context>
 <context>

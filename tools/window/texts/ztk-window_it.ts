@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>Esiste già un club «%1». Sostituirlo?</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>&amp;Elimina un club</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Sostituisci</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>Elimina un club</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>Eliminare il club «%1»? Non si può annullare.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>it</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>«%1» è stato eliminato.</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>Il club «%1» non può essere eliminato: %2.</translation>
     </message>
 </context>
 <context>

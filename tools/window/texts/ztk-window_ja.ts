@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>クラブ「%1」はすでにあります。置き換えますか？</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>クラブを削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>置き換え(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>クラブを削除</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>クラブ「%1」を削除しますか？元に戻すことはできません。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>ja</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>「%1」を削除しました。</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>クラブ「%1」を削除できません: %2。</translation>
     </message>
 </context>
 <context>

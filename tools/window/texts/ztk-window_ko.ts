@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>클럽 “%1”이(가) 이미 있습니다. 바꾸시겠습니까?</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>클럽 삭제(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>바꾸기(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>클럽 삭제</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>클럽 “%1”을(를) 삭제하시겠습니까? 되돌릴 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>삭제(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>ko</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>“%1”을(를) 삭제했습니다.</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>클럽 “%1”을(를) 삭제할 수 없습니다: %2.</translation>
     </message>
 </context>
 <context>

@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>Er is al een club ‘%1’. Vervangen?</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>Een club &amp;verwijderen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>Ver&amp;vangen</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>Een club verwijderen</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>De club ‘%1’ verwijderen? Dit kan niet ongedaan worden gemaakt.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Verwijderen</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>nl</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>‘%1’ is verwijderd.</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>De club ‘%1’ kan niet worden verwijderd: %2.</translation>
     </message>
 </context>
 <context>

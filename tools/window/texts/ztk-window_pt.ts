@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>Já existe um clube “%1”. Substituí-lo?</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>&amp;Eliminar um clube</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Substituir</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>Eliminar um clube</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>Eliminar o clube “%1”? Não é possível anular.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>pt</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>“%1” foi eliminado.</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>O clube “%1” não pode ser eliminado: %2.</translation>
     </message>
 </context>
 <context>

@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>Клуб «%1» уже есть. Заменить его?</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>&amp;Удалить клуб</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Заменить</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>Удалить клуб</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>Удалить клуб «%1»? Это нельзя отменить.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Удалить</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>ru</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>«%1» удалён.</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>Не удаётся удалить клуб «%1»: %2.</translation>
     </message>
 </context>
 <context>

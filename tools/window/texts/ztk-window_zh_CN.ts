@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>已存在俱乐部“%1”。要替换吗？</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>删除俱乐部(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>删除俱乐部</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>要删除俱乐部“%1”吗？此操作无法撤销。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>zh_CN</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>已删除“%1”。</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>无法删除俱乐部“%1”：%2。</translation>
     </message>
 </context>
 <context>

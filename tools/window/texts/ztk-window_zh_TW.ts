@@ -68,6 +68,26 @@
         <source>There is already a club “%1”. Replace it?</source>
         <translation>已有俱樂部「%1」。要取代嗎？</translation>
     </message>
+    <message>
+        <source>&amp;Delete a club</source>
+        <translation>刪除俱樂部(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>取代(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Delete a club</source>
+        <translation>刪除俱樂部</translation>
+    </message>
+    <message>
+        <source>Delete the club “%1”? This cannot be undone.</source>
+        <translation>要刪除俱樂部「%1」嗎？此操作無法復原。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>刪除(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>
@@ -199,6 +219,14 @@
         <source>en</source>
         <extracomment>The code of the language of these translations.</extracomment>
         <translation>zh_TW</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”.</source>
+        <translation>已刪除「%1」。</translation>
+    </message>
+    <message>
+        <source>The club “%1” cannot be deleted: %2.</source>
+        <translation>無法刪除俱樂部「%1」：%2。</translation>
     </message>
 </context>
 <context>
