@@ -51,6 +51,7 @@ class MainWindowTest : public QObject {
   void SaysThatOtherProgramsAreNotHeard();
   void OffersUndoWithWhatItTakesBack();
   void SendsAllAgain();
+  void SendsNothingAgainWhereThatHasNoEffect();
   void SwitchesAutoapply();
   void EachActionHasItsOwnKey();
   void AClickBesideTheBoxMakesTheRowActive_data();
@@ -308,9 +309,19 @@ void MainWindowTest::SendsAllAgain() {
   Action("Send all again")->trigger();
   QCOMPARE(resend.size(), 1);
   QCOMPARE(TextOf("message"), QString());
-  for (RowState &row : state_.rows) row.stored.reset();
-  window_->showState(state_);
-  QVERIFY(!Action("Send all again")->isEnabled());
+}
+
+void MainWindowTest::SendsNothingAgainWhereThatHasNoEffect() {
+  State withoutMixer = state_;
+  withoutMixer.mixers.clear();
+  State nothingRemembered = state_;
+  for (RowState &row : nothingRemembered.rows) row.stored.reset();
+  for (const State &state : {withoutMixer, nothingRemembered}) {
+    window_->showState(state_);
+    QVERIFY(Action("Send all again")->isEnabled());
+    window_->showState(state);
+    QVERIFY(!Action("Send all again")->isEnabled());
+  }
 }
 
 void MainWindowTest::SwitchesAutoapply() {

@@ -212,13 +212,14 @@ void MainWindow::ShowUndo(const State &state) {
   undoButton_->setText(undo_->text());
 }
 
-// Where nothing is remembered, there is nothing to send.
+// Needs something that is remembered, and a mixer to send it to.
 void MainWindow::ShowResend(const State &state) {
-  const bool any =
+  const bool possible =
+      !state.mixers.isEmpty() &&
       std::any_of(state.rows.begin(), state.rows.end(),
                   [](const RowState &row) { return row.stored.has_value(); });
-  resend_->setEnabled(any);
-  resendButton_->setEnabled(any);
+  resend_->setEnabled(possible);
+  resendButton_->setEnabled(possible);
 }
 
 void MainWindow::ShowAutoapply(const State &state) {
