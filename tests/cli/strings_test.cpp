@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/strings.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace ztk::test {
 namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 TEST(Quoted, KeepsToOneShortLine) {
   EXPECT_EQ(cli::Quoted("a\nb\x1B[1m\x7F"), "\"a b [1m \"");
@@ -49,6 +53,14 @@ TEST(ParseDecimalOrHex, TakesBothAndNothingElse) {
 TEST(ParseHex, TakesDigitsWithoutAPrefix) {
   EXPECT_EQ(cli::ParseHex("800a"), 0x800AU);
   EXPECT_EQ(cli::ParseHex("0x1"), std::nullopt);
+}
+
+TEST(LinesOf, NeedsNoEndOfTheLastLine) {
+  EXPECT_THAT(cli::LinesOf(""), IsEmpty());
+  EXPECT_THAT(cli::LinesOf("a"), ElementsAre("a"));
+  EXPECT_THAT(cli::LinesOf("a\n"), ElementsAre("a"));
+  EXPECT_THAT(cli::LinesOf("\na\n\nb"), ElementsAre("", "a", "", "b"));
+  EXPECT_THAT(cli::LinesOf("\n\n"), ElementsAre("", ""));
 }
 
 }  // namespace

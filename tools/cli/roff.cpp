@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "cli/roff.h"
 
-#include <sstream>
 #include <vector>
+
+#include "cli/strings.h"
 
 namespace ztk::cli {
 
 namespace {
-
-std::vector<std::string> LinesOf(const std::string &text) {
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line);
-  return lines;
-}
 
 // Text as the quoted argument of a request.
 std::string Argument(const std::string &text) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/strings.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 
@@ -128,6 +129,16 @@ std::string Listed(const std::vector<std::string> &words) {
     list += word;
   }
   return list;
+}
+
+std::vector<std::string> LinesOf(std::string_view text) {
+  std::vector<std::string> lines;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    lines.emplace_back(text.substr(0, end));
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return lines;
 }
 
 std::string Padded(const std::string &text, std::size_t width) {

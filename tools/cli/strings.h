@@ -42,6 +42,9 @@ std::string Quoted(const std::string &word);
 // "a, b, c"
 std::string Listed(const std::vector<std::string> &words);
 
+// The lines of a text, without their ends. The last line need not have one.
+std::vector<std::string> LinesOf(std::string_view text);
+
 // Appends spaces up to the width, to align columns.
 std::string Padded(const std::string &text, std::size_t width);
 

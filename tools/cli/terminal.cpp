@@ -4,7 +4,6 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include <sstream>
 #include <string_view>
 #include <vector>
 
@@ -160,8 +159,7 @@ std::string Flowed(const std::string &text, std::size_t columns) {
       columns == 0 || columns > kWidest ? kWidest : columns;
   std::vector<std::string> lines;
   bool goesOn = false;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) {
+  for (const std::string &line : LinesOf(text)) {
     const bool isSentence =
         !line.empty() && line.front() != ' ' && line.front() != kWhole;
     if (isSentence && goesOn) {

@@ -3,9 +3,8 @@
 // Restores the settings in a file that `ztk export` has written: all of them,
 // or none if the file has an error.
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
-#include <fstream>
-#include <iostream>
 
 #include "cli/strings.h"
 #include "ztk/commands/other_commands.h"
@@ -14,6 +13,7 @@
 #include "ztk/report/change_report.h"
 #include "ztk/report/dry_run_report.h"
 #include "ztk/report/setting_report.h"
+#include "ztk/system/file_text.h"
 #include "ztk/system/places.h"
 
 namespace ztk::program {
@@ -22,18 +22,13 @@ namespace {
 
 std::string Contents(const std::string &file) {
   std::string text;
-  const auto take = [&text](std::istream &stream) {
-    char byte = 0;
-    while (text.size() <= kLargestImport && stream.get(byte)) text += byte;
-  };
   if (file == "-") {
-    take(std::cin);
+    text = model::ReadText(stdin, kLargestImport + 1);
   } else {
-    errno = 0;
-    std::ifstream stream(file, std::ios::binary);
+    const model::File opened = model::OpenFile(file, "re");
+    if (opened) text = model::ReadText(opened.get(), kLargestImport + 1);
     // A folder can be opened, but not read.
-    if (stream) take(stream);
-    if (!stream.is_open() || stream.bad() || (text.empty() && errno != 0)) {
+    if (!opened || std::ferror(opened.get()) != 0) {
       throw Failure(ExitCode::Usage, "cannot read " + cli::Quoted(file) + ": " +
                                          std::strerror(errno) +
                                          "; accepted: a file that ztk export "

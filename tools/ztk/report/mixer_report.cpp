@@ -11,7 +11,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <map>
 #include <vector>
 
@@ -21,6 +20,7 @@
 #include "cli/strings.h"
 #include "usb/USB.h"
 #include "usb/mixers.h"
+#include "ztk/system/file_text.h"
 #include "ztk/system/library_text.h"
 #include "ztk/system/places.h"
 #include "ztk/system/usb_devices.h"
@@ -314,11 +314,13 @@ Json MakeMixerReport(const Json &findings) {
 }
 
 std::string WriteMixerReport(const Json &report, const std::string &file) {
-  errno = 0;
-  std::ofstream stream(file, std::ios::trunc);
-  stream << report.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
-  stream.close();
-  if (stream) return "";
+  const std::string text =
+      report.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  model::File opened = model::OpenFile(file, "we");
+  const bool written = opened && std::fwrite(text.data(), 1, text.size(),
+                                             opened.get()) == text.size();
+  // Closing writes what is still in the buffer.
+  if (written && std::fclose(opened.release()) == 0) return "";
   return "the report cannot be written to " + cli::Quoted(file) + ": " +
          std::strerror(errno);
 }

@@ -9,9 +9,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <optional>
-#include <sstream>
 
 #include "ZTKFunc.h"
 #include "build_config.h"
@@ -19,6 +17,7 @@
 #include "udev_rule.h"
 #include "usb/USB.h"
 #include "ztk/doctor/finding.h"
+#include "ztk/system/file_text.h"
 #include "ztk/system/linux/udev_rules.h"
 #include "ztk/system/places.h"
 
@@ -36,20 +35,11 @@ std::string SysFolder(const std::string &place) {
   return "/sys/bus/usb/devices/" + place;
 }
 
-// Empty where there is no such file.
-std::string Contents(const std::string &path) {
-  const std::ifstream file(path);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
 bool Exists(const std::string &path) { return access(path.c_str(), F_OK) == 0; }
 
 // The value after "key=" at the beginning of a line.
 std::string ValueIn(const std::string &text, const std::string &key) {
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) {
+  for (const std::string &line : cli::LinesOf(text)) {
     if (line.starts_with(key)) return line.substr(key.size());
   }
   return "";
@@ -70,7 +60,7 @@ struct Container {
 };
 
 std::optional<Container> AroundUs() {
-  if (const std::string info = Contents("/.flatpak-info"); !info.empty()) {
+  if (const std::string info = FileText("/.flatpak-info"); !info.empty()) {
     return Container{.name = "a Flatpak sandbox",
                      .command = "flatpak override --user --device=all " +
                                 ShellQuoted(ValueIn(info, "name="))};
@@ -81,7 +71,7 @@ std::optional<Container> AroundUs() {
         .command = "sudo snap connect " + ShellQuoted(snap) + ":raw-usb"};
   }
   // The kind of the container, as its manager has told the system inside.
-  const std::string told = Contents("/run/systemd/container");
+  const std::string told = FileText("/run/systemd/container");
   const std::string kind = told.substr(0, told.find('\n'));
   if (kind == "lxc") {
     return Container{.name = "an LXC container",
@@ -105,7 +95,7 @@ std::optional<Container> AroundUs() {
 
 // The system service that started this program; empty when there is none.
 std::string Service() {
-  const std::string group = Contents("/proc/self/cgroup");
+  const std::string group = FileText("/proc/self/cgroup");
   constexpr char kServices[] = "/system.slice/";
   const std::size_t begin = group.find(kServices);
   if (begin == std::string::npos) return "";
@@ -142,15 +132,15 @@ Rule FindRule() {
   const std::string path = FindUdevRules(kRuleName);
   if (path.empty()) return {};
   return {.path = path,
-          .fits = Contents(path).find(kMixerMatch) != std::string::npos};
+          .fits = FileText(path).find(kMixerMatch) != std::string::npos};
 }
 
 // Whether udev has applied the rule to the mixer that is plugged in now.
 bool IsTagged(const std::string &place) {
-  std::string number = Contents(SysFolder(place) + "/dev");
+  std::string number = FileText(SysFolder(place) + "/dev");
   number = number.substr(0, number.find('\n'));
-  std::istringstream lines(Contents("/run/udev/data/c" + number));
-  for (std::string line; std::getline(lines, line);) {
+  for (const std::string &line :
+       cli::LinesOf(FileText("/run/udev/data/c" + number))) {
     if (line == std::string("G:") + kSeatTag) return true;
     if (line == std::string("Q:") + kSeatTag) return true;
   }

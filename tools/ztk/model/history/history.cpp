@@ -3,8 +3,8 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
+#include "cli/strings.h"
 #include "ztk/model/remembered.h"
 
 namespace ztk::model {
@@ -81,8 +81,7 @@ std::string LineOf(const Step &step) {
 
 ParsedHistory ParseHistory(const std::string &text) {
   ParsedHistory parsed;
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) {
+  for (const std::string &line : cli::LinesOf(text)) {
     if (auto step = ParseStep(line)) {
       parsed.steps.push_back(std::move(*step));
     } else {

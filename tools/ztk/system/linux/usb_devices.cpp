@@ -4,8 +4,9 @@
 #include <dirent.h>
 
 #include <algorithm>
-#include <fstream>
 #include <memory>
+
+#include "ztk/system/file_text.h"
 
 namespace ztk::model {
 
@@ -14,20 +15,19 @@ namespace {
 constexpr char kFolder[] = "/sys/bus/usb/devices/";
 // The class of devices whose interfaces have classes of their own.
 constexpr char kClassOfInterfaces[] = "00";
+constexpr char kSpace[] = " \t\n\v\f\r";
 
 // The first word of a file; empty where there is none.
 std::string WordIn(const std::string &path) {
-  std::ifstream file(path);
-  std::string word;
-  file >> word;
-  return word;
+  const std::string text = FileText(path);
+  const std::size_t begin = text.find_first_not_of(kSpace);
+  if (begin == std::string::npos) return "";
+  return text.substr(begin, text.find_first_of(kSpace, begin) - begin);
 }
 
 std::string LineIn(const std::string &path) {
-  std::ifstream file(path);
-  std::string line;
-  std::getline(file, line);
-  return line;
+  const std::string text = FileText(path);
+  return text.substr(0, text.find('\n'));
 }
 
 std::vector<std::string> Entries() {
