@@ -77,6 +77,38 @@ TEST(Parse, TakesEveryFormOfAnOption) {
               ElementsAre("a", "b"));
 }
 
+TEST(Parse, TakesTheWordAfterAnOptionAsItsValue) {
+  EXPECT_EQ(Parsed({"show", "-m", "--json"}).arguments.One("--mixer"),
+            "--json");
+  EXPECT_EQ(Parsed({"show", "--mixer=", "2"}).arguments.One("--mixer"), "2");
+  EXPECT_EQ(Parsed({"show", "--mixer=a=b"}).arguments.One("--mixer"), "a=b");
+  EXPECT_EQ(ErrorOf({"show", "-m"}), ErrorOf({"show", "--mixer="}));
+}
+
+TEST(Parse, TakesANegativeNumberAsAWord) {
+  const Invocation call = Parsed({"input", "set", "1", "-5", "dB"});
+  EXPECT_EQ(call.arguments.One("CHOICE"), "-5 dB");
+  EXPECT_THAT(ErrorOf({"show", "-5"}), StartsWith("no option \"-5\""));
+}
+
+TEST(Parse, TakesSeveralShortOptionsInOneWord) {
+  EXPECT_EQ(Parsed({"show", "-hm2"}).kind, Invocation::Kind::Help);
+  EXPECT_THAT(ErrorOf({"show", "-m2", "-hm3"}),
+              StartsWith("--mixer needs exactly one value"));
+  EXPECT_EQ(Parsed({"show", "-Vh"}).kind, Invocation::Kind::Help);
+  EXPECT_THAT(ErrorOf({"show", "-xh"}), StartsWith("no option \"-xh\""));
+}
+
+TEST(Parse, LetsTheLastFormOfAFlagDecide) {
+  for (const Words &words :
+       {Words{"show", "--json=true"}, Words{"show", "--json="},
+        Words{"show", "--json=false", "--json"}}) {
+    EXPECT_TRUE(Parsed(words).arguments.Has("--json"));
+  }
+  EXPECT_FALSE(
+      Parsed({"show", "--json", "--json=false"}).arguments.Has("--json"));
+}
+
 TEST(Parse, TakesWordsBehindTheMarkAsTheyAre) {
   EXPECT_EQ(
       Parsed({"input", "set", "1", "--", "-5", "dB"}).arguments.One("CHOICE"),
