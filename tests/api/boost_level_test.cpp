@@ -61,7 +61,7 @@ TEST_F(SetBoostLevelIndex, SendsStoresAndPostsByDefaultDelivery) {
                   "write /Users/dj/Library/Preferences/"
                   "com.tarvix.VRM-D6autosetup.plist {MaxLevel=0}",
                   "post VRM-D6 BoostLevel Change {ProductID=10, Index=0} "
-                  "by default"));
+                  "with default delivery"));
 }
 
 TEST_F(SetBoostLevelIndex, SkipsMixersThatCannotBeOpened) {
@@ -69,7 +69,7 @@ TEST_F(SetBoostLevelIndex, SkipsMixersThatCannotBeOpened) {
       {.request = "40 03 0200 8003 0000",
        .then = {Written(kD6File, "MaxLevel=1"),
                 "post VRM-D6 BoostLevel Change {ProductID=10, Index=1} "
-                "by default"}},
+                "with default delivery"}},
       [] { return ZTK_SetBoostLevelIndex(10, 1); });
 }
 
@@ -101,7 +101,7 @@ TEST_F(SetBoostLevelIndex, PostsEvenIfRequestsAndTheFileFail) {
                    Visit(1, "40 03 0000 8003 0000 -> stall"),
                    {Written(kD6File, "MaxLevel=3"),
                     "post VRM-D6 BoostLevel Change {ProductID=10, Index=3} "
-                    "by default"}})));
+                    "with default delivery"}})));
 }
 
 TEST_F(SetBoostLevelIndex, ChangesOnlyItsKeyInItsFile) {

@@ -46,7 +46,7 @@ TEST_F(SetMidiChannelIndex, SendsStoresAndPostsByDefaultDelivery) {
                   "write /Users/dj/Library/Preferences/"
                   "com.tarvix.VRM-K2autosetup.plist {MidiChannel=9}",
                   "post VRM-K2 MidiChannel Change {ProductID=1, Index=9} "
-                  "by default"));
+                  "with default delivery"));
 }
 
 TEST_F(SetMidiChannelIndex, SkipsMixersThatCannotBeOpened) {
@@ -54,7 +54,7 @@ TEST_F(SetMidiChannelIndex, SkipsMixersThatCannotBeOpened) {
       {.request = "40 03 0a00 8004 0000",
        .then = {Written(kK2File, "MidiChannel=10"),
                 "post VRM-K2 MidiChannel Change {ProductID=1, Index=10} "
-                "by default"}},
+                "with default delivery"}},
       [] { return ZTK_SetMidiChannelIndex(1, 10); });
 }
 
@@ -89,7 +89,7 @@ TEST_F(SetMidiChannelIndex, PostsEvenIfRequestsAndTheFileFail) {
                    Visit(1, "40 03 0000 8004 0000 -> stall"),
                    {Written(kK2File, "MidiChannel=0"),
                     "post VRM-K2 MidiChannel Change {ProductID=1, Index=0} "
-                    "by default"}})));
+                    "with default delivery"}})));
 }
 
 TEST_F(SetMidiChannelIndex, ChangesOnlyItsFile) {

@@ -10,8 +10,8 @@
 
 namespace ztk::platform::notification_center {
 
-// Records are not freed before the process ends. So a record that the core does
-// not release is counted in `held`, but leak checkers do not report it.
+// These objects are not freed before the process ends, so leak checkers do not
+// report one that the core does not release. The counter in `held` finds it.
 struct UserInfo {
   int references;
   std::vector<std::pair<std::string, std::int32_t>> entries;
@@ -77,8 +77,9 @@ PostResult Post(ZTKTextRef name, const UserInfo *userInfo, Delivery delivery) {
   if (userInfo->references <= 0) {
     CurrentWorld().misuse.push_back("posted after release: info");
   }
-  const char *when =
-      delivery == Delivery::Immediately ? " immediately" : " by default";
+  const char *when = delivery == Delivery::Immediately
+                         ? " immediately"
+                         : " with default delivery";
   LogCall(std::string("post ") + Plain(name));
   LogStep(std::string("post ") + Plain(name) + " " + Describe(userInfo) + when);
   return CurrentWorld().postResult;
@@ -100,7 +101,8 @@ void Deliver(const std::string &name,
              const std::vector<std::pair<std::string, std::int32_t>> &entries) {
   const platform::notification_center::UserInfo userInfo{.references = 1,
                                                          .entries = entries};
-  // A method may add observers. They only get later notifications.
+  // The loop uses a copy: an observer that a method adds gets only later
+  // notifications, not this one.
   const std::vector<Observation> observations = CurrentWorld().observations;
   for (const Observation &observation : observations) {
     if (observation.name != name) continue;

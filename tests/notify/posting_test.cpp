@@ -47,7 +47,8 @@ const Poster kPosters[] = {
     {.name = "boost level",
      .lastInfo = &boostLevelInfo,
      .set = [] { return ZTK_SetBoostLevelIndex(10, 2); },
-     .post = "post VRM-D6 BoostLevel Change {ProductID=10, Index=2} by default",
+     .post = "post VRM-D6 BoostLevel Change {ProductID=10, Index=2} with "
+             "default delivery",
      .record = "{ProductID=10, Index=2}",
      .registerAgain =
          [] {
@@ -56,8 +57,8 @@ const Poster kPosters[] = {
     {.name = "MIDI channel",
      .lastInfo = &midiChannelInfo,
      .set = [] { return ZTK_SetMidiChannelIndex(1, 15); },
-     .post =
-         "post VRM-K2 MidiChannel Change {ProductID=1, Index=15} by default",
+     .post = "post VRM-K2 MidiChannel Change {ProductID=1, Index=15} with "
+             "default delivery",
      .record = "{ProductID=1, Index=15}",
      .registerAgain =
          [] {

@@ -31,8 +31,8 @@ bool WriteExistingFile(const char *file, const std::string &text) {
   return written;
 }
 
-// Makes a new mount namespace. A user without root's rights has them inside a
-// new user namespace.
+// Creates a new mount namespace. If this process does not run as root, it also
+// creates a user namespace, in which it has the capabilities that it needs.
 bool Unshare() {
   const std::string user = std::to_string(getuid());
   const std::string group = std::to_string(getgid());
@@ -45,13 +45,13 @@ bool Unshare() {
 
 // Makes an entry of the real system available in the new root.
 bool MountEntry(const fs::directory_entry &entry, const fs::path &place) {
-  std::error_code failed;
+  std::error_code error;
   if (entry.is_symlink()) {
-    fs::copy_symlink(entry.path(), place, failed);
-    return !failed;
+    fs::copy_symlink(entry.path(), place, error);
+    return !error;
   }
   if (entry.is_directory()) {
-    fs::create_directory(place, failed);
+    fs::create_directory(place, error);
   } else {
     WriteAll(place, "");
   }
@@ -59,7 +59,7 @@ bool MountEntry(const fs::directory_entry &entry, const fs::path &place) {
                nullptr) == 0;
 }
 
-bool ContainsAnyOf(const fs::path &folder, const RootFiles &files) {
+bool HasPlaceForAny(const fs::path &folder, const RootFiles &files) {
   const std::string start = folder.string() + "/";
   return std::any_of(files.begin(), files.end(), [&start](const auto &file) {
     return file.first.starts_with(start);
@@ -67,8 +67,9 @@ bool ContainsAnyOf(const fs::path &folder, const RootFiles &files) {
 }
 
 // Makes all entries of a folder available in the new root, except those that
-// are replaced. A folder that receives new files is a new folder, so that the
-// real one does not change.
+// are replaced and the new root itself. A folder in which a file is added or
+// replaced is created anew, so that the real one does not change. Returns an
+// empty text on success, else the error.
 std::string MountFolder(const fs::path &folder, const fs::path &root,
                         const RootFiles &files) {
   for (const auto &entry : fs::directory_iterator(folder)) {
@@ -77,7 +78,7 @@ std::string MountFolder(const fs::path &folder, const fs::path &root,
     if (path == root || files.contains(path.string())) continue;
     std::string reason;
     if (entry.is_directory() && !entry.is_symlink() &&
-        ContainsAnyOf(path, files)) {
+        HasPlaceForAny(path, files)) {
       fs::create_directory(place);
       reason = MountFolder(path, root, files);
     } else if (!MountEntry(entry, place)) {
@@ -91,14 +92,14 @@ std::string MountFolder(const fs::path &folder, const fs::path &root,
 }  // namespace
 
 std::string EnterTemporaryRoot(const RootFiles &files) {
-  if (!Unshare()) return ErrorText("no mount namespace");
+  if (!Unshare()) return ErrorText("cannot create a mount namespace");
   if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
-    return ErrorText("the root stays shared");
+    return ErrorText("cannot make the mounts private");
   }
-  // /mnt exists on every system, and the tests do not need its content.
+  // /mnt exists on usual systems, and the tests do not need its content.
   const fs::path root = "/mnt";
   if (mount("temporary-root", root.c_str(), "tmpfs", 0, nullptr) != 0) {
-    return ErrorText("no tmpfs");
+    return ErrorText("cannot mount a tmpfs");
   }
   if (std::string reason = MountFolder("/", root, files); !reason.empty()) {
     return reason;
@@ -107,7 +108,7 @@ std::string EnterTemporaryRoot(const RootFiles &files) {
     WriteAll(root / fs::path(path).relative_path(), contents);
   }
   if (chroot(root.c_str()) != 0 || chdir("/") != 0) {
-    return ErrorText("no chroot");
+    return ErrorText("cannot change the root");
   }
   return "";
 }

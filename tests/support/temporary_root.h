@@ -11,10 +11,10 @@ namespace ztk::test {
 using RootFiles = std::map<std::string, std::string>;
 
 // Moves this process into a new mount namespace. Its root contains everything
-// of the real root, and also these files, which may replace real ones. No other
-// process sees the files. Their paths must not contain a symbolic link. Must be
-// called in a forked child before it runs a program. Returns an empty text on
-// success, else the error.
+// of the real root except the content of /mnt, and also these files, which may
+// replace real ones. No other process sees the files. Their paths must not
+// contain a symbolic link. Must be called in a forked child before it runs a
+// program. Returns an empty text on success, else the error.
 std::string EnterTemporaryRoot(const RootFiles &files);
 
 }  // namespace ztk::test

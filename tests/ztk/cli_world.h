@@ -38,7 +38,6 @@ class CliWorld : public testing::Test {
   // ztk-virtual-mixer are in the PATH. The log of requests starts anew.
   Result Inside(const std::vector<std::string> &options,
                 const std::string &script);
-  // The script is a single command.
   Result OneMixer(const std::string &script) {
     return Inside({"-n", "1"}, script);
   }

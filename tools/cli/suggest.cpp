@@ -92,7 +92,7 @@ std::string Suggestion(const std::string &nearest,
                        const std::vector<std::string> &accepted,
                        const std::string &how) {
   if (accepted.empty()) return "";
-  if (!nearest.empty() && accepted.size() > kMostListed) {
+  if (!nearest.empty() && accepted.size() > kMaxListedWords) {
     return NearestPart(nearest);
   }
   return NearestPart(nearest) + "; accepted" + how + ": " + Listed(accepted);

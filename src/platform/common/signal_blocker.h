@@ -9,29 +9,30 @@ namespace ztk::platform {
 // While this object exists, it blocks two kinds of signals in its thread. The
 // signals that ask a program to end are delivered when the object is destroyed,
 // so that no unfinished file remains. SIGXFSZ, which a write raises if the file
-// would become too large, is discarded, because by default it ends the process.
+// would exceed the file size limit of the process, is discarded unless it was
+// pending before, because by default it ends the process.
 class SignalBlocker {
  public:
   SignalBlocker() {
-    sigset_t held;
-    sigemptyset(&held);
+    sigset_t blocked;
+    sigemptyset(&blocked);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGXFSZ}) {
-      sigaddset(&held, signal);
+      sigaddset(&blocked, signal);
     }
-    wasPending_ = FileSizeSignalIsPending();
-    held_ = pthread_sigmask(SIG_BLOCK, &held, &before_) == 0;
+    fileSizeSignalWasPending_ = FileSizeSignalIsPending();
+    isBlocking_ = pthread_sigmask(SIG_BLOCK, &blocked, &previousMask_) == 0;
   }
   ~SignalBlocker() {
-    if (!held_) return;
-    if (!wasPending_ && FileSizeSignalIsPending()) {
-      sigset_t fileSize;
-      sigemptyset(&fileSize);
-      sigaddset(&fileSize, SIGXFSZ);
+    if (!isBlocking_) return;
+    if (!fileSizeSignalWasPending_ && FileSizeSignalIsPending()) {
+      sigset_t fileSizeSignal;
+      sigemptyset(&fileSizeSignal);
+      sigaddset(&fileSizeSignal, SIGXFSZ);
       // The signal is pending already, so sigwait() returns at once.
       int taken = 0;
-      sigwait(&fileSize, &taken);
+      sigwait(&fileSizeSignal, &taken);
     }
-    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+    pthread_sigmask(SIG_SETMASK, &previousMask_, nullptr);
   }
   SignalBlocker(const SignalBlocker &) = delete;
   SignalBlocker &operator=(const SignalBlocker &) = delete;
@@ -42,9 +43,9 @@ class SignalBlocker {
     return sigpending(&pending) == 0 && sigismember(&pending, SIGXFSZ) == 1;
   }
 
-  sigset_t before_;
-  bool wasPending_ = false;
-  bool held_ = false;
+  sigset_t previousMask_;
+  bool fileSizeSignalWasPending_ = false;
+  bool isBlocking_ = false;
 };
 
 }  // namespace ztk::platform

@@ -10,26 +10,27 @@ namespace ztk::window {
 
 namespace {
 
-// In units.
+// Lengths in units of the layout.
 constexpr qreal kNumberPitch = 1.06;  // between two numbers on one tap
 constexpr qreal kLinePitch = 0.45;    // between two wires in a gutter
-constexpr qreal kRowShift = 0.4;
-constexpr qreal kTouching = 0.3;  // nearer wires look like one
+constexpr qreal kEndShift = 0.4;      // of the end of a wire, up or down
+// Parallel wires that are closer to each other than this look like one wire.
+constexpr qreal kMinimumDistance = 0.3;
 
-// Against the cost of two wires that cross.
-constexpr int kOneOnTheOther = 1000;
+// The cost of two wires that overlap. The cost of a crossing is 1.
+constexpr int kOverlapCost = 1000;
 
 struct Draft {
   int channel;
   const TapSpot *spot;
   QPointF start;
-  qreal gutterLine = 0;
-  qreal row = 0;
-  qreal column = 0;
+  qreal gutterY = 0;  // where it runs through the gutter
+  qreal rowY = 0;     // where it ends
+  qreal columnX = 0;  // where it goes from the one to the other
 };
 
 // The order of several numbers on one tap, from left to right.
-enum class Order : std::uint8_t { Rising, Falling };
+enum class NumberOrder : std::uint8_t { Rising, Falling };
 
 std::vector<Draft> DraftsOf(const PictureLayout &layout, const WireEnds &ends) {
   std::vector<Draft> drafts;
@@ -41,22 +42,23 @@ std::vector<Draft> DraftsOf(const PictureLayout &layout, const WireEnds &ends) {
     drafts.push_back({.channel = channel,
                       .spot = spot,
                       .start = spot->centre,
-                      .row = ends.rows[at]});
+                      .rowY = ends.rows[at]});
   }
   return drafts;
 }
 
-// The numbers on one tap side by side, the first one on the tap itself.
-void PlaceNumbers(const PictureLayout &layout, Order order,
+// Places the numbers of one tap side by side. The lowest or the highest one is
+// on the tap itself; the others continue in the direction of the tap.
+void PlaceNumbers(const PictureLayout &layout, NumberOrder order,
                   std::vector<Draft> *drafts) {
   for (Draft &draft : *drafts) {
-    const bool fromFirst =
-        (order == Order::Rising) == (draft.spot->direction > 0);
+    const bool lowestIsOnTap =
+        (order == NumberOrder::Rising) == (draft.spot->direction > 0);
     const auto before =
         std::count_if(drafts->begin(), drafts->end(), [&](const Draft &other) {
           return other.spot == draft.spot &&
-                 (fromFirst ? other.channel < draft.channel
-                            : other.channel > draft.channel);
+                 (lowestIsOnTap ? other.channel < draft.channel
+                                : other.channel > draft.channel);
         });
     const qreal shift = static_cast<qreal>(before) * draft.spot->direction *
                         kNumberPitch * layout.unit;
@@ -65,8 +67,8 @@ void PlaceNumbers(const PictureLayout &layout, Order order,
 }
 
 // In one gutter the wires that come from above run above those that come from
-// below. The further left a wire comes from, the further from its tap it runs,
-// so that no wire crosses another one there.
+// below. A wire whose tap is further left runs further away from the taps, so
+// that no wire crosses another one there.
 bool RunsAbove(const Draft &one, const Draft &other) {
   if (one.spot->wiresGoUp != other.spot->wiresGoUp) {
     return !one.spot->wiresGoUp;
@@ -76,27 +78,28 @@ bool RunsAbove(const Draft &one, const Draft &other) {
 }
 
 void PlaceGutterLines(const PictureLayout &layout, std::vector<Draft> *drafts) {
-  for (int number = 0; number < layout.gutters.size(); ++number) {
+  for (int index = 0; index < layout.gutters.size(); ++index) {
     std::vector<Draft *> inside;
     for (Draft &draft : *drafts) {
-      if (draft.spot->gutter == number) inside.push_back(&draft);
+      if (draft.spot->gutter == index) inside.push_back(&draft);
     }
     std::sort(inside.begin(), inside.end(),
               [](const Draft *one, const Draft *other) {
                 return RunsAbove(*one, *other);
               });
-    const Gutter &gutter = layout.gutters[number];
+    const Gutter &gutter = layout.gutters[index];
     const qreal pitch = kLinePitch * layout.unit;
     qreal y = (gutter.top + gutter.bottom) / 2 -
               pitch * static_cast<qreal>(inside.size() - 1) / 2;
     for (Draft *draft : inside) {
-      draft->gutterLine = y;
+      draft->gutterY = y;
       y += pitch;
     }
-    // A wire that is alone there runs straight to its row, where it can.
-    if (inside.size() == 1 && inside[0]->row > gutter.top + pitch &&
-        inside[0]->row < gutter.bottom - pitch) {
-      inside[0]->gutterLine = inside[0]->row;
+    // A wire that is alone in a gutter runs at the height of its row, without a
+    // bend, if that height is within the gutter.
+    if (inside.size() == 1 && inside[0]->rowY > gutter.top + pitch &&
+        inside[0]->rowY < gutter.bottom - pitch) {
+      inside[0]->gutterY = inside[0]->rowY;
     }
   }
 }
@@ -105,22 +108,25 @@ bool IsBetween(qreal value, qreal one, qreal other) {
   return value > std::min(one, other) && value < std::max(one, other);
 }
 
-// How bad it looks when `left` has a column on the left of that of `right`.
-int Cost(const Draft &left, const Draft &right, qreal touching) {
+// The cost of these two wires if the column of `left` is to the left of the
+// column of `right`.
+int Cost(const Draft &left, const Draft &right, qreal minimumDistance) {
   int cost = 0;
   // One would run along the other.
-  if (std::abs(left.row - right.gutterLine) < touching) cost += kOneOnTheOther;
-  if (IsBetween(right.gutterLine, left.gutterLine, left.row)) ++cost;
-  if (IsBetween(left.row, right.gutterLine, right.row)) ++cost;
+  if (std::abs(left.rowY - right.gutterY) < minimumDistance) {
+    cost += kOverlapCost;
+  }
+  if (IsBetween(right.gutterY, left.gutterY, left.rowY)) ++cost;
+  if (IsBetween(left.rowY, right.gutterY, right.rowY)) ++cost;
   return cost;
 }
 
 int Cost(const std::vector<Draft> &drafts,
-         const std::vector<std::size_t> &order, qreal touching) {
+         const std::vector<std::size_t> &order, qreal minimumDistance) {
   int cost = 0;
   for (std::size_t left = 0; left < order.size(); ++left) {
     for (std::size_t right = left + 1; right < order.size(); ++right) {
-      cost += Cost(drafts[order[left]], drafts[order[right]], touching);
+      cost += Cost(drafts[order[left]], drafts[order[right]], minimumDistance);
     }
   }
   return cost;
@@ -131,31 +137,33 @@ struct Columns {
   int cost = 0;
 };
 
-// Tries every order of the columns: there are at most 120.
-Columns BestColumns(const std::vector<Draft> &drafts, qreal touching) {
+// Tries the orders of the columns, at most 120, until one has no cost.
+Columns BestColumns(const std::vector<Draft> &drafts, qreal minimumDistance) {
   std::vector<std::size_t> order(drafts.size());
   std::iota(order.begin(), order.end(), 0U);
-  Columns best{.order = order, .cost = Cost(drafts, order, touching)};
+  Columns best{.order = order, .cost = Cost(drafts, order, minimumDistance)};
   while (best.cost > 0 && std::next_permutation(order.begin(), order.end())) {
-    const int cost = Cost(drafts, order, touching);
+    const int cost = Cost(drafts, order, minimumDistance);
     if (cost < best.cost) best = {.order = order, .cost = cost};
   }
   return best;
 }
 
-// Two wires of which each would need the column on the left of the other are
-// kept apart at one of their rows: the box there is higher than a wire.
-Columns KeptApart(qreal unit, std::vector<Draft> *drafts) {
-  Columns best = BestColumns(*drafts, kTouching * unit);
+// Overlaps can remain in each order of the columns, for example if each of two
+// wires needs the column to the left of the other. Then the ends of wires are
+// moved a little up or down. They still meet the boxes of their rows, because a
+// box is higher than a wire is thick.
+Columns SeparateOverlaps(qreal unit, std::vector<Draft> *drafts) {
+  Columns best = BestColumns(*drafts, kMinimumDistance * unit);
   for (Draft &draft : *drafts) {
-    for (const qreal shift : {kRowShift * unit, -kRowShift * unit}) {
-      if (best.cost < kOneOnTheOther) return best;
-      draft.row += shift;
-      Columns found = BestColumns(*drafts, kTouching * unit);
+    for (const qreal shift : {kEndShift * unit, -kEndShift * unit}) {
+      if (best.cost < kOverlapCost) return best;
+      draft.rowY += shift;
+      Columns found = BestColumns(*drafts, kMinimumDistance * unit);
       if (found.cost < best.cost) {
         best = std::move(found);
       } else {
-        draft.row -= shift;
+        draft.rowY -= shift;
       }
     }
   }
@@ -168,8 +176,8 @@ void PlaceColumns(const PictureLayout &layout, const WireEnds &ends,
   const qreal surplus =
       std::max<qreal>(0, ends.right - layout.size.width()) / 2;
   qreal x = layout.corridor + surplus + pitch / 2;
-  for (const std::size_t number : columns.order) {
-    (*drafts)[number].column = x;
+  for (const std::size_t draft : columns.order) {
+    (*drafts)[draft].columnX = x;
     x += pitch;
   }
 }
@@ -179,11 +187,11 @@ void PlaceColumns(const PictureLayout &layout, const WireEnds &ends,
 QList<Wire> LayOutWires(const PictureLayout &layout, const WireEnds &ends) {
   std::vector<Draft> best;
   Columns columns;
-  for (const Order order : {Order::Rising, Order::Falling}) {
+  for (const NumberOrder order : {NumberOrder::Rising, NumberOrder::Falling}) {
     std::vector<Draft> drafts = DraftsOf(layout, ends);
     PlaceNumbers(layout, order, &drafts);
     PlaceGutterLines(layout, &drafts);
-    Columns found = KeptApart(layout.unit, &drafts);
+    Columns found = SeparateOverlaps(layout.unit, &drafts);
     if (!best.empty() && found.cost >= columns.cost) continue;
     best = std::move(drafts);
     columns = std::move(found);
@@ -193,10 +201,10 @@ QList<Wire> LayOutWires(const PictureLayout &layout, const WireEnds &ends) {
   for (const Draft &draft : best) {
     wires.append(
         {.channel = draft.channel,
-         .points = {draft.start, QPointF(draft.start.x(), draft.gutterLine),
-                    QPointF(draft.column, draft.gutterLine),
-                    QPointF(draft.column, draft.row),
-                    QPointF(ends.right, draft.row)}});
+         .points = {draft.start, QPointF(draft.start.x(), draft.gutterY),
+                    QPointF(draft.columnX, draft.gutterY),
+                    QPointF(draft.columnX, draft.rowY),
+                    QPointF(ends.right, draft.rowY)}});
   }
   return wires;
 }

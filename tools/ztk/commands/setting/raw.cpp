@@ -54,7 +54,7 @@ void AddRawFields(const Setting &setting, const RawValue &raw, Report *report) {
 
 Report DryRunOfRaw(const Setting &setting, std::uint32_t product,
                    const RawValue &raw) {
-  CheckServed(setting, product, raw.InWords());
+  CheckProductAccepted(setting, product, raw.InWords());
   if (raw.source >= input_audio::kSources) ThrowRefused(setting, product, raw);
   Plan plan;
   plan.AddRaw(raw.channel, raw.high, raw.source);

@@ -12,7 +12,7 @@ namespace {
 
 Report PlanOfDefault(const Setting &setting, std::uint32_t product,
                      const std::vector<std::uint32_t> &channels) {
-  CheckServed(setting, product, "the default");
+  CheckProductAccepted(setting, product, "the default");
   Plan plan;
   for (const std::uint32_t channel : channels) {
     plan.AddDefault(setting, channel);

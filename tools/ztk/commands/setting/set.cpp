@@ -31,7 +31,8 @@ Choice Choose(const Setting &setting, std::uint32_t product,
   if (match.choice) return *match.choice;
   if (match.candidates.empty()) {
     const std::string nearest = NearestChoice(*words, choices);
-    const bool listsAll = nearest.empty() || choices.size() <= cli::kMostListed;
+    const bool listsAll =
+        nearest.empty() || choices.size() <= cli::kMaxListedWords;
     throw Failure(
         ExitCode::Usage,
         place + " has no choice " + cli::Quoted(*words) + nearest +
@@ -47,7 +48,7 @@ Choice Choose(const Setting &setting, std::uint32_t product,
 
 Report PlanOfSet(const Change &change, const Choice &choice) {
   const Setting &setting = *change.setting;
-  CheckServed(setting, change.product, cli::Quoted(choice.text));
+  CheckProductAccepted(setting, change.product, cli::Quoted(choice.text));
   Plan plan;
   plan.AddChange(change);
   Report report;

@@ -66,8 +66,8 @@ std::uint32_t RequiredChannel(const Setting &setting,
 }
 
 // A model that the library would reject is rejected here too.
-void CheckServed(const Setting &setting, std::uint32_t product,
-                 const std::string &what) {
+void CheckProductAccepted(const Setting &setting, std::uint32_t product,
+                          const std::string &what) {
   if (product != setting.product) ThrowRejected(setting, product, what);
 }
 

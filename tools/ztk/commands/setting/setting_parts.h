@@ -15,11 +15,12 @@
 
 namespace ztk::program {
 
-// The model of --product, or the one that the setting belongs to.
+// Returns the product id given with --product, or the one of the model that the
+// setting belongs to.
 std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments);
 
-// Reads a channel as people type it, "2" or "CH2", and returns its number
-// counted from 0; none when there is no such channel.
+// Parses a channel such as "2" or "CH2". Returns its index, counted from 0, or
+// none if there is no such channel.
 std::optional<std::uint32_t> ParseChannel(const Setting &setting,
                                           const std::string &word);
 
@@ -32,40 +33,44 @@ std::optional<std::uint32_t> ChannelFor(const Setting &setting,
 std::vector<std::uint32_t> ChannelsFor(const Setting &setting,
                                        const Arguments &arguments);
 
-// The given channel; 0 for a setting without channels. When it was left out,
-// asks for it in a terminal, and throws where there is no terminal.
+// Returns the given channel; 0 for a setting without channels. If no channel
+// was given, asks the user. Throws if standard input or output is not a
+// terminal, or with --json.
 std::uint32_t RequiredChannel(const Setting &setting,
                               const Arguments &arguments, const char *verb);
 
-// "; see ztk input set --help"
+// A hint for the end of an error message. `verb` is the command: "set" makes
+// "; see ztk input set --help".
 std::string SeeHelp(const Setting &setting, const char *verb);
 
-// The library answered that it does not accept `what`.
+// Throws the error for a value, `what`, that the library rejects for the
+// product.
 [[noreturn]] void ThrowRejected(const Setting &setting, std::uint32_t product,
                                 const std::string &what);
 
-// For a dry run: throws for a model that the library would reject.
-void CheckServed(const Setting &setting, std::uint32_t product,
-                 const std::string &what);
+// For a dry run: throws if the library would reject the product.
+void CheckProductAccepted(const Setting &setting, std::uint32_t product,
+                          const std::string &what);
 
-// Adds the names of setting and model to the JSON fields.
+// Adds the setting, its model and the product id to the JSON fields.
 void AddSettingNames(const Setting &setting, std::uint32_t product,
                      Report *report);
 
-// Adds a warning where the settings file cannot be read. Returns the file and
-// the reason; empty when it can be read.
+// Adds a warning if the settings file cannot be read. Returns the file and the
+// reason; empty if it can be read.
 std::string WarnOfUnreadable(const Setting &setting, Report *report);
 
-// Throws where the settings file cannot be read: what it holds cannot be sent
-// or forgotten. `what` begins the message.
-void RequireReadable(const Setting &setting, const std::string &what);
+// Throws if the settings file cannot be read, because its values can then be
+// neither sent nor removed. `start` is the beginning of the message.
+void RequireReadable(const Setting &setting, const std::string &start);
 
-// Adds a warning where something was sent, and every attached mixer calls
-// itself another model than the one that the setting belongs to.
+// Adds a warning if a mixer has accepted the value, but every attached mixer
+// reports another model than that of the setting.
 void WarnOfOtherModel(const Setting &setting, const Reach &reach,
                       Report *report);
 
-// The sentences for what is sent and never remembered.
+// The texts for a command that sends a value without remembering it. `command`
+// sends it once more.
 DeliveryTexts NeverRemembered(const std::string &command);
 
 }  // namespace ztk::program

@@ -13,11 +13,11 @@ namespace ztk::model {
 namespace {
 
 constexpr char kFolder[] = "/sys/bus/usb/devices/";
-// The class of devices whose interfaces have classes of their own.
-constexpr char kClassOfInterfaces[] = "00";
+// The device class 00 means that each interface has its own class.
+constexpr char kClassIsPerInterface[] = "00";
 constexpr char kSpace[] = " \t\n\v\f\r";
 
-// The first word of a file; empty where there is none.
+// Returns the first word of a file; empty if the file is empty or unreadable.
 std::string WordIn(const std::string &path) {
   const std::string text = FileText(path);
   const std::size_t begin = text.find_first_not_of(kSpace);
@@ -50,7 +50,7 @@ std::vector<UsbDevice> UsbDevices() {
     // Interfaces have a colon in their names.
     if (name[0] == '.' || name.find(':') != std::string::npos) continue;
     std::string deviceClass = WordIn(kFolder + name + "/bDeviceClass");
-    if (deviceClass == kClassOfInterfaces) {
+    if (deviceClass == kClassIsPerInterface) {
       const auto interface = std::find_if(
           names.begin(), names.end(),
           [&](const auto &other) { return other.starts_with(name + ":"); });
