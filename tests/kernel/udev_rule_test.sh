@@ -61,14 +61,15 @@ wait_for_mixers() {  # number
   fail "there are not $1 mixers after ten seconds"
 }
 
-# Runs "ztk doctor" as a user and sets $cause and $command of the problem, which
-# must be the same for both mixers.
+# Runs "ztk doctor" as a user and sets $cause, $help and $command of the problem,
+# which must be the same for both mixers.
 ask_doctor() {  # user [environment...]
   local user=$1 findings
   shift
   findings=$({ as "$user" env "$@" "$bin/ztk" doctor 2>/dev/null || true; } |
     sed '/^settings /,$d')
   cause=$(sed -n 's/^ *cause: //p' <<<"$findings" | sort -u)
+  help=$(sed -n 's/^ *help:  //p' <<<"$findings" | sort -u)
   command=$(sed -n 's/^ *type:  //p' <<<"$findings" | sort -u)
 }
 
@@ -109,7 +110,7 @@ install --mode 644 "$rules" /lib/udev/rules.d/
 ask_doctor guest
 expect "the doctor sees that the rule came too late" \
   "the rule that grants you access was installed after the mixer was plugged \
-in; this command has the same effect as plugging it in again" "$cause"
+in; this command has the same effect as plugging it in again" "$cause; $help"
 type_command
 expect "the command of the doctor lets the user set both mixers" \
   "mixer 1: 40 03 0107 8002 0000
@@ -159,12 +160,12 @@ expect "after logging out, the user can open no mixer" 0 "$(reachable guest)"
 ask_doctor guest SSH_CONNECTION="::1 9 ::1 22"
 expect "the doctor sees that the user came over ssh" \
   "the rule grants access to the user who is logged in at this seat, and you are \
-logged in over ssh; this grants guest access from everywhere" "$cause"
+logged in over ssh; this grants guest access from everywhere" "$cause; $help"
 ask_doctor guest
 expect "the doctor sees that the command runs in a service" \
   "the rule grants access to the user who is logged in at this seat, and \
 guest-command.service belongs to no seat; this grants guest access from \
-everywhere" "$cause"
+everywhere" "$cause; $help"
 type_command
 expect "the command of the doctor lets the user set both mixers" \
   "mixer 1: 40 03 010a 8002 0000

@@ -21,6 +21,7 @@ namespace ztk::test {
 
 using Json = nlohmann::json;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;

@@ -76,8 +76,8 @@ TEST_F(Doctor, NamesFindingCauseAndCommandAndIsOne) {
   EXPECT_THAT(result.out,
               StartsWith("mixers    no mixer is attached\n"
                          "          cause: the system finds none: it is "
-                         "unplugged or switched off; plug it in and switch "
-                         "it on\n"
+                         "unplugged or switched off\n"
+                         "          help:  plug it in and switch it on\n"
                          "          type:  ztk doctor\n"));
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
   EXPECT_EQ(OneObject(NoMixer("ztk doctor --json").out)["error"]["code"],
@@ -168,18 +168,38 @@ TEST_F(Doctor, SaysWhyAChannelIsSilentAndThatIsNoProblem) {
                  "mixers    note: USB input 1 is silent: the input "
                  "selector for CH1 is in position 3; CH1 Control "
                  "Tone PHONO (1) is heard only in position 4: turn it to "
-                 "4\n"));
+                 "4\n"
+                 "          cause: the signal before the fader depends on the "
+                 "input selector\n"
+                 "          help:  turn the selector to that position, or "
+                 "record the signal after the fader\n"
+                 "          type:  ztk input set 1 3\n"));
   const Json finding = OnlyOneIn("mixers", result);
   EXPECT_EQ(Word(finding, "id"), "channel-silent");
   EXPECT_EQ(Word(finding, "severity"), "note");
   EXPECT_TRUE(Helps(finding, "mixers", {"-n", "1", "--selector", "1=3"}));
 }
 
+TEST_F(Doctor, SaysWhichCommandsToRun) {
+  constexpr char kNoBus[] = "env -u DBUS_SESSION_BUS_ADDRESS ";
+  // The texts are not installed.
+  EXPECT_EQ(LastLine(OneMixer("ztk doctor").err),
+            "ztk: 1 problem found; run the command above");
+  EXPECT_EQ(LastLine(NoMixer("ztk doctor").err),
+            "ztk: 2 problems found; run the commands above, from top to "
+            "bottom");
+  EXPECT_EQ(LastLine(OneMixer(std::string(kNoBus) + "ztk doctor").err),
+            "ztk: 1 problem found; run its command; those of notes are not "
+            "needed");
+}
+
 TEST_F(Doctor, TellsProblemsAndCommandsWhenQuiet) {
   const Result result = NoMixer("ztk doctor --quiet");
   EXPECT_EQ(result.out, "");
   EXPECT_THAT(result.err, StartsWith("ztk: mixers: no mixer is attached\n"
-                                     "ztk: cause: the system finds none"));
+                                     "ztk: cause: the system finds none: it "
+                                     "is unplugged or switched off\n"
+                                     "ztk: help:  plug it in and"));
   EXPECT_THAT(result.err, HasSubstr("\nztk: type:  ztk doctor\n"));
 }
 
@@ -395,6 +415,9 @@ TEST_F(Doctor, FindsThatTheTextsAreMissingOrBroken) {
 TEST_F(Doctor, TellsHowToInstallTheTextsAsTheLibraryWasInstalled) {
   const Json built = OnlyOneIn("texts", NoMixer("ztk doctor --json"));
   EXPECT_EQ(Word(built, "command"), "sudo cmake --install build");
+  EXPECT_THAT(Word(built, "cause"),
+              EndsWith("/tarvix; run the command in the source folder, in "
+                       "which you have built ztk"));
   const std::string library =
       ReadAll(ZTK_PROGRAM_FOLDER "/../lib/libZTKFunc.so.1");
   for (const auto &[folder, expected] :

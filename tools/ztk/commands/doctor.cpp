@@ -15,6 +15,17 @@ namespace {
 
 constexpr std::size_t kColumn = 10;
 
+// The lines below a finding. What follows the cause, after a semicolon, is what
+// to do about it, or what the command does.
+std::vector<std::string> ExplanationOf(const Finding &finding) {
+  const std::size_t end = finding.cause.find("; ");
+  std::vector<std::string> lines{"cause: " + finding.cause.substr(0, end)};
+  if (end != std::string::npos) {
+    lines.push_back("help:  " + finding.cause.substr(end + 2));
+  }
+  return lines;
+}
+
 void AddFinding(const char *part, const Finding &finding, Report *report) {
   report->fields["findings"].push_back(
       {{"id", finding.id},
@@ -26,9 +37,11 @@ void AddFinding(const char *part, const Finding &finding, Report *report) {
        {"mixer", finding.mixer == 0 ? Json() : Json(finding.mixer)}});
   report->text += cli::Padded(part, kColumn) +
                   (finding.isNote ? "note: " : "") +
-                  cli::OneLine(finding.what) + "\n" + cli::Padded("", kColumn) +
-                  "cause: " + cli::OneLine(finding.cause) + "\n" + cli::kWhole +
-                  cli::Padded("", kColumn) +
+                  cli::OneLine(finding.what) + "\n";
+  for (const std::string &line : ExplanationOf(finding)) {
+    report->text += cli::Padded("", kColumn) + cli::OneLine(line) + "\n";
+  }
+  report->text += cli::kWhole + cli::Padded("", kColumn) +
                   "type:  " + cli::OneLine(finding.command) + "\n";
 }
 
@@ -45,8 +58,22 @@ void AddMixerReport(const std::string &file, Report *report) {
 // Without the text, the errors have to say it.
 void AddErrors(const char *part, const Finding &finding, Report *report) {
   report->errors.push_back(std::string(part) + ": " + finding.what);
-  report->errors.push_back("cause: " + finding.cause);
+  for (const std::string &line : ExplanationOf(finding)) {
+    report->errors.push_back(line);
+  }
   report->errors.push_back("type:  " + finding.command);
+}
+
+// Notes also have a command, which nobody needs to run.
+std::string Summary(std::size_t problems, std::size_t notes) {
+  if (problems > 1) {
+    return std::to_string(problems) +
+           " problems found; run the commands above, from top to bottom" +
+           (notes > 0 ? "; those of notes are not needed" : "");
+  }
+  return std::string("1 problem found; run ") +
+         (notes > 0 ? "its command; those of notes are not needed"
+                    : "the command above");
 }
 
 // Returns how many problems the check has found; notes are none.
@@ -95,11 +122,8 @@ Report Diagnose(const Arguments &arguments) {
   if (problems > 0) {
     report.problem = {
         .exit = ExitCode::Found,
-        .message = problems == 1
-                       ? "1 problem found; run the command above"
-                       : std::to_string(problems) +
-                             " problems found; run the commands above, from "
-                             "top to bottom"};
+        .message =
+            Summary(problems, report.fields["findings"].size() - problems)};
   }
   return report;
 }

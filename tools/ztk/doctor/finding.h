@@ -50,6 +50,9 @@ std::string MoveAwayCommand(const std::string &path);
 std::string MakeWritableCommand(const std::string &folder);
 // Notes about the folder of the settings.
 Findings FindUserFolderNotes(const std::string &library);
+// Follows a cause whose command is "sudo cmake --install build".
+inline constexpr char kInSourceFolder[] =
+    "; run the command in the source folder, in which you have built ztk";
 // Explains that the bundle of texts is missing, or was found but has no text.
 Finding ExplainTexts(bool found);
 

@@ -36,8 +36,9 @@ Finding ExplainSilence(const SilentRouting &routing, bool namesMixer) {
   return {.id = "channel-silent",
           .what = Described(routing, namesMixer),
           .cause =
-              "turn the selector on the mixer to that position, or record "
-              "the signal after the fader",
+              "the signal before the fader depends on the input selector; turn "
+              "the selector to that position, or record the signal after the "
+              "fader",
           .command = "ztk input set " + std::to_string(routing.channel + 1) +
                      " " + std::to_string(kBehindFader),
           .isNote = true};

@@ -351,15 +351,15 @@ bool LibraryIsFromPackage() {
 
 Finding ExplainTexts(bool found) {
   const std::string folder = build::kDataDir;
+  const bool packaged = LibraryIsFromPackage();
   return {.id = found ? "texts-broken" : "texts-missing",
           .what = found ? "the warning texts are incomplete"
                         : "the warning texts are not installed",
           .cause = std::string("VRM-D6Setup.framework ") +
                    (found ? "has no texts in " : "is not in ") + folder +
-                   "/tarvix",
-          .command = LibraryIsFromPackage()
-                         ? "sudo apt install --reinstall libztkfunc-common"
-                         : "sudo cmake --install build"};
+                   "/tarvix" + (packaged ? "" : kInSourceFolder),
+          .command = packaged ? "sudo apt install --reinstall libztkfunc-common"
+                              : "sudo cmake --install build"};
 }
 
 }  // namespace ztk::model

@@ -68,10 +68,9 @@ Finding ExplainTexts(bool found) {
   return {.id = found ? "texts-broken" : "texts-missing",
           .what = found ? "the warning texts are incomplete"
                         : "the warning texts are not installed",
-          .cause = found ? "VRM-D6Setup.framework has no texts in "
-                           "/Library/Frameworks"
-                         : "VRM-D6Setup.framework is not in "
-                           "/Library/Frameworks",
+          .cause = std::string("VRM-D6Setup.framework ") +
+                   (found ? "has no texts in " : "is not in ") +
+                   "/Library/Frameworks" + kInSourceFolder,
           .command = "sudo cmake --install build"};
 }
 
