@@ -30,6 +30,8 @@ bool IsAutoapplyOn() { return UserManager().Knows(kUnit); }
 void SetAutoapply(bool on) {
   UserManager manager;
   if (!on) return manager.Unlink(kUnit);
+  // Fails without the manager, whose absence matters more than a missing file.
+  manager.Knows(kUnit);
   const std::string file = UnitFile();
   if (access(file.c_str(), F_OK) != 0) {
     throw std::runtime_error(
