@@ -122,15 +122,16 @@ TEST_F(DryRun, ShowsRequestsFileAndAnnouncement) {
   const std::string before = ReadAll(home_.SettingsFile("VRM-D6"));
   const Result result = OneMixer("ztk input set 2 3 --dry-run");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.out,
-            "Dry run: nothing is sent or remembered. This would happen:\n"
-            "  mixer 1  USB input 2: Post CH2 Fader (3)\n"
-            "  mixer 1  read the input selectors\n"
-            "  file  USB input 2: Cross Fader B (5) -> Post CH2 Fader (3)\n"
-            "        in " +
-                home_.SettingsFile("VRM-D6").string() +
-                "\n"
-                "  bus   USB input 2: Post CH2 Fader (3)\n");
+  EXPECT_EQ(
+      result.out,
+      "Dry run: nothing is sent or remembered. This would happen:\n"
+      "  mixer 1  USB input 2: Post CH2 Fader (3)\n"
+      "  mixer 1  asked for the positions of its input selectors\n"
+      "  remembered  USB input 2: Cross Fader B (5) -> Post CH2 Fader (3)\n"
+      "              in " +
+          home_.SettingsFile("VRM-D6").string() +
+          "\n"
+          "  announced   USB input 2: Post CH2 Fader (3), to other programs\n");
   EXPECT_EQ(ReadAll(home_.SettingsFile("VRM-D6")), before);
   EXPECT_THAT(Requests(), IsEmpty());
   const Json json = OneObject(OneMixer("ztk midi set 2 --dry-run --json").out);
@@ -164,18 +165,18 @@ TEST_F(DryRun, ShowsEachRequestAndEachFileOnce) {
   EXPECT_EQ(result.out,
             "Dry run: nothing is sent or remembered. This would happen:\n"
             "  mixers 1, 2, 3  USB input 1: MIC (6)\n"
-            "  mixers 1, 2, 3  read the input selectors\n"
+            "  mixers 1, 2, 3  asked for the positions of its input selectors\n"
             "  mixers 1, 2, 3  USB input 2: MIC (6)\n"
             "  mixers 1, 2, 3  Boost level: -5 dB (1)\n"
-            "  file  USB input 1: nothing -> MIC (6)\n"
-            "  file  USB input 2: nothing -> MIC (6)\n"
-            "  file  Boost level: nothing -> -5 dB (1)\n"
-            "        in " +
+            "  remembered  USB input 1: nothing -> MIC (6)\n"
+            "  remembered  USB input 2: nothing -> MIC (6)\n"
+            "  remembered  Boost level: nothing -> -5 dB (1)\n"
+            "              in " +
                 home_.SettingsFile("VRM-D6").string() +
                 "\n"
-                "  bus   USB input 1: MIC (6)\n"
-                "  bus   USB input 2: MIC (6)\n"
-                "  bus   Boost level: -5 dB (1)\n");
+                "  announced   USB input 1: MIC (6), to other programs\n"
+                "  announced   USB input 2: MIC (6), to other programs\n"
+                "  announced   Boost level: -5 dB (1), to other programs\n");
 }
 
 TEST_F(DryRun, LeavesOutMixersThatCannotBeOpened) {
@@ -199,7 +200,7 @@ TEST_F(DryRun, OfResetSaysThatThereIsNothingToForget) {
 TEST_F(DryRun, SaysThatNothingWouldBeSent) {
   Remember("VRM-D6", {{"Output0", 2}});
   EXPECT_THAT(OneMixer("ztk reset --dry-run").out,
-              HasSubstr("happen:\n  no request\n  file "));
+              HasSubstr("happen:\n  no request\n  remembered "));
   OneMixer("ztk boost set 1; ztk boost set 2");
   Remember("VRM-D6", {{"MaxLevel", 3}});
   EXPECT_THAT(OneMixer("ztk undo --dry-run").out, HasSubstr("  no request\n"));

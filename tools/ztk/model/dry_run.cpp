@@ -72,7 +72,7 @@ void Plan::AddSelectors(const Setting &setting, bool stops) {
   if (setting.selectorLength == 0) return;
   const Setup setup =
       Reading(usb::kInputSelectorRegister, setting.selectorLength);
-  constexpr char kMeaning[] = "read the input selectors";
+  constexpr char kMeaning[] = "asked for the positions of its input selectors";
   if (!stops) return AddToEach(setup, kMeaning);
   if (mixers_.empty()) return;
   requests_.push_back(

@@ -83,8 +83,8 @@ std::string WriteLines(const Plan &plan) {
         files.begin(), files.end(),
         [&write](const auto &one) { return one.first == write.file; });
     if (file == files.end()) file = files.insert(file, {write.file, ""});
-    file->second += "  file  " + PlaceName(*write.setting, write.channel) +
-                    ": " +
+    file->second += "  remembered  " +
+                    PlaceName(*write.setting, write.channel) + ": " +
                     (write.before == write.after
                          ? InFile(write, write.after) + ", unchanged"
                          : InFile(write, write.before) + " -> " +
@@ -93,7 +93,7 @@ std::string WriteLines(const Plan &plan) {
   }
   std::string text;
   for (const auto &[name, lines] : files) {
-    text += lines + "        in " + cli::OneLine(name) + "\n";
+    text += lines + "              in " + cli::OneLine(name) + "\n";
   }
   return text;
 }
@@ -113,7 +113,8 @@ void AddWrites(const Plan &plan, Report *report) {
 void AddAnnouncements(const Plan &plan, Report *report) {
   Json list = Json::array();
   for (const PlannedAnnouncement &announcement : plan.announcements()) {
-    report->text += "  bus   " + announcement.meaning + "\n";
+    report->text +=
+        "  announced   " + announcement.meaning + ", to other programs\n";
     Json numbers = Json::object();
     for (const auto &[key, value] : announcement.numbers) numbers[key] = value;
     list.push_back(
