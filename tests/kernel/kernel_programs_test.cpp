@@ -71,7 +71,6 @@ TEST_F(KernelPrograms, StatusReadsAMixerOfTheKernel) {
       "USB input 1 is silent: the input selector for CH1 is in position "
       "3; CH1 Control Tone PHONO (1) is heard only in position 4: turn it to "
       "4\n"
-      "Next: turn the input selector for CH1 to position 4\n"
       "status 0");
 }
 

@@ -135,8 +135,9 @@ TEST_F(Undo, SaysWhatCannotBePutBack) {
 
 TEST_F(Undo, ExitsWith3WithoutAMixerButRestoresTheValue) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
-  const Result result =
-      NoMixer("ztk boost set 2 2> /dev/null; ztk undo; echo $?; ztk boost get");
+  const Result result = NoMixer(
+      "ztk boost set 2 2> /dev/null; ztk undo; echo $?; "
+      "ztk boost get -q");
   EXPECT_EQ(Line(result.out, 1), "Boost level: -10 dB (2) undone, -5 dB (1)");
   EXPECT_EQ(Line(result.out, 2), "3");
   EXPECT_EQ(LastLine(result.out), "Boost level  -5 dB (1)");

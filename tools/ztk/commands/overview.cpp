@@ -7,6 +7,7 @@
 #include "ztk/model/mixers/reach.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"
+#include "ztk/report/unsent_report.h"
 
 namespace ztk::program {
 
@@ -45,6 +46,8 @@ Report ShowOverview(const Arguments & /*arguments*/) {
                    ModelName(*setting) + ", as remembered\n" +
                    ChoicesNow(*setting, &settings);
   }
+  const Unsent unsent = FindUnsent(AllStoredValues(), RecordedSending());
+  if (!unsent.text.empty()) report.text += "\n" + WithCommand(unsent);
   report.text +=
       "\n"
       "Next:\n"

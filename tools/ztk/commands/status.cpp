@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <set>
 
-#include "ZTKFunc.h"
 #include "cli/strings.h"
 #include "ztk/commands/other_commands.h"
 #include "ztk/model/mixers/mixer_status.h"
@@ -14,6 +13,7 @@
 #include "ztk/progress.h"
 #include "ztk/report/setting_report.h"
 #include "ztk/report/silence_report.h"
+#include "ztk/report/unsent_report.h"
 
 namespace ztk::program {
 
@@ -184,6 +184,12 @@ std::string TextOf(const Mixers &mixers, bool verbose) {
   return text;
 }
 
+// What the settings files hold.
+struct Remembrance {
+  std::vector<StoredValue> values;
+  bool unreadable = false;  // one of the files cannot be read
+};
+
 // "the mixer that does not answer", "the mixers that refuse what they are
 // asked"; empty when each mixer works.
 std::string StuckMixers(const Mixers &mixers) {
@@ -205,30 +211,32 @@ std::string StuckMixers(const Mixers &mixers) {
   return words;
 }
 
-// What to do next when something is missing; else empty.
-std::string NextStep(const Mixers &mixers, bool unreadable,
-                     const std::vector<SilentRouting> &silent) {
+// What to do next when something is missing; else empty. The sentence about a
+// silent channel says it itself. `apply` is the command
+// that sends the remembered values which the mixers may not have.
+std::string NextStep(const Mixers &mixers, const Remembrance &remembered,
+                     const std::string &apply) {
+  // A mixer that was switched off has lost its settings.
+  const std::string doctor =
+      std::string(remembered.values.empty() ? "" : ", then run ztk apply") +
+      "; if that does not help, run ztk doctor\n";
   if (mixers.empty()) {
-    return "Next: plug the mixer in and switch it on; if that does not help, "
-           "run ztk doctor\n";
+    return "Next: plug the mixer in and switch it on" + doctor;
   }
   const std::string stuck = StuckMixers(mixers);
   if (!stuck.empty()) {
-    return "Next: switch " + stuck +
-           " off and on again; if that does not help, run ztk doctor\n";
+    return "Next: switch " + stuck + " off and on again" + doctor;
   }
   const bool allWork =
       std::all_of(mixers.begin(), mixers.end(),
                   [](const MixerStatus &mixer) { return mixer.works(); });
-  if (!allWork || unreadable) {
+  if (!allWork || remembered.unreadable) {
     return "Next: run ztk doctor; it shows the cause and what to do\n";
   }
-  if (silent.empty()) return "";
-  const SilentRouting &first = silent.front();
-  return std::string("Next: turn the input selector") +
-         (mixers.size() > 1 ? " of mixer " + std::to_string(first.mixer) : "") +
-         " for CH" + std::to_string(first.channel + 1) + " to position " +
-         std::to_string(ZTK_SELECTOR_AUDIBLE) + "\n";
+  if (!apply.empty()) {
+    return "Next: run " + apply + ", which sends what is remembered\n";
+  }
+  return "";
 }
 
 Mixers AddMixers(bool verbose, Report *report) {
@@ -252,9 +260,9 @@ Mixers AddMixers(bool verbose, Report *report) {
   return mixers;
 }
 
-// Returns whether a settings file cannot be read.
-bool AddRemembered(Report *report) {
+Remembrance AddRemembered(const RecordedSending &recorded, Report *report) {
   SettingsSnapshot settings;
+  Remembrance remembered;
   Json list = Json::array();
   std::string text;
   std::set<std::string> unreadable;
@@ -267,7 +275,11 @@ bool AddRemembered(Report *report) {
          ++channel) {
       const auto index = settings.Remembered(*setting, channel);
       if (!index) continue;
-      list.push_back(ValueFields(*setting, channel, *index));
+      remembered.values.push_back(
+          {.setting = setting, .channel = channel, .index = *index});
+      Json fields = ValueFields(*setting, channel, *index);
+      fields["unsent"] = UnsentField(recorded.Of(*setting, channel, *index));
+      list.push_back(std::move(fields));
       text += Row(PlaceName(*setting, channel),
                   DescribedValue(*setting, channel, *index) + ", " +
                       ModelName(*setting));
@@ -281,7 +293,8 @@ bool AddRemembered(Report *report) {
   } else {
     report->text += "What is remembered cannot be read\n";
   }
-  return !unreadable.empty();
+  remembered.unreadable = !unreadable.empty();
+  return remembered;
 }
 
 }  // namespace
@@ -290,11 +303,13 @@ Report ShowStatus(const Arguments &arguments) {
   Report report;
   report.isAnswer = true;
   const Mixers mixers = AddMixers(arguments.Has(Parameter::kVerbose), &report);
-  const bool unreadable = AddRemembered(&report);
-  const std::vector<SilentRouting> silent = FindSilentRoutings(mixers);
-  AddSilence(silent, mixers.size() > 1, &report);
+  const RecordedSending recorded;
+  const Remembrance remembered = AddRemembered(recorded, &report);
+  const Unsent unsent = FindUnsent(remembered.values, recorded);
+  report.text += unsent.text;
+  AddSilence(FindSilentRoutings(mixers), mixers.size() > 1, &report);
   if (!arguments.Has(Parameter::kQuiet)) {
-    report.text += NextStep(mixers, unreadable, silent);
+    report.text += NextStep(mixers, remembered, unsent.command);
   }
   return report;
 }

@@ -144,14 +144,9 @@ void ReportPlan(const std::vector<Change> &changes, Report *report) {
 
 // The command that sends a restored value again.
 std::string SendingAgain(const Change &change) {
-  if (change.forgets) return DefaultCommand(change);
-  const Setting &setting = *change.setting;
-  if (!IsSentAgain(setting, change.index)) {
-    return SetCommand(setting, change.channel, change.index);
-  }
-  return setting.product == kOwnProduct
-             ? "ztk apply"
-             : "ztk apply --product " + ProductName(setting.product);
+  return change.forgets
+             ? DefaultCommand(change)
+             : ApplyCommand(*change.setting, change.channel, change.index);
 }
 
 bool NeedsSending(const MadeChange &one, const MadeChanges &made) {
@@ -168,18 +163,11 @@ std::string SendingAgain(const MadeChanges &made) {
     for (const MadeChange &one : made.changes) {
       if (one.change.setting != setting || !NeedsSending(one, made)) continue;
       if (one.change.forgets && setting != &kOutput) remembersDefault = true;
-      const std::string command = SendingAgain(one.change);
-      if (std::find(commands.begin(), commands.end(), command) ==
-          commands.end()) {
-        commands.push_back(command);
-      }
+      commands.push_back(SendingAgain(one.change));
     }
   }
-  std::string joined;
-  for (const std::string &command : commands) {
-    joined += (joined.empty() ? "" : "; ") + command;
-  }
-  return joined + (remembersDefault ? " (set also remembers the default)" : "");
+  return EachOnce(commands) +
+         (remembersDefault ? " (set also remembers the default)" : "");
 }
 
 void ReportUndone(const MadeChanges &made,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/resend.h"
 
+#include "ztk/model/history/unsent.h"
 #include "ztk/model/remembered.h"
 
 namespace ztk::model {
@@ -53,6 +54,16 @@ Reach SendAgain(std::vector<StoredValue> *values) {
     }) != ZTK_SUCCESS;
     if (!value.refused) value.accepted = calls.acceptedLast();
   }
+  std::vector<LastSending> sendings;
+  for (const StoredValue &value : *values) {
+    if (value.refused) continue;
+    sendings.push_back(
+        {.setting = value.setting,
+         .channel = value.channel,
+         .index = value.index,
+         .sending = SendingTo(value.accepted, calls.reach().found())});
+  }
+  RecordSending(sendings, nullptr);
   return calls.reach();
 }
 

@@ -33,7 +33,8 @@ std::vector<StoredValue> AllStoredValues();
 // Whether the library would refuse to send it. Sends nothing.
 bool WouldBeRefused(const StoredValue &value);
 
-// Sends each value, and marks those that are refused.
+// Sends each value, marks those that are refused, and records for which values
+// a mixer has not accepted them.
 Reach SendAgain(std::vector<StoredValue> *values);
 
 }  // namespace ztk::model

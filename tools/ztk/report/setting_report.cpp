@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/report/setting_report.h"
 
+#include <algorithm>
+
 #include "cli/strings.h"
 #include "cli/suggest.h"
 #include "ztk/model/products.h"
@@ -58,6 +60,23 @@ std::string SetCommand(const Setting &setting, std::uint32_t channel,
   std::string command = std::string("ztk ") + setting.name + " set ";
   if (setting.channels != 0) command += std::to_string(channel + 1) + " ";
   return command + std::to_string(index + 1);
+}
+
+std::string ApplyCommand(const Setting &setting, std::uint32_t channel,
+                         std::uint32_t index) {
+  if (!IsSentAgain(setting, index)) return SetCommand(setting, channel, index);
+  return setting.product == kOwnProduct
+             ? "ztk apply"
+             : "ztk apply --product " + ProductName(setting.product);
+}
+
+std::string EachOnce(const std::vector<std::string> &commands) {
+  std::string joined;
+  for (auto command = commands.begin(); command != commands.end(); ++command) {
+    if (std::find(commands.begin(), command, *command) != command) continue;
+    joined += (joined.empty() ? "" : "; ") + *command;
+  }
+  return joined;
 }
 
 std::string NearestChoice(const std::string &words,

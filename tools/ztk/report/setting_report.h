@@ -33,6 +33,14 @@ std::string Summary(const Setting &setting);
 std::string SetCommand(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
 
+// The command that sends a remembered value and the others of its model again:
+// "ztk apply"; that of the value alone where apply does not send it.
+std::string ApplyCommand(const Setting &setting, std::uint32_t channel,
+                         std::uint32_t index);
+
+// "ztk apply; ztk midi set 7": each of the commands once.
+std::string EachOnce(const std::vector<std::string> &commands);
+
 // "; nearest: MIC (6)" for words that name no choice; empty if no choice is
 // similar.
 std::string NearestChoice(const std::string &words,

@@ -74,6 +74,9 @@ cli::Section Files() {
       {.name = "tarvix/ztk-history.jsonl",
        .meaning = "The changes that ztk has made, for ztk undo"});
   section.terms.push_back(
+      {.name = "tarvix/ztk-unsent.jsonl",
+       .meaning = "The choices that ztk could not send to every mixer"});
+  section.terms.push_back(
       {.name = "tarvix/ztk.lock",
        .meaning = "Locked while ztk changes something; another ztk waits"});
   return section;

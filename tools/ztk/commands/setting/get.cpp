@@ -9,6 +9,7 @@
 #include "ztk/model/remembered.h"
 #include "ztk/progress.h"
 #include "ztk/report/silence_report.h"
+#include "ztk/report/unsent_report.h"
 
 namespace ztk::program {
 
@@ -52,6 +53,8 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
     report.text = Belonging(setting) + " ztk shows the remembered " +
                   (channels.size() == 1 ? "choice.\n" : "choices.\n");
   const std::string why = WarnOfUnreadable(setting, &report);
+  std::vector<StoredValue> values;
+  const RecordedSending recorded;
   for (const std::uint32_t channel : channels) {
     const auto index = CurrentIndex(setting, product, channel);
     if (!index) {
@@ -60,9 +63,15 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
                         ": " + Belonging(setting) + " Leave --product out");
     }
     const bool remembered = Remembered(setting, channel).has_value();
+    if (remembered) {
+      values.push_back(
+          {.setting = &setting, .channel = channel, .index = *index});
+    }
     Json fields;
     AddValueFields(setting, channel, *index, &fields);
     fields["remembered"] = remembered;
+    fields["unsent"] = UnsentField(
+        remembered ? recorded.Of(setting, channel, *index) : Sending::Complete);
     report.fields["channels"].push_back(std::move(fields));
     report.text += PlaceName(setting, channel) + "  " +
                    DescribedValue(setting, channel, *index) +
@@ -70,6 +79,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
                     : why.empty() ? ", default: nothing is remembered\n"
                                   : ", default: the file cannot be read\n");
   }
+  if (!quiet) AddUnsent(values, &report);
   if (&setting == &kInput && (!quiet || arguments.Has(Parameter::kJson))) {
     AddSilenceOf(channels, &report);
   }

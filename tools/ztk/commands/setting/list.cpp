@@ -4,6 +4,7 @@
 #include "cli/terminal.h"
 #include "ztk/commands/setting/setting_parts.h"
 #include "ztk/model/remembered.h"
+#include "ztk/report/unsent_report.h"
 
 namespace ztk::program {
 
@@ -59,8 +60,12 @@ Report ListChoices(const Setting &setting, const Arguments &arguments) {
     report.text = Belonging(setting) + " * marks the remembered choice.\n";
   }
   WarnOfUnreadable(setting, &report);
-  for (const std::uint32_t channel : ChannelsFor(setting, arguments)) {
+  const std::vector<std::uint32_t> channels = ChannelsFor(setting, arguments);
+  for (const std::uint32_t channel : channels) {
     AddChoiceList(setting, product, channel, &report);
+  }
+  if (!arguments.Has(Parameter::kQuiet) && product == setting.product) {
+    AddUnsent(StoredValues(setting, channels), &report);
   }
   return report;
 }

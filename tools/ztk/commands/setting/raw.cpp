@@ -84,6 +84,7 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
     });
   }();
   if (result == ZTK_REJECTED) ThrowRefused(setting, product, raw);
+  if (calls.acceptedLast() > 0) RecordReplaced(setting, channel, std::nullopt);
   Report report;
   AddSettingNames(setting, product, &report);
   AddRawFields(setting, raw, &report);

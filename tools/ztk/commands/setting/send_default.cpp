@@ -66,6 +66,7 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
   for (std::size_t i = 0; i < channels.size(); ++i) {
     const std::uint32_t channel = channels[i];
     // The default of a channel is the choice with its own number.
+    if (sent.accepted[i] > 0) RecordReplaced(setting, channel, channel);
     Json fields;
     AddValueFields(setting, channel, channel, &fields);
     report.fields["channels"].push_back(std::move(fields));

@@ -6,6 +6,7 @@
 #include "cli/strings.h"
 #include "cli/suggest.h"
 #include "ztk/commands/setting/pick.h"
+#include "ztk/model/history/unsent.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
 
@@ -20,13 +21,39 @@ std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments) {
   return word == nullptr ? setting.product : ParseProduct(*word);
 }
 
+namespace {
+
+std::string WithoutSpaces(std::string text) {
+  std::erase(text, ' ');
+  return text;
+}
+
+// ", for USB input 1 to USB input 5": how ztk names the channels 1 to 5.
+std::string ChannelNames(const Setting &setting) {
+  return ", for " + PlaceName(setting, 0) + " to " +
+         PlaceName(setting, setting.channels - 1);
+}
+
+}  // namespace
+
 std::optional<std::uint32_t> ParseChannel(const Setting &setting,
                                           const std::string &word) {
-  const bool named = cli::LowerCase(word).starts_with("ch");
+  const std::string wanted = WithoutSpaces(cli::LowerCase(word));
+  const std::string place = WithoutSpaces(cli::LowerCase(setting.place));
+  std::size_t begin = 0;
+  for (const std::string &name :
+       {place, std::string("usb"), std::string("ch")}) {
+    if (begin == 0 && wanted.starts_with(name)) begin = name.size();
+  }
   const auto number =
-      cli::ParseNumber(named ? word.substr(2) : word, 1, setting.channels);
+      cli::ParseNumber(wanted.substr(begin), 1, setting.channels);
   if (!number) return std::nullopt;
   return *number - 1;
+}
+
+std::string NearestChannel(const Setting &setting, const std::string &word) {
+  return cli::NearestAndAccepted(word, 1, setting.channels) +
+         ChannelNames(setting);
 }
 
 std::optional<std::uint32_t> ChannelFor(const Setting &setting,
@@ -34,10 +61,9 @@ std::optional<std::uint32_t> ChannelFor(const Setting &setting,
   const std::string *word = arguments.Find(Parameter::kChannel);
   if (word == nullptr) return std::nullopt;
   if (const auto channel = ParseChannel(setting, *word)) return channel;
-  throw Failure(ExitCode::Usage,
-                std::string(setting.title) + " has no channel " +
-                    cli::Quoted(*word) +
-                    cli::NearestAndAccepted(*word, 1, setting.channels));
+  throw Failure(ExitCode::Usage, std::string(setting.title) +
+                                     " has no channel " + cli::Quoted(*word) +
+                                     NearestChannel(setting, *word));
 }
 
 std::vector<std::uint32_t> ChannelsFor(const Setting &setting,
@@ -54,6 +80,7 @@ std::uint32_t RequiredChannel(const Setting &setting,
     return PickChannel(setting);
   throw Failure(ExitCode::Usage, "a CHANNEL is missing; accepted: 1 to " +
                                      std::to_string(setting.channels) +
+                                     ChannelNames(setting) +
                                      SeeHelp(setting, verb));
 }
 
@@ -106,6 +133,17 @@ void WarnOfOtherModel(const Setting &setting, const Reach &reach,
                                   ? " The attached mixer is a "
                                   : " The attached mixers are: ") +
                              cli::Listed(names));
+}
+
+void RecordReplaced(const Setting &setting, std::uint32_t channel,
+                    std::optional<std::uint32_t> index) {
+  const auto remembered = Remembered(setting, channel);
+  if (!remembered || remembered == index) return;
+  RecordSending({{.setting = &setting,
+                  .channel = channel,
+                  .index = *remembered,
+                  .sending = Sending::Replaced}},
+                nullptr);
 }
 
 DeliveryTexts NeverRemembered(const std::string &command) {

@@ -19,10 +19,14 @@ namespace ztk::program {
 // setting belongs to.
 std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments);
 
-// Parses a channel such as "2" or "CH2". Returns its index, counted from 0, or
-// none if there is no such channel.
+// Parses a channel such as "2", "CH2", "usb 2" or "USB input 2". Returns its
+// index, counted from 0, or none if there is no such channel.
 std::optional<std::uint32_t> ParseChannel(const Setting &setting,
                                           const std::string &word);
+
+// "; nearest: 3; accepted: 1 to 3, for USB output 1 to USB output 3", for a
+// word that is no channel.
+std::string NearestChannel(const Setting &setting, const std::string &word);
 
 // The given channel, counted from 0; none when it was left out. Throws when
 // there is no such channel.
@@ -68,6 +72,11 @@ void RequireReadable(const Setting &setting, const std::string &start);
 // reports another model than that of the setting.
 void WarnOfOtherModel(const Setting &setting, const Reach &reach,
                       Report *report);
+
+// Records that mixers have accepted another value than the remembered one.
+// `index` is its index, or none for a value that is not a choice.
+void RecordReplaced(const Setting &setting, std::uint32_t channel,
+                    std::optional<std::uint32_t> index);
 
 // The texts for a command that sends a value without remembering it. `command`
 // sends it once more.

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/history/forget.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
 #include "platform/property_list.h"
 #include "platform/text.h"
 #include "store/settings_path.h"
+#include "ztk/model/history/unsent.h"
 
 namespace ztk::model {
 
@@ -67,15 +67,19 @@ ForgottenStep ForgetValues(const std::string &command,
   }
   const RecordedStep recorded(std::move(step), history);
   result.notRecorded = recorded.notRecorded();
+  std::vector<LastSending> forgotten;
   for (const StoredValue &value : values) {
     result.values.push_back(
         {.value = value,
          .notForgotten = RemoveRemembered(*value.setting, value.channel)});
+    if (!result.values.back().notForgotten.empty()) continue;
+    forgotten.push_back({.setting = value.setting,
+                         .channel = value.channel,
+                         .index = value.index,
+                         .sending = Sending::Complete});
   }
-  const bool anyDone = std::any_of(
-      result.values.begin(), result.values.end(),
-      [](const ForgottenValue &one) { return one.notForgotten.empty(); });
-  if (!anyDone) recorded.TakeBack();
+  RecordSending(forgotten, history);
+  if (forgotten.empty()) recorded.TakeBack();
   return result;
 }
 

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/strings.h"
+#include "ztk/model/history/unsent.h"
 #include "ztk/model/remembered.h"
 
 namespace ztk::model {
@@ -177,6 +178,7 @@ MadeStep MakeStep(const std::string &command,
       result.made.changes.begin(), result.made.changes.end(),
       [](const MadeChange &one) { return one.remembered || one.forgotten; });
   if (!kept) recorded.TakeBack();
+  RecordSending(SendingsOf(result.made), history);
   return result;
 }
 

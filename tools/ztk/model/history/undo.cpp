@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "ztk/model/history/unsent.h"
 #include "ztk/model/remembered.h"
 
 namespace ztk::model {
@@ -122,6 +123,7 @@ UndoneSteps UndoSteps(const std::vector<Change> &changes, std::size_t count,
       });
   if (undone.dropped) history->DropLast(count);
   undone.saved = history->Save();
+  RecordSending(SendingsOf(undone.made), history);
   return undone;
 }
 

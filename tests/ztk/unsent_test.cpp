@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+//
+// What ztk says about a remembered value that the mixers may not have.
+#include "ztk/cli_world.h"
+
+namespace ztk::test {
+namespace {
+
+class Unsent : public CliWorld {};
+
+constexpr char kBoost[] =
+    "Boost level is a setting of the VRM-D6. ztk shows the remembered choice.\n"
+    "Boost level  -10 dB (2)\n";
+constexpr char kNotSent[] =
+    "ztk could not send to every mixer: Boost level\n"
+    "To send what is remembered, run: ztk apply\n";
+
+TEST_F(Unsent, IsNothingAfterAChangeThatEveryMixerAccepted) {
+  const Result result =
+      Inside({"-n", "2"}, "ztk boost set 2 -q; ztk boost get");
+  EXPECT_EQ(result.out, kBoost);
+}
+
+TEST_F(Unsent, IsAChangeThatAMixerRefused) {
+  const Result result = Inside(
+      {"-n", "2"},
+      "ztk-virtual-mixer fault -m 2 stall >&2; ztk boost set 2 -q;"
+      "ztk-virtual-mixer fault none >&2; ztk boost get; ztk boost get -q");
+  EXPECT_EQ(result.out,
+            std::string(kBoost) + kNotSent + "Boost level  -10 dB (2)\n");
+}
+
+TEST_F(Unsent, IsAChangeWithoutAMixerUntilItIsSent) {
+  NoMixer("ztk boost set 2");
+  Result result = OneMixer("ztk boost get; ztk boost list | tail -n 2");
+  EXPECT_EQ(result.out, std::string(kBoost) + kNotSent + kNotSent);
+  result = OneMixer("ztk apply -q; ztk boost get");
+  EXPECT_EQ(result.out, kBoost);
+}
+
+TEST_F(Unsent, IsFollowedByTheNextStepInStatus) {
+  NoMixer("ztk boost set 2; ztk input set 2 mic");
+  const Result result = OneMixer("ztk status | tail -n 5");
+  EXPECT_EQ(result.out,
+            "Remembered\n"
+            "  USB input 2   MIC (6), VRM-D6\n"
+            "  Boost level   -10 dB (2), VRM-D6\n"
+            "ztk could not send to every mixer: USB input 2, Boost level\n"
+            "Next: run ztk apply, which sends what is remembered\n");
+}
+
+TEST_F(Unsent, IsWhatARawValueOrADefaultHasReplaced) {
+  Remember("VRM-D6", {{"Output0", 5}});
+  Remember("VRM-B5", {{"Input0", 0}, {"Input1", 0}});
+  const Result result = OneMixer(
+      "ztk input raw 1 0 3 -q; ztk output default -q;"
+      "ztk input get 1; ztk output get -q; ztk output get --json");
+  EXPECT_THAT(result.out,
+              HasSubstr("USB input 1  MIC (6)\n"
+                        "ztk has sent another value since: USB input 1\n"
+                        "To send what is remembered, run: ztk apply\n"));
+  const Json json = OneObject(LastLine(result.out));
+  // The default of the first output is the remembered choice.
+  EXPECT_EQ(json["channels"][0]["unsent"], nullptr);
+  EXPECT_EQ(json["channels"][1]["unsent"], "replaced");
+  EXPECT_EQ(json["channels"][2]["unsent"], nullptr);
+  EXPECT_THAT(OneMixer("ztk output get").out,
+              HasSubstr("since: USB output 2\nTo send what is remembered, run: "
+                        "ztk apply --product VRM-B5\n"));
+}
+
+TEST_F(Unsent, IsNotClaimedOfARawValueThatNoMixerAccepted) {
+  Remember("VRM-D6", {{"Output0", 5}});
+  const Result result = OneMixer(
+      "ztk-virtual-mixer fault stall >&2; ztk input raw 1 0 3 -q;"
+      "ztk-virtual-mixer fault none >&2; ztk input get 1 --json");
+  EXPECT_EQ(OneObject(result.out)["channels"][0]["unsent"], nullptr);
+}
+
+TEST_F(Unsent, IsNotClaimedOfAValueOfAnotherProgram) {
+  NoMixer("ztk boost set 3");
+  Remember("VRM-D6", {{"MaxLevel", 1}});
+  EXPECT_EQ(OneMixer("ztk boost get").out, kBoost);
+}
+
+TEST_F(Unsent, IsAnUndoThatWasNotSent) {
+  const Result result = OneMixer(
+      "ztk boost set 2 -q; ztk boost set 1 -q;"
+      "ztk-virtual-mixer fault stall >&2; ztk undo -q;"
+      "ztk-virtual-mixer fault none >&2; ztk status --json");
+  EXPECT_EQ(OneObject(result.out)["remembered"][0]["unsent"], "incomplete");
+}
+
+TEST_F(Unsent, EndsWithResetAndWithTheNextSet) {
+  NoMixer("ztk boost set 2; ztk reset");
+  Remember("VRM-D6", {{"MaxLevel", 1}});
+  EXPECT_EQ(OneMixer("ztk boost get").out, kBoost);
+  NoMixer("ztk boost set 2");
+  EXPECT_EQ(OneMixer("ztk boost set 2 -q; ztk boost get").out, kBoost);
+}
+
+TEST_F(Unsent, NamesTheCommandOfAValueThatApplyDoesNotSend) {
+  NoMixer("ztk midi set 7");
+  EXPECT_THAT(OneMixer("ztk midi get").out,
+              HasSubstr("\nTo send what is remembered, run: ztk midi set 7\n"));
+}
+
+TEST_F(Unsent, IsNotKnownWithoutAMixerWhichIsSaidInstead) {
+  NoMixer("ztk boost set 2");
+  const std::string none =
+      "No mixer is attached; when one is attached, run: ztk apply\n";
+  EXPECT_EQ(NoMixer("ztk boost get").out, kBoost + none);
+  EXPECT_EQ(NoMixer("ztk boost list | tail -n 1").out, none);
+  EXPECT_EQ(LastLine(NoMixer("ztk status").out),
+            "Next: plug the mixer in and switch it on, then run ztk apply; if "
+            "that does not help, run ztk doctor");
+  EXPECT_THAT(NoMixer("ztk midi get").out, Not(HasSubstr("ztk apply")));
+}
+
+}  // namespace
+}  // namespace ztk::test

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+//
+// The remembered values that the mixers may not have. A mixer cannot be asked
+// for its choice, so this program records when it could not send one.
+#ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_UNSENT_H_
+#define ZTK_TOOLS_ZTK_MODEL_HISTORY_UNSENT_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "ztk/model/change.h"
+#include "ztk/model/history/history.h"
+#include "ztk/model/settings.h"
+
+namespace ztk::model {
+
+enum class Sending : std::uint8_t {
+  Complete,    // each attached mixer has accepted the value, or none is known
+               // that has not
+  Incomplete,  // no mixer was attached, or one has not accepted the value
+  Replaced  // afterwards, a mixer has accepted a value that is not remembered
+};
+
+// What this program sent last to a channel of a setting that has this
+// remembered value.
+struct LastSending {
+  const Setting *setting;
+  std::uint32_t channel;
+  std::uint32_t index;
+  Sending sending;
+};
+
+// Complete when each of the mixers has accepted the value, and there is one.
+Sending SendingTo(std::size_t accepted, std::size_t mixers);
+
+// The sendings of the changes that were stored.
+std::vector<LastSending> SendingsOf(const MadeChanges &made);
+
+// Records each value until it is sent to each mixer. `history` has the lock;
+// without one, takes the lock if the record changes, and does nothing when
+// another program keeps it.
+void RecordSending(const std::vector<LastSending> &sendings,
+                   const History *history);
+
+// What is recorded, as it is in the file now.
+class RecordedSending {
+ public:
+  RecordedSending();
+  // Complete when the value has changed since: another program has set it.
+  Sending Of(const Setting &setting, std::uint32_t channel,
+             std::uint32_t index) const;
+
+ private:
+  std::vector<Step> steps_;
+};
+
+}  // namespace ztk::model
+
+#endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_UNSENT_H_
