@@ -59,6 +59,30 @@ TEST_F(TypedWords, AskForNoOutput) {
   EXPECT_EQ(NoMixer("ztk watch -q").status, 2);
 }
 
+TEST_F(TypedWords, NameAUsbChannelInSeveralWays) {
+  const Result result = OneMixer(
+      "ztk input set usb2 mic -q; ztk input set 'USB 2' post -q;"
+      "ztk input set usb 2 6 -q; ztk input get 'USB input 2' -q;"
+      "ztk input get usb 2 -q; ztk output get USB 1 -q");
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(result.out,
+            "USB input 2  MIC (6)\nUSB input 2  MIC (6)\n"
+            "USB output 1  CH1 (1), default: nothing is remembered\n");
+  EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0209 8002 0000",
+                                    "mixer 1: 40 03 0206 8002 0000",
+                                    "mixer 1: 40 03 0209 8002 0000"));
+}
+
+TEST_F(TypedWords, NameTheOutputsThatAreAccepted) {
+  const Result result = NoMixer("ztk output set 3/4 aux; ztk output set");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.err,
+            "ztk: USB output audio has no channel \"3/4\"; accepted: 1 to 3, "
+            "for USB output 1 to USB output 3\n"
+            "ztk: a CHANNEL is missing; accepted: 1 to 3, for USB output 1 to "
+            "USB output 3; see ztk output set --help\n");
+}
+
 TEST_F(TypedWords, NameAChoiceAsItIsPrintedOrByOneOfItsWords) {
   Result result = OneMixer(
       "ztk boost set '-10 dB (2)'; ztk boost set -10 dB '(2)'; "

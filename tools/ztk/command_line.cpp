@@ -8,6 +8,7 @@
 
 #include "build_config.h"
 #include "cli/parser.h"
+#include "cli/strings.h"
 #include "cli/terminal.h"
 #include "ztk/commands/command.h"
 #include "ztk/commands/other_commands.h"
@@ -23,6 +24,23 @@ namespace {
 bool AsksForJson(const std::vector<std::string> &words) {
   const auto end = std::find(words.begin(), words.end(), "--");
   return std::find(words.begin(), end, Parameter::kJson) != end;
+}
+
+// A channel is also called "USB 3", which a shell gives as two words.
+std::vector<std::string> WithWholeChannels(std::vector<std::string> words) {
+  if (words.empty() ||
+      (words.front() != "input" && words.front() != "output")) {
+    return words;
+  }
+  for (std::size_t i = 1; i + 1 < words.size(); ++i) {
+    if (cli::LowerCase(words[i]) != "usb" || !cli::ParseNumber(words[i + 1])) {
+      continue;
+    }
+    words[i] += words[i + 1];
+    words.erase(words.begin() + static_cast<std::ptrdiff_t>(i) + 1);
+    break;
+  }
+  return words;
 }
 
 Report Interrupted() {
@@ -67,7 +85,7 @@ int RunCommandLine(const std::vector<std::string> &words) {
   const bool json = AsksForJson(words);
   try {
     const cli::Program program = cli::ThisProgram(cli::FirstWord(words));
-    const cli::Invocation call = cli::Parse(program, words);
+    const cli::Invocation call = cli::Parse(program, WithWholeChannels(words));
     if (call.command != nullptr) return call.command->run(call.arguments);
     const bool isCompletion = call.kind == cli::Invocation::Kind::Completion;
     return Print(call.path, Shown(call), {.json = json && !isCompletion});

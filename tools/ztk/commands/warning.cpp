@@ -8,6 +8,7 @@
 #include "cli/strings.h"
 #include "cli/suggest.h"
 #include "ztk/commands/other_commands.h"
+#include "ztk/commands/setting/setting_parts.h"
 #include "ztk/model/mixers/mixer_status.h"
 #include "ztk/model/mixers/silence.h"
 #include "ztk/model/products.h"
@@ -187,13 +188,13 @@ std::vector<std::string> LanguageNames() {
 Report ShowWarning(const Arguments &arguments) {
   std::uint32_t channel = 0;
   if (const std::string *word = arguments.Find(Parameter::kOfChannel)) {
-    const auto number = cli::ParseNumber(*word);
-    if (!number || *number < 1 || *number > kInput.channels) {
+    const auto parsed = ParseChannel(kInput, *word);
+    if (!parsed) {
       throw Failure(ExitCode::Usage,
                     "USB input audio has no channel " + cli::Quoted(*word) +
                         cli::NearestAndAccepted(*word, 1, kWarningChannels));
     }
-    channel = *number - 1;
+    channel = *parsed;
   }
   std::uint32_t language = kUsersLanguage;
   if (const std::string *word = arguments.Find(Parameter::kLanguage)) {

@@ -99,17 +99,17 @@ std::uint32_t PickChannel(const Setting &setting) {
             PlaceName(setting, channel) + "\n";
   }
   std::uint32_t picked = 0;
-  AskUntilAccepted(
-      setting.title, list, std::string(setting.title) + ", channel: ",
-      [&](const std::string &answer) {
-        const auto channel = ParseChannel(setting, answer);
-        if (!channel) {
-          return "no channel " + cli::Quoted(answer) +
-                 cli::NearestAndAccepted(answer, 1, setting.channels) + "\n";
-        }
-        picked = *channel;
-        return std::string();
-      });
+  AskUntilAccepted(setting.title, list,
+                   std::string(setting.title) + ", channel: ",
+                   [&](const std::string &answer) {
+                     const auto channel = ParseChannel(setting, answer);
+                     if (!channel) {
+                       return "no channel " + cli::Quoted(answer) +
+                              NearestChannel(setting, answer) + "\n";
+                     }
+                     picked = *channel;
+                     return std::string();
+                   });
   return picked;
 }
 
