@@ -60,3 +60,10 @@ function(ztk_pack_relocations target)
     target_link_options(${target} PRIVATE LINKER:-z,pack-relative-relocs)
   endif()
 endfunction()
+
+# Most of the time of a short command passes in the kernel, which maps the pages of the
+# program that are used: the smaller the program, the fewer. Optimised for size, ztk is
+# almost half as large, and "ztk status" takes one per cent less time.
+function(ztk_optimise_for_size target)
+  target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-Os>)
+endfunction()
