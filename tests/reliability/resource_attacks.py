@@ -173,7 +173,7 @@ class ResourceAttacks(Attack):
         count_file = self.place.home / "allocations"
         # LD_PRELOAD cannot contain a path with a space.
         library = self.place.home / "fail_allocation.so"
-        library.symlink_to(self.fail_allocation)
+        library.symlink_to(os.path.abspath(self.fail_allocation))
         preload = " ".join(filter(None, (os.environ.get("LD_PRELOAD"),
                                          str(library))))
         self.place.refill()

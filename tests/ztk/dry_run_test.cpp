@@ -124,7 +124,7 @@ TEST_F(DryRun, ShowsRequestsFileAndAnnouncement) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(
       result.out,
-      "Dry run: nothing is sent or remembered. This would happen:\n"
+      "Dry run: nothing is sent or stored. This would happen:\n"
       "  mixer 1  USB input 2: Post CH2 Fader (3)\n"
       "  mixer 1  asked for the positions of its input selectors\n"
       "  remembered  USB input 2: Cross Fader B (5) -> Post CH2 Fader (3)\n"
@@ -163,7 +163,7 @@ TEST_F(DryRun, ShowsEachRequestAndEachFileOnce) {
   const Result result =
       Inside({"-n", "3"}, "ztk import $DIR/club.json --dry-run");
   EXPECT_EQ(result.out,
-            "Dry run: nothing is sent or remembered. This would happen:\n"
+            "Dry run: nothing is sent or stored. This would happen:\n"
             "  mixers 1, 2, 3  USB input 1: MIC (6)\n"
             "  mixers 1, 2, 3  asked for the positions of its input selectors\n"
             "  mixers 1, 2, 3  USB input 2: MIC (6)\n"

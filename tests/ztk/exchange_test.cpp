@@ -275,7 +275,7 @@ TEST_F(Import, NamesTheCommandsThatSendTheDefaultsOfWhatItForgets) {
              "cd $DIR; ztk import --only c.json; ztk-virtual-mixer fault none\n"
              "> $DIR/seen; ztk input set 4 1; ztk import --only c.json");
   EXPECT_EQ(Line(result.err, 0),
-            "ztk: the change is remembered, but the mixer "
+            "ztk: the change is saved, but the mixer "
             "refused it; switch it off and on again, then run: ztk "
             "input set 4 1; ztk import --only c.json");
   EXPECT_EQ(

@@ -34,10 +34,9 @@ TEST_F(Reach, IsThreeWithoutAMixerAndTheValueIsRemembered) {
   EXPECT_EQ(json["announced"], true);
   EXPECT_EQ(Told(json), "0/0");
   EXPECT_EQ(ErrorWord(json), "no-mixer");
-  EXPECT_EQ(
-      LastLine(result.err),
-      "ztk: USB input 2 is remembered, but not sent: no mixer is attached; "
-      "when one is attached, run: ztk input apply");
+  EXPECT_EQ(LastLine(result.err),
+            "ztk: USB input 2 is saved, but not sent: no mixer is attached; "
+            "when one is attached, run: ztk input apply");
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output1"));
 }
 
@@ -52,7 +51,7 @@ TEST_F(Reach, ExplainsAMixerThatMayNotBeOpened) {
   EXPECT_THAT(result.err, HasSubstr("attached but cannot be opened: you have "
                                     "no permission for /dev/bus/usb/001/002"));
   EXPECT_THAT(result.err, HasSubstr("; ztk doctor tells why; "));
-  EXPECT_THAT(result.err, HasSubstr("is remembered, but not sent"));
+  EXPECT_THAT(result.err, HasSubstr("is saved, but not sent"));
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
   EXPECT_THAT(Requests(), IsEmpty());
 }
@@ -115,7 +114,7 @@ TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
     EXPECT_EQ(Told(json), row.told);
     EXPECT_EQ(json["result"], 100);
     EXPECT_EQ(json["remembered"], true);
-    EXPECT_EQ(result.err, std::string("ztk: Boost level is remembered, but ") +
+    EXPECT_EQ(result.err, std::string("ztk: Boost level is saved, but ") +
                               row.message + "ztk boost apply\n");
   }
 }
@@ -173,7 +172,7 @@ TEST_F(Reach, SaysOnceThatTheMixerRefusedTheValue) {
   EXPECT_EQ(result.out, "Boost level: -10 dB (2)\nBoost level: -10 dB (2)\n");
   EXPECT_EQ(
       result.err,
-      "ztk: Boost level is remembered, but the mixer refused it; switch it off "
+      "ztk: Boost level is saved, but the mixer refused it; switch it off "
       "and on again, then run: ztk boost apply\n"
       "ztk: the mixer refused it; switch it off and on again, then run: "
       "ztk boost apply\n");

@@ -13,7 +13,7 @@ class Undo : public CliWorld {
   }
 };
 
-TEST_F(Undo, PutsBackStepByStepLikeASetter) {
+TEST_F(Undo, RestoresOneChangePerCallAndSendsIt) {
   Remember("VRM-D6", {{"Output1", 4}, {"MaxLevel", 0}});
   const Result result = OneMixer(
       "ztk input set 2 3 > /dev/null; ztk boost set 2 > /dev/null;"
@@ -38,7 +38,7 @@ TEST_F(Undo, PutsBackStepByStepLikeASetter) {
   EXPECT_EQ(writes[5], "mixer 1: 40 03 0208 8002 0000");
 }
 
-TEST_F(Undo, TellsTheSameInJsonAndAnnouncesIt) {
+TEST_F(Undo, ReportsTheUndoneChangeInJsonAndAnnouncesIt) {
   Remember("VRM-K2", {{"MidiChannel", 4}});
   const Result result = OneMixer("ztk midi set 9 > /dev/null; ztk undo --json");
   const Json json = OneObject(result.out);
@@ -86,13 +86,13 @@ TEST_F(Undo, LeavesAloneWhatAnotherProgramHasChangedSince) {
       HasSubstr("not undone, because another program has changed it since: USB "
                 "input 1 is MIC (6); to restore the earlier value, run: ztk "
                 "input set 1 2"));
-  // Each undo decides about one step only.
+  // Each call of undo handles one step only.
   EXPECT_THAT(Line(result.out, 1), HasSubstr("Boost level: -10 dB (2) undone"));
   EXPECT_EQ(Line(result.out, 2), "0");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0300 8003 0000"));
 }
 
-TEST_F(Undo, DoesNotCountWhatChangedNothing) {
+TEST_F(Undo, DoesNotRecordWhatChangesNoRememberedValue) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   const Result result = OneMixer(
       "ztk boost set 2 > /dev/null; ztk boost set 2 > /dev/null;"
@@ -105,7 +105,7 @@ TEST_F(Undo, DoesNotCountWhatChangedNothing) {
   EXPECT_EQ(Line(result.out, 1), "Nothing to undo.");
 }
 
-TEST_F(Undo, SaysThatItSkipsWhatHasNoEffectAnyMore) {
+TEST_F(Undo, SaysThatItSkipsAChangeThatWasAlreadyReverted) {
   Remember("VRM-D6", {{"MaxLevel", 0}, {"Output1", 4}});
   OneMixer("ztk boost set 2; ztk input set 2 3");
   Remember("VRM-D6", {{"MaxLevel", 1}, {"Output1", 4}});
@@ -143,7 +143,7 @@ TEST_F(Undo, ExitsWith3WithoutAMixerButRestoresTheValue) {
   EXPECT_EQ(LastLine(result.out), "Boost level  -5 dB (1)");
 }
 
-TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
+TEST_F(Undo, NamesTheCommandsThatSendTheValuesOfEachModel) {
   EXPECT_THAT(
       NoMixer("ztk output set 1 2; ztk undo").err,
       HasSubstr(
@@ -166,8 +166,8 @@ TEST_F(Undo, TellsHowToSendAgainWhatBelongsToAnotherModel) {
               HasSubstr("run: ztk apply --product VRM-B5; ztk apply\n"));
 }
 
-// What apply does not send again.
-TEST_F(Undo, TellsToSetAHighMidiChannelOnceMore) {
+// ztk apply sends only the channels 1 to 4.
+TEST_F(Undo, NamesTheSetCommandForAHighMidiChannel) {
   Remember("VRM-K2", {{"MidiChannel", 9}});
   EXPECT_THAT(LastLine(NoMixer("ztk midi set 1; ztk undo").err),
               testing::EndsWith("when one is attached, run: ztk midi set 10"));
@@ -215,7 +215,7 @@ TEST_F(Undo, TakesBackSeveralChangesAtOnce) {
   EXPECT_EQ(Writes().back(), "mixer 1: 40 03 0300 8003 0000");
 }
 
-TEST_F(Undo, StopsAtAValueOfAnotherProgram) {
+TEST_F(Undo, StopsAtAValueThatAnotherProgramHasWritten) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   OneMixer("ztk boost set 2");
   Remember("VRM-D6", {{"MaxLevel", 2}});
@@ -287,13 +287,15 @@ TEST_F(Reset, SaysWhatItCannotForget) {
   const Result result = OneMixer(
       "folder=$HOME/.config/tarvix/Preferences; chattr +i $folder || exit 97\n"
       "trap 'chattr -i $folder' EXIT; ztk reset; echo $?");
-  if (result.status == 97) GTEST_SKIP() << "no file can be protected here";
+  if (result.status == 97)
+    GTEST_SKIP()
+        << "this file system cannot protect a folder, or only root may do so";
   EXPECT_EQ(Line(result.out, 0), "Boost level: -5 dB (1), still remembered");
   EXPECT_EQ(LastLine(result.out), "5");
   EXPECT_THAT(result.err, HasSubstr("not everything is forgotten: "));
 }
 
-TEST_F(Undo, UsesWhatCanBeReadOfADamagedHistory) {
+TEST_F(Undo, UsesTheReadableLinesOfADamagedHistory) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   OneMixer("ztk boost set 2");
   const std::string good = ReadAll(History());
@@ -315,14 +317,14 @@ TEST_F(Undo, UsesWhatCanBeReadOfADamagedHistory) {
   EXPECT_EQ(SplitLines(result.err).size(), 1U);
 }
 
-TEST_F(Undo, IsKeptUnderTheStateFolderOfTheUser) {
+TEST_F(Undo, KeepsItsHistoryInXdgStateHome) {
   OneMixer("XDG_STATE_HOME=$DIR/elsewhere ztk boost set 2");
   EXPECT_FALSE(std::filesystem::exists(History()));
   EXPECT_THAT(ReadAll(home_.path() / "elsewhere/tarvix/ztk-history.jsonl"),
               StartsWith("{\"command\":\"boost set\",\"changes\":[{"));
 }
 
-TEST_F(Undo, OnlyWarnsWhenTheHistoryCannotBeWritten) {
+TEST_F(Undo, FailsWithoutAWritableHistoryOfWhichSetOnlyWarns) {
   WriteAll(home_.path() / ".local/state", "");
   const Result result = OneMixer("ztk boost set 2; echo $?; ztk undo; echo $?");
   EXPECT_EQ(Line(result.out, 0),
@@ -334,7 +336,7 @@ TEST_F(Undo, OnlyWarnsWhenTheHistoryCannotBeWritten) {
                          "change, because it was not recorded: "));
 }
 
-TEST_F(Undo, GoesBackAHundredStepsAndNoFurther) {
+TEST_F(Undo, KeepsAtMostAHundredStepsInTheHistory) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   std::string history;
   for (int i = 0; i < 150; ++i) {
@@ -344,11 +346,11 @@ TEST_F(Undo, GoesBackAHundredStepsAndNoFurther) {
   }
   WriteAll(History(), history);
   OneMixer("ztk boost set 3");
-  EXPECT_LE(SplitLines(ReadAll(History())).size(), 100U);
+  EXPECT_EQ(SplitLines(ReadAll(History())).size(), 100U);
 }
 
-// A second program may be stopped while it holds the lock.
-TEST_F(Undo, NamesTheProcessThatHoldsTheLockAndDoesNothing) {
+// Another ztk may be suspended while it holds the lock.
+TEST_F(Undo, ChangesNothingAndNamesTheProcessThatHoldsTheLock) {
   const Result result = OneMixer(
       "ztk boost set 1 > /dev/null 2>&1\n"
       "exec 9<> $HOME/.local/state/tarvix/ztk.lock; flock 9\n"
@@ -363,7 +365,8 @@ TEST_F(Undo, NamesTheProcessThatHoldsTheLockAndDoesNothing) {
   EXPECT_EQ(Writes().size(), 1U);
 }
 
-// Root may read every file, but no user can read a link or a folder as a file.
+// ztk does not follow a link. A file without permissions would be readable for
+// a test that runs as root.
 TEST_F(Undo, NeverReplacesAHistoryThatCannotBeRead) {
   const std::filesystem::path folder = home_.path() / ".local/state/tarvix";
   std::filesystem::create_directories(folder);
@@ -410,10 +413,11 @@ TEST_F(Undo, DoesNotOpenALockThatIsALinkOrAPipe) {
 }
 
 // Without a usable HOME, ztk takes the home folder from the password database.
-// Here that is the folder of another user, which does not exist: the test
-// checks which paths the messages name, and that nothing is created.
+// The test runs ztk as a user whose home folder there does not exist. It checks
+// which paths the messages name, and that nothing is created.
 TEST_F(Undo, LooksInThePasswordDatabaseWithoutAUsableHome) {
-  if (geteuid() != 0) GTEST_SKIP() << "only root can be another user";
+  if (geteuid() != 0)
+    GTEST_SKIP() << "only root can run a program as another user";
   for (const char *home : {"-u HOME", "HOME=relative/home", "HOME="}) {
     SCOPED_TRACE(home);
     // Nobody's home, /nonexistent, is missing and cannot be created.
@@ -425,7 +429,8 @@ TEST_F(Undo, LooksInThePasswordDatabaseWithoutAUsableHome) {
         "'\n"
         "$run ztk --version > /dev/null || exit 97\n"
         "$run ztk boost set 2; $run ztk undo; ls -d relative /nonexistent");
-    if (result.status == 97) GTEST_SKIP() << "others cannot run the program";
+    if (result.status == 97)
+      GTEST_SKIP() << "other users may not run the program";
     EXPECT_THAT(result.err, HasSubstr("/nonexistent/.local/state/tarvix"));
     EXPECT_THAT(result.out, Not(HasSubstr("relative\n")));
     EXPECT_THAT(result.out, Not(HasSubstr("/nonexistent\n")));
@@ -442,9 +447,10 @@ TEST_F(Undo, DoesNotCreateAMissingHome) {
   EXPECT_FALSE(std::filesystem::exists(home_.path() / "missing"));
 }
 
-// With a user's HOME kept, as by "sudo -E".
-TEST_F(Undo, MakesItsFilesAsTheUserToWhomTheHomeBelongs) {
-  if (geteuid() != 0) GTEST_SKIP() << "only root can act as a user";
+// Root runs ztk with the HOME of another user, as "sudo -E" does.
+TEST_F(Undo, CreatesItsFilesAsTheOwnerOfTheHomeFolder) {
+  if (geteuid() != 0)
+    GTEST_SKIP() << "only root can create files for another user";
   const Result result = OneMixer(
       "mkdir $DIR/user; chmod 755 $DIR; chown 1234:4321 $DIR/user\n"
       "export HOME=$DIR/user; ztk boost set 2 > $DIR/o; ztk undo > $DIR/o\n"
@@ -463,8 +469,9 @@ TEST_F(Undo, MakesItsFilesAsTheUserToWhomTheHomeBelongs) {
             "1234:4321 ./.local/state/tarvix/ztk.lock\n");
 }
 
-// After the undo of a first choice there is nothing that apply could send.
-TEST_F(Undo, NamesTheCommandThatSendsADefaultThatWasNotAccepted) {
+// If the first change of a setting is undone, nothing is remembered that ztk
+// apply could send.
+TEST_F(Undo, NamesTheCommandThatSendsTheDefaultAgain) {
   const Result result =
       Inside({"-n", "1", "--fault", "stall"},
              "ztk input set 2 post 2> /dev/null; ztk undo; echo $?; ztk apply");
@@ -483,19 +490,19 @@ TEST_F(Undo, NamesTheCommandThatSendsADefaultThatWasNotAccepted) {
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0203 8002 0000"));
 }
 
-TEST_F(Undo, TellsApartWhatIsSavedAndWhatIsForgotten) {
+TEST_F(Undo, NamesApplyForRememberedValuesAndDefaultForForgottenOnes) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   const Result result = NoMixer(
       "ztk boost set 2 2> /dev/null; ztk output set 1 2 2> /dev/null\n"
       "ztk undo 2");
   EXPECT_EQ(
       LastLine(result.err),
-      "ztk: the change is remembered, but not sent: no "
+      "ztk: the change is saved, but not sent: no "
       "mixer is attached; when one is attached, run: ztk output default 1; ztk "
       "apply");
 }
 
-TEST_F(Undo, SaysWhenTheValueBeforeIsTheSame) {
+TEST_F(Undo, SaysWhenTheValueBeforeTheChangesIsTheCurrentOne) {
   Remember("VRM-D6", {{"MaxLevel", 1}});
   EXPECT_EQ(
       OneMixer("ztk boost set 3 > /dev/null; ztk boost set 2 > /dev/null"
@@ -505,7 +512,7 @@ TEST_F(Undo, SaysWhenTheValueBeforeIsTheSame) {
       "mixer, remembered\n");
 }
 
-TEST_F(Undo, WarnsThatTheListLosesAStepThatWasNotUndone) {
+TEST_F(Undo, WarnsThatARefusedStepIsRemovedFromTheList) {
   OneMixer("ztk boost set 2");
   Remember("VRM-D6", {{"MaxLevel", 0}});
   const Result result =
@@ -516,7 +523,7 @@ TEST_F(Undo, WarnsThatTheListLosesAStepThatWasNotUndone) {
   EXPECT_THAT(LastLine(result.out), StartsWith("Nothing to undo"));
 }
 
-TEST_F(Undo, ListsNumbersAndTextsInJson) {
+TEST_F(Undo, ListsTheNumberAndTextOfEachValueInJson) {
   const Json json = OneObject(
       OneMixer("ztk boost set 2 > /dev/null; ztk undo --list --json").out);
   EXPECT_EQ(json["steps"][0]["changes"][0],

@@ -54,7 +54,7 @@ TEST_F(Warning, IsNotShownBesideTheErrorWithoutAMixer) {
   if (IsSkipped()) return;
   EXPECT_EQ(result_.status, 3);
   EXPECT_THAT(result_.err,
-              StartsWith("ztk: USB input 2 is remembered, but not sent"));
+              StartsWith("ztk: USB input 2 is saved, but not sent"));
   EXPECT_EQ(SplitLines(result_.err).size(), 1U);
 }
 

@@ -140,9 +140,9 @@ std::string SavedWords(const MadeChanges &made, const std::string &what) {
   const auto forgotten = static_cast<std::size_t>(
       std::count_if(made.changes.begin(), made.changes.end(),
                     [](const MadeChange &one) { return one.forgotten; }));
-  if (forgotten == 0) return what + " is remembered, but ";
+  if (forgotten == 0) return what + " is saved, but ";
   if (forgotten < made.changes.size()) {
-    return "the change is remembered, but ";
+    return "the change is saved, but ";
   }
   const bool sent = !ObstructionOf(made.reach).why.starts_with("not sent: ");
   return std::string("nothing is remembered, and the default") +

@@ -47,7 +47,7 @@ MadeChanges RunStep(const std::string &command,
                     Report *report);
 
 // The parts of the sentence for a value that not every mixer has accepted:
-// "Boost level is remembered, but" the mixer did not answer; switch it off and
+// "Boost level is saved, but" the mixer did not answer; switch it off and
 // on again, then "run: ztk boost apply".
 struct DeliveryTexts {
   std::string before;  // the words before the reason, with a space

@@ -130,8 +130,7 @@ void ReportDryRun(const Plan &plan, Report *report) {
   report->fields["dryRun"] = true;
   report->fields["mixers"] = {{"found", plan.mixersFound()},
                               {"canBeOpened", plan.mixersThatCanBeOpened()}};
-  report->text +=
-      "Dry run: nothing is sent or remembered. This would happen:\n";
+  report->text += "Dry run: nothing is sent or stored. This would happen:\n";
   AddRequests(plan, report);
   AddWrites(plan, report);
   AddAnnouncements(plan, report);
