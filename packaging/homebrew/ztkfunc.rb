@@ -11,7 +11,6 @@ class Ztkfunc < Formula
   head "https://tarvix.example/ztkfunc.git", branch: "main"
   license "MIT"
 
-  depends_on "cli11" => :build
   depends_on "cmake" => :build
   depends_on "nlohmann-json" => :build
   # With Qt the formula also installs ztk-window.

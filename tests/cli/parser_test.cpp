@@ -80,12 +80,25 @@ TEST(Parse, TakesEveryFormOfAnOption) {
 TEST(Parse, TakesTheWordAfterAnOptionAsItsValue) {
   EXPECT_EQ(Parsed({"show", "-m", "--json"}).arguments.One("--mixer"),
             "--json");
-  EXPECT_EQ(Parsed({"show", "--mixer=", "2"}).arguments.One("--mixer"), "2");
   EXPECT_EQ(Parsed({"show", "--mixer=a=b"}).arguments.One("--mixer"), "a=b");
-  EXPECT_EQ(ErrorOf({"show", "-m"}), ErrorOf({"show", "--mixer="}));
+  EXPECT_EQ(ErrorOf({"show", "-m"}), ErrorOf({"show", "--mixer=", "2"}));
+}
+
+TEST(Parse, TakesAPartOfALongNameThatFitsOneOption) {
+  EXPECT_EQ(Parsed({"show", "--mix=2"}).arguments.One("--mixer"), "2");
+  EXPECT_TRUE(Parsed({"show", "--js"}).arguments.Has("--json"));
+}
+
+TEST(Parse, BeginsAnewAfterAWordThatWasNotReadToItsEnd) {
+  EXPECT_THAT(ErrorOf({"show", "-xh"}), StartsWith("no option \"-xh\""));
+  EXPECT_EQ(Parsed({"input", "set", "1", "-5"}).arguments.One("CHOICE"), "-5");
+  EXPECT_EQ(Parsed({"show", "-m2"}).arguments.One("--mixer"), "2");
 }
 
 TEST(Parse, TakesANegativeNumberAsAWord) {
+  EXPECT_EQ(
+      Parsed({"input", "set", "-5", "-9", "--json"}).arguments.One("CHANNEL"),
+      "-5");
   const Invocation call = Parsed({"input", "set", "1", "-5", "dB"});
   EXPECT_EQ(call.arguments.One("CHOICE"), "-5 dB");
   EXPECT_THAT(ErrorOf({"show", "-5"}), StartsWith("no option \"-5\""));

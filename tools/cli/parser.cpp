@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/parser.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
-#include <deque>
 #include <utility>
 
+#include "cli/assign.h"
 #include "cli/completion.h"
 #include "cli/help.h"
 #include "cli/strings.h"
@@ -16,12 +15,7 @@ namespace ztk::cli {
 
 namespace {
 
-constexpr char kEndOfOptions[] = "--";
 constexpr char kVersionWord[] = "version";  // the same as --version
-
-bool IsOptionWord(const std::string &word) {
-  return word.size() > 1 && word.front() == '-';
-}
 
 bool HasName(const std::vector<Option> &options, const std::string &word) {
   const std::string name = word.substr(0, word.find('='));
@@ -116,16 +110,9 @@ class CommandLine {
     return text;
   }
 
-  // CLI11's message begins with the name of the option and a colon.
-  [[noreturn]] void FailValue(const std::string &message,
-                              const std::vector<Option> &options) const {
-    const std::string name = message.substr(0, message.find(':'));
-    std::string accepted;
-    for (const Option &option : options) {
-      if (!HasName({option}, name)) continue;
-      accepted = "; accepted: " + AcceptedBy(option);
-    }
-    Fail(name + " needs exactly one value" + accepted);
+  [[noreturn]] void FailValue(const Option &option) const {
+    Fail(KeyOf(option) +
+         " needs exactly one value; accepted: " + AcceptedBy(option));
   }
 
   // Fails for an option of a command that was typed before the command.
@@ -184,72 +171,22 @@ class CommandLine {
     return Suggestion(Listed(whole), accepted);
   }
 
-  // The only use of CLI11: it splits the words into options, their values and
-  // positional arguments. CLI11 is not told which options are required, and it
-  // lets extra words pass: the code here checks both, and its messages say
-  // more.
   void ReadArguments(const Command &command, Arguments *arguments) {
     std::vector<Option> options = command.options;
-    options.insert(options.end(), common_.begin(), common_.end());
     if (TakesCommand(command)) {
       const auto end = std::find(words_.begin(), words_.end(), kEndOfOptions);
       if (end != words_.end()) arguments->command.assign(end + 1, words_.end());
       words_.erase(end, words_.end());
+      std::erase_if(options, [](const Option &option) {
+        return option.fill == Fill::Command;
+      });
     }
-    // Most calls have no arguments, and making the options takes a tenth of the
-    // instructions of a short command.
-    if (words_.empty()) return;
-    CLI::App app;
-    app.set_help_flag();
-    app.allow_extras();
-    std::deque<std::pair<const Option *, CLI::Option *>> added;
-    std::deque<std::vector<std::string>> unused;
-    for (const Option &option : options) {
-      if (option.fill == Fill::Command) continue;
-      CLI::Option *const made = Add(option, &unused.emplace_back(), &app);
-      added.emplace_back(&option, made);
-    }
-    try {
-      std::reverse(words_.begin(), words_.end());
-      app.parse(words_);
-    } catch (const CLI::ArgumentMismatch &error) {
-      FailValue(error.what(), options);
-    } catch (const CLI::ParseError &error) {
-      Fail(OneLine(error.what()));
-    }
-    for (const auto &[option, made] : added) {
-      if (made->count() > 0) Take(*option, made->results(), arguments);
-    }
+    options.insert(options.end(), common_.begin(), common_.end());
+    Assignment assigned = Assign(options, words_);
+    if (assigned.miscounted != nullptr) FailValue(*assigned.miscounted);
+    arguments->given = std::move(assigned.given);
     if (!asksForHelp_ && !arguments->Has(kHelpName)) {
-      CheckExtras(command, options, app.remaining());
-    }
-  }
-
-  static CLI::Option *Add(const Option &option,
-                          std::vector<std::string> *unused, CLI::App *app) {
-    if (IsFlag(option)) {
-      return app->add_flag(option.names)
-          ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-    }
-    CLI::Option *const made = app->add_option(option.names, *unused);
-    if (!option.repeats) made->expected(1);
-    if (!option.repeats || !IsPositional(option)) made->allow_extra_args(false);
-    return made;
-  }
-
-  static void Take(const Option &option, const std::vector<std::string> &words,
-                   Arguments *arguments) {
-    if (IsFlag(option)) {
-      if (words.back() == "true") arguments->given[KeyOf(option)] = {"true"};
-      return;
-    }
-    std::vector<std::string> &values = arguments->given[KeyOf(option)];
-    for (const std::string &word : words) {
-      if (IsPositional(option) && !values.empty()) {
-        values.front() += " " + word;
-      } else {
-        values.push_back(word);
-      }
+      CheckExtras(command, options, std::move(assigned.extras));
     }
   }
 

@@ -23,11 +23,6 @@ std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments) {
 
 namespace {
 
-std::string WithoutSpaces(std::string text) {
-  std::erase(text, ' ');
-  return text;
-}
-
 // ", for USB input 1 to USB input 5": how ztk names the channels 1 to 5.
 std::string ChannelNames(const Setting &setting) {
   return ", for " + PlaceName(setting, 0) + " to " +
@@ -38,15 +33,15 @@ std::string ChannelNames(const Setting &setting) {
 
 std::optional<std::uint32_t> ParseChannel(const Setting &setting,
                                           const std::string &word) {
-  const std::string wanted = WithoutSpaces(cli::LowerCase(word));
-  const std::string place = WithoutSpaces(cli::LowerCase(setting.place));
-  std::size_t begin = 0;
+  std::string digits = cli::LowerCase(word);
   for (const std::string &name :
-       {place, std::string("usb"), std::string("ch")}) {
-    if (begin == 0 && wanted.starts_with(name)) begin = name.size();
+       {cli::LowerCase(setting.place), std::string("usb"), std::string("ch")}) {
+    if (!digits.starts_with(name)) continue;
+    const bool hasSpace = digits.substr(name.size()).starts_with(' ');
+    digits.erase(0, name.size() + (hasSpace ? 1 : 0));
+    break;
   }
-  const auto number =
-      cli::ParseNumber(wanted.substr(begin), 1, setting.channels);
+  const auto number = cli::ParseNumber(digits, 1, setting.channels);
   if (!number) return std::nullopt;
   return *number - 1;
 }

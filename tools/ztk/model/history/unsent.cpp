@@ -88,11 +88,10 @@ void RecordSending(const std::vector<LastSending> &sendings,
   if (lock.result() == StateLock::Result::Held) Write(sendings);
 }
 
-RecordedSending::RecordedSending() : steps_(ReadSteps()) {}
-
 Sending RecordedSending::Of(const Setting &setting, std::uint32_t channel,
                             std::uint32_t index) const {
-  for (const Step &step : steps_) {
+  if (!steps_) steps_ = ReadSteps();
+  for (const Step &step : *steps_) {
     if (!IsAbout(step, setting, channel)) continue;
     if (step.changes.front().after != index) continue;
     return step.command == kReplaced ? Sending::Replaced : Sending::Incomplete;

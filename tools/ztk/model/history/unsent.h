@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "ztk/model/change.h"
@@ -43,16 +44,16 @@ std::vector<LastSending> SendingsOf(const MadeChanges &made);
 void RecordSending(const std::vector<LastSending> &sendings,
                    const History *history);
 
-// What is recorded, as it is in the file now.
+// What is recorded. The file is read at the first question, so that nothing is
+// read if nothing is remembered.
 class RecordedSending {
  public:
-  RecordedSending();
   // Complete when the value has changed since: another program has set it.
   Sending Of(const Setting &setting, std::uint32_t channel,
              std::uint32_t index) const;
 
  private:
-  std::vector<Step> steps_;
+  mutable std::optional<std::vector<Step>> steps_;
 };
 
 }  // namespace ztk::model
