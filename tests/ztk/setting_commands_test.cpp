@@ -256,7 +256,8 @@ TEST_F(List, MarksTheRememberedChoice) {
       "  4  Cross Fader A\n"
       "* 5  Cross Fader B\n"
       "  6  MIC\n"
-      "  7  REC OUT\n");
+      "  7  REC OUT\n"
+      "No mixer is attached; when one is attached, run: ztk apply\n");
 }
 
 TEST_F(List, SaysWhenTheMarkIsADefault) {
@@ -298,11 +299,12 @@ TEST_F(Get, TellsRememberedValuesFromDefaults) {
       "remembered\n"
       "USB input 4  CH4 Control Tone PHONO (1), default: nothing is "
       "remembered\n"
-      "USB input 5  REC OUT (1), default: nothing is remembered\n");
+      "USB input 5  REC OUT (1), default: nothing is remembered\n"
+      "No mixer is attached; when one is attached, run: ztk apply\n");
   const Json json = OneObject(NoMixer("ztk input get 1 --json").out);
   EXPECT_EQ(json["channels"],
             Json::parse(R"([{"channel":1,"number":3,"text":"Post CH1 Fader",
-                             "value":2,"remembered":true}])"));
+                             "value":2,"remembered":true,"unsent":null}])"));
 }
 
 TEST_F(Get, SaysWhyThereIsNothingToReadForAnotherModel) {
@@ -324,7 +326,7 @@ TEST_F(Get, ShowsAnyNumberThatStandsInTheFile) {
   const Json json = OneObject(NoMixer("ztk boost get --json").out);
   EXPECT_EQ(json["channels"],
             Json::parse(R"([{"channel":null,"number":null,"text":null,
-                             "value":-3,"remembered":true}])"));
+                             "value":-3,"remembered":true,"unsent":null}])"));
 }
 
 TEST_F(Json_, IsUnderstoodBeforeAndAfterTheCommand) {
