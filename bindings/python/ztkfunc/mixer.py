@@ -70,7 +70,7 @@ def _folded(text: str) -> str:
 
 def _index_of(choice: str | int, choices: tuple[str, ...], label: str) -> int:
     """Finds a choice by its text or by its number from 1."""
-    accepted = ", ".join(f"{n} {text}" for n, text in enumerate(choices, 1))
+    accepted = ", ".join(f"{text} ({n})" for n, text in enumerate(choices, 1))
     if isinstance(choice, bool) or not isinstance(choice, (str, int)):
         raise TypeError(f"{label} takes a text or a number; accepted: {accepted}")
     if isinstance(choice, int):
