@@ -108,7 +108,7 @@ class Assigner {
     const std::string value = optarg == nullptr ? "" : optarg;
     if (IsFlag(option)) {
       SetFlag(option, value.empty() || value == "true");
-    } else if (found == kNoValue || value.empty()) {
+    } else if (found == kNoValue) {
       result_.miscounted = &option;
     } else {
       result_.given[KeyOf(option)].push_back(value);
