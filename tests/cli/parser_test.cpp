@@ -82,7 +82,8 @@ TEST(Parse, TakesTheWordAfterAnOptionAsItsValue) {
             "--json");
   EXPECT_EQ(Parsed({"show", "--mixer=a=b"}).arguments.One("--mixer"), "a=b");
   for (const Words &words : {Words{"show", "--mixer="}, {"show", "-m", ""}}) {
-    const std::string *mixer = Parsed(words).arguments.Find("--mixer");
+    const Invocation call = Parsed(words);
+    const std::string *mixer = call.arguments.Find("--mixer");
     ASSERT_NE(mixer, nullptr);
     EXPECT_EQ(*mixer, "");
   }
