@@ -314,9 +314,11 @@ void MainWindowTest::SendsAllAgain() {
 void MainWindowTest::SendsNothingAgainWhereThatHasNoEffect() {
   State withoutMixer = state_;
   withoutMixer.mixers.clear();
+  State unplugged = state_;
+  for (MixerState &mixer : unplugged.mixers) mixer.answer = MixerAnswer::Gone;
   State nothingRemembered = state_;
   for (RowState &row : nothingRemembered.rows) row.stored.reset();
-  for (const State &state : {withoutMixer, nothingRemembered}) {
+  for (const State &state : {withoutMixer, unplugged, nothingRemembered}) {
     window_->showState(state_);
     QVERIFY(Action("Send all again")->isEnabled());
     window_->showState(state);

@@ -215,7 +215,7 @@ void MainWindow::ShowUndo(const State &state) {
 // Needs something that is remembered, and a mixer to send it to.
 void MainWindow::ShowResend(const State &state) {
   const bool possible =
-      !state.mixers.isEmpty() &&
+      state.AnyAttached() &&
       std::any_of(state.rows.begin(), state.rows.end(),
                   [](const RowState &row) { return row.stored.has_value(); });
   resend_->setEnabled(possible);

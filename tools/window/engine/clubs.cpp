@@ -124,16 +124,13 @@ ClubPreview PreviewOf(const QString &path, const ClubFile &file) {
 
 bool NeedsSending(const ClubFile &file, const State &state) {
   if (state.NeedsSending()) return true;
-  const bool anyAttached =
-      std::any_of(state.mixers.begin(), state.mixers.end(),
-                  [](const MixerState &mixer) { return mixer.isAttached(); });
-  return anyAttached && std::any_of(file.changes.begin(), file.changes.end(),
-                                    [&state](const model::Change &change) {
-                                      const RowState *row = state.Row(
-                                          *change.setting, change.channel);
-                                      return row != nullptr &&
-                                             row->inMixers != InMixers::Every;
-                                    });
+  return state.AnyAttached() &&
+         std::any_of(
+             file.changes.begin(), file.changes.end(),
+             [&state](const model::Change &change) {
+               const RowState *row = state.Row(*change.setting, change.channel);
+               return row != nullptr && row->inMixers != InMixers::Every;
+             });
 }
 
 QString SaveClub(const QString &name) {

@@ -131,6 +131,12 @@ struct State {
     return nullptr;
   }
 
+  bool AnyAttached() const {
+    return std::any_of(
+        mixers.begin(), mixers.end(),
+        [](const MixerState &mixer) { return mixer.isAttached(); });
+  }
+
   // A mixer answers, and it is not known whether every mixer has what is
   // remembered. Sending all again ends this.
   bool NeedsSending() const {
