@@ -110,7 +110,7 @@ TEST_F(TypedWords, AskForTheAnswerWithoutNotes) {
             "USB input 1  CH1 Control Tone PHONO (1), default: nothing is "
             "remembered\n");
   EXPECT_THAT(Inside(options, "ztk input get 1").out,
-              HasSubstr(" is silent: "));
+              HasSubstr(" is silent with this choice: "));
   EXPECT_THAT(Requests().size(), 1U);
   EXPECT_THAT(Inside(options, "ztk input get 1 -q --json").out,
               HasSubstr("\"position\":2"));

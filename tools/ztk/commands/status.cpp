@@ -211,9 +211,9 @@ std::string StuckMixers(const Mixers &mixers) {
   return words;
 }
 
-// What to do next when something is missing; else empty. The sentence about a
-// silent channel says it itself. `apply` is the command
-// that sends the remembered values which the mixers may not have.
+// What to do next if something is missing; else empty. A silent channel needs
+// no next step, because the sentence about it names one. `apply` is the command
+// that sends the remembered values that not every mixer has accepted.
 std::string NextStep(const Mixers &mixers, const Remembrance &remembered,
                      const std::string &apply) {
   // A mixer that was switched off has lost its settings.
