@@ -99,6 +99,12 @@ TEST_F(Unsent, EndsWithResetAndWithTheNextSet) {
   EXPECT_EQ(OneMixer("ztk boost set 2 -q; ztk boost get").out, kBoost);
 }
 
+TEST_F(Unsent, EndsWithAnUndoThatForgetsTheValue) {
+  NoMixer("ztk boost set 2; ztk undo");
+  Remember("VRM-D6", {{"MaxLevel", 1}});
+  EXPECT_EQ(OneMixer("ztk boost get").out, kBoost);
+}
+
 TEST_F(Unsent, NamesTheCommandOfAValueThatApplyDoesNotSend) {
   NoMixer("ztk midi set 7");
   EXPECT_THAT(OneMixer("ztk midi get").out,
