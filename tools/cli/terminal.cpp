@@ -4,6 +4,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <string_view>
 #include <vector>
 
@@ -63,7 +64,8 @@ std::size_t HangingIndentation(std::string_view line, std::size_t columns) {
   return first + 2 <= columns / 2 ? first + 2 : 0;
 }
 
-// The length in bytes of the part that fits; it ends at a space if possible.
+// The length in bytes of the first words that fit into the columns. A first
+// word that is longer than the columns is not divided.
 std::size_t Fitting(std::string_view line, std::size_t columns) {
   const std::size_t start = line.find_first_not_of(' ');
   std::size_t width = 0;
@@ -72,13 +74,12 @@ std::size_t Fitting(std::string_view line, std::size_t columns) {
     if (line[i] == ' ' && i > start) lastSpace = i;
     width += StartsCharacter(line[i]) ? 1 : 0;
     if (width <= columns) continue;
-    if (lastSpace == 0) return line.size();
-    return line.find_last_not_of(' ', lastSpace) + 1;
+    if (lastSpace > 0) return line.find_last_not_of(' ', lastSpace) + 1;
+    return std::min(line.find(' ', std::max(i, start)), line.size());
   }
   return line.size();
 }
 
-// A word that is longer than a line is not divided.
 std::string Wrapped(std::string_view line, std::size_t columns,
                     std::size_t hanging) {
   if (line.starts_with(kWhole)) return std::string(line);
