@@ -10,8 +10,9 @@ namespace ztk::test {
 namespace {
 
 std::string Shown(const std::string &path, std::size_t columns) {
-  return cli::LaidOut(cli::Flowed(cli::Help(SampleProgram(), path), columns),
-                      {.columns = 0, .emphasis = false});
+  return cli::WrapLines(
+      cli::FillParagraphs(cli::Help(SampleProgram(), path), columns),
+      {.columns = 0, .emphasis = false});
 }
 
 TEST(Help, OfTheProgramListsCommandsAndExitStatuses) {

@@ -8,24 +8,25 @@
 namespace ztk::test {
 namespace {
 
-using cli::Flowed;
-using cli::LaidOut;
+using cli::FillParagraphs;
 using cli::Strong;
+using cli::WrapLines;
 
-TEST(LaidOut, LeavesLinesUnchangedWithoutATerminal) {
-  EXPECT_EQ(LaidOut("a  b c d e f g\n\n  h", {.columns = 0, .emphasis = false}),
-            "a  b c d e f g\n\n  h");
+TEST(WrapLines, LeavesLinesUnchangedWithoutATerminal) {
+  EXPECT_EQ(
+      WrapLines("a  b c d e f g\n\n  h", {.columns = 0, .emphasis = false}),
+      "a  b c d e f g\n\n  h");
 }
 
-TEST(LaidOut, ShowsEmphasisOnlyWhereItIsWanted) {
+TEST(WrapLines, ShowsEmphasisOnlyWhereItIsWanted) {
   const std::string text = "  1\n" + Strong("* 2") + "\n";
-  EXPECT_EQ(LaidOut(text, {.columns = 0, .emphasis = false}), "  1\n* 2\n");
-  EXPECT_EQ(LaidOut(text, {.columns = 80, .emphasis = false}), "  1\n* 2\n");
-  EXPECT_EQ(LaidOut(text, {.columns = 80, .emphasis = true}),
+  EXPECT_EQ(WrapLines(text, {.columns = 0, .emphasis = false}), "  1\n* 2\n");
+  EXPECT_EQ(WrapLines(text, {.columns = 80, .emphasis = false}), "  1\n* 2\n");
+  EXPECT_EQ(WrapLines(text, {.columns = 80, .emphasis = true}),
             "  1\n\033[1m* 2\033[0m\n");
 }
 
-TEST(LaidOut, BreaksLinesBetweenWords) {
+TEST(WrapLines, BreaksLinesBetweenWords) {
   const struct {
     const char *name;
     std::size_t columns;
@@ -60,12 +61,12 @@ TEST(LaidOut, BreaksLinesBetweenWords) {
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
-    EXPECT_EQ(LaidOut(row.text, {.columns = row.columns, .emphasis = false}),
+    EXPECT_EQ(WrapLines(row.text, {.columns = row.columns, .emphasis = false}),
               row.expected);
   }
 }
 
-TEST(Flowed, FillsUpSentencesAndNothingElse) {
+TEST(FillParagraphs, FillsUpSentencesAndNothingElse) {
   const struct {
     const char *name;
     std::size_t columns;
@@ -82,13 +83,14 @@ TEST(Flowed, FillsUpSentencesAndNothingElse) {
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.name);
-    EXPECT_EQ(Flowed(row.text, row.columns), row.expected);
+    EXPECT_EQ(FillParagraphs(row.text, row.columns), row.expected);
   }
   const std::string words =
       "1234567 1234567 1234567 1234567 1234567 1234567 "
       "1234567 1234567 1234567 1234567 1";
-  EXPECT_EQ(Flowed(words + " 2\n", 0), words.substr(0, 79) + "\n1 2\n");
-  EXPECT_EQ(Flowed(words + " 2\n", 200), words.substr(0, 79) + "\n1 2\n");
+  EXPECT_EQ(FillParagraphs(words + " 2\n", 0), words.substr(0, 79) + "\n1 2\n");
+  EXPECT_EQ(FillParagraphs(words + " 2\n", 200),
+            words.substr(0, 79) + "\n1 2\n");
 }
 
 TEST(MessageLine, IsOneLineWithoutATerminal) {

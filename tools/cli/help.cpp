@@ -46,11 +46,12 @@ std::string Rows(const char *title, const std::vector<Option> &options,
 
 std::string Examples(const std::vector<std::string> &examples) {
   if (examples.size() == 1) {
-    return std::string("\n") + kWhole + "Example: " + examples.front() + "\n";
+    return std::string("\n") + kUnwrapped + "Example: " + examples.front() +
+           "\n";
   }
   std::string lines;
   for (const std::string &example : examples) {
-    lines += std::string(1, kWhole) + kIndentation + example + "\n";
+    lines += std::string(1, kUnwrapped) + kIndentation + example + "\n";
   }
   return lines.empty() ? "" : "\nExamples:\n" + lines;
 }
@@ -76,7 +77,7 @@ std::string Usage(const Program &program, const Command &command) {
 }
 
 std::string UsageLine(const std::string &usage) {
-  return std::string("\n") + kWhole + "Usage: " + usage + "\n";
+  return std::string("\n") + kUnwrapped + "Usage: " + usage + "\n";
 }
 
 std::string Note(const std::string &note) {

@@ -12,7 +12,7 @@ namespace ztk::cli {
 inline constexpr char kHelpWord[] = "help";
 
 // The help of the program (empty path), of a group or of a command, as lines
-// for Flowed().
+// for FillParagraphs().
 std::string Help(const Program &program, const std::string &path);
 
 }  // namespace ztk::cli

@@ -34,7 +34,7 @@ struct Invocation {
   const Command *command = nullptr;  // to run
   Arguments arguments;
   // To show instead of running a command. Help is not laid out yet: see
-  // Flowed().
+  // FillParagraphs().
   std::string text;
 };
 

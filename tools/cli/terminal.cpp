@@ -17,14 +17,16 @@ namespace {
 constexpr char kBold[] = "\033[1m";
 constexpr char kNormal[] = "\033[0m";
 
-bool IsMark(char character) {
-  return character == kStrong || character == kPlain || character == kWhole;
+bool IsLayoutMark(char character) {
+  return character == kEmphasisStart || character == kEmphasisEnd ||
+         character == kUnwrapped;
 }
 
-// The first byte of a character in UTF-8. Each character counts as one column;
-// where it is wider, in warning texts of some languages, the terminal wraps.
+// True for the first byte of each character in UTF-8. Every character counts as
+// one column. Some languages of the warning texts have characters that take two
+// columns: such a line can be wider than the terminal, which then divides it.
 bool StartsCharacter(char character) {
-  return !IsMark(character) &&
+  return !IsLayoutMark(character) &&
          (static_cast<unsigned char>(character) & 0xC0) != 0x80;
 }
 
@@ -39,21 +41,23 @@ std::size_t Indentation(std::string_view line) {
   for (const char character : line) {
     if (character == ' ') {
       ++spaces;
-    } else if (!IsMark(character)) {
+    } else if (!IsLayoutMark(character)) {
       break;
     }
   }
   return spaces;
 }
 
-// The indentation of the rest of a wrapped line: that of its second column,
-// unless too little room is left. A line that is indented deeply is itself the
-// second column of the line above.
+// The indentation of the rest of a wrapped line. The rest is aligned with the
+// second field of a table, unless this leaves too little room. A line that is
+// indented deeply continues the second field of the line above, so the rest has
+// the same indentation.
 std::size_t HangingIndentation(std::string_view line, std::size_t columns) {
   constexpr std::size_t kDeep = 12;
   const std::size_t first = Indentation(line);
   if (first >= kDeep) return first <= columns / 2 ? first : 0;
-  const std::size_t gap = line.find("  ", line.find_first_not_of(" \x0E\x0F"));
+  constexpr char kBeforeText[] = {' ', kEmphasisStart, kEmphasisEnd, '\0'};
+  const std::size_t gap = line.find("  ", line.find_first_not_of(kBeforeText));
   if (gap != std::string_view::npos) {
     const std::size_t second = line.find_first_not_of(' ', gap);
     if (second != std::string_view::npos) {
@@ -66,7 +70,7 @@ std::size_t HangingIndentation(std::string_view line, std::size_t columns) {
 
 // The length in bytes of the first words that fit into the columns. A first
 // word that is longer than the columns is not divided.
-std::size_t Fitting(std::string_view line, std::size_t columns) {
+std::size_t FittingLength(std::string_view line, std::size_t columns) {
   const std::size_t start = line.find_first_not_of(' ');
   std::size_t width = 0;
   std::size_t lastSpace = 0;
@@ -80,13 +84,13 @@ std::size_t Fitting(std::string_view line, std::size_t columns) {
   return line.size();
 }
 
-std::string Wrapped(std::string_view line, std::size_t columns,
-                    std::size_t hanging) {
-  if (line.starts_with(kWhole)) return std::string(line);
+std::string WrapLine(std::string_view line, std::size_t columns,
+                     std::size_t hanging) {
+  if (line.starts_with(kUnwrapped)) return std::string(line);
   std::string wrapped;
   std::string rest(line);
   while (true) {
-    const std::size_t fitting = Fitting(rest, columns);
+    const std::size_t fitting = FittingLength(rest, columns);
     wrapped += rest.substr(0, fitting);
     const std::size_t next = rest.find_first_not_of(' ', fitting);
     if (next == std::string::npos) return wrapped;
@@ -95,29 +99,35 @@ std::string Wrapped(std::string_view line, std::size_t columns,
   }
 }
 
-// Puts a line that is not wrapped, and too long, below its title ("Example:").
-std::string WholeBelowTitle(const std::string &line, std::size_t columns) {
-  const std::size_t title = line.find(": ");
-  if (WidthOf(line) <= columns || title == std::string::npos) return line;
-  return line.substr(0, title + 1) + "\n" + kWhole + " " +
-         line.substr(title + 1);
+// Divides a line that begins with kUnwrapped after its title ("Example: "), if
+// the line is wider than the columns. The part after the title becomes a line
+// of its own, so that it can still be copied as one line.
+std::string DivideAfterTitle(const std::string &line, std::size_t columns) {
+  const std::size_t colon = line.find(": ");
+  if (WidthOf(line) <= columns || colon == std::string::npos) return line;
+  return line.substr(0, colon + 1) + "\n" + kUnwrapped + " " +
+         line.substr(colon + 1);
 }
 
-std::string Marked(const std::string &text, bool emphasis) {
-  std::string marked;
+// Replaces the marks of emphasised text by control sequences for the terminal,
+// or removes them without `emphasis`. Removes kUnwrapped.
+std::string ReplaceMarks(const std::string &text, bool emphasis) {
+  std::string replaced;
   for (const char character : text) {
-    if (!IsMark(character)) {
-      marked += character;
-    } else if (emphasis && character != kWhole) {
-      marked += character == kStrong ? kBold : kNormal;
+    if (!IsLayoutMark(character)) {
+      replaced += character;
+    } else if (emphasis && character != kUnwrapped) {
+      replaced += character == kEmphasisStart ? kBold : kNormal;
     }
   }
-  return marked;
+  return replaced;
 }
 
 }  // namespace
 
-std::string Strong(const std::string &text) { return kStrong + text + kPlain; }
+std::string Strong(const std::string &text) {
+  return kEmphasisStart + text + kEmphasisEnd;
+}
 
 bool IsTerminal(int stream) { return isatty(stream) == 1; }
 
@@ -127,34 +137,34 @@ std::size_t Columns(int stream) {
   return size.ws_col;
 }
 
-bool HasCursor(int stream) {
+bool SupportsCursorControl(int stream) {
   const std::string kind = Variable("TERM");
   return IsTerminal(stream) && !kind.empty() && kind != "dumb";
 }
 
 bool ShowsEmphasis(int stream) {
-  return HasCursor(stream) && Variable("NO_COLOR").empty() &&
+  return SupportsCursorControl(stream) && Variable("NO_COLOR").empty() &&
          Variable("CLICOLOR") != "0";
 }
 
-std::string LaidOut(const std::string &text, const Layout &layout) {
-  if (layout.columns == 0) return Marked(text, layout.emphasis);
+std::string WrapLines(const std::string &text, const Layout &layout) {
+  if (layout.columns == 0) return ReplaceMarks(text, layout.emphasis);
   std::string wrapped;
   std::size_t begin = 0;
   while (begin < text.size()) {
     const std::size_t end = text.find('\n', begin);
     const std::string_view all(text);
     const std::string_view line = all.substr(begin, end - begin);
-    wrapped +=
-        Wrapped(line, layout.columns, HangingIndentation(line, layout.columns));
+    wrapped += WrapLine(line, layout.columns,
+                        HangingIndentation(line, layout.columns));
     if (end == std::string::npos) break;
     wrapped += '\n';
     begin = end + 1;
   }
-  return Marked(wrapped, layout.emphasis);
+  return ReplaceMarks(wrapped, layout.emphasis);
 }
 
-std::string Flowed(const std::string &text, std::size_t columns) {
+std::string FillParagraphs(const std::string &text, std::size_t columns) {
   constexpr std::size_t kWidest = 80;
   const std::size_t width =
       columns == 0 || columns > kWidest ? kWidest : columns;
@@ -162,7 +172,7 @@ std::string Flowed(const std::string &text, std::size_t columns) {
   bool goesOn = false;
   for (const std::string &line : LinesOf(text)) {
     const bool isSentence =
-        !line.empty() && line.front() != ' ' && line.front() != kWhole;
+        !line.empty() && line.front() != ' ' && line.front() != kUnwrapped;
     if (isSentence && goesOn) {
       lines.back() += " " + line;
     } else {
@@ -170,19 +180,19 @@ std::string Flowed(const std::string &text, std::size_t columns) {
     }
     goesOn = isSentence;
   }
-  std::string flowed;
+  std::string filled;
   for (std::string &line : lines) {
-    if (line.starts_with(kWhole)) line = WholeBelowTitle(line, width);
+    if (line.starts_with(kUnwrapped)) line = DivideAfterTitle(line, width);
     const std::size_t hanging =
         line.starts_with(' ') ? HangingIndentation(line, width) : 0;
-    flowed += Wrapped(line, width, hanging) + "\n";
+    filled += WrapLine(line, width, hanging) + "\n";
   }
-  return flowed;
+  return filled;
 }
 
 std::string MessageLine(const std::string &program, const std::string &text) {
-  return LaidOut(program + ": " + OneLine(text) + "\n",
-                 {.columns = Columns(STDERR_FILENO), .emphasis = false});
+  return WrapLines(program + ": " + OneLine(text) + "\n",
+                   {.columns = Columns(STDERR_FILENO), .emphasis = false});
 }
 
 }  // namespace ztk::cli

@@ -9,12 +9,13 @@
 
 namespace ztk::cli {
 
-// These control characters begin and end emphasised text. No choice or model
-// contains them, and OneLine() removes them from other text.
-inline constexpr char kStrong = '\x0E';
-inline constexpr char kPlain = '\x0F';
+// Layout marks: control characters that tell the functions below how to show a
+// text. They are not shown themselves. No choice or model contains them, and
+// OneLine() removes them from other text.
+inline constexpr char kEmphasisStart = '\x0E';
+inline constexpr char kEmphasisEnd = '\x0F';
 // Begins a line that is not wrapped, so that it can be copied as one line.
-inline constexpr char kWhole = '\x10';
+inline constexpr char kUnwrapped = '\x10';
 
 // Emphasises `text`.
 std::string Strong(const std::string &text);
@@ -24,8 +25,9 @@ bool IsTerminal(int stream);
 // The width of the terminal; 0 where there is none, or it is not known.
 std::size_t Columns(int stream);
 
-// A terminal that understands control sequences for the cursor.
-bool HasCursor(int stream);
+// Whether the stream is a terminal that understands the control sequences for
+// clearing a line and for moving the cursor.
+bool SupportsCursorControl(int stream);
 
 // Whether emphasis is shown: in a terminal, unless the user has turned it off
 // by NO_COLOR, CLICOLOR=0 or TERM=dumb.
@@ -33,16 +35,19 @@ bool ShowsEmphasis(int stream);
 
 struct Layout {
   std::size_t columns;  // 0: lines are not wrapped
-  bool emphasis;        // else the marks are removed
+  bool emphasis;        // false: emphasised text looks like other text
 };
 
-// Wraps lines that are too long. A line with columns, which are at least two
-// spaces apart, continues below its second column.
-std::string LaidOut(const std::string &text, const Layout &layout);
+// Wraps each line that is wider than the terminal, and replaces the layout
+// marks. In a table, whose fields are at least two spaces apart, the rest of a
+// line is aligned with its second field.
+std::string WrapLines(const std::string &text, const Layout &layout);
 
-// Joins lines into paragraphs and wraps them at the width, at most 80 columns;
-// a width of 0 means 80. Indented lines, and lines marked kWhole, stay apart.
-std::string Flowed(const std::string &text, std::size_t columns);
+// Joins successive lines into paragraphs, and wraps the paragraphs at the
+// width. A width of 0, or above 80, means 80 columns. Lines that are indented
+// or begin with kUnwrapped are not joined. The layout marks stay in the text,
+// for WrapLines().
+std::string FillParagraphs(const std::string &text, std::size_t columns);
 
 // A message for the error stream: "ztk: TEXT\n", wrapped to the terminal.
 std::string MessageLine(const std::string &program, const std::string &text);

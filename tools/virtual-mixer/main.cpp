@@ -28,8 +28,8 @@ int Run(const std::vector<std::string> &words) {
   const Invocation call = ztk::cli::Parse(program, words);
   if (call.command != nullptr) return call.command->run(call.arguments);
   if (call.kind == Invocation::Kind::Help) {
-    std::cout << ztk::cli::LaidOut(
-        ztk::cli::Flowed(call.text, ztk::cli::Columns(STDOUT_FILENO)),
+    std::cout << ztk::cli::WrapLines(
+        ztk::cli::FillParagraphs(call.text, ztk::cli::Columns(STDOUT_FILENO)),
         {.columns = 0, .emphasis = false});
   } else {
     std::cout << call.text;

@@ -60,9 +60,9 @@ Report Shown(const cli::Invocation &call) {
   Report report;
   switch (call.kind) {
     case cli::Invocation::Kind::Help:
-      report.text = cli::Flowed(call.text, cli::Columns(STDOUT_FILENO));
-      report.fields["help"] = cli::LaidOut(cli::Flowed(call.text, 0),
-                                           {.columns = 0, .emphasis = false});
+      report.text = cli::FillParagraphs(call.text, cli::Columns(STDOUT_FILENO));
+      report.fields["help"] = cli::WrapLines(cli::FillParagraphs(call.text, 0),
+                                             {.columns = 0, .emphasis = false});
       break;
     case cli::Invocation::Kind::Version:
       report.text = call.text;

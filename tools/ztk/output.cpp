@@ -62,9 +62,9 @@ int Print(const std::string &command, const Report &report, const Form &form) {
         form.json ? JsonLine(command, report) + "\n"
         : form.quiet && !report.isAnswer
             ? std::string()
-            : cli::LaidOut(report.text,
-                           {.columns = cli::Columns(STDOUT_FILENO),
-                            .emphasis = cli::ShowsEmphasis(STDOUT_FILENO)}));
+            : cli::WrapLines(report.text,
+                             {.columns = cli::Columns(STDOUT_FILENO),
+                              .emphasis = cli::ShowsEmphasis(STDOUT_FILENO)}));
     error = errno;
   }
   for (const std::string &warning : report.warnings) {

@@ -92,7 +92,7 @@ void ShowWaiting(const std::string &what, int waited, int longest) {
 Progress::Progress(std::string what, int longest)
     : what_(std::move(what)),
       longest_(longest),
-      hasCursor_(cli::HasCursor(STDERR_FILENO)) {
+      supportsCursorControl_(cli::SupportsCursorControl(STDERR_FILENO)) {
   if (!cli::IsTerminal(STDERR_FILENO)) return;
   // Only the main thread handles signals, because it alone knows when they have
   // to wait.
@@ -120,7 +120,7 @@ void Progress::Tell() {
   auto next = begin + kPatience;
   for (int tick = 0; !end_.wait_until(lock, next, [this] { return ended_; });
        ++tick) {
-    if (hasCursor_) {
+    if (supportsCursorControl_) {
       ShowWaiting(what_, tick, longest_);
     } else if (tick == 0) {
       WriteNow(STDERR_FILENO,

@@ -47,7 +47,7 @@ class Progress {
 
   std::string what_;
   int longest_;
-  bool hasCursor_ = false;
+  bool supportsCursorControl_ = false;
   std::mutex mutex_;
   std::condition_variable end_;
   bool ended_ = false;

@@ -41,7 +41,7 @@ void AddFinding(const char *part, const Finding &finding, Report *report) {
   for (const std::string &line : ExplanationOf(finding)) {
     report->text += cli::Padded("", kColumn) + cli::OneLine(line) + "\n";
   }
-  report->text += cli::kWhole + cli::Padded("", kColumn) +
+  report->text += cli::kUnwrapped + cli::Padded("", kColumn) +
                   "type:  " + cli::OneLine(finding.command) + "\n";
 }
 

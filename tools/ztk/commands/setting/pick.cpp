@@ -55,7 +55,7 @@ void AskUntilAccepted(
     const std::function<std::string(const std::string &answer)> &accept) {
   const cli::Layout layout{.columns = cli::Columns(STDOUT_FILENO),
                            .emphasis = cli::ShowsEmphasis(STDOUT_FILENO)};
-  WriteOutput(cli::LaidOut(list, layout));
+  WriteOutput(cli::WrapLines(list, layout));
   const Asking asking;
   while (true) {
     WriteOutput(prompt);
@@ -67,7 +67,7 @@ void AskUntilAccepted(
     }
     const std::string complaint = accept(*answer);
     if (complaint.empty()) return;
-    WriteOutput(cli::LaidOut(complaint, layout));
+    WriteOutput(cli::WrapLines(complaint, layout));
   }
 }
 
