@@ -27,10 +27,11 @@ TEST_F(Help, TellsTheExitCodes) {
   for (const char *line :
        {"0  done", "1  ztk doctor has found a problem",
         "2  invalid command line or import file; nothing was sent",
-        "3  no mixer answered", "4  rejected", "5  another error",
-        "6  some mixers accepted", "7  sent, but not remembered",
+        "3  no mixer is attached, or none has accepted", "4  rejected",
+        "5  another error", "6  some mixers accepted",
+        "7  sent, but not remembered",
         "\n  130  interrupted by Ctrl-C; ztk watch ends with status 0 "
-        "instead\n",
+        "instead, or with 5\n       without a message bus\n",
         "\nExamples:\n  ztk status\n",
         "\n  ztk input set 2 \"post ch2 fader\"\n",
         "USB output audio of the VRM-B5"}) {

@@ -174,10 +174,10 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
        "default, apply; see ztk output --help\n"},
       {"input set 6 1",
        "ztk: USB input audio has no channel \"6\"; nearest: 5; accepted: 1 to "
-       "5, for USB input 1 to USB input 5\n"},
+       "5\n"},
       {"input set",
-       "ztk: a CHANNEL is missing; accepted: 1 to 5, for USB input 1 to "
-       "USB input 5; see ztk input set --help\n"},
+       "ztk: a CHANNEL is missing; accepted: 1 to 5; see ztk input set "
+       "--help\n"},
       {"status now",
        "ztk: unexpected word \"now\" after \"status\"; see ztk status "
        "--help\n"},

@@ -9,9 +9,10 @@ constexpr ExitMeaning kExitMeanings[] = {
     {.exit = ExitCode::Done,
      .word = "",
      .text =
-         "done: every mixer answered, and what was set is remembered. A\n"
-         "command that only shows something also ends with 0 when no mixer\n"
-         "answers. There may be warnings"},
+         "done: every mixer has accepted what was sent, and every choice that\n"
+         "was set is remembered. A command that sends no setting, such as\n"
+         "status or reset, also ends with 0 when no mixer answers. There may\n"
+         "be warnings"},
     {.exit = ExitCode::Found,
      .word = "found",
      .text = "ztk doctor has found a problem"},
@@ -20,9 +21,10 @@ constexpr ExitMeaning kExitMeanings[] = {
      .text = "invalid command line or import file; nothing was sent"},
     {.exit = ExitCode::NoMixer,
      .word = "no-mixer",
-     .text = "no mixer answered; set, import and undo have changed the\n"
-             "settings file nevertheless. Raw values and the defaults of ztk\n"
-             "output default are not remembered"},
+     .text =
+         "no mixer is attached, or none has accepted what was sent; set,\n"
+         "import and undo have changed the settings file nevertheless; ztk\n"
+         "input raw and ztk output default never change it"},
     {.exit = ExitCode::Rejected,
      .word = "rejected",
      .text =
@@ -32,8 +34,8 @@ constexpr ExitMeaning kExitMeanings[] = {
     {.exit = ExitCode::Failed,
      .word = "failed",
      .text =
-         "another error; the message describes it. There is no message when\n"
-         "the program that reads the output has ended"},
+         "another error; the message describes it (no message if the output\n"
+         "is a pipe whose reader has ended, as with | head)"},
     {.exit = ExitCode::SomeMixers,
      .word = "some-mixers",
      .text =
@@ -41,10 +43,12 @@ constexpr ExitMeaning kExitMeanings[] = {
          "undo have changed the settings file nevertheless"},
     {.exit = ExitCode::NotRemembered,
      .word = "not-remembered",
-     .text = "sent, but not remembered: the settings file does not contain it"},
+     .text =
+         "sent, but not remembered: the settings file could not be changed"},
     {.exit = ExitCode::Interrupted,
      .word = "interrupted",
-     .text = "interrupted by Ctrl-C; ztk watch ends with status 0 instead"}};
+     .text = "interrupted by Ctrl-C; ztk watch ends with status 0 instead, or\n"
+             "with 5 without a message bus"}};
 
 // Accepts text that is not UTF-8, because a user may type anything.
 std::string Dump(const Json &json) {

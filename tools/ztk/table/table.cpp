@@ -16,10 +16,10 @@ namespace ztk::program {
 
 namespace {
 
-// A command that is not for a single setting.
-cli::Command MakeOther(const char *path, const char *summary, const char *note,
-                       const char *example,
-                       Report (*run)(const Arguments &arguments)) {
+// A command that does not belong to a single setting, such as "status".
+cli::Command MakeGeneral(const char *path, const char *summary,
+                         const char *note, const char *example,
+                         Report (*run)(const Arguments &arguments)) {
   cli::Command command = MakeCommand(path, summary, run);
   command.note = note;
   command.examples = {example};
@@ -27,19 +27,21 @@ cli::Command MakeOther(const char *path, const char *summary, const char *note,
 }
 
 cli::Command MakeUndo() {
-  cli::Command command = MakeOther(
+  cli::Command command = MakeGeneral(
       "undo", "Undo the last change",
-      "ztk keeps the last 100 changes; --list numbers them from the last one\n"
-      "backwards. A setting that another program has changed since is not\n"
-      "changed. If nothing was remembered before, the default is sent, and\n"
-      "nothing is remembered afterwards. Raw values, the defaults of ztk "
-      "output\n"
-      "default, and apply cannot be undone.",
+      "ztk keeps the last 100 changes; --list shows them, and the last one is\n"
+      "number 1. A setting that another program has changed since then is not\n"
+      "undone. If nothing was remembered before a change, undo sends the\n"
+      "default, and nothing is remembered afterwards. ztk apply, ztk input "
+      "raw\n"
+      "and ztk output default cannot be undone, because they do not change "
+      "what\n"
+      "is remembered.",
       "ztk undo --list", Undo);
   command.options = {{.names = Parameter::kSteps,
                       .value = "",
                       .description = "Undo the changes 1 to N of --list; only "
-                                     "the last one when left out"},
+                                     "change 1 when left out"},
                      {.names = Parameter::kList,
                       .value = "",
                       .description = "List what can be undone, and do nothing"},
@@ -48,28 +50,29 @@ cli::Command MakeUndo() {
 }
 
 cli::Command MakeReset() {
-  cli::Command command = MakeOther(
-      "reset", "Forget what is remembered",
-      "Removes it from the settings file. Nothing is sent: the mixer keeps "
-      "its\n"
-      "settings until it is switched off. Nothing is announced either, so ztk\n"
-      "watch does not show it.",
-      "ztk reset input 2", Reset);
+  cli::Command command =
+      MakeGeneral("reset", "Forget what is remembered",
+                  "Removes remembered values from the settings files. Nothing "
+                  "is sent: the\n"
+                  "mixer keeps its settings until it is switched off. Nothing "
+                  "is announced\n"
+                  "either, so ztk watch does not show this change.",
+                  "ztk reset input 2", Reset);
   command.options = {
       cli::Offering({.names = Parameter::kSetting,
                      .value = "",
-                     .description = "input, output, boost or midi; all when "
-                                    "left out"},
+                     .description = "input, output, boost or midi; all four "
+                                    "when left out"},
                     SettingValues),
       {.names = Parameter::kChannel,
        .value = "",
-       .description = "Channel; all of the setting when left out"},
+       .description = "Channel; all channels of the setting when left out"},
       DryRunOption()};
   return command;
 }
 
 cli::Command MakeImport() {
-  cli::Command command = MakeOther(
+  cli::Command command = MakeGeneral(
       "import", "Restore the settings in a file written by ztk export",
       "The whole file is checked before anything is changed. Remembered\n"
       "settings that are not in the file are kept, and listed.",
@@ -90,13 +93,12 @@ cli::Command MakeImport() {
 }
 
 cli::Command MakeApply() {
-  cli::Command command = MakeOther(
-      "apply", "Send the remembered settings again (of every model: --all)",
-      "Sends what is remembered for the VRM-D6. If nothing is remembered for\n"
-      "it, sends what is remembered for its sister models. A setting without "
-      "a\n"
-      "remembered value is not sent.",
-      "ztk apply", ApplyAll);
+  cli::Command command = MakeGeneral(
+      "apply",
+      "Send the remembered settings of the VRM-D6 again or, if there are none, "
+      "those of its sister models; with --all, those of every model",
+      "A setting without a remembered value is not sent.", "ztk apply",
+      ApplyAll);
   command.options = {
       {.names = Parameter::kProduct,
        .value = "MODEL",
@@ -112,9 +114,10 @@ cli::Command MakeApply() {
 }
 
 cli::Command MakeWarning() {
-  cli::Command command = MakeOther(
+  cli::Command command = MakeGeneral(
       "warning", "Show the text that explains why a channel is silent",
-      "Without a mixer the text is always in your own language.",
+      "If no mixer is attached, --language has no effect: the text is in your\n"
+      "own language.",
       "ztk warning --language de", ShowWarning);
   command.options = {
       cli::Offering({.names = Parameter::kOfChannel,
@@ -130,7 +133,7 @@ cli::Command MakeWarning() {
 }
 
 cli::Command MakeDoctor() {
-  cli::Command command = MakeOther(
+  cli::Command command = MakeGeneral(
       "doctor", "Find out why something does not work, and what to do",
       "Checks the mixers, the settings files, the session's message bus and\n"
       "the warning texts. Nothing is changed; each mixer receives one query.\n"
@@ -148,10 +151,10 @@ cli::Command MakeDoctor() {
 
 cli::Command MakeStatus() {
   cli::Command command =
-      MakeOther("status", "Show the mixers and the remembered settings",
-                "Mixers are numbered in the order of the bus. If there are "
-                "several, each has\none line with its port.",
-                "ztk status", ShowStatus);
+      MakeGeneral("status", "Show the mixers and the remembered settings",
+                  "Mixers are numbered in the order of the bus. If there are "
+                  "several, each has\none line with its port.",
+                  "ztk status", ShowStatus);
   command.options = {{.names = Parameter::kVerbose,
                       .value = "",
                       .description =
@@ -161,14 +164,14 @@ cli::Command MakeStatus() {
 }
 
 cli::Command MakeExport() {
-  return MakeOther(
+  return MakeGeneral(
       "export", "Write all remembered settings as text",
       "As JSON, by model, setting and channel; ztk import reads it.",
       "ztk export > club.json", Export);
 }
 
 cli::Command MakeWatch() {
-  return MakeOther(
+  return MakeGeneral(
       "watch", "Show changes by any program, and mixers that come and go",
       "Shows the changes that all programs of your session make, and mixers\n"
       "that are plugged in or unplugged. Ctrl-C ends it, with exit status 0.\n"
@@ -178,17 +181,20 @@ cli::Command MakeWatch() {
 }
 
 cli::Command MakeModels() {
-  return MakeOther(
+  return MakeGeneral(
       "models", "List the models with their numbers and settings",
-      "--product takes the name of a model in any form, as b5 for VRM-B5, or\n"
-      "its number.",
+      "The option --product of other commands accepts the number of a model\n"
+      "or its name. The part after the dash is enough: b5 means VRM-B5.",
       "ztk models", ShowModels);
 }
 
 cli::Command MakeVersions() {
-  return MakeOther("versions", "Show the versions of ztk and of what it uses",
-                   "The installed parts belong to the VRM-D6.", "ztk versions",
-                   ShowVersions);
+  return MakeGeneral(
+      "versions", "Show the versions of ztk and of what it uses",
+      "Package, driver, utility and library are what the macOS\n"
+      "package for the VRM-D6 has installed. Loaded is the library\n"
+      "that ztk uses.",
+      "ztk versions", ShowVersions);
 }
 
 cli::Command MakeAutoapply(const char *verb, const char *summary,
@@ -223,7 +229,7 @@ void Append(std::vector<cli::Command> more,
   for (cli::Command &command : more) commands->push_back(std::move(command));
 }
 
-// The commands that start with the word; all when it is empty.
+// The commands whose first word is `firstWord`; every command if it is empty.
 std::vector<cli::Command> MakeCommands(const std::string &firstWord) {
   std::vector<cli::Command> commands;
   const auto add = [&](const char *word, const auto &make) {
@@ -291,8 +297,8 @@ cli::Command MakeCommand(std::string path, std::string summary,
 
 ztk::cli::Program ztk::cli::ThisProgram(const std::string &firstWord) {
   using namespace ztk::program;
-  // The message about an unknown word needs all commands.
   std::vector<Command> commands = MakeCommands(firstWord);
+  // If no command begins with this word, the error message lists all commands.
   const std::string word = commands.empty() ? "" : firstWord;
   if (commands.empty()) commands = MakeCommands(word);
   return {
@@ -311,8 +317,9 @@ ztk::cli::Program ztk::cli::ThisProgram(const std::string &firstWord) {
                    .description = "Write the answer as JSON"},
                   {.names = std::string("-q,") + Parameter::kQuiet,
                    .value = "",
-                   .description = "Print only errors, warnings and what was "
-                                  "asked for, such as values"}},
+                   .description =
+                       "Do not confirm changes: print only errors, warnings "
+                       "and what a command shows, such as values"}},
       .groups = MakeGroups(word),
       .commands = std::move(commands),
       .exitStatuses = MakeExitStatuses,

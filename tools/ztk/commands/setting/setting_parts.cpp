@@ -21,16 +21,6 @@ std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments) {
   return word == nullptr ? setting.product : ParseProduct(*word);
 }
 
-namespace {
-
-// ", for USB input 1 to USB input 5": how ztk names the channels 1 to 5.
-std::string ChannelNames(const Setting &setting) {
-  return ", for " + PlaceName(setting, 0) + " to " +
-         PlaceName(setting, setting.channels - 1);
-}
-
-}  // namespace
-
 std::optional<std::uint32_t> ParseChannel(const Setting &setting,
                                           const std::string &word) {
   std::string digits = cli::LowerCase(word);
@@ -47,8 +37,7 @@ std::optional<std::uint32_t> ParseChannel(const Setting &setting,
 }
 
 std::string NearestChannel(const Setting &setting, const std::string &word) {
-  return cli::NearestAndAccepted(word, 1, setting.channels) +
-         ChannelNames(setting);
+  return cli::NearestAndAccepted(word, 1, setting.channels);
 }
 
 std::optional<std::uint32_t> ChannelFor(const Setting &setting,
@@ -75,7 +64,6 @@ std::uint32_t RequiredChannel(const Setting &setting,
     return PickChannel(setting);
   throw Failure(ExitCode::Usage, "a CHANNEL is missing; accepted: 1 to " +
                                      std::to_string(setting.channels) +
-                                     ChannelNames(setting) +
                                      SeeHelp(setting, verb));
 }
 

@@ -24,8 +24,7 @@ std::uint32_t ProductFor(const Setting &setting, const Arguments &arguments);
 std::optional<std::uint32_t> ParseChannel(const Setting &setting,
                                           const std::string &word);
 
-// "; nearest: 3; accepted: 1 to 3, for USB output 1 to USB output 3", for a
-// word that is no channel.
+// "; nearest: 3; accepted: 1 to 3", for a word that is no channel.
 std::string NearestChannel(const Setting &setting, const std::string &word);
 
 // The given channel, counted from 0; none when it was left out. Throws when
