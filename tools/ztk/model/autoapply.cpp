@@ -13,8 +13,8 @@ namespace ztk::model {
 
 namespace {
 
-// One unit for each mixer, so that two mixers plugged in at the same time are
-// both served.
+// A template: systemd starts one instance of the unit for each mixer. If two
+// mixers are plugged in at the same time, both receive their settings.
 constexpr char kUnit[] = "ztk-apply@.service";
 
 std::string UnitFile() {
@@ -30,8 +30,9 @@ bool IsAutoapplyOn() { return UserManager().Knows(kUnit); }
 void SetAutoapply(bool on) {
   UserManager manager;
   if (!on) return manager.Unlink(kUnit);
-  // Fails without the manager, whose absence matters more than a missing file.
-  manager.Knows(kUnit);
+  // Throws if systemd does not answer. That has to be reported first: without
+  // systemd, the missing file would not matter.
+  static_cast<void>(manager.Knows(kUnit));
   const std::string file = UnitFile();
   if (access(file.c_str(), F_OK) != 0) {
     throw std::runtime_error(

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// Sends the remembered settings to each mixer that is plugged in.
+// Turns on and off whether the system runs "ztk apply" each time a mixer is
+// plugged in.
 #ifndef ZTK_TOOLS_ZTK_MODEL_AUTOAPPLY_H_
 #define ZTK_TOOLS_ZTK_MODEL_AUTOAPPLY_H_
 
 namespace ztk::model {
 
-// Each of these throws std::runtime_error with the reason when the system
-// refuses.
+// Both functions throw std::runtime_error with the reason if the system has no
+// such service, or if the service fails.
 
 bool IsAutoapplyOn();
-// For every mixer from now on.
 void SetAutoapply(bool on);
 
 }  // namespace ztk::model

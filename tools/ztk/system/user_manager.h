@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The service manager of the user's session, which starts the unit that a udev
-// rule names when a device is plugged in.
+// The service manager of the user's session: "systemd --user" on Linux. It
+// starts the unit that a udev rule names when a device is plugged in.
 #ifndef ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_
 #define ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_
 
@@ -10,8 +10,8 @@
 
 namespace ztk::model {
 
-// Each of these throws std::runtime_error with the reason when the manager
-// refuses.
+// Each of these functions, also the constructor, throws std::runtime_error with
+// the reason if there is no manager, or if it does not do what it is asked.
 class UserManager {
  public:
   UserManager();
@@ -19,10 +19,12 @@ class UserManager {
   UserManager(const UserManager &) = delete;
   UserManager &operator=(const UserManager &) = delete;
 
-  // Whether it knows a unit of this name.
+  // Whether a unit of this name was linked with Link().
   bool Knows(const std::string &unit);
-  // Adds the unit in the file permanently, or removes it.
+  // Links the unit file, so that the manager can start the unit in this session
+  // and in later ones.
   void Link(const std::string &file);
+  // Removes the link of this unit.
   void Unlink(const std::string &unit);
 
  private:
