@@ -7,7 +7,7 @@
 namespace ztk::platform {
 
 // Suspends the calling thread. This function has a source file of its own, so
-// that the fuzz targets can replace it by one that does not wait.
+// that a test or a fuzz target can define a Pause() that does not wait.
 void Pause(std::chrono::microseconds time);
 
 }  // namespace ztk::platform

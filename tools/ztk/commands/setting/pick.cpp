@@ -20,7 +20,7 @@ namespace ztk::program {
 
 namespace {
 
-// The next line of the terminal; none at the end of the input.
+// Reads a line from the terminal. Returns none at the end of the input.
 std::optional<std::string> ReadLine() {
   std::string line;
   while (true) {
@@ -47,8 +47,9 @@ std::string Complaint(const std::string &answer, const Match &match,
          "\n";
 }
 
-// Asks until the function accepts the answer. It returns the message for an
-// answer that it does not accept.
+// Shows the list and asks until the user gives an answer that `accept` accepts.
+// `accept` returns an empty text for such an answer, and a message that says
+// why it does not accept any other answer.
 void AskUntilAccepted(
     const std::string &place, const std::string &list,
     const std::string &prompt,
@@ -56,6 +57,7 @@ void AskUntilAccepted(
   const cli::Layout layout{.columns = cli::Columns(STDOUT_FILENO),
                            .emphasis = cli::ShowsEmphasis(STDOUT_FILENO)};
   WriteOutput(cli::WrapLines(list, layout));
+  // As long as this object exists, Ctrl-C reports that nothing was changed.
   const Asking asking;
   while (true) {
     WriteOutput(prompt);

@@ -12,15 +12,18 @@
 
 namespace ztk::program {
 
-// Whether standard input and output are a terminal, so that ztk can ask.
+// Whether both the standard input and the standard output are a terminal, so
+// that ztk can ask the user.
 bool CanPick();
 
-// Shows the list (whole lines of text) and asks for a choice of `place` until
-// the answer names one. Throws a Failure when the answer is empty.
+// Shows the list (whole lines of text) and asks the user which of the choices
+// the channel `place` is to have ("USB input 2"). Asks again until the answer
+// names a choice. Throws a Failure if the answer is empty or the input ends.
 Choice Pick(const std::string &place, const std::string &list,
             const std::vector<Choice> &choices);
 
-// The same for a channel, which counts from 0.
+// Shows the channels of the setting, numbered from 1, and asks the user for one
+// of them in the same way. Returns the channel counted from 0.
 std::uint32_t PickChannel(const Setting &setting);
 
 }  // namespace ztk::program
