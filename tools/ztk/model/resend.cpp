@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/resend.h"
 
-#include "ztk/model/history/unsent.h"
+#include "ztk/model/history/sendings.h"
 #include "ztk/model/remembered.h"
 
 namespace ztk::model {

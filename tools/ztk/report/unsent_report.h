@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "ztk/model/history/unsent.h"
+#include "ztk/model/history/sendings.h"
 #include "ztk/model/resend.h"
 #include "ztk/report.h"
 

@@ -74,7 +74,7 @@ cli::Section Files() {
       {.name = "tarvix/ztk-history.jsonl",
        .meaning = "The changes that ztk has made, for ztk undo"});
   section.terms.push_back(
-      {.name = "tarvix/ztk-unsent.jsonl",
+      {.name = "tarvix/ztk-sendings.jsonl",
        .meaning = "The choices that ztk could not send to every mixer"});
   section.terms.push_back(
       {.name = "tarvix/ztk.lock",

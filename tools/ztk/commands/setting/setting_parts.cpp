@@ -6,7 +6,7 @@
 #include "cli/strings.h"
 #include "cli/suggest.h"
 #include "ztk/commands/setting/pick.h"
-#include "ztk/model/history/unsent.h"
+#include "ztk/model/history/sendings.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
 

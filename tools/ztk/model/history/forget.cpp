@@ -7,7 +7,7 @@
 #include "platform/property_list.h"
 #include "platform/text.h"
 #include "store/settings_path.h"
-#include "ztk/model/history/unsent.h"
+#include "ztk/model/history/sendings.h"
 
 namespace ztk::model {
 

@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/strings.h"
-#include "ztk/model/history/unsent.h"
+#include "ztk/model/history/sendings.h"
 #include "ztk/model/remembered.h"
 
 namespace ztk::model {

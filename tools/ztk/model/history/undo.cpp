@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "ztk/model/history/unsent.h"
+#include "ztk/model/history/sendings.h"
 #include "ztk/model/remembered.h"
 
 namespace ztk::model {

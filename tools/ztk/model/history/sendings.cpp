@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/history/unsent.h"
+#include "ztk/model/history/sendings.h"
 
 #include <string>
 
@@ -12,7 +12,7 @@ namespace {
 constexpr char kIncomplete[] = "incomplete";
 constexpr char kReplaced[] = "replaced";
 
-std::string Path() { return StateFolder() + "/ztk-unsent.jsonl"; }
+std::string Path() { return StateFolder() + "/ztk-sendings.jsonl"; }
 
 std::vector<Step> ReadSteps() {
   return ParseHistory(ReadStateFile(Path()).text).steps;

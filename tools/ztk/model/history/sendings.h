@@ -2,8 +2,8 @@
 //
 // The remembered values that the mixers may not have. A mixer cannot be asked
 // for its choice, so this program records when it could not send one.
-#ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_UNSENT_H_
-#define ZTK_TOOLS_ZTK_MODEL_HISTORY_UNSENT_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_SENDINGS_H_
+#define ZTK_TOOLS_ZTK_MODEL_HISTORY_SENDINGS_H_
 
 #include <cstddef>
 #include <cstdint>
@@ -58,4 +58,4 @@ class RecordedSending {
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_UNSENT_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_HISTORY_SENDINGS_H_
