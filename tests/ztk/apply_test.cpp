@@ -133,7 +133,7 @@ TEST_F(Apply, IsNotPromisedForAHighMidiChannel) {
           note + "MIDI channel: CH 5 (5), sent to 1 mixer, remembered\n" +
           note);
   EXPECT_THAT(NoMixer("ztk midi set 4").err,
-              testing::EndsWith("when one is attached, run: ztk midi apply\n"));
+              testing::EndsWith("run: ztk apply --product VRM-K2\n"));
   EXPECT_THAT(NoMixer("ztk midi set 5").err,
               testing::EndsWith("when one is attached, run: ztk midi set 5\n"));
 }
@@ -202,7 +202,7 @@ TEST_F(Apply, WarnsThatTheAttachedMixerIsOfAnotherModel) {
   EXPECT_THAT(NoMixer("ztk apply").err, Not(HasSubstr("attached is a")));
 }
 
-TEST_F(Apply, WarnsOnceOfSilentChannels) {
+TEST_F(Apply, WarnsOfEachSilentChannel) {
   Remember("VRM-D6", {{"Output0", 0}, {"Output1", 0}, {"Output2", 5}});
   const Result result = Inside({"-n", "1", "--selector", "1=2", "--selector",
                                 "2=3", "--selector", "3=2"},
@@ -210,11 +210,15 @@ TEST_F(Apply, WarnsOnceOfSilentChannels) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(
       result.err,
-      "ztk: warning: no sound is recorded on USB input 1, USB input 2, because "
-      "the input selector is not in position 4; ztk status shows the "
-      "positions\n"
-      "ztk: warning: no sound is recorded on USB input 2, because the input "
-      "selector is not in position 4; ztk status shows the positions\n");
+      "ztk: warning: USB input 1 is silent with this choice: the input "
+      "selector for CH1 is in position 2; CH1 Control Tone PHONO (1) is heard "
+      "only in position 4: turn it to 4\n"
+      "ztk: warning: USB input 2 is silent with this choice: the input "
+      "selector for CH2 is in position 3; CH2 Control Tone PHONO (1) is heard "
+      "only in position 4: turn it to 4\n"
+      "ztk: warning: USB input 2 is silent with this choice: the input "
+      "selector for CH2 is in position 3; CH2 Control Tone PHONO (1) is heard "
+      "only in position 4: turn it to 4\n");
   EXPECT_EQ(OneMixer("ztk apply").err, "");
 }
 

@@ -191,8 +191,8 @@ TEST_F(Doctor, SaysWhichCommandsToRun) {
             "ztk: 2 problems found; run the commands above, from top to "
             "bottom");
   EXPECT_EQ(LastLine(OneMixer(std::string(kNoBus) + "ztk doctor").err),
-            "ztk: 1 problem found; run its command; those of notes are not "
-            "needed");
+            "ztk: 1 problem found; run its command; the commands of notes can "
+            "wait");
 }
 
 TEST_F(Doctor, TellsProblemsAndCommandsWhenQuiet) {

@@ -36,7 +36,7 @@ TEST_F(Reach, IsThreeWithoutAMixerAndTheValueIsRemembered) {
   EXPECT_EQ(ErrorWord(json), "no-mixer");
   EXPECT_EQ(LastLine(result.err),
             "ztk: USB input 2 is saved, but not sent: no mixer is attached; "
-            "when one is attached, run: ztk input apply");
+            "when one is attached, run: ztk apply");
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output1"));
 }
 
@@ -68,7 +68,7 @@ TEST_F(Reach, IsSixWhenOneOfSeveralMayNotBeOpened) {
   EXPECT_THAT(Line(result.err, 1),
               HasSubstr("only 2 of 3 mixers accepted the change; when the "
                         "others are ready, run: "
-                        "ztk boost apply"));
+                        "ztk apply"));
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000",
                                     "mixer 3: 40 03 0200 8003 0000"));
 }
@@ -115,7 +115,7 @@ TEST_F(Reach, TellsWhyAMixerThatWasOpenedDidNotAnswer) {
     EXPECT_EQ(json["result"], 100);
     EXPECT_EQ(json["remembered"], true);
     EXPECT_EQ(result.err, std::string("ztk: Boost level is saved, but ") +
-                              row.message + "ztk boost apply\n");
+                              row.message + "ztk apply\n");
   }
 }
 
@@ -173,7 +173,7 @@ TEST_F(Reach, SaysOnceThatTheMixerRefusedTheValue) {
   EXPECT_EQ(
       result.err,
       "ztk: Boost level is saved, but the mixer refused it; switch it off "
-      "and on again, then run: ztk boost apply\n"
+      "and on again, then run: ztk apply\n"
       "ztk: the mixer refused it; switch it off and on again, then run: "
       "ztk boost apply\n");
 }

@@ -156,14 +156,14 @@ TEST_F(Undo, NamesTheCommandsThatSendTheValuesOfEachModel) {
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-5 dB","input":)"
            R"({"1":"MIC"}},"VRM-K2":{"midi":"CH 3"}}})");
   EXPECT_THAT(NoMixer("ztk import $DIR/both.json; ztk undo").err,
-              HasSubstr("run: ztk apply; ztk apply --product VRM-K2\n"));
+              HasSubstr("run: ztk apply --all\n"));
   // "ztk apply" is also a part of the longer command, so the whole command is
   // compared.
   WriteAll(home_.path() / "both.json",
            R"({"version":1,"settings":{"VRM-D6":{"boost":"-10 dB"},)"
            R"("VRM-B5":{"output":{"2":"AUX"}}}})");
   EXPECT_THAT(NoMixer("ztk import $DIR/both.json; ztk undo").err,
-              HasSubstr("run: ztk apply --product VRM-B5; ztk apply\n"));
+              HasSubstr("run: ztk apply --all\n"));
 }
 
 // ztk apply sends only the channels 1 to 4.
@@ -176,7 +176,7 @@ TEST_F(Undo, NamesTheSetCommandForAHighMidiChannel) {
 TEST_F(Undo, ShowsInADryRunWhatItWouldDo) {
   Remember("VRM-D6", {{"MaxLevel", 0}});
   OneMixer("ztk boost set 2");
-  const Result result = OneMixer("ztk undo --dry-run; ztk boost get");
+  const Result result = OneMixer("ztk undo --dry-run; ztk boost get -q");
   EXPECT_THAT(result.out, HasSubstr("Boost level: -10 dB (2) -> -5 dB (1)\n"));
   EXPECT_EQ(LastLine(result.out), "Boost level  -10 dB (2)");
   EXPECT_THAT(Requests(), IsEmpty());
@@ -277,7 +277,7 @@ TEST_F(Reset, IsUndone) {
             "remembered\n"
             "USB input 2: restored, MIC (6), sent to 1 mixer, "
             "remembered\n");
-  EXPECT_EQ(OneMixer("ztk status | tail -n 2").out,
+  EXPECT_EQ(OneMixer("ztk status | tail -n 4 | head -n 2").out,
             "  USB input 2   MIC (6), VRM-D6\n"
             "  Boost level   -5 dB (1), VRM-D6\n");
 }
@@ -466,6 +466,7 @@ TEST_F(Undo, CreatesItsFilesAsTheOwnerOfTheHomeFolder) {
             "1234:4321 ./.local/state\n"
             "1234:4321 ./.local/state/tarvix\n"
             "1234:4321 ./.local/state/tarvix/ztk-history.jsonl\n"
+            "1234:4321 ./.local/state/tarvix/ztk-sendings.jsonl\n"
             "1234:4321 ./.local/state/tarvix/ztk.lock\n");
 }
 

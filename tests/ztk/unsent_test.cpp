@@ -12,7 +12,7 @@ constexpr char kBoost[] =
     "Boost level is a setting of the VRM-D6. ztk shows the remembered choice.\n"
     "Boost level  -10 dB (2)\n";
 constexpr char kNotSent[] =
-    "ztk could not send to every mixer: Boost level\n"
+    "Not sent, or not to every mixer: Boost level\n"
     "To send what is remembered, run: ztk apply\n";
 
 TEST_F(Unsent, IsNothingAfterAChangeThatEveryMixerAccepted) {
@@ -45,8 +45,34 @@ TEST_F(Unsent, IsFollowedByTheNextStepInStatus) {
             "Remembered\n"
             "  USB input 2   MIC (6), VRM-D6\n"
             "  Boost level   -10 dB (2), VRM-D6\n"
-            "ztk could not send to every mixer: USB input 2, Boost level\n"
-            "Next: run ztk apply, which sends what is remembered\n");
+            "Not sent, or not to every mixer: USB input 2, Boost level\n"
+            "Next: to send what is remembered, run: ztk apply\n");
+}
+
+// A mixer that was switched on since may have another choice.
+TEST_F(Unsent, IsWhatWasSentBeforeAMixerWasPluggedIn) {
+  const Result result = OneMixer(
+      "ztk boost set 2 -q; ztk input set 5 mic -q; ztk-virtual-mixer unplug 1;"
+      "ztk-virtual-mixer plug 1; ztk input set 5 1 -q; ztk boost get;"
+      "ztk status --json; ztk status | tail -n 2; ztk apply -q;"
+      "ztk status | tail -n 1");
+  EXPECT_THAT(result.out,
+              HasSubstr(std::string(kBoost) +
+                        "Sent before a mixer was attached: Boost level\n"
+                        "To send what is remembered, run: ztk apply\n"));
+  EXPECT_THAT(result.out, HasSubstr("\"unsent\":\"earlier\""));
+  EXPECT_THAT(result.out,
+              HasSubstr("Sent before a mixer was attached: Boost level\n"
+                        "Next: to send what is remembered, run: ztk apply\n"));
+  EXPECT_EQ(LastLine(result.out), "  Boost level   -10 dB (2), VRM-D6");
+}
+
+TEST_F(Unsent, IsNotClaimedOfAnEarlierValueWithoutARecord) {
+  Remember("VRM-D6", {{"MaxLevel", 1}});
+  EXPECT_EQ(OneMixer("ztk-virtual-mixer unplug 1 >&2;"
+                     "ztk-virtual-mixer plug 1 >&2; ztk boost get")
+                .out,
+            kBoost);
 }
 
 TEST_F(Unsent, IsWhatARawValueOrADefaultHasReplaced) {

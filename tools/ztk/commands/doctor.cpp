@@ -8,6 +8,7 @@
 #include "ztk/model/diagnosis.h"
 #include "ztk/progress.h"
 #include "ztk/report/mixer_report.h"
+#include "ztk/report/unsent_report.h"
 
 namespace ztk::program {
 
@@ -64,16 +65,34 @@ void AddErrors(const char *part, const Finding &finding, Report *report) {
   report->errors.push_back("type:  " + finding.command);
 }
 
-// Notes also have a command, which nobody needs to run.
+// Nothing fails because of a note, so its command need not be run.
 std::string Summary(std::size_t problems, std::size_t notes) {
+  const std::string after = notes > 0 ? "; the commands of notes can wait" : "";
   if (problems > 1) {
     return std::to_string(problems) +
            " problems found; run the commands above, from top to bottom" +
-           (notes > 0 ? "; those of notes are not needed" : "");
+           after;
   }
   return std::string("1 problem found; run ") +
-         (notes > 0 ? "its command; those of notes are not needed"
-                    : "the command above");
+         (notes > 0 ? "its command" : "the command above") + after;
+}
+
+// The remembered values that an attached mixer may not have.
+Findings NotesOnUnsent() {
+  const RecordedSending recorded;
+  const std::vector<StoredValue> values = AllStoredValues();
+  if (values.empty() || !recorded.AnyAttached()) return {};
+  const Unsent unsent = FindUnsent(values, recorded);
+  Findings notes;
+  for (const std::string &line : unsent.lines) {
+    notes.push_back({.id = "unsent",
+                     .what = line,
+                     .cause = "a mixer has its own choice until it accepts the "
+                              "remembered one",
+                     .command = unsent.command,
+                     .isNote = true});
+  }
+  return notes;
 }
 
 // Returns how many problems the check has found; notes are none.
@@ -91,6 +110,7 @@ std::size_t AddCheck(const CheckedPart &part, bool quiet, Report *report) {
       {{"part", part.name},
        {"ok", problems == 0},
        {"message", problems == 0 ? Json(good) : Json()}});
+  const Findings notes = part.asksMixers ? NotesOnUnsent() : Findings{};
   if (findings.empty() || (problems == 0 && part.asksMixers)) {
     report->text += cli::Padded(part.name, kColumn) + "ok: " + good + "\n";
   }
@@ -98,6 +118,7 @@ std::size_t AddCheck(const CheckedPart &part, bool quiet, Report *report) {
     AddFinding(part.name, finding, report);
     if (quiet && !finding.isNote) AddErrors(part.name, finding, report);
   }
+  for (const Finding &note : notes) AddFinding(part.name, note, report);
   return problems;
 }
 

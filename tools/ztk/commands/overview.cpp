@@ -40,14 +40,15 @@ std::string ChoicesNow(const Setting &setting, SettingsSnapshot *settings) {
 Report ShowOverview(const Arguments & /*arguments*/) {
   Report report;
   SettingsSnapshot settings;
-  report.text = Attached(MixerPlaces().size());
+  const std::vector<std::string> places = MixerPlaces();
+  report.text = Attached(places.size());
   for (const Setting *setting : AllSettings()) {
     report.text += "\n" + std::string(setting->title) + " of the " +
                    ModelName(*setting) + ", as remembered\n" +
                    ChoicesNow(*setting, &settings);
   }
-  const Unsent unsent = FindUnsent(AllStoredValues(), RecordedSending());
-  if (!unsent.text.empty()) report.text += "\n" + WithCommand(unsent);
+  const Unsent unsent = FindUnsent(AllStoredValues(), RecordedSending(places));
+  if (!unsent.lines.empty()) report.text += "\n" + WithCommand(unsent);
   report.text +=
       "\n"
       "Next:\n"

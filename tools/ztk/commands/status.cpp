@@ -234,9 +234,16 @@ std::string NextStep(const Mixers &mixers, const Remembrance &remembered,
     return "Next: run ztk doctor; it shows the cause and what to do\n";
   }
   if (!apply.empty()) {
-    return "Next: run " + apply + ", which sends what is remembered\n";
+    return "Next: to send what is remembered, run: " + apply + "\n";
   }
   return "";
+}
+
+std::vector<std::string> PlacesOf(const Mixers &mixers) {
+  std::vector<std::string> places;
+  places.reserve(mixers.size());
+  for (const MixerStatus &mixer : mixers) places.push_back(mixer.place);
+  return places;
 }
 
 Mixers AddMixers(bool verbose, Report *report) {
@@ -303,10 +310,10 @@ Report ShowStatus(const Arguments &arguments) {
   Report report;
   report.isAnswer = true;
   const Mixers mixers = AddMixers(arguments.Has(Parameter::kVerbose), &report);
-  const RecordedSending recorded;
+  const RecordedSending recorded(PlacesOf(mixers));
   const Remembrance remembered = AddRemembered(recorded, &report);
   const Unsent unsent = FindUnsent(remembered.values, recorded);
-  report.text += unsent.text;
+  report.text += TextOf(unsent);
   AddSilence(FindSilentRoutings(mixers), mixers.size() > 1, &report);
   if (!arguments.Has(Parameter::kQuiet)) {
     report.text += NextStep(mixers, remembered, unsent.command);

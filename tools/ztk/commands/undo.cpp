@@ -166,7 +166,7 @@ std::string SendingAgain(const MadeChanges &made) {
       commands.push_back(SendingAgain(one.change));
     }
   }
-  return EachOnce(commands) +
+  return Joined(commands) +
          (remembersDefault ? " (set also remembers the default)" : "");
 }
 

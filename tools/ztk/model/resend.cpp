@@ -63,7 +63,7 @@ Reach SendAgain(std::vector<StoredValue> *values) {
          .index = value.index,
          .sending = SendingTo(value.accepted, calls.reach().found())});
   }
-  RecordSending(sendings, nullptr);
+  RecordSending(sendings, calls.reach().started, nullptr);
   return calls.reach();
 }
 

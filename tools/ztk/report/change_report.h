@@ -48,7 +48,7 @@ MadeChanges RunStep(const std::string &command,
 
 // The parts of the sentence for a value that not every mixer has accepted:
 // "Boost level is saved, but" the mixer did not answer; switch it off and
-// on again, then "run: ztk boost apply".
+// on again, then "run: ztk apply".
 struct DeliveryTexts {
   std::string before;  // the words before the reason, with a space
   std::string again;   // what to do to send it again

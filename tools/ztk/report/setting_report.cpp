@@ -11,6 +11,8 @@ namespace ztk::program {
 
 namespace {
 
+constexpr char kApply[] = "ztk apply";
+
 // The choice whose number is closest to a number out of range. Choices count
 // from 1 without gaps. A number without unit can also mean a level, such as -10
 // dB.
@@ -65,16 +67,32 @@ std::string SetCommand(const Setting &setting, std::uint32_t channel,
 std::string ApplyCommand(const Setting &setting, std::uint32_t channel,
                          std::uint32_t index) {
   if (!IsSentAgain(setting, index)) return SetCommand(setting, channel, index);
-  return setting.product == kOwnProduct
-             ? "ztk apply"
-             : "ztk apply --product " + ProductName(setting.product);
+  return setting.product == kOwnProduct ? kApply
+                                        : std::string(kApply) + " --product " +
+                                              ProductName(setting.product);
 }
 
-std::string EachOnce(const std::vector<std::string> &commands) {
+std::string Joined(const std::vector<std::string> &commands) {
+  const auto isApply = [](const std::string &command) {
+    return command.starts_with(kApply);
+  };
+  const auto apply = std::find_if(commands.begin(), commands.end(), isApply);
+  const bool severalModels =
+      std::any_of(apply, commands.end(), [&](const std::string &command) {
+        return isApply(command) && command != *apply;
+      });
+  std::vector<std::string> each;
+  for (const std::string &given : commands) {
+    const std::string command = severalModels && isApply(given)
+                                    ? std::string(kApply) + " --all"
+                                    : given;
+    if (std::find(each.begin(), each.end(), command) == each.end()) {
+      each.push_back(command);
+    }
+  }
   std::string joined;
-  for (auto command = commands.begin(); command != commands.end(); ++command) {
-    if (std::find(commands.begin(), command, *command) != command) continue;
-    joined += (joined.empty() ? "" : "; ") + *command;
+  for (const std::string &command : each) {
+    joined += (joined.empty() ? "" : "; ") + command;
   }
   return joined;
 }

@@ -38,8 +38,9 @@ std::string SetCommand(const Setting &setting, std::uint32_t channel,
 std::string ApplyCommand(const Setting &setting, std::uint32_t channel,
                          std::uint32_t index);
 
-// "ztk apply; ztk midi set 7": each of the commands once.
-std::string EachOnce(const std::vector<std::string> &commands);
+// "ztk apply; ztk midi set 7": each of the commands once. "ztk apply --all"
+// takes the place of the commands that apply the choices of several models.
+std::string Joined(const std::vector<std::string> &commands);
 
 // "; nearest: MIC (6)" for words that name no choice; empty if no choice is
 // similar.

@@ -3,7 +3,6 @@
 
 #include "cli/strings.h"
 #include "ztk/report/setting_report.h"
-#include "ztk/system/places.h"
 
 namespace ztk::program {
 
@@ -17,61 +16,74 @@ std::string Commands(const std::vector<StoredValue> &values) {
     commands.push_back(
         ApplyCommand(*value.setting, value.channel, value.index));
   }
-  return EachOnce(commands);
+  return Joined(commands);
 }
 
-std::string LineOf(const char *what, const std::vector<StoredValue> &values) {
-  if (values.empty()) return "";
-  std::vector<std::string> names;
-  names.reserve(values.size());
-  for (const StoredValue &value : values) {
-    names.push_back(PlaceName(*value.setting, value.channel));
-  }
-  return what + cli::Listed(names) + "\n";
-}
+struct Reason {
+  Sending sending;
+  const char *words;
+};
+constexpr Reason kReasons[] = {
+    {Sending::Incomplete, "Not sent, or not to every mixer: "},
+    {Sending::Replaced, "ztk has sent another value since: "},
+    {Sending::Earlier, "Sent before a mixer was attached: "}};
 
 }  // namespace
 
 Unsent FindUnsent(const std::vector<StoredValue> &remembered,
                   const RecordedSending &recorded) {
-  std::vector<StoredValue> incomplete;
-  std::vector<StoredValue> replaced;
+  Unsent unsent;
   std::vector<StoredValue> all;
-  for (const StoredValue &value : remembered) {
-    const Sending sending =
-        recorded.Of(*value.setting, value.channel, value.index);
-    if (sending == Sending::Complete) continue;
-    all.push_back(value);
-    (sending == Sending::Replaced ? replaced : incomplete).push_back(value);
+  for (const Reason &reason : kReasons) {
+    std::vector<std::string> names;
+    for (const StoredValue &value : remembered) {
+      if (recorded.Of(*value.setting, value.channel, value.index) !=
+          reason.sending) {
+        continue;
+      }
+      names.push_back(PlaceName(*value.setting, value.channel));
+      all.push_back(value);
+    }
+    if (names.empty()) continue;
+    unsent.lines.push_back(reason.words + cli::Listed(names));
   }
-  return {.text = LineOf("ztk could not send to every mixer: ", incomplete) +
-                  LineOf("ztk has sent another value since: ", replaced),
-          .command = Commands(all)};
+  unsent.command = Commands(all);
+  return unsent;
+}
+
+std::string TextOf(const Unsent &unsent) {
+  std::string text;
+  for (const std::string &line : unsent.lines) text += line + "\n";
+  return text;
 }
 
 std::string WithCommand(const Unsent &unsent) {
-  if (unsent.text.empty()) return "";
-  return unsent.text + "To send what is remembered, run: " + unsent.command +
+  if (unsent.lines.empty()) return "";
+  return TextOf(unsent) + "To send what is remembered, run: " + unsent.command +
          "\n";
 }
 
-void AddUnsent(const std::vector<StoredValue> &remembered, Report *report) {
+void AddUnsent(const std::vector<StoredValue> &remembered,
+               const RecordedSending &recorded, Report *report) {
   if (remembered.empty()) return;
-  if (MixerPlaces().empty()) {
+  if (!recorded.AnyAttached()) {
     report->text += "No mixer is attached; when one is attached, run: " +
                     Commands(remembered) + "\n";
     return;
   }
-  report->text += WithCommand(FindUnsent(remembered, RecordedSending()));
+  report->text += WithCommand(FindUnsent(remembered, recorded));
 }
 
 Json UnsentField(Sending sending) {
   switch (sending) {
+    case Sending::Earlier:
+      return "earlier";
     case Sending::Incomplete:
       return "incomplete";
     case Sending::Replaced:
       return "replaced";
     case Sending::Complete:
+    case Sending::Forgotten:
       break;
   }
   return nullptr;

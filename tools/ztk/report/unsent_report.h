@@ -13,11 +13,16 @@ namespace ztk::program {
 
 // The remembered values that the mixers may not have.
 struct Unsent {
-  std::string text;     // a line for each reason; empty where there is none
+  // One for each reason, such as "Sent before a mixer was attached: Boost
+  // level".
+  std::vector<std::string> lines;
   std::string command;  // the commands that send them, joined by semicolons
 };
 Unsent FindUnsent(const std::vector<StoredValue> &remembered,
                   const RecordedSending &recorded);
+
+// These lines as one text.
+std::string TextOf(const Unsent &unsent);
 
 // These lines, and the command that sends the values; empty where there are
 // none.
@@ -25,9 +30,10 @@ std::string WithCommand(const Unsent &unsent);
 
 // Adds these lines, and what to do about them; the same when no mixer is
 // attached.
-void AddUnsent(const std::vector<StoredValue> &remembered, Report *report);
+void AddUnsent(const std::vector<StoredValue> &remembered,
+               const RecordedSending &recorded, Report *report);
 
-// "incomplete", "replaced", or null for Sending::Complete.
+// "earlier", "incomplete", "replaced", or null for Sending::Complete.
 Json UnsentField(Sending sending);
 
 }  // namespace ztk::program

@@ -5,7 +5,9 @@
 #ifndef ZTK_TOOLS_ZTK_SYSTEM_PLACES_H_
 #define ZTK_TOOLS_ZTK_SYSTEM_PLACES_H_
 
+#include <chrono>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +16,12 @@ namespace ztk::model {
 // The names that the system uses for the places, in the order in which the
 // library numbers the mixers. Opens nothing.
 std::vector<std::string> MixerPlaces();
+
+using SystemTime = std::chrono::system_clock::time_point;
+
+// When the mixer at the place was attached. None if the system does not tell:
+// macOS, and file systems of /dev that do not keep the time of a node's birth.
+std::optional<SystemTime> AttachedSince(const std::string &place);
 
 // Why a mixer cannot be opened.
 enum class Obstacle : std::uint8_t {

@@ -75,7 +75,8 @@ cli::Section Files() {
        .meaning = "The changes that ztk has made, for ztk undo"});
   section.terms.push_back(
       {.name = "tarvix/ztk-sendings.jsonl",
-       .meaning = "The choices that ztk could not send to every mixer"});
+       .meaning = "What ztk has sent last, when, and whether every mixer\n"
+                  "accepted it"});
   section.terms.push_back(
       {.name = "tarvix/ztk.lock",
        .meaning = "Locked while ztk changes something; another ztk waits"});

@@ -93,7 +93,8 @@ void WarnOfOtherModels(const std::vector<StoredValue> &settings,
 }
 
 // Asks the mixers only when a value that was sent needs an input selector.
-void WarnOfSilence(const std::vector<StoredValue> &settings, Report *report) {
+void WarnOfSilence(const std::vector<StoredValue> &settings, const Reach &reach,
+                   Report *report) {
   std::vector<std::uint32_t> channels;
   for (const StoredValue &value : settings) {
     if (value.setting == &kInput && value.accepted > 0 &&
@@ -105,21 +106,12 @@ void WarnOfSilence(const std::vector<StoredValue> &settings, Report *report) {
   const Progress progress(kWaitingForMixer, kLongestQuestion);
   const std::vector<SilentRouting> silent =
       FindSilentRoutings(AskForSelectors());
-  std::vector<std::string> names;
-  for (const std::uint32_t channel : channels) {
-    if (std::any_of(silent.begin(), silent.end(),
-                    [channel](const SilentRouting &routing) {
-                      return routing.channel == channel;
-                    })) {
-      names.push_back(PlaceName(kInput, channel));
+  for (const SilentRouting &routing : silent) {
+    if (std::find(channels.begin(), channels.end(), routing.channel) !=
+        channels.end()) {
+      report->warnings.push_back(Described(routing, reach.found() > 1));
     }
   }
-  if (names.empty()) return;
-  report->warnings.push_back(
-      "no sound is recorded on " + cli::Listed(names) +
-      ", because the input selector is not in position " +
-      std::to_string(ZTK_SELECTOR_AUDIBLE) +
-      "; ztk status shows the positions");
 }
 
 // Remembered settings of other models, which a user with several models may
@@ -165,7 +157,7 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
   }
   AddRefused(settings, &report);
   WarnOfOtherModels(settings, reach, &report);
-  WarnOfSilence(settings, &report);
+  WarnOfSilence(settings, reach, &report);
   return report;
 }
 

@@ -79,7 +79,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
                     : why.empty() ? ", default: nothing is remembered\n"
                                   : ", default: the file cannot be read\n");
   }
-  if (!quiet) AddUnsent(values, &report);
+  if (!quiet) AddUnsent(values, recorded, &report);
   if (&setting == &kInput && (!quiet || arguments.Has(Parameter::kJson))) {
     AddSilenceOf(channels, &report);
   }

@@ -83,10 +83,8 @@ Report SetChoice(const Setting &setting, const Arguments &arguments) {
   report.fields["result"] = change.result;
   report.fields["remembered"] = change.remembered;
   report.fields["announced"] = change.announced;
-  ReportOutcome(made, place,
-                IsSentAgain(setting, wanted.index)
-                    ? std::string("ztk ") + setting.name + " apply"
-                    : SetCommand(setting, channel, wanted.index),
+  // A mixer that was off has lost its other choices too, so all are sent.
+  ReportOutcome(made, place, ApplyCommand(setting, channel, wanted.index),
                 &report);
   report.text = place + ": " + Described(choice) + Described(change, made) +
                 "\n" + NoteOnSendingAgain(wanted);

@@ -126,7 +126,7 @@ void RecordReplaced(const Setting &setting, std::uint32_t channel,
                   .channel = channel,
                   .index = *remembered,
                   .sending = Sending::Replaced}},
-                nullptr);
+                {}, nullptr);
 }
 
 DeliveryTexts NeverRemembered(const std::string &command) {

@@ -76,9 +76,9 @@ ForgottenStep ForgetValues(const std::string &command,
     forgotten.push_back({.setting = value.setting,
                          .channel = value.channel,
                          .index = value.index,
-                         .sending = Sending::Complete});
+                         .sending = Sending::Forgotten});
   }
-  RecordSending(forgotten, history);
+  RecordSending(forgotten, {}, history);
   if (forgotten.empty()) recorded.TakeBack();
   return result;
 }

@@ -52,6 +52,8 @@ std::optional<Step> ParseStep(const std::string &line) {
   const Json command = json.value("command", Json());
   if (!changes.is_array() || !command.is_string()) return std::nullopt;
   Step step{.command = command.get<std::string>(), .changes = {}};
+  const Json time = json.value("time", Json());
+  if (time.is_number_integer()) step.time = time.get<std::int64_t>();
   for (const Json &one : changes) {
     const auto change = ParseChange(one);
     if (!change) return std::nullopt;
@@ -67,6 +69,7 @@ Json NumberOrNull(const std::optional<std::uint32_t> &number) {
 
 std::string LineOf(const Step &step) {
   Json json{{"command", step.command}, {"changes", Json::array()}};
+  if (step.time) json["time"] = *step.time;
   for (const PastChange &change : step.changes) {
     json["changes"].push_back(
         {{"setting", change.setting->name},
@@ -178,7 +181,7 @@ MadeStep MakeStep(const std::string &command,
       result.made.changes.begin(), result.made.changes.end(),
       [](const MadeChange &one) { return one.remembered || one.forgotten; });
   if (!kept) recorded.TakeBack();
-  RecordSending(SendingsOf(result.made), history);
+  RecordSending(SendingsOf(result.made), result.made.reach.started, history);
   return result;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The remembered values that the mixers may not have. A mixer cannot be asked
-// for its choice, so this program records when it could not send one.
+// for its choice, so this program records what it has sent, and when.
 #ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_SENDINGS_H_
 #define ZTK_TOOLS_ZTK_MODEL_HISTORY_SENDINGS_H_
 
@@ -19,8 +19,10 @@ namespace ztk::model {
 enum class Sending : std::uint8_t {
   Complete,    // each attached mixer has accepted the value, or none is known
                // that has not
+  Earlier,     // as Complete, but a mixer was attached afterwards
   Incomplete,  // no mixer was attached, or one has not accepted the value
-  Replaced  // afterwards, a mixer has accepted a value that is not remembered
+  Replaced,  // afterwards, a mixer has accepted a value that is not remembered
+  Forgotten  // nothing is remembered any longer
 };
 
 // What this program sent last to a channel of a setting that has this
@@ -38,21 +40,32 @@ Sending SendingTo(std::size_t accepted, std::size_t mixers);
 // The sendings of the changes that were stored.
 std::vector<LastSending> SendingsOf(const MadeChanges &made);
 
-// Records each value until it is sent to each mixer. `history` has the lock;
+// Records the sendings, which began at `started`. `history` has the lock;
 // without one, takes the lock if the record changes, and does nothing when
 // another program keeps it.
-void RecordSending(const std::vector<LastSending> &sendings,
+void RecordSending(const std::vector<LastSending> &sendings, SystemTime started,
                    const History *history);
 
-// What is recorded. The file is read at the first question, so that nothing is
-// read if nothing is remembered.
+// What is recorded. The file and the mixers are looked at when the first
+// question is asked, so that nothing is read if nothing is remembered.
 class RecordedSending {
  public:
+  RecordedSending() = default;
+  // For mixers whose places are known already.
+  explicit RecordedSending(std::vector<std::string> places);
+
   // Complete when the value has changed since: another program has set it.
+  // Never Forgotten.
   Sending Of(const Setting &setting, std::uint32_t channel,
              std::uint32_t index) const;
+  bool AnyAttached() const { return !Places().empty(); }
 
  private:
+  const std::vector<std::string> &Places() const;
+  const std::vector<Step> &Steps() const;
+  bool IsBeforeAMixer(const Step &step) const;
+
+  mutable std::optional<std::vector<std::string>> places_;
   mutable std::optional<std::vector<Step>> steps_;
 };
 

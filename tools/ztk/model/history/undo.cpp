@@ -123,7 +123,7 @@ UndoneSteps UndoSteps(const std::vector<Change> &changes, std::size_t count,
       });
   if (undone.dropped) history->DropLast(count);
   undone.saved = history->Save();
-  RecordSending(SendingsOf(undone.made), history);
+  RecordSending(SendingsOf(undone.made), undone.made.reach.started, history);
   return undone;
 }
 

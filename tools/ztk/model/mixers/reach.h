@@ -34,6 +34,8 @@ struct Mixer {
 
 struct Reach {
   std::vector<Mixer> mixers;  // all that were attached
+  // Before the first request.
+  SystemTime started = std::chrono::system_clock::now();
 
   std::size_t found() const { return mixers.size(); }
   std::size_t answered() const;

@@ -2,6 +2,7 @@
 #include "ztk/system/places.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -31,6 +32,12 @@ std::string NodeOf(const DeviceFacts &facts) {
   return platform::usb::NodeOf(facts, number);
 }
 
+// The name of the place is enough to find the node, so the bus is not read.
+std::string NodeAt(const std::string &place) {
+  return NodeOf(
+      {.entry = place, .place = platform::usb::PlaceOf(place.c_str())});
+}
+
 Obstacle ObstacleOf(int error) {
   switch (error) {
     case EACCES:
@@ -57,11 +64,20 @@ std::vector<std::string> MixerPlaces() {
   return places;
 }
 
+// The kernel makes a new node each time a device is attached.
+std::optional<SystemTime> AttachedSince(const std::string &place) {
+  struct statx facts {};
+  if (statx(AT_FDCWD, NodeAt(place).c_str(), 0, STATX_BTIME, &facts) != 0 ||
+      (facts.stx_mask & STATX_BTIME) == 0) {
+    return std::nullopt;
+  }
+  return SystemTime(std::chrono::duration_cast<SystemTime::duration>(
+      std::chrono::seconds(facts.stx_btime.tv_sec) +
+      std::chrono::nanoseconds(facts.stx_btime.tv_nsec)));
+}
+
 bool MayBeOpened(const std::string &place) {
-  // The name of the place is enough to find the node, so the bus is not read.
-  const DeviceFacts facts{.entry = place,
-                          .place = platform::usb::PlaceOf(place.c_str())};
-  return access(NodeOf(facts).c_str(), R_OK | W_OK) == 0;
+  return access(NodeAt(place).c_str(), R_OK | W_OK) == 0;
 }
 
 Access TryToOpen(const std::string &place) {

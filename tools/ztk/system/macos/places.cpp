@@ -127,6 +127,10 @@ std::vector<std::string> MixerPlaces() {
   return places;
 }
 
+std::optional<SystemTime> AttachedSince(const std::string & /*place*/) {
+  return std::nullopt;
+}
+
 // On this system every user may send requests to a mixer. TryToOpen() finds out
 // whether that is possible without opening it.
 bool MayBeOpened(const std::string &place) {
