@@ -40,10 +40,11 @@ RUN_BY = {"compile": "tests/install/install_test.sh",
           "python": "scripts/try-packages",
           "source": "scripts/try-packages",
           "start": "scripts/try-bare-root",
+          "uninstall": "scripts/try-packages",
           "wheel": "tests/python/wheel_test.py",
           "window": "scripts/demo"}
 # These read the block from the document, and so run it as it is written.
-READ_FROM_DOCUMENT = ("compile", "install", "python", "source")
+READ_FROM_DOCUMENT = ("compile", "install", "python", "source", "uninstall")
 
 
 class Block(NamedTuple):

@@ -135,8 +135,9 @@ cli::Command MakeWarning() {
 cli::Command MakeDoctor() {
   cli::Command command = MakeGeneral(
       "doctor", "Find out why something does not work, and what to do",
-      "Checks the mixers, the settings files, the session's message bus and\n"
-      "the warning texts. Nothing is changed; each mixer receives one query.\n"
+      "Checks the mixers, the settings files, the session's message bus, the\n"
+      "texts of ztk warning and the undo history. Nothing is changed; the\n"
+      "mixers receive only queries.\n"
       "The exit status is 1 when a problem is found; a note is not a problem.\n"
       "With --quiet only the problems are printed.",
       "ztk doctor", Diagnose);
