@@ -14,6 +14,7 @@
 #include "window/picture/picture.h"
 #include "window/registry.h"
 #include "window/rows/choice_row.h"
+#include "window/rows/wrapped_text.h"
 #include "window/states.h"
 
 namespace ztk::window {
@@ -41,6 +42,7 @@ class RowsTest : public QObject {
   void EscapeLeavesTheChoiceAsItIs();
   void ALetterGoesToTheEntryThatBeginsWithIt();
   void TheWheelChangesNothing();
+  void AWrappedTextIsAsHighAsItsLines();
 
  private:
   ChoiceRow *InputRow(int channel) const {
@@ -288,6 +290,28 @@ void RowsTest::TheWheelChangesNothing() {
   QApplication::sendEvent(box, &event);
   QCOMPARE(box->currentIndex(), 2);
   QCOMPARE(chosen.size(), 0);
+}
+
+void RowsTest::AWrappedTextIsAsHighAsItsLines() {
+  WrappedText text;
+  QLabel label;
+  label.setWordWrap(true);
+  const auto isAsHigh = [&](int width) {
+    return text.heightForWidth(width) == label.heightForWidth(width);
+  };
+  for (const char *words : {"No mixer is attached.",
+                            "No mixer is attached. Mixer 1 was unplugged or "
+                            "switched off. Mixer 2 does not answer."}) {
+    text.setText(QLatin1String(words));
+    label.setText(QLatin1String(words));
+    QVERIFY(isAsHigh(100));
+    QVERIFY(isAsHigh(300));
+  }
+  QFont large = label.font();
+  large.setPointSizeF(large.pointSizeF() * 2);
+  text.setFont(large);
+  label.setFont(large);
+  QVERIFY(isAsHigh(100));
 }
 
 namespace {

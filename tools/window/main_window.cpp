@@ -22,6 +22,7 @@
 #include "window/pages/notices.h"
 #include "window/pages/routing_page.h"
 #include "window/pages/rows_page.h"
+#include "window/rows/wrapped_text.h"
 
 namespace ztk::window {
 
@@ -37,9 +38,7 @@ QList<const model::Setting *> SettingsOf(const std::string &modelName) {
 }
 
 QLabel *MakeSentence(QWidget *parent, const char *name) {
-  auto *label = new QLabel(parent);
-  label->setWordWrap(true);
-  label->setTextFormat(Qt::PlainText);
+  auto *label = new WrappedText(parent);
   label->setObjectName(QLatin1String(name));
   return label;
 }

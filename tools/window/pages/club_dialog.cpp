@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "window/rows/wrapped_text.h"
+
 namespace ztk::window {
 
 namespace {
@@ -47,12 +49,11 @@ QWidget *TableOf(const ClubPreview &preview, QWidget *parent) {
 }
 
 QLabel *KeptLabel(const ClubPreview &preview, QWidget *parent) {
-  auto *label = new QLabel(parent);
-  label->setWordWrap(true);
-  label->setTextFormat(Qt::PlainText);
+  auto *label =
+      new WrappedText(ClubDialog::tr("Not in this club, and not changed: %1.")
+                          .arg(preview.kept.join(QStringLiteral(", "))),
+                      parent);
   label->setObjectName(QStringLiteral("kept"));
-  label->setText(ClubDialog::tr("Not in this club, and not changed: %1.")
-                     .arg(preview.kept.join(QStringLiteral(", "))));
   return label;
 }
 
@@ -60,11 +61,9 @@ QLabel *KeptLabel(const ClubPreview &preview, QWidget *parent) {
 
 ClubDialog::ClubDialog(const ClubPreview &preview, QWidget *parent)
     : QDialog(parent),
-      introduction_(new QLabel(Introduction(preview), this)),
+      introduction_(new WrappedText(Introduction(preview), this)),
       buttons_(new QDialogButtonBox(this)) {
   setWindowTitle(tr("Apply a club"));
-  introduction_->setWordWrap(true);
-  introduction_->setTextFormat(Qt::PlainText);
   if (preview.error.isEmpty() && !preview.changes.isEmpty()) {
     buttons_->addButton(tr("&Apply"), QDialogButtonBox::AcceptRole);
     buttons_->addButton(QDialogButtonBox::Cancel);

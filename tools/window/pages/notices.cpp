@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "window/rows/warning_sign.h"
+#include "window/rows/wrapped_text.h"
 #include "ztk/model/mixers/mixer_status.h"
 
 namespace ztk::window {
@@ -68,9 +69,7 @@ QString TextOf(const MixerState &mixer) {
 }
 
 QLabel *Wrapped(const QString &text, QWidget *parent) {
-  auto *label = new QLabel(text, parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
+  auto *label = new WrappedText(text, parent);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse |
                                  Qt::TextSelectableByKeyboard);
   label->setFocusPolicy(Qt::NoFocus);

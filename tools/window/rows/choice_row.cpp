@@ -10,6 +10,7 @@
 #include "window/rows/choice_box.h"
 #include "window/rows/row_text.h"
 #include "window/rows/warning_sign.h"
+#include "window/rows/wrapped_text.h"
 
 namespace ztk::window {
 
@@ -21,7 +22,7 @@ ChoiceRow::ChoiceRow(const model::Setting &setting, std::uint32_t channel,
       label_(new QLabel(RowLabel(setting, channel), this)),
       box_(new ChoiceBox(this)),
       sign_(new WarningSign(this)),
-      text_(new QLabel(this)) {
+      text_(new WrappedText(this)) {
   for (const model::Choice &choice :
        model::ChoicesOf(setting, setting.product, channel)) {
     box_->addItem(QString::fromStdString(choice.text));
@@ -31,8 +32,6 @@ ChoiceRow::ChoiceRow(const model::Setting &setting, std::uint32_t channel,
   box_->setObjectName(QStringLiteral("%1 %2").arg(
       QLatin1String(setting.name), QString::number(channel + 1)));
   label_->setBuddy(box_);
-  text_->setWordWrap(true);
-  text_->setTextFormat(Qt::PlainText);
   text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::MinimumExpanding);
   text_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   // Rows keep their height as long as the text has at most two lines.
