@@ -60,10 +60,8 @@ int main(int argc, char **argv) {
   Translate(&application, QLocale());
   Engine engine;
   MainWindow window;
-  Connect(&window, &engine);
   GapWatch gaps(&window);
-  window.show();
-  engine.start();
+  Open(&window, &engine);
   enum class Phase { Asking, Sending, Done } phase = Phase::Asking;
   QObject::connect(
       &engine, &Engine::stateChanged, &window,

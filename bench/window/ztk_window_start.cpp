@@ -16,8 +16,6 @@ int main(int argc, char **argv) {
   Translate(&application, QLocale());
   Engine engine;
   MainWindow window;
-  Connect(&window, &engine);
-  window.show();
-  engine.start();
+  Open(&window, &engine);
   return ztk::bench::MeasureFirstFrame(&window);
 }

@@ -41,6 +41,7 @@ class WholeWindowTest : public EngineWorld {
   void SendingAllEndsTheDoubt();
   void SavesAndAppliesAClub();
   void ClosesWhileAMixerIsSilent();
+  void ShowsWhatIsRememberedInTheFirstFrame();
 
  private:
   // Shows a window whose engine has read the mixers and all settings.
@@ -247,6 +248,21 @@ void WholeWindowTest::ClosesWhileAMixerIsSilent() {
   Click({.source = Source::Mic});
   window_->close();
   QVERIFY(!window_->isVisible());
+}
+
+void WholeWindowTest::ShowsWhatIsRememberedInTheFirstFrame() {
+  Ztk({"input", "set", "3", "rec out"});
+  window_ = std::make_unique<MainWindow>();
+  Engine engine;
+  QStringList painted;
+  QObject watcher;
+  connect(window_.get(), &MainWindow::painted, &watcher,
+          [&] { painted.append(InputRow(2).box()->currentText()); });
+  window::Open(window_.get(), &engine);
+  QVERIFY(!engine.state().mixersKnown);
+  EVENTUALLY(engine.state().mixersKnown);
+  QVERIFY(!painted.isEmpty());
+  QCOMPARE(painted.first(), QStringLiteral("REC OUT"));
 }
 
 namespace {

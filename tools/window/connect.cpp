@@ -32,4 +32,13 @@ void Connect(MainWindow *window, Engine *engine) {
   QObject::connect(engine, &Engine::reported, window, &MainWindow::showMessage);
 }
 
+void Open(MainWindow *window, Engine *engine) {
+  Connect(window, engine);
+  engine->readRows();
+  QObject::connect(window, &MainWindow::painted, engine, &Engine::start,
+                   static_cast<Qt::ConnectionType>(Qt::QueuedConnection |
+                                                   Qt::SingleShotConnection));
+  window->show();
+}
+
 }  // namespace ztk::window

@@ -21,8 +21,6 @@ int main(int argc, char **argv) {
 
   Engine engine;
   MainWindow window;
-  Connect(&window, &engine);
-  window.show();
-  engine.start();
+  Open(&window, &engine);
   return QApplication::exec();
 }

@@ -270,6 +270,11 @@ void MainWindow::hideEvent(QHideEvent *event) {
   TellVisibility();
 }
 
+void MainWindow::paintEvent(QPaintEvent *event) {
+  QMainWindow::paintEvent(event);
+  emit painted();
+}
+
 void MainWindow::showEvent(QShowEvent *event) {
   QMainWindow::showEvent(event);
   TellVisibility();

@@ -51,11 +51,14 @@ class MainWindow : public QMainWindow {
   void clubsWanted();
   // Whether anybody can see the window.
   void visibilityChanged(bool visible);
+  // A frame is being painted.
+  void painted();
 
  protected:
   void changeEvent(QEvent *event) override;
   void closeEvent(QCloseEvent *event) override;
   void hideEvent(QHideEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
   void showEvent(QShowEvent *event) override;
 
  private:

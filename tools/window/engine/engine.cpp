@@ -42,6 +42,7 @@ class Engine::Private {
   void PostStep(const char *name, std::function<StepOutcome()> step);
   void CheckMixers();  // and for problems
   void ReadSettings();
+  void TakeStored(const StoredState &stored);
   void ReadClubs();
   void SwitchAutoapplyTo(bool on);
   void SetVisible(bool visible);
@@ -88,6 +89,7 @@ Engine::Private::Private(Engine *engine)
 }
 
 void Engine::Private::Start() {
+  usb_.Start();
   ReadSettings();
   CheckMixers();
   ReadClubs();
@@ -142,11 +144,13 @@ void Engine::Private::ReadProblems() {
 void Engine::Private::ReadSettings() {
   worker.Post(Worker::Kind::Reading, "settings", [this]() -> Worker::Result {
     const StoredState stored = ReadStored();
-    return [this, stored] {
-      rows_.TakeStored(stored);
-      emit engine_->stateChanged();
-    };
+    return [this, stored] { TakeStored(stored); };
   });
+}
+
+void Engine::Private::TakeStored(const StoredState &stored) {
+  rows_.TakeStored(stored);
+  emit engine_->stateChanged();
 }
 
 void Engine::Private::ReadClubs() {
@@ -259,6 +263,8 @@ Engine::Engine(QObject *parent)
     : QObject(parent), private_(std::make_unique<Private>(this)) {}
 
 Engine::~Engine() = default;
+
+void Engine::readRows() { private_->TakeStored(ReadRows()); }
 
 void Engine::start() { private_->Start(); }
 

@@ -13,7 +13,7 @@
 namespace ztk::window {
 
 // Lives in the thread of the user interface. No function of it waits for a
-// mixer, a file or the message bus.
+// mixer or the message bus, and only readRows() waits for files.
 class Engine : public QObject {
   Q_OBJECT
 
@@ -21,6 +21,9 @@ class Engine : public QObject {
   explicit Engine(QObject *parent = nullptr);
   ~Engine() override;
 
+  // Reads what is remembered before it returns, so that the first frame can
+  // show it. Called before start().
+  void readRows();
   // Registers for changes of other programs, then starts the worker; returns
   // before that. Called once, from the thread that runs the event loop.
   void start();

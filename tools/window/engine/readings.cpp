@@ -68,7 +68,7 @@ QList<MixerState> Shown(const std::vector<model::MixerStatus> &mixers) {
 
 }  // namespace
 
-StoredState ReadStored() {
+StoredState ReadRows() {
   StoredState state;
   model::SettingsSnapshot settings;
   for (const model::Setting *setting : model::AllSettings()) {
@@ -79,6 +79,11 @@ StoredState ReadStored() {
                              settings.WhyUnreadable(*setting))});
     }
   }
+  return state;
+}
+
+StoredState ReadStored() {
+  StoredState state = ReadRows();
   model::History history;
   if (history.state() != model::History::State::Usable) return state;
   // Void steps are removed from this copy only. The undo removes them from the

@@ -27,6 +27,9 @@ struct StoredState {
   QString undoes;
 };
 StoredState ReadStored();
+// The same without what undo would take back. It does not wait until another
+// program has made its changes.
+StoredState ReadRows();
 
 // The rows before the settings and the mixers have been read.
 QList<RowState> EmptyRows();

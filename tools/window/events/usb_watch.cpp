@@ -33,8 +33,9 @@ UsbWatch::UsbWatch(QObject *parent) : QObject(parent) {
     emit changed();
   });
   poll_.setInterval(kPollMilliseconds);
-  WatchFolders();
 }
+
+void UsbWatch::Start() { WatchFolders(); }
 
 // A folder that is removed is not watched any more, also when it comes again.
 void UsbWatch::WatchFolders() {

@@ -17,6 +17,8 @@ class UsbWatch : public QObject {
  public:
   explicit UsbWatch(QObject *parent);
 
+  void Start();
+
  signals:
   // Once for several changes that follow each other closely.
   void changed();
