@@ -15,6 +15,7 @@
 #include "window/connect.h"
 #include "window/engine/engine.h"
 #include "window/main_window.h"
+#include "window/style.h"
 #include "window/translation.h"
 
 namespace {
@@ -57,6 +58,7 @@ class GapWatch : public QObject {
 
 int main(int argc, char **argv) {
   QApplication application(argc, argv);
+  QApplication::setStyle(new Style(QApplication::style()));
   Translate(&application, QLocale());
   Engine engine;
   MainWindow window;

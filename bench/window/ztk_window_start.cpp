@@ -8,11 +8,13 @@
 #include "window/connect.h"
 #include "window/engine/engine.h"
 #include "window/main_window.h"
+#include "window/style.h"
 #include "window/translation.h"
 
 int main(int argc, char **argv) {
   using namespace ztk::window;
   QApplication application(argc, argv);
+  QApplication::setStyle(new Style(QApplication::style()));
   Translate(&application, QLocale());
   Engine engine;
   MainWindow window;

@@ -11,12 +11,14 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
 #include <QToolTip>
 
 #include "window/cut_texts.h"
@@ -27,6 +29,7 @@
 #include "window/registry.h"
 #include "window/rows/choice_row.h"
 #include "window/states.h"
+#include "window/style.h"
 
 namespace ztk::window {
 
@@ -60,6 +63,7 @@ class MainWindowTest : public QObject {
   void TheSisterModelsHaveTheirOwnPages();
   void NoTextIsCut_data();
   void NoTextIsCut();
+  void TheButtonOfMenusThatDoNotFitHasAnArrow();
   void ClosingHidesAtOnce();
   void TellsWhetherItIsVisible();
 
@@ -430,6 +434,20 @@ void MainWindowTest::NoTextIsCut() {
   const QStringList cut = CutTexts(window);
   QApplication::setFont(usual);
   QCOMPARE(cut, QStringList());
+}
+
+void MainWindowTest::TheButtonOfMenusThatDoNotFitHasAnArrow() {
+  const auto *button = window_->menuBar()->findChild<QToolButton *>();
+  QVERIFY(button != nullptr);
+  QCOMPARE(button->arrowType(), Qt::RightArrow);
+  // So it needs no icon, which the style does not read.
+  const Style style;
+  QVERIFY(style
+              .standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton,
+                            nullptr, button)
+              .isNull());
+  QVERIFY(!style.standardIcon(QStyle::SP_MessageBoxQuestion, nullptr, button)
+               .isNull());
 }
 
 void MainWindowTest::ClosingHidesAtOnce() {

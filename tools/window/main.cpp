@@ -7,12 +7,14 @@
 #include "window/engine/engine.h"
 #include "window/main_window.h"
 #include "window/options.h"
+#include "window/style.h"
 #include "window/translation.h"
 
 int main(int argc, char **argv) {
   using namespace ztk::window;
   if (const auto status = RunWithoutWindow(argc, argv)) return *status;
   QApplication application(argc, argv);
+  QApplication::setStyle(new Style(QApplication::style()));
   if (const auto status = RefuseUnknown(argc, argv)) return *status;
   const QString id = QStringLiteral("com.tarvix.ZtkWindow");
   QGuiApplication::setDesktopFileName(id);

@@ -14,6 +14,7 @@
 #include <QStyle>
 #include <QTabWidget>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -131,6 +132,10 @@ QAction *MainWindow::AddAction(QMenu *menu, const QString &text,
 }
 
 void MainWindow::MakeMenus() {
+  // It has no icon: see Style.
+  auto *rest = menuBar()->findChild<QToolButton *>(
+      QStringLiteral("qt_menubar_ext_button"));
+  if (rest != nullptr) rest->setArrowType(Qt::RightArrow);
   QMenu *file = menuBar()->addMenu(tr("&File"));
   QAction *quit = AddAction(file, tr("&Quit"), QKeySequence::Quit);
   quit->setMenuRole(QAction::QuitRole);
