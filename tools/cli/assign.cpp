@@ -37,7 +37,8 @@ class Assigner {
   }
 
   Assignment Run() {
-    // Begins anew, and moves optind to the first word.
+    // The value 0 makes getopt_long() begin anew. The first call has no words:
+    // it only moves optind to the first word.
     optind = 0;
     opterr = 0;
     getopt_long(1, argv_.data(), shortOptions_.c_str(), longOptions_.data(),
@@ -69,8 +70,7 @@ class Assigner {
   }
 
  private:
-  // For getopt_long(): "-" returns positional arguments in their place, ":"
-  // tells a missing value from an unknown option.
+  // Adds an option in the form in which getopt_long() needs it.
   void Describe(std::size_t index) {
     const Option &option = options_[index];
     if (IsPositional(option)) return;
@@ -95,11 +95,11 @@ class Assigner {
       if (result_.extras.empty() || result_.extras.back() != words_[word]) {
         result_.extras.push_back(words_[word]);
       }
-      unknown_ = word;
+      unknownWord_ = word;
       return;
     }
-    // Of a word with an unknown letter, nothing is taken.
-    if (unknown_ == word) return;
+    // The known letters of a word with an unknown letter are ignored too.
+    if (unknownWord_ == word) return;
     const int name = found == kNoValue ? optopt : found;
     const Option &option =
         name < kFirstLong
@@ -152,11 +152,15 @@ class Assigner {
   const std::vector<Option> &options_;
   std::vector<std::string> words_;
   std::vector<char *> argv_;
-  std::list<std::vector<std::string>> names_;  // keep their place
+  // A list does not move its elements, to which longOptions_ points.
+  std::list<std::vector<std::string>> names_;
+  // "-" makes getopt_long() return positional arguments in their place. ":"
+  // makes it tell a missing value from an unknown option.
   std::string shortOptions_ = "-:";
   std::vector<option> longOptions_;
   std::map<char, const Option *> byLetter_;
-  std::size_t unknown_ = static_cast<std::size_t>(-1);  // a word
+  // The last word that has an unknown option; -1 if there is none.
+  std::size_t unknownWord_ = static_cast<std::size_t>(-1);
   Assignment result_;
 };
 

@@ -24,15 +24,17 @@ struct Assignment {
   std::map<std::string, std::vector<std::string>> given;
   // Unknown options, and words for which no positional argument is left.
   std::vector<std::string> extras;
-  // An option that has no value, or has several and accepts one; else null. It
-  // is one of the options that were passed to Assign().
+  // An option that needs a value and has none, or that has several values and
+  // accepts one; null if there is no such option. Points into the options that
+  // were passed to Assign().
   const Option *miscounted = nullptr;
 };
 
 // Options have the forms of getopt_long(): "--mixer 2", "--mixer=2", "-m 2",
 // "-m2", several flags in one word ("-qv"), and a part of a long name that fits
 // only one option. A negative number is no option. The word after an option
-// with a value is its value, whatever it is. A flag can be cancelled:
+// with a value is this value, even if it begins with a dash. A flag can be
+// cancelled:
 // "--json=false". Not thread-safe, as getopt_long() is not.
 Assignment Assign(const std::vector<Option> &options,
                   const std::vector<std::string> &words);

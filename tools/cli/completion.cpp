@@ -31,9 +31,9 @@ class CompletionReader {
     if (option_ != nullptr) {
       before_.given[KeyOf(*option_)] = {word};
       option_ = nullptr;
-    } else if (!marked_ && word == "--") {
-      marked_ = true;
-    } else if (!marked_ && TakeOption(word)) {
+    } else if (!optionsEnded_ && word == "--") {
+      optionsEnded_ = true;
+    } else if (!optionsEnded_ && TakeOption(word)) {
       return;
     } else if (command_ == nullptr) {
       if (path_.empty() && !asksForHelp_ && word == kHelpWord) {
@@ -50,7 +50,8 @@ class CompletionReader {
   std::string Offered(const std::string &begun) {
     if (option_ != nullptr) return ValuesOf(*option_, "", begun);
     const std::size_t sign = begun.find('=');
-    if (!marked_ && begun.starts_with("--") && sign != std::string::npos) {
+    if (!optionsEnded_ && begun.starts_with("--") &&
+        sign != std::string::npos) {
       const Option *option = Find(begun.substr(0, sign));
       if (option == nullptr || option->value.empty()) return "";
       return ValuesOf(*option, begun.substr(0, sign + 1),
@@ -58,7 +59,7 @@ class CompletionReader {
     }
     std::string offered = command_ == nullptr ? Words(begun) : "";
     offered += Positionals(begun);
-    if (!marked_ && (begun.starts_with('-') || offered.empty())) {
+    if (!optionsEnded_ && (begun.starts_with('-') || offered.empty())) {
       offered += Options(begun);
     }
     return offered;
@@ -106,7 +107,7 @@ class CompletionReader {
     return nullptr;
   }
 
-  // Null when all were typed.
+  // The positional argument that is typed next; null if all were typed.
   const Option *NextPositional() const {
     if (command_ == nullptr || asksForHelp_) return nullptr;
     std::size_t number = 0;
@@ -120,8 +121,8 @@ class CompletionReader {
     const Option *positional = NextPositional();
     if (positional == nullptr) return "";
     if (positional->fill == Fill::Command) {
-      return marked_ ? kCommand
-                     : Line("--", positional->description, "", begun);
+      return optionsEnded_ ? kCommand
+                           : Line("--", positional->description, "", begun);
     }
     if (positional->fill == Fill::File && begun.starts_with('-')) return "";
     return ValuesOf(*positional, "", begun);
@@ -174,9 +175,9 @@ class CompletionReader {
   std::string path_;
   const Command *command_ = nullptr;
   const Option *option_ = nullptr;  // the next word is its value
-  bool marked_ = false;             // "--" was typed
-  std::size_t complete_ = 0;        // positional arguments
-  Arguments before_;
+  bool optionsEnded_ = false;       // "--" was typed
+  std::size_t complete_ = 0;        // number of complete positional arguments
+  Arguments before_;                // before the word that is completed
 };
 
 }  // namespace

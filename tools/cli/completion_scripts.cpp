@@ -5,8 +5,8 @@ namespace ztk::cli {
 
 namespace {
 
-// @PROGRAM@ is the name of the program, @FUNCTION@ the same in the form of a
-// function name, @CALL@ the word that asks for completions.
+// @PROGRAM@ stands for the name of the program, @FUNCTION@ for this name with
+// "_" in place of "-", and @CALL@ for the word that asks for completions.
 constexpr char kBash[] = R"(# bash completion for @PROGRAM@ -*- shell-script -*-
 # The program itself tells which words it accepts here.
 

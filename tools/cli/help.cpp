@@ -8,7 +8,7 @@ namespace ztk::cli {
 
 namespace {
 
-// Half of a narrow terminal.
+// The column in which meanings begin: the middle of a narrow terminal.
 constexpr std::size_t kColumn = 20;
 constexpr char kIndentation[] = "  ";
 

@@ -60,8 +60,8 @@ bool AreSame(const Option &option, const Option &other) {
   return option.names == other.names && option.description == other.description;
 }
 
-// The options that at least three commands have with the same description:
-// they are described once for all.
+// The options that at least three commands have with the same description. The
+// page describes them once, not with each command.
 std::vector<Option> SharedOptions(const Program &program) {
   constexpr int kLeast = 3;
   std::vector<Option> all;
@@ -120,7 +120,8 @@ void AddCommand(const Program &program, const Command &command,
   page->Text("\nExample:\n" + ExampleLines(command.examples));
 }
 
-// What its commands share stands here once.
+// Adds a group and its commands. A note or an option that several of the
+// commands have is described once.
 void AddGroup(const Program &program, const Group &group,
               const std::vector<Option> &shared, Page *page) {
   std::vector<const Command *> commands;

@@ -198,7 +198,7 @@ class CommandLine {
     if (extras.empty()) return;
     const auto found = std::find_if(extras.begin(), extras.end(), IsOptionWord);
     if (found != extras.end()) FailOption(*found, options);
-    // It may be an option without its dashes.
+    // The word may be an option that was typed without its dashes.
     const std::string nearest = Nearest(extras.front(), LongNames(options));
     Fail("unexpected word " + Quoted(extras.front()) + Place() +
          (TakesCommand(command) ? "; put \"--\" before the command"

@@ -38,8 +38,8 @@ struct Invocation {
   std::string text;
 };
 
-// The word that leads to the command, for ThisProgram(); empty when all
-// commands are needed.
+// The first word that is not an option, for ThisProgram(). Empty if there is no
+// such word, and if it is "help" or kCompletionCall, which need all commands.
 std::string FirstWord(const std::vector<std::string> &words);
 
 // Parses the words that follow the name of the program. Throws UsageError.

@@ -60,8 +60,9 @@ struct Option {
   // The option may be given again; the positional argument takes several words.
   bool repeats = false;
   Fill fill = Fill::Nothing;
-  // The words that fit after the arguments before; `begun` is the part of the
-  // word that was typed. Words that do not begin so may be returned too.
+  // Returns the words that can follow the arguments `before`. `begun` is the
+  // part of the word that the user has typed. The function may also return
+  // words that do not begin with this part; they are not offered.
   std::function<std::vector<Value>(const Arguments &before,
                                    const std::string &begun)>
       values = {};
@@ -126,7 +127,7 @@ std::vector<Option> CommonOptions(const Program &program);
 
 // All names of an option.
 std::vector<std::string> NamesOf(const Option &option);
-// The name by which Arguments knows it: the last one.
+// The name of an option in Arguments: the last of its names.
 std::string KeyOf(const Option &option);
 bool IsPositional(const Option &option);
 bool IsFlag(const Option &option);

@@ -25,7 +25,7 @@ std::optional<std::uint32_t> ParseNumber(std::string_view word,
                                          std::uint32_t least,
                                          std::uint32_t most);
 
-// The same, or "0x" and hexadecimal digits.
+// A decimal number, or "0x" and hexadecimal digits. Empty for anything else.
 std::optional<std::uint32_t> ParseDecimalOrHex(std::string_view word);
 
 // Hexadecimal digits and nothing else.
