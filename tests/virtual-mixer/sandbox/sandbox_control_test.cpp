@@ -158,7 +158,9 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
       {{"run", "--mixrs", "2", "--", "true"},
        2,
        "no option \"--mixrs\" after \"run\"; nearest: --mixers; see "},
-      {{"show", "me"}, 2, "unexpected word \"me\" after \"show\"; see "},
+      {{"show", "me"},
+       2,
+       "unexpected word \"me\" after \"show\"; accepted: --json; see "},
       {{}, 2, "a command is missing; accepted: run, serve, turn"},
       {{"run", "ls"}, 2, "put \"--\" before the command"},
       {{"run", "-n", "128", "--", "true"},
@@ -187,8 +189,11 @@ TEST_F(Control, RefusesInOneLineThatSaysWhatIsAccepted) {
   }
 }
 
-TEST_F(Control, SaysWhatIsTrueOfNoMixer) {
-  EXPECT_EQ(Inside({"-n", "0"}, "$TOOL unplug").out, "no mixer: unplugged\n");
+TEST_F(Control, SaysThatThereAreNoMixers) {
+  EXPECT_EQ(Inside({"-n", "0"}, "$TOOL unplug; echo $?").out, "1\n");
+  EXPECT_EQ(Inside({"-n", "0"}, "$TOOL unplug").err,
+            "ztk-virtual-mixer: there are no mixers here; start run or serve "
+            "with -n 1\n");
 }
 
 TEST_F(Control, RefusesAMixerThatIsNotThere) {

@@ -40,14 +40,16 @@ std::string Word(std::uint16_t value) {
 std::vector<int> ChosenMixers(const MixerWorld &world,
                               const std::string &text) {
   const int count = world.MixerCount();
+  if (count == 0) {
+    throw Refusal("there are no mixers here; start run or serve with -n 1");
+  }
   if (text == "all") {
     std::vector<int> all;
     for (int mixer = 1; mixer <= count; ++mixer) all.push_back(mixer);
     return all;
   }
   const auto number =
-      count == 0 ? std::nullopt
-                 : cli::ParseNumber(text, 1, static_cast<std::uint32_t>(count));
+      cli::ParseNumber(text, 1, static_cast<std::uint32_t>(count));
   if (!number) {
     throw Refusal("no mixer \"" + text + "\"; there are " +
                   std::to_string(count) + ", counted from 1");
@@ -58,7 +60,6 @@ std::vector<int> ChosenMixers(const MixerWorld &world,
 // How messages name the mixers that this word chose.
 std::string Named(const std::string &word, std::size_t count) {
   if (word != "all") return "mixer " + word;
-  if (count == 0) return "no mixer";
   return std::to_string(count) + (count == 1 ? " mixer" : " mixers");
 }
 
