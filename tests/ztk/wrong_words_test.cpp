@@ -179,8 +179,9 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
        "ztk: a CHANNEL is missing; accepted: 1 to 5; see ztk input set "
        "--help\n"},
       {"status now",
-       "ztk: unexpected word \"now\" after \"status\"; see ztk status "
-       "--help\n"},
+       "ztk: unexpected word \"now\" after \"status\"; accepted: --verbose; "
+       "see "
+       "ztk status --help\n"},
       {"status --all",
        "ztk: no option \"--all\" after \"status\"; accepted: --verbose, "
        "--json, --quiet, --help, --version; see ztk status --help\n"},

@@ -202,8 +202,16 @@ class CommandLine {
     const std::string nearest = Nearest(extras.front(), LongNames(options));
     Fail("unexpected word " + Quoted(extras.front()) + Place() +
          (TakesCommand(command) ? "; put \"--\" before the command"
-          : nearest.empty()     ? ""
+          : nearest.empty()     ? OwnOptions(command)
                                 : "; nearest: " + nearest));
+  }
+
+  // Names the options of a command that takes nothing else.
+  static std::string OwnOptions(const Command &command) {
+    const std::vector<std::string> names = LongNames(command.options);
+    const bool takesWords = std::any_of(command.options.begin(),
+                                        command.options.end(), IsPositional);
+    return takesWords || names.empty() ? "" : "; accepted: " + Listed(names);
   }
 
   void CheckRequired(const Command &command, const Arguments &arguments) const {
