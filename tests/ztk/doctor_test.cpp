@@ -113,8 +113,7 @@ TEST_F(Doctor, NamesThePortWhereThereAreSeveralMixers) {
   ASSERT_EQ(found.size(), 3U);
   EXPECT_EQ(Word(found[0], "finding"), "mixer 1, port 1-1, does not answer");
   EXPECT_EQ(Word(found[0], "command"), "ztk-virtual-mixer fault -m 1 none");
-  EXPECT_EQ(Word(found[1], "finding"),
-            "mixer 2, port 1-2, refuses what it is asked");
+  EXPECT_EQ(Word(found[1], "finding"), "mixer 2, port 1-2, refuses requests");
   EXPECT_EQ(Word(found[1], "command"), "ztk-virtual-mixer fault -m 2 none");
   EXPECT_EQ(Word(found[2], "finding"),
             "mixer 3, port 1-3, is attached, but you cannot open it");

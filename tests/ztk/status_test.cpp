@@ -199,9 +199,9 @@ TEST_F(Status, DoesNotCallAMixerReachableThatRefusesEverything) {
       result.out,
       StartsWith("2 mixers are attached, 1 is reachable\n"
                  "Mixer 1, port 1-1, is reachable, firmware 4.36\n"
-                 "Mixer 2, port 1-2, refuses what it is asked\n"
+                 "Mixer 2, port 1-2, refuses requests\n"
                  "Nothing is remembered\n"
-                 "Next: switch the mixer that refuses what it is asked "
+                 "Next: switch the mixer that refuses requests "
                  "off and on again; if that does not help, run ztk doctor\n"));
   const Json json = OneObject(LastLine(result.out) + "\n");
   EXPECT_EQ(json["reached"], 2);
@@ -221,8 +221,8 @@ TEST_F(Status, TellsToSwitchAllStuckMixersOffAndOn) {
       LastLine(Inside({"-n", "3", "--fault", "1:silence", "--fault", "2:stall"},
                       "ztk status")
                    .out),
-      "Next: switch the mixers that do not answer or refuse what they "
-      "are asked off and on again; if that does not help, run ztk doctor");
+      "Next: switch the mixers that do not answer or refuse requests "
+      "off and on again; if that does not help, run ztk doctor");
 }
 
 TEST_F(Status, ShowsAReplyThatIsNotWholeAsUnknown) {

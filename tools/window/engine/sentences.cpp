@@ -112,7 +112,7 @@ struct Opening {
 // clang-format off
 constexpr Opening kOpenings[] = {
     {"silent", QT_TRANSLATE_NOOP("Engine", "Mixer %1 does not answer.")},
-    {"refusing", QT_TRANSLATE_NOOP("Engine", "Mixer %1 refuses what it is asked.")},
+    {"refusing", QT_TRANSLATE_NOOP("Engine", "Mixer %1 refuses requests.")},
     {"gone", QT_TRANSLATE_NOOP("Engine", "Mixer %1 was unplugged or switched off.")}};
 // clang-format on
 constexpr char kNotOpened[] =

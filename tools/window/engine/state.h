@@ -19,7 +19,7 @@ namespace ztk::window {
 enum class MixerAnswer : std::uint8_t {
   NotAsked,   // not yet
   Answers,    //
-  Refuses,    // it refuses what it is asked
+  Refuses,    // it refuses requests
   Silent,     // it does not answer
   Gone,       // it was unplugged or switched off
   Forbidden,  // this user may not open it

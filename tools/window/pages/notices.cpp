@@ -54,8 +54,7 @@ QString TextOf(const MixerState &mixer) {
     case MixerAnswer::Answers:
       return FactsOf(mixer);
     case MixerAnswer::Refuses:
-      return Notices::tr("Mixer %1 refuses what it is asked.")
-          .arg(mixer.number);
+      return Notices::tr("Mixer %1 refuses requests.").arg(mixer.number);
     case MixerAnswer::Silent:
       return Notices::tr("Mixer %1 does not answer.").arg(mixer.number);
     case MixerAnswer::Gone:

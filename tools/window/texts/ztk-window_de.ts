@@ -144,7 +144,7 @@
         <translation>Die Anfrage an Mischpult %1 ist gescheitert.</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>Mischpult %1 lehnt Anfragen ab.</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>Mischpult %1 wird abgefragt …</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>Mischpult %1 lehnt Anfragen ab.</translation>
     </message>
     <message>

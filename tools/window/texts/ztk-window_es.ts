@@ -144,7 +144,7 @@
         <translation>La petición a la mesa %1 ha fallado.</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>La mesa %1 rechaza lo que se le pide.</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>Consultando la mesa %1…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>La mesa %1 rechaza lo que se le pide.</translation>
     </message>
     <message>

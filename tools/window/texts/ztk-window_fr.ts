@@ -144,7 +144,7 @@
         <translation>La requête à la table %1 a échoué.</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>La table %1 refuse ce qu’on lui demande.</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>Interrogation de la table %1…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>La table %1 refuse ce qu’on lui demande.</translation>
     </message>
     <message>

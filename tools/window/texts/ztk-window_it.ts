@@ -144,7 +144,7 @@
         <translation>La richiesta al mixer %1 non è riuscita.</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>Il mixer %1 rifiuta le richieste.</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>Interrogazione del mixer %1…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>Il mixer %1 rifiuta le richieste.</translation>
     </message>
     <message>

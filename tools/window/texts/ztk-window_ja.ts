@@ -144,7 +144,7 @@
         <translation>ミキサー %1 への要求が失敗しました。</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>ミキサー %1 が要求を拒否しています。</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>ミキサー %1 に問い合わせています…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>ミキサー %1 が要求を拒否しています。</translation>
     </message>
     <message>

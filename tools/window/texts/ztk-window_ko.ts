@@ -144,7 +144,7 @@
         <translation>믹서 %1에 대한 요청이 실패했습니다.</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>믹서 %1이(가) 요청을 거부합니다.</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>믹서 %1에 묻는 중…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>믹서 %1이(가) 요청을 거부합니다.</translation>
     </message>
     <message>

@@ -144,7 +144,7 @@
         <translation>De opdracht aan mengpaneel %1 is mislukt.</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>Mengpaneel %1 weigert wat het wordt gevraagd.</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>Mengpaneel %1 wordt bevraagd…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>Mengpaneel %1 weigert wat het wordt gevraagd.</translation>
     </message>
     <message>

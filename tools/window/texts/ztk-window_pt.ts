@@ -144,7 +144,7 @@
         <translation>O pedido à mesa %1 falhou.</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>A mesa %1 recusa o que lhe é pedido.</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>A consultar a mesa %1…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>A mesa %1 recusa o que lhe é pedido.</translation>
     </message>
     <message>

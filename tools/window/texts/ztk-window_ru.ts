@@ -144,7 +144,7 @@
         <translation>Запрос к микшеру %1 не удался.</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>Микшер %1 отклоняет запросы.</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>Опрашивается микшер %1…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>Микшер %1 отклоняет запросы.</translation>
     </message>
     <message>

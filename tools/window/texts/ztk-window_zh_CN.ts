@@ -144,7 +144,7 @@
         <translation>对混音台 %1 的请求失败。</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>混音台 %1 拒绝请求。</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>正在查询混音台 %1…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>混音台 %1 拒绝请求。</translation>
     </message>
     <message>

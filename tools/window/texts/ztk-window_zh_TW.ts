@@ -144,7 +144,7 @@
         <translation>對混音器 %1 的要求失敗。</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>混音器 %1 拒絕要求。</translation>
     </message>
     <message>
@@ -450,7 +450,7 @@
         <translation>正在查詢混音器 %1…</translation>
     </message>
     <message>
-        <source>Mixer %1 refuses what it is asked.</source>
+        <source>Mixer %1 refuses requests.</source>
         <translation>混音器 %1 拒絕要求。</translation>
     </message>
     <message>

@@ -106,9 +106,8 @@ bool IsReachable(const MixerStatus &mixer) {
 // The words after "mixer 1": "is reachable", "does not answer", ...
 std::string StateWords(const MixerStatus &mixer) {
   if (mixer.refusesAll()) {
-    return mixer.failure->state == MixerState::Refused
-               ? "refuses what it is asked"
-               : "cannot be asked";
+    return mixer.failure->state == MixerState::Refused ? "refuses requests"
+                                                       : "cannot be asked";
   }
   switch (mixer.mixer.state) {
     case MixerState::Answered:
@@ -206,7 +205,7 @@ std::string StuckMixers(const Mixers &mixers) {
   if (silent > 0) words += one ? "does not answer" : "do not answer";
   if (silent > 0 && refusing > 0) words += " or ";
   if (refusing > 0) {
-    words += one ? "refuses what it is asked" : "refuse what they are asked";
+    words += one ? "refuses requests" : "refuse requests";
   }
   return words;
 }

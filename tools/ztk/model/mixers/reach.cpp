@@ -67,7 +67,7 @@ MixerState StateOf(const ZTKRequestOutcome &request) {
 std::string Sentence(int number, MixerState state) {
   switch (state) {
     case MixerState::Refused:
-      return Named(number) + " refuses what it is asked";
+      return Named(number) + " refuses requests";
     case MixerState::Silent:
       return Named(number) + " does not answer";
     case MixerState::Gone:
