@@ -26,7 +26,8 @@ bool AsksForJson(const std::vector<std::string> &words) {
   return std::find(words.begin(), end, Parameter::kJson) != end;
 }
 
-// A channel is also called "USB 3", which a shell gives as two words.
+// A user may type a channel as "USB 3", which the shell passes as two words.
+// Joins these words.
 std::vector<std::string> WithWholeChannels(std::vector<std::string> words) {
   if (words.empty() ||
       (words.front() != "input" && words.front() != "output")) {

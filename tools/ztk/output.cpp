@@ -38,8 +38,9 @@ void PrepareStreams() {
   std::signal(SIGPIPE, SIG_IGN);
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
     if (fcntl(stream, F_GETFD) >= 0 || errno != EBADF) continue;
-    // open() uses the lowest free number, which is this one. A folder can be
-    // neither read nor written, and this one always exists.
+    // open() uses the lowest free number, which is that of the closed stream.
+    // The folder "/" always exists, and a folder can be neither read nor
+    // written.
     if (open("/", O_RDONLY | O_DIRECTORY) < 0) return;
   }
 }

@@ -17,7 +17,8 @@ namespace ztk::program {
 // reader becomes an error instead of a signal.
 void PrepareStreams();
 
-// False when a part of it could not be written.
+// Writes a text to the standard output. Returns false, and sets errno, if a
+// part of the text could not be written.
 bool WriteOutput(const std::string &text);
 
 // Writes a message to the error stream, wrapped in a terminal. A failure is
@@ -30,7 +31,7 @@ void WriteLineEnd();
 // The form in which the user asked for the report.
 struct Form {
   bool json = false;
-  bool quiet = false;  // no text, only warnings and errors
+  bool quiet = false;  // no text that only says what was done
 };
 
 // Writes the report and returns the exit status.

@@ -34,7 +34,7 @@ static_assert(std::atomic<bool>::is_always_lock_free);
 // Made before the signal can arrive, because a signal handler must not allocate
 // memory.
 std::string_view theJsonLine;
-bool theErrorsAreShown = false;
+bool theErrorsGoToATerminal = false;
 
 // There is no stream left to report a failure on.
 void WriteNow(int stream, std::string_view text) {
@@ -45,7 +45,7 @@ void WriteNow(int stream, std::string_view text) {
 void OnInterrupt(int /*signal*/) {
   if (theLineStands.load()) {
     WriteNow(STDERR_FILENO, kClearLine);
-  } else if (theErrorsAreShown) {
+  } else if (theErrorsGoToATerminal) {
     // After the "^C" that the terminal shows.
     WriteNow(STDERR_FILENO, "\n");
   }
@@ -57,9 +57,9 @@ void OnInterrupt(int /*signal*/) {
   _exit(static_cast<int>(ExitCode::Interrupted));
 }
 
-// The main thread cannot be interrupted during a request. Only a thread that
-// blocks the signal can see that it is pending.
-bool InterruptWaits() {
+// Whether the user has pressed Ctrl-C during a request, which cannot be
+// interrupted. Only a thread that blocks the signal can see that it is pending.
+bool IsInterruptPending() {
   sigset_t pending;
   return sigpending(&pending) == 0 && sigismember(&pending, SIGINT) == 1;
 }
@@ -75,7 +75,7 @@ std::string Waited(int waited, int longest) {
 
 void ShowWaiting(const std::string &what, int waited, int longest) {
   const std::size_t columns = cli::Columns(STDERR_FILENO);
-  const std::string end = InterruptWaits() ? kEnding : kHowToEnd;
+  const std::string end = IsInterruptPending() ? kEnding : kHowToEnd;
   std::string line = what + Waited(waited, longest) + end;
   // A line that is wider than the terminal could not be cleared.
   if (columns > 0 && line.size() >= columns) {
@@ -138,7 +138,7 @@ Asking::Asking() { theUserIsAsked = true; }
 Asking::~Asking() { theUserIsAsked = false; }
 
 void EndOnInterrupt(const std::string &jsonLine) {
-  theErrorsAreShown = cli::IsTerminal(STDERR_FILENO);
+  theErrorsGoToATerminal = cli::IsTerminal(STDERR_FILENO);
   static std::string line;
   line = jsonLine;
   theJsonLine = line;

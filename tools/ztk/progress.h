@@ -17,12 +17,14 @@ inline constexpr char kInterrupted[] =
     "interrupted; what was under way may have been done in part, ztk status "
     "shows what is remembered";
 
-// The same while the user is asked, before anything was done.
+// The message after Ctrl-C while the user is asked, before anything was done.
 inline constexpr char kInterruptedAsking[] = "interrupted; nothing was changed";
 
 inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
-// Mixers are asked at the same time, and no more once one is silent: one second
-// for the request, one for a mixer that comes or goes meanwhile.
+// The longest time, in seconds, that questions to all mixers usually take. All
+// mixers are asked at the same time, and a mixer that has not answered a
+// request within one second receives no other one. Another second is for asking
+// again, because a mixer was plugged in or unplugged meanwhile.
 inline constexpr int kLongestQuestion = 2;
 
 // While it exists, shows on the error stream what the program waits for and for
@@ -35,8 +37,8 @@ inline constexpr int kLongestQuestion = 2;
 // interrupted.
 class Progress {
  public:
-  // `what` as in kWaitingForMixer; it takes at most so many seconds, 0 where
-  // that is not known.
+  // `what` is a text such as kWaitingForMixer. `longest` is the longest time in
+  // seconds, or 0 if it is not known.
   explicit Progress(std::string what, int longest = 0);
   ~Progress();
   Progress(const Progress &) = delete;

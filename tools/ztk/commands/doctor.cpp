@@ -56,7 +56,7 @@ void AddMixerReport(const std::string &file, Report *report) {
                   cli::OneLine(file) + "\n";
 }
 
-// Without the text, the errors have to say it.
+// Reports a finding as error messages: with --quiet no text is shown.
 void AddErrors(const char *part, const Finding &finding, Report *report) {
   report->errors.push_back(std::string(part) + ": " + finding.what);
   for (const std::string &line : ExplanationOf(finding)) {

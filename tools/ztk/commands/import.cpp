@@ -115,8 +115,10 @@ Report NothingToImport() {
   return report;
 }
 
-// A second import finds nothing more to forget. It sends the defaults again
-// after they have been set.
+// The commands that send everything again. The settings that this import has
+// forgotten are not remembered any more, so a second import would not send
+// their defaults. Therefore a command for each default stands before the
+// import, which then forgets what these commands have remembered.
 std::string SendingAgain(const MadeChanges &made, const std::string &command) {
   std::string commands;
   for (const MadeChange &one : made.changes) {

@@ -13,15 +13,16 @@ namespace ztk::program {
 // settings of every model.
 Report ShowStatus(const Arguments &arguments);
 
-// Takes back the last change that this program made.
+// Takes back the last changes that this program made, or lists them.
 Report Undo(const Arguments &arguments);
 
 // Removes remembered values, and sends nothing.
 Report Reset(const Arguments &arguments);
 
-// Writes all remembered settings as text, and reads such a text. An import sets
-// all of them, or none if the text has an error.
+// Writes all remembered settings as text.
 Report Export(const Arguments &arguments);
+
+// Sets all settings in such a text, or none if the text has an error.
 Report Import(const Arguments &arguments);
 
 // Shows what does not work, why, and the command that repairs it.
@@ -34,7 +35,8 @@ Report ShowModels(const Arguments &arguments);
 // Shows the attached mixers, the current choices, and useful commands.
 Report ShowOverview(const Arguments &arguments);
 
-// Shows the sentence of the library for the result 101.
+// Shows the sentence with which the library explains the result 101
+// (ZTK_WARNING).
 Report ShowWarning(const Arguments &arguments);
 
 // Turns on, turns off or shows whether the remembered settings are sent when a
@@ -43,7 +45,7 @@ Report TurnAutoapplyOn(const Arguments &arguments);
 Report TurnAutoapplyOff(const Arguments &arguments);
 Report ShowAutoapply(const Arguments &arguments);
 
-// Writes a line for each change as it arrives, until the user interrupts it.
+// Writes a line for each change as it arrives, until the user presses Ctrl-C.
 Report Watch(const Arguments &arguments);
 
 }  // namespace ztk::program

@@ -22,7 +22,8 @@ std::string ValueWords(const Setting &setting, std::uint32_t channel,
   return value ? DescribedValue(setting, channel, *value) : "forgotten";
 }
 
-// Values that another program has set since stay.
+// A sentence for each value that undo does not change, because another program
+// has set it since the change.
 std::vector<std::string> ForeignOnes(const std::vector<UndoItem> &undoings) {
   std::vector<std::string> foreign;
   for (const UndoItem &undoing : undoings) {
@@ -118,8 +119,8 @@ void AddRefused(const MadeChanges &made, Report *report) {
                   cli::Listed(refused)});
 }
 
-// The remaining changes, without those that were rejected: a second try would
-// be rejected too.
+// The changes that were not rejected. The others need not be sent again,
+// because they would be rejected again.
 MadeChanges Accepted(const MadeChanges &made) {
   MadeChanges accepted{.changes = {}, .reach = made.reach};
   for (const MadeChange &one : made.changes) {
@@ -149,6 +150,9 @@ std::string SendingAgain(const Change &change) {
              : ApplyCommand(*change.setting, change.channel, change.index);
 }
 
+// Whether the value has to be sent again when not every mixer has accepted all
+// values: a restored choice is always sent again, together with the others of
+// its model; a default only if not every mixer has accepted it.
 bool NeedsSending(const MadeChange &one, const MadeChanges &made) {
   return !one.change.forgets || one.accepted < made.reach.found() ||
          made.reach.found() == 0;

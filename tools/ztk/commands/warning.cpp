@@ -82,7 +82,7 @@ std::uint32_t ParseLanguage(const std::string &word) {
                     "; see ztk warning --help");
 }
 
-// Null when the library has no sentence.
+// Asks the library for its sentence. *text is null if the library has none.
 ZTKResult Sentence(std::uint32_t channel, std::uint32_t language,
                    ZTKTextRef *text) {
   *text = nullptr;
@@ -91,11 +91,13 @@ ZTKResult Sentence(std::uint32_t channel, std::uint32_t language,
                                                ZTK_WARNING, language, text);
 }
 
+// Whether nothing can be heard with the selector in this position.
 bool IsWrong(const std::optional<std::uint8_t> &position) {
   return position != input_audio::kAudiblePosition;
 }
 
-// "mixer 2: ", "mixers 2, 3: ": those whose selector stands wrong.
+// "mixer 2: ", "mixers 2, 3: ": the mixers whose selector is in a wrong
+// position.
 std::string MixersWithWrongSelector(std::uint32_t channel,
                                     const std::vector<MixerStatus> &mixers) {
   std::vector<std::string> numbers;
@@ -109,8 +111,8 @@ std::string MixersWithWrongSelector(std::uint32_t channel,
          ": ";
 }
 
-// The sentences of this program, one for each mixer whose selector stands
-// wrong, where the library has none.
+// Adds sentences of this program, if the library has none: one for each mixer
+// whose selector is in a wrong position.
 void AddPlainSentences(std::uint32_t channel, const std::string &what,
                        const std::string &place,
                        const std::vector<MixerStatus> &mixers, Report *report) {
@@ -128,8 +130,8 @@ void AddPlainSentences(std::uint32_t channel, const std::string &what,
 }
 
 // The sentence of the library does not name the channel, so `place` precedes
-// it. With several mixers, adds nothing where no selector stands wrong: a mixer
-// that does not answer counts for the library as one.
+// it. With several mixers, adds nothing if every selector is in the right
+// position: the library also returns 101 because a mixer does not answer.
 void AddExplanation(std::uint32_t channel, const Reach &reach,
                     const std::string &what, const std::string &place,
                     Report *report) {
@@ -149,8 +151,9 @@ void AddExplanation(std::uint32_t channel, const Reach &reach,
   report->warnings.push_back(numbers + place + Utf8(text));
 }
 
-// Without a mixer the error says what became of the choice. The fifth channel
-// has no selector: nobody can do anything about its warning.
+// Whether the user can correct what the warning describes. The fifth channel
+// has no selector that could be turned. Without a mixer, the error message
+// already says what to do.
 bool CanBeActedOn(std::uint32_t channel, const Reach &reach) {
   return reach.found() > 0 && channel < kWarningChannels;
 }

@@ -12,23 +12,26 @@
 
 namespace ztk::program {
 
-// Adds a warning that explains the result 101 for a channel of USB input audio:
-// the sentence of the library in the user's language, or one of this program
-// when the library has none; that one says where the selector stands, and that
-// `what` is not heard there. With several mixers it names those that are
-// affected. Adds nothing without a mixer, or for a channel without a selector.
-// May ask the mixers for the state of their ports and selectors.
+// Adds a warning that explains the result 101 (ZTK_WARNING) for a channel of
+// USB input audio. The warning is the sentence of the library in the user's
+// language. If the library has none, the warning is a sentence of this program:
+// it says in which position the selector is, and that `what` cannot be heard in
+// this position. With several mixers, the warning names the mixers whose
+// selector is in another position than needed. Adds nothing without a mixer, or
+// for a channel without a selector. May ask the mixers for the state of their
+// ports and selectors.
 void ExplainWarning(std::uint32_t channel, const std::string &what,
                     const Reach &reach, Report *report);
 
-// The same for each change with that result.
+// Adds such a warning for each of the changes whose result is 101.
 void ExplainWarnings(const MadeChanges &made, Report *report);
 
-// The first channels have a selector, and so a warning.
+// The number of channels with an input selector. Only these channels, which are
+// the first ones, have a warning text.
 inline constexpr std::uint32_t kWarningChannels = status::kSelectors;
 
-// The words for --language: one for each language, its name if that is one
-// word.
+// The words for --language, one for each language: its name or, if the name has
+// two words, its code.
 std::vector<std::string> LanguageNames();
 
 }  // namespace ztk::program

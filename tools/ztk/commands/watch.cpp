@@ -27,7 +27,8 @@ struct Watcher {
 };
 Watcher *theWatcher = nullptr;
 
-// Whether the reader of the pipe has ended.
+// Ends ztk watch, because the output cannot be written any more. `error` is
+// EPIPE if the program that reads the output has ended.
 void EndWith(int error) {
   theWatcher->writeError = error;
   StopLoop();
@@ -45,7 +46,8 @@ std::string PluggingLine(const Plugging &plugging) {
   report.fields["event"] = plugging.attached ? "attached" : "gone";
   report.fields["port"] = plugging.place;
   report.fields["found"] = count;
-  // A reader of changes finds that none of its settings has changed.
+  // A program that reads changes finds the fields that it expects. The values
+  // are null, because no setting has changed.
   for (const char *name :
        {"setting", "model", "channel", "number", "text", "value"}) {
     report.fields[name] = nullptr;
@@ -53,7 +55,8 @@ std::string PluggingLine(const Plugging &plugging) {
   return JsonLine("watch", report) + "\n";
 }
 
-// A write would detect a closed pipe; this detects it without a write.
+// Whether the program that reads the output has ended. A write would show this
+// too, but there may be nothing to write for a long time.
 bool OutputIsClosed() {
   pollfd output{.fd = STDOUT_FILENO, .events = 0, .revents = 0};
   return poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;

@@ -13,7 +13,7 @@ Json Number(const std::optional<std::uint32_t> &value) {
   return value ? Json(static_cast<std::int32_t>(*value)) : Json();
 }
 
-// Nothing is to be sent, or nobody is there to receive it.
+// The sentence for a plan without requests.
 std::string WhyNoRequest(const Plan &plan) {
   if (plan.mixersFound() == 0) return "  no request, as no mixer is attached\n";
   if (plan.mixersThatCanBeOpened() == 0) {

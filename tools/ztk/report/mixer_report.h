@@ -17,7 +17,8 @@ namespace ztk::program {
 // `findings` is the list in the doctor's own JSON.
 Json MakeMixerReport(const Json &findings);
 
-// Writes the report as indented JSON. Returns why it cannot, empty on success.
+// Writes the report as indented JSON. Returns why the file cannot be written;
+// empty on success.
 std::string WriteMixerReport(const Json &report, const std::string &file);
 
 }  // namespace ztk::program

@@ -34,7 +34,8 @@ std::string SetCommand(const Setting &setting, std::uint32_t channel,
                        std::uint32_t index);
 
 // The command that sends a remembered value and the others of its model again:
-// "ztk apply"; that of the value alone where apply does not send it.
+// "ztk apply". If apply does not send this value, the command that sets it
+// again.
 std::string ApplyCommand(const Setting &setting, std::uint32_t channel,
                          std::uint32_t index);
 
@@ -56,12 +57,13 @@ std::vector<Choice> ServedChoices(const Setting &setting, std::uint32_t product,
 // the models where there is no such model.
 std::uint32_t ParseProduct(const std::string &word);
 
-// Adds "channel" (null where there are none), "number" and "text" (null for no
-// choice) and "value", the library's index.
+// Adds "channel" (null for a setting without channels), "number" and "text"
+// (both null if the value is not a choice) and "value", the index in the
+// library.
 void AddValueFields(const Setting &setting, std::uint32_t channel,
                     std::uint32_t index, Json *fields);
 
-// The same, after "setting" and "model".
+// Returns "setting" and "model", and the fields that AddValueFields() adds.
 Json ValueFields(const Setting &setting, std::uint32_t channel,
                  std::uint32_t index);
 

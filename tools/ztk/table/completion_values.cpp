@@ -22,7 +22,8 @@ std::string Rest(const std::string &text, const std::string &words) {
   return text.substr(words.size() + 1);
 }
 
-// None where the word before is not a channel.
+// The channel that was typed before the choice; 0 if no channel was typed. None
+// if the typed word is not a channel.
 std::optional<std::uint32_t> ChannelBefore(const Setting &setting,
                                            const Arguments &before) {
   const std::string *word = before.Find(Parameter::kChannel);

@@ -48,7 +48,8 @@ cli::Section Environment() {
   return section;
 }
 
-// The models share their files.
+// Adds a settings file for each model. Settings of the same model are in the
+// same file.
 void AddSettingsFiles(cli::Section *files) {
   for (const Setting *setting : AllSettings()) {
     const std::string model = ModelName(*setting);

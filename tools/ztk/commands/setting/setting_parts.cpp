@@ -67,7 +67,6 @@ std::uint32_t RequiredChannel(const Setting &setting,
                                      SeeHelp(setting, verb));
 }
 
-// The answer of the library, which alone decides about these arguments.
 [[noreturn]] void ThrowRejected(const Setting &setting, std::uint32_t product,
                                 const std::string &what) {
   throw Failure(ExitCode::Rejected, "the library refuses " + what +
@@ -75,7 +74,6 @@ std::uint32_t RequiredChannel(const Setting &setting,
                                         ": " + Belonging(setting));
 }
 
-// A model that the library would reject is rejected here too.
 void CheckProductAccepted(const Setting &setting, std::uint32_t product,
                           const std::string &what) {
   if (product != setting.product) ThrowRejected(setting, product, what);
