@@ -16,6 +16,7 @@ namespace ztk::window {
 
 using model::kBoost;
 using model::kInput;
+using model::kMidi;
 
 class EngineClubsTest : public EngineWorld {
   Q_OBJECT
@@ -24,6 +25,7 @@ class EngineClubsTest : public EngineWorld {
   void SavesAFileThatZtkImports();
   void ShowsWhatAClubWouldChange();
   void SaysWhetherTheMixersMayLackAClub();
+  void OffersToSendOnlyWhatAnAttachedMixerHas();
   void NamesWhatIsNotInAClub();
   void AppliesAClubAsOneStep();
   void SaysWhyAFileIsNoClub_data();
@@ -111,6 +113,22 @@ void EngineClubsTest::SaysWhetherTheMixersMayLackAClub() {
   // Applying it sends it too.
   Ztk({"boost", "set", "2"});
   EVENTUALLY(Row(kBoost, 0).shown == 1);
+  QVERIFY(!Preview(path).needsSending);
+}
+
+void EngineClubsTest::OffersToSendOnlyWhatAnAttachedMixerHas() {
+  Ztk({"boost", "set", "1"});
+  Ztk({"midi", "set", "2"});
+  StartEngine();
+  engine().saveClub(QStringLiteral("a"));
+  EVENTUALLY(state().clubs.size() == 1);
+  const QString path = state().clubs[0].path;
+  QVERIFY(Preview(path).needsSending);
+  // Both mixers are VRM-D6, and the VRM-K2 has the MIDI channel.
+  Mixer({"fault", "stall@w8004"});
+  engine().resendAll();
+  EVENTUALLY(Row(kBoost, 0).inMixers == InMixers::Every);
+  QVERIFY(Row(kMidi, 0).inMixers != InMixers::Every);
   QVERIFY(!Preview(path).needsSending);
 }
 

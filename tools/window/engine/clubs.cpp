@@ -122,14 +122,22 @@ ClubPreview PreviewOf(const QString &path, const ClubFile &file) {
   return preview;
 }
 
-bool NeedsSending(const ClubFile &file, const State &state) {
+bool NeedsSending(const ClubFile &file,
+                  const std::vector<std::uint32_t> &attached,
+                  const State &state) {
   if (state.NeedsSending()) return true;
+  // No mixer would accept what belongs to another model.
+  const auto isForAttached = [&attached](const model::Change &change) {
+    return attached.empty() || std::find(attached.begin(), attached.end(),
+                                         change.product) != attached.end();
+  };
   return state.AnyAttached() &&
          std::any_of(
              file.changes.begin(), file.changes.end(),
-             [&state](const model::Change &change) {
+             [&](const model::Change &change) {
                const RowState *row = state.Row(*change.setting, change.channel);
-               return row != nullptr && row->inMixers != InMixers::Every;
+               return row != nullptr && row->inMixers != InMixers::Every &&
+                      isForAttached(change);
              });
 }
 

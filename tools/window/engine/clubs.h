@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QString>
+#include <cstdint>
 #include <vector>
 
 #include "window/engine/state.h"
@@ -30,8 +31,11 @@ ClubFile ReadClub(const QString &path);
 ClubPreview PreviewOf(const QString &path, const ClubFile &file);
 
 // Whether a mixer is attached, and it is not confirmed that every mixer has
-// what is remembered, or what the club contains.
-bool NeedsSending(const ClubFile &file, const State &state);
+// what is remembered, or what the club contains for the models that are
+// attached. Those are model::AttachedProducts(); all models if there is none.
+bool NeedsSending(const ClubFile &file,
+                  const std::vector<std::uint32_t> &attached,
+                  const State &state);
 
 // Saves what is stored now. Returns why that failed, or what is missing in the
 // file; empty if the file contains everything.

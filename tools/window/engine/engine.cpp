@@ -13,6 +13,7 @@
 #include "window/engine/worker.h"
 #include "window/events/announcement_listener.h"
 #include "window/events/usb_watch.h"
+#include "ztk/model/products.h"
 
 namespace ztk::window {
 
@@ -284,17 +285,18 @@ void Engine::checkNow() { private_->CheckMixers(); }
 void Engine::setVisible(bool visible) { private_->SetVisible(visible); }
 
 void Engine::previewClub(const QString &path) {
-  private_->worker.Post(Worker::Kind::Reading, "preview",
-                        [this, path]() -> Worker::Result {
-                          const ClubFile file = ReadClub(path);
-                          ClubPreview preview = PreviewOf(path, file);
-                          return [this, file, preview]() mutable {
-                            preview.needsSending = preview.error.isEmpty() &&
-                                                   preview.changes.isEmpty() &&
-                                                   NeedsSending(file, state());
-                            emit clubPreviewed(preview);
-                          };
-                        });
+  private_->worker.Post(
+      Worker::Kind::Reading, "preview", [this, path]() -> Worker::Result {
+        const ClubFile file = ReadClub(path);
+        ClubPreview preview = PreviewOf(path, file);
+        const auto attached = model::AttachedProducts();
+        return [this, file, preview, attached]() mutable {
+          preview.needsSending = preview.error.isEmpty() &&
+                                 preview.changes.isEmpty() &&
+                                 NeedsSending(file, attached, state());
+          emit clubPreviewed(preview);
+        };
+      });
 }
 
 void Engine::applyClub(const QString &path) {
