@@ -25,6 +25,7 @@ class LanguagesTest : public QObject {
   void SpeakTheUsersLanguage_data();
   void SpeakTheUsersLanguage();
   void TranslateASentenceWithAPath();
+  void TranslateWhyNothingIsSentAtPlugIn();
   void CutNoText_data();
   void CutNoText();
 };
@@ -120,6 +121,20 @@ void LanguagesTest::SpeakTheUsersLanguage() {
   const QString cancel =
       QCoreApplication::translate("QPlatformTheme", "Cancel");
   QVERIFY(cancel != QStringLiteral("Cancel"));
+}
+
+void LanguagesTest::TranslateWhyNothingIsSentAtPlugIn() {
+  QObject texts;
+  Translate(&texts, QLocale(QStringLiteral("de")));
+  QCOMPARE(
+      ModelSentence("autoapply needs the systemd of your session, which cannot "
+                    "be used (there is no session message bus); run 'ztk "
+                    "apply' each time you have plugged a mixer in"),
+      QStringLiteral(
+          "Das Senden beim Anschließen braucht das systemd Ihrer Sitzung, das "
+          "nicht benutzt werden kann (es gibt keinen Nachrichtenbus der "
+          "Sitzung); führen Sie nach jedem Anschließen eines Mischpults „ztk "
+          "apply“ aus"));
 }
 
 void LanguagesTest::TranslateASentenceWithAPath() {

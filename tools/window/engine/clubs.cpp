@@ -146,7 +146,7 @@ QString SaveClub(const QString &name) {
   const model::ExportedSettings settings = model::ExportSettings();
   if (!settings.unreadable.empty()) {
     return Clubs::tr("The settings file cannot be read: %1.")
-        .arg(QString::fromStdString(settings.unreadable.front()));
+        .arg(ModelText(settings.unreadable.front()));
   }
   const QDir folder = Folder();
   QSaveFile file(folder.filePath(FileName(name)));

@@ -74,9 +74,9 @@ StoredState ReadRows() {
   for (const model::Setting *setting : model::AllSettings()) {
     for (std::uint32_t channel = 0; channel < model::ChannelsToWalk(*setting);
          ++channel) {
-      state.rows.append({.stored = settings.Remembered(*setting, channel),
-                         .unreadable = QString::fromStdString(
-                             settings.WhyUnreadable(*setting))});
+      state.rows.append(
+          {.stored = settings.Remembered(*setting, channel),
+           .unreadable = ModelText(settings.WhyUnreadable(*setting))});
     }
   }
   return state;
@@ -129,15 +129,14 @@ AutoapplyStatus ReadAutoapply() try {
   return {.state = model::IsAutoapplyOn() ? Autoapply::On : Autoapply::Off,
           .why = {}};
 } catch (const std::runtime_error &error) {
-  return {.state = Autoapply::Unavailable,
-          .why = QString::fromUtf8(error.what())};
+  return {.state = Autoapply::Unavailable, .why = ModelSentence(error.what())};
 }
 
 QString SwitchAutoapply(bool on) try {
   model::SetAutoapply(on);
   return {};
 } catch (const std::runtime_error &error) {
-  return QString::fromUtf8(error.what());
+  return ModelSentence(error.what());
 }
 
 }  // namespace ztk::window

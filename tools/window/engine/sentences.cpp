@@ -54,26 +54,37 @@ constexpr const char *kModelSentences[] = {
     QT_TRANSLATE_NOOP("Model", "it is not a settings file, or it is damaged"),
     QT_TRANSLATE_NOOP("Model", "settings are not remembered: nothing can be written to %1"),
     QT_TRANSLATE_NOOP("Model", "you have no permission to write there"),
-    QT_TRANSLATE_NOOP("Model", "there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own")};
+    QT_TRANSLATE_NOOP("Model", "there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own"),
+    QT_TRANSLATE_NOOP("Model", "autoapply needs the systemd of your session, which cannot be used (%1); run 'ztk apply' each time you have plugged a mixer in"),
+    QT_TRANSLATE_NOOP("Model", "autoapply is off and cannot be turned on, because this system does not run systemd; run 'ztk apply' each time you have plugged a mixer in"),
+    QT_TRANSLATE_NOOP("Model", "the file %1, which starts 'ztk apply', is missing; install ztk first"),
+    QT_TRANSLATE_NOOP("Model", "there is no session message bus"),
+    QT_TRANSLATE_NOOP("Model", "it lies on a file system that is read-only"),
+    QT_TRANSLATE_NOOP("Model", "the disk or your quota is full"),
+    QT_TRANSLATE_NOOP("Model", "settings are not remembered: there is no folder %1"),
+    QT_TRANSLATE_NOOP("Model", "missing folders are created inside a home folder, but not the home folder"),
+    QT_TRANSLATE_NOOP("Model", "settings are not remembered: nothing can be written below %1"),
+    QT_TRANSLATE_NOOP("Model", "it is a file where a folder has to be"),
+    QT_TRANSLATE_NOOP("Model", "settings are not remembered: you have no home folder"),
+    QT_TRANSLATE_NOOP("Model", "HOME is not set, and the list of users has no entry for you"),
+    QT_TRANSLATE_NOOP("Model", "settings are kept in %1"),
+    QT_TRANSLATE_NOOP("Model", "this home is shared with macOS, so both systems use the same ones; this gives this system its own"),
+    QT_TRANSLATE_NOOP("Model", "%1: it is damaged, or no settings file"),
+    QT_TRANSLATE_NOOP("Model", "ztk runs as root, and the message bus belongs to your own user; run it without sudo"),
+    QT_TRANSLATE_NOOP("Model", "this shell does not know the message bus of your session"),
+    QT_TRANSLATE_NOOP("Model", "nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own"),
+    QT_TRANSLATE_NOOP("Model", "the library that reaches the message bus, %1, cannot be loaded"),
+    QT_TRANSLATE_NOOP("Model", "ztk watch does not receive changes"),
+    QT_TRANSLATE_NOOP("Model", "the library that delivers what is heard, %1, cannot be loaded"),
+    QT_TRANSLATE_NOOP("Model", "this system has no USB: its kernel, or a part of it, is not loaded"),
+    QT_TRANSLATE_NOOP("Model", "VRM-D6Setup.framework is not in %1"),
+    QT_TRANSLATE_NOOP("Model", "VRM-D6Setup.framework has no texts in %1"),
+    QT_TRANSLATE_NOOP("Model", "it was busy for a moment"),
+    QT_TRANSLATE_NOOP("Model", "there is no %1; this command makes udev create it"),
+    QT_TRANSLATE_NOOP("Model", "only root may open it: %1 replaces the rule that grants you access, or is for another mixer"),
+    QT_TRANSLATE_NOOP("Model", "the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere"),
+    QT_TRANSLATE_NOOP("Model", "the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere")};
 // clang-format on
-
-// The translation of a sentence of the model.
-QString FromModel(const std::string &text) {
-  const QString english = QString::fromStdString(text);
-  for (const char *sentence : kModelSentences) {
-    const QStringList parts =
-        QString::fromLatin1(sentence).split(QStringLiteral("%1"));
-    const QString translated = QCoreApplication::translate("Model", sentence);
-    if (parts.size() == 1 && english == parts.first()) return translated;
-    if (parts.size() == 2 && english.startsWith(parts.first()) &&
-        english.endsWith(parts.last())) {
-      return translated.arg(english.mid(
-          parts.first().size(),
-          english.size() - parts.first().size() - parts.last().size()));
-    }
-  }
-  return english;
-}
 
 // Begins with a capital letter, unless the first word is a command. The
 // sentences of the model do not.
@@ -119,7 +130,7 @@ constexpr char kNotOpened[] =
     QT_TRANSLATE_NOOP("Engine", "You have no permission to open mixer %1.");
 
 QString WhatFails(const model::Finding &finding) {
-  if (finding.mixer == 0) return FromModel(finding.what);
+  if (finding.mixer == 0) return ModelText(finding.what);
   for (const Opening &opening : kOpenings) {
     if (finding.id == opening.id) {
       return Sentences::tr(opening.sentence).arg(finding.mixer);
@@ -134,6 +145,32 @@ QString LanguageCode() {
 }
 
 }  // namespace
+
+QString ModelText(const std::string &text) {
+  const QString english = QString::fromStdString(text);
+  if (english.isEmpty()) return {};
+  for (const char *sentence : kModelSentences) {
+    const QStringList parts =
+        QString::fromLatin1(sentence).split(QStringLiteral("%1"));
+    const auto translated = [sentence] {
+      return QCoreApplication::translate("Model", sentence);
+    };
+    if (parts.size() == 1 && english == parts.first()) return translated();
+    if (parts.size() == 2 && english.startsWith(parts.first()) &&
+        english.endsWith(parts.last())) {
+      const QString rest = english.mid(
+          parts.first().size(),
+          english.size() - parts.first().size() - parts.last().size());
+      // The rest can be another sentence.
+      return translated().arg(ModelText(rest.toStdString()));
+    }
+  }
+  return english;
+}
+
+QString ModelSentence(const std::string &text) {
+  return Sentence(ModelText(text));
+}
 
 QString WhyNotSent(std::size_t accepted, const model::Reach &reach) {
   if (reach.found() == 0) return Sentences::tr("No mixer is attached.");
@@ -150,7 +187,7 @@ QString WhyNotStored(const model::MadeChange &change) {
   if (change.result == ZTK_REJECTED) {
     return Sentences::tr("The mixer's library does not accept this choice.");
   }
-  return Sentences::tr("Not stored: %1.").arg(FromModel(change.notStored));
+  return Sentences::tr("Not stored: %1.").arg(ModelText(change.notStored));
 }
 
 QString PlaceText(const model::Setting &setting, std::uint32_t channel) {
@@ -183,7 +220,7 @@ std::uint32_t LibraryLanguage() {
 FindingState Translated(const model::Finding &finding) {
   return {.id = QString::fromStdString(finding.id),
           .what = Sentence(WhatFails(finding)),
-          .cause = Sentence(FromModel(finding.cause)),
+          .cause = ModelSentence(finding.cause),
           .command = QString::fromStdString(finding.command),
           .isNote = finding.isNote};
 }

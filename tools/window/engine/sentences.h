@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <string>
 
 #include "window/engine/state.h"
 #include "ztk/doctor/finding.h"
@@ -29,6 +30,12 @@ QString ChoiceText(const model::Setting &setting, std::uint32_t channel,
 
 // The number that the library gives to the language of the window.
 std::uint32_t LibraryLanguage();
+
+// A sentence of the model in the language of the window; in English if it is
+// not one of those that are translated.
+QString ModelSentence(const std::string &text);
+// The same as a part of another sentence.
+QString ModelText(const std::string &text);
 
 FindingState Translated(const model::Finding &finding);
 

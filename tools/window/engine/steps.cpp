@@ -102,7 +102,7 @@ StepOutcome Make(const char *command, const std::vector<Change> &changes) {
   StepOutcome outcome = OutcomeOf(step.made);
   if (!step.notRecorded.empty()) {
     outcome.report = Steps::tr("This cannot be undone: %1.")
-                         .arg(QString::fromStdString(step.notRecorded));
+                         .arg(ModelText(step.notRecorded));
   }
   return outcome;
 }
@@ -143,8 +143,8 @@ StepOutcome UndoIn(History *history) {
   }
   const std::string why = model::WhyUnreadable(history->steps().back());
   if (!why.empty()) {
-    outcome.report = Steps::tr("The settings file cannot be read: %1.")
-                         .arg(QString::fromStdString(why));
+    outcome.report =
+        Steps::tr("The settings file cannot be read: %1.").arg(ModelText(why));
     return outcome;
   }
   const std::vector<model::UndoItem> items = model::PlanUndo(history->steps());
@@ -205,7 +205,7 @@ StepOutcome Undo() {
       break;
     case History::State::Unavailable:
       outcome.report = Steps::tr("Nothing can be undone: %1.")
-                           .arg(QString::fromStdString(history.reason()));
+                           .arg(ModelText(history.reason()));
       break;
   }
   return outcome;

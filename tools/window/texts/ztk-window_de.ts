@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>hier gibt es keinen Nachrichtenbus der Sitzung, wie üblich über ssh und in einem Container; dieser Befehl startet eine Shell mit einem eigenen</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>das Senden beim Anschließen braucht das systemd Ihrer Sitzung, das nicht benutzt werden kann (%1); führen Sie nach jedem Anschließen eines Mischpults „ztk apply“ aus</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>das Senden beim Anschließen ist aus und kann nicht eingeschaltet werden, da auf diesem System kein systemd läuft; führen Sie nach jedem Anschließen eines Mischpults „ztk apply“ aus</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>die Datei %1, die „ztk apply“ startet, fehlt; installieren Sie zuerst ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>es gibt keinen Nachrichtenbus der Sitzung</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>der Ort liegt auf einem schreibgeschützten Dateisystem</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>der Datenträger oder Ihr Kontingent ist voll</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>Einstellungen werden nicht gespeichert: Der Ordner %1 fehlt</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>fehlende Ordner werden in einem persönlichen Ordner angelegt, der persönliche Ordner selbst aber nicht</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>Einstellungen werden nicht gespeichert: Unterhalb von %1 kann nichts geschrieben werden</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>es ist eine Datei, wo ein Ordner sein muss</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>Einstellungen werden nicht gespeichert: Sie haben keinen persönlichen Ordner</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>HOME ist nicht gesetzt, und die Liste der Benutzer enthält keinen Eintrag für Sie</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>Einstellungen liegen in %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>dieser persönliche Ordner wird mit macOS geteilt, daher benutzen beide Systeme dieselben Einstellungen; dieser Befehl gibt diesem System eigene</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1: Die Datei ist beschädigt oder keine Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk läuft als root, und der Nachrichtenbus gehört Ihrem eigenen Benutzer; starten Sie es ohne sudo</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>diese Shell kennt den Nachrichtenbus Ihrer Sitzung nicht</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>unter der Adresse in DBUS_SESSION_BUS_ADDRESS antwortet nichts; dieser Befehl startet eine Shell mit einem eigenen Nachrichtenbus</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>die Bibliothek %1, die den Nachrichtenbus erreicht, kann nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch erfährt nichts von Änderungen</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>die Bibliothek %1, die Änderungen zustellt, kann nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>dieses System hat kein USB: Sein Kernel oder ein Teil davon ist nicht geladen</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework ist nicht in %1</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>VRM-D6Setup.framework enthält keine Texte in %1</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>es war kurz beschäftigt</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>%1 fehlt; dieser Befehl lässt udev es anlegen</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>nur root darf es öffnen: %1 ersetzt die Regel, die Ihnen Zugriff gewährt, oder gilt für ein anderes Mischpult</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>die Regel gewährt dem Benutzer Zugriff, der an diesem Arbeitsplatz angemeldet ist, und Sie sind über ssh angemeldet; dieser Befehl gewährt %1 Zugriff von überall</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>die Regel gewährt dem Benutzer Zugriff, der an diesem Arbeitsplatz angemeldet ist, und Ihre Sitzung ist dort nicht die aktive; dieser Befehl gewährt %1 Zugriff von überall</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>aquí no hay bus de mensajes de la sesión, como es habitual por ssh y en un contenedor; esta orden abre una shell con uno propio</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>el envío al conectar necesita el systemd de su sesión, que no se puede usar (%1); ejecute «ztk apply» cada vez que conecte una mesa</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>el envío al conectar está desactivado y no se puede activar, porque este sistema no usa systemd; ejecute «ztk apply» cada vez que conecte una mesa</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>falta el archivo %1, que inicia «ztk apply»; instale primero ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>no hay bus de mensajes de la sesión</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>está en un sistema de archivos de solo lectura</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>el disco o su cuota está lleno</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>los ajustes no se guardan: no existe la carpeta %1</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>las carpetas que faltan se crean dentro de una carpeta personal, pero no la propia carpeta personal</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>los ajustes no se guardan: no se puede escribir nada dentro de %1</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>es un archivo donde debe haber una carpeta</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>los ajustes no se guardan: no tiene carpeta personal</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>HOME no está definida, y la lista de usuarios no le incluye</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>los ajustes están en %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>esta carpeta personal se comparte con macOS, por lo que ambos sistemas usan los mismos ajustes; esta orden da a este sistema los suyos</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1: el archivo está dañado o no es de ajustes</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk se ejecuta como root, y el bus de mensajes pertenece a su propio usuario; ejecútelo sin sudo</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>esta shell no conoce el bus de mensajes de su sesión</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>nada responde en la dirección de DBUS_SESSION_BUS_ADDRESS; esta orden abre una shell con un bus de mensajes propio</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>no se puede cargar la biblioteca %1, que conecta con el bus de mensajes</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch no se entera de los cambios</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>no se puede cargar la biblioteca %1, que entrega los cambios</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>este sistema no tiene USB: su núcleo, o una parte de él, no está cargado</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework no está en %1</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>VRM-D6Setup.framework no tiene textos en %1</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>estuvo ocupada un momento</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>no existe %1; esta orden hace que udev lo cree</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>solo root puede abrirla: %1 sustituye la regla que le da acceso, o es para otra mesa</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>la regla da acceso al usuario que ha iniciado sesión en este puesto, y usted ha entrado por ssh; esta orden da a %1 acceso desde cualquier lugar</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>la regla da acceso al usuario que ha iniciado sesión en este puesto, y su sesión no es la activa en él; esta orden da a %1 acceso desde cualquier lugar</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

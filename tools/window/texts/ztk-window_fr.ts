@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>il n’y a pas ici de bus de messages de session, comme souvent par ssh et dans un conteneur ; cette commande ouvre un shell avec le sien</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>l’envoi au branchement a besoin du systemd de votre session, qui ne peut pas être utilisé (%1) ; lancez « ztk apply » chaque fois que vous avez branché une table de mixage</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>l’envoi au branchement est désactivé et ne peut pas être activé, car ce système n’utilise pas systemd ; lancez « ztk apply » chaque fois que vous avez branché une table de mixage</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>le fichier %1, qui lance « ztk apply », est absent ; installez d’abord ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>il n’y a pas de bus de messages de session</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>il se trouve sur un système de fichiers en lecture seule</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>le disque ou votre quota est plein</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>les réglages ne sont pas enregistrés : le dossier %1 n’existe pas</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>les dossiers manquants sont créés dans un dossier personnel, mais pas le dossier personnel lui-même</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>les réglages ne sont pas enregistrés : rien ne peut être écrit sous %1</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>c’est un fichier là où il faut un dossier</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>les réglages ne sont pas enregistrés : vous n’avez pas de dossier personnel</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>HOME n’est pas définie, et la liste des utilisateurs n’a pas d’entrée pour vous</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>les réglages sont dans %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>ce dossier personnel est partagé avec macOS, les deux systèmes utilisent donc les mêmes réglages ; cette commande donne à ce système les siens</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1 : le fichier est endommagé ou n’est pas un fichier de réglages</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk s’exécute en tant que root, et le bus de messages appartient à votre propre utilisateur ; lancez-le sans sudo</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>ce shell ne connaît pas le bus de messages de votre session</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>rien ne répond à l’adresse dans DBUS_SESSION_BUS_ADDRESS ; cette commande ouvre un shell avec son propre bus de messages</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>la bibliothèque %1, qui accède au bus de messages, ne peut pas être chargée</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch n’apprend pas les modifications</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>la bibliothèque %1, qui transmet les modifications, ne peut pas être chargée</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>ce système n’a pas d’USB : son noyau, ou une partie de celui-ci, n’est pas chargé</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework n’est pas dans %1</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>VRM-D6Setup.framework n’a pas de textes dans %1</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>elle était occupée un instant</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>%1 n’existe pas ; cette commande le fait créer par udev</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>seul root peut l’ouvrir : %1 remplace la règle qui vous donne accès, ou concerne une autre table de mixage</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>la règle donne accès à l’utilisateur connecté à ce poste, et vous êtes connecté par ssh ; cette commande donne à %1 un accès de partout</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>la règle donne accès à l’utilisateur connecté à ce poste, et votre session n’y est pas la session active ; cette commande donne à %1 un accès de partout</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

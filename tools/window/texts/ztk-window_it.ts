@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>qui non c’è un bus di messaggi della sessione, come di solito via ssh e in un container; questo comando avvia una shell con un bus proprio</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>l’invio al collegamento richiede il systemd della sessione, che non può essere usato (%1); eseguire «ztk apply» ogni volta che si è collegato un mixer</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>l’invio al collegamento è disattivato e non può essere attivato, perché questo sistema non usa systemd; eseguire «ztk apply» ogni volta che si è collegato un mixer</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>manca il file %1, che avvia «ztk apply»; installare prima ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>non c’è un bus di messaggi della sessione</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>si trova su un file system di sola lettura</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>il disco o la quota è esaurita</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>le impostazioni non vengono memorizzate: la cartella %1 non esiste</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>le cartelle mancanti vengono create dentro una cartella personale, ma non la cartella personale stessa</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>le impostazioni non vengono memorizzate: non si può scrivere nulla sotto %1</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>è un file dove deve esserci una cartella</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>le impostazioni non vengono memorizzate: non si ha una cartella personale</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>HOME non è impostata e l’elenco degli utenti non contiene una voce corrispondente</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>le impostazioni sono in %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>questa cartella personale è condivisa con macOS, quindi entrambi i sistemi usano le stesse impostazioni; questo comando dà a questo sistema le proprie</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1: il file è danneggiato o non è un file di impostazioni</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk è in esecuzione come root, e il bus di messaggi appartiene al proprio utente; avviarlo senza sudo</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>questa shell non conosce il bus di messaggi della sessione</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>nulla risponde all’indirizzo in DBUS_SESSION_BUS_ADDRESS; questo comando avvia una shell con un bus di messaggi proprio</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>la libreria %1, che raggiunge il bus di messaggi, non può essere caricata</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch non viene a sapere delle modifiche</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>la libreria %1, che consegna le modifiche, non può essere caricata</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>questo sistema non ha USB: il suo kernel, o una parte di esso, non è caricato</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework non è in %1</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>VRM-D6Setup.framework non ha testi in %1</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>era occupato per un momento</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>%1 non esiste; questo comando lo fa creare a udev</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>solo root può aprirlo: %1 sostituisce la regola che concede l’accesso, oppure riguarda un altro mixer</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>la regola concede l’accesso all’utente che ha effettuato l’accesso a questa postazione, e si è collegati via ssh; questo comando concede a %1 l’accesso da ovunque</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>la regola concede l’accesso all’utente che ha effettuato l’accesso a questa postazione, e la propria sessione non è quella attiva; questo comando concede a %1 l’accesso da ovunque</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

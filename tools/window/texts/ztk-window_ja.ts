@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>ssh やコンテナーでは通常そうですが、セッションのメッセージバスがありません。このコマンドは専用のバスを持つシェルを起動します</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>接続時の送信にはセッションの systemd が必要ですが、使えません（%1）。ミキサーを接続するたびに「ztk apply」を実行してください</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>接続時の送信はオフで、オンにできません。このシステムでは systemd が動いていません。ミキサーを接続するたびに「ztk apply」を実行してください</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>「ztk apply」を起動するファイル %1 がありません。先に ztk をインストールしてください</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>セッションのメッセージバスがありません</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>読み取り専用のファイルシステムにあります</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>ディスクまたは割り当てがいっぱいです</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>設定は保存されません。フォルダー %1 がありません</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>足りないフォルダーはホームフォルダーの中に作られますが、ホームフォルダー自体は作られません</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>設定は保存されません。%1 の下に書き込めません</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>フォルダーが必要な場所にファイルがあります</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>設定は保存されません。ホームフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>HOME が設定されておらず、ユーザーの一覧にも項目がありません</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>設定は %1 にあります</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>このホームフォルダーは macOS と共有されているため、両方のシステムが同じ設定を使います。このコマンドはこのシステム専用の設定を作ります</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1：壊れているか、設定ファイルではありません</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk は root として動いていますが、メッセージバスはご自身のユーザーのものです。sudo なしで実行してください</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>このシェルはセッションのメッセージバスを知りません</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>DBUS_SESSION_BUS_ADDRESS のアドレスから応答がありません。このコマンドは専用のメッセージバスを持つシェルを起動します</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>メッセージバスに接続するライブラリ %1 を読み込めません</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch に変更が伝わりません</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>変更を届けるライブラリ %1 を読み込めません</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>このシステムには USB がありません。カーネルまたはその一部が読み込まれていません</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework が %1 にありません</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>%1 の VRM-D6Setup.framework に文がありません</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>一時的に使用中でした</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>%1 がありません。このコマンドは udev にそれを作らせます</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>root しか開けません。%1 がアクセスを許可する規則を置き換えているか、別のミキサー用です</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>規則はこの席でログインしているユーザーにアクセスを許可しますが、ssh でログインしています。このコマンドは %1 にどこからでもアクセスを許可します</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>規則はこの席でログインしているユーザーにアクセスを許可しますが、このセッションはそこでアクティブではありません。このコマンドは %1 にどこからでもアクセスを許可します</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>ssh나 컨테이너에서는 흔히 그렇듯 세션 메시지 버스가 없습니다. 이 명령은 자체 버스가 있는 셸을 시작합니다</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>연결할 때 보내려면 세션의 systemd가 필요하지만 사용할 수 없습니다(%1). 믹서를 연결할 때마다 &apos;ztk apply&apos;를 실행하세요</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>연결할 때 보내기가 꺼져 있고 켤 수 없습니다. 이 시스템에서는 systemd가 실행되지 않습니다. 믹서를 연결할 때마다 &apos;ztk apply&apos;를 실행하세요</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>&apos;ztk apply&apos;를 시작하는 %1 파일이 없습니다. 먼저 ztk를 설치하세요</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>세션 메시지 버스가 없습니다</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>읽기 전용 파일 시스템에 있습니다</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>디스크나 할당량이 가득 찼습니다</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>설정이 저장되지 않습니다. %1 폴더가 없습니다</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>없는 폴더는 홈 폴더 안에 만들어지지만 홈 폴더 자체는 만들어지지 않습니다</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>설정이 저장되지 않습니다. %1 아래에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>폴더가 있어야 할 곳에 파일이 있습니다</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>설정이 저장되지 않습니다. 홈 폴더가 없습니다</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>HOME이 설정되어 있지 않고 사용자 목록에도 항목이 없습니다</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>설정이 %1 폴더에 있습니다</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>이 홈 폴더는 macOS와 공유되므로 두 시스템이 같은 설정을 사용합니다. 이 명령은 이 시스템에 별도의 설정을 만듭니다</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1: 손상되었거나 설정 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk가 root로 실행되고 있지만 메시지 버스는 사용자 본인의 것입니다. sudo 없이 실행하세요</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>이 셸은 세션의 메시지 버스를 알지 못합니다</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>DBUS_SESSION_BUS_ADDRESS의 주소에서 응답이 없습니다. 이 명령은 자체 메시지 버스가 있는 셸을 시작합니다</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>메시지 버스에 연결하는 라이브러리 %1 파일을 불러올 수 없습니다</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch가 변경 사항을 알 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>변경 사항을 전달하는 라이브러리 %1 파일을 불러올 수 없습니다</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>이 시스템에는 USB가 없습니다. 커널 또는 그 일부가 로드되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework가 %1 폴더에 없습니다</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>%1 폴더의 VRM-D6Setup.framework에 문구가 없습니다</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>잠시 사용 중이었습니다</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>%1 항목이 없습니다. 이 명령은 udev가 그것을 만들게 합니다</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>root만 열 수 있습니다. %1 파일이 접근을 허용하는 규칙을 대신하거나 다른 믹서용입니다</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>규칙은 이 자리에서 로그인한 사용자에게 접근을 허용하지만 ssh로 로그인했습니다. 이 명령은 어디서나 %1 사용자의 접근을 허용합니다</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>규칙은 이 자리에서 로그인한 사용자에게 접근을 허용하지만 이 세션은 그곳에서 활성 상태가 아닙니다. 이 명령은 어디서나 %1 사용자의 접근을 허용합니다</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>er is hier geen berichtenbus van de sessie, zoals gebruikelijk via ssh en in een container; deze opdracht start een shell met een eigen bus</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>verzenden bij aansluiten heeft de systemd van uw sessie nodig, die niet kan worden gebruikt (%1); voer ‘ztk apply’ uit telkens wanneer u een mengpaneel hebt aangesloten</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>verzenden bij aansluiten is uit en kan niet worden ingeschakeld, omdat dit systeem geen systemd gebruikt; voer ‘ztk apply’ uit telkens wanneer u een mengpaneel hebt aangesloten</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>het bestand %1, dat ‘ztk apply’ start, ontbreekt; installeer eerst ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>er is geen berichtenbus van de sessie</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>het staat op een alleen-lezen bestandssysteem</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>de schijf of uw quotum is vol</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>instellingen worden niet opgeslagen: de map %1 bestaat niet</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>ontbrekende mappen worden in een persoonlijke map aangemaakt, maar de persoonlijke map zelf niet</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>instellingen worden niet opgeslagen: er kan niets onder %1 worden geschreven</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>het is een bestand waar een map moet zijn</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>instellingen worden niet opgeslagen: u hebt geen persoonlijke map</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>HOME is niet ingesteld en de lijst van gebruikers bevat u niet</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>instellingen staan in %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>deze persoonlijke map wordt met macOS gedeeld, dus beide systemen gebruiken dezelfde instellingen; deze opdracht geeft dit systeem eigen instellingen</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1: het bestand is beschadigd of geen instellingenbestand</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk draait als root, en de berichtenbus hoort bij uw eigen gebruiker; start het zonder sudo</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>deze shell kent de berichtenbus van uw sessie niet</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>niets antwoordt op het adres in DBUS_SESSION_BUS_ADDRESS; deze opdracht start een shell met een eigen berichtenbus</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>de bibliotheek %1, die de berichtenbus bereikt, kan niet worden geladen</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch hoort niet van wijzigingen</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>de bibliotheek %1, die wijzigingen bezorgt, kan niet worden geladen</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>dit systeem heeft geen USB: de kernel of een deel ervan is niet geladen</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework staat niet in %1</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>VRM-D6Setup.framework heeft geen teksten in %1</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>het was even bezet</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>%1 bestaat niet; deze opdracht laat udev het aanmaken</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>alleen root mag het openen: %1 vervangt de regel die u toegang geeft, of is voor een ander mengpaneel</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>de regel geeft toegang aan de gebruiker die op deze werkplek is aangemeld, en u bent via ssh aangemeld; deze opdracht geeft %1 overal vandaan toegang</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>de regel geeft toegang aan de gebruiker die op deze werkplek is aangemeld, en uw sessie is daar niet de actieve; deze opdracht geeft %1 overal vandaan toegang</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>não há aqui um barramento de mensagens da sessão, como é habitual por ssh e num contentor; este comando inicia uma shell com um próprio</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>o envio ao ligar precisa do systemd da sua sessão, que não pode ser usado (%1); execute «ztk apply» sempre que ligar uma mesa</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>o envio ao ligar está desativado e não pode ser ativado, porque este sistema não usa systemd; execute «ztk apply» sempre que ligar uma mesa</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>falta o ficheiro %1, que inicia «ztk apply»; instale primeiro o ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>não há um barramento de mensagens da sessão</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>está num sistema de ficheiros só de leitura</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>o disco ou a sua quota está cheio</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>as definições não são guardadas: não existe a pasta %1</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>as pastas em falta são criadas dentro de uma pasta pessoal, mas não a própria pasta pessoal</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>as definições não são guardadas: não é possível escrever dentro de %1</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>é um ficheiro onde tem de haver uma pasta</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>as definições não são guardadas: não tem pasta pessoal</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>HOME não está definida, e a lista de utilizadores não tem uma entrada para si</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>as definições estão em %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>esta pasta pessoal é partilhada com o macOS, por isso ambos os sistemas usam as mesmas definições; este comando dá a este sistema as suas</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1: o ficheiro está danificado ou não é de definições</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>o ztk é executado como root, e o barramento de mensagens pertence ao seu utilizador; execute-o sem sudo</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>esta shell não conhece o barramento de mensagens da sua sessão</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>nada responde no endereço em DBUS_SESSION_BUS_ADDRESS; este comando inicia uma shell com um barramento de mensagens próprio</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>não é possível carregar a biblioteca %1, que acede ao barramento de mensagens</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch não sabe das alterações</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>não é possível carregar a biblioteca %1, que entrega as alterações</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>este sistema não tem USB: o seu núcleo, ou uma parte dele, não está carregado</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework não está em %1</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>VRM-D6Setup.framework não tem textos em %1</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>esteve ocupada por um momento</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>%1 não existe; este comando faz com que o udev o crie</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>só o root a pode abrir: %1 substitui a regra que lhe dá acesso, ou é para outra mesa</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>a regra dá acesso ao utilizador que iniciou sessão neste posto, e a sua sessão é por ssh; este comando dá a %1 acesso de qualquer lugar</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>a regra dá acesso ao utilizador que iniciou sessão neste posto, e a sua sessão não é a ativa; este comando dá a %1 acesso de qualquer lugar</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

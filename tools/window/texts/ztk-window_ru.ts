@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>здесь нет шины сообщений сеанса, как обычно через ssh и в контейнере; эта команда запускает оболочку с собственной шиной</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>для отправки при подключении нужен systemd вашего сеанса, который нельзя использовать (%1); выполняйте «ztk apply» после каждого подключения микшера</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>отправка при подключении выключена, и её нельзя включить: в этой системе не работает systemd; выполняйте «ztk apply» после каждого подключения микшера</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>нет файла %1, который запускает «ztk apply»; сначала установите ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>нет шины сообщений сеанса</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>место находится в файловой системе, доступной только для чтения</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>диск или ваша квота заполнены</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>настройки не сохраняются: нет папки %1</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>недостающие папки создаются внутри домашней папки, но не сама домашняя папка</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>настройки не сохраняются: внутри %1 нельзя ничего записать</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>это файл там, где должна быть папка</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>настройки не сохраняются: у вас нет домашней папки</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>переменная HOME не задана, и в списке пользователей нет записи о вас</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>настройки хранятся в %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>эта домашняя папка общая с macOS, поэтому обе системы используют одни и те же настройки; эта команда даёт этой системе собственные</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1: файл повреждён или это не файл настроек</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk работает от имени root, а шина сообщений принадлежит вашему пользователю; запустите без sudo</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>эта оболочка не знает шину сообщений вашего сеанса</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>по адресу в DBUS_SESSION_BUS_ADDRESS никто не отвечает; эта команда запускает оболочку с собственной шиной сообщений</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>не удаётся загрузить библиотеку %1, которая обращается к шине сообщений</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch не узнаёт об изменениях</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>не удаётся загрузить библиотеку %1, которая доставляет изменения</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>в этой системе нет USB: её ядро или его часть не загружены</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework отсутствует в %1</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>VRM-D6Setup.framework не содержит текстов в %1</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>он был недолго занят</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>нет %1; эта команда заставляет udev создать его</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>открыть его может только root: %1 заменяет правило, дающее вам доступ, или относится к другому микшеру</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>правило даёт доступ пользователю, который вошёл на этом рабочем месте, а вы вошли через ssh; эта команда даёт %1 доступ отовсюду</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>правило даёт доступ пользователю, который вошёл на этом рабочем месте, а ваш сеанс там не активен; эта команда даёт %1 доступ отовсюду</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>这里没有会话消息总线，通过 ssh 或在容器中通常如此；此命令会启动一个带有自己总线的 shell</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>连接时发送需要您的会话的 systemd，但它无法使用（%1）；请在每次连接混音台后运行“ztk apply”</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>连接时发送已关闭且无法开启，因为此系统未运行 systemd；请在每次连接混音台后运行“ztk apply”</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>缺少启动“ztk apply”的文件 %1；请先安装 ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>没有会话消息总线</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>它位于只读的文件系统上</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>磁盘或您的配额已满</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>设置未保存：没有文件夹 %1</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>缺少的文件夹会在主文件夹内创建，但主文件夹本身不会创建</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>设置未保存：无法在 %1 之下写入</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>应为文件夹的位置是一个文件</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>设置未保存：您没有主文件夹</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>未设置 HOME，用户列表中也没有您的条目</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>设置保存在 %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>此主文件夹与 macOS 共用，因此两个系统使用相同的设置；此命令为本系统建立单独的设置</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1：已损坏，或不是设置文件</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk 以 root 身份运行，而消息总线属于您自己的用户；请不用 sudo 运行</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>此 shell 不知道您的会话的消息总线</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>DBUS_SESSION_BUS_ADDRESS 中的地址没有应答；此命令会启动一个带有自己消息总线的 shell</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>无法加载访问消息总线的库 %1</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch 不会得知更改</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>无法加载传递更改的库 %1</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>此系统没有 USB：其内核或内核的一部分未加载</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework 不在 %1 中</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>%1 中的 VRM-D6Setup.framework 没有文本</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>它曾短暂忙碌</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>没有 %1；此命令让 udev 创建它</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>只有 root 可以打开：%1 取代了授予您访问权限的规则，或者用于另一台混音台</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>该规则授予在此席位登录的用户访问权限，而您通过 ssh 登录；此命令授予 %1 从任何地方访问的权限</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>该规则授予在此席位登录的用户访问权限，而您的会话在那里不是活动会话；此命令授予 %1 从任何地方访问的权限</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>

@@ -422,6 +422,122 @@
         <source>there is no session message bus here, as is usual over ssh and in a container; this starts a shell with one of its own</source>
         <translation>這裡沒有工作階段的訊息匯流排，透過 ssh 或在容器中通常如此；此指令會啟動一個帶有自己匯流排的 shell</translation>
     </message>
+    <message>
+        <source>autoapply needs the systemd of your session, which cannot be used (%1); run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>連接時傳送需要您工作階段的 systemd，但它無法使用（%1）；請在每次連接混音器後執行「ztk apply」</translation>
+    </message>
+    <message>
+        <source>autoapply is off and cannot be turned on, because this system does not run systemd; run &apos;ztk apply&apos; each time you have plugged a mixer in</source>
+        <translation>連接時傳送已關閉且無法開啟，因為此系統未執行 systemd；請在每次連接混音器後執行「ztk apply」</translation>
+    </message>
+    <message>
+        <source>the file %1, which starts &apos;ztk apply&apos;, is missing; install ztk first</source>
+        <translation>缺少啟動「ztk apply」的檔案 %1；請先安裝 ztk</translation>
+    </message>
+    <message>
+        <source>there is no session message bus</source>
+        <translation>沒有工作階段的訊息匯流排</translation>
+    </message>
+    <message>
+        <source>it lies on a file system that is read-only</source>
+        <translation>它位於唯讀的檔案系統上</translation>
+    </message>
+    <message>
+        <source>the disk or your quota is full</source>
+        <translation>磁碟或您的配額已滿</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: there is no folder %1</source>
+        <translation>設定未儲存：沒有資料夾 %1</translation>
+    </message>
+    <message>
+        <source>missing folders are created inside a home folder, but not the home folder</source>
+        <translation>缺少的資料夾會在家目錄內建立，但家目錄本身不會建立</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: nothing can be written below %1</source>
+        <translation>設定未儲存：無法在 %1 之下寫入</translation>
+    </message>
+    <message>
+        <source>it is a file where a folder has to be</source>
+        <translation>應為資料夾的位置是一個檔案</translation>
+    </message>
+    <message>
+        <source>settings are not remembered: you have no home folder</source>
+        <translation>設定未儲存：您沒有家目錄</translation>
+    </message>
+    <message>
+        <source>HOME is not set, and the list of users has no entry for you</source>
+        <translation>未設定 HOME，使用者清單中也沒有您的項目</translation>
+    </message>
+    <message>
+        <source>settings are kept in %1</source>
+        <translation>設定儲存在 %1</translation>
+    </message>
+    <message>
+        <source>this home is shared with macOS, so both systems use the same ones; this gives this system its own</source>
+        <translation>此家目錄與 macOS 共用，因此兩個系統使用相同的設定；此指令為本系統建立獨立的設定</translation>
+    </message>
+    <message>
+        <source>%1: it is damaged, or no settings file</source>
+        <translation>%1：已損壞，或不是設定檔案</translation>
+    </message>
+    <message>
+        <source>ztk runs as root, and the message bus belongs to your own user; run it without sudo</source>
+        <translation>ztk 以 root 身分執行，而訊息匯流排屬於您自己的使用者；請不用 sudo 執行</translation>
+    </message>
+    <message>
+        <source>this shell does not know the message bus of your session</source>
+        <translation>此 shell 不知道您工作階段的訊息匯流排</translation>
+    </message>
+    <message>
+        <source>nothing answers at the address in DBUS_SESSION_BUS_ADDRESS; this starts a shell with a message bus of its own</source>
+        <translation>DBUS_SESSION_BUS_ADDRESS 中的位址沒有回應；此指令會啟動一個帶有自己訊息匯流排的 shell</translation>
+    </message>
+    <message>
+        <source>the library that reaches the message bus, %1, cannot be loaded</source>
+        <translation>無法載入存取訊息匯流排的程式庫 %1</translation>
+    </message>
+    <message>
+        <source>ztk watch does not receive changes</source>
+        <translation>ztk watch 不會得知變更</translation>
+    </message>
+    <message>
+        <source>the library that delivers what is heard, %1, cannot be loaded</source>
+        <translation>無法載入傳遞變更的程式庫 %1</translation>
+    </message>
+    <message>
+        <source>this system has no USB: its kernel, or a part of it, is not loaded</source>
+        <translation>此系統沒有 USB：其核心或核心的一部分未載入</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework is not in %1</source>
+        <translation>VRM-D6Setup.framework 不在 %1 中</translation>
+    </message>
+    <message>
+        <source>VRM-D6Setup.framework has no texts in %1</source>
+        <translation>%1 中的 VRM-D6Setup.framework 沒有文字</translation>
+    </message>
+    <message>
+        <source>it was busy for a moment</source>
+        <translation>它曾短暫忙碌</translation>
+    </message>
+    <message>
+        <source>there is no %1; this command makes udev create it</source>
+        <translation>沒有 %1；此指令讓 udev 建立它</translation>
+    </message>
+    <message>
+        <source>only root may open it: %1 replaces the rule that grants you access, or is for another mixer</source>
+        <translation>只有 root 可以開啟：%1 取代了授予您存取權限的規則，或者用於另一台混音器</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and you are logged in over ssh; this grants %1 access from everywhere</source>
+        <translation>該規則授予在此席位登入的使用者存取權限，而您透過 ssh 登入；此指令授予 %1 從任何地方存取的權限</translation>
+    </message>
+    <message>
+        <source>the rule grants access to the user who is logged in at this seat, and your session is not the active one there; this grants %1 access from everywhere</source>
+        <translation>該規則授予在此席位登入的使用者存取權限，而您的工作階段在那裡不是使用中的；此指令授予 %1 從任何地方存取的權限</translation>
+    </message>
 </context>
 <context>
     <name>Notices</name>
