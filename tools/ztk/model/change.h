@@ -37,12 +37,14 @@ struct MadeChange {
   bool forgotten = false;  // nothing is remembered, as requested
   // A mixer has answered with the positions of its input selectors.
   bool selectorsKnown = false;
-  // Why it is not stored, as a part of a sentence; empty when it is.
+  // Why the value is not stored, as a part of a sentence; empty if it is
+  // stored.
   std::string notStored = {};
-  // Why the old settings file could not be used, as a part of a sentence; else
-  // empty. It is kept under another name, and a new one holds the value.
+  // Why the old settings file could not be used, as a part of a sentence; empty
+  // if it could be used. The old file is kept under another name, and a new
+  // file contains the value.
   std::string oldFileKept = {};
-  bool wasDamaged = false;  // the reason is not a missing permission
+  bool wasDamaged = false;  // the old file could be read, but was damaged
 };
 
 struct MadeChanges {
@@ -50,9 +52,9 @@ struct MadeChanges {
   Reach reach;
 };
 
-// Calls the setters of the library in this order, and takes the results from
-// the record of each call. A change that the library rejects is neither sent
-// nor stored.
+// Calls the setters of the library in the order of the changes, and takes the
+// results from the record of each call. A change that the library rejects is
+// neither sent nor stored.
 MadeChanges MakeChanges(const std::vector<Change> &changes);
 
 }  // namespace ztk::model

@@ -21,8 +21,9 @@ std::string Folded(const std::string &text) {
   return folded;
 }
 
-// The choices whose folded text, without its first `skipped` characters,
-// begins with the words; only the one that equals them when there is one.
+// The choices whose folded text begins with the words. If one of these texts
+// equals the words, returns only its choice. With `skipMinusSign`, a minus sign
+// at the beginning of a text is ignored.
 std::vector<Choice> BeginningWith(const std::vector<Choice> &choices,
                                   const std::string &words,
                                   bool skipMinusSign) {
@@ -36,7 +37,8 @@ std::vector<Choice> BeginningWith(const std::vector<Choice> &choices,
   return found;
 }
 
-// Every place after a space or a slash begins a word, and so does the first.
+// Whether the words are in the text, at the beginning of a word. A word begins
+// at the beginning of the text, after a space and after a slash.
 bool BeginsAWord(const std::string &text, const std::string &words) {
   for (std::size_t place = 0; place < text.size(); ++place) {
     const bool begins =
@@ -46,7 +48,7 @@ bool BeginsAWord(const std::string &text, const std::string &words) {
   return false;
 }
 
-// The choices with a word that begins so.
+// The choices whose text contains the words at the beginning of a word.
 std::vector<Choice> Containing(const std::vector<Choice> &choices,
                                const std::string &words) {
   std::vector<Choice> found;

@@ -67,7 +67,7 @@ Findings FindGone(const std::vector<std::string> &places,
         mixers.begin(), mixers.end(),
         [&place](const MixerStatus &mixer) { return mixer.place == place; });
     if (isHere) continue;
-    const Mixer gone = Unanswering(number, platform::usb::kNoDevice);
+    const Mixer gone = AfterRequest(number, platform::usb::kNoDevice);
     findings.push_back(About(number, place, places.size() > 1,
                              ExplainUnanswered(gone, place)));
   }

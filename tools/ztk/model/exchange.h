@@ -37,11 +37,11 @@ struct ImportedSettings {
 // Reads what ExportSettings() writes, and checks all of it. Sets nothing.
 ImportedSettings ParseImport(const std::string &text);
 
-// What is remembered and not named by the changes: an import leaves it as it
-// is.
+// The remembered values that the changes do not replace. An import keeps them.
 std::vector<StoredValue> ValuesBeside(const std::vector<Change> &changes);
 
-// The change that takes a value back to the time before its first choice.
+// The change that forgets a remembered value: it sends the default and removes
+// the value from the settings file.
 Change Forgetting(const StoredValue &value);
 
 }  // namespace ztk::model

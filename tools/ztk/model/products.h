@@ -25,8 +25,8 @@ struct Product {
 const std::vector<Product> &Products();
 
 // The number of a model from a word of the user: its number, its name as people
-// type it ("vrm b5", "b5"), or a name in which the library finds one. None when
-// it is neither.
+// type it ("vrm b5", "b5"), or a text in which the library finds the name of a
+// model. None if the word is nothing of this kind.
 std::optional<std::uint32_t> FindProduct(const std::string &word);
 
 // The models that the attached mixers call themselves, each once. A mixer that

@@ -51,7 +51,8 @@ std::optional<std::uint32_t> SettingsSnapshot::Remembered(
   const plist::Dictionary *file = FileOf(setting).entries.get();
   if (file == nullptr) return std::nullopt;
   std::int32_t value = 0;
-  // A key without a channel has no placeholder for it.
+  // The key of a setting without channels has no place for the number: Format()
+  // does not change it.
   const OwnedText key(
       platform::text::Format(setting.key, static_cast<std::int32_t>(channel)));
   if (!plist::IntegerValue(file, key.get(), &value)) return std::nullopt;

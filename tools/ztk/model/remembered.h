@@ -46,7 +46,7 @@ class SettingsSnapshot {
 std::optional<std::uint32_t> Remembered(const Setting &setting,
                                         std::uint32_t channel);
 
-// Why it cannot be read now: see SettingsSnapshot.
+// Why the settings file cannot be read now: see SettingsSnapshot.
 std::string WhyUnreadable(const Setting &setting);
 
 }  // namespace ztk::model

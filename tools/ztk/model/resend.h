@@ -22,19 +22,19 @@ struct StoredValue {
   std::size_t accepted = 0;  // mixers that have accepted the value
 };
 
-// The values that are remembered for these channels. A setting without one is
-// left out: the library would send its default.
+// The values that are remembered for these channels. A channel without a
+// remembered value is left out: the library would send its default.
 std::vector<StoredValue> StoredValues(
     const Setting &setting, const std::vector<std::uint32_t> &channels);
 
 // Every value that is remembered, for all models.
 std::vector<StoredValue> AllStoredValues();
 
-// Whether the library would refuse to send it. Sends nothing.
+// Whether the library would refuse to send the value. Sends nothing.
 bool WouldBeRefused(const StoredValue &value);
 
-// Sends each value, marks those that are refused, and records for which values
-// a mixer has not accepted them.
+// Sends each value, and sets its members `refused` and `accepted`. Records
+// whether every mixer has accepted the value.
 Reach SendAgain(std::vector<StoredValue> *values);
 
 }  // namespace ztk::model

@@ -72,7 +72,7 @@ std::span<const Setting *const> AllSettings();
 // The number of channels; 1 for a setting without channels.
 std::uint32_t ChannelsToWalk(const Setting &setting);
 
-// The same as a list, from 0.
+// The channels, counted from 0. Contains only 0 for a setting without channels.
 std::vector<std::uint32_t> AllChannels(const Setting &setting);
 
 // "VRM-B5": the model that the setting belongs to.

@@ -39,7 +39,8 @@ int TryToRemove(ZTKTextRef path, ZTKTextRef key) {
 std::string RemoveRemembered(const Setting &setting, std::uint32_t channel) {
   const OwnedText path(store::MakePath(setting.model));
   if (path.get() == nullptr) return "you have no home folder";
-  // A key without a channel has no placeholder for it.
+  // The key of a setting without channels has no place for the number: Format()
+  // does not change it.
   const OwnedText key(
       platform::text::Format(setting.key, static_cast<std::int32_t>(channel)));
   plist::Change *change = plist::BeginChange(path.get());

@@ -158,7 +158,9 @@ RecordedStep::RecordedStep(Step step, History *history) : history_(history) {
 void RecordedStep::TakeBack() const {
   if (!recorded_) return;
   history_->DropLast();
-  history_->Save();
+  // If this fails, the file keeps a step that did not happen, which undo
+  // recognises.
+  static_cast<void>(history_->Save());
 }
 
 MadeStep MakeStep(const std::string &command,

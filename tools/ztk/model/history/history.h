@@ -85,7 +85,7 @@ class RecordedStep {
   // Why the history does not hold the step; empty when it does, or when the
   // step has no changes.
   const std::string &notRecorded() const { return notRecorded_; }
-  // Removes it again: nothing has changed.
+  // Removes the step from the history again, because nothing has changed.
   void TakeBack() const;
 
  private:
@@ -102,7 +102,7 @@ struct MadeStep {
 };
 
 // Makes the changes as one step of the history, which must not be busy.
-// `command` is its path, such as "input set".
+// `command` is the path of the command, such as "input set".
 MadeStep MakeStep(const std::string &command,
                   const std::vector<Change> &changes, History *history);
 

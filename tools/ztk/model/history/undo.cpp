@@ -15,7 +15,8 @@ using Action = UndoItem::Action;
 // What undo does about a change while the value is `now`.
 Action ActionFor(const PastChange &change, std::optional<std::uint32_t> now) {
   if (now == change.after) return Action::PutBack;
-  // Before settings could be forgotten, undo remembered the default.
+  // If nothing was remembered before, earlier versions of undo remembered the
+  // default.
   if (now == change.before || now == FormerIndex(change)) {
     return Action::Nothing;
   }

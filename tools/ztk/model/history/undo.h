@@ -51,15 +51,15 @@ std::vector<Change> ChangesOf(const std::vector<UndoItem> &items);
 
 struct UndoneSteps {
   MadeChanges made;
-  // The history does not contain the steps any more. It still does when a value
+  // The history does not contain the steps any more. It keeps them if a value
   // could not be stored.
   bool dropped = false;
   bool saved = false;  // the history file was written
 };
 
 // Makes these changes, which take back the last `count` steps, and removes the
-// steps from the history. A rejected change stays undone: a second try would be
-// rejected too.
+// steps from the history. Also removes them if the library rejects a change,
+// because it would reject a second try too.
 UndoneSteps UndoSteps(const std::vector<Change> &changes, std::size_t count,
                       History *history);
 

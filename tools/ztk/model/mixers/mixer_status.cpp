@@ -43,7 +43,7 @@ class MixerReader {
       return;
     }
     fact->why = Described(code);
-    const Mixer failure = Unanswering(status_->mixer.number, code);
+    const Mixer failure = AfterRequest(status_->mixer.number, code);
     if (!status_->failure) status_->failure = failure;
     if (failure.state == MixerState::Silent ||
         failure.state == MixerState::Gone) {
@@ -104,8 +104,8 @@ MixerStatus AskMixer(std::size_t position, const std::string &place,
                      .certificationLevel = {},
                      .selectors = {},
                      .seratoActive = {}};
-  // A program that stays open looks again and again. It opens no mixer that it
-  // may not open.
+  // A program that runs for a long time calls this function again and again. It
+  // does not try to open a mixer without the permission to open it.
   std::optional<usb::OpenMixer> mixer;
   if (MayBeOpened(place)) mixer.emplace(static_cast<std::int32_t>(position));
   if (!mixer || !*mixer) {

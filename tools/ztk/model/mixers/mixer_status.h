@@ -56,14 +56,16 @@ struct MixerStatus {
 // this.
 std::vector<MixerStatus> AskEveryMixer();
 
-// The same, but only for the selectors.
+// Asks all attached mixers in the same way, but only for the positions of their
+// selectors.
 std::vector<MixerStatus> AskForSelectors();
 
 // "4.36", as the two bytes of the number read.
 std::string FirmwareVersion(std::uint16_t number);
 
-// Whether the whole number has arrived. A byte that the mixer has not sent
-// reads as 0xFF, and no version or level has one there.
+// Whether the mixer has sent all bytes of the number. A byte that it has not
+// sent reads as 0xFF. The tested bytes of a real version or level are never
+// 0xFF.
 bool IsWholeFirmware(std::uint16_t number);
 bool IsWholeLevel(std::uint32_t level);
 

@@ -112,7 +112,7 @@ Mixer Unopened(int number, const std::string &place) {
           .message = Named(number) + " " + Explained(access)};
 }
 
-Mixer Unanswering(int number, usb::Code code) {
+Mixer AfterRequest(int number, usb::Code code) {
   const MixerState state = StateOf(code);
   return {
       .number = number,
@@ -198,7 +198,8 @@ Mixer &RecordedCalls::MixerAt(const std::string &place) {
 
 namespace {
 
-// Its number stays the same, although its position may have changed.
+// Asks the mixer at the place. The mixer keeps its number, although its
+// position on the bus may have changed.
 Mixer AskMixer(int number, const std::string &place) {
   const std::vector<std::string> now = MixerPlaces();
   const auto found = std::find(now.begin(), now.end(), place);
@@ -206,9 +207,9 @@ Mixer AskMixer(int number, const std::string &place) {
   const usb::OpenMixer mixer(static_cast<std::int32_t>(found - now.begin()));
   if (!mixer) return Unopened(number, place);
   usb::Reply reply;
-  return Unanswering(number,
-                     GetFirmwareVersionNumber(mixer.connection(), reply.bytes,
-                                              status::kFirmwareVersionLength));
+  return AfterRequest(number,
+                      GetFirmwareVersionNumber(mixer.connection(), reply.bytes,
+                                               status::kFirmwareVersionLength));
 }
 
 }  // namespace

@@ -43,10 +43,11 @@ struct Reach {
   std::size_t opened() const;
 };
 
-// The mixer at the place could not be opened.
+// Describes the mixer at the place, which could not be opened.
 Mixer Unopened(int number, const std::string &place);
-// The mixer was opened, and its last request ended with this code.
-Mixer Unanswering(int number, usb::Code code);
+// Describes an opened mixer whose last request ended with this code, which can
+// also be success.
+Mixer AfterRequest(int number, usb::Code code);
 
 // Sends the mixers at these places a query, which changes nothing, all at the
 // same time.

@@ -32,7 +32,8 @@ std::vector<SilentRouting> FindSilentRoutings(
 // cannot be asked for its own. Names the mixer if there are several.
 std::string Described(const SilentRouting &routing, bool namesMixer);
 
-// The part of that sentence after the colon. `what` is the choice.
+// The part of the sentence of Described() after its first colon. `what` is the
+// choice.
 std::string SelectorSentence(const SilentRouting &routing,
                              const std::string &what, bool namesMixer);
 
