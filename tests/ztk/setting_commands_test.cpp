@@ -244,20 +244,20 @@ TEST_F(List, MarksTheRememberedChoice) {
   Remember("VRM-D6", {{"Output1", 4}});
   const Result result = NoMixer("ztk input list 2");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(
-      result.out,
-      "USB input audio is a setting of the VRM-D6. * marks the remembered "
-      "choice.\n"
-      "\n"
-      "USB input 2\n"
-      "  1  CH2 Control Tone PHONO\n"
-      "  2  CH2 Control Tone LINE\n"
-      "  3  Post CH2 Fader\n"
-      "  4  Cross Fader A\n"
-      "* 5  Cross Fader B\n"
-      "  6  MIC\n"
-      "  7  REC OUT\n"
-      "No mixer is attached; when one is attached, run: ztk apply\n");
+  EXPECT_EQ(result.out,
+            "USB input audio is a setting of the VRM-D6.\n"
+            "A * marks the remembered choice, or the default if nothing is "
+            "remembered.\n"
+            "\n"
+            "USB input 2\n"
+            "  1  CH2 Control Tone PHONO\n"
+            "  2  CH2 Control Tone LINE\n"
+            "  3  Post CH2 Fader\n"
+            "  4  Cross Fader A\n"
+            "* 5  Cross Fader B\n"
+            "  6  MIC\n"
+            "  7  REC OUT\n"
+            "No mixer is attached; when one is attached, run: ztk apply\n");
 }
 
 TEST_F(List, SaysWhenTheMarkIsADefault) {

@@ -57,7 +57,10 @@ Report ListChoices(const Setting &setting, const Arguments &arguments) {
   AddSettingNames(setting, product, &report);
   report.fields["channels"] = Json::array();
   if (!arguments.Has(Parameter::kQuiet)) {
-    report.text = Belonging(setting) + " * marks the remembered choice.\n";
+    report.text =
+        Belonging(setting) +
+        "\nA * marks the remembered choice, or the default if nothing "
+        "is remembered.\n";
   }
   WarnOfUnreadable(setting, &report);
   const std::vector<std::uint32_t> channels = ChannelsFor(setting, arguments);
