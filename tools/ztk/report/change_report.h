@@ -25,11 +25,11 @@ class SharedHistory {
   std::optional<History> history_;
 };
 
-// While it exists, shows what the program waits for, and the longest time: each
-// mixer receives so many requests, one after the other, and has a second for
-// each.
+// While the result exists, shows that the program waits for the mixers, and the
+// longest time: `requests` are sent to each mixer, one after the other, and
+// each of them can take one second.
 Progress WaitForRequests(std::size_t requests);
-// The same for the requests of these changes.
+// Calls WaitForRequests() with the number of requests of these changes.
 Progress WaitForChanges(const std::vector<Change> &changes);
 
 // The requests that a change of the setting sends to a mixer: the value, and
@@ -65,19 +65,20 @@ void ReportReach(const Reach &reach, const DeliveryTexts &texts,
 void ReportOutcome(const MadeChanges &made, const std::string &what,
                    const std::string &again, Report *report);
 
-// The command that sends the default of a setting that is forgotten. Only that
-// of USB output audio remembers nothing.
+// The command that sends the default of a setting that is forgotten. Except for
+// USB output audio, this command also remembers the default.
 std::string DefaultCommand(const Change &change);
 
 // A line for a choice that the library will not send again, empty for others.
 std::string NoteOnSendingAgain(const Change &change);
 
-// ", sent to 2 mixers", ", sent to 1 of 2 mixers". When no mixer has accepted
-// it: ", not accepted" if `others` were accepted, else nothing, because the
-// problem has the reason.
+// ", sent to 2 mixers", ", sent to 1 of 2 mixers". If no mixer has accepted the
+// value: ", not accepted" if mixers have accepted other values (`others`), else
+// an empty text, because the error message gives the reason.
 std::string Sent(std::size_t accepted, const Reach &reach, bool others);
 
-// ", sent to 1 mixer, remembered", of one of these changes.
+// ", sent to 1 mixer, remembered": the result of `change`, one of the changes
+// in `made`.
 std::string Described(const MadeChange &change, const MadeChanges &made);
 
 // Adds a warning about an announcement that the message bus did not accept.
