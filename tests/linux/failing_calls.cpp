@@ -18,6 +18,10 @@ NextCalls fsyncCalls;
 
 bool NextCalls::Fail() {
   ++count;
+  if (passing > 0) {
+    --passing;
+    return false;
+  }
   if (failing == 0) return false;
   --failing;
   if (action) action();

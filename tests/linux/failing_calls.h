@@ -13,7 +13,8 @@ namespace ztk::test {
 
 // How the next calls of one function end.
 struct NextCalls {
-  int failing = 0;  // the number of calls that still have to fail
+  int passing = 0;  // the number of calls that still work
+  int failing = 0;  // the number of calls after them that have to fail
   int error = 0;    // the errno value of these calls
   std::function<void()> action = {};  // runs at the beginning of these calls
   int count = 0;                      // the number of calls so far

@@ -228,6 +228,17 @@ TEST_F(KeepingTheOldFile, LeavesNoPartOfACopyIfItFails) {
   EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
 }
 
+TEST_F(KeepingTheOldFile, RenamesItBackIfTheFileIsNotReplaced) {
+  Put(path_, "old");
+  const ino_t number = NumberOf(path_);
+  linkCalls = {.failing = 1, .error = EPERM};
+  readCalls = {.failing = 1, .error = EIO};
+  renameCalls = {.passing = 1, .failing = 1, .error = EACCES};
+  EXPECT_EQ(Replace(), EACCES);
+  EXPECT_EQ(NumberOf(path_), number);
+  EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("a.plist"));
+}
+
 TEST_F(KeepingTheOldFile, LeavesNoSecondNameIfTheFileIsNotReplaced) {
   Put(path_, "old");
   renameCalls = {.failing = 1, .error = EACCES};

@@ -121,6 +121,14 @@ TEST_F(Outcome, ReportsAMixerAsGoneIfTheSearchDoesNotFindIt) {
   EXPECT_EQ(Told(Last().mixers[1].write), "4/0/0/0");
 }
 
+// Such a mixer may still be attached.
+TEST_F(Outcome, DoesNotReportAMixerAsGoneIfTheBusCannotBeSearched) {
+  CurrentWorld().bus = {Mixer()};
+  CurrentWorld().masterPortResult = 0xE00002BC;
+  ZTK_SetBoostLevelIndex(10, 1);
+  EXPECT_EQ(Told(Last().mixers[0].write), "6/0/0/0");
+}
+
 TEST_F(Outcome, ReportsThatADeviceAfterTheMixerFailed) {
   CurrentWorld().bus = {Mixer(), OtherDevice()};
   CurrentWorld().bus[1].vendorResult = 0xE00002BC;
