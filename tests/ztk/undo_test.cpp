@@ -466,7 +466,7 @@ TEST_F(Undo, CreatesItsFilesAsTheOwnerOfTheHomeFolder) {
             "1234:4321 ./.local/state\n"
             "1234:4321 ./.local/state/tarvix\n"
             "1234:4321 ./.local/state/tarvix/ztk-history.jsonl\n"
-            "1234:4321 ./.local/state/tarvix/ztk-sendings.jsonl\n"
+            "1234:4321 ./.local/state/tarvix/ztk-sendings.txt\n"
             "1234:4321 ./.local/state/tarvix/ztk.lock\n");
 }
 

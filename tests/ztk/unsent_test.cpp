@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // What ztk says about a remembered value that the mixers may not have.
+#include <fstream>
+
 #include "ztk/cli_world.h"
 
 namespace ztk::test {
@@ -107,6 +109,24 @@ TEST_F(Unsent, IsNotClaimedOfAValueOfAnotherProgram) {
   NoMixer("ztk boost set 3");
   Remember("VRM-D6", {{"MaxLevel", 1}});
   EXPECT_EQ(OneMixer("ztk boost get").out, kBoost);
+}
+
+TEST_F(Unsent, IsNotReadFromDamagedLines) {
+  NoMixer("ztk boost set 2");
+  const std::string file =
+      (home_.path() / ".local/state/tarvix/ztk-sendings.txt").string();
+  ASSERT_THAT(ReadAll(file),
+              testing::MatchesRegex("boost 0 1 incomplete [0-9]+\n"));
+  for (const char *line :
+       {"", "boost", "boost 0 1 incomplete", "boost 0 1 incomplete x",
+        "boost 0 -1 incomplete 5", "boost 0 1 lost 5", "boots 0 1 incomplete 5",
+        "boost 99999999999 1 incomplete 5", "\x01\xff"}) {
+    SCOPED_TRACE(line);
+    std::ofstream(file) << line << "\n";
+    EXPECT_EQ(OneMixer("ztk boost get").out, kBoost);
+  }
+  std::ofstream(file) << "x\nboost 0 1 incomplete 5\n";
+  EXPECT_EQ(OneMixer("ztk boost get").out, std::string(kBoost) + kNotSent);
 }
 
 TEST_F(Unsent, IsAnUndoThatWasNotSent) {

@@ -75,7 +75,7 @@ cli::Section Files() {
       {.name = "tarvix/ztk-history.jsonl",
        .meaning = "The changes that ztk has made, for ztk undo"});
   section.terms.push_back(
-      {.name = "tarvix/ztk-sendings.jsonl",
+      {.name = "tarvix/ztk-sendings.txt",
        .meaning = "What ztk has sent last, when, and whether every mixer\n"
                   "accepted it"});
   section.terms.push_back(

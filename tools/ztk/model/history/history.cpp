@@ -52,8 +52,6 @@ std::optional<Step> ParseStep(const std::string &line) {
   const Json command = json.value("command", Json());
   if (!changes.is_array() || !command.is_string()) return std::nullopt;
   Step step{.command = command.get<std::string>(), .changes = {}};
-  const Json time = json.value("time", Json());
-  if (time.is_number_integer()) step.time = time.get<std::int64_t>();
   for (const Json &one : changes) {
     const auto change = ParseChange(one);
     if (!change) return std::nullopt;
@@ -69,7 +67,6 @@ Json NumberOrNull(const std::optional<std::uint32_t> &number) {
 
 std::string LineOf(const Step &step) {
   Json json{{"command", step.command}, {"changes", Json::array()}};
-  if (step.time) json["time"] = *step.time;
   for (const PastChange &change : step.changes) {
     json["changes"].push_back(
         {{"setting", change.setting->name},

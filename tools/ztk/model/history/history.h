@@ -28,8 +28,6 @@ struct PastChange {
 struct Step {
   std::string command;
   std::vector<PastChange> changes;
-  // Milliseconds since 1970 in UTC, where it is recorded.
-  std::optional<std::int64_t> time = std::nullopt;
 };
 
 // The steps in a file, one line of JSON for each, and whether the file has

@@ -2,43 +2,30 @@
 #include "ztk/model/history/sendings.h"
 
 #include <algorithm>
-#include <string>
+#include <charconv>
+#include <string_view>
 #include <utility>
+
+#include "cli/strings.h"
+#include "ztk/model/history/state_file.h"
 
 namespace ztk::model {
 
 namespace {
 
-// The words in the file, which has the form of the history: a step with one
-// change for each value.
-constexpr char kComplete[] = "complete";
-constexpr char kIncomplete[] = "incomplete";
-constexpr char kReplaced[] = "replaced";
+// Each line of the file is one record:
+//   SETTING CHANNEL INDEX WORD MILLISECONDS
+// CHANNEL and INDEX count from 0, MILLISECONDS since 1970 in UTC. ztk status
+// reads the file at each start, so it is simpler to read than JSON.
+std::string Path() { return StateFolder() + "/ztk-sendings.txt"; }
 
-std::string Path() { return StateFolder() + "/ztk-sendings.jsonl"; }
-
-std::vector<Step> ReadSteps() {
-  return ParseHistory(ReadStateFile(Path()).text).steps;
-}
-
-bool IsAbout(const Step &step, const Setting &setting, std::uint32_t channel) {
-  const PastChange &change = step.changes.front();
-  return change.setting == &setting && change.channel == channel;
-}
-
-const char *Word(Sending sending) {
-  switch (sending) {
-    case Sending::Incomplete:
-      return kIncomplete;
-    case Sending::Replaced:
-      return kReplaced;
-    case Sending::Complete:
-    case Sending::Earlier:
-    case Sending::Forgotten:
-      break;
-  }
-  return kComplete;
-}
+struct SendingWord {
+  Sending sending;
+  const char *word;
+};
+constexpr SendingWord kWords[] = {{Sending::Complete, "complete"},
+                                  {Sending::Incomplete, "incomplete"},
+                                  {Sending::Replaced, "replaced"}};
 
 std::int64_t Milliseconds(SystemTime time) {
   return std::chrono::duration_cast<std::chrono::milliseconds>(
@@ -46,37 +33,77 @@ std::int64_t Milliseconds(SystemTime time) {
       .count();
 }
 
-std::vector<Step> Updated(std::vector<Step> steps,
-                          const std::vector<LastSending> &sendings,
-                          SystemTime started) {
-  for (const LastSending &one : sendings) {
-    std::erase_if(steps, [&one](const Step &step) {
-      return IsAbout(step, *one.setting, one.channel);
-    });
-    if (one.sending == Sending::Forgotten) continue;
-    steps.push_back({.command = Word(one.sending),
-                     .changes = {{.setting = one.setting,
-                                  .channel = one.channel,
-                                  .before = std::nullopt,
-                                  .after = one.index}},
-                     .time = Milliseconds(started)});
-  }
-  return steps;
+// Removes the first word of the line and returns it.
+std::string_view TakeWord(std::string_view *line) {
+  const std::size_t end = std::min(line->find(' '), line->size());
+  const std::string_view word = line->substr(0, end);
+  line->remove_prefix(std::min(end + 1, line->size()));
+  return word;
 }
 
-// Returns whether the file has to be written, and its new text.
-bool Differs(const std::vector<LastSending> &sendings, SystemTime started,
-             std::string *text) {
-  const std::vector<Step> steps = ReadSteps();
-  *text = HistoryText(Updated(steps, sendings, started));
-  return *text != HistoryText(steps);
+template <typename Number>
+bool TakeNumber(std::string_view *line, Number *number) {
+  const std::string_view word = TakeWord(line);
+  const char *const end = word.data() + word.size();
+  const auto [rest, error] = std::from_chars(word.data(), end, *number);
+  return !word.empty() && error == std::errc() && rest == end;
+}
+
+// None for a line that is damaged.
+std::optional<SendingRecord> ParseRecord(std::string_view line) {
+  SendingRecord record;
+  const std::string_view name = TakeWord(&line);
+  for (const Setting *setting : AllSettings()) {
+    if (name == setting->name) record.last.setting = setting;
+  }
+  if (record.last.setting == nullptr ||
+      !TakeNumber(&line, &record.last.channel) ||
+      !TakeNumber(&line, &record.last.index)) {
+    return std::nullopt;
+  }
+  const std::string_view word = TakeWord(&line);
+  const auto *const known =
+      std::find_if(std::begin(kWords), std::end(kWords),
+                   [word](const SendingWord &one) { return word == one.word; });
+  if (known == std::end(kWords)) return std::nullopt;
+  record.last.sending = known->sending;
+  if (!TakeNumber(&line, &record.milliseconds)) return std::nullopt;
+  return record;
+}
+
+std::string LineOf(const SendingRecord &record) {
+  std::string line = record.last.setting->name;
+  line += " " + std::to_string(record.last.channel) + " " +
+          std::to_string(record.last.index);
+  for (const SendingWord &one : kWords) {
+    if (one.sending == record.last.sending) line += std::string(" ") + one.word;
+  }
+  return line + " " + std::to_string(record.milliseconds) + "\n";
+}
+
+std::vector<SendingRecord> ReadRecords() {
+  std::vector<SendingRecord> records;
+  for (const std::string &line : cli::LinesOf(ReadStateFile(Path()).text)) {
+    if (const auto record = ParseRecord(line)) records.push_back(*record);
+  }
+  return records;
 }
 
 // Requires the lock.
 void Write(const std::vector<LastSending> &sendings, SystemTime started) {
+  std::vector<SendingRecord> records = ReadRecords();
+  for (const LastSending &one : sendings) {
+    std::erase_if(records, [&one](const SendingRecord &record) {
+      return record.last.setting == one.setting &&
+             record.last.channel == one.channel;
+    });
+    if (one.sending == Sending::Forgotten) continue;
+    records.push_back({.last = one, .milliseconds = Milliseconds(started)});
+  }
   std::string text;
+  for (const SendingRecord &record : records) text += LineOf(record);
   // If it cannot be written, only a note is missing.
-  if (Differs(sendings, started, &text)) ReplaceStateFile(Path(), text, false);
+  ReplaceStateFile(Path(), text, false);
 }
 
 }  // namespace
@@ -103,12 +130,12 @@ std::vector<LastSending> SendingsOf(const MadeChanges &made) {
 
 void RecordSending(const std::vector<LastSending> &sendings, SystemTime started,
                    const History *history) {
+  if (sendings.empty()) return;
   if (history != nullptr) {
     if (history->state() == History::State::Usable) Write(sendings, started);
     return;
   }
-  std::string text;
-  if (StateFolder().empty() || !Differs(sendings, started, &text)) return;
+  if (StateFolder().empty()) return;
   const StateLock lock(StateFolder());
   if (lock.result() == StateLock::Result::Held) Write(sendings, started);
 }
@@ -121,28 +148,28 @@ const std::vector<std::string> &RecordedSending::Places() const {
   return *places_;
 }
 
-const std::vector<Step> &RecordedSending::Steps() const {
-  if (!steps_) steps_ = ReadSteps();
-  return *steps_;
-}
-
-bool RecordedSending::IsBeforeAMixer(const Step &step) const {
-  if (!step.time) return false;
-  return std::any_of(Places().begin(), Places().end(),
-                     [&step](const std::string &place) {
-                       const auto since = AttachedSince(place);
-                       return since && Milliseconds(*since) > *step.time;
-                     });
+std::int64_t RecordedSending::LastAttached() const {
+  if (lastAttached_) return *lastAttached_;
+  lastAttached_ = 0;
+  for (const std::string &place : Places()) {
+    const auto since = AttachedSince(place);
+    if (since) lastAttached_ = std::max(*lastAttached_, Milliseconds(*since));
+  }
+  return *lastAttached_;
 }
 
 Sending RecordedSending::Of(const Setting &setting, std::uint32_t channel,
                             std::uint32_t index) const {
-  for (const Step &step : Steps()) {
-    if (!IsAbout(step, setting, channel)) continue;
-    if (step.changes.front().after != index) continue;
-    if (step.command == kReplaced) return Sending::Replaced;
-    if (step.command == kIncomplete) return Sending::Incomplete;
-    return IsBeforeAMixer(step) ? Sending::Earlier : Sending::Complete;
+  if (!records_) records_ = ReadRecords();
+  for (const SendingRecord &record : *records_) {
+    const LastSending &last = record.last;
+    if (last.setting != &setting || last.channel != channel ||
+        last.index != index) {
+      continue;
+    }
+    if (last.sending != Sending::Complete) return last.sending;
+    return LastAttached() > record.milliseconds ? Sending::Earlier
+                                                : Sending::Complete;
   }
   return Sending::Complete;
 }

@@ -28,10 +28,15 @@ enum class Sending : std::uint8_t {
 // What this program sent last to a channel of a setting that has this
 // remembered value.
 struct LastSending {
-  const Setting *setting;
-  std::uint32_t channel;
-  std::uint32_t index;
-  Sending sending;
+  const Setting *setting = nullptr;
+  std::uint32_t channel = 0;
+  std::uint32_t index = 0;
+  Sending sending = Sending::Complete;
+};
+
+struct SendingRecord {
+  LastSending last;
+  std::int64_t milliseconds = 0;  // when it began, since 1970 in UTC
 };
 
 // Complete when each of the mixers has accepted the value, and there is one.
@@ -41,8 +46,7 @@ Sending SendingTo(std::size_t accepted, std::size_t mixers);
 std::vector<LastSending> SendingsOf(const MadeChanges &made);
 
 // Records the sendings, which began at `started`. `history` has the lock;
-// without one, takes the lock if the record changes, and does nothing when
-// another program keeps it.
+// without one, takes the lock, and does nothing when another program keeps it.
 void RecordSending(const std::vector<LastSending> &sendings, SystemTime started,
                    const History *history);
 
@@ -62,11 +66,12 @@ class RecordedSending {
 
  private:
   const std::vector<std::string> &Places() const;
-  const std::vector<Step> &Steps() const;
-  bool IsBeforeAMixer(const Step &step) const;
+  // When the newest mixer was attached; 0 if that is not known.
+  std::int64_t LastAttached() const;
 
   mutable std::optional<std::vector<std::string>> places_;
-  mutable std::optional<std::vector<Step>> steps_;
+  mutable std::optional<std::vector<SendingRecord>> records_;
+  mutable std::optional<std::int64_t> lastAttached_;
 };
 
 }  // namespace ztk::model
