@@ -41,6 +41,7 @@ time_programs() {  # bin file runs [root]
     --command-name "ztk status" "$1/ztk status" \
     --command-name "minimal C program" "$1/read_status" \
     --command-name "the same, reading once" "$1/read_status once" \
+    --command-name "the same, without decoding settings" "$1/read_status_raw" \
     --command-name "libusb lister" "$1/list_devices" \
     --command-name "program that does nothing" "$1/do_nothing" \
     --command-name "the same, loading the library" "$1/load_library" \

@@ -2,17 +2,24 @@
  *
  *   read_status [once]
  *
- * The smallest program that reads what "ztk status" reads. It reads the
+ * The smallest program that shows what "ztk status" shows. It reads the
  * identity of every device once to count the mixers, and once more for each
  * mixer to find it. Then it reads four registers of each mixer, and the
- * settings files. It links only the C library. It prints the registers as raw
- * bytes, and the length of each settings file. With "once" it walks over the
- * devices a single time, and reads the registers of each mixer as soon as it is
- * found.
+ * settings files. It prints the registers as raw bytes, and the number of each
+ * setting. With "once" it walks over the devices a single time, and reads the
+ * registers of each mixer as soon as it is found.
+ *
+ * It decodes the settings files with libplist, as the library does. Without
+ * DECODES_SETTINGS it links only the C library, and prints the length of each
+ * file.
  */
 #include <dirent.h>
 #include <fcntl.h>
+#include <inttypes.h>
 #include <linux/usbdevice_fs.h>
+#ifdef DECODES_SETTINGS
+#include <plist/plist.h>
+#endif
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
@@ -69,6 +76,31 @@ static void ShowMixer(const char *name) {
   close(node);
 }
 
+#ifdef DECODES_SETTINGS
+static void ShowNumbers(const char *model, const char *text, uint32_t length) {
+  plist_t settings = NULL;
+  if (length >= 6 && memcmp(text, "bplist", 6) == 0) {
+    plist_from_bin(text, length, &settings);
+  } else {
+    plist_from_xml(text, length, &settings);
+  }
+  plist_dict_iter place = NULL;
+  plist_dict_new_iter(settings, &place);
+  for (;;) {
+    char *key = NULL;
+    plist_t value = NULL;
+    uint64_t number = 0;
+    plist_dict_next_item(settings, place, &key, &value);
+    if (value == NULL) break;
+    plist_get_uint_val(value, &number);
+    printf("%s %s: %" PRIu64 "\n", model, key, number);
+    free(key);
+  }
+  free(place);
+  plist_free(settings);
+}
+#endif
+
 static void ShowSettings(const char *model) {
   char path[kPath];
   char text[4096];
@@ -77,7 +109,12 @@ static void ShowSettings(const char *model) {
            "%s/.config/tarvix/Preferences/com.tarvix.%sautosetup.plist",
            home != NULL ? home : "", model);
   const ssize_t length = ReadFile(path, text, sizeof text);
-  if (length > 0) printf("%s: %zd bytes\n", model, length);
+  if (length <= 0) return;
+#ifdef DECODES_SETTINGS
+  ShowNumbers(model, text, (uint32_t)length);
+#else
+  printf("%s: %zd bytes\n", model, length);
+#endif
 }
 
 enum { kCountOnly = -1, kShowAll = -2 };
