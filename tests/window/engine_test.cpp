@@ -30,6 +30,7 @@ class EngineTest : public EngineWorld {
   void HearsAnotherProgram();
   void DoesNotJumpBackWhileAChangeIsOnItsWay();
   void FollowsTheSelectors();
+  void NamesNoValueThatUndoLeavesAlone();
   void UndoesTheStepsOfAnyProgram();
   void LeavesAloneWhatAnotherProgramHasSetSince();
   void SaysThatThereIsNothingToUndo();
@@ -71,7 +72,8 @@ void EngineTest::SendsAChoice() {
   QCOMPARE(Row(kInput, 1).reason, QString());
   QCOMPARE(Row(kInput, 1).stored, std::optional<std::uint32_t>(2));
   QVERIFY(state().canUndo);
-  QCOMPARE(state().undoes, QStringLiteral("USB input 2"));
+  QCOMPARE(state().undoes,
+           QStringLiteral("USB input 2 → CH2 Control Tone PHONO"));
   // The announcement of the engine's own change arrives and changes nothing.
   Ztk({"boost", "get"});
   QCOMPARE(Row(kInput, 1).delivery, Delivery::Sent);
@@ -183,6 +185,15 @@ void EngineTest::FollowsTheSelectors() {
   EVENTUALLY(state().mixers[0].selectors[2] == 2);
 }
 
+void EngineTest::NamesNoValueThatUndoLeavesAlone() {
+  StartEngine();
+  engine().choose(kInput, 1, 2);
+  EVENTUALLY(Row(kInput, 1).delivery == Delivery::Sent);
+  ZtkWithoutHistory({"input", "set", "2", "mic"});
+  EVENTUALLY(Row(kInput, 1).shown == 5);
+  QCOMPARE(state().undoes, QStringLiteral("USB input 2"));
+}
+
 void EngineTest::UndoesTheStepsOfAnyProgram() {
   Ztk({"input", "set", "1", "2"});
   StartEngine();
@@ -192,7 +203,7 @@ void EngineTest::UndoesTheStepsOfAnyProgram() {
   engine().undo();
   EVENTUALLY(Row(kInput, 0).shown == 1);
   QCOMPARE(Row(kInput, 0).delivery, Delivery::Sent);
-  EVENTUALLY(state().undoes == QStringLiteral("USB output level"));
+  EVENTUALLY(state().undoes == QStringLiteral("USB output level → -19 dB"));
   engine().undo();
   engine().undo();
   EVENTUALLY(!state().canUndo);

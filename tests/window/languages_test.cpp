@@ -60,7 +60,8 @@ State FullState() {
                                     .command = "ztk doctor",
                                     .mixer = 1}));
   state.canUndo = true;
-  state.undoes = PlaceText(model::kInput, 1);
+  state.undoes = PlaceText(model::kInput, 1) + QStringLiteral(" → ") +
+                 ChoiceText(model::kInput, 1, 0);
   return state;
 }
 

@@ -298,9 +298,10 @@ void MainWindowTest::OffersUndoWithWhatItTakesBack() {
   QSignalSpy undo(window_.get(), &MainWindow::undoWanted);
   QVERIFY(!Action("Undo")->isEnabled());
   state_.canUndo = true;
-  state_.undoes = "USB input 2";
+  state_.undoes = "USB input 2 → REC OUT";
   window_->showState(state_);
-  QCOMPARE(Action("Undo")->text(), QStringLiteral("&Undo: USB input 2"));
+  QCOMPARE(Action("Undo")->text(),
+           QStringLiteral("&Undo: USB input 2 → REC OUT"));
   QCOMPARE(Action("Undo")->shortcut(), QKeySequence("Ctrl+Z"));
   QTest::keyClick(window_.get(), Qt::Key_Z, Qt::ControlModifier);
   QCOMPARE(undo.size(), 1);

@@ -3,6 +3,7 @@
 
 #include <QStringList>
 #include <stdexcept>
+#include <vector>
 
 #include "window/engine/sentences.h"
 #include "ztk/model/autoapply.h"
@@ -26,6 +27,20 @@ QString PlacesOf(const model::Step &step) {
     if (!places.contains(place)) places.append(place);
   }
   return places.join(QStringLiteral(", "));
+}
+
+// What undo would do. Of a single change also the value that comes back, unless
+// undo leaves alone what another program has set since.
+QString UndoText(const std::vector<model::Step> &steps) {
+  const QString places = PlacesOf(steps.back());
+  const std::vector<model::UndoItem> items = model::PlanUndo(steps);
+  if (items.size() != 1 ||
+      items.front().action != model::UndoItem::Action::PutBack) {
+    return places;
+  }
+  const model::PastChange &past = items.front().past;
+  return places + QStringLiteral(" → ") +
+         ChoiceText(*past.setting, past.channel, model::FormerIndex(past));
 }
 
 MixerAnswer AnswerOf(model::MixerState state) {
@@ -91,7 +106,7 @@ StoredState ReadStored() {
   model::DropVoidSteps(&history);
   if (history.steps().empty()) return state;
   state.canUndo = true;
-  state.undoes = PlacesOf(history.steps().back());
+  state.undoes = UndoText(history.steps());
   return state;
 }
 

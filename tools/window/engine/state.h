@@ -114,7 +114,8 @@ struct State {
   QList<RowState> rows;
   QList<FindingState> findings;
   bool canUndo = false;
-  // What undo would take back: "USB input 2", "USB input 1, Boost level".
+  // What undo would do: "USB input 2 → REC OUT"; for several changes only their
+  // places: "USB input 1, USB output level".
   QString undoes;
   // Whether changes of other programs are heard, and why not.
   bool hearsOthers = true;
