@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "ztk/model/mixers/mixer_status.h"
-#include "ztk/model/mixers/silence.h"
 #include "ztk/model/settings.h"
+#include "ztk/model/silence.h"
 
 namespace ztk::model {
 

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "ztk/model/mixers/silence.h"
+#include "ztk/model/silence.h"
 #include "ztk/report.h"
 
 namespace ztk::program {

@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "ztk/commands/setting/setting_parts.h"
-#include "ztk/model/mixers/silence.h"
 #include "ztk/model/products.h"
 #include "ztk/model/remembered.h"
+#include "ztk/model/silence.h"
 #include "ztk/progress.h"
 #include "ztk/report/silence_report.h"
 #include "ztk/report/unsent_report.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Why nothing is recorded on a USB channel.
-#ifndef ZTK_TOOLS_ZTK_MODEL_MIXERS_SILENCE_H_
-#define ZTK_TOOLS_ZTK_MODEL_MIXERS_SILENCE_H_
+#ifndef ZTK_TOOLS_ZTK_MODEL_SILENCE_H_
+#define ZTK_TOOLS_ZTK_MODEL_SILENCE_H_
 
 #include <cstdint>
 #include <string>
@@ -42,4 +42,4 @@ bool NeedsSelector(std::uint32_t channel, std::uint32_t index);
 
 }  // namespace ztk::model
 
-#endif  // ZTK_TOOLS_ZTK_MODEL_MIXERS_SILENCE_H_
+#endif  // ZTK_TOOLS_ZTK_MODEL_SILENCE_H_

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ztk/model/mixers/silence.h"
+#include "ztk/model/silence.h"
 
 #include "api/input_audio.h"
 #include "ztk/model/settings.h"
