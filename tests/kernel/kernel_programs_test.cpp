@@ -89,16 +89,17 @@ TEST_F(KernelPrograms, ASettingReachesBothMixersAndTheLogIsAsInTheSandbox) {
 
 // The kernel makes a new device node when a mixer is plugged in.
 TEST_F(KernelPrograms, StatusSaysWhatWasSentBeforeAMixerWasPluggedIn) {
-  const std::string output =
-      Attached("-n 1",
-               "$Z boost set 2 -q; $Z status -q; $V unplug >&2; $V plug >&2;"
-               "echo again; for i in $(seq 100); do"
-               "  $Z status | grep \"^Sent\" && break; sleep 0.1; done;"
-               "$Z apply -q; echo sent; $Z status");
+  const std::string output = Attached(
+      "-n 1",
+      "$Z boost set 2 -q; $Z status -q; $V unplug >&2; $V plug >&2;"
+      "echo again; for i in $(seq 100); do"
+      "  $Z status | grep \"^A mixer was plugged\" && break; sleep 0.1; done;"
+      "$Z apply -q; echo sent; $Z status");
   const std::size_t again = output.find("again\n");
   const std::size_t sent = output.find("sent\n");
   ASSERT_NE(sent, std::string::npos) << output;
-  constexpr char kBefore[] = "Sent before a mixer was attached: Boost level\n";
+  constexpr char kBefore[] =
+      "A mixer was plugged in after this was sent: Boost level\n";
   EXPECT_THAT(output.substr(0, again), Not(HasSubstr(kBefore)));
   EXPECT_THAT(output.substr(again, sent - again), HasSubstr(kBefore));
   EXPECT_THAT(output.substr(sent), Not(HasSubstr(kBefore)));

@@ -15,7 +15,7 @@ constexpr char kBoost[] =
     "Boost level  -10 dB (2)\n";
 constexpr char kNotSent[] =
     "Not sent, or not to every mixer: Boost level\n"
-    "To send what is remembered, run: ztk apply\n";
+    "To send it, run: ztk apply\n";
 
 TEST_F(Unsent, IsNothingAfterAChangeThatEveryMixerAccepted) {
   const Result result =
@@ -48,7 +48,7 @@ TEST_F(Unsent, IsFollowedByTheNextStepInStatus) {
             "  USB input 2   MIC (6), VRM-D6\n"
             "  Boost level   -10 dB (2), VRM-D6\n"
             "Not sent, or not to every mixer: USB input 2, Boost level\n"
-            "Next: to send what is remembered, run: ztk apply\n");
+            "Next: to send it, run: ztk apply\n");
 }
 
 // A mixer that was switched on since may have another choice.
@@ -58,14 +58,16 @@ TEST_F(Unsent, IsWhatWasSentBeforeAMixerWasPluggedIn) {
       "ztk-virtual-mixer plug 1; ztk input set 5 1 -q; ztk boost get;"
       "ztk status --json; ztk status | tail -n 2; ztk apply -q;"
       "ztk status | tail -n 1");
-  EXPECT_THAT(result.out,
-              HasSubstr(std::string(kBoost) +
-                        "Sent before a mixer was attached: Boost level\n"
-                        "To send what is remembered, run: ztk apply\n"));
+  EXPECT_THAT(
+      result.out,
+      HasSubstr(std::string(kBoost) +
+                "A mixer was plugged in after this was sent: Boost level\n"
+                "To send it, run: ztk apply\n"));
   EXPECT_THAT(result.out, HasSubstr("\"unsent\":\"earlier\""));
-  EXPECT_THAT(result.out,
-              HasSubstr("Sent before a mixer was attached: Boost level\n"
-                        "Next: to send what is remembered, run: ztk apply\n"));
+  EXPECT_THAT(
+      result.out,
+      HasSubstr("A mixer was plugged in after this was sent: Boost level\n"
+                "Next: to send it, run: ztk apply\n"));
   EXPECT_EQ(LastLine(result.out), "  Boost level   -10 dB (2), VRM-D6");
 }
 
@@ -86,14 +88,14 @@ TEST_F(Unsent, IsWhatARawValueOrADefaultHasReplaced) {
   EXPECT_THAT(result.out,
               HasSubstr("USB input 1  MIC (6)\n"
                         "ztk has sent another value since: USB input 1\n"
-                        "To send what is remembered, run: ztk apply\n"));
+                        "To send it, run: ztk apply\n"));
   const Json json = OneObject(LastLine(result.out));
   // The default of the first output is the remembered choice.
   EXPECT_EQ(json["channels"][0]["unsent"], nullptr);
   EXPECT_EQ(json["channels"][1]["unsent"], "replaced");
   EXPECT_EQ(json["channels"][2]["unsent"], nullptr);
   EXPECT_THAT(OneMixer("ztk output get").out,
-              HasSubstr("since: USB output 2\nTo send what is remembered, run: "
+              HasSubstr("since: USB output 2\nTo send it, run: "
                         "ztk apply --product VRM-B5\n"));
 }
 
@@ -145,6 +147,45 @@ TEST_F(Unsent, EndsWithResetAndWithTheNextSet) {
   EXPECT_EQ(OneMixer("ztk boost set 2 -q; ztk boost get").out, kBoost);
 }
 
+// Nothing is remembered, but the mixer has the former value.
+TEST_F(Unsent, IsADefaultThatWasNotSent) {
+  const Result result = OneMixer(
+      "ztk input set 2 post -q; ztk-virtual-mixer fault stall >&2; ztk undo -q;"
+      "ztk-virtual-mixer fault none >&2; ztk input get 2; ztk status;"
+      "ztk input get 2 --json; ztk input set 2 1 -q; ztk status | tail -n 1");
+  EXPECT_THAT(
+      result.out,
+      HasSubstr("USB input 2  CH2 Control Tone PHONO (1), default: nothing is "
+                "remembered\n"
+                "Default that was not sent, or not to every mixer: USB input "
+                "2\nTo send it, run: ztk input set 2 1\n"));
+  EXPECT_THAT(result.out,
+              HasSubstr("Nothing is remembered\n"
+                        "Default that was not sent, or not to every mixer: USB "
+                        "input 2\nNext: to send it, run: ztk input set 2 1\n"));
+  EXPECT_THAT(result.out, HasSubstr("\"unsent\":\"default\""));
+  EXPECT_EQ(LastLine(result.out),
+            "  USB input 2   CH2 Control Tone PHONO (1), VRM-D6");
+}
+
+TEST_F(Unsent, IsAResetUntilEachMixerWasPluggedInAgain) {
+  const Result result = Inside(
+      {"-n", "1", "--selector", "1=1"},
+      "ztk input set 1 post -q; ztk reset -q; ztk status; ztk input get 1;"
+      "ztk doctor; echo again; ztk-virtual-mixer unplug >&2;"
+      "ztk-virtual-mixer plug >&2; ztk status");
+  const std::size_t again = result.out.find("again\n");
+  ASSERT_NE(again, std::string::npos);
+  const std::string before = result.out.substr(0, again);
+  EXPECT_THAT(
+      before,
+      HasSubstr("Nothing is remembered\n"
+                "Reset, but the mixer may still have it: USB input 1\n"));
+  EXPECT_THAT(before, Not(HasSubstr("is silent")));
+  EXPECT_THAT(result.out.substr(again), Not(HasSubstr("Reset")));
+  EXPECT_THAT(result.out.substr(again), HasSubstr("USB input 1 is silent"));
+}
+
 TEST_F(Unsent, EndsWithAnUndoThatForgetsTheValue) {
   NoMixer("ztk boost set 2; ztk undo");
   Remember("VRM-D6", {{"MaxLevel", 1}});
@@ -154,7 +195,7 @@ TEST_F(Unsent, EndsWithAnUndoThatForgetsTheValue) {
 TEST_F(Unsent, NamesTheCommandOfAValueThatApplyDoesNotSend) {
   NoMixer("ztk midi set 7");
   EXPECT_THAT(OneMixer("ztk midi get").out,
-              HasSubstr("\nTo send what is remembered, run: ztk midi set 7\n"));
+              HasSubstr("\nTo send it, run: ztk midi set 7\n"));
 }
 
 TEST_F(Unsent, IsNotKnownWithoutAMixerWhichIsSaidInstead) {

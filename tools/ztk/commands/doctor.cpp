@@ -77,19 +77,19 @@ std::string Summary(std::size_t problems, std::size_t notes) {
          (notes > 0 ? "its command" : "the command above") + after;
 }
 
-// The remembered values that an attached mixer may not have.
+// What an attached mixer may have instead of what is remembered.
 Findings NotesOnUnsent() {
   const RecordedSending recorded;
-  const std::vector<StoredValue> values = AllStoredValues();
-  if (values.empty() || !recorded.AnyAttached()) return {};
-  const Unsent unsent = FindUnsent(values, recorded);
+  if (!recorded.AnyAttached()) return {};
+  const Unsent unsent = FindUnsent(AllMemories(), recorded);
   Findings notes;
-  for (const std::string &line : unsent.lines) {
+  for (const Unsent::Line &line : unsent.lines) {
+    if (line.command.empty()) continue;
     notes.push_back({.id = "unsent",
-                     .what = line,
-                     .cause = "a mixer has its own choice until it accepts the "
-                              "remembered one",
-                     .command = unsent.command,
+                     .what = line.text,
+                     .cause = "a mixer has its own choice until it accepts "
+                              "another one",
+                     .command = line.command,
                      .isNote = true});
   }
   return notes;

@@ -47,7 +47,7 @@ Report ShowOverview(const Arguments & /*arguments*/) {
                    ModelName(*setting) + ", as remembered\n" +
                    ChoicesNow(*setting, &settings);
   }
-  const Unsent unsent = FindUnsent(AllStoredValues(), RecordedSending(places));
+  const Unsent unsent = FindUnsent(AllMemories(), RecordedSending(places));
   if (!unsent.lines.empty()) report.text += "\n" + WithCommand(unsent);
   report.text +=
       "\n"

@@ -185,7 +185,7 @@ std::string TextOf(const Mixers &mixers, bool verbose) {
 
 // What the settings files hold.
 struct Remembrance {
-  std::vector<StoredValue> values;
+  std::vector<Memory> memories;
   bool unreadable = false;  // one of the files cannot be read
 };
 
@@ -216,9 +216,9 @@ std::string StuckMixers(const Mixers &mixers) {
 std::string NextStep(const Mixers &mixers, const Remembrance &remembered,
                      const std::string &apply) {
   // A mixer that was switched off has lost its settings.
-  const std::string doctor =
-      std::string(remembered.values.empty() ? "" : ", then run ztk apply") +
-      "; if that does not help, run ztk doctor\n";
+  const std::string all = ApplyCommands(remembered.memories);
+  const std::string doctor = (all.empty() ? "" : ", then run " + all) +
+                             "; if that does not help, run ztk doctor\n";
   if (mixers.empty()) {
     return "Next: plug the mixer in and switch it on" + doctor;
   }
@@ -233,7 +233,7 @@ std::string NextStep(const Mixers &mixers, const Remembrance &remembered,
     return "Next: run ztk doctor; it shows the cause and what to do\n";
   }
   if (!apply.empty()) {
-    return "Next: to send what is remembered, run: " + apply + "\n";
+    return "Next: to send it, run: " + apply + "\n";
   }
   return "";
 }
@@ -280,9 +280,9 @@ Remembrance AddRemembered(const RecordedSending &recorded, Report *report) {
     for (std::uint32_t channel = 0; channel < ChannelsToWalk(*setting);
          ++channel) {
       const auto index = settings.Remembered(*setting, channel);
+      remembered.memories.push_back(
+          {.setting = setting, .channel = channel, .index = index});
       if (!index) continue;
-      remembered.values.push_back(
-          {.setting = setting, .channel = channel, .index = *index});
       Json fields = ValueFields(*setting, channel, *index);
       fields["unsent"] = UnsentField(recorded.Of(*setting, channel, *index));
       list.push_back(std::move(fields));
@@ -311,7 +311,7 @@ Report ShowStatus(const Arguments &arguments) {
   const Mixers mixers = AddMixers(arguments.Has(Parameter::kVerbose), &report);
   const RecordedSending recorded(PlacesOf(mixers));
   const Remembrance remembered = AddRemembered(recorded, &report);
-  const Unsent unsent = FindUnsent(remembered.values, recorded);
+  const Unsent unsent = FindUnsent(remembered.memories, recorded);
   report.text += TextOf(unsent);
   AddSilence(FindSilentRoutings(mixers), mixers.size() > 1, &report);
   if (!arguments.Has(Parameter::kQuiet)) {

@@ -2,6 +2,8 @@
 #include "ztk/model/silence.h"
 
 #include "api/input_audio.h"
+#include "ztk/model/history/sendings.h"
+#include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"
 
 namespace ztk::model {
@@ -14,6 +16,10 @@ bool NeedsSelector(std::uint32_t channel, std::uint32_t index) {
 std::vector<SilentRouting> FindSilentRoutings(
     const std::vector<MixerStatus> &mixers) {
   std::vector<SilentRouting> silent;
+  std::vector<std::string> places;
+  places.reserve(mixers.size());
+  for (const MixerStatus &mixer : mixers) places.push_back(mixer.place);
+  const RecordedSending recorded(std::move(places));
   for (const MixerStatus &mixer : mixers) {
     if (!mixer.selectors.value) continue;
     for (std::uint32_t channel = 0; channel < status::kSelectors; ++channel) {
@@ -21,6 +27,11 @@ std::vector<SilentRouting> FindSilentRoutings(
       if (!position || *position == input_audio::kAudiblePosition) continue;
       const auto index = CurrentIndex(kInput, kInput.product, channel);
       if (!index || !NeedsSelector(channel, *index)) continue;
+      // After a reset the mixers still have the choice that was sent before.
+      if (!Remembered(kInput, channel) &&
+          recorded.Of(kInput, channel, std::nullopt) != Sending::Complete) {
+        continue;
+      }
       silent.push_back({.mixer = mixer.mixer.number,
                         .channel = channel,
                         .index = *index,

@@ -2,21 +2,27 @@
 #include "ztk/report/unsent_report.h"
 
 #include "cli/strings.h"
+#include "ztk/model/remembered.h"
+#include "ztk/report/change_report.h"
 #include "ztk/report/setting_report.h"
 
 namespace ztk::program {
 
 namespace {
 
-// The commands that send the values, each once.
-std::string Commands(const std::vector<StoredValue> &values) {
-  std::vector<std::string> commands;
-  commands.reserve(values.size());
-  for (const StoredValue &value : values) {
-    commands.push_back(
-        ApplyCommand(*value.setting, value.channel, value.index));
+// The command that sends the choice; empty if nothing has to be sent.
+std::string CommandFor(const Memory &memory, Sending sending) {
+  if (sending == Sending::Reset) return "";
+  if (memory.index) {
+    return ApplyCommand(*memory.setting, memory.channel, *memory.index);
   }
-  return Joined(commands);
+  return DefaultCommand(
+      {.setting = memory.setting,
+       .product = memory.setting->product,
+       .channel = memory.channel,
+       .index = CurrentIndex(*memory.setting, memory.setting->product,
+                             memory.channel)
+                    .value_or(0)});
 }
 
 struct Reason {
@@ -26,52 +32,85 @@ struct Reason {
 constexpr Reason kReasons[] = {
     {Sending::Incomplete, "Not sent, or not to every mixer: "},
     {Sending::Replaced, "ztk has sent another value since: "},
-    {Sending::Earlier, "Sent before a mixer was attached: "}};
+    {Sending::Earlier, "A mixer was plugged in after this was sent: "},
+    {Sending::DefaultNotSent,
+     "Default that was not sent, or not to every mixer: "},
+    {Sending::Reset, "Reset, but the mixer may still have it: "}};
 
 }  // namespace
 
-Unsent FindUnsent(const std::vector<StoredValue> &remembered,
+std::vector<Memory> MemoriesOf(const Setting &setting,
+                               const std::vector<std::uint32_t> &channels) {
+  SettingsSnapshot settings;
+  std::vector<Memory> memories;
+  for (const std::uint32_t channel : channels) {
+    memories.push_back({.setting = &setting,
+                        .channel = channel,
+                        .index = settings.Remembered(setting, channel)});
+  }
+  return memories;
+}
+
+std::vector<Memory> AllMemories() {
+  std::vector<Memory> memories;
+  for (const Setting *setting : AllSettings()) {
+    const auto some = MemoriesOf(*setting, AllChannels(*setting));
+    memories.insert(memories.end(), some.begin(), some.end());
+  }
+  return memories;
+}
+
+std::string ApplyCommands(const std::vector<Memory> &memories) {
+  std::vector<std::string> commands;
+  for (const auto &[setting, channel, index] : memories) {
+    if (index) commands.push_back(ApplyCommand(*setting, channel, *index));
+  }
+  return Joined(commands);
+}
+
+Unsent FindUnsent(const std::vector<Memory> &memories,
                   const RecordedSending &recorded) {
   Unsent unsent;
-  std::vector<StoredValue> all;
+  std::vector<std::string> all;
   for (const Reason &reason : kReasons) {
     std::vector<std::string> names;
-    for (const StoredValue &value : remembered) {
-      if (recorded.Of(*value.setting, value.channel, value.index) !=
-          reason.sending) {
-        continue;
-      }
-      names.push_back(PlaceName(*value.setting, value.channel));
-      all.push_back(value);
+    std::vector<std::string> commands;
+    for (const Memory &memory : memories) {
+      const auto &[setting, channel, index] = memory;
+      if (recorded.Of(*setting, channel, index) != reason.sending) continue;
+      names.push_back(PlaceName(*setting, channel));
+      const std::string command = CommandFor(memory, reason.sending);
+      if (!command.empty()) commands.push_back(command);
     }
     if (names.empty()) continue;
-    unsent.lines.push_back(reason.words + cli::Listed(names));
+    unsent.lines.push_back({.text = reason.words + cli::Listed(names),
+                            .command = Joined(commands)});
+    all.insert(all.end(), commands.begin(), commands.end());
   }
-  unsent.command = Commands(all);
+  unsent.command = Joined(all);
   return unsent;
 }
 
 std::string TextOf(const Unsent &unsent) {
   std::string text;
-  for (const std::string &line : unsent.lines) text += line + "\n";
+  for (const Unsent::Line &line : unsent.lines) text += line.text + "\n";
   return text;
 }
 
 std::string WithCommand(const Unsent &unsent) {
-  if (unsent.lines.empty()) return "";
-  return TextOf(unsent) + "To send what is remembered, run: " + unsent.command +
-         "\n";
+  if (unsent.command.empty()) return TextOf(unsent);
+  return TextOf(unsent) + "To send it, run: " + unsent.command + "\n";
 }
 
-void AddUnsent(const std::vector<StoredValue> &remembered,
+void AddUnsent(const std::vector<Memory> &memories,
                const RecordedSending &recorded, Report *report) {
-  if (remembered.empty()) return;
-  if (!recorded.AnyAttached()) {
-    report->text += "No mixer is attached; when one is attached, run: " +
-                    Commands(remembered) + "\n";
+  const std::string all = ApplyCommands(memories);
+  if (all.empty() || recorded.AnyAttached()) {
+    report->text += WithCommand(FindUnsent(memories, recorded));
     return;
   }
-  report->text += WithCommand(FindUnsent(remembered, recorded));
+  report->text +=
+      "No mixer is attached; when one is attached, run: " + all + "\n";
 }
 
 Json UnsentField(Sending sending) {
@@ -82,8 +121,12 @@ Json UnsentField(Sending sending) {
       return "incomplete";
     case Sending::Replaced:
       return "replaced";
+    case Sending::Reset:
+      return "reset";
+    case Sending::DefaultNotSent:
+      return "default";
     case Sending::Complete:
-    case Sending::Forgotten:
+    case Sending::DefaultSent:
       break;
   }
   return nullptr;

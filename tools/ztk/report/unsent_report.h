@@ -2,38 +2,57 @@
 #ifndef ZTK_TOOLS_ZTK_REPORT_UNSENT_REPORT_H_
 #define ZTK_TOOLS_ZTK_REPORT_UNSENT_REPORT_H_
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "ztk/model/history/sendings.h"
-#include "ztk/model/resend.h"
 #include "ztk/report.h"
 
 namespace ztk::program {
 
-// The remembered values that the mixers may not have.
-struct Unsent {
-  // One for each reason, such as "Sent before a mixer was attached: Boost
-  // level".
-  std::vector<std::string> lines;
-  std::string command;  // the commands that send them, joined by semicolons
+// What is remembered for a channel of a setting.
+struct Memory {
+  const Setting *setting;
+  std::uint32_t channel;
+  std::optional<std::uint32_t> index;  // none: nothing is remembered
 };
-Unsent FindUnsent(const std::vector<StoredValue> &remembered,
+std::vector<Memory> MemoriesOf(const Setting &setting,
+                               const std::vector<std::uint32_t> &channels);
+// Of all settings of all models.
+std::vector<Memory> AllMemories();
+
+// The commands that send what is remembered; empty if nothing is.
+std::string ApplyCommands(const std::vector<Memory> &memories);
+
+// What the mixers may have instead.
+struct Unsent {
+  // One for each reason, such as "Not sent, or not to every mixer: Boost
+  // level", and its commands.
+  struct Line {
+    std::string text;
+    std::string command;
+  };
+  std::vector<Line> lines;
+  // The commands that end it, joined by semicolons; empty if there are none.
+  std::string command;
+};
+Unsent FindUnsent(const std::vector<Memory> &memories,
                   const RecordedSending &recorded);
 
 // These lines as one text.
 std::string TextOf(const Unsent &unsent);
 
-// These lines, and the command that sends the values; empty where there are
-// none.
+// These lines, and the command; empty if there are no lines.
 std::string WithCommand(const Unsent &unsent);
 
 // Adds these lines, and what to do about them; the same when no mixer is
 // attached.
-void AddUnsent(const std::vector<StoredValue> &remembered,
+void AddUnsent(const std::vector<Memory> &memories,
                const RecordedSending &recorded, Report *report);
 
-// "earlier", "incomplete", "replaced", or null for Sending::Complete.
+// "earlier", "incomplete", "replaced", "reset", "default" or null.
 Json UnsentField(Sending sending);
 
 }  // namespace ztk::program

@@ -53,7 +53,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
     report.text = Belonging(setting) + " ztk shows the remembered " +
                   (channels.size() == 1 ? "choice.\n" : "choices.\n");
   const std::string why = WarnOfUnreadable(setting, &report);
-  std::vector<StoredValue> values;
+  std::vector<Memory> memories;
   const RecordedSending recorded;
   for (const std::uint32_t channel : channels) {
     const auto index = CurrentIndex(setting, product, channel);
@@ -62,16 +62,14 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
                     "nothing can be read for the " + ProductName(product) +
                         ": " + Belonging(setting) + " Leave --product out");
     }
-    const bool remembered = Remembered(setting, channel).has_value();
-    if (remembered) {
-      values.push_back(
-          {.setting = &setting, .channel = channel, .index = *index});
-    }
+    const auto stored = Remembered(setting, channel);
+    const bool remembered = stored.has_value();
+    memories.push_back(
+        {.setting = &setting, .channel = channel, .index = stored});
     Json fields;
     AddValueFields(setting, channel, *index, &fields);
     fields["remembered"] = remembered;
-    fields["unsent"] = UnsentField(
-        remembered ? recorded.Of(setting, channel, *index) : Sending::Complete);
+    fields["unsent"] = UnsentField(recorded.Of(setting, channel, stored));
     report.fields["channels"].push_back(std::move(fields));
     report.text += PlaceName(setting, channel) + "  " +
                    DescribedValue(setting, channel, *index) +
@@ -79,7 +77,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
                     : why.empty() ? ", default: nothing is remembered\n"
                                   : ", default: the file cannot be read\n");
   }
-  if (!quiet) AddUnsent(values, recorded, &report);
+  if (!quiet) AddUnsent(memories, recorded, &report);
   if (&setting == &kInput && (!quiet || arguments.Has(Parameter::kJson))) {
     AddSilenceOf(channels, &report);
   }

@@ -68,7 +68,7 @@ Report ListChoices(const Setting &setting, const Arguments &arguments) {
     AddChoiceList(setting, product, channel, &report);
   }
   if (!arguments.Has(Parameter::kQuiet) && product == setting.product) {
-    AddUnsent(StoredValues(setting, channels), RecordedSending(), &report);
+    AddUnsent(MemoriesOf(setting, channels), RecordedSending(), &report);
   }
   return report;
 }

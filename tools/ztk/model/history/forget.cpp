@@ -77,9 +77,9 @@ ForgottenStep ForgetValues(const std::string &command,
     forgotten.push_back({.setting = value.setting,
                          .channel = value.channel,
                          .index = value.index,
-                         .sending = Sending::Forgotten});
+                         .sending = Sending::Reset});
   }
-  RecordSending(forgotten, {}, history);
+  RecordSending(forgotten, std::chrono::system_clock::now(), history);
   if (forgotten.empty()) recorded.TakeBack();
   return result;
 }

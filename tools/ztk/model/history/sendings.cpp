@@ -25,7 +25,9 @@ struct SendingWord {
 };
 constexpr SendingWord kWords[] = {{Sending::Complete, "complete"},
                                   {Sending::Incomplete, "incomplete"},
-                                  {Sending::Replaced, "replaced"}};
+                                  {Sending::Replaced, "replaced"},
+                                  {Sending::Reset, "reset"},
+                                  {Sending::DefaultNotSent, "default"}};
 
 std::int64_t Milliseconds(SystemTime time) {
   return std::chrono::duration_cast<std::chrono::milliseconds>(
@@ -97,7 +99,7 @@ void Write(const std::vector<LastSending> &sendings, SystemTime started) {
       return record.last.setting == one.setting &&
              record.last.channel == one.channel;
     });
-    if (one.sending == Sending::Forgotten) continue;
+    if (one.sending == Sending::DefaultSent) continue;
     records.push_back({.last = one, .milliseconds = Milliseconds(started)});
   }
   std::string text;
@@ -117,13 +119,15 @@ std::vector<LastSending> SendingsOf(const MadeChanges &made) {
   std::vector<LastSending> sendings;
   for (const MadeChange &one : made.changes) {
     if (!one.remembered && !one.forgotten) continue;
-    sendings.push_back(
-        {.setting = one.change.setting,
-         .channel = one.change.channel,
-         .index = one.change.index,
-         .sending = one.forgotten
-                        ? Sending::Forgotten
-                        : SendingTo(one.accepted, made.reach.found())});
+    Sending sending = SendingTo(one.accepted, made.reach.found());
+    if (one.forgotten) {
+      sending = sending == Sending::Complete ? Sending::DefaultSent
+                                             : Sending::DefaultNotSent;
+    }
+    sendings.push_back({.setting = one.change.setting,
+                        .channel = one.change.channel,
+                        .index = one.change.index,
+                        .sending = sending});
   }
   return sendings;
 }
@@ -148,28 +152,35 @@ const std::vector<std::string> &RecordedSending::Places() const {
   return *places_;
 }
 
-std::int64_t RecordedSending::LastAttached() const {
-  if (lastAttached_) return *lastAttached_;
-  lastAttached_ = 0;
+const RecordedSending::Attached &RecordedSending::WhenAttached() const {
+  if (attached_) return *attached_;
+  std::vector<std::int64_t> times;
   for (const std::string &place : Places()) {
     const auto since = AttachedSince(place);
-    if (since) lastAttached_ = std::max(*lastAttached_, Milliseconds(*since));
+    times.push_back(since ? Milliseconds(*since) : 0);
   }
-  return *lastAttached_;
+  attached_.emplace();
+  if (times.empty()) return *attached_;
+  const auto [first, last] = std::minmax_element(times.begin(), times.end());
+  attached_ = {.first = *first, .last = *last};
+  return *attached_;
 }
 
 Sending RecordedSending::Of(const Setting &setting, std::uint32_t channel,
-                            std::uint32_t index) const {
+                            std::optional<std::uint32_t> remembered) const {
   if (!records_) records_ = ReadRecords();
-  for (const SendingRecord &record : *records_) {
-    const LastSending &last = record.last;
-    if (last.setting != &setting || last.channel != channel ||
-        last.index != index) {
-      continue;
+  for (const auto &[last, milliseconds] : *records_) {
+    if (last.setting != &setting || last.channel != channel) continue;
+    const bool isUnremembered = last.sending == Sending::Reset ||
+                                last.sending == Sending::DefaultNotSent;
+    if (isUnremembered && !remembered) {
+      return WhenAttached().first > milliseconds ? Sending::Complete
+                                                 : last.sending;
     }
+    if (isUnremembered || last.index != remembered) continue;
     if (last.sending != Sending::Complete) return last.sending;
-    return LastAttached() > record.milliseconds ? Sending::Earlier
-                                                : Sending::Complete;
+    return WhenAttached().last > milliseconds ? Sending::Earlier
+                                              : Sending::Complete;
   }
   return Sending::Complete;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The remembered values that the mixers may not have. A mixer cannot be asked
-// for its choice, so this program records what it has sent, and when.
+// What the mixers may have instead of what is remembered. A mixer cannot be
+// asked for its choice, so this program records what it has sent, and when.
 #ifndef ZTK_TOOLS_ZTK_MODEL_HISTORY_SENDINGS_H_
 #define ZTK_TOOLS_ZTK_MODEL_HISTORY_SENDINGS_H_
 
@@ -22,11 +22,15 @@ enum class Sending : std::uint8_t {
   Earlier,     // as Complete, but a mixer was attached afterwards
   Incomplete,  // no mixer was attached, or one has not accepted the value
   Replaced,  // afterwards, a mixer has accepted a value that is not remembered
-  Forgotten  // nothing is remembered any longer
+  // Nothing is remembered any longer, and
+  Reset,           // nothing was sent
+  DefaultNotSent,  // not each mixer has accepted the default
+  DefaultSent      // each mixer has accepted it
 };
 
-// What this program sent last to a channel of a setting that has this
-// remembered value.
+// What this program sent last to a channel of a setting. `index` is the
+// remembered value; if nothing is remembered, the default, or for Reset what
+// was remembered before.
 struct LastSending {
   const Setting *setting = nullptr;
   std::uint32_t channel = 0;
@@ -59,19 +63,25 @@ class RecordedSending {
   explicit RecordedSending(std::vector<std::string> places);
 
   // Complete when the value has changed since: another program has set it.
-  // Never Forgotten.
+  // Without a remembered value: Reset, DefaultNotSent or Complete. Complete
+  // also when each mixer was attached afterwards, because it has its defaults
+  // then.
   Sending Of(const Setting &setting, std::uint32_t channel,
-             std::uint32_t index) const;
+             std::optional<std::uint32_t> remembered) const;
   bool AnyAttached() const { return !Places().empty(); }
 
  private:
   const std::vector<std::string> &Places() const;
-  // When the newest mixer was attached; 0 if that is not known.
-  std::int64_t LastAttached() const;
+  // When the first and the last mixer were attached; 0 if that is not known.
+  struct Attached {
+    std::int64_t first = 0;
+    std::int64_t last = 0;
+  };
+  const Attached &WhenAttached() const;
 
   mutable std::optional<std::vector<std::string>> places_;
   mutable std::optional<std::vector<SendingRecord>> records_;
-  mutable std::optional<std::int64_t> lastAttached_;
+  mutable std::optional<Attached> attached_;
 };
 
 }  // namespace ztk::model
