@@ -187,7 +187,9 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
        "--json, --quiet, --help, --version; see ztk status --help\n"},
       {"apply --product VRM-Z1",
        "ztk: no model \"VRM-Z1\"; accepted, by number or "
-       "name: 0 VRM-Q8X, 1 "
+       "name: 1 VRM-K2, 8 VRM-B5, 10 VRM-D6; see ztk models\n"},
+      {"boost get --product VRM-Z1",
+       "ztk: no model \"VRM-Z1\"; accepted, by number or name: 0 VRM-Q8X, 1 "
        "VRM-K2, 2 VRM-Q8S, 3 VRC-H7, 4 VRM-Q9, 5 VRM-L4, 6 VRM-E3, 8 VRM-B5, "
        "10 VRM-D6; see ztk models\n"},
       {"import",

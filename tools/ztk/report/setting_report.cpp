@@ -125,11 +125,16 @@ std::vector<Choice> ServedChoices(const Setting &setting, std::uint32_t product,
   return choices;
 }
 
-std::uint32_t ParseProduct(const std::string &word) {
+std::uint32_t ParseProduct(const std::string &word,
+                           const std::vector<std::string> &offered) {
   if (const auto id = FindProduct(word)) return *id;
   std::vector<std::string> names;
   std::vector<std::string> accepted;
   for (const Product &product : Products()) {
+    if (!offered.empty() && std::find(offered.begin(), offered.end(),
+                                      product.name) == offered.end()) {
+      continue;
+    }
     names.emplace_back(product.name);
     accepted.push_back(std::to_string(product.id) + " " + product.name);
   }

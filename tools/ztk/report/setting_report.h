@@ -53,9 +53,10 @@ std::string NearestChoice(const std::string &words,
 std::vector<Choice> ServedChoices(const Setting &setting, std::uint32_t product,
                                   std::uint32_t channel);
 
-// The number of the model that follows --product. Throws a Failure that lists
-// the models where there is no such model.
-std::uint32_t ParseProduct(const std::string &word);
+// The number of the model that follows --product. If there is no such model,
+// throws a Failure that lists the offered models, or all if none are given.
+std::uint32_t ParseProduct(const std::string &word,
+                           const std::vector<std::string> &offered = {});
 
 // Adds "channel" (null for a setting without channels), "number" and "text"
 // (both null if the value is not a choice) and "value", the index in the

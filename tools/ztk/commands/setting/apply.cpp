@@ -240,7 +240,7 @@ Report ApplyAll(const Arguments &arguments) {
                   "--all and --product cannot be used together; leave one out");
   }
   if (word != nullptr) {
-    const std::uint32_t product = ParseProduct(*word);
+    const std::uint32_t product = ParseProduct(*word, ModelNames());
     RequireSettings(product);
     return Apply(ValuesOf(product), "the " + ProductName(product),
                  "ztk apply --product " + ProductName(product), arguments);
