@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The facts of the warning texts.
+// Where the warning texts are, their keys, and the models, channels and
+// languages that have them.
 #ifndef ZTK_API_WARNING_TEXT_H_
 #define ZTK_API_WARNING_TEXT_H_
 
@@ -11,19 +12,21 @@
 
 namespace ztk::warning_text {
 
+// The models that have warning texts.
 inline constexpr ProductSet kServed{ZTK_PRODUCT_VRM_D6};
 // Deliberate: the fifth channel has no input selector, so there is no text for
 // it although it can be set.
 inline constexpr std::int32_t kChannels = 4;
 
-// The bundle that holds the texts, on newer and on older systems.
+// The bundle that holds the texts; IsInstalledInLibrary() selects the first.
 inline const ZTKTextRef kNewBundle =
     ZTK_TEXT("/Library/Frameworks/VRM-D6Setup.framework");
 inline const ZTKTextRef kOldBundle =
     ZTK_TEXT("/System/Library/Frameworks/VRM-D6Setup.framework");
 inline const ZTKTextRef kTable = ZTK_TEXT("Localizable");
 
-// Keys of the texts.
+// Keys of the texts: no mixer is attached; the input selector has to be turned;
+// the same, when the computer is connected to the other USB port of the mixer.
 inline const ZTKTextRef kNoMixer = ZTK_TEXT("WARNING1");
 inline const ZTKTextRef kSelector = ZTK_TEXT("WARNING2");
 inline const ZTKTextRef kSelectorOtherPort = ZTK_TEXT("WARNING3");

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Writes the record that ZTKOutcome.h describes. Each function changes the
-// record of the calling thread; none of them allocates or fails. Only
-// ZTK_GetLastOutcome() reads the record.
+// record of the calling thread; none of them allocates or fails. Programs read
+// the record with ZTK_GetLastOutcome().
 #ifndef ZTK_OUTCOME_OUTCOME_H_
 #define ZTK_OUTCOME_OUTCOME_H_
 
@@ -17,7 +17,8 @@ namespace ztk::outcome {
 // stores, reads or announces something.
 void Begin();
 
-// Records the number of mixers. A call of the library counts them once.
+// Records the number of mixers and clears their entries. So a call of the
+// library does this once, before its requests.
 void RecordMixersFound(std::int32_t count);
 
 enum class Direction { Write, Read };
@@ -31,7 +32,8 @@ void RecordOpenFailure(std::int32_t position, Direction direction,
 void RecordRequest(std::int32_t position, Direction direction,
                    platform::usb::Result result, std::uint32_t length);
 
-// `result` is one of the ZTK_FILE_ constants. The last result of a call counts.
+// `result` is one of the ZTK_FILE_ constants. If a call of the library reads or
+// stores several times, the record keeps the last result.
 void RecordFileRead(std::uint32_t result, std::int32_t systemCode = 0);
 void RecordFileStored(std::uint32_t result, std::int32_t systemCode = 0);
 

@@ -30,8 +30,8 @@ TEST_F(Help, TellsTheExitCodes) {
         "3  no mixer is attached, or none has accepted", "4  rejected",
         "5  another error", "6  some mixers accepted",
         "7  sent, but not remembered",
-        "\n  130  interrupted by Ctrl-C; ztk watch ends with status 0 "
-        "instead, or with 5\n       without a message bus\n",
+        "\n  130  interrupted by Ctrl-C. Exception: Ctrl-C ends ztk watch "
+        "with 0, or with 5\n       if there was no message bus\n",
         "\nExamples:\n  ztk status\n",
         "\n  ztk input set 2 \"post ch2 fader\"\n",
         "USB output audio of the VRM-B5"}) {

@@ -47,8 +47,8 @@ constexpr ExitMeaning kExitMeanings[] = {
          "sent, but not remembered: the settings file could not be changed"},
     {.exit = ExitCode::Interrupted,
      .word = "interrupted",
-     .text = "interrupted by Ctrl-C; ztk watch ends with status 0 instead, or\n"
-             "with 5 without a message bus"}};
+     .text = "interrupted by Ctrl-C. Exception: Ctrl-C ends ztk watch with 0,\n"
+             "or with 5 if there was no message bus"}};
 
 // Accepts text that is not UTF-8, because a user may type anything.
 std::string Dump(const Json &json) {

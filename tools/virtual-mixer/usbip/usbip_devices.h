@@ -29,10 +29,12 @@ class Devices {
   ImportStatus Import(std::size_t device, Lease *lease);
   void GiveBack(const Lease &lease);
   bool Holds(const Lease &lease) const { return bus_.IsValid(lease); }
-  // Stays as it is for the whole time of the lease.
+  // Describes a device to a client. Its bus id and its descriptors do not
+  // change while it is lent.
   Export Describe(std::size_t device);
 
-  // Gone once the lease has ended.
+  // Answers a request of the client. The status of the answer is Gone when the
+  // lease has ended.
   Answer Handle(const Lease &lease, const ControlRequest &request) {
     return bus_.Handle(lease, request);
   }

@@ -93,12 +93,14 @@ cli::Command MakeImport() {
 }
 
 cli::Command MakeApply() {
-  cli::Command command = MakeGeneral(
-      "apply",
-      "Send the remembered settings of the VRM-D6 again or, if there are none, "
-      "those of its sister models; with --all, those of every model",
-      "A setting without a remembered value is not sent.", "ztk apply",
-      ApplyAll);
+  cli::Command command =
+      MakeGeneral("apply",
+                  "Send the remembered settings again: those of the VRM-D6 or, "
+                  "if nothing is "
+                  "remembered for it, those of its sister models; --all: those "
+                  "of all models",
+                  "A setting without a remembered value is not sent.",
+                  "ztk apply", ApplyAll);
   command.options = {
       {.names = Parameter::kProduct,
        .value = "MODEL",

@@ -37,8 +37,8 @@ std::vector<std::uint32_t> ChannelsFor(const Setting &setting,
                                        const Arguments &arguments);
 
 // Returns the given channel; 0 for a setting without channels. If no channel
-// was given, asks the user. Throws if standard input or output is not a
-// terminal, or with --json.
+// was given, asks the user; throws if that is not possible, because there is no
+// terminal or because of --json.
 std::uint32_t RequiredChannel(const Setting &setting,
                               const Arguments &arguments, const char *verb);
 
@@ -67,18 +67,19 @@ std::string WarnOfUnreadable(const Setting &setting, Report *report);
 // neither sent nor removed. `start` is the beginning of the message.
 void RequireReadable(const Setting &setting, const std::string &start);
 
-// Adds a warning if a mixer has accepted the value, but every attached mixer
-// reports another model than that of the setting.
+// Adds a warning if a mixer has accepted a value of a sister model, but every
+// attached mixer reports another model.
 void WarnOfOtherModel(const Setting &setting, const Reach &reach,
                       Report *report);
 
-// Records that mixers have accepted another value than the remembered one.
-// `index` is its index, or none for a value that is not a choice.
+// Call this after mixers have accepted a value that is not remembered: the
+// choice with this index, or none if the value is not a choice. If another
+// choice is remembered, records that the mixers do not have it any longer.
 void RecordReplaced(const Setting &setting, std::uint32_t channel,
                     std::optional<std::uint32_t> index);
 
-// The texts for a command that sends a value without remembering it. `command`
-// sends it once more.
+// The texts of the report about a value that is never remembered. `command` is
+// what the user is told to run again, such as "ztk input raw".
 DeliveryTexts NeverRemembered(const std::string &command);
 
 }  // namespace ztk::program

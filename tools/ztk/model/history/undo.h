@@ -13,9 +13,10 @@
 
 namespace ztk::model {
 
-// What undo does with one channel of a setting. When several steps have changed
+// What undo does with one channel of a setting. If several steps have changed
 // it, `past` goes from the value before the first step to the value after the
-// last one.
+// last one; if another program has changed it between them, there are two
+// items.
 struct UndoItem {
   PastChange past;
   enum class Action : std::uint8_t {
@@ -29,24 +30,27 @@ struct UndoItem {
 // nothing was remembered.
 std::uint32_t FormerIndex(const PastChange &change);
 
-// The settings file of the step that cannot be read, and the reason; empty when
-// all can be read. Without the file the current value is not known.
+// The first settings file that the step needs and that cannot be read, with the
+// reason; empty if all of them can be read. Without its file the current value
+// of a setting is not known.
 std::string WhyUnreadable(const Step &step);
 
 // What undo of the last `count` steps does, the last change first.
 std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
                                std::size_t count = 1);
 
-// True when no change of the step is in effect, because its command was
-// interrupted or all of it was taken back already.
+// True when no change of the step is in effect: its command was interrupted,
+// all of it was taken back already, or another program has put the former
+// values back.
 bool IsVoid(const Step &step);
 
-// Removes the last steps of the history that are void, as far as the settings
-// files can be read. Returns their number.
+// Removes void steps from the end of the history and returns their number.
+// Stops at the first step that is not void, or whose settings file cannot be
+// read.
 std::size_t DropVoidSteps(History *history);
 
-// The changes that restore the former values. When nothing was remembered
-// before, the default is sent, and nothing is remembered again.
+// The changes that restore the former values. Where nothing was remembered
+// before, the default is sent and nothing is remembered afterwards.
 std::vector<Change> ChangesOf(const std::vector<UndoItem> &items);
 
 struct UndoneSteps {
