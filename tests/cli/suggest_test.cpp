@@ -69,6 +69,22 @@ TEST(Nearest, IsNoGuess) {
   }
 }
 
+TEST(Nearest, PrefersWhatContainsMostOfTheWords) {
+  const struct {
+    const char *words;
+    const char *expected;
+  } rows[] = {
+      {"post fader foo", "Post CH2 Fader"}, {"post fadr", "Post CH2 Fader"},
+      {"post ch3 fader", "Post CH2 Fader"}, {"cross fadr A", "Cross Fader A"},
+      {"fader", "Cross Fader A"},           {"fo po fa", ""}};
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.words);
+    EXPECT_EQ(Nearest(row.words,
+                      {"Cross Fader A", "Post CH2 Fader", "Cross Fader B"}),
+              row.expected);
+  }
+}
+
 TEST(NearestAndAccepted, SaysWhatCanStandThere) {
   EXPECT_EQ(NearestAndAccepted("bost", {"input", "boost"}),
             "; nearest: boost; accepted: input, boost");

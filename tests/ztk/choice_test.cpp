@@ -81,6 +81,27 @@ TEST(FindChoice, FindsByAWordThatOnlyOneHas) {
             {"a number", kLevels, "10", "[]"}});
 }
 
+TEST(FindChoice, FindsByWordsThatOnlyOneHasInAnyOrder) {
+  CheckAll(
+      {{"not next to each other", kRouting, "post fader", "Post CH1 Fader (3)"},
+       {"no space", kRouting, "postfader", "Post CH1 Fader (3)"},
+       {"a dash", kRouting, "post-fader", "Post CH1 Fader (3)"},
+       {"dashes", kRouting, "post-ch1-fader", "Post CH1 Fader (3)"},
+       {"another order", kRouting, "fader post", "Post CH1 Fader (3)"},
+       {"beginnings", kRouting, "fad po", "Post CH1 Fader (3)"},
+       {"beginning at the end", kRouting, "postfad", "Post CH1 Fader (3)"},
+       {"after a slash", kRouting2, "line ch1", "CH1 CD/LINE (1)"},
+       {"a level", kLevels, "dB 10", "-10 dB (2)"},
+       {"several have them", kRouting, "fader cross",
+        "[Cross Fader A (4), Cross Fader B (5)]"},
+       {"the same word twice", kRouting, "post post", "[]"},
+       {"one more word", kRouting, "post fader x", "[]"},
+       {"a misspelled word", kRouting, "post fadr", "[]"},
+       {"inside a word", kRouting, "post ader", "[]"},
+       {"only a dash", kRouting, "-", "[]"},
+       {"a number and a sign", kLevels, "19-", "[]"}});
+}
+
 TEST(FindChoice, FindsWhatIsPrinted) {
   CheckAll({{"in a sentence", kLevels, "-10 dB (2)", "-10 dB (2)"},
             {"other letters", kRouting, "mic(6)", "MIC (6)"},

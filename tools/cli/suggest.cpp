@@ -60,6 +60,37 @@ std::size_t MostDifferences(const std::string &word, const std::string &text,
   return std::max<std::size_t>(std::min(word.size(), text.size()) / 3, 1);
 }
 
+// The number of words of three letters or more that are in the text. Shorter
+// words are in too many texts.
+std::size_t WordsIn(const std::string &words, const std::string &text) {
+  std::size_t count = 0;
+  std::string word;
+  for (const char character : words + ' ') {
+    if (character != ' ') {
+      word += LowerCase(character);
+      continue;
+    }
+    if (word.size() >= 3 && text.find(word) != std::string::npos) ++count;
+    word.clear();
+  }
+  return count;
+}
+
+// The only text that contains more of the words than every other text. Empty if
+// there is none.
+std::string WithMostWords(const std::string &words,
+                          const std::vector<std::string> &accepted) {
+  std::string best;
+  std::size_t most = 0;
+  for (const std::string &text : accepted) {
+    const std::size_t count = WordsIn(words, Folded(text));
+    if (count == most) best.clear();
+    if (count > most) best = text;
+    most = std::max(count, most);
+  }
+  return best;
+}
+
 std::string NearestPart(const std::string &nearest) {
   return nearest.empty() ? "" : "; nearest: " + nearest;
 }
@@ -70,7 +101,8 @@ std::string Nearest(const std::string &word,
                     const std::vector<std::string> &accepted) {
   const std::string wanted = Folded(word.substr(0, kLongestWord));
   if (wanted.size() < 2) return "";
-  std::string closest;
+  std::string closest = WithMostWords(word.substr(0, kLongestWord), accepted);
+  if (!closest.empty()) return closest;
   std::pair<std::size_t, std::size_t> least;
   for (const std::string &text : accepted) {
     const std::string folded = Folded(text);

@@ -10,11 +10,12 @@
 
 namespace ztk::cli {
 
-// Returns the accepted word that is most similar to `word`. `word` may be
-// similar to a part of it, or to the whole of it with a few letters missing,
-// added, replaced or swapped. Upper and lower case, spaces and dashes are
-// ignored. Returns an empty text if every accepted word differs too much, or if
-// `word` has fewer than two letters.
+// Returns the accepted word that contains more of the words in `word` than
+// every other one. If there is none, returns the accepted word that is most
+// similar to `word`. `word` may be similar to a part of it, or to the whole of
+// it with a few letters missing, added, replaced or swapped. Upper and lower
+// case, spaces and dashes are ignored. Returns an empty text if every accepted
+// word differs too much, or if `word` has fewer than two letters.
 std::string Nearest(const std::string &word,
                     const std::vector<std::string> &accepted);
 

@@ -58,6 +58,52 @@ std::vector<Choice> Containing(const std::vector<Choice> &choices,
   return found;
 }
 
+// The words of a text in lower case. Spaces, dashes and slashes separate words.
+std::vector<std::string> WordsOf(const std::string &text) {
+  std::vector<std::string> words(1);
+  for (const char character : text) {
+    if (IsSpace(character) || character == '-' || character == '/') {
+      if (!words.back().empty()) words.emplace_back();
+    } else {
+      words.back() += cli::LowerCase(character);
+    }
+  }
+  if (words.back().empty()) words.pop_back();
+  return words;
+}
+
+// Whether the typed words from `next` on are words of a text, in any order. A
+// typed word can be the beginning of a word, and several words without spaces
+// between them. `left` are the words of the text that are not used yet.
+bool AreWords(const std::vector<std::string> &typed, std::size_t next,
+              const std::vector<std::string> &left) {
+  if (next == typed.size()) return true;
+  for (std::size_t i = 0; i < left.size(); ++i) {
+    std::vector<std::string> others = left;
+    others.erase(others.begin() + static_cast<std::ptrdiff_t>(i));
+    if (left[i].starts_with(typed[next])) {
+      if (AreWords(typed, next + 1, others)) return true;
+    } else if (typed[next].starts_with(left[i])) {
+      std::vector<std::string> rest = typed;
+      rest[next].erase(0, left[i].size());
+      if (AreWords(rest, next, others)) return true;
+    }
+  }
+  return false;
+}
+
+// The choices whose text has all these words, in any order.
+std::vector<Choice> WithAllWords(const std::vector<Choice> &choices,
+                                 const std::string &words) {
+  std::vector<Choice> found;
+  const std::vector<std::string> typed = WordsOf(words);
+  if (typed.empty()) return found;
+  for (const Choice &choice : choices) {
+    if (AreWords(typed, 0, WordsOf(choice.text))) found.push_back(choice);
+  }
+  return found;
+}
+
 // Whether the words are the choice as it is printed: "MIC (6)", or "6  MIC" in
 // a list.
 bool IsPrinted(const Choice &choice, const std::string &words) {
@@ -65,9 +111,8 @@ bool IsPrinted(const Choice &choice, const std::string &words) {
          words == Folded(std::to_string(choice.number) + choice.text);
 }
 
-bool IsDigits(const std::string &words) {
-  return !words.empty() &&
-         words.find_first_not_of("0123456789") == std::string::npos;
+bool IsNumber(const std::string &words) {
+  return words.find_first_not_of("-0123456789") == std::string::npos;
 }
 
 }  // namespace
@@ -84,9 +129,10 @@ Match FindChoice(const std::vector<Choice> &choices, const std::string &words) {
   }
   std::vector<Choice> found = BeginningWith(choices, wanted, false);
   // A word that is only a number is always the number of a choice.
-  if (found.empty() && !IsDigits(wanted)) {
+  if (found.empty() && !IsNumber(wanted)) {
     found = BeginningWith(choices, wanted, true);
     if (found.empty()) found = Containing(choices, wanted);
+    if (found.empty()) found = WithAllWords(choices, words);
   }
   if (found.size() == 1) return {.choice = found.front(), .candidates = {}};
   return {.choice = std::nullopt, .candidates = std::move(found)};

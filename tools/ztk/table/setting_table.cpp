@@ -67,9 +67,9 @@ cli::Command MakeSet(const Setting &setting) {
   command.options.push_back(
       {.names = Parameter::kChoice,
        .value = "",
-       .description = "Number as listed, text, or a word of the text that no "
-                      "other choice has; if it is left out in a terminal, ztk "
-                      "asks for it",
+       .description = "Number as listed, text, or words of the text that no "
+                      "other choice has together; if it is left out in a "
+                      "terminal, ztk asks for it",
        .repeats = true,
        .fill = cli::Fill::Values,
        .values = [&setting](const Arguments &before, const std::string &begun) {
