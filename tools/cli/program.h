@@ -140,7 +140,7 @@ const Group *FindGroup(const Program &program, const std::string &name);
 std::vector<Value> NextWords(const Program &program, const std::string &path);
 
 // An option that offers these words, whatever stands before it. The function is
-// called by completions only.
+// called only for completions and for error messages.
 Option Offering(Option option, std::function<std::vector<Value>()> values);
 
 }  // namespace ztk::cli

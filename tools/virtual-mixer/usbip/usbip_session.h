@@ -31,7 +31,7 @@ class Session {
   // A client that has its device already.
   Session(Devices *devices, const Lease &lease)
       : devices_(devices), lease_(lease) {}
-  // Requests that still wait end as if the device had gone.
+  // Ends the requests that are still waiting as if the device had gone.
   ~Session();
   Session(const Session &) = delete;
   Session &operator=(const Session &) = delete;
@@ -45,7 +45,7 @@ class Session {
   // Time at which Continue has to be called next, if any.
   std::optional<Clock::time_point> NextDue() const;
 
-  // The bytes to be sent, and the call after some of them were sent.
+  // The bytes to be sent. Call Sent() after some of them were sent.
   const Bytes &Output() const { return output_; }
   void Sent(std::size_t count);
 
@@ -53,8 +53,8 @@ class Session {
 
   // No more is taken; the connection closes once the output has been sent.
   bool Ended() const { return ended_; }
-  // Ended, with nothing more to be sent: the client broke the protocol, its
-  // time is over, or its device has gone.
+  // Ended, with nothing more to be sent: the client broke the protocol or has
+  // too many waiting requests, its time is over, or its device has gone.
   bool Broken() const { return broken_; }
   // Nothing is read from a client that does not read its answers.
   bool WantsInput() const { return !ended_ && output_.size() < kMostOutput; }

@@ -16,8 +16,8 @@ namespace ztk::model {
 // The remembered values. Each file is read once, when it is first needed.
 class SettingsSnapshot {
  public:
-  // The integer in the settings file; none when it is missing, for which a
-  // getter of the library would return a default.
+  // The integer in the settings file, or none when it is missing. (A getter of
+  // the library would return a default then.)
   std::optional<std::uint32_t> Remembered(const Setting &setting,
                                           std::uint32_t channel);
 

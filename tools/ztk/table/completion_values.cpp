@@ -75,6 +75,14 @@ std::vector<cli::Value> ProductValues() {
   return values;
 }
 
+std::vector<cli::Value> ModelValues() {
+  std::vector<cli::Value> values;
+  for (const std::string &model : ModelNames()) {
+    values.push_back({.word = model, .meaning = "model"});
+  }
+  return values;
+}
+
 std::vector<cli::Value> SettingValues() {
   std::vector<cli::Value> values;
   for (const Setting *setting : AllSettings()) {

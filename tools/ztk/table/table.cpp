@@ -93,21 +93,20 @@ cli::Command MakeImport() {
 }
 
 cli::Command MakeApply() {
-  cli::Command command =
-      MakeGeneral("apply",
-                  "Send the remembered settings again: those of the VRM-D6 or, "
-                  "if nothing is "
-                  "remembered for it, those of its sister models; --all: those "
-                  "of all models",
-                  "A setting without a remembered value is not sent.",
-                  "ztk apply", ApplyAll);
+  cli::Command command = MakeGeneral(
+      "apply",
+      "Send the remembered settings again: those of the VRM-D6 or, "
+      "if nothing is remembered for it, those of its sister models; "
+      "--all: those of all models",
+      "A setting without a remembered value is not sent.", "ztk apply",
+      ApplyAll);
   command.options = {
       {.names = Parameter::kProduct,
        .value = "MODEL",
        .description = "Send only what is remembered for this model",
        .fill = cli::Fill::Values,
        .values = [](const Arguments &,
-                    const std::string &) { return ProductValues(); }},
+                    const std::string &) { return ModelValues(); }},
       {.names = Parameter::kAll,
        .value = "",
        .description = "Send what is remembered for every model"},

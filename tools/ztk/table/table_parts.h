@@ -29,7 +29,9 @@ std::vector<cli::Value> ChannelValues(const Setting &setting,
 std::vector<cli::Value> ChoiceValues(const Setting &setting,
                                      const Arguments &before,
                                      const std::string &begun);
+// All models, and those that have settings.
 std::vector<cli::Value> ProductValues();
+std::vector<cli::Value> ModelValues();
 std::vector<cli::Value> SettingValues();
 std::vector<cli::Value> LanguageValues();
 

@@ -92,7 +92,7 @@ Report SendRaw(const Setting &setting, const Arguments &arguments) {
   report.text = PlaceName(setting, channel) + ": " + raw.InWords() +
                 Sent(calls.acceptedLast(), calls.reach(), false) +
                 ", not remembered\n";
-  ReportReach(calls.reach(), NeverRemembered("ztk input raw"), &report);
+  ReportReach(calls.reach(), TextsIfNeverRemembered("ztk input raw"), &report);
   if (result == ZTK_WARNING) {
     ExplainWarning(channel, "this source", calls.reach(), &report);
   }

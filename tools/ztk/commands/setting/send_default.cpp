@@ -77,7 +77,7 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
   }
   report.fields["result"] = sent.result;
   report.fields["announced"] = sent.announced;
-  ReportReach(sent.calls.reach(), NeverRemembered("ztk output default"),
+  ReportReach(sent.calls.reach(), TextsIfNeverRemembered("ztk output default"),
               &report);
   WarnOfOtherModel(setting, sent.calls.reach(), &report);
   if (sent.announcementFailed) WarnOfFailedAnnouncement(&report);

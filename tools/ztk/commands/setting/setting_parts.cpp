@@ -92,9 +92,9 @@ std::string WarnOfUnreadable(const Setting &setting, Report *report) {
   return why;
 }
 
-void RequireReadable(const Setting &setting, const std::string &what) {
+void RequireReadable(const Setting &setting, const std::string &start) {
   const std::string why = WhyUnreadable(setting);
-  if (!why.empty()) throw Failure(ExitCode::Failed, what + why);
+  if (!why.empty()) throw Failure(ExitCode::Failed, start + why);
 }
 
 void WarnOfOtherModel(const Setting &setting, const Reach &reach,
@@ -120,6 +120,7 @@ void RecordReplaced(const Setting &setting, std::uint32_t channel,
                     std::optional<std::uint32_t> index) {
   const auto remembered = Remembered(setting, channel);
   if (!remembered || remembered == index) return;
+  // The record is about the remembered choice: the mixers lack it now.
   RecordSending({{.setting = &setting,
                   .channel = channel,
                   .index = *remembered,
@@ -127,7 +128,7 @@ void RecordReplaced(const Setting &setting, std::uint32_t channel,
                 {}, nullptr);
 }
 
-DeliveryTexts NeverRemembered(const std::string &command) {
+DeliveryTexts TextsIfNeverRemembered(const std::string &command) {
   return {.before = "", .again = "run " + command + " again"};
 }
 

@@ -80,7 +80,7 @@ void RecordReplaced(const Setting &setting, std::uint32_t channel,
 
 // The texts of the report about a value that is never remembered. `command` is
 // what the user is told to run again, such as "ztk input raw".
-DeliveryTexts NeverRemembered(const std::string &command);
+DeliveryTexts TextsIfNeverRemembered(const std::string &command);
 
 }  // namespace ztk::program
 
