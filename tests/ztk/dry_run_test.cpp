@@ -192,6 +192,36 @@ TEST_F(DryRun, LeavesOutMixersThatCannotBeOpened) {
               HasSubstr("no request, as no mixer is attached"));
 }
 
+TEST_F(DryRun, SaysWhereThereIsNoMessageBus) {
+  bus_.Stop();
+  EXPECT_THAT(OneMixer("ztk input set 2 post --dry-run").out,
+              EndsWith("\n  announced   USB input 2: Post CH2 Fader (3), to "
+                       "other programs, if there is a message bus\n"));
+}
+
+TEST_F(DryRun, GivesTheWarningAboutAnotherModelThatTheCommandGives) {
+  Remember("VRM-B5", {{"Input1", 2}});
+  const std::string warning =
+      "ztk: warning: USB output audio is a setting of the VRM-B5. The attached "
+      "mixer is a VRM-D6";
+  for (const char *command : {"ztk output set 2 aux", "ztk output apply 2",
+                              "ztk apply", "ztk output default 2"}) {
+    SCOPED_TRACE(command);
+    const Result dry = OneMixer(std::string(command) + " --dry-run");
+    EXPECT_EQ(LastLine(dry.err), warning);
+    EXPECT_EQ(dry.status, 0);
+    EXPECT_THAT(Requests(), IsEmpty());
+    EXPECT_EQ(LastLine(OneMixer(command).err), warning);
+    EXPECT_THAT(NoMixer(std::string(command) + " --dry-run").err, IsEmpty());
+  }
+  for (const char *command : {"ztk undo", "ztk import $DIR/club.json"}) {
+    SCOPED_TRACE(command);
+    OneMixer("ztk export > $DIR/club.json; ztk output set 2 1");
+    EXPECT_THAT(OneMixer(std::string(command) + " --dry-run").err, IsEmpty());
+    EXPECT_THAT(OneMixer(command).err, IsEmpty());
+  }
+}
+
 TEST_F(DryRun, OfResetSaysThatThereIsNothingToForget) {
   EXPECT_EQ(OneMixer("ztk reset --dry-run").out,
             "Nothing is remembered: nothing to forget.\n");

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "cli/strings.h"
+#include "ztk/system/bus_watch.h"
 
 namespace ztk::program {
 
@@ -110,11 +111,19 @@ void AddWrites(const Plan &plan, Report *report) {
   report->fields["writes"] = std::move(list);
 }
 
+// Whom an announcement reaches. On a system without a message bus nobody
+// receives it.
+const char *Receivers() {
+  model::BusWatch bus;
+  return bus.IsAlive() ? ", to other programs\n"
+                       : ", to other programs, if there is a message bus\n";
+}
+
 void AddAnnouncements(const Plan &plan, Report *report) {
   Json list = Json::array();
+  const char *receivers = plan.announcements().empty() ? "" : Receivers();
   for (const PlannedAnnouncement &announcement : plan.announcements()) {
-    report->text +=
-        "  announced   " + announcement.meaning + ", to other programs\n";
+    report->text += "  announced   " + announcement.meaning + receivers;
     Json numbers = Json::object();
     for (const auto &[key, value] : announcement.numbers) numbers[key] = value;
     list.push_back(

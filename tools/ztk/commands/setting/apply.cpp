@@ -65,6 +65,20 @@ void AddRefused(const std::vector<StoredValue> &settings, Report *report) {
                                  cli::Listed(refused) + "; " + remedy});
 }
 
+// Warns for each setting with a value for which `isSent` returns true.
+template <typename IsSent>
+void WarnOfOtherModels(const std::vector<StoredValue> &settings,
+                       const IsSent &isSent, std::size_t mixers,
+                       Report *report) {
+  for (const Setting *setting : AllSettings()) {
+    const bool sent = std::any_of(
+        settings.begin(), settings.end(), [&](const StoredValue &value) {
+          return value.setting == setting && isSent(value);
+        });
+    if (sent) WarnOfOtherModel(*setting, mixers, report);
+  }
+}
+
 Report ReportOfDryRun(std::vector<StoredValue> settings) {
   Plan plan;
   Report report;
@@ -78,18 +92,10 @@ Report ReportOfDryRun(std::vector<StoredValue> settings) {
   }
   ReportDryRun(plan, &report);
   AddRefused(settings, &report);
+  WarnOfOtherModels(
+      settings, [](const StoredValue &value) { return !value.refused; },
+      plan.mixersThatCanBeOpened(), &report);
   return report;
-}
-
-void WarnOfOtherModels(const std::vector<StoredValue> &settings,
-                       const Reach &reach, Report *report) {
-  for (const Setting *setting : AllSettings()) {
-    const bool sent = std::any_of(
-        settings.begin(), settings.end(), [setting](const StoredValue &value) {
-          return value.setting == setting && value.accepted > 0;
-        });
-    if (sent) WarnOfOtherModel(*setting, reach, report);
-  }
 }
 
 // Asks the mixers only when a value that was sent needs an input selector.
@@ -156,7 +162,9 @@ Report Apply(std::vector<StoredValue> settings, const std::string &what,
         &report);
   }
   AddRefused(settings, &report);
-  WarnOfOtherModels(settings, reach, &report);
+  WarnOfOtherModels(
+      settings, [](const StoredValue &value) { return value.accepted > 0; },
+      reach.answered(), &report);
   WarnOfSilence(settings, reach, &report);
   return report;
 }

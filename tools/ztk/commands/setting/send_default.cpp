@@ -20,6 +20,7 @@ Report PlanOfDefault(const Setting &setting, std::uint32_t product,
   Report report;
   AddSettingNames(setting, product, &report);
   ReportDryRun(plan, &report);
+  WarnOfOtherModel(setting, plan.mixersThatCanBeOpened(), &report);
   return report;
 }
 
@@ -79,7 +80,7 @@ Report SendDefault(const Setting &setting, const Arguments &arguments) {
   report.fields["announced"] = sent.announced;
   ReportReach(sent.calls.reach(), TextsIfNeverRemembered("ztk output default"),
               &report);
-  WarnOfOtherModel(setting, sent.calls.reach(), &report);
+  WarnOfOtherModel(setting, sent.calls.reach().answered(), &report);
   if (sent.announcementFailed) WarnOfFailedAnnouncement(&report);
   return report;
 }

@@ -55,6 +55,7 @@ Report PlanOfSet(const Change &change, const Choice &choice) {
   AddSettingNames(setting, change.product, &report);
   AddValueFields(setting, change.channel, change.index, &report.fields);
   ReportDryRun(plan, &report);
+  WarnOfOtherModel(setting, plan.mixersThatCanBeOpened(), &report);
   return report;
 }
 
@@ -88,7 +89,7 @@ Report SetChoice(const Setting &setting, const Arguments &arguments) {
                 &report);
   report.text = place + ": " + Described(choice) + Described(change, made) +
                 "\n" + NoteOnSendingAgain(wanted);
-  WarnOfOtherModel(setting, made.reach, &report);
+  WarnOfOtherModel(setting, made.reach.answered(), &report);
   if (change.result == ZTK_WARNING && change.selectorsKnown) {
     ExplainWarning(channel, Described(choice), made.reach, &report);
   }

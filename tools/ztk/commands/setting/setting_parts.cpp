@@ -97,9 +97,9 @@ void RequireReadable(const Setting &setting, const std::string &start) {
   if (!why.empty()) throw Failure(ExitCode::Failed, start + why);
 }
 
-void WarnOfOtherModel(const Setting &setting, const Reach &reach,
+void WarnOfOtherModel(const Setting &setting, std::size_t mixers,
                       Report *report) {
-  if (setting.product == kOwnProduct || reach.answered() == 0) return;
+  if (setting.product == kOwnProduct || mixers == 0) return;
   const std::vector<std::uint32_t> attached = AttachedProducts();
   if (attached.empty() || std::find(attached.begin(), attached.end(),
                                     setting.product) != attached.end()) {

@@ -67,9 +67,10 @@ std::string WarnOfUnreadable(const Setting &setting, Report *report);
 // neither sent nor removed. `start` is the beginning of the message.
 void RequireReadable(const Setting &setting, const std::string &start);
 
-// Adds a warning if a mixer has accepted a value of a sister model, but every
-// attached mixer reports another model.
-void WarnOfOtherModel(const Setting &setting, const Reach &reach,
+// Adds a warning if a value of a sister model is sent, but every attached mixer
+// reports another model. `mixers` is the number of mixers that have accepted a
+// value or, in a dry run, that can be opened.
+void WarnOfOtherModel(const Setting &setting, std::size_t mixers,
                       Report *report);
 
 // Call this after mixers have accepted a value that is not remembered: the
