@@ -69,8 +69,8 @@ std::int32_t IntegerFromText(std::string_view text) {
   if (negative || text.starts_with('+')) {
     text = WithoutLeadingSpace(text.substr(1));
   }
-  // This limit is one more than the highest result, so the magnitude cannot
-  // overflow.
+  // The magnitude is cut at this limit in each step, so that it cannot
+  // overflow. The limit is the magnitude of the lowest result.
   constexpr std::int64_t kMagnitudeLimit = std::int64_t{kHighest} + 1;
   std::int64_t magnitude = 0;
   for (const char digit : text) {

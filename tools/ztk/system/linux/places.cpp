@@ -87,8 +87,8 @@ Access TryToOpen(const std::string &place) {
     if (place != facts.entry) continue;
     const std::string node = NodeOf(facts);
     if (node.empty()) return vanished;
-    // The sandbox of ztk-virtual-mixer loses a descriptor of this process with
-    // each open() that fails.
+    // In the sandbox of ztk-virtual-mixer, each open() that fails leaks a file
+    // descriptor of this process, so access() is called first.
     if (access(node.c_str(), R_OK | W_OK) != 0) {
       return {.obstacle = ObstacleOf(errno),
               .node = node,
