@@ -42,9 +42,10 @@ TEST_F(Terminal, MakesTheCurrentChoiceStandOut) {
 TEST_F(Terminal, ShowsWhatIsChosenWithoutACommand) {
   Remember("VRM-D6", {{"Output1", 2}});
   const std::string shown = Shown("ztk; echo =$?", 80);
-  EXPECT_THAT(shown, StartsWith("1 mixer is attached.\n\n"
-                                "USB input audio of the VRM-D6, as remembered\n"
-                                "  USB input 1        CH1 "));
+  EXPECT_THAT(
+      shown, StartsWith("1 mixer is attached.\n\n"
+                        "USB input audio of the VRM-D6, remembered or default\n"
+                        "  USB input 1        CH1 "));
   EXPECT_THAT(shown, HasSubstr("\n  USB input 2        Post CH2 Fader (3)\n"));
   EXPECT_THAT(shown, HasSubstr(", default\n"));
   EXPECT_THAT(shown, HasSubstr("\nNext:\n  ztk input set "));

@@ -56,10 +56,10 @@ void WriteError(const std::string &line) {
 void WriteLineEnd() { WriteTo(STDERR_FILENO, "\n"); }
 
 int Print(const std::string &command, const Report &report, const Form &form) {
-  bool written = true;
+  bool succeeded = true;
   int error = 0;
   if (!report.written || (form.json && report.problem)) {
-    written = WriteOutput(
+    succeeded = WriteOutput(
         form.json ? JsonLine(command, report) + "\n"
         : form.quiet && !report.isAnswer
             ? std::string()
@@ -73,7 +73,7 @@ int Print(const std::string &command, const Report &report, const Form &form) {
   }
   for (const std::string &line : report.errors) WriteError(line);
   if (report.problem) WriteError(report.problem->message);
-  if (!written) {
+  if (!succeeded) {
     // A reader that has ended, such as head, does not want the rest.
     if (error != EPIPE) {
       WriteError(std::string("cannot write the output: ") +

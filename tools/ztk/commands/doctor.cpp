@@ -81,7 +81,7 @@ std::string Summary(std::size_t problems, std::size_t notes) {
 Findings NotesOnUnsent() {
   const RecordedSending recorded;
   if (!recorded.AnyAttached()) return {};
-  const Unsent unsent = FindUnsent(AllMemories(), recorded);
+  const Unsent unsent = FindUnsent(AllRememberedChoices(), recorded);
   Findings notes;
   for (const Unsent::Line &line : unsent.lines) {
     if (line.command.empty()) continue;

@@ -40,14 +40,15 @@ std::string ChoicesNow(const Setting &setting, SettingsSnapshot *settings) {
 Report ShowOverview(const Arguments & /*arguments*/) {
   Report report;
   SettingsSnapshot settings;
-  const std::vector<std::string> places = MixerPlaces();
-  report.text = Attached(places.size());
+  const std::vector<std::string> mixerPlaces = MixerPlaces();
+  report.text = Attached(mixerPlaces.size());
   for (const Setting *setting : AllSettings()) {
     report.text += "\n" + std::string(setting->title) + " of the " +
-                   ModelName(*setting) + ", as remembered\n" +
+                   ModelName(*setting) + ", remembered or default\n" +
                    ChoicesNow(*setting, &settings);
   }
-  const Unsent unsent = FindUnsent(AllMemories(), RecordedSending(places));
+  const Unsent unsent =
+      FindUnsent(AllRememberedChoices(), RecordedSending(mixerPlaces));
   if (!unsent.lines.empty()) report.text += "\n" + WithCommand(unsent);
   report.text +=
       "\n"

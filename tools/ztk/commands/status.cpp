@@ -185,7 +185,7 @@ std::string TextOf(const Mixers &mixers, bool verbose) {
 
 // What the settings files hold.
 struct Remembrance {
-  std::vector<Memory> memories;
+  std::vector<RememberedChoice> choices;
   bool unreadable = false;  // one of the files cannot be read
 };
 
@@ -216,7 +216,7 @@ std::string StuckMixers(const Mixers &mixers) {
 std::string NextStep(const Mixers &mixers, const Remembrance &remembered,
                      const std::string &apply) {
   // A mixer that was switched off has lost its settings.
-  const std::string all = ApplyCommands(remembered.memories);
+  const std::string all = ApplyCommands(remembered.choices);
   const std::string doctor = (all.empty() ? "" : ", then run " + all) +
                              "; if that does not help, run ztk doctor\n";
   if (mixers.empty()) {
@@ -280,7 +280,7 @@ Remembrance AddRemembered(const RecordedSending &recorded, Report *report) {
     for (std::uint32_t channel = 0; channel < ChannelsToWalk(*setting);
          ++channel) {
       const auto index = settings.Remembered(*setting, channel);
-      remembered.memories.push_back(
+      remembered.choices.push_back(
           {.setting = setting, .channel = channel, .index = index});
       if (!index) continue;
       Json fields = ValueFields(*setting, channel, *index);
@@ -311,7 +311,7 @@ Report ShowStatus(const Arguments &arguments) {
   const Mixers mixers = AddMixers(arguments.Has(Parameter::kVerbose), &report);
   const RecordedSending recorded(PlacesOf(mixers));
   const Remembrance remembered = AddRemembered(recorded, &report);
-  const Unsent unsent = FindUnsent(remembered.memories, recorded);
+  const Unsent unsent = FindUnsent(remembered.choices, recorded);
   report.text += TextOf(unsent);
   AddSilence(FindSilentRoutings(mixers), mixers.size() > 1, &report);
   if (!arguments.Has(Parameter::kQuiet)) {

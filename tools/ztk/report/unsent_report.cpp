@@ -11,17 +11,17 @@ namespace ztk::program {
 namespace {
 
 // The command that sends the choice; empty if nothing has to be sent.
-std::string CommandFor(const Memory &memory, Sending sending) {
+std::string CommandFor(const RememberedChoice &choice, Sending sending) {
   if (sending == Sending::Reset) return "";
-  if (memory.index) {
-    return ApplyCommand(*memory.setting, memory.channel, *memory.index);
+  if (choice.index) {
+    return ApplyCommand(*choice.setting, choice.channel, *choice.index);
   }
   return DefaultCommand(
-      {.setting = memory.setting,
-       .product = memory.setting->product,
-       .channel = memory.channel,
-       .index = CurrentIndex(*memory.setting, memory.setting->product,
-                             memory.channel)
+      {.setting = choice.setting,
+       .product = choice.setting->product,
+       .channel = choice.channel,
+       .index = CurrentIndex(*choice.setting, choice.setting->product,
+                             choice.channel)
                     .value_or(0)});
 }
 
@@ -39,47 +39,47 @@ constexpr Reason kReasons[] = {
 
 }  // namespace
 
-std::vector<Memory> MemoriesOf(const Setting &setting,
-                               const std::vector<std::uint32_t> &channels) {
+std::vector<RememberedChoice> RememberedChoicesOf(
+    const Setting &setting, const std::vector<std::uint32_t> &channels) {
   SettingsSnapshot settings;
-  std::vector<Memory> memories;
+  std::vector<RememberedChoice> choices;
   for (const std::uint32_t channel : channels) {
-    memories.push_back({.setting = &setting,
-                        .channel = channel,
-                        .index = settings.Remembered(setting, channel)});
+    choices.push_back({.setting = &setting,
+                       .channel = channel,
+                       .index = settings.Remembered(setting, channel)});
   }
-  return memories;
+  return choices;
 }
 
-std::vector<Memory> AllMemories() {
-  std::vector<Memory> memories;
+std::vector<RememberedChoice> AllRememberedChoices() {
+  std::vector<RememberedChoice> choices;
   for (const Setting *setting : AllSettings()) {
-    const auto some = MemoriesOf(*setting, AllChannels(*setting));
-    memories.insert(memories.end(), some.begin(), some.end());
+    const auto some = RememberedChoicesOf(*setting, AllChannels(*setting));
+    choices.insert(choices.end(), some.begin(), some.end());
   }
-  return memories;
+  return choices;
 }
 
-std::string ApplyCommands(const std::vector<Memory> &memories) {
+std::string ApplyCommands(const std::vector<RememberedChoice> &choices) {
   std::vector<std::string> commands;
-  for (const auto &[setting, channel, index] : memories) {
+  for (const auto &[setting, channel, index] : choices) {
     if (index) commands.push_back(ApplyCommand(*setting, channel, *index));
   }
   return Joined(commands);
 }
 
-Unsent FindUnsent(const std::vector<Memory> &memories,
+Unsent FindUnsent(const std::vector<RememberedChoice> &choices,
                   const RecordedSending &recorded) {
   Unsent unsent;
   std::vector<std::string> all;
   for (const Reason &reason : kReasons) {
     std::vector<std::string> names;
     std::vector<std::string> commands;
-    for (const Memory &memory : memories) {
-      const auto &[setting, channel, index] = memory;
+    for (const RememberedChoice &choice : choices) {
+      const auto &[setting, channel, index] = choice;
       if (recorded.Of(*setting, channel, index) != reason.sending) continue;
       names.push_back(PlaceName(*setting, channel));
-      const std::string command = CommandFor(memory, reason.sending);
+      const std::string command = CommandFor(choice, reason.sending);
       if (!command.empty()) commands.push_back(command);
     }
     if (names.empty()) continue;
@@ -102,11 +102,11 @@ std::string WithCommand(const Unsent &unsent) {
   return TextOf(unsent) + "To send it, run: " + unsent.command + "\n";
 }
 
-void AddUnsent(const std::vector<Memory> &memories,
+void AddUnsent(const std::vector<RememberedChoice> &choices,
                const RecordedSending &recorded, Report *report) {
-  const std::string all = ApplyCommands(memories);
+  const std::string all = ApplyCommands(choices);
   if (all.empty() || recorded.AnyAttached()) {
-    report->text += WithCommand(FindUnsent(memories, recorded));
+    report->text += WithCommand(FindUnsent(choices, recorded));
     return;
   }
   report->text +=

@@ -13,18 +13,18 @@
 namespace ztk::program {
 
 // What is remembered for a channel of a setting.
-struct Memory {
+struct RememberedChoice {
   const Setting *setting;
   std::uint32_t channel;
   std::optional<std::uint32_t> index;  // none: nothing is remembered
 };
-std::vector<Memory> MemoriesOf(const Setting &setting,
-                               const std::vector<std::uint32_t> &channels);
+std::vector<RememberedChoice> RememberedChoicesOf(
+    const Setting &setting, const std::vector<std::uint32_t> &channels);
 // Of all settings of all models.
-std::vector<Memory> AllMemories();
+std::vector<RememberedChoice> AllRememberedChoices();
 
 // The commands that send what is remembered; empty if nothing is.
-std::string ApplyCommands(const std::vector<Memory> &memories);
+std::string ApplyCommands(const std::vector<RememberedChoice> &choices);
 
 // What the mixers may have instead.
 struct Unsent {
@@ -38,7 +38,7 @@ struct Unsent {
   // The commands that end it, joined by semicolons; empty if there are none.
   std::string command;
 };
-Unsent FindUnsent(const std::vector<Memory> &memories,
+Unsent FindUnsent(const std::vector<RememberedChoice> &choices,
                   const RecordedSending &recorded);
 
 // These lines as one text.
@@ -49,7 +49,7 @@ std::string WithCommand(const Unsent &unsent);
 
 // Adds these lines, and what to do about them; the same when no mixer is
 // attached.
-void AddUnsent(const std::vector<Memory> &memories,
+void AddUnsent(const std::vector<RememberedChoice> &choices,
                const RecordedSending &recorded, Report *report);
 
 // "earlier", "incomplete", "replaced", "reset", "default" or null.

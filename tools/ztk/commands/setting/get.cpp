@@ -53,7 +53,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
     report.text = Belonging(setting) + " ztk shows the remembered " +
                   (channels.size() == 1 ? "choice.\n" : "choices.\n");
   const std::string why = WarnOfUnreadable(setting, &report);
-  std::vector<Memory> memories;
+  std::vector<RememberedChoice> choices;
   const RecordedSending recorded;
   for (const std::uint32_t channel : channels) {
     const auto index = CurrentIndex(setting, product, channel);
@@ -64,7 +64,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
     }
     const auto stored = Remembered(setting, channel);
     const bool remembered = stored.has_value();
-    memories.push_back(
+    choices.push_back(
         {.setting = &setting, .channel = channel, .index = stored});
     Json fields;
     AddValueFields(setting, channel, *index, &fields);
@@ -77,7 +77,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
                     : why.empty() ? ", default: nothing is remembered\n"
                                   : ", default: the file cannot be read\n");
   }
-  if (!quiet) AddUnsent(memories, recorded, &report);
+  if (!quiet) AddUnsent(choices, recorded, &report);
   if (&setting == &kInput && (!quiet || arguments.Has(Parameter::kJson))) {
     AddSilenceOf(channels, &report);
   }

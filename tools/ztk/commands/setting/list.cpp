@@ -68,7 +68,8 @@ Report ListChoices(const Setting &setting, const Arguments &arguments) {
     AddChoiceList(setting, product, channel, &report);
   }
   if (!arguments.Has(Parameter::kQuiet) && product == setting.product) {
-    AddUnsent(MemoriesOf(setting, channels), RecordedSending(), &report);
+    AddUnsent(RememberedChoicesOf(setting, channels), RecordedSending(),
+              &report);
   }
   return report;
 }

@@ -44,8 +44,8 @@ std::string RemoveRemembered(const Setting &setting, std::uint32_t channel) {
   const OwnedText key(
       platform::text::Format(setting.key, static_cast<std::int32_t>(channel)));
   plist::Change *change = plist::BeginChange(path.get());
-  // Another program may replace the file in between when the file cannot be
-  // locked.
+  // Without the lock, another program may replace the file between reading and
+  // writing. Then WriteAtomically() writes nothing and reports ESTALE.
   constexpr int kAttempts = 20;
   int error = ESTALE;
   for (int left = kAttempts; left > 0 && error == ESTALE; --left) {

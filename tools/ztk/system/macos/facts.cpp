@@ -25,13 +25,13 @@ const char *AutoapplyFact() {
          "Run ztk apply after plugging in.";
 }
 
-// The second number of the system's version decides in which folder the library
-// searches. Since macOS 11 this number is small again, so the library searches
-// a folder that only the system itself may use.
+// The library searches below /Library only if the second number of the system's
+// version is above 10, as in 10.15. Since macOS 11 it is small again (11.0), so
+// the library searches a folder that only the system itself may use.
 std::string WhyInstalledIsNotFound() {
   if (IsInstalledInLibrary()) return "";
-  return "by the version of this macOS the library looks below "
-         "/System/Library, where nothing can be installed; what is in "
+  return "because of the version number of this macOS, the library looks only "
+         "below /System/Library, where nothing can be installed; what is in "
          "/Library is not found";
 }
 
