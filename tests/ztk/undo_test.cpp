@@ -83,9 +83,9 @@ TEST_F(Undo, LeavesAloneWhatAnotherProgramHasChangedSince) {
   EXPECT_EQ(Line(result.out, 0), "4");
   EXPECT_THAT(
       Line(result.err, 0),
-      HasSubstr("not undone, because another program has changed it since: USB "
-                "input 1 is MIC (6); to restore the earlier value, run: ztk "
-                "input set 1 2"));
+      EndsWith("not undone, because another program has changed it since: USB "
+               "input 1 is MIC (6); ztk undo --list does not show it any more; "
+               "to restore the earlier state, run: ztk input set 1 2"));
   // Each call of undo handles one step only.
   EXPECT_THAT(Line(result.out, 1), HasSubstr("Boost level: -10 dB (2) undone"));
   EXPECT_EQ(Line(result.out, 2), "0");
@@ -233,6 +233,27 @@ TEST_F(Undo, SaysWhenTheSettingsAreGone) {
       OneMixer("ztk undo").out,
       "Nothing to undo: what ztk has changed is not in the settings files "
       "any more.\n");
+}
+
+TEST_F(Undo, NamesResetWhereNothingWasRememberedBefore) {
+  OneMixer("ztk input set 3 2; ztk boost set 2");
+  Remember("VRM-D6", {{"Output2", 5}, {"MaxLevel", 0}});
+  const Result result = OneMixer("ztk undo 2 --json");
+  EXPECT_EQ(result.status, 4);
+  EXPECT_EQ(OneObject(result.out).value("leftAlone", Json()),
+            Json({"Boost level is -5 dB (1), and nothing was remembered "
+                  "before; to restore the earlier state, run: ztk reset boost",
+                  "USB input 3 is MIC (6), and nothing was remembered before; "
+                  "to restore the earlier state, run: ztk reset input 3"}));
+  EXPECT_THAT(
+      OneObject(result.out)["error"].value("message", ""),
+      EndsWith("; to restore the earlier state, run: ztk reset boost; ztk "
+               "reset input 3"));
+  // The commands do what the sentence says.
+  EXPECT_EQ(
+      OneMixer("ztk reset boost | head -n 1; ztk reset input 3 | head -n 1")
+          .out,
+      "Boost level: -5 dB (1), forgotten\nUSB input 3: MIC (6), forgotten\n");
 }
 
 class Reset : public CliWorld {};
@@ -480,13 +501,13 @@ TEST_F(Undo, NamesTheCommandThatSendsTheDefaultAgain) {
   EXPECT_THAT(LastLine(result.out), StartsWith("Nothing is remembered"));
   EXPECT_EQ(Line(result.err, 0),
             "ztk: nothing is remembered, and the default was sent, but the "
-            "mixer refused it; switch it off and on again, then run: ztk input "
-            "set 2 1 (set also remembers the default)");
+            "mixer refused it; switch it off and on again, then run (set also "
+            "remembers the default): ztk input set 2 1");
   EXPECT_EQ(
       LastLine(NoMixer("ztk boost set 2; ztk undo").err),
       "ztk: nothing is remembered, and the default was not sent: no "
-      "mixer is attached; when one is attached, run: ztk boost set 4 (set also "
-      "remembers the default)");
+      "mixer is attached; when one is attached, run (set also remembers the "
+      "default): ztk boost set 4");
   OneMixer("ztk input set 2 1");
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0203 8002 0000"));
 }
@@ -520,7 +541,8 @@ TEST_F(Undo, WarnsThatARefusedStepIsRemovedFromTheList) {
       OneMixer("ztk undo --dry-run; ztk undo; echo $?; ztk undo --list");
   EXPECT_THAT(Line(result.err, 0), Not(HasSubstr("--list")));
   EXPECT_THAT(Line(result.err, 1),
-              testing::EndsWith("; ztk undo --list does not show it any more"));
+              EndsWith("; ztk undo --list does not show it any more; to "
+                       "restore the earlier state, run: ztk reset boost"));
   EXPECT_THAT(LastLine(result.out), StartsWith("Nothing to undo"));
 }
 

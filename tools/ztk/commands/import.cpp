@@ -135,8 +135,8 @@ Report MakeImported(const std::vector<Change> &changes,
   report.fields["settings"] = Json::array();
   const MadeChanges made = RunStep("import", changes, quiet, &report);
   for (const MadeChange &one : made.changes) AddImported(one, made, &report);
-  ReportOutcome(made, "the content of the file", SendingAgain(made, command),
-                &report);
+  ReportOutcome(made, "the content of the file",
+                "run: " + SendingAgain(made, command), &report);
   ExplainWarnings(made, &report);
   return report;
 }

@@ -76,7 +76,7 @@ void AddForgotten(const ForgottenStep &step, Report *report) {
   if (!why.empty()) {
     report->problem = {.exit = ExitCode::Failed,
                        .message = "not everything is forgotten: " + why +
-                                  "; run ztk doctor; it shows what to do"};
+                                  "; to find out what to do, run: ztk doctor"};
   }
 }
 

@@ -22,35 +22,61 @@ std::string ValueWords(const Setting &setting, std::uint32_t channel,
   return value ? DescribedValue(setting, channel, *value) : "forgotten";
 }
 
-// A sentence for each value that undo does not change, because another program
-// has set it since the change.
-std::vector<std::string> ForeignOnes(const std::vector<UndoItem> &undoings) {
-  std::vector<std::string> foreign;
+// A value that undo does not change, because another program has set it since
+// the change.
+struct ForeignValue {
+  std::string state;    // "USB input 3 is MIC (6)"
+  std::string command;  // restores what was remembered before
+};
+
+ForeignValue Foreign(const PastChange &past) {
+  const Setting &setting = *past.setting;
+  const auto now = Remembered(setting, past.channel);
+  ForeignValue value{
+      .state = PlaceName(setting, past.channel) + " is " +
+               (now ? DescribedValue(setting, past.channel, *now)
+                    : "not remembered any more"),
+      .command = SetCommand(setting, past.channel, FormerIndex(past))};
+  if (!past.before) {
+    value.state += ", and nothing was remembered before";
+    value.command = std::string("ztk reset ") + setting.name;
+    if (setting.channels != 0) {
+      value.command += " " + std::to_string(past.channel + 1);
+    }
+  }
+  return value;
+}
+
+std::vector<ForeignValue> ForeignOnes(const std::vector<UndoItem> &undoings) {
+  std::vector<ForeignValue> foreign;
   for (const UndoItem &undoing : undoings) {
     if (undoing.action != UndoItem::Action::LeaveAlone) continue;
-    const PastChange &past = undoing.past;
-    const auto now = Remembered(*past.setting, past.channel);
-    foreign.push_back(
-        PlaceName(*past.setting, past.channel) + " is " +
-        (now ? DescribedValue(*past.setting, past.channel, *now)
-             : "not remembered any more") +
-        "; to restore the earlier value, run: " +
-        SetCommand(*past.setting, past.channel, FormerIndex(past)));
+    foreign.push_back(Foreign(undoing.past));
   }
   return foreign;
 }
 
+constexpr char kRestoring[] = "; to restore the earlier state, run: ";
+
 // `dropped`: the history does not contain the step any more.
-void AddLeftAlone(const std::vector<std::string> &foreign, bool dropped,
+void AddLeftAlone(const std::vector<ForeignValue> &foreign, bool dropped,
                   Report *report) {
-  report->fields["leftAlone"] = foreign;
+  report->fields["leftAlone"] = Json::array();
+  std::vector<std::string> states;
+  std::vector<std::string> commands;
+  for (const auto &[state, command] : foreign) {
+    report->fields["leftAlone"].push_back(state + kRestoring + command);
+    states.push_back(state);
+    commands.push_back(command);
+  }
   if (foreign.empty()) return;
   report->SetProblem(
       {.exit = ExitCode::Rejected,
        .message =
            "not undone, because another program has changed it since: " +
-           cli::Listed(foreign) +
-           (dropped ? "; ztk undo --list does not show it any more" : "")});
+           cli::Listed(states) +
+           (dropped ? "; ztk undo --list does not show it any more" : "") +
+           kRestoring + Joined(commands)});
 }
 
 // "MIC (6) undone, "
@@ -158,8 +184,8 @@ bool NeedsSending(const MadeChange &one, const MadeChanges &made) {
          made.reach.found() == 0;
 }
 
-// The commands that send the restored values again: one for each model, and one
-// for each default, which apply does not know.
+// What the user is told to do to send the restored values again: a command for
+// each model, and one for each default, which apply does not know.
 std::string SendingAgain(const MadeChanges &made) {
   std::vector<std::string> commands;
   bool remembersDefault = false;
@@ -170,8 +196,9 @@ std::string SendingAgain(const MadeChanges &made) {
       commands.push_back(SendingAgain(one.change));
     }
   }
-  return Joined(commands) +
-         (remembersDefault ? " (set also remembers the default)" : "");
+  return (remembersDefault ? "run (set also remembers the default): "
+                           : "run: ") +
+         Joined(commands);
 }
 
 void ReportUndone(const MadeChanges &made,
@@ -193,7 +220,7 @@ void UndoLast(std::size_t count, bool dryRun, History *history,
               Report *report) {
   const std::vector<Step> &steps = history->steps();
   const std::vector<UndoItem> undoings = PlanUndo(steps, count);
-  const std::vector<std::string> foreign = ForeignOnes(undoings);
+  const std::vector<ForeignValue> foreign = ForeignOnes(undoings);
   const std::vector<Change> changes = ChangesOf(undoings);
   if (dryRun) {
     ReportPlan(changes, report);

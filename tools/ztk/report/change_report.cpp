@@ -252,8 +252,7 @@ void ReportOutcome(const MadeChanges &made, const std::string &what,
                                   return change.remembered || change.forgotten;
                                 });
   if (kept) {
-    ReportReach(made.reach,
-                {.before = SavedWords(made, what), .again = "run: " + again},
+    ReportReach(made.reach, {.before = SavedWords(made, what), .again = again},
                 report);
   } else {
     ReportForgotten(made, what, report);

@@ -60,8 +60,8 @@ void ReportReach(const Reach &reach, const DeliveryTexts &texts,
                  Report *report);
 
 // Adds which mixers were reached, what is remembered and what was announced;
-// the most serious failure is the problem. `again` is the command that sends
-// the remembered values once more.
+// the most serious failure is the problem. `again` tells the user to run the
+// command that sends the remembered values once more: "run: ztk apply".
 void ReportOutcome(const MadeChanges &made, const std::string &what,
                    const std::string &again, Report *report);
 

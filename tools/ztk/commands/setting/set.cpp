@@ -85,7 +85,8 @@ Report SetChoice(const Setting &setting, const Arguments &arguments) {
   report.fields["remembered"] = change.remembered;
   report.fields["announced"] = change.announced;
   // A mixer that was off has lost its other choices too, so all are sent.
-  ReportOutcome(made, place, ApplyCommand(setting, channel, wanted.index),
+  ReportOutcome(made, place,
+                "run: " + ApplyCommand(setting, channel, wanted.index),
                 &report);
   report.text = place + ": " + Described(choice) + Described(change, made) +
                 "\n" + NoteOnSendingAgain(wanted);

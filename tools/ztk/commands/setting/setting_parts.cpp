@@ -129,7 +129,7 @@ void RecordReplaced(const Setting &setting, std::uint32_t channel,
 }
 
 DeliveryTexts TextsIfNeverRemembered(const std::string &command) {
-  return {.before = "", .again = "run " + command + " again"};
+  return {.before = "", .again = "run again: " + command};
 }
 
 }  // namespace ztk::program
