@@ -208,6 +208,46 @@ TEST_F(WrongWords, SayWhatIsAccepted) {
   }
 }
 
+TEST_F(WrongWords, NameTheCommandThatDoesWhatIsMeant) {
+  const struct {
+    const char *words;
+    const char *expected;
+  } rows[] = {
+      {"export club.json",
+       "ztk: unexpected word \"club.json\" after \"export\"; run: ztk export > "
+       "club.json\n"},
+      {"forget", "ztk: no command \"forget\"; run: ztk reset\n"},
+      {"forget input 2",
+       "ztk: no command \"forget\"; run: ztk reset input 2\n"},
+      {"apply input 2",
+       "ztk: unexpected word \"input\" after \"apply\"; run: ztk input apply "
+       "2\n"},
+      {"input reset 2",
+       "ztk: no command \"reset\" after \"input\"; run: ztk reset input 2\n"},
+      {"input 2 post",
+       "ztk: no command \"2\" after \"input\"; run: ztk input set 2 post\n"},
+      {"boost 2",
+       "ztk: no command \"2\" after \"boost\"; run: ztk boost set "
+       "2\n"},
+      {"redo",
+       "ztk: no command \"redo\"; an undo cannot be taken back; set the value "
+       "again, for example: ztk input set 2 mic\n"},
+      // A word that a shell would not pass on is not repeated.
+      {"export 'my club.json'",
+       "ztk: unexpected word \"my club.json\" after \"export\"; see ztk export "
+       "--help\n"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.words);
+    const Result result = OneMixer(std::string("ztk ") + row.words);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.err, row.expected);
+    EXPECT_THAT(Requests(), IsEmpty());
+  }
+  EXPECT_THAT(OneMixer("ztk undo --help").out,
+              HasSubstr("An undo cannot be taken\nback: set the value again."));
+}
+
 TEST_F(WrongWords, TellTheNearestRightOne) {
   const struct {
     const char *words;

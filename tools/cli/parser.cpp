@@ -39,6 +39,40 @@ std::vector<std::string> LongNames(const std::vector<Option> &options) {
   return names;
 }
 
+// Whether a shell passes the word on as it is typed.
+bool IsPlain(const std::string &word) {
+  return word.find_first_not_of(
+             "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
+             "0123456789-_./") == std::string::npos;
+}
+
+bool Concerns(const Advice &advice, const std::string &path,
+              const std::string &word) {
+  return advice.path == path && (advice.word == "*" || advice.word == word ||
+                                 (advice.word == "N" && ParseNumber(word)));
+}
+
+// Returns the advice for the first of these words, which follow the path; empty
+// if there is none, or if a word would have to be quoted.
+std::string AdviceFor(const Program &program, const std::string &path,
+                      const std::vector<std::string> &words) {
+  if (program.advice == nullptr ||
+      !std::all_of(words.begin(), words.end(), IsPlain)) {
+    return "";
+  }
+  for (const auto &advice : program.advice()) {
+    if (!Concerns(advice, path, words.front())) continue;
+    std::string text = advice.text;
+    if (advice.repeats == Advice::Repeats::Nothing) return text;
+    const bool wordToo = advice.repeats == Advice::Repeats::WordToo;
+    for (std::size_t i = wordToo ? 0 : 1; i < words.size(); ++i) {
+      text += " " + words[i];
+    }
+    return text;
+  }
+  return "";
+}
+
 std::vector<std::string> WordsOf(const std::vector<Value> &values) {
   std::vector<std::string> words;
   for (const Value &value : values) words.push_back(value.word);
@@ -87,6 +121,14 @@ class CommandLine {
     throw UsageError(message + "; see " + program_.name +
                          (path_.empty() ? "" : " " + path_) + " --help",
                      path_);
+  }
+
+  // Fails with the advice for the words, if there is one. Nothing follows the
+  // command in it.
+  void FailWithAdvice(const std::string &message,
+                      const std::vector<std::string> &words) const {
+    const std::string advice = AdviceFor(program_, path_, words);
+    if (!advice.empty()) throw UsageError(message + "; " + advice, path_);
   }
 
   std::string Place() const {
@@ -141,17 +183,21 @@ class CommandLine {
       } else if (path_.empty() && *word == kVersionWord) {
         asksForVersion_ = true;
       } else {
-        AddToPath(*word);
+        AddToPath({word, words_.end()});
       }
       word = words_.erase(word);
     }
   }
 
-  void AddToPath(const std::string &word) {
+  // Adds the first of the words that are left.
+  void AddToPath(const std::vector<std::string> &words) {
+    const std::string &word = words.front();
     const std::string path = path_.empty() ? word : path_ + " " + word;
     if (FindCommand(program_, path) == nullptr &&
         (!path_.empty() || FindGroup(program_, word) == nullptr)) {
-      Fail("no command " + Quoted(word) + Place() + NearestCommand(word));
+      const std::string message = "no command " + Quoted(word) + Place();
+      FailWithAdvice(message, words);
+      Fail(message + NearestCommand(word));
     }
     path_ = path;
   }
@@ -198,12 +244,14 @@ class CommandLine {
     if (extras.empty()) return;
     const auto found = std::find_if(extras.begin(), extras.end(), IsOptionWord);
     if (found != extras.end()) FailOption(*found, options);
+    const std::string message =
+        "unexpected word " + Quoted(extras.front()) + Place();
     // The word may be an option that was typed without its dashes.
     const std::string nearest = Nearest(extras.front(), LongNames(options));
-    Fail("unexpected word " + Quoted(extras.front()) + Place() +
-         (TakesCommand(command) ? "; put \"--\" before the command"
-          : nearest.empty()     ? OwnOptions(command)
-                                : "; nearest: " + nearest));
+    if (nearest.empty()) FailWithAdvice(message, extras);
+    Fail(message + (TakesCommand(command) ? "; put \"--\" before the command"
+                    : nearest.empty()     ? OwnOptions(command)
+                                          : "; nearest: " + nearest));
   }
 
   // Names the options of a command that takes nothing else.

@@ -99,6 +99,19 @@ struct Section {
   std::vector<Term> terms;
 };
 
+// What to say when a user types a word that no command has, but that many users
+// expect.
+struct Advice {
+  std::string path;  // the command before the word; may be empty
+  std::string word;  // "N" is any number, "*" any word
+  std::string text;  // "run: ztk reset"
+  enum class Repeats : std::uint8_t {
+    Nothing,
+    Rest,     // the text is continued with the words after the word
+    WordToo,  // also with the word itself
+  } repeats;
+};
+
 struct Program {
   std::string name;
   std::string version;
@@ -113,6 +126,7 @@ struct Program {
   std::vector<Section> (*introduction)();
   std::vector<Section> (*sections)();
   std::vector<std::string> seeAlso;  // "ztk-virtual-mixer(1)"
+  std::vector<Advice> (*advice)() = nullptr;
 };
 
 // Defined by each program: its table. With the first word of a command line,

@@ -36,7 +36,7 @@ cli::Command MakeUndo() {
       "raw\n"
       "and ztk output default cannot be undone, because they do not change "
       "what\n"
-      "is remembered.",
+      "is remembered. An undo cannot be taken back: set the value again.",
       "ztk undo --list", Undo);
   command.options = {{.names = Parameter::kSteps,
                       .value = "",
@@ -269,6 +269,41 @@ std::vector<cli::Group> MakeGroups(const std::string &firstWord) {
   return groups;
 }
 
+// Words that users try, with the command that does what they expect.
+std::vector<cli::Advice> MakeAdvice() {
+  using Repeats = cli::Advice::Repeats;
+  std::vector<cli::Advice> advice{
+      {.path = "",
+       .word = "forget",
+       .text = "run: ztk reset",
+       .repeats = Repeats::Rest},
+      {.path = "",
+       .word = "redo",
+       .text = "an undo cannot be taken back; set the value again, for "
+               "example: ztk input set 2 mic",
+       .repeats = Repeats::Nothing},
+      {.path = "export",
+       .word = "*",
+       .text = "run: ztk export >",
+       .repeats = Repeats::WordToo}};
+  for (const Setting *setting : AllSettings()) {
+    const std::string name = setting->name;
+    advice.push_back({.path = name,
+                      .word = "reset",
+                      .text = "run: ztk reset " + name,
+                      .repeats = Repeats::Rest});
+    advice.push_back({.path = name,
+                      .word = "N",
+                      .text = "run: ztk " + name + " set",
+                      .repeats = Repeats::WordToo});
+    advice.push_back({.path = "apply",
+                      .word = name,
+                      .text = "run: ztk " + name + " apply",
+                      .repeats = Repeats::Rest});
+  }
+  return advice;
+}
+
 std::vector<cli::Term> MakeExitStatuses() {
   std::vector<cli::Term> terms;
   for (const ExitMeaning &meaning : ExitMeanings()) {
@@ -327,5 +362,6 @@ ztk::cli::Program ztk::cli::ThisProgram(const std::string &firstWord) {
       .exitStatuses = MakeExitStatuses,
       .introduction = ManualIntroduction,
       .sections = ManualSections,
-      .seeAlso = {"ztk-virtual-mixer(1)", "ZTKFunc(3)"}};
+      .seeAlso = {"ztk-virtual-mixer(1)", "ZTKFunc(3)"},
+      .advice = MakeAdvice};
 }
