@@ -104,12 +104,12 @@ struct Simple {
 };
 // For served mixers the kernel decides who may open them.
 constexpr char kInsideRun[] = "inside run";
-constexpr Simple kPlug{.name = "plug",
-                       .summary = "Plug mixers in, or switch them on",
-                       .done = "plugged in"};
-constexpr Simple kUnplug{.name = "unplug",
-                         .summary = "Unplug mixers, or switch them off",
-                         .done = "unplugged"};
+constexpr Simple kPlug{
+    .name = "plug", .summary = "Plug mixers in", .done = "plugged in"};
+constexpr Simple kUnplug{
+    .name = "unplug",
+    .summary = "Unplug mixers; they keep what they have received",
+    .done = "unplugged"};
 constexpr Simple kForbid{.name = "forbid",
                          .summary = "Forbid opening mixers",
                          .done =
