@@ -152,7 +152,7 @@ const std::vector<std::string> &RecordedSending::Places() const {
   return *places_;
 }
 
-const RecordedSending::Attached &RecordedSending::WhenAttached() const {
+const AttachTimes &RecordedSending::WhenAttached() const {
   if (attached_) return *attached_;
   std::vector<std::int64_t> times;
   for (const std::string &place : Places()) {

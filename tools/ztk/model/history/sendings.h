@@ -43,6 +43,13 @@ struct SendingRecord {
   std::int64_t milliseconds = 0;  // when it began, since 1970 in UTC
 };
 
+// When the first and the last mixer were attached, in milliseconds since 1970;
+// 0 if that is not known.
+struct AttachTimes {
+  std::int64_t first = 0;
+  std::int64_t last = 0;
+};
+
 // Complete when each of the mixers has accepted the value, and there is one.
 Sending SendingTo(std::size_t accepted, std::size_t mixers);
 
@@ -72,16 +79,11 @@ class RecordedSending {
 
  private:
   const std::vector<std::string> &Places() const;
-  // When the first and the last mixer were attached; 0 if that is not known.
-  struct Attached {
-    std::int64_t first = 0;
-    std::int64_t last = 0;
-  };
-  const Attached &WhenAttached() const;
+  const AttachTimes &WhenAttached() const;
 
   mutable std::optional<std::vector<std::string>> places_;
   mutable std::optional<std::vector<SendingRecord>> records_;
-  mutable std::optional<Attached> attached_;
+  mutable std::optional<AttachTimes> attached_;
 };
 
 }  // namespace ztk::model
