@@ -91,7 +91,7 @@ class CompletionReader {
     } else {
       values.front() += " " + word;
     }
-    if (!positional->repeats) ++complete_;
+    if (!positional->repeats) ++positionalsDone_;
   }
 
   const Option *Find(const std::string &name) const {
@@ -112,7 +112,7 @@ class CompletionReader {
     if (command_ == nullptr || asksForHelp_) return nullptr;
     std::size_t number = 0;
     for (const Option &option : command_->options) {
-      if (IsPositional(option) && number++ == complete_) return &option;
+      if (IsPositional(option) && number++ == positionalsDone_) return &option;
     }
     return nullptr;
   }
@@ -174,10 +174,10 @@ class CompletionReader {
   bool asksForHelp_ = false;
   std::string path_;
   const Command *command_ = nullptr;
-  const Option *option_ = nullptr;  // the next word is its value
-  bool optionsEnded_ = false;       // "--" was typed
-  std::size_t complete_ = 0;        // number of complete positional arguments
-  Arguments before_;                // before the word that is completed
+  const Option *option_ = nullptr;   // the next word is its value
+  bool optionsEnded_ = false;        // "--" was typed
+  std::size_t positionalsDone_ = 0;  // the number of them that are complete
+  Arguments before_;                 // before the word that is completed
 };
 
 }  // namespace

@@ -23,15 +23,16 @@ class FolderMark {
 };
 
 // Removes the marked folders of this user in `parent` whose process has ended:
-// a program that is killed (SIGKILL) cannot remove its own.
+// a program that is killed (SIGKILL) cannot remove its own. Only folders with
+// the names that these programs use are looked at.
 void RemoveAbandonedFolders(const std::string &parent);
 
 // The folder for temporary files: TMPDIR, or /tmp where TMPDIR is not an
 // absolute path or longer than `longest` characters.
 std::string TemporaryParent(std::size_t longest = 4096);
 
-// Makes a folder, with a name that begins like this, which only this user can
-// enter, marks it, and removes it in the end.
+// Makes a folder that only this user can enter, and marks it. Its name is
+// `name` and a random ending. The destructor removes it.
 class TemporaryFolder {
  public:
   // Throws std::runtime_error when the folder cannot be made.

@@ -36,21 +36,21 @@ ReadResult ResultOf(int error) {
 std::optional<ReadResult> FileWatch::Judge(int error, const std::string &bytes,
                                            const struct stat &status) {
   if (error != 0 && error != EBUSY) return ResultOf(error);
-  const bool unchanged = error == 0 && lastBytes_ == bytes;
-  if (unchanged && IsSettled(status)) {
+  const bool sameBytes = error == 0 && lastBytes_ == bytes;
+  if (sameBytes && IsSettled(status)) {
     return ReadResult{.state = ReadState::Damaged};
   }
   if (watched_ >= kMaxWait) return ResultOf(EBUSY);
   lastBytes_ = error == 0 ? std::optional(bytes) : std::nullopt;
   Pause(kPause);
   watched_ += kPause;
-  unchanged_ = unchanged ? unchanged_ + kPause : milliseconds(0);
+  unchangedFor_ = sameBytes ? unchangedFor_ + kPause : milliseconds(0);
   return std::nullopt;
 }
 
 bool FileWatch::IsSettled(const struct stat &status) const {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return unchanged_ >= kQuiet || now - ModificationTime(status) >= kQuiet;
+  return unchangedFor_ >= kQuiet || now - ModificationTime(status) >= kQuiet;
 }
 
 }  // namespace ztk::platform

@@ -34,7 +34,7 @@ class FileWatch {
   bool IsSettled(const struct stat &status) const;
 
   std::chrono::milliseconds watched_{0};
-  std::chrono::milliseconds unchanged_{0};
+  std::chrono::milliseconds unchangedFor_{0};
   std::optional<std::string> lastBytes_;
 };
 

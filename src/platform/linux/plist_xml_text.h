@@ -11,11 +11,11 @@
 
 namespace ztk::platform::property_list {
 
-// Returns the XML text as UTF-8 without a byte order mark. The byte order mark
-// decides about the encoding, otherwise "<" in UTF-16, otherwise the XML
-// declaration. Without all of them the encoding is UTF-8. Returns no value if
-// the declared encoding is not known, or if the bytes are not valid in their
-// encoding. UTF-8 is not checked.
+// Returns the XML text as UTF-8 without a byte order mark. The encoding is
+// that of the byte order mark; without one, UTF-16 if the first character is a
+// "<" in UTF-16; otherwise that of the XML declaration; UTF-8 if there is none
+// of them. Returns no value if the declared encoding is not supported, or if
+// the bytes are not valid in their encoding. UTF-8 and ASCII are not checked.
 std::optional<std::string> Utf8Xml(std::string_view bytes);
 
 }  // namespace ztk::platform::property_list

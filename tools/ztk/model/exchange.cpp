@@ -20,8 +20,8 @@ constexpr int kVersion = 1;
 // More errors would only hide the first ones, which a user corrects first.
 constexpr std::size_t kMostErrors = 20;
 
-// Other keys of the output of "ztk export --json", so that it can be imported
-// too.
+// Keys of the output of "ztk export --json" beside the version and the
+// settings. They are ignored, so that this output can be imported too.
 constexpr const char *kEnvelope[] = {"schema", "command", "ok", "warnings"};
 
 std::vector<std::string> SettingNames(const std::string &model) {
@@ -70,8 +70,8 @@ class ImportReader {
     AddError(place, [what] { return std::string(what); });
   }
 
-  // Without this error, the second of two equal names would replace the first
-  // without a message.
+  // Also reports a name that is twice in an object. The JSON library would keep
+  // the second one without a message.
   Json Parse(const std::string &text) {
     std::vector<std::set<std::string>> names;
     const auto watch = [&](int /*depth*/, Json::parse_event_t event,
