@@ -62,12 +62,12 @@ wait_for_mixers() {  # number
 }
 
 # Runs "ztk doctor" as a user and sets $cause, $help and $command of the problem,
-# which must be the same for both mixers.
+# which must be the same for both mixers. Leaves the notes out.
 ask_doctor() {  # user [environment...]
   local user=$1 findings
   shift
   findings=$({ as "$user" env "$@" "$bin/ztk" doctor 2>/dev/null || true; } |
-    sed '/^settings /,$d')
+    sed '/^mixers  *note: /,$d;/^settings /,$d')
   cause=$(sed -n 's/^ *cause: //p' <<<"$findings" | sort -u)
   help=$(sed -n 's/^ *help:  //p' <<<"$findings" | sort -u)
   command=$(sed -n 's/^ *type:  //p' <<<"$findings" | sort -u)
