@@ -130,6 +130,7 @@ TEST_F(KernelPrograms, TheControlCommandsChangeTheRunningMixers) {
 TEST_F(KernelPrograms, TheReportOfAReplayedMixerIsTheSame) {
   Attached("-n 2 --reply 1:8001=2103 --fault 2:stall@r8004",
            "$Z doctor --report /tmp/first >/dev/null");
+  WaitFor("the bus is empty", [] { return DevicesOnTheBus().empty(); });
   Attached("--device /tmp/first", "$Z doctor --report /tmp/second >/dev/null");
   EXPECT_EQ(Shell("for name in first second; do grep -v milliseconds "
                   "/tmp/$name >/tmp/$name-without-times; done; "
