@@ -313,7 +313,7 @@ Report ShowStatus(const Arguments &arguments) {
   const Remembrance remembered = AddRemembered(recorded, &report);
   const Unsent unsent = FindUnsent(remembered.choices, recorded);
   report.text += TextOf(unsent);
-  AddSilence(FindSilentRoutings(mixers), mixers.size() > 1, &report);
+  AddSilence(FindSilentRoutings(mixers, recorded), mixers.size() > 1, &report);
   if (!arguments.Has(Parameter::kQuiet)) {
     report.text += NextStep(mixers, remembered, unsent.command);
   }

@@ -88,7 +88,8 @@ Findings CheckMixers(std::string *good) {
                                  ? ExplainUnopened(one.mixer.number, one.place)
                                  : ExplainUnanswered(*one.failure, one.place)));
   }
-  for (const SilentRouting &routing : FindSilentRoutings(mixers)) {
+  for (const SilentRouting &routing :
+       FindSilentRoutings(mixers, RecordedSending(places))) {
     findings.push_back(ExplainSilence(routing, mixers.size() > 1));
   }
   *good = mixers.size() == 1 ? "1 mixer is attached and answers"

@@ -2,7 +2,6 @@
 #include "ztk/model/silence.h"
 
 #include "api/input_audio.h"
-#include "ztk/model/history/sendings.h"
 #include "ztk/model/remembered.h"
 #include "ztk/model/settings.h"
 
@@ -14,12 +13,8 @@ bool NeedsSelector(std::uint32_t channel, std::uint32_t index) {
 }
 
 std::vector<SilentRouting> FindSilentRoutings(
-    const std::vector<MixerStatus> &mixers) {
+    const std::vector<MixerStatus> &mixers, const RecordedSending &recorded) {
   std::vector<SilentRouting> silent;
-  std::vector<std::string> places;
-  places.reserve(mixers.size());
-  for (const MixerStatus &mixer : mixers) places.push_back(mixer.place);
-  const RecordedSending recorded(std::move(places));
   for (const MixerStatus &mixer : mixers) {
     if (!mixer.selectors.value) continue;
     for (std::uint32_t channel = 0; channel < status::kSelectors; ++channel) {

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "ztk/model/history/sendings.h"
 #include "ztk/model/mixers/mixer_status.h"
 
 namespace ztk::model {
@@ -22,9 +23,10 @@ struct SilentRouting {
 };
 
 // In the order of the mixers and channels. Leaves out mixers that have not
-// reported their selectors.
+// reported their selectors, and channels whose choice is not known after a
+// reset.
 std::vector<SilentRouting> FindSilentRoutings(
-    const std::vector<MixerStatus> &mixers);
+    const std::vector<MixerStatus> &mixers, const RecordedSending &recorded);
 
 // "USB input 1 is silent with this choice: the input selector for CH1 is in
 // position 3; CH1 Control Tone PHONO (1) is heard only in position 4: turn it

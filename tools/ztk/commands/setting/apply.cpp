@@ -111,7 +111,7 @@ void WarnOfSilence(const std::vector<StoredValue> &settings, const Reach &reach,
   if (channels.empty()) return;
   const Progress progress(kWaitingForMixer, kLongestQuestion);
   const std::vector<SilentRouting> silent =
-      FindSilentRoutings(AskForSelectors());
+      FindSilentRoutings(AskForSelectors(), RecordedSending());
   for (const SilentRouting &routing : silent) {
     if (std::find(channels.begin(), channels.end(), routing.channel) !=
         channels.end()) {

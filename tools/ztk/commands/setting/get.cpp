@@ -16,7 +16,8 @@ namespace ztk::program {
 namespace {
 
 // Asks the mixers only when the answer depends on their input selectors.
-void AddSilenceOf(const std::vector<std::uint32_t> &channels, Report *report) {
+void AddSilenceOf(const std::vector<std::uint32_t> &channels,
+                  const RecordedSending &recorded, Report *report) {
   const auto isAsked = [&channels](std::uint32_t channel) {
     return std::find(channels.begin(), channels.end(), channel) !=
            channels.end();
@@ -31,7 +32,7 @@ void AddSilenceOf(const std::vector<std::uint32_t> &channels, Report *report) {
     const Progress progress(kWaitingForMixer, kLongestQuestion);
     mixers = AskForSelectors();
   }
-  std::vector<SilentRouting> silent = FindSilentRoutings(mixers);
+  std::vector<SilentRouting> silent = FindSilentRoutings(mixers, recorded);
   std::erase_if(silent, [&isAsked](const SilentRouting &routing) {
     return !isAsked(routing.channel);
   });
@@ -79,7 +80,7 @@ Report GetRemembered(const Setting &setting, const Arguments &arguments) {
   }
   if (!quiet) AddUnsent(choices, recorded, &report);
   if (&setting == &kInput && (!quiet || arguments.Has(Parameter::kJson))) {
-    AddSilenceOf(channels, &report);
+    AddSilenceOf(channels, recorded, &report);
   }
   return report;
 }
