@@ -15,7 +15,7 @@ constexpr char kBoost[] =
     "Boost level  -10 dB (2)\n";
 constexpr char kNotSent[] =
     "Not sent, or not to every mixer: Boost level\n"
-    "To send it, run: ztk apply\n";
+    "To send these choices to every mixer, run: ztk apply\n";
 
 TEST_F(Unsent, IsNothingAfterAChangeThatEveryMixerAccepted) {
   const Result result =
@@ -48,7 +48,7 @@ TEST_F(Unsent, IsFollowedByTheNextStepInStatus) {
             "  USB input 2   MIC (6), VRM-D6\n"
             "  Boost level   -10 dB (2), VRM-D6\n"
             "Not sent, or not to every mixer: USB input 2, Boost level\n"
-            "Next: to send it, run: ztk apply\n");
+            "Next: to send these choices to every mixer, run: ztk apply\n");
 }
 
 // A mixer that was switched on since may have another choice.
@@ -62,12 +62,13 @@ TEST_F(Unsent, IsWhatWasSentBeforeAMixerWasPluggedIn) {
       result.out,
       HasSubstr(std::string(kBoost) +
                 "A mixer was plugged in after this was sent: Boost level\n"
-                "To send it, run: ztk apply\n"));
+                "To send these choices to every mixer, run: ztk apply\n"));
   EXPECT_THAT(result.out, HasSubstr("\"unsent\":\"earlier\""));
   EXPECT_THAT(
       result.out,
-      HasSubstr("A mixer was plugged in after this was sent: Boost level\n"
-                "Next: to send it, run: ztk apply\n"));
+      HasSubstr(
+          "A mixer was plugged in after this was sent: Boost level\n"
+          "Next: to send these choices to every mixer, run: ztk apply\n"));
   EXPECT_EQ(LastLine(result.out), "  Boost level   -10 dB (2), VRM-D6");
 }
 
@@ -85,18 +86,21 @@ TEST_F(Unsent, IsWhatARawValueOrADefaultHasReplaced) {
   const Result result = OneMixer(
       "ztk input raw 1 0 3 -q; ztk output default -q;"
       "ztk input get 1; ztk output get -q; ztk output get --json");
-  EXPECT_THAT(result.out,
-              HasSubstr("USB input 1  MIC (6)\n"
-                        "ztk has sent another value since: USB input 1\n"
-                        "To send it, run: ztk apply\n"));
+  EXPECT_THAT(
+      result.out,
+      HasSubstr("USB input 1  MIC (6)\n"
+                "ztk has sent another value since: USB input 1\n"
+                "To send these choices to every mixer, run: ztk apply\n"));
   const Json json = OneObject(LastLine(result.out));
   // The default of the first output is the remembered choice.
   EXPECT_EQ(json["channels"][0]["unsent"], nullptr);
   EXPECT_EQ(json["channels"][1]["unsent"], "replaced");
   EXPECT_EQ(json["channels"][2]["unsent"], nullptr);
-  EXPECT_THAT(OneMixer("ztk output get").out,
-              HasSubstr("since: USB output 2\nTo send it, run: "
-                        "ztk apply --product VRM-B5\n"));
+  EXPECT_THAT(
+      OneMixer("ztk output get").out,
+      HasSubstr(
+          "since: USB output 2\nTo send these choices to every mixer, run: "
+          "ztk apply --product VRM-B5\n"));
 }
 
 TEST_F(Unsent, IsNotClaimedOfARawValueThatNoMixerAccepted) {
@@ -155,14 +159,16 @@ TEST_F(Unsent, IsADefaultThatWasNotSent) {
       "ztk input get 2 --json; ztk input set 2 1 -q; ztk status | tail -n 1");
   EXPECT_THAT(
       result.out,
-      HasSubstr("USB input 2  CH2 Control Tone PHONO (1), default: nothing is "
-                "remembered\n"
-                "Default that was not sent, or not to every mixer: USB input "
-                "2\nTo send it, run: ztk input set 2 1\n"));
+      HasSubstr(
+          "USB input 2  CH2 Control Tone PHONO (1), default: nothing is "
+          "remembered\n"
+          "Default that was not sent, or not to every mixer: USB input "
+          "2\nTo send these choices to every mixer, run: ztk input set 2 1\n"));
   EXPECT_THAT(result.out,
               HasSubstr("Nothing is remembered\n"
                         "Default that was not sent, or not to every mixer: USB "
-                        "input 2\nNext: to send it, run: ztk input set 2 1\n"));
+                        "input 2\nNext: to send these choices to every mixer, "
+                        "run: ztk input set 2 1\n"));
   EXPECT_THAT(result.out, HasSubstr("\"unsent\":\"default\""));
   EXPECT_EQ(LastLine(result.out),
             "  USB input 2   CH2 Control Tone PHONO (1), VRM-D6");
@@ -194,8 +200,10 @@ TEST_F(Unsent, EndsWithAnUndoThatForgetsTheValue) {
 
 TEST_F(Unsent, NamesTheCommandOfAValueThatApplyDoesNotSend) {
   NoMixer("ztk midi set 7");
-  EXPECT_THAT(OneMixer("ztk midi get").out,
-              HasSubstr("\nTo send it, run: ztk midi set 7\n"));
+  EXPECT_THAT(
+      OneMixer("ztk midi get").out,
+      HasSubstr(
+          "\nTo send these choices to every mixer, run: ztk midi set 7\n"));
 }
 
 TEST_F(Unsent, IsNotKnownWithoutAMixerWhichIsSaidInstead) {

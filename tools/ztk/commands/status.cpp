@@ -233,7 +233,7 @@ std::string NextStep(const Mixers &mixers, const Remembrance &remembered,
     return "Next: run ztk doctor; it shows the cause and what to do\n";
   }
   if (!apply.empty()) {
-    return "Next: to send it, run: " + apply + "\n";
+    return "Next: to send these choices to every mixer, run: " + apply + "\n";
   }
   return "";
 }

@@ -29,13 +29,14 @@ struct Reason {
   Sending sending;
   const char *words;
 };
+// A reset comes first, because nothing has to be sent after it.
 constexpr Reason kReasons[] = {
+    {Sending::Reset, "Reset, but the mixer may still have it: "},
     {Sending::Incomplete, "Not sent, or not to every mixer: "},
     {Sending::Replaced, "ztk has sent another value since: "},
     {Sending::Earlier, "A mixer was plugged in after this was sent: "},
     {Sending::DefaultNotSent,
-     "Default that was not sent, or not to every mixer: "},
-    {Sending::Reset, "Reset, but the mixer may still have it: "}};
+     "Default that was not sent, or not to every mixer: "}};
 
 }  // namespace
 
@@ -99,7 +100,8 @@ std::string TextOf(const Unsent &unsent) {
 
 std::string WithCommand(const Unsent &unsent) {
   if (unsent.command.empty()) return TextOf(unsent);
-  return TextOf(unsent) + "To send it, run: " + unsent.command + "\n";
+  return TextOf(unsent) +
+         "To send these choices to every mixer, run: " + unsent.command + "\n";
 }
 
 void AddUnsent(const std::vector<RememberedChoice> &choices,
