@@ -192,6 +192,9 @@ TEST_F(Doctor, SaysWhichCommandsToRun) {
   EXPECT_EQ(LastLine(OneMixer(std::string(kNoBus) + "ztk doctor").err),
             "ztk: 1 problem found; run its command; the commands of notes can "
             "wait");
+  // No notes are shown.
+  EXPECT_EQ(LastLine(OneMixer(std::string(kNoBus) + "ztk doctor -q").err),
+            "ztk: 1 problem found; run the command above");
 }
 
 TEST_F(Doctor, TellsProblemsAndCommandsWhenQuiet) {

@@ -87,8 +87,8 @@ Findings NotesOnUnsent() {
     if (line.command.empty()) continue;
     notes.push_back({.id = "unsent",
                      .what = line.text,
-                     .cause = "a mixer has its own choice until it accepts "
-                              "another one",
+                     .cause = "a mixer may have another choice until it "
+                              "accepts this one",
                      .command = line.command,
                      .isNote = true});
   }
@@ -141,10 +141,12 @@ Report Diagnose(const Arguments &arguments) {
   }
   if (file != nullptr) AddMixerReport(*file, &report);
   if (problems > 0) {
-    report.problem = {
-        .exit = ExitCode::Found,
-        .message =
-            Summary(problems, report.fields["findings"].size() - problems)};
+    // With --quiet no note is shown.
+    const std::size_t notes = arguments.Has(Parameter::kQuiet)
+                                  ? 0
+                                  : report.fields["findings"].size() - problems;
+    report.problem = {.exit = ExitCode::Found,
+                      .message = Summary(problems, notes)};
   }
   return report;
 }
