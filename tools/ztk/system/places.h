@@ -19,8 +19,9 @@ std::vector<std::string> MixerPlaces();
 
 using SystemTime = std::chrono::system_clock::time_point;
 
-// When the mixer at the place was attached. None if the system does not tell:
-// macOS, and file systems of /dev that do not keep the time of a node's birth.
+// When the mixer at the place was attached. None if that is not known: on
+// macOS, where ztk does not look for it, and where the file system of /dev does
+// not keep the time of a node's birth.
 std::optional<SystemTime> AttachedSince(const std::string &place);
 
 // Why a mixer cannot be opened.
