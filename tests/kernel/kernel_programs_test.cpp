@@ -131,13 +131,15 @@ TEST_F(KernelPrograms, TheReportOfAReplayedMixerIsTheSame) {
   Attached("-n 2 --reply 1:8001=2103 --fault 2:stall@r8004",
            "$Z doctor --report /tmp/first >/dev/null");
   WaitFor("the bus is empty", [] { return DevicesOnTheBus().empty(); });
-  Attached("--device /tmp/first", "$Z doctor --report /tmp/second >/dev/null");
+  const std::string second = Attached(
+      "--device /tmp/first", "$Z doctor --report /tmp/second >/dev/null");
   EXPECT_EQ(Shell("for name in first second; do grep -v milliseconds "
                   "/tmp/$name >/tmp/$name-without-times; done; "
                   "diff /tmp/first-without-times /tmp/second-without-times && "
                   "grep -c '21 03' /tmp/second && "
                   "grep -c refused /tmp/second"),
-            "1\n1\nstatus 0");
+            "1\n1\nstatus 0")
+      << "The second program has printed: " << second;
 }
 
 TEST_F(KernelPrograms, StatusSaysThatAMixerMayNotBeOpened) {
