@@ -61,13 +61,16 @@ static void Ask(int node, unsigned short index, unsigned short length) {
 static void ShowMixer(const char *name) {
   char path[kPath];
   char number[16] = {0};
+  char product[128] = {0};
   snprintf(path, sizeof path, "%s/%s/devnum", kDevices, name);
   if (ReadFile(path, number, sizeof number - 1) <= 0) return;
   snprintf(path, sizeof path, "/dev/bus/usb/%03d/%03d", atoi(name),
            atoi(number));
   const int node = open(path, O_RDWR | O_CLOEXEC);
   if (node < 0) return;
-  printf("mixer %s:", name);
+  snprintf(path, sizeof path, "%s/%s/product", kDevices, name);
+  (void)!ReadFile(path, product, sizeof product - 1);
+  printf("mixer %s %s:", name, product);
   Ask(node, kFirmware, 2);
   Ask(node, kCertifyLevel, 4);
   Ask(node, kSelectors, 5);

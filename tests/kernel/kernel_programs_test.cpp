@@ -62,7 +62,7 @@ class KernelPrograms : public testing::Test {
 TEST_F(KernelPrograms, StatusReadsAMixerOfTheKernel) {
   EXPECT_EQ(
       Attached("--reply 8007=00000009 --selector 1=3", "$Z status"),
-      "Mixer 1 is reachable\n"
+      "Mixer 1 (VRM-D6) answers\n"
       "  firmware      4.36\n"
       "  certified     level 9\n"
       "  selectors     CH1 3   CH2 4   CH3 4   CH4 4\n"
@@ -112,7 +112,7 @@ TEST_F(KernelPrograms, TheControlCommandsChangeTheRunningMixers) {
       "$V fault stall@8001; $Z status | grep firmware; $V fault none; "
       "$V reply 8004 0100; $Z status | grep Serato; "
       "$V unplug; until $Z status | grep \"No mixer\"; do sleep 0.05; done; "
-      "$V plug; $Z status | grep reachable; "
+      "$V plug; $Z status | grep \"^Mixer 1 .* answers\"; "
       "$V fault delay:20; $Z status | grep certified; "
       "$V fault short:1@8001; $Z status | grep firmware; "
       "$V show | head -1");
@@ -121,7 +121,7 @@ TEST_F(KernelPrograms, TheControlCommandsChangeTheRunningMixers) {
                                 "1 mixer: unplugged\n"
                                 "No mixer is attached\n"
                                 "1 mixer: plugged in\n"
-                                "Mixer 1 is reachable\n"
+                                "Mixer 1 (VRM-D6) answers\n"
                                 "1 mixer: fault delay:20\n"
                                 "  certified     level 1\n"));
   EXPECT_THAT(output, EndsWith("mixer 1  bus id 1-1  attached\nstatus 0"));
@@ -148,7 +148,8 @@ TEST_F(KernelPrograms, StatusSaysThatAMixerMayNotBeOpened) {
       Attached("",
                "setpriv --reuid 65534 --regid 65534 --clear-groups "
                "env HOME=/nonexistent $Z status");
-  EXPECT_THAT(output, HasSubstr("Mixer 1 is attached but cannot be opened\n"));
+  EXPECT_THAT(output,
+              HasSubstr("Mixer 1 (VRM-D6) is attached but cannot be opened\n"));
   EXPECT_THAT(output, HasSubstr("you have no permission for /dev/bus/usb/"));
 }
 
@@ -196,7 +197,7 @@ TEST_F(KernelPrograms, TheUsbipToolAttachesAndDetachesMixers) {
       "usbip list -r 127.0.0.1 | grep -c 6666:001b; "
       "usbip attach -r 127.0.0.1 -b 1-1; "
       "usbip attach -r 127.0.0.1 -b 1-2; "
-      "until $Z status | grep \"Mixer 2, .* is reachable\"; do sleep 0.05; "
+      "until $Z status | grep \"Mixer 2 .* answers\"; do sleep 0.05; "
       "done; "
       "usbip attach -r 127.0.0.1 -b 1-2; echo again $?; "
       "usbip port | grep -c 6666:001b; "
@@ -204,11 +205,11 @@ TEST_F(KernelPrograms, TheUsbipToolAttachesAndDetachesMixers) {
       "usbip detach -p 0 >/dev/null 2>&1; "
       "while $Z status | grep -q \"Mixer 2\"; do sleep 0.05; done; "
       "$Z status | grep Mixer'");
-  EXPECT_THAT(output, HasSubstr("2\nMixer 2, port "));
+  EXPECT_THAT(output, HasSubstr("2\nMixer 2 (VRM-D6), port "));
   EXPECT_THAT(output, HasSubstr("again 1\n2\n"
                                 "mixer 1  bus id 1-1  attached\n"
                                 "mixer 2  bus id 1-2  attached\n"
-                                "Mixer 1 is reachable\nstatus 0"));
+                                "Mixer 1 (VRM-D6) answers\nstatus 0"));
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ expect() {  # what expected actual
 }
 
 reachable() {  # user
-  as "$1" "$bin/ztk" status 2>/dev/null | grep -c '^Mixer .* is reachable' || true
+  as "$1" "$bin/ztk" status 2>/dev/null | grep -c '^Mixer .* answers' || true
 }
 
 # Waits until root reaches this number of mixers.

@@ -16,7 +16,7 @@ TEST_F(Status, ShowsTheMixerAndWhatIsRemembered) {
       {"-n", "1", "--selector", "2=3", "--reply", "8004=0100"}, "ztk status");
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out,
-            "Mixer 1 is reachable\n"
+            "Mixer 1 (VRM-D6) answers\n"
             "  firmware      4.36\n"
             "  certified     level 1\n"
             "  selectors     CH1 4   CH2 3   CH3 4   CH4 4\n"
@@ -38,7 +38,7 @@ TEST_F(Status, TellsTheSameInJson) {
   EXPECT_EQ(json["reached"], 1);
   EXPECT_EQ(json["mixers"], Json::parse(R"([{
       "position":1,"reachable":true,"answers":true,"refuses":false,
-      "port":"1-1",
+      "port":"1-1","product":"VRM-D6",
       "firmware":{"number":1078,"hex":"0x0436","derived":"4.36"},
       "certificationLevel":16909060,"selectors":[4,4,4,4],
       "serato":"inactive"}])"));
@@ -65,10 +65,12 @@ TEST_F(Status, SaysThatNoMixerIsAttached) {
 TEST_F(Status, ExplainsAMixerThatMayNotBeOpened) {
   const Result result =
       Inside({"-n", "2", "--forbid", "1"}, "ztk status; ztk status --json");
-  EXPECT_THAT(result.out,
-              StartsWith("2 mixers are attached, 1 is reachable\n"
-                         "Mixer 1, port 1-1, is attached but cannot be opened\n"
-                         "Mixer 2, port 1-2, is reachable, firmware 4.36\n"));
+  EXPECT_THAT(
+      result.out,
+      StartsWith(
+          "2 mixers are attached, 1 answers\n"
+          "Mixer 1 (VRM-D6), port 1-1, is attached but cannot be opened\n"
+          "Mixer 2 (VRM-D6), port 1-2, answers, firmware 4.36\n"));
   const Json json = OneObject(LastLine(result.out) + "\n");
   EXPECT_EQ(json["found"], 2);
   EXPECT_EQ(json["reached"], 1);
@@ -120,7 +122,7 @@ TEST_F(Status, ShowsNothingOfAMixerThatGoesWhileItIsAsked) {
 TEST_F(Status, AsksASilentMixerOnlyOnce) {
   const Result result = Inside({"-n", "1", "--fault", "silence"}, "ztk status");
   EXPECT_EQ(result.out,
-            "Mixer 1 does not answer\n"
+            "Mixer 1 (VRM-D6) does not answer\n"
             "Nothing is remembered\n"
             "Next: switch the mixer that does not answer off and on again; if "
             "that does not help, run ztk doctor\n");
@@ -148,13 +150,13 @@ TEST_F(Status, AsksManyMixersAtTheSameTime) {
 TEST_F(Status, ShowsAllOfSeveralMixersWhenToldSo) {
   EXPECT_EQ(
       Inside({"-n", "2", "--fault", "2:silence"}, "ztk status --verbose").out,
-      "2 mixers are attached, 1 is reachable\n"
-      "Mixer 1, port 1-1, is reachable\n"
+      "2 mixers are attached, 1 answers\n"
+      "Mixer 1 (VRM-D6), port 1-1, answers\n"
       "  firmware      4.36\n"
       "  certified     level 1\n"
       "  selectors     CH1 4   CH2 4   CH3 4   CH4 4\n"
       "  Serato        not active\n"
-      "Mixer 2, port 1-2, does not answer\n"
+      "Mixer 2 (VRM-D6), port 1-2, does not answer\n"
       "Nothing is remembered\n"
       "Next: switch the mixer that does not answer off and on again; if that "
       "does not help, run ztk doctor\n");
@@ -192,14 +194,14 @@ TEST_F(Status, TellsOnceToTurnTheSelectorOfASilentChannel) {
   EXPECT_THAT(result.out, Not(HasSubstr("Next: ")));
 }
 
-TEST_F(Status, DoesNotCallAMixerReachableThatRefusesEverything) {
+TEST_F(Status, SaysThatAMixerRefusesEverything) {
   const Result result = Inside({"-n", "2", "--fault", "2:stall"},
                                "ztk status; ztk status --json");
   EXPECT_THAT(
       result.out,
-      StartsWith("2 mixers are attached, 1 is reachable\n"
-                 "Mixer 1, port 1-1, is reachable, firmware 4.36\n"
-                 "Mixer 2, port 1-2, refuses requests\n"
+      StartsWith("2 mixers are attached, 1 answers\n"
+                 "Mixer 1 (VRM-D6), port 1-1, answers, firmware 4.36\n"
+                 "Mixer 2 (VRM-D6), port 1-2, refuses requests\n"
                  "Nothing is remembered\n"
                  "Next: switch the mixer that refuses requests "
                  "off and on again; if that does not help, run ztk doctor\n"));

@@ -141,7 +141,7 @@ TEST_F(Terminal, ShowsOnADumbTerminalOnceThatItWaits) {
   EXPECT_EQ(terminal.End(), 0);
   EXPECT_THAT(terminal.shown(),
               StartsWith("Waiting for a mixer, at most 2 s; Ctrl-C ends\nMixer "
-                         "1 does not answer"));
+                         "1 (VRM-D6) does not answer"));
 }
 
 TEST_F(Terminal, SaysNothingOfWaitingElsewhere) {

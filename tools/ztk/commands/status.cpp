@@ -99,11 +99,11 @@ bool IsOpened(const MixerStatus &mixer) {
          mixer.mixer.state != MixerState::Gone;
 }
 
-bool IsReachable(const MixerStatus &mixer) {
+bool Answers(const MixerStatus &mixer) {
   return mixer.answers() && !mixer.refusesAll();
 }
 
-// The words after "mixer 1": "is reachable", "does not answer", ...
+// The words after "mixer 1": "answers", "does not answer", ...
 std::string StateWords(const MixerStatus &mixer) {
   if (mixer.refusesAll()) {
     return mixer.failure->state == MixerState::Refused ? "refuses requests"
@@ -111,7 +111,7 @@ std::string StateWords(const MixerStatus &mixer) {
   }
   switch (mixer.mixer.state) {
     case MixerState::Answered:
-      return "is reachable";
+      return "answers";
     case MixerState::Silent:
       return "does not answer";
     case MixerState::Gone:
@@ -126,11 +126,13 @@ std::string StateWords(const MixerStatus &mixer) {
 }
 
 Json FieldsOf(const MixerStatus &mixer) {
-  Json fields{{"position", mixer.mixer.number},
-              {"reachable", IsOpened(mixer)},
-              {"answers", mixer.answers()},
-              {"refuses", mixer.refusesAll()},
-              {"port", mixer.place}};
+  Json fields{
+      {"position", mixer.mixer.number},
+      {"reachable", IsOpened(mixer)},
+      {"answers", mixer.answers()},
+      {"refuses", mixer.refusesAll()},
+      {"port", mixer.place},
+      {"product", mixer.product.empty() ? Json() : Json(mixer.product)}};
   if (!IsOpened(mixer)) {
     fields["reason"] = mixer.mixer.message;
     return fields;
@@ -142,35 +144,40 @@ Json FieldsOf(const MixerStatus &mixer) {
   return fields;
 }
 
+// "Mixer 1 (VRM-D6)"
+std::string NameOf(const MixerStatus &mixer) {
+  return "Mixer " + std::to_string(mixer.mixer.number) +
+         (mixer.product.empty() ? "" : " (" + mixer.product + ")");
+}
+
 // Everything that a mixer reports, on several lines.
 std::string Details(const MixerStatus &mixer, bool isOnly) {
-  std::string text = "Mixer " + std::to_string(mixer.mixer.number) +
+  std::string text = NameOf(mixer) +
                      (isOnly ? " " : ", port " + mixer.place + ", ") +
                      StateWords(mixer) + "\n";
-  if (!IsReachable(mixer)) return text;
+  if (!Answers(mixer)) return text;
   for (const Fact &fact : FactsOf(mixer)) text += Row(fact.title, fact.words);
   return text;
 }
 
 // One of several mixers, on one line.
 std::string Line(const MixerStatus &mixer) {
-  return "Mixer " + std::to_string(mixer.mixer.number) + ", port " +
-         mixer.place + ", " + StateWords(mixer) +
+  return NameOf(mixer) + ", port " + mixer.place + ", " + StateWords(mixer) +
          (mixer.firmware.value ? ", firmware " + Firmware(mixer).words : "") +
          "\n";
 }
 
-std::size_t CountReachable(const Mixers &mixers) {
+std::size_t CountAnswering(const Mixers &mixers) {
   return static_cast<std::size_t>(
-      std::count_if(mixers.begin(), mixers.end(), IsReachable));
+      std::count_if(mixers.begin(), mixers.end(), Answers));
 }
 
 std::string Summary(const Mixers &mixers) {
-  const std::size_t reachable = CountReachable(mixers);
+  const std::size_t answering = CountAnswering(mixers);
   const std::string count = std::to_string(mixers.size());
-  if (reachable == mixers.size()) return count + " mixers are reachable\n";
-  return count + " mixers are attached, " + std::to_string(reachable) +
-         (reachable == 1 ? " is reachable\n" : " are reachable\n");
+  if (answering == mixers.size()) return count + " mixers answer\n";
+  return count + " mixers are attached, " + std::to_string(answering) +
+         (answering == 1 ? " answers\n" : " answer\n");
 }
 
 std::string TextOf(const Mixers &mixers, bool verbose) {
@@ -260,7 +267,7 @@ Mixers AddMixers(bool verbose, Report *report) {
   report->fields["connected"] = !mixers.empty();
   report->fields["found"] = mixers.size();
   report->fields["reached"] = reached;
-  report->fields["answering"] = CountReachable(mixers);
+  report->fields["answering"] = CountAnswering(mixers);
   report->fields["mixers"] = std::move(list);
   report->text = TextOf(mixers, verbose);
   return mixers;

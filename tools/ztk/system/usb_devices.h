@@ -23,6 +23,10 @@ struct UsbDevice {
 // none of them.
 std::vector<UsbDevice> UsbDevices();
 
+// The name that the device at the place gives itself, on one line. Empty if the
+// system does not report it, and on macOS, where ztk does not look for it.
+std::string ProductAt(const std::string &place);
+
 }  // namespace ztk::model
 
 #endif  // ZTK_TOOLS_ZTK_SYSTEM_USB_DEVICES_H_

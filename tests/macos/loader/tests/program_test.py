@@ -75,7 +75,7 @@ class Ztk(unittest.TestCase):
 
     def test_status_shows_the_mixer(self):
         self.assertEqual(self.out("status").splitlines()[:2],
-                         ["Mixer 1 is reachable",
+                         ["Mixer 1 answers",
                           "  firmware      4.36"])
 
     def test_a_choice_is_sent_remembered_and_undone(self):

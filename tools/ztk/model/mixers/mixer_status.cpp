@@ -8,6 +8,7 @@
 
 #include "usb/mixers.h"
 #include "ztk/model/mixers/in_parallel.h"
+#include "ztk/system/usb_devices.h"
 
 namespace ztk::model {
 
@@ -94,16 +95,18 @@ void AskAll(MixerReader *reader, MixerStatus *status) {
 MixerStatus AskMixer(std::size_t position, const std::string &place,
                      Questions questions) {
   const int number = static_cast<int>(position) + 1;
-  MixerStatus status{.mixer = {.number = number,
-                               .state = MixerState::Answered,
-                               .reason = {},
-                               .message = {}},
-                     .failure = std::nullopt,
-                     .place = place,
-                     .firmware = {},
-                     .certificationLevel = {},
-                     .selectors = {},
-                     .seratoActive = {}};
+  MixerStatus status{
+      .mixer = {.number = number,
+                .state = MixerState::Answered,
+                .reason = {},
+                .message = {}},
+      .failure = std::nullopt,
+      .place = place,
+      .product = questions == Questions::All ? ProductAt(place) : std::string(),
+      .firmware = {},
+      .certificationLevel = {},
+      .selectors = {},
+      .seratoActive = {}};
   // A program that runs for a long time calls this function again and again. It
   // does not try to open a mixer without the permission to open it.
   std::optional<usb::OpenMixer> mixer;

@@ -34,6 +34,8 @@ struct MixerStatus {
   // The first query that failed, and how; none when all were answered.
   std::optional<Mixer> failure;
   std::string place;  // the system's name of the port, such as "1-2"
+  // The name that it gives itself, such as "VRM-D6"; see ProductAt().
+  std::string product;
   MixerFact<std::uint16_t> firmware;
   MixerFact<std::uint32_t> certificationLevel;
   MixerFact<SelectorPositions> selectors;

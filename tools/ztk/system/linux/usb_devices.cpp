@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "cli/strings.h"
 #include "ztk/system/file_text.h"
 
 namespace ztk::model {
@@ -64,6 +65,10 @@ std::vector<UsbDevice> UsbDevices() {
                        .product = LineIn(kFolder + name + "/product")});
   }
   return devices;
+}
+
+std::string ProductAt(const std::string &place) {
+  return cli::OneLine(LineIn(kFolder + place + "/product"));
 }
 
 }  // namespace ztk::model

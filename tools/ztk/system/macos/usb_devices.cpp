@@ -3,8 +3,10 @@
 
 namespace ztk::model {
 
-// Class and speed are not read on this system: the registry has them in other
-// properties.
+// Names, classes and speeds are not read on this system: the registry has them
+// in other properties.
 std::vector<UsbDevice> UsbDevices() { return {}; }
+
+std::string ProductAt(const std::string & /*place*/) { return ""; }
 
 }  // namespace ztk::model
