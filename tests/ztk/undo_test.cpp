@@ -552,7 +552,35 @@ TEST_F(Undo, ListsTheNumberAndTextOfEachValueInJson) {
   EXPECT_EQ(json["steps"][0]["changes"][0],
             Json::parse(R"({"setting":"boost","model":"VRM-D6","channel":null,
                 "before":null,"beforeNumber":null,"beforeText":null,
-                "after":1,"afterNumber":2,"afterText":"-10 dB"})"));
+                "after":1,"afterNumber":2,"afterText":"-10 dB",
+                "leftAlone":false})"));
+}
+
+TEST_F(Undo, ListsWhatItWillLeaveAlone) {
+  Remember("VRM-D6", {{"Output0", 1}});
+  OneMixer("ztk input set 1 3; ztk boost set 2; ztk boost set 3");
+  Remember("VRM-D6", {{"Output0", 5}, {"MaxLevel", 2}});
+  const Result result =
+      OneMixer("ztk undo --list | tail -n +2; ztk undo --list --json");
+  EXPECT_THAT(
+      result.out,
+      StartsWith(
+          "  1   boost set    Boost level: -15 dB (3), previously -10 dB (2)\n"
+          "  2   boost set    Boost level: -10 dB (2), previously nothing "
+          "remembered\n"
+          "  3   input set    USB input 1: Post CH1 Fader (3), previously CH1 "
+          "Control Tone LINE (2); it will not be undone, because another "
+          "program has changed it since\n"));
+  const Json steps = OneObject(LastLine(result.out))["steps"];
+  EXPECT_EQ(steps[0]["changes"][0]["leftAlone"], false);
+  EXPECT_EQ(steps[2]["changes"][0]["leftAlone"], true);
+}
+
+TEST_F(Undo, DoesNotSayWhatItLeavesAloneBesideAnUnreadableFile) {
+  OneMixer("ztk boost set 2");
+  WriteAll(home_.SettingsFile("VRM-D6"), "<plist><dict><key>Max");
+  const Json json = OneObject(OneMixer("ztk undo --list --json").out);
+  EXPECT_EQ(json["steps"][0]["changes"][0]["leftAlone"], nullptr);
 }
 
 }  // namespace

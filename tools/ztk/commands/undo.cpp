@@ -246,9 +246,12 @@ void UndoLast(std::size_t count, bool dryRun, History *history,
 }
 
 // "input set  USB input 2: MIC (6), previously CH2 Control Tone PHONO (1)"
-std::string ListedStep(std::size_t number, const Step &step) {
+std::string ListedStep(std::size_t number, const std::vector<Step> &steps) {
   constexpr std::size_t kNumberColumn = 5;
   constexpr std::size_t kCommandColumn = 18;
+  constexpr char kNotUndone[] =
+      "; it will not be undone, because another program has changed it since";
+  const Step &step = steps[steps.size() - number];
   std::string begin =
       cli::Padded("  " + std::to_string(number), kNumberColumn) + " ";
   begin = cli::Padded(begin + step.command, kCommandColumn) + " ";
@@ -259,8 +262,9 @@ std::string ListedStep(std::size_t number, const Step &step) {
         begin + PlaceName(setting, change.channel) + ": " +
         ValueWords(setting, change.channel, change.after) + ", previously " +
         (change.before ? DescribedValue(setting, change.channel, *change.before)
-                       : "nothing remembered") +
-        "\n";
+                       : "nothing remembered");
+    if (IsLeftAlone(steps, number, change) == true) text += kNotUndone;
+    text += "\n";
     begin = std::string(kCommandColumn + 1, ' ');
   }
   return text;
@@ -277,7 +281,8 @@ void AddValue(const std::string &name, const PastChange &change,
   (*fields)[name + "Text"] = choice ? Json(choice->text) : Json();
 }
 
-Json FieldsOf(std::size_t number, const Step &step) {
+Json FieldsOf(std::size_t number, const std::vector<Step> &steps) {
+  const Step &step = steps[steps.size() - number];
   Json fields{{"number", number},
               {"command", step.command},
               {"changes", Json::array()}};
@@ -287,6 +292,8 @@ Json FieldsOf(std::size_t number, const Step &step) {
              {"channel", ChannelField(*change.setting, change.channel)}};
     AddValue("before", change, change.before, &one);
     AddValue("after", change, change.after, &one);
+    const auto leftAlone = IsLeftAlone(steps, number, change);
+    one["leftAlone"] = leftAlone ? Json(*leftAlone) : Json();
     fields["changes"].push_back(std::move(one));
   }
   return fields;
@@ -295,10 +302,9 @@ Json FieldsOf(std::size_t number, const Step &step) {
 void ListSteps(const std::vector<Step> &steps, Report *report) {
   report->isAnswer = true;
   report->fields["steps"] = Json::array();
-  std::size_t number = 0;
-  for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
-    report->fields["steps"].push_back(FieldsOf(++number, *step));
-    report->text += ListedStep(number, *step);
+  for (std::size_t number = 1; number <= steps.size(); ++number) {
+    report->fields["steps"].push_back(FieldsOf(number, steps));
+    report->text += ListedStep(number, steps);
   }
   report->text = steps.empty()
                      ? "Nothing to undo.\n"

@@ -82,6 +82,15 @@ std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
   return items;
 }
 
+std::optional<bool> IsLeftAlone(const std::vector<Step> &steps,
+                                std::size_t count, const PastChange &change) {
+  if (!WhyUnreadable(*change.setting).empty()) return std::nullopt;
+  const std::vector<UndoItem> items = PlanUndo(steps, count);
+  return std::any_of(items.begin(), items.end(), [&](const UndoItem &item) {
+    return item.action == Action::LeaveAlone && IsSamePlace(item, change);
+  });
+}
+
 bool IsVoid(const Step &step) {
   return std::all_of(
       step.changes.begin(), step.changes.end(), [](const PastChange &change) {

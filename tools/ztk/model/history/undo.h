@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,12 @@ std::string WhyUnreadable(const Step &step);
 // What undo of the last `count` steps does, the last change first.
 std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
                                std::size_t count = 1);
+
+// Whether undo of the last `count` steps, which include this change, leaves the
+// value alone because another program has set it. None if the settings file
+// cannot be read.
+std::optional<bool> IsLeftAlone(const std::vector<Step> &steps,
+                                std::size_t count, const PastChange &change);
 
 // True when no change of the step is in effect: its command was interrupted,
 // all of it was taken back already, or another program has put the former
