@@ -108,7 +108,7 @@ constexpr Simple kPlug{
     .name = "plug", .summary = "Plug mixers in", .done = "plugged in"};
 constexpr Simple kUnplug{
     .name = "unplug",
-    .summary = "Unplug mixers; they keep what they have received",
+    .summary = "Unplug mixers; they keep their values and faults",
     .done = "unplugged"};
 constexpr Simple kForbid{.name = "forbid",
                          .summary = "Forbid opening mixers",

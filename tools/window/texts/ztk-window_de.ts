@@ -335,12 +335,12 @@
         <translation>der Stecker oder die Stromversorgung sitzt vielleicht lose</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>es ist angeschlossen und darf geöffnet werden, startet aber noch oder hängt; schalten Sie es aus und wieder ein, oder geben Sie den Befehl ein, der dasselbe tut</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>es ist angeschlossen und darf geöffnet werden, startet aber noch oder hängt; schalten Sie es aus und wieder ein, oder geben Sie den Befehl ein</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>es ist angeschlossen und darf geöffnet werden, aber etwas darin versagt; schalten Sie es aus und wieder ein, oder geben Sie den Befehl ein, der dasselbe tut</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>es ist angeschlossen und darf geöffnet werden, aber etwas darin versagt; schalten Sie es aus und wieder ein, oder geben Sie den Befehl ein</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

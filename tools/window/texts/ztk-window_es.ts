@@ -335,12 +335,12 @@
         <translation>el cable o la alimentación puede estar flojo</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>está conectada y se puede abrir, pero aún arranca o está bloqueada; apáguela y enciéndala, o escriba la orden que hace lo mismo</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>está conectada y se puede abrir, pero aún arranca o está bloqueada; apáguela y enciéndala, o escriba esta orden</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>está conectada y se puede abrir, pero algo falla en ella; apáguela y enciéndala, o escriba la orden que hace lo mismo</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>está conectada y se puede abrir, pero algo falla en ella; apáguela y enciéndala, o escriba esta orden</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

@@ -335,12 +335,12 @@
         <translation>la prise ou l’alimentation est peut-être mal fixée</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>elle est connectée et peut être ouverte, mais elle démarre encore ou est bloquée ; éteignez-la et rallumez-la, ou tapez la commande équivalente</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>elle est connectée et peut être ouverte, mais elle démarre encore ou est bloquée ; éteignez-la et rallumez-la, ou tapez cette commande</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>elle est connectée et peut être ouverte, mais quelque chose y échoue ; éteignez-la et rallumez-la, ou tapez la commande équivalente</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>elle est connectée et peut être ouverte, mais quelque chose y échoue ; éteignez-la et rallumez-la, ou tapez cette commande</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

@@ -335,12 +335,12 @@
         <translation>la spina o l’alimentazione potrebbe essere allentata</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>è collegato e può essere aperto, ma si sta ancora avviando o è bloccato; spegnerlo e riaccenderlo, o digitare il comando equivalente</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>è collegato e può essere aperto, ma si sta ancora avviando o è bloccato; spegnerlo e riaccenderlo, o digitare questo comando</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>è collegato e può essere aperto, ma qualcosa al suo interno non funziona; spegnerlo e riaccenderlo, o digitare il comando equivalente</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>è collegato e può essere aperto, ma qualcosa al suo interno non funziona; spegnerlo e riaccenderlo, o digitare questo comando</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

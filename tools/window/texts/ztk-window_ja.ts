@@ -335,12 +335,12 @@
         <translation>ケーブルまたは電源の接触が悪い可能性があります</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>接続されていて開くこともできますが、起動中か応答停止中です。電源を入れ直すか、同じ働きをするコマンドを入力してください</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>接続されていて開くこともできますが、起動中か応答停止中です。電源を入れ直すか、このコマンドを入力してください</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>接続されていて開くこともできますが、内部で障害が起きています。電源を入れ直すか、同じ働きをするコマンドを入力してください</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>接続されていて開くこともできますが、内部で障害が起きています。電源を入れ直すか、このコマンドを入力してください</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

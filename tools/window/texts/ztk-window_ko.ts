@@ -335,12 +335,12 @@
         <translation>케이블이나 전원이 헐거울 수 있습니다</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>연결되어 있고 열 수 있지만 아직 시작 중이거나 멈춰 있습니다. 전원을 껐다 켜거나 같은 일을 하는 명령을 입력하십시오</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>연결되어 있고 열 수 있지만 아직 시작 중이거나 멈춰 있습니다. 전원을 껐다 켜거나 이 명령을 입력하십시오</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>연결되어 있고 열 수 있지만 내부에 문제가 있습니다. 전원을 껐다 켜거나 같은 일을 하는 명령을 입력하십시오</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>연결되어 있고 열 수 있지만 내부에 문제가 있습니다. 전원을 껐다 켜거나 이 명령을 입력하십시오</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

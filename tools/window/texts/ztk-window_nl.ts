@@ -335,12 +335,12 @@
         <translation>de stekker of de voeding zit misschien los</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>het is aangesloten en mag worden geopend, maar het start nog of hangt; zet het uit en weer aan, of typ de opdracht die hetzelfde doet</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>het is aangesloten en mag worden geopend, maar het start nog of hangt; zet het uit en weer aan, of typ deze opdracht</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>het is aangesloten en mag worden geopend, maar er gaat iets in mis; zet het uit en weer aan, of typ de opdracht die hetzelfde doet</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>het is aangesloten en mag worden geopend, maar er gaat iets in mis; zet het uit en weer aan, of typ deze opdracht</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

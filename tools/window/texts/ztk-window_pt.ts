@@ -335,12 +335,12 @@
         <translation>o cabo ou a alimentação pode estar solto</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>está ligada e pode ser aberta, mas ainda está a arrancar ou bloqueou; desligue-a e ligue-a, ou escreva o comando que faz o mesmo</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>está ligada e pode ser aberta, mas ainda está a arrancar ou bloqueou; desligue-a e ligue-a, ou escreva este comando</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>está ligada e pode ser aberta, mas algo nela falha; desligue-a e ligue-a, ou escreva o comando que faz o mesmo</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>está ligada e pode ser aberta, mas algo nela falha; desligue-a e ligue-a, ou escreva este comando</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

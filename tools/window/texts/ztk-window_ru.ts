@@ -335,12 +335,12 @@
         <translation>возможно, плохо держится кабель или питание</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>он подключён и доступен, но ещё запускается или завис; выключите и включите его или введите команду, которая делает то же самое</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>он подключён и доступен, но ещё запускается или завис; выключите и включите его или введите эту команду</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>он подключён и доступен, но в нём что-то не работает; выключите и включите его или введите команду, которая делает то же самое</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>он подключён и доступен, но в нём что-то не работает; выключите и включите его или введите эту команду</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

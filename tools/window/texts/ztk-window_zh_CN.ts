@@ -335,12 +335,12 @@
         <translation>插头或电源可能松动</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>它已连接且可以打开，但仍在启动或已停止响应；请关闭后再打开，或输入具有相同作用的命令</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>它已连接且可以打开，但仍在启动或已停止响应；请关闭后再打开，或输入此命令</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>它已连接且可以打开，但内部出现故障；请关闭后再打开，或输入具有相同作用的命令</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>它已连接且可以打开，但内部出现故障；请关闭后再打开，或输入此命令</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

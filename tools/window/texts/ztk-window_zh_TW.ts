@@ -335,12 +335,12 @@
         <translation>插頭或電源可能鬆動</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command, which does the same</source>
-        <translation>它已連接且可以開啟，但仍在啟動或已停止回應；請關閉後再開啟，或輸入具有相同作用的指令</translation>
+        <source>it is attached and may be opened, but it is still starting or hangs; switch it off and on again, or run this command</source>
+        <translation>它已連接且可以開啟，但仍在啟動或已停止回應；請關閉後再開啟，或輸入此指令</translation>
     </message>
     <message>
-        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command, which does the same</source>
-        <translation>它已連接且可以開啟，但內部發生故障；請關閉後再開啟，或輸入具有相同作用的指令</translation>
+        <source>it is attached and may be opened, but requests to it fail; switch it off and on again, or run this command</source>
+        <translation>它已連接且可以開啟，但內部發生故障；請關閉後再開啟，或輸入此指令</translation>
     </message>
     <message>
         <source>only root may open it, because no udev rule grants you access</source>

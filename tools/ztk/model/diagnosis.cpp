@@ -19,15 +19,13 @@ Finding ExplainUnanswered(const Mixer &mixer, const std::string &place) {
             .command = "ztk doctor"};
   }
   const bool silent = mixer.state == MixerState::Silent;
-  return {
-      .id = silent ? "silent" : "refusing",
-      .what = mixer.message,
-      .cause =
-          std::string("it is attached and may be opened, but ") +
-          (silent ? "it is still starting or hangs" : "requests to it fail") +
-          "; switch it off and on again, or run this command, which does "
-          "the same",
-      .command = RestartCommand(mixer.number, place)};
+  return {.id = silent ? "silent" : "refusing",
+          .what = mixer.message,
+          .cause = std::string("it is attached and may be opened, but ") +
+                   (silent ? "it is still starting or hangs"
+                           : "requests to it fail") +
+                   "; switch it off and on again, or run this command",
+          .command = RestartCommand(mixer.number, place)};
 }
 
 Finding ExplainSilence(const SilentRouting &routing, bool namesMixer) {
