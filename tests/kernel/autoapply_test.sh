@@ -73,7 +73,12 @@ nothing_to_do() {
 
 something_logged() { [[ $(runs_logged) != 0 ]]; }
 
-user_has_gone() { ! systemctl --quiet is-active "$user_manager"; }
+# Succeeds if the user's systemd has ended.
+user_has_gone() {
+  [[ $(systemctl is-active "$user_manager") =~ ^(inactive|failed)$ ]]
+}
+
+something_written() { [[ $(writes) != "" ]]; }
 
 until_true() {  # function
   local tries
@@ -142,3 +147,13 @@ loginctl terminate-user guest || true
 until_true user_has_gone
 plug_in_again_without_user
 expect "nothing is sent for a user who has logged out" "" "$(writes)"
+
+systemctl start guest-session
+/bin/bash /run/guest/wait-for-session
+until_true something_written
+until_true nothing_to_do
+expect "logging in sends the choices to mixers that are attached" \
+  "mixer 1: 40 03 0200 8003 0000
+mixer 1: 40 03 0206 8002 0000
+mixer 2: 40 03 0200 8003 0000
+mixer 2: 40 03 0206 8002 0000" "$(writes | sort -u)"

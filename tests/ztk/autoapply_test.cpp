@@ -141,27 +141,45 @@ TEST_F(Autoapply, SaysWhyItIsRefused) {
   }
 }
 
-TEST_F(Autoapply, SaysThatThereIsNoSystemd) {
+TEST_F(Autoapply, CannotBeTurnedOnWithoutSystemd) {
   manager_.reset();
-  for (const char *verb : {"on", "off", "status"}) {
+  const Result result =
+      WithFiles({kPlugInRule}, "rm -r /run/systemd/system; ztk autoapply on");
+  SKIP_WITHOUT_NAMESPACE(result);
+  EXPECT_EQ(result.status, 5);
+  EXPECT_EQ(result.out, "");
+  // This is the reason, although the unit's file is missing too.
+  EXPECT_EQ(result.err,
+            "ztk: autoapply is off and cannot be turned on, because this "
+            "system does not run systemd; run 'ztk apply' each time you have "
+            "plugged a mixer in\n");
+}
+
+TEST_F(Autoapply, IsOffWithoutSystemd) {
+  manager_.reset();
+  for (const char *verb : {"off", "status"}) {
     SCOPED_TRACE(verb);
     const Result result =
         WithFiles({kPlugInRule}, "rm -r /run/systemd/system; ztk autoapply " +
                                      std::string(verb));
     SKIP_WITHOUT_NAMESPACE(result);
-    EXPECT_EQ(result.status, 5);
-    EXPECT_EQ(result.out, "");
-    // The same reason for all, although the unit's file is missing too.
-    EXPECT_EQ(result.err,
-              "ztk: autoapply is off and cannot be turned on, because this "
-              "system does not run systemd; run 'ztk apply' each time you have "
-              "plugged a mixer in\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(
+        result.out,
+        "Off: the remembered settings are sent when you run 'ztk apply'.\n");
+    EXPECT_EQ(
+        result.err,
+        "ztk: warning: autoapply is off and cannot be turned on, because this "
+        "system does not run systemd; run 'ztk apply' each time you have "
+        "plugged a mixer in\n");
   }
 }
 
 TEST_F(Autoapply, SaysThatThereIsNoBus) {
-  const Result result = OneMixer(
+  const Result result = WithFiles(
+      {},
       "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere ztk autoapply off --json");
+  SKIP_WITHOUT_NAMESPACE(result);
   EXPECT_EQ(result.status, 5);
   EXPECT_EQ(OneObject(result.out)["error"]["code"], "failed");
   EXPECT_THAT(result.err, StartsWith("ztk: autoapply "));

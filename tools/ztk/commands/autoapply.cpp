@@ -30,6 +30,13 @@ Report Describe(bool on) {
   return report;
 }
 
+// Off, and with the reason why it cannot be turned on.
+Report DescribeWithout(const NoUserManager &reason) {
+  Report report = Describe(false);
+  report.warnings.emplace_back(reason.what());
+  return report;
+}
+
 }  // namespace
 
 Report TurnAutoapplyOn(const Arguments & /*arguments*/) {
@@ -38,12 +45,22 @@ Report TurnAutoapplyOn(const Arguments & /*arguments*/) {
 }
 
 Report TurnAutoapplyOff(const Arguments & /*arguments*/) {
-  SetAutoapply(false);
-  return Describe(IsAutoapplyOn());
+  try {
+    SetAutoapply(false);
+    return Describe(IsAutoapplyOn());
+  } catch (const NoUserManager &reason) {
+    return DescribeWithout(reason);
+  }
 }
 
 Report ShowAutoapply(const Arguments & /*arguments*/) {
-  Report report = Describe(IsAutoapplyOn());
+  Report report = [] {
+    try {
+      return Describe(IsAutoapplyOn());
+    } catch (const NoUserManager &reason) {
+      return DescribeWithout(reason);
+    }
+  }();
   report.isAnswer = true;
   return report;
 }

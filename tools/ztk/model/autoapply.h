@@ -5,10 +5,12 @@
 #ifndef ZTK_TOOLS_ZTK_MODEL_AUTOAPPLY_H_
 #define ZTK_TOOLS_ZTK_MODEL_AUTOAPPLY_H_
 
+#include "ztk/system/user_manager.h"
+
 namespace ztk::model {
 
-// Both functions throw std::runtime_error with the reason if the system has no
-// such service, or if the service fails.
+// Both functions throw NoUserManager if the system has no such service, and
+// std::runtime_error if the service fails, with the reason.
 
 bool IsAutoapplyOn();
 void SetAutoapply(bool on);

@@ -6,12 +6,20 @@
 #define ZTK_TOOLS_ZTK_SYSTEM_USER_MANAGER_H_
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 namespace ztk::model {
 
+// The system has no such service, so no unit can be linked either.
+class NoUserManager : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 // Each of these functions, also the constructor, throws std::runtime_error with
-// the reason if there is no manager, or if it does not do what it is asked.
+// the reason if the manager cannot be reached, or if it does not do what it is
+// asked, and NoUserManager if the system has none.
 class UserManager {
  public:
   UserManager();

@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <stdexcept>
 
 #include "cli/strings.h"
 #include "platform/linux/bus_connection.h"
@@ -24,6 +23,9 @@ constexpr std::uint64_t kTimeLimit = 4'400'000;
 constexpr char kService[] = "org.freedesktop.systemd1";
 constexpr char kObject[] = "/org/freedesktop/systemd1";
 constexpr char kInterface[] = "org.freedesktop.systemd1.Manager";
+
+constexpr char kInstead[] =
+    "; run 'ztk apply' each time you have plugged a mixer in";
 
 constexpr char kRule[] = "71-ztk-apply.rules";
 
@@ -53,14 +55,15 @@ class Answer {
 bool SystemdRuns() { return access("/run/systemd/system", F_OK) == 0; }
 
 [[noreturn]] void Fail(const std::string &reason) {
+  if (!SystemdRuns()) {
+    throw NoUserManager(
+        "autoapply is off and cannot be turned on, because this system does "
+        "not run systemd" +
+        std::string(kInstead));
+  }
   throw std::runtime_error(
-      (SystemdRuns()
-           ? "autoapply needs the systemd of your session, which "
-             "cannot be used (" +
-                 cli::OneLine(reason) + ")"
-           : std::string("autoapply is off and cannot be turned on, "
-                         "because this system does not run systemd")) +
-      "; run 'ztk apply' each time you have plugged a mixer in");
+      "autoapply needs the systemd of your session, which cannot be used (" +
+      cli::OneLine(reason) + ")" + kInstead);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/system/user_manager.h"
 
-#include <stdexcept>
-
 namespace ztk::model {
 
 // launchd can start a program when a device is plugged in, but the program then
@@ -10,7 +8,7 @@ namespace ztk::model {
 struct UserManager::Connection {};
 
 UserManager::UserManager() {
-  throw std::runtime_error(
+  throw NoUserManager(
       "ztk autoapply is not built for macOS: nothing is started here "
       "when a mixer is plugged in; run 'ztk apply' after plugging "
       "in");
