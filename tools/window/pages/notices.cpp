@@ -67,11 +67,15 @@ QString TextOf(const MixerState &mixer) {
       .arg(mixer.number);
 }
 
-QLabel *Wrapped(const QString &text, QWidget *parent) {
-  auto *label = new WrappedText(text, parent);
+void MakeSelectable(QLabel *label) {
   label->setTextInteractionFlags(Qt::TextSelectableByMouse |
                                  Qt::TextSelectableByKeyboard);
   label->setFocusPolicy(Qt::NoFocus);
+}
+
+QLabel *Wrapped(const QString &text, QWidget *parent) {
+  auto *label = new WrappedText(text, parent);
+  MakeSelectable(label);
   return label;
 }
 
@@ -170,7 +174,7 @@ QList<FindingState> BannerOf(const State &state) {
 
 Notices::Notices(QWidget *parent)
     : QWidget(parent),
-      mixers_(Wrapped(QString(), this)),
+      mixers_(new WrappedText(this)),
       layout_(new QVBoxLayout(this)) {
   const int unit = fontMetrics().height();
   layout_->setContentsMargins(unit, unit / 2, unit, 0);
@@ -182,6 +186,9 @@ Notices::Notices(QWidget *parent)
 void Notices::showState(const State &state) {
   const QString text = MixerText(state);
   if (mixers_->text() != text) mixers_->setText(text);
+  // A text that can be selected is laid out as a document, which takes longer,
+  // so it is not one in the first frame.
+  if (state.mixersKnown) MakeSelectable(mixers_);
   const QList<FindingState> findings = BannerOf(state);
   if (findings != shown_) ShowFindings(findings);
 }

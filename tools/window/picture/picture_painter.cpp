@@ -31,6 +31,14 @@ QColor Mixed(const QColor &one, const QColor &other, qreal share) {
           part(one.blue(), other.blue())};
 }
 
+QList<QLineF> LinesOf(const Wire &wire) {
+  QList<QLineF> lines;
+  for (std::size_t i = 1; i < wire.points.size(); ++i) {
+    lines.append(QLineF(wire.points[i - 1], wire.points[i]));
+  }
+  return lines;
+}
+
 // A polyline with round corners.
 QPainterPath Rounded(const Wire &wire, qreal radius) {
   QPainterPath path(wire.points.front());
@@ -81,7 +89,8 @@ PicturePainter::PicturePainter(QPainter *painter, const PictureLayout &layout,
 }
 
 void PicturePainter::DrawMixer(const PictureState &state) {
-  painter_->setPen(QPen(signal_, Thin() * 1.4, Qt::SolidLine, Qt::RoundCap));
+  // Qt draws lines without round ends ten times as fast.
+  painter_->setPen(QPen(signal_, Thin() * 1.4, Qt::SolidLine, Qt::SquareCap));
   painter_->drawLines(layout_.signalLines);
   painter_->setPen(Qt::NoPen);
   painter_->setBrush(signal_);
@@ -194,15 +203,19 @@ void PicturePainter::DrawWire(const Wire &wire, InMixers inMixers,
   const QPointF tip = wire.points.back();
   Wire shortened = wire;
   shortened.points.back() = tip - QPointF(u * 0.5, 0);
-  const QPainterPath path = Rounded(shortened, u * 0.45);
+  const QList<QLineF> lines = LinesOf(shortened);
   // A gap where it crosses other lines makes it easier to follow.
-  painter_->setBrush(Qt::NoBrush);
   painter_->setPen(QPen(palette_.color(QPalette::Window),
-                        pen.widthF() + Thin() * 2, Qt::SolidLine, Qt::FlatCap,
-                        Qt::RoundJoin));
-  painter_->drawPath(path);
+                        pen.widthF() + Thin() * 2, Qt::SolidLine, Qt::FlatCap));
+  painter_->drawLines(lines);
+  painter_->setBrush(Qt::NoBrush);
   painter_->setPen(pen);
-  painter_->drawPath(path);
+  // Qt draws lines with dashes many times as fast as a path with dashes.
+  if (pen.style() == Qt::SolidLine) {
+    painter_->drawPath(Rounded(shortened, u * 0.45));
+  } else {
+    painter_->drawLines(lines);
+  }
   painter_->setPen(Qt::NoPen);
   painter_->setBrush(colour);
   painter_->drawPolygon(QPolygonF({tip, tip + QPointF(-u * 0.6, -u * 0.34),
