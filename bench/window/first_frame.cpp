@@ -59,7 +59,13 @@ class FrameWatch : public QObject {
     if (event->type() != QEvent::Paint || seen_) return false;
     seen_ = true;
     // When the loop is reached again the frame is drawn.
-    QTimer::singleShot(0, this, [this] { first_ = MillisecondsSinceStart(); });
+    QTimer::singleShot(0, this, [this] {
+      first_ = MillisecondsSinceStart();
+      if (!qEnvironmentVariableIsSet("BENCH_FIRST_FRAME_ONLY")) return;
+      std::printf("%.1f\n", first_);
+      std::fflush(stdout);
+      QApplication::quit();
+    });
     QTimer::singleShot(kSettled, this, [this] { wakings_ = Wakings(); });
     QTimer::singleShot(kSettled + kIdle, this, [this] {
       const long wakings = Wakings() - wakings_;
