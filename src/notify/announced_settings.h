@@ -31,7 +31,8 @@ inline const AnnouncedSetting kInputAudio{
     .delivery = Delivery::Immediately};
 
 // Deliberate: this setting is posted under one model and observed under another
-// one. So a change that the library announces never reaches its own callback.
+// one. So a callback that is registered for this setting never receives a
+// change that the library announces.
 inline const AnnouncedSetting kOutputAudio{
     .nameFormat = ZTK_TEXT("%@ OutputAudio Change"),
     .postedModel = ZTK_TEXT("VRM-B5"),

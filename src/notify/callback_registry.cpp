@@ -80,8 +80,9 @@ template <typename Callback>
 ZTKResult Register(const Registration<Callback> &registration,
                    std::uint32_t productId, Callback callback, void *context) {
   if (_ZTKFunc == nullptr) _ZTKFunc = AllocateObserver();
-  // Deliberate: the pointer is cleared, but the record is not released. The
-  // next announcement does not release it either.
+  // Deliberate: the pointer to the record of the last announcement is cleared,
+  // but the record is not released. The next announcement releases only what
+  // the pointer refers to, so this record is never released.
   *registration.lastInfo = nullptr;
 
   const AnnouncedSetting &setting = registration.setting;
@@ -94,8 +95,8 @@ ZTKResult Register(const Registration<Callback> &registration,
   return ZTK_SUCCESS;
 }
 
-// Returns the slot of the product in a notification. Returns -1 if the product
-// has no slot: another program may have posted any number.
+// A notification contains a product id. Returns the slot of that product, or -1
+// if it has none: another program may have posted any number.
 std::int32_t SlotOf(const UserInfo *userInfo) {
   const std::int32_t productId = center::ReadNumber(userInfo, kProductKey);
   return productId >= 0 && productId < kSlots ? productId : -1;

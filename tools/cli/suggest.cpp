@@ -10,7 +10,8 @@ namespace ztk::cli {
 
 namespace {
 
-// A longer word is not a mistyped one, and the comparison takes time.
+// Only this many bytes of a word are compared, because the comparison takes
+// time and a mistyped word is not longer.
 constexpr std::size_t kLongestWord = 100;  // bytes
 
 // Removes spaces and dashes and folds case: "post ch2", "PostCH2" and
@@ -27,7 +28,8 @@ std::string Folded(const std::string &text) {
 }
 
 // The edit distance (insertion, deletion, replacement, swap of neighbours)
-// between `word` and `text`, or the part of `text` that is most similar.
+// between `word` and `text`. If `ofPart` is true: between `word` and the part
+// of `text` that is most similar to it.
 std::size_t Differences(const std::string &word, const std::string &text,
                         bool ofPart) {
   using Row = std::vector<std::size_t>;
@@ -51,8 +53,10 @@ std::size_t Differences(const std::string &word, const std::string &text,
   return ofPart ? *std::min_element(last.begin(), last.end()) : last.back();
 }
 
-// The largest accepted distance: a third of the shorter word. It is smaller for
-// a part of the text, because a few letters are found in almost any text.
+// The largest accepted distance. For the whole text it is a third of the size
+// of the shorter one, but at least 1, and 0 for a word of fewer than three
+// bytes. For a part of the text it is at most that, and 0 if the text is not
+// longer than the word, because a few letters are found in almost any text.
 std::size_t MostDifferences(const std::string &word, const std::string &text,
                             bool ofPart) {
   if (ofPart) return text.size() > word.size() ? (word.size() - 1) / 3 : 0;
@@ -76,8 +80,8 @@ std::size_t WordsIn(const std::string &words, const std::string &text) {
   return count;
 }
 
-// The only text that contains more of the words than every other text. Empty if
-// there is none.
+// The text that contains more of the words than every other text. Empty if
+// there is no such text.
 std::string WithMostWords(const std::string &words,
                           const std::vector<std::string> &accepted) {
   std::string best;

@@ -22,9 +22,10 @@ inline constexpr char kInterruptedAsking[] = "interrupted; nothing was changed";
 
 inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
 // The longest time, in seconds, that questions to all mixers usually take. All
-// mixers are asked at the same time, and a mixer that has not answered a
-// request within one second receives no other one. Another second is for asking
-// again, because a mixer was plugged in or unplugged meanwhile.
+// mixers are asked at the same time. A mixer that has not answered a request
+// within one second is sent no further request in that round. The other second
+// is for a second round: all mixers are asked again if one did not answer and a
+// mixer was plugged in or unplugged meanwhile.
 inline constexpr int kLongestQuestion = 2;
 
 // While it exists, shows on the error stream what the program waits for and for
@@ -56,7 +57,8 @@ class Progress {
   std::thread thread_;
 };
 
-// Exists while the user is asked a question and nothing else is being done.
+// While it exists, the message after Ctrl-C is kInterruptedAsking. Make one
+// while the user is asked a question and nothing has been done yet.
 class Asking {
  public:
   Asking();

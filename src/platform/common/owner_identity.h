@@ -11,7 +11,9 @@ namespace ztk::platform {
 
 // While this object exists, its thread accesses files as the owner of a path.
 // The owner is the user who owns the first component of the path that does not
-// belong to root: this user controls everything below that component.
+// belong to root: this user controls everything below that component. A file at
+// the end of the path does not count. If there is no such component, the owner
+// is root.
 //
 // The identity changes only if the effective user is root and the owner is
 // another user, for example after `sudo` with the HOME of a user. Then the

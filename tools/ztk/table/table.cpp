@@ -338,30 +338,30 @@ ztk::cli::Program ztk::cli::ThisProgram(const std::string &firstWord) {
   // If no command begins with this word, the error message lists all commands.
   const std::string word = commands.empty() ? "" : firstWord;
   if (commands.empty()) commands = MakeCommands(word);
-  return {
-      .name = "ztk",
-      .version = build::kVersion,
-      .summary = "settings of the USB DJ mixer VRM-D6",
-      .about =
-          "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
-          "Channels and choices are numbered from 1, in the order in "
-          "which they are listed.",
-      .examples = {"ztk status", "ztk input list 2",
-                   "ztk input set 2 \"post ch2 fader\"",
-                   "ztk input set 2 mic --dry-run", "ztk undo"},
-      .options = {{.names = Parameter::kJson,
-                   .value = "",
-                   .description = "Write the answer as JSON"},
-                  {.names = std::string("-q,") + Parameter::kQuiet,
-                   .value = "",
-                   .description =
-                       "Do not confirm changes: print only errors, warnings "
-                       "and what a command shows, such as values"}},
-      .groups = MakeGroups(word),
-      .commands = std::move(commands),
-      .exitStatuses = MakeExitStatuses,
-      .introduction = ManualIntroduction,
-      .sections = ManualSections,
-      .seeAlso = {"ztk-virtual-mixer(1)", "ZTKFunc(3)"},
-      .advice = MakeAdvice};
+  return {.name = "ztk",
+          .version = build::kVersion,
+          .summary = "settings of the USB DJ mixer VRM-D6",
+          .about =
+              "Settings of the USB DJ mixer VRM-D6 and its sister models.\n"
+              "Channels and choices are numbered from 1, in the order in "
+              "which they are listed.",
+          .examples = {"ztk status", "ztk input list 2",
+                       "ztk input set 2 \"post ch2 fader\"",
+                       "ztk input set 2 mic --dry-run", "ztk undo"},
+          .options = {{.names = Parameter::kJson,
+                       .value = "",
+                       .description = "Write the answer as JSON"},
+                      {.names = std::string("-q,") + Parameter::kQuiet,
+                       .value = "",
+                       .description =
+                           "Print nothing about changes that succeed: only "
+                           "errors, warnings and what a command shows, such as "
+                           "values"}},
+          .groups = MakeGroups(word),
+          .commands = std::move(commands),
+          .exitStatuses = MakeExitStatuses,
+          .introduction = ManualIntroduction,
+          .sections = ManualSections,
+          .seeAlso = {"ztk-virtual-mixer(1)", "ZTKFunc(3)"},
+          .advice = MakeAdvice};
 }

@@ -27,12 +27,10 @@ const char *FilesFact() {
 const char *SettingsFolderFact() { return "tarvix/Preferences/"; }
 
 const char *AutoapplyFact() {
-  return "It is off until you turn it on, and applies to your user only. It "
-         "also\n"
-         "sends when you log in while a mixer is attached. For a mixer that "
-         "is\n"
-         "attached now, run ztk apply. Your journal shows what was sent, and\n"
-         "when:\n"
+  return "It is off until you turn it on, and applies to your user only. It\n"
+         "also sends when you log in while a mixer is attached. For a mixer\n"
+         "that is attached now, run ztk apply --all. Your journal shows what\n"
+         "was sent, and when:\n"
          "  journalctl --user -t ztk-apply";
 }
 
