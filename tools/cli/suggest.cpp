@@ -53,10 +53,11 @@ std::size_t Differences(const std::string &word, const std::string &text,
   return ofPart ? *std::min_element(last.begin(), last.end()) : last.back();
 }
 
-// The largest accepted distance. For the whole text it is a third of the size
-// of the shorter one, but at least 1, and 0 for a word of fewer than three
-// bytes. For a part of the text it is at most that, and 0 if the text is not
-// longer than the word, because a few letters are found in almost any text.
+// The largest accepted distance. For the whole text it is 0 if the word has
+// fewer than three bytes. Otherwise it is a third of the size of the word or of
+// the text, whichever is shorter, but at least 1. A few letters are found in
+// almost any text, so it is smaller for a part of the text: a third of one byte
+// less than the word, or 0 if the text is not longer than the word.
 std::size_t MostDifferences(const std::string &word, const std::string &text,
                             bool ofPart) {
   if (ofPart) return text.size() > word.size() ? (word.size() - 1) / 3 : 0;

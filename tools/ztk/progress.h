@@ -22,9 +22,9 @@ inline constexpr char kInterruptedAsking[] = "interrupted; nothing was changed";
 
 inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
 // The longest time, in seconds, that questions to all mixers usually take. All
-// mixers are asked at the same time. A mixer that has not answered a request
-// within one second is sent no further request in that round. The other second
-// is for a second round: all mixers are asked again if one did not answer and a
+// mixers are asked at the same time, and a mixer that has not answered a
+// request within one second is sent no further request, so asking all of them
+// takes at most one second. All are asked once more if one did not answer and a
 // mixer was plugged in or unplugged meanwhile.
 inline constexpr int kLongestQuestion = 2;
 
@@ -67,9 +67,9 @@ class Asking {
   Asking &operator=(const Asking &) = delete;
 };
 
-// From now on Ctrl-C ends the program with status 130 and a message;
-// `jsonLine`, if not empty, is written to the output before. While the library
-// replaces a settings file it blocks the signal, so the file is always
+// From now on Ctrl-C ends the program with status 130. It writes `jsonLine`, if
+// not empty, to the output and the message to the error stream. While the
+// library replaces a settings file it blocks the signal, so the file is always
 // complete. Does nothing when the signal was ignored already.
 void EndOnInterrupt(const std::string &jsonLine);
 
