@@ -55,9 +55,8 @@ std::size_t Differences(const std::string &word, const std::string &text,
 
 // The largest accepted distance. For the whole text it is 0 if the word has
 // fewer than three bytes. Otherwise it is a third of the size of the word or of
-// the text, whichever is shorter, but at least 1. A few letters are found in
-// almost any text, so it is smaller for a part of the text: a third of one byte
-// less than the word, or 0 if the text is not longer than the word.
+// the text, whichever is shorter, but at least 1. For a part of the text it is
+// (size of the word - 1) / 3, and 0 if the text is not longer than the word.
 std::size_t MostDifferences(const std::string &word, const std::string &text,
                             bool ofPart) {
   if (ofPart) return text.size() > word.size() ? (word.size() - 1) / 3 : 0;

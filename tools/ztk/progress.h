@@ -21,11 +21,9 @@ inline constexpr char kInterrupted[] =
 inline constexpr char kInterruptedAsking[] = "interrupted; nothing was changed";
 
 inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
-// The longest time, in seconds, that questions to all mixers usually take. All
-// mixers are asked at the same time, and a mixer that has not answered a
-// request within one second is sent no further request, so asking all of them
-// takes at most one second. All are asked once more if one did not answer and a
-// mixer was plugged in or unplugged meanwhile.
+// How many seconds the mixers are usually waited for at most: one second for
+// mixers that do not answer, and one more if all mixers are asked again because
+// one was plugged in or unplugged meanwhile.
 inline constexpr int kLongestQuestion = 2;
 
 // While it exists, shows on the error stream what the program waits for and for

@@ -53,9 +53,9 @@ struct MixerStatus {
 };
 
 // All attached mixers in the order of the bus. They are asked at the same time,
-// and a mixer that does not answer is not asked again, so this takes as long as
-// one request. Asks all again when a mixer was plugged in or unplugged during
-// this.
+// and a mixer that does not answer is not asked again, so this usually takes
+// at most one second. Asks all again when a mixer was plugged in or unplugged
+// during this.
 std::vector<MixerStatus> AskEveryMixer();
 
 // Asks all attached mixers in the same way, but only for the positions of their
