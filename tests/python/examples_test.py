@@ -143,12 +143,17 @@ class RoutingPage(unittest.TestCase):
         changes = self.get("/changes")
         page = self.get("/").read().decode()
         self.assertIn('<td id="usb2">REC OUT</td>', page)
+
+        def next_change() -> object:
+            line = changes.readline().decode()
+            self.assertEqual(changes.readline(), b"\n")
+            return json.loads(line.removeprefix("data: "))
+
+        now = [next_change() for _ in range(5)]
+        self.assertEqual(now[1], {"channel": 2, "text": "REC OUT"})
+        self.assertEqual(now[4], {"channel": 5, "text": "REC OUT"})
         ztk("input", "set", "2", "Post CH2 Fader")
-        line = changes.readline().decode()
-        self.assertEqual(
-            json.loads(line.removeprefix("data: ")),
-            {"channel": 2, "text": "Post CH2 Fader"},
-        )
+        self.assertEqual(next_change(), {"channel": 2, "text": "Post CH2 Fader"})
 
     def test_a_request_for_another_host_or_path_is_refused(self) -> None:
         self.assertEqual(self.get("/", Host="evil.example:80").status, 403)

@@ -21,10 +21,11 @@ import ztkfunc
 
 async def log(file: TextIO, with_heading: bool) -> None:
     rows = csv.writer(file)
-    if with_heading:
-        rows.writerow(["time", "setting", "channel", "number", "text"])
     async with ztkfunc.changes() as changes:
-        file.flush()
+        # The heading shows that from now on no change is missed.
+        if with_heading:
+            rows.writerow(["time", "setting", "channel", "number", "text"])
+            file.flush()
         async for change in changes:
             now = datetime.datetime.now(datetime.timezone.utc)
             rows.writerow(

@@ -69,18 +69,24 @@ class Handler(http.server.BaseHTTPRequestHandler):
         self.wfile.write(body)
 
     def send_changes(self) -> None:
-        self.send_response(200)
-        self.send_header("Content-Type", "text/event-stream")
-        self.send_header("Cache-Control", "no-store")
-        self.end_headers()
-        self.wfile.flush()
         changes: queue.Queue[ztkfunc.Change] = queue.Queue()
+        # First the subscription, then the routing: so the page misses no change.
         with ztkfunc.subscribe(changes.put):
             try:
+                self.send_response(200)
+                self.send_header("Content-Type", "text/event-stream")
+                self.send_header("Cache-Control", "no-store")
+                self.end_headers()
+                for channel, choice in ztkfunc.Mixer().input.items():
+                    self.send_event(channel, choice)
                 while True:
                     self.send_next(changes)
             except OSError:  # the browser has closed the connection
                 pass
+
+    def send_event(self, channel: int | None, choice: str | None) -> None:
+        data = json.dumps({"channel": channel, "text": choice or "not a choice"})
+        self.wfile.write(f"data: {data}\n\n".encode("utf-8"))
 
     def send_next(self, changes: queue.Queue[ztkfunc.Change]) -> None:
         try:
@@ -90,9 +96,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
             self.wfile.write(b": keep-alive\n\n")
             return
         if change.setting == "input":
-            text = change.text or "not a choice"
-            data = json.dumps({"channel": change.channel, "text": text})
-            self.wfile.write(f"data: {data}\n\n".encode("utf-8"))
+            self.send_event(change.channel, change.text)
 
     def log_message(self, format: str, *_arguments: object) -> None:
         """Requests are not logged."""
