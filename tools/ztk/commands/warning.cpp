@@ -96,59 +96,47 @@ bool IsWrong(const std::optional<std::uint8_t> &position) {
   return position != input_audio::kAudiblePosition;
 }
 
-// "mixer 2: ", "mixers 2, 3: ": the mixers whose selector is in a wrong
-// position.
-std::string MixersWithWrongSelector(std::uint32_t channel,
-                                    const std::vector<MixerStatus> &mixers) {
-  std::vector<std::string> numbers;
-  for (const MixerStatus &mixer : mixers) {
-    if (!mixer.selectors.value) continue;
-    if (!IsWrong((*mixer.selectors.value)[channel])) continue;
-    numbers.push_back(std::to_string(mixer.mixer.number));
-  }
-  if (numbers.empty()) return "";
-  return (numbers.size() == 1 ? "mixer " : "mixers ") + cli::Listed(numbers) +
-         ": ";
-}
-
-// Adds sentences of this program, if the library has none: one for each mixer
-// whose selector is in a wrong position.
-void AddPlainSentences(std::uint32_t channel, const std::string &what,
-                       const std::string &place,
-                       const std::vector<MixerStatus> &mixers, Report *report) {
+// For each mixer whose selector is in a wrong position, a sentence of this
+// program that names both positions.
+std::vector<std::string> PlainSentences(
+    std::uint32_t channel, const std::string &what,
+    const std::vector<MixerStatus> &mixers) {
+  std::vector<std::string> sentences;
   for (const MixerStatus &mixer : mixers) {
     if (!mixer.selectors.value) continue;
     const auto position = (*mixer.selectors.value)[channel];
     if (!position || !IsWrong(position)) continue;
-    report->warnings.push_back(place +
-                               SelectorSentence({.mixer = mixer.mixer.number,
-                                                 .channel = channel,
-                                                 .index = 0,
-                                                 .position = *position},
-                                                what, mixers.size() > 1));
+    sentences.push_back(SelectorSentence({.mixer = mixer.mixer.number,
+                                          .channel = channel,
+                                          .index = 0,
+                                          .position = *position},
+                                         what, mixers.size() > 1));
   }
+  return sentences;
 }
 
 // The sentence of the library does not name the channel, so `place` precedes
-// it. With several mixers, adds nothing if every selector is in the right
+// it. It does not name the positions either, so the plain sentences follow it.
+// With several mixers, adds nothing if every selector is in the right
 // position: the library also returns 101 because a mixer does not answer.
 void AddExplanation(std::uint32_t channel, const Reach &reach,
                     const std::string &what, const std::string &place,
                     Report *report) {
   ZTKTextRef text = nullptr;
   Sentence(channel, kUsersLanguage, &text);
-  std::vector<MixerStatus> mixers;
-  if (text == nullptr || reach.found() > 1) {
+  const std::vector<std::string> plain = [&] {
     const Progress progress(kWaitingForMixer, kLongestQuestion);
-    mixers = AskForSelectors();
-  }
+    return PlainSentences(channel, what, AskForSelectors());
+  }();
   if (text == nullptr) {
-    AddPlainSentences(channel, what, place, mixers, report);
-    return;
+    for (const std::string &sentence : plain) {
+      report->warnings.push_back(place + sentence);
+    }
+  } else if (reach.found() == 1 || !plain.empty()) {
+    std::string warning = place + Utf8(text);
+    for (const std::string &sentence : plain) warning += " (" + sentence + ")";
+    report->warnings.push_back(warning);
   }
-  const std::string numbers = MixersWithWrongSelector(channel, mixers);
-  if (reach.found() > 1 && numbers.empty()) return;
-  report->warnings.push_back(numbers + place + Utf8(text));
 }
 
 // Whether the user can correct what the warning describes. The fifth channel

@@ -14,12 +14,11 @@ namespace ztk::program {
 
 // Adds a warning that explains the result 101 (ZTK_WARNING) for a channel of
 // USB input audio. The warning is the sentence of the library in the user's
-// language. If the library has none, the warning is a sentence of this program:
-// it says in which position the selector is, and that `what` cannot be heard in
-// this position. With several mixers, the warning names the mixers whose
-// selector is in another position than needed. Adds nothing without a mixer, or
-// for a channel without a selector. May ask the mixers for the state of their
-// ports and selectors.
+// language, if the library has one, and a sentence of this program for each
+// mixer whose selector is in another position than needed: it says in which
+// position the selector is, and that `what` cannot be heard in this position.
+// Adds nothing without a mixer, or for a channel without a selector. Asks the
+// mixers for the state of their ports and selectors.
 void ExplainWarning(std::uint32_t channel, const std::string &what,
                     const Reach &reach, Report *report);
 

@@ -116,9 +116,9 @@ cli::Command MakeApply() {
 
 cli::Command MakeWarning() {
   cli::Command command = MakeGeneral(
-      "warning", "Show the text that explains why a channel is silent",
-      "If no mixer is attached, --language has no effect: the text is in your\n"
-      "own language.",
+      "warning", "Show the library's warning text about silent channels",
+      "Shows only the text; ztk status tells which channels are silent. If no\n"
+      "mixer is attached, the text is another one, in your own language.",
       "ztk warning --language de", ShowWarning);
   command.options = {
       cli::Offering({.names = Parameter::kOfChannel,
