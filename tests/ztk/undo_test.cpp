@@ -211,7 +211,7 @@ TEST_F(Undo, TakesBackSeveralChangesAtOnce) {
       "  1   input set    USB input 1: Post CH1 Fader (3), previously MIC (6)\n"
       "2\n2\n");
   EXPECT_THAT(Line(result.err, 0),
-              StartsWith("ztk: no change \"2\" to undo; nearest: 1; "));
+              StartsWith("ztk: no change \"2\" to undo; accepted: 1; "));
   EXPECT_EQ(Writes().back(), "mixer 1: 40 03 0300 8003 0000");
 }
 
@@ -242,18 +242,22 @@ TEST_F(Undo, NamesResetWhereNothingWasRememberedBefore) {
   EXPECT_EQ(result.status, 4);
   EXPECT_EQ(OneObject(result.out).value("leftAlone", Json()),
             Json({"Boost level is -5 dB (1), and nothing was remembered "
-                  "before; to restore the earlier state, run: ztk reset boost",
+                  "before; to restore the earlier state, run: ztk boost set 4 "
+                  "&& ztk reset boost",
                   "USB input 3 is MIC (6), and nothing was remembered before; "
-                  "to restore the earlier state, run: ztk reset input 3"}));
+                  "to restore the earlier state, run: ztk input set 3 1 && "
+                  "ztk reset input 3"}));
   EXPECT_THAT(
       OneObject(result.out)["error"].value("message", ""),
-      EndsWith("; to restore the earlier state, run: ztk reset boost; ztk "
-               "reset input 3"));
+      EndsWith("; to restore the earlier state, run: ztk boost set 4 && ztk "
+               "reset boost; ztk input set 3 1 && ztk reset input 3"));
   // The commands do what the sentence says.
-  EXPECT_EQ(
-      OneMixer("ztk reset boost | head -n 1; ztk reset input 3 | head -n 1")
-          .out,
-      "Boost level: -5 dB (1), forgotten\nUSB input 3: MIC (6), forgotten\n");
+  EXPECT_EQ(OneMixer("ztk boost set 4 -q && ztk reset boost -q;"
+                     "ztk input set 3 1 -q && ztk reset input 3 -q;"
+                     "ztk status | tail -n 1")
+                .out,
+            "Nothing is remembered\n");
+  EXPECT_EQ(Writes().size(), 2U);
 }
 
 class Reset : public CliWorld {};
@@ -288,6 +292,13 @@ TEST_F(Reset, ForgetsWhatIsNamed) {
             "Nothing is remembered: nothing to forget.\n2\n2\n");
   EXPECT_THAT(result.err, HasSubstr("no setting \"inptu\"; nearest: input"));
   EXPECT_THAT(ReadAll(home_.SettingsFile("VRM-D6")), HasSubstr("Output2"));
+}
+
+TEST_F(Reset, NamesTheCommandThatForgetsAll) {
+  const Result result = NoMixer("ztk reset all");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.err,
+            "ztk: no setting \"all\"; to forget all of them, run: ztk reset\n");
 }
 
 TEST_F(Reset, IsUndone) {
@@ -542,7 +553,8 @@ TEST_F(Undo, WarnsThatARefusedStepIsRemovedFromTheList) {
   EXPECT_THAT(Line(result.err, 0), Not(HasSubstr("--list")));
   EXPECT_THAT(Line(result.err, 1),
               EndsWith("; ztk undo --list does not show it any more; to "
-                       "restore the earlier state, run: ztk reset boost"));
+                       "restore the earlier state, run: ztk boost set 4 && ztk "
+                       "reset boost"));
   EXPECT_THAT(LastLine(result.out), StartsWith("Nothing to undo"));
 }
 
@@ -574,6 +586,20 @@ TEST_F(Undo, ListsWhatItWillLeaveAlone) {
   const Json steps = OneObject(LastLine(result.out))["steps"];
   EXPECT_EQ(steps[0]["changes"][0]["leftAlone"], false);
   EXPECT_EQ(steps[2]["changes"][0]["leftAlone"], true);
+}
+
+// Two changes of one channel are one line about it.
+TEST_F(Undo, NamesTheStateBeforeAllTheChangesThatItLeavesAlone) {
+  OneMixer("ztk input set 1 mic; ztk input set 1 rec");
+  Remember("VRM-D6", {{"Output0", 2}});
+  EXPECT_THAT(
+      OneMixer("ztk undo 2").err,
+      EndsWith("USB input 1 is Post CH1 Fader (3), and nothing was remembered "
+               "before; ztk undo --list does not show it any more; to restore "
+               "the earlier state, run: ztk input set 1 1 && ztk reset input "
+               "1\n"));
+  EXPECT_EQ(OneMixer("ztk input set 1 1 && ztk reset input 1").status, 0);
+  EXPECT_EQ(OneMixer("ztk status | tail -n 1").out, "Nothing is remembered\n");
 }
 
 TEST_F(Undo, DoesNotSayWhatItLeavesAloneBesideAnUnreadableFile) {

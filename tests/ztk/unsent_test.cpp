@@ -174,6 +174,17 @@ TEST_F(Unsent, IsADefaultThatWasNotSent) {
             "  USB input 2   CH2 Control Tone PHONO (1), VRM-D6");
 }
 
+// The default is what a mixer has without any choice.
+TEST_F(Unsent, IsNothingAfterAResetOfTheDefault) {
+  EXPECT_EQ(
+      OneMixer("ztk boost set 4 -q; ztk reset -q; ztk status | tail -n 1").out,
+      "Nothing is remembered\n");
+  EXPECT_EQ(LastLine(Inside({"-n", "1", "--fault", "stall@w8003"},
+                            "ztk boost set 4 -q; ztk reset -q; ztk status")
+                         .out),
+            "Next: to send these choices to every mixer, run: ztk boost set 4");
+}
+
 TEST_F(Unsent, IsAResetUntilEachMixerWasPluggedInAgain) {
   const Result result = Inside(
       {"-n", "1", "--selector", "1=1"},

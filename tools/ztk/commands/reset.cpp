@@ -19,6 +19,10 @@ const Setting &SettingNamed(const std::string &word) {
     if (cli::LowerCase(word) == setting->name) return *setting;
     names.emplace_back(setting->name);
   }
+  if (cli::LowerCase(word) == "all") {
+    throw Failure(ExitCode::Usage,
+                  "no setting \"all\"; to forget all of them, run: ztk reset");
+  }
   throw Failure(ExitCode::Usage, "no setting " + cli::Quoted(word) +
                                      cli::NearestAndAccepted(word, names));
 }

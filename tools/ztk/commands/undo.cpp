@@ -39,7 +39,8 @@ ForeignValue Foreign(const PastChange &past) {
       .command = SetCommand(setting, past.channel, FormerIndex(past))};
   if (!past.before) {
     value.state += ", and nothing was remembered before";
-    value.command = std::string("ztk reset ") + setting.name;
+    // Reset sends nothing, so the default is sent first.
+    value.command += std::string(" && ztk reset ") + setting.name;
     if (setting.channels != 0) {
       value.command += " " + std::to_string(past.channel + 1);
     }
@@ -318,10 +319,12 @@ std::size_t StepsFor(const Arguments &arguments, std::uint32_t known) {
   const std::string *word = arguments.Find(Parameter::kSteps);
   if (word == nullptr) return 1;
   if (const auto number = cli::ParseNumber(*word, 1, known)) return *number;
-  throw Failure(ExitCode::Usage, "no change " + cli::Quoted(*word) +
-                                     " to undo" +
-                                     cli::NearestAndAccepted(*word, 1, known) +
-                                     "; ztk undo --list shows them");
+  // No number is suggested: a change that is taken back by mistake is sent to
+  // the mixers at once.
+  throw Failure(ExitCode::Usage,
+                "no change " + cli::Quoted(*word) + " to undo; accepted: 1" +
+                    (known > 1 ? " to " + std::to_string(known) : "") +
+                    "; ztk undo --list shows them");
 }
 
 void AddSkipped(std::size_t count, Report *report) {

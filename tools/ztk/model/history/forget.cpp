@@ -34,6 +34,18 @@ int TryToRemove(ZTKTextRef path, ZTKTextRef key) {
   return error;
 }
 
+// After a reset the mixers still have what was forgotten, which may be the
+// default.
+Sending SendingAfterReset(const StoredValue &value,
+                          const RecordedSending &sent) {
+  const Setting &setting = *value.setting;
+  if (value.index != setting.defaultIndex(value.channel)) return Sending::Reset;
+  const Sending before = sent.Of(setting, value.channel, value.index);
+  return before == Sending::Complete || before == Sending::Earlier
+             ? Sending::DefaultSent
+             : Sending::DefaultNotSent;
+}
+
 }  // namespace
 
 std::string RemoveRemembered(const Setting &setting, std::uint32_t channel) {
@@ -69,6 +81,7 @@ ForgottenStep ForgetValues(const std::string &command,
   const RecordedStep recorded(std::move(step), history);
   result.notRecorded = recorded.notRecorded();
   std::vector<LastSending> forgotten;
+  const RecordedSending sent;
   for (const StoredValue &value : values) {
     result.values.push_back(
         {.value = value,
@@ -77,7 +90,7 @@ ForgottenStep ForgetValues(const std::string &command,
     forgotten.push_back({.setting = value.setting,
                          .channel = value.channel,
                          .index = value.index,
-                         .sending = Sending::Reset});
+                         .sending = SendingAfterReset(value, sent)});
   }
   RecordSending(forgotten, std::chrono::system_clock::now(), history);
   if (forgotten.empty()) recorded.TakeBack();

@@ -39,7 +39,10 @@ void TakeBack(const PastChange &change, std::vector<UndoItem> *items) {
     return;
   }
   // A value of another program stays, independent of the value before it.
-  if (later->action == Action::LeaveAlone) return;
+  if (later->action == Action::LeaveAlone) {
+    later->past.before = change.before;
+    return;
+  }
   switch (ActionFor(change, later->past.before)) {
     case Action::PutBack:
       // When the later change is void, this one is in effect.
