@@ -80,6 +80,14 @@ TEST_F(DoctorSettings, NameAFileThatStandsWhereAFolderHasToBe) {
   EXPECT_TRUE(Helps(finding, "settings"));
 }
 
+// Only an ordinary file is renamed.
+TEST_F(DoctorSettings, OnlyShowADeviceThatStandsWhereAFolderHasToBe) {
+  const Json finding =
+      OnlyOneIn("settings", Diagnosis("export XDG_CONFIG_HOME=/dev/null/x\n"));
+  EXPECT_EQ(Word(finding, "id"), "settings-not-writable");
+  EXPECT_EQ(Word(finding, "command"), "ls -l /dev/null");
+}
+
 TEST_F(DoctorSettings, NameAHomeFolderThatDoesNotExist) {
   const Json finding =
       OnlyOneIn("settings", Diagnosis("unset XDG_CONFIG_HOME XDG_STATE_HOME\n"

@@ -58,7 +58,7 @@ TEST_F(Doctor, FindsNothingWhereAllIsWell) {
             "settings  ok: they can be read and written in " +
                 home_.path().string() + "/.config/tarvix/Preferences");
   EXPECT_EQ(Line(result_.out, 2),
-            "bus       ok: other programs receive changes");
+            "bus       ok: programs in the same session receive changes");
   EXPECT_EQ(Line(result_.out, 3),
             "texts     ok: the warning texts are installed");
   EXPECT_EQ(Line(result_.out, 4),
@@ -138,6 +138,19 @@ TEST_F(Doctor, FindsAHistoryThatUndoCannotUse) {
   EXPECT_TRUE(Helps(finding, "history"));
 }
 
+TEST_F(Doctor, FindsAFileInPlaceOfTheFolderOfTheHistory) {
+  const std::string file = home_.path().string() + "/state";
+  WriteAll(file, "");
+  const std::string before = "export XDG_STATE_HOME=" + file + "\n";
+  const Json finding =
+      OnlyOneIn("history", NoMixer(before + "ztk doctor --json"));
+  EXPECT_EQ(Word(finding, "id"), "history-folder");
+  EXPECT_EQ(Word(finding, "finding"), "ztk undo cannot use " + file);
+  EXPECT_EQ(Word(finding, "cause"), "it is a file where a folder has to be");
+  EXPECT_EQ(Word(finding, "command"),
+            "mv --backup=numbered " + file + " " + file + ".old");
+}
+
 TEST_F(Doctor, FindsAHistoryThatTheUserMayNotRead) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can be two users";
   const std::string before =
@@ -190,8 +203,7 @@ TEST_F(Doctor, SaysWhichCommandsToRun) {
             "ztk: 2 problems found; run the commands above, from top to "
             "bottom");
   EXPECT_EQ(LastLine(OneMixer(std::string(kNoBus) + "ztk doctor").err),
-            "ztk: 1 problem found; run its command; the commands of notes can "
-            "wait");
+            "ztk: 1 problem and 1 note found; run the command of the problem");
   // No notes are shown.
   EXPECT_EQ(LastLine(OneMixer(std::string(kNoBus) + "ztk doctor -q").err),
             "ztk: 1 problem found; run the command above");

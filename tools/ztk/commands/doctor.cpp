@@ -67,14 +67,20 @@ void AddErrors(const char *part, const Finding &finding, Report *report) {
 
 // Nothing fails because of a note, so its command need not be run.
 std::string Summary(std::size_t problems, std::size_t notes) {
-  const std::string after = notes > 0 ? "; the commands of notes can wait" : "";
-  if (problems > 1) {
-    return std::to_string(problems) +
-           " problems found; run the commands above, from top to bottom" +
-           after;
+  const bool one = problems == 1;
+  std::string words =
+      one ? "1 problem" : std::to_string(problems) + " problems";
+  if (notes > 0) {
+    words +=
+        notes == 1 ? " and 1 note" : " and " + std::to_string(notes) + " notes";
   }
-  return std::string("1 problem found; run ") +
-         (notes > 0 ? "its command" : "the command above") + after;
+  words += std::string(" found; run the ") + (one ? "command" : "commands");
+  if (notes > 0) {
+    words += one ? " of the problem" : " of the problems";
+  } else {
+    words += " above";
+  }
+  return words + (one ? "" : ", from top to bottom");
 }
 
 // What an attached mixer may have instead of what is remembered.

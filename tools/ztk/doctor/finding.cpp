@@ -28,4 +28,25 @@ std::string TakeOverCommand(const std::string &path, const char *mode) {
          " " + ShellQuoted(path);
 }
 
+std::string ParentFolder(const std::string &path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+std::string FileInTheWay(std::string folder) {
+  struct stat status {};
+  while (stat(folder.c_str(), &status) != 0) {
+    if (folder.find('/', 1) == std::string::npos) return "";
+    folder = ParentFolder(folder);
+  }
+  return S_ISDIR(status.st_mode) ? "" : folder;
+}
+
+std::string ClearTheWayCommand(const std::string &path) {
+  struct stat status {};
+  const bool ordinary =
+      stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+  return ordinary ? MoveAwayCommand(path) : "ls -l " + ShellQuoted(path);
+}
+
 }  // namespace ztk::model

@@ -44,6 +44,14 @@ Finding ExplainUnopened(int mixer, const std::string &place);
 // A command that has the same effect as unplugging the mixer and plugging it
 // in. `mixer` is its number.
 std::string RestartCommand(int mixer, const std::string &place);
+// The folder that contains the path, which is absolute.
+std::string ParentFolder(const std::string &path);
+// A file that is in the way of the folder: the last part of its path that
+// exists, if that is no folder. Empty if there is none.
+std::string FileInTheWay(std::string folder);
+// A command that renames this file if it is an ordinary one. It only shows
+// anything else, such as a device.
+std::string ClearTheWayCommand(const std::string &path);
 // A command that renames the file, so that its name can be used again.
 std::string MoveAwayCommand(const std::string &path);
 // A command that makes a read-only file system writable.

@@ -38,6 +38,12 @@ Findings CheckHistory(std::string *good) {
   *good = "ztk undo can take back changes";
   if (folder.empty()) return {};
   const std::string path = folder + "/ztk-history.jsonl";
+  if (const std::string file = FileInTheWay(folder); !file.empty()) {
+    return {{.id = "history-folder",
+             .what = "ztk undo cannot use " + file,
+             .cause = "it is a file where a folder has to be",
+             .command = ClearTheWayCommand(file)}};
+  }
   if (!IsUsable(folder)) {
     return {{.id = "history-folder",
              .what = "ztk undo cannot use " + path,

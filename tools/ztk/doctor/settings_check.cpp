@@ -22,11 +22,6 @@ namespace ztk::model {
 
 namespace {
 
-std::string FolderOf(const std::string &path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == 0 ? "/" : path.substr(0, slash);
-}
-
 bool Exists(const std::string &path, struct stat *status) {
   return stat(path.c_str(), status) == 0;
 }
@@ -145,7 +140,7 @@ void FindUnwritable(std::string folder, Findings *findings) {
                            .command = "mkdir -p " + ShellQuoted(folder)});
       return;
     }
-    folder = FolderOf(folder);
+    folder = ParentFolder(folder);
   }
   if (!S_ISDIR(status.st_mode)) {
     findings->push_back({.id = "settings-not-writable",
@@ -153,7 +148,7 @@ void FindUnwritable(std::string folder, Findings *findings) {
                                  "written below " +
                                  folder,
                          .cause = "it is a file where a folder has to be",
-                         .command = MoveAwayCommand(folder)});
+                         .command = ClearTheWayCommand(folder)});
     return;
   }
   const int error = TryToWrite(folder);
@@ -186,8 +181,8 @@ Findings CheckSettingsFiles(const std::vector<std::string> &models,
     FindKept(path, &findings);
     struct stat status {};
     // The library follows a link when it writes the file.
-    if (Exists(path, &status) && FolderOf(Target(path)) != Target(folder)) {
-      FindUnwritable(FolderOf(Target(path)), &findings);
+    if (Exists(path, &status) && ParentFolder(Target(path)) != Target(folder)) {
+      FindUnwritable(ParentFolder(Target(path)), &findings);
     }
   }
   FindUnwritable(folder, &findings);

@@ -89,7 +89,7 @@ Finding ExplainNoBus() {
 }  // namespace
 
 Findings CheckBus(std::string *good) {
-  *good = "other programs receive changes";
+  *good = "programs in the same session receive changes";
   Findings findings;
   if (!SessionBusAnswers()) findings.push_back(ExplainNoBus());
   // Only a program that receives changes needs this library.
