@@ -167,11 +167,13 @@ TEST_F(Autoapply, IsOffWithoutSystemd) {
     EXPECT_EQ(
         result.out,
         "Off: the remembered settings are sent when you run 'ztk apply'.\n");
-    EXPECT_EQ(
-        result.err,
-        "ztk: warning: autoapply is off and cannot be turned on, because this "
-        "system does not run systemd; run 'ztk apply' each time you have "
-        "plugged a mixer in\n");
+    // Someone who turns it off does not want to turn it on.
+    EXPECT_EQ(result.err,
+              verb == std::string("off")
+                  ? ""
+                  : "ztk: warning: autoapply is off and cannot be turned on, "
+                    "because this system does not run systemd; run 'ztk apply' "
+                    "each time you have plugged a mixer in\n");
   }
 }
 

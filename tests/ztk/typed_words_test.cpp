@@ -56,7 +56,6 @@ TEST_F(TypedWords, AskForNoOutput) {
   EXPECT_EQ(OneMixer("ztk boost apply -q; ztk undo -q; ztk reset -q").out, "");
   const Result wrong = NoMixer("ztk boost set 9 -q");
   EXPECT_THAT(wrong.err, StartsWith("ztk: Boost level has no choice"));
-  EXPECT_EQ(NoMixer("ztk watch -q").status, 2);
 }
 
 TEST_F(TypedWords, NameAUsbChannelInSeveralWays) {

@@ -160,6 +160,17 @@ TEST_F(Watch, IsFiveOnceItsOutputIsFull) {
   EXPECT_THAT(File("ready"), HasSubstr("cannot write the output: No space"));
 }
 
+TEST_F(Watch, ShowsOnlyChangesWhenQuiet) {
+  const Result result =
+      OneMixer(std::string(kStart) +
+               "ztk watch -q > $DIR/seen 2> $DIR/said & watcher=$!\n"
+               "await 'ztk boost set 1 -q; grep -q Boost $DIR/seen'\n"
+               "kill -INT $watcher; wait $watcher; echo status $?");
+  EXPECT_EQ(result.out, "status 0\n");
+  EXPECT_EQ(Line(File("seen"), 0), "Boost level: -5 dB (1)");
+  EXPECT_EQ(File("said"), "");
+}
+
 TEST_F(Watch, ShowsMixersThatComeAndGo) {
   const Result result =
       OneMixer(std::string(kStart) +

@@ -48,8 +48,8 @@ Report TurnAutoapplyOff(const Arguments & /*arguments*/) {
   try {
     SetAutoapply(false);
     return Describe(IsAutoapplyOn());
-  } catch (const NoUserManager &reason) {
-    return DescribeWithout(reason);
+  } catch (const NoUserManager &) {
+    return Describe(false);
   }
 }
 

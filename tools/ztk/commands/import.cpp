@@ -92,9 +92,10 @@ void AddKept(const std::vector<StoredValue> &kept, Report *report) {
     names.push_back(NamedValue(*value.setting, value.channel, value.index));
   }
   if (kept.empty()) return;
-  report->text +=
-      "Kept, because the file does not contain it: " + cli::Listed(names) +
-      "; ztk import --only forgets it\n";
+  report->text += std::string("Kept, because the file does not contain ") +
+                  (names.size() == 1 ? "it: " : "them: ") + cli::Listed(names) +
+                  (names.size() == 1 ? "; ztk import --only forgets it\n"
+                                     : "; ztk import --only forgets them\n");
 }
 
 Report PlanOfImport(const std::vector<Change> &changes) {
@@ -160,9 +161,12 @@ Report Import(const Arguments &arguments) {
   } else if (changes.empty()) {
     report = NothingToImport();
   } else {
-    report = MakeImported(
-        changes, std::string("ztk import ") + (only ? "--only " : "") + *file,
-        arguments.Has(Parameter::kQuiet));
+    // Standard input cannot be read again.
+    report = MakeImported(changes,
+                          *file == "-" ? std::string("ztk apply --all")
+                                       : std::string("ztk import ") +
+                                             (only ? "--only " : "") + *file,
+                          arguments.Has(Parameter::kQuiet));
   }
   AddKept(kept, &report);
   return report;

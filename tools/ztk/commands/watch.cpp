@@ -21,6 +21,7 @@ namespace {
 
 struct Watcher {
   bool json = false;
+  bool quiet = false;
   int writeError = 0;
   bool hasBus = true;
   PluggedMixers mixers = {};
@@ -119,11 +120,14 @@ void OnIndexChange(std::int32_t index, void *context) noexcept {
 
 void SayReady(bool hasBus) {
   theWatcher->hasBus = hasBus;
-  if (hasBus) return WriteError("watching for changes; Ctrl-C ends");
-  WriteError(
-      "warning: changes of settings are not shown, because there is no session "
-      "message bus");
-  WriteError("watching for mixers that come and go; Ctrl-C ends");
+  if (!hasBus) {
+    WriteError(
+        "warning: changes of settings are not shown, because there is no "
+        "session message bus");
+  }
+  if (theWatcher->quiet) return;
+  WriteError(hasBus ? "watching for changes; Ctrl-C ends"
+                    : "watching for mixers that come and go; Ctrl-C ends");
 }
 
 // Why ztk watch ended; nothing after Ctrl-C, or when the reader has ended.
@@ -156,12 +160,8 @@ std::optional<Problem> ProblemAtEnd(LoopEnd end, int writeError, bool hasBus) {
 }  // namespace
 
 Report Watch(const Arguments &arguments) {
-  if (arguments.Has(Parameter::kQuiet)) {
-    throw Failure(ExitCode::Usage,
-                  "--quiet would hide the changes that ztk watch shows; leave "
-                  "it out");
-  }
-  Watcher watcher{.json = arguments.Has(Parameter::kJson)};
+  Watcher watcher{.json = arguments.Has(Parameter::kJson),
+                  .quiet = arguments.Has(Parameter::kQuiet)};
   theWatcher = &watcher;
   Listener input{.watcher = &watcher, .setting = &kInput};
   Listener output{.watcher = &watcher, .setting = &kOutput};

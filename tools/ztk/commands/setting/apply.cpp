@@ -44,7 +44,10 @@ std::string Remedy(const StoredValue &value) {
   const Setting &setting = *value.setting;
   if (!ChoiceAt(setting, value.channel, value.index) ||
       IsSentAgain(setting, value.index)) {
-    return std::string("choose another one with: ztk ") + setting.name + " set";
+    return std::string("choose another one with: ztk ") + setting.name +
+           " set" +
+           (setting.channels == 0 ? ""
+                                  : " " + std::to_string(value.channel + 1));
   }
   return ResendLimit(setting) + ": " +
          SetCommand(setting, value.channel, value.index);
