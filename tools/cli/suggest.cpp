@@ -64,8 +64,8 @@ std::size_t MostDifferences(const std::string &word, const std::string &text,
   return std::max<std::size_t>(std::min(word.size(), text.size()) / 3, 1);
 }
 
-// The number of words of three letters or more that are in the text. Shorter
-// words are in too many texts.
+// How many words of `words` occur in `text`. Words of fewer than three letters
+// are not counted, because they occur in too many texts.
 std::size_t WordsIn(const std::string &words, const std::string &text) {
   std::size_t count = 0;
   std::string word;

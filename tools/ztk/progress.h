@@ -21,9 +21,9 @@ inline constexpr char kInterrupted[] =
 inline constexpr char kInterruptedAsking[] = "interrupted; nothing was changed";
 
 inline constexpr char kWaitingForMixer[] = "Waiting for a mixer";
-// How many seconds the mixers are usually waited for at most: one second for
-// mixers that do not answer, and one more if all mixers are asked again because
-// one was plugged in or unplugged meanwhile.
+// The longest usual wait for the mixers, in seconds: one second if a mixer does
+// not answer, and one more if all mixers are asked again because one was
+// plugged in or unplugged meanwhile.
 inline constexpr int kLongestQuestion = 2;
 
 // While it exists, shows on the error stream what the program waits for and for
