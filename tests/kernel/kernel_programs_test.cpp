@@ -68,7 +68,7 @@ TEST_F(KernelPrograms, StatusReadsAMixerOfTheKernel) {
       "  selectors     CH1 3   CH2 4   CH3 4   CH4 4\n"
       "  Serato        not active\n"
       "Nothing is remembered\n"
-      "USB input 1 is silent with this choice: the input selector for CH1 is "
+      "USB input 1 is silent: the input selector for CH1 is "
       "in position "
       "3; CH1 Control Tone PHONO (1) is heard only in position 4: turn it to "
       "4\n"

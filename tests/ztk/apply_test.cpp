@@ -210,13 +210,13 @@ TEST_F(Apply, WarnsOfEachSilentChannel) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(
       result.err,
-      "ztk: warning: USB input 1 is silent with this choice: the input "
+      "ztk: warning: USB input 1 is silent: the input "
       "selector for CH1 is in position 2; CH1 Control Tone PHONO (1) is heard "
       "only in position 4: turn it to 4\n"
-      "ztk: warning: USB input 2 is silent with this choice: the input "
+      "ztk: warning: USB input 2 is silent: the input "
       "selector for CH2 is in position 3; CH2 Control Tone PHONO (1) is heard "
       "only in position 4: turn it to 4\n"
-      "ztk: warning: USB input 2 is silent with this choice: the input "
+      "ztk: warning: USB input 2 is silent: the input "
       "selector for CH2 is in position 3; CH2 Control Tone PHONO (1) is heard "
       "only in position 4: turn it to 4\n");
   EXPECT_EQ(OneMixer("ztk apply").err, "");

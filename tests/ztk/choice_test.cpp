@@ -84,6 +84,7 @@ TEST(FindChoice, FindsByAWordThatOnlyOneHas) {
 TEST(FindChoice, FindsByWordsThatOnlyOneHasInAnyOrder) {
   CheckAll(
       {{"not next to each other", kRouting, "post fader", "Post CH1 Fader (3)"},
+       {"as people say it", kRouting, "after the fader", "Post CH1 Fader (3)"},
        {"no space", kRouting, "postfader", "Post CH1 Fader (3)"},
        {"a dash", kRouting, "post-fader", "Post CH1 Fader (3)"},
        {"dashes", kRouting, "post-ch1-fader", "Post CH1 Fader (3)"},

@@ -177,17 +177,16 @@ TEST_F(Doctor, SaysWhyAChannelIsSilentAndThatIsNoProblem) {
       Inside({"-n", "1", "--selector", "1=3"}, "ztk doctor; ztk doctor --json");
   EXPECT_THAT(
       result.out,
-      StartsWith(
-          "mixers    ok: 1 mixer is attached and answers\n"
-          "mixers    note: USB input 1 is silent with this choice: the input "
-          "selector for CH1 is in position 3; CH1 Control "
-          "Tone PHONO (1) is heard only in position 4: turn it to "
-          "4\n"
-          "          cause: the signal before the fader depends on the "
-          "input selector\n"
-          "          help:  turn the selector to that position, or "
-          "record the signal after the fader\n"
-          "          type:  ztk input set 1 3\n"));
+      StartsWith("mixers    ok: 1 mixer is attached and answers\n"
+                 "mixers    note: USB input 1 is silent: the input "
+                 "selector for CH1 is in position 3; CH1 Control "
+                 "Tone PHONO (1) is heard only in position 4: turn it to "
+                 "4\n"
+                 "          cause: the signal before the fader depends on the "
+                 "input selector\n"
+                 "          help:  turn the selector to that position, or "
+                 "record the signal after the fader\n"
+                 "          type:  ztk input set 1 3\n"));
   const Json finding = OnlyOneIn("mixers", result);
   EXPECT_EQ(Word(finding, "id"), "channel-silent");
   EXPECT_EQ(Word(finding, "severity"), "note");

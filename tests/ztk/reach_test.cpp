@@ -243,8 +243,8 @@ TEST_F(Reach, DoesNotSayThatWhatWasNotRememberedCanBeApplied) {
       Inside({"-n", "2", "--fault", "2:stall@w8003"}, "ztk boost set 1");
   EXPECT_EQ(result.status, 7);
   EXPECT_THAT(result.err, HasSubstr("warning: only 1 of 2 mixers accepted the "
-                                    "change; when the others are ready, set it "
-                                    "again\n"));
+                                    "change; switch the other one off and on "
+                                    "again, then set it again\n"));
   EXPECT_THAT(LastLine(result.err),
               StartsWith("ztk: Boost level is not remembered: "));
 }

@@ -170,7 +170,7 @@ TEST_F(Status, SaysWhyAChannelIsSilent) {
              "ztk input get 2;"
              "ztk status --json");
   const char *const silent =
-      "USB input 1 is silent with this choice: the input selector for CH1 is "
+      "USB input 1 is silent: the input selector for CH1 is "
       "in position 3; "
       "CH1 Control Tone PHONO (1) is heard only in position 4: turn it to 4";
   EXPECT_EQ(Line(result.out, 0), silent);
@@ -181,11 +181,9 @@ TEST_F(Status, SaysWhyAChannelIsSilent) {
       Json::parse(R"([{"mixer":1,"channel":1,"position":3,"needed":4}])"));
   const Result two =
       Inside({"-n", "2", "--selector", "2:1=3"}, "ztk input get 1 | tail -n 1");
-  EXPECT_THAT(
-      two.out,
-      StartsWith(
-          "USB input 1 is silent with this choice: the input selector of "
-          "mixer 2 for CH1 is in position 3"));
+  EXPECT_THAT(two.out,
+              StartsWith("USB input 1 is silent: the input selector of "
+                         "mixer 2 for CH1 is in position 3"));
 }
 
 TEST_F(Status, TellsOnceToTurnTheSelectorOfASilentChannel) {

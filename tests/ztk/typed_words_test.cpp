@@ -108,7 +108,7 @@ TEST_F(TypedWords, AskForTheAnswerWithoutNotes) {
             "USB input 1  CH1 Control Tone PHONO (1), default: nothing is "
             "remembered\n");
   EXPECT_THAT(Inside(options, "ztk input get 1").out,
-              HasSubstr(" is silent with this choice: "));
+              HasSubstr(" is silent: "));
   EXPECT_THAT(Requests().size(), 1U);
   EXPECT_THAT(Inside(options, "ztk input get 1 -q --json").out,
               HasSubstr("\"position\":2"));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ztk/model/choice.h"
 
+#include <algorithm>
+
 #include "cli/strings.h"
 
 namespace ztk::model {
@@ -96,7 +98,11 @@ bool AreWords(const std::vector<std::string> &typed, std::size_t next,
 std::vector<Choice> WithAllWords(const std::vector<Choice> &choices,
                                  const std::string &words) {
   std::vector<Choice> found;
-  const std::vector<std::string> typed = WordsOf(words);
+  std::vector<std::string> typed = WordsOf(words);
+  // People say "after the fader".
+  std::replace(typed.begin(), typed.end(), std::string("after"),
+               std::string("post"));
+  std::erase(typed, "the");
   if (typed.empty()) return found;
   for (const Choice &choice : choices) {
     if (AreWords(typed, 0, WordsOf(choice.text))) found.push_back(choice);

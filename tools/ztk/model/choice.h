@@ -25,11 +25,11 @@ struct Match {
 
 // Looks for a choice by its number, by its text, by both as they are printed,
 // by the beginning of its text, by a later word of its text, or by several
-// words of its text in any order: "post fader" is "Post CH2 Fader". Upper and
-// lower case are the same and spaces do not count. A text that starts with a
-// minus sign is also found without it, because a shell may take such a word for
-// an option, but not by its number alone: "10 dB" can only be a level, and "4"
-// is the fourth choice.
+// words of its text in any order: "post fader" and "after the fader" are "Post
+// CH2 Fader". Upper and lower case are the same and spaces do not count. A text
+// that starts with a minus sign is also found without it, because a shell may
+// take such a word for an option, but not by its number alone: "10 dB" can only
+// be a level, and "4" is the fourth choice.
 Match FindChoice(const std::vector<Choice> &choices, const std::string &words);
 
 // "REC OUT (1)". All sentences of ztk name a choice in this form, and a user

@@ -47,7 +47,7 @@ std::string SelectorSentence(const SilentRouting &routing,
 }
 
 std::string Described(const SilentRouting &routing, bool namesMixer) {
-  return PlaceName(kInput, routing.channel) + " is silent with this choice: " +
+  return PlaceName(kInput, routing.channel) + " is silent: " +
          SelectorSentence(
              routing, DescribedValue(kInput, routing.channel, routing.index),
              namesMixer);

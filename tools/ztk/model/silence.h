@@ -28,7 +28,7 @@ struct SilentRouting {
 std::vector<SilentRouting> FindSilentRoutings(
     const std::vector<MixerStatus> &mixers, const RecordedSending &recorded);
 
-// "USB input 1 is silent with this choice: the input selector for CH1 is in
+// "USB input 1 is silent: the input selector for CH1 is in
 // position 3; CH1 Control Tone PHONO (1) is heard only in position 4: turn it
 // to 4". Only the choice with which the channel is silent is known: a mixer
 // cannot be asked for its own. Names the mixer if there are several.

@@ -71,6 +71,23 @@ Obstruction ObstructionOf(const Reach &reach) {
           .remedy = "once they do, "};
 }
 
+// What to do first about the mixers that have not accepted a change, while
+// others have.
+std::string RemedyForOthers(const Reach &reach) {
+  std::vector<Mixer> others;
+  for (const Mixer &mixer : reach.mixers) {
+    if (mixer.state != MixerState::Answered) others.push_back(mixer);
+  }
+  const bool areStuck =
+      std::all_of(others.begin(), others.end(), [](const Mixer &mixer) {
+        return mixer.state == MixerState::Silent ||
+               mixer.state == MixerState::Refused;
+      });
+  if (!areStuck) return "when the others are ready, ";
+  return others.size() == 1 ? "switch the other one off and on again, then "
+                            : "switch the others off and on again, then ";
+}
+
 // The reason of the first change that could not be stored.
 std::string WhyNotStored(const MadeChanges &made) {
   for (const MadeChange &change : made.changes) {
@@ -227,11 +244,10 @@ void ReportReach(const Reach &reach, const DeliveryTexts &texts,
                               {"unanswered", std::move(unanswered)}};
   if (answered == reach.found() && answered > 0) return;
   if (answered > 0) {
-    report->problem = {
-        .exit = ExitCode::SomeMixers,
-        .message = "only " + InNumbers(answered, reach.found()) +
-                   " accepted the change; when the others are ready, " +
-                   texts.again};
+    report->problem = {.exit = ExitCode::SomeMixers,
+                       .message = "only " + InNumbers(answered, reach.found()) +
+                                  " accepted the change; " +
+                                  RemedyForOthers(reach) + texts.again};
     return;
   }
   const Obstruction obstruction = ObstructionOf(reach);
