@@ -117,13 +117,14 @@ TEST_F(KernelPrograms, TheControlCommandsChangeTheRunningMixers) {
       "$V fault short:1@8001; $Z status | grep firmware; "
       "$V show | head -1");
   EXPECT_THAT(output, HasSubstr("CH2 16"));
-  EXPECT_THAT(output, HasSubstr("\n  Serato        active\n"
-                                "1 mixer: unplugged\n"
-                                "No mixer is attached\n"
-                                "1 mixer: plugged in\n"
-                                "Mixer 1 (VRM-D6) answers\n"
-                                "1 mixer: fault delay:20\n"
-                                "  certified     level 1\n"));
+  EXPECT_THAT(output,
+              HasSubstr("\n  Serato        active\n"
+                        "1 mixer: unplugged\n"
+                        "No mixer is attached\n"
+                        "1 mixer: plugged in; values and faults are unchanged\n"
+                        "Mixer 1 (VRM-D6) answers\n"
+                        "1 mixer: fault delay:20\n"
+                        "  certified     level 1\n"));
   EXPECT_THAT(output, EndsWith("mixer 1  bus id 1-1  attached\nstatus 0"));
 }
 

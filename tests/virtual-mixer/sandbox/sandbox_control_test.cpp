@@ -63,7 +63,8 @@ TEST_F(Control, UnplugsAndPlugsInWithTheStateKept) {
       SplitLines(result.out),
       ElementsAre("2 mixers: channel 1 at position 3", "mixer 1: unplugged",
                   "mixer 1: unplugged", "001/001 usb1 1d6b:0002",
-                  "001/003 1-2 6666:001b", "no node", "2 mixers: plugged in",
+                  "001/003 1-2 6666:001b", "no node",
+                  "2 mixers: plugged in; values and faults are unchanged",
                   "001/001 usb1 1d6b:0002", "001/002 1-1 6666:001b",
                   "001/003 1-2 6666:001b", "5: 00 03 04 04 04"));
   EXPECT_EQ(result.err, "");
@@ -95,7 +96,8 @@ TEST_F(Control, LeavesAnOpenNodeDeadWhenTheMixerComesBack) {
       "until grep -q open $DIR/held; do sleep 0.01; done; $TOOL unplug; "
       "$TOOL plug; echo >&3; wait; cat $DIR/held; $PROBE read 1 8001 2");
   EXPECT_EQ(result.out,
-            "1 mixer: unplugged\n1 mixer: plugged in\nopen\nENODEV: ee ee\n2: "
+            "1 mixer: unplugged\n1 mixer: plugged in; values and faults are "
+            "unchanged\nopen\nENODEV: ee ee\n2: "
             "36 04\n");
   EXPECT_THAT(Lines("log"),
               ElementsAre("mixer 1: c0 00 0000 8001 0002 -> gone",

@@ -104,8 +104,9 @@ struct Simple {
 };
 // For served mixers the kernel decides who may open them.
 constexpr char kInsideRun[] = "inside run";
-constexpr Simple kPlug{
-    .name = "plug", .summary = "Plug mixers in", .done = "plugged in"};
+constexpr Simple kPlug{.name = "plug",
+                       .summary = "Plug mixers in",
+                       .done = "plugged in; values and faults are unchanged"};
 constexpr Simple kUnplug{
     .name = "unplug",
     .summary = "Unplug mixers; they keep their values and faults",
