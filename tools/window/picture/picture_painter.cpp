@@ -89,7 +89,7 @@ PicturePainter::PicturePainter(QPainter *painter, const PictureLayout &layout,
 }
 
 void PicturePainter::DrawMixer(const PictureState &state) {
-  // Qt draws lines without round ends ten times as fast.
+  // Qt draws lines without round ends five times as fast.
   painter_->setPen(QPen(signal_, Thin() * 1.4, Qt::SolidLine, Qt::SquareCap));
   painter_->drawLines(layout_.signalLines);
   painter_->setPen(Qt::NoPen);

@@ -33,19 +33,6 @@ bool IsTyped(const QKeyEvent &event) {
 
 }  // namespace
 
-QSize ChoiceBox::sizeHint() const {
-  if (!measured_.isValid()) measured_ = QComboBox::sizeHint();
-  return measured_;
-}
-
-QSize ChoiceBox::minimumSizeHint() const { return sizeHint(); }
-
-// Another font or another style has other sizes.
-void ChoiceBox::changeEvent(QEvent *event) {
-  measured_ = {};
-  QComboBox::changeEvent(event);
-}
-
 void ChoiceBox::keyPressEvent(QKeyEvent *event) {
   if (MovesToAnotherEntry(*event)) {
     showPopup();

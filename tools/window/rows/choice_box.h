@@ -10,23 +10,13 @@ namespace ztk::window {
 // change a closed box opens its list instead: only the entry that the user
 // confirms with Enter is chosen, none of those on the way to it. The wheel
 // scrolls the page.
-//
-// The entries do not change after the first layout. Qt measures all of them
-// again for each kind of hint and at the first show; this class does it once.
 class ChoiceBox : public QComboBox {
  public:
   using QComboBox::QComboBox;
 
-  QSize sizeHint() const override;
-  QSize minimumSizeHint() const override;
-
  protected:
-  void changeEvent(QEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
   void wheelEvent(QWheelEvent *event) override;
-
- private:
-  mutable QSize measured_;
 };
 
 }  // namespace ztk::window
