@@ -266,6 +266,18 @@ TEST_F(Import, RefusesANumberThatIsTooLarge) {
 }
 
 // A repeated import finds nothing to forget, unless the default is remembered.
+// Another import from standard input would wait for the keyboard.
+TEST_F(Import, NamesOtherCommandsForStandardInput) {
+  Remember("VRM-D6", {{"Output2", 5}});
+  constexpr char kClub[] =
+      R"(echo '{"version":1,"settings":{"VRM-D6":{"boost":"-5 dB"}}}' | )";
+  EXPECT_THAT(LastLine(NoMixer(std::string(kClub) + "ztk import -").err),
+              EndsWith("; when one is attached, run: ztk apply"));
+  EXPECT_THAT(LastLine(NoMixer(std::string(kClub) + "ztk import --only -").err),
+              EndsWith("; when one is attached, run (set also remembers the "
+                       "default): ztk input set 3 1; ztk apply"));
+}
+
 TEST_F(Import, NamesTheCommandsThatSendTheDefaultsOfWhatItForgets) {
   Remember("VRM-D6", {{"Output3", 5}});
   WriteAll(home_.path() / "c.json",

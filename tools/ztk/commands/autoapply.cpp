@@ -30,13 +30,6 @@ Report Describe(bool on) {
   return report;
 }
 
-// Off, and with the reason why it cannot be turned on.
-Report DescribeWithout(const NoUserManager &reason) {
-  Report report = Describe(false);
-  report.warnings.emplace_back(reason.what());
-  return report;
-}
-
 }  // namespace
 
 Report TurnAutoapplyOn(const Arguments & /*arguments*/) {
@@ -54,13 +47,13 @@ Report TurnAutoapplyOff(const Arguments & /*arguments*/) {
 }
 
 Report ShowAutoapply(const Arguments & /*arguments*/) {
-  Report report = [] {
-    try {
-      return Describe(IsAutoapplyOn());
-    } catch (const NoUserManager &reason) {
-      return DescribeWithout(reason);
-    }
-  }();
+  Report report;
+  try {
+    report = Describe(IsAutoapplyOn());
+  } catch (const NoUserManager &reason) {
+    report = Describe(false);
+    report.warnings.emplace_back(reason.what());
+  }
   report.isAnswer = true;
   return report;
 }

@@ -120,7 +120,8 @@ Report NothingToImport() {
 // forgotten are not remembered any more, so a second import would not send
 // their defaults. Therefore a command for each default stands before the
 // import, which then forgets what these commands have remembered.
-std::string SendingAgain(const MadeChanges &made, const std::string &command) {
+std::string ImportingAgain(const MadeChanges &made,
+                           const std::string &command) {
   std::string commands;
   for (const MadeChange &one : made.changes) {
     if (!one.change.forgets) continue;
@@ -130,6 +131,7 @@ std::string SendingAgain(const MadeChanges &made, const std::string &command) {
   return commands + command;
 }
 
+// `command` repeats the import; empty for the standard input.
 Report MakeImported(const std::vector<Change> &changes,
                     const std::string &command, bool quiet) {
   Report report;
@@ -137,7 +139,10 @@ Report MakeImported(const std::vector<Change> &changes,
   const MadeChanges made = RunStep("import", changes, quiet, &report);
   for (const MadeChange &one : made.changes) AddImported(one, made, &report);
   ReportOutcome(made, "the content of the file",
-                "run: " + SendingAgain(made, command), &report);
+                // Standard input cannot be read again.
+                command.empty() ? SendingAgain(made)
+                                : "run: " + ImportingAgain(made, command),
+                &report);
   ExplainWarnings(made, &report);
   return report;
 }
@@ -161,12 +166,11 @@ Report Import(const Arguments &arguments) {
   } else if (changes.empty()) {
     report = NothingToImport();
   } else {
-    // Standard input cannot be read again.
-    report = MakeImported(changes,
-                          *file == "-" ? std::string("ztk apply --all")
-                                       : std::string("ztk import ") +
-                                             (only ? "--only " : "") + *file,
-                          arguments.Has(Parameter::kQuiet));
+    const std::string command =
+        *file == "-"
+            ? ""
+            : std::string("ztk import ") + (only ? "--only " : "") + *file;
+    report = MakeImported(changes, command, arguments.Has(Parameter::kQuiet));
   }
   AddKept(kept, &report);
   return report;

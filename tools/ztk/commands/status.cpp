@@ -99,7 +99,7 @@ bool IsOpened(const MixerStatus &mixer) {
          mixer.mixer.state != MixerState::Gone;
 }
 
-bool Answers(const MixerStatus &mixer) {
+bool IsAnswering(const MixerStatus &mixer) {
   return mixer.answers() && !mixer.refusesAll();
 }
 
@@ -155,7 +155,7 @@ std::string Details(const MixerStatus &mixer, bool isOnly) {
   std::string text = NameOf(mixer) +
                      (isOnly ? " " : ", port " + mixer.place + ", ") +
                      StateWords(mixer) + "\n";
-  if (!Answers(mixer)) return text;
+  if (!IsAnswering(mixer)) return text;
   for (const Fact &fact : FactsOf(mixer)) text += Row(fact.title, fact.words);
   return text;
 }
@@ -169,7 +169,7 @@ std::string Line(const MixerStatus &mixer) {
 
 std::size_t CountAnswering(const Mixers &mixers) {
   return static_cast<std::size_t>(
-      std::count_if(mixers.begin(), mixers.end(), Answers));
+      std::count_if(mixers.begin(), mixers.end(), IsAnswering));
 }
 
 std::string Summary(const Mixers &mixers) {

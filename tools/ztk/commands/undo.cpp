@@ -170,38 +170,6 @@ void ReportPlan(const std::vector<Change> &changes, Report *report) {
   AddRefused(refused, report);
 }
 
-// The command that sends a restored value again.
-std::string SendingAgain(const Change &change) {
-  return change.forgets
-             ? DefaultCommand(change)
-             : ApplyCommand(*change.setting, change.channel, change.index);
-}
-
-// Whether the value has to be sent again when not every mixer has accepted all
-// values: a restored choice is always sent again, together with the others of
-// its model; a default only if not every mixer has accepted it.
-bool NeedsSending(const MadeChange &one, const MadeChanges &made) {
-  return !one.change.forgets || one.accepted < made.reach.found() ||
-         made.reach.found() == 0;
-}
-
-// What the user is told to do to send the restored values again: a command for
-// each model, and one for each default, which apply does not know.
-std::string SendingAgain(const MadeChanges &made) {
-  std::vector<std::string> commands;
-  bool remembersDefault = false;
-  for (const Setting *setting : AllSettings()) {
-    for (const MadeChange &one : made.changes) {
-      if (one.change.setting != setting || !NeedsSending(one, made)) continue;
-      if (one.change.forgets && setting != &kOutput) remembersDefault = true;
-      commands.push_back(SendingAgain(one.change));
-    }
-  }
-  return (remembersDefault ? "run (set also remembers the default): "
-                           : "run: ") +
-         Joined(commands);
-}
-
 void ReportUndone(const MadeChanges &made,
                   const std::vector<UndoItem> &undoings, Report *report) {
   report->fields["settings"] = Json::array();
@@ -247,24 +215,25 @@ void UndoLast(std::size_t count, bool dryRun, History *history,
 }
 
 // "input set  USB input 2: MIC (6), previously CH2 Control Tone PHONO (1)"
-std::string ListedStep(std::size_t number, const std::vector<Step> &steps) {
+std::string ListedStep(std::size_t number, const Step &step,
+                       const std::vector<std::optional<bool>> &leftAlone) {
   constexpr std::size_t kNumberColumn = 5;
   constexpr std::size_t kCommandColumn = 18;
   constexpr char kNotUndone[] =
       "; it will not be undone, because another program has changed it since";
-  const Step &step = steps[steps.size() - number];
   std::string begin =
       cli::Padded("  " + std::to_string(number), kNumberColumn) + " ";
   begin = cli::Padded(begin + step.command, kCommandColumn) + " ";
   std::string text;
-  for (const PastChange &change : step.changes) {
+  for (std::size_t i = 0; i < step.changes.size(); ++i) {
+    const PastChange &change = step.changes[i];
     const Setting &setting = *change.setting;
     text +=
         begin + PlaceName(setting, change.channel) + ": " +
         ValueWords(setting, change.channel, change.after) + ", previously " +
         (change.before ? DescribedValue(setting, change.channel, *change.before)
                        : "nothing remembered");
-    if (IsLeftAlone(steps, number, change) == true) text += kNotUndone;
+    if (leftAlone[i] == true) text += kNotUndone;
     text += "\n";
     begin = std::string(kCommandColumn + 1, ' ');
   }
@@ -282,19 +251,19 @@ void AddValue(const std::string &name, const PastChange &change,
   (*fields)[name + "Text"] = choice ? Json(choice->text) : Json();
 }
 
-Json FieldsOf(std::size_t number, const std::vector<Step> &steps) {
-  const Step &step = steps[steps.size() - number];
+Json FieldsOf(std::size_t number, const Step &step,
+              const std::vector<std::optional<bool>> &leftAlone) {
   Json fields{{"number", number},
               {"command", step.command},
               {"changes", Json::array()}};
-  for (const PastChange &change : step.changes) {
+  for (std::size_t i = 0; i < step.changes.size(); ++i) {
+    const PastChange &change = step.changes[i];
     Json one{{"setting", change.setting->name},
              {"model", ModelName(*change.setting)},
              {"channel", ChannelField(*change.setting, change.channel)}};
     AddValue("before", change, change.before, &one);
     AddValue("after", change, change.after, &one);
-    const auto leftAlone = IsLeftAlone(steps, number, change);
-    one["leftAlone"] = leftAlone ? Json(*leftAlone) : Json();
+    one["leftAlone"] = leftAlone[i] ? Json(*leftAlone[i]) : Json();
     fields["changes"].push_back(std::move(one));
   }
   return fields;
@@ -303,9 +272,11 @@ Json FieldsOf(std::size_t number, const std::vector<Step> &steps) {
 void ListSteps(const std::vector<Step> &steps, Report *report) {
   report->isAnswer = true;
   report->fields["steps"] = Json::array();
-  for (std::size_t number = 1; number <= steps.size(); ++number) {
-    report->fields["steps"].push_back(FieldsOf(number, steps));
-    report->text += ListedStep(number, steps);
+  const auto leftAlone = FindLeftAlone(steps);
+  for (std::size_t i = 0; i < steps.size(); ++i) {
+    const Step &step = steps[steps.size() - 1 - i];
+    report->fields["steps"].push_back(FieldsOf(i + 1, step, leftAlone[i]));
+    report->text += ListedStep(i + 1, step, leftAlone[i]);
   }
   report->text = steps.empty()
                      ? "Nothing to undo.\n"

@@ -120,14 +120,12 @@ std::vector<std::string> PlainSentences(
 // With several mixers, adds nothing if every selector is in the right
 // position: the library also returns 101 because a mixer does not answer.
 void AddExplanation(std::uint32_t channel, const Reach &reach,
+                    const std::vector<MixerStatus> &mixers,
                     const std::string &what, const std::string &place,
                     Report *report) {
   ZTKTextRef text = nullptr;
   Sentence(channel, kUsersLanguage, &text);
-  const std::vector<std::string> plain = [&] {
-    const Progress progress(kWaitingForMixer, kLongestQuestion);
-    return PlainSentences(channel, what, AskForSelectors());
-  }();
+  const std::vector<std::string> plain = PlainSentences(channel, what, mixers);
   if (text == nullptr) {
     for (const std::string &sentence : plain) {
       report->warnings.push_back(place + sentence);
@@ -137,6 +135,11 @@ void AddExplanation(std::uint32_t channel, const Reach &reach,
     for (const std::string &sentence : plain) warning += " (" + sentence + ")";
     report->warnings.push_back(warning);
   }
+}
+
+std::vector<MixerStatus> Ask() {
+  const Progress progress(kWaitingForMixer, kLongestQuestion);
+  return AskForSelectors();
 }
 
 // Whether the user can correct what the warning describes. The fifth channel
@@ -151,17 +154,19 @@ bool CanBeActedOn(std::uint32_t channel, const Reach &reach) {
 void ExplainWarning(std::uint32_t channel, const std::string &what,
                     const Reach &reach, Report *report) {
   if (!CanBeActedOn(channel, reach)) return;
-  AddExplanation(channel, reach, what, "", report);
+  AddExplanation(channel, reach, Ask(), what, "", report);
 }
 
 void ExplainWarnings(const MadeChanges &made, Report *report) {
+  std::optional<std::vector<MixerStatus>> mixers;
   for (const MadeChange &one : made.changes) {
     const std::uint32_t channel = one.change.channel;
     if (one.result != ZTK_WARNING || !one.selectorsKnown ||
         !CanBeActedOn(channel, made.reach)) {
       continue;
     }
-    AddExplanation(channel, made.reach,
+    if (!mixers) mixers = Ask();
+    AddExplanation(channel, made.reach, *mixers,
                    DescribedValue(kInput, channel, one.change.index),
                    PlaceName(kInput, channel) + ": ", report);
   }

@@ -127,8 +127,16 @@ Finding Unwritable(const std::string &folder, int error) {
 // The first setter creates missing folders, but no missing home folder. The
 // last existing folder decides whether that is possible.
 void FindUnwritable(std::string folder, Findings *findings) {
+  if (const std::string file = FileInTheWay(folder); !file.empty()) {
+    findings->push_back({.id = "settings-not-writable",
+                         .what = "settings are not remembered: nothing can be "
+                                 "written below " +
+                                 file,
+                         .cause = "it is a file where a folder has to be",
+                         .command = ClearTheWayCommand(file)});
+    return;
+  }
   struct stat status {};
-  // Also ends at a file in place of a folder.
   for (int missing = 0; !Exists(folder, &status); ++missing) {
     if (missing == platform::kMaxMissingFolders) {
       findings->push_back({.id = "settings-not-writable",
@@ -141,15 +149,6 @@ void FindUnwritable(std::string folder, Findings *findings) {
       return;
     }
     folder = ParentFolder(folder);
-  }
-  if (!S_ISDIR(status.st_mode)) {
-    findings->push_back({.id = "settings-not-writable",
-                         .what = "settings are not remembered: nothing can be "
-                                 "written below " +
-                                 folder,
-                         .cause = "it is a file where a folder has to be",
-                         .command = ClearTheWayCommand(folder)});
-    return;
   }
   const int error = TryToWrite(folder);
   if (error == 0) return;

@@ -74,18 +74,16 @@ Obstruction ObstructionOf(const Reach &reach) {
 // What to do first about the mixers that have not accepted a change, while
 // others have.
 std::string RemedyForOthers(const Reach &reach) {
-  std::vector<Mixer> others;
-  for (const Mixer &mixer : reach.mixers) {
-    if (mixer.state != MixerState::Answered) others.push_back(mixer);
-  }
-  const bool areStuck =
-      std::all_of(others.begin(), others.end(), [](const Mixer &mixer) {
+  const auto stuck = static_cast<std::size_t>(std::count_if(
+      reach.mixers.begin(), reach.mixers.end(), [](const Mixer &mixer) {
         return mixer.state == MixerState::Silent ||
                mixer.state == MixerState::Refused;
-      });
-  if (!areStuck) return "when the others are ready, ";
-  return others.size() == 1 ? "switch the other one off and on again, then "
-                            : "switch the others off and on again, then ";
+      }));
+  if (stuck < reach.found() - reach.answered()) {
+    return "when the others are ready, ";
+  }
+  return stuck == 1 ? "switch the other one off and on again, then "
+                    : "switch the others off and on again, then ";
 }
 
 // The reason of the first change that could not be stored.
@@ -166,6 +164,21 @@ std::string SavedWords(const MadeChanges &made, const std::string &what) {
          (forgotten == 1 ? " was " : "s were ") + (sent ? "sent, but " : "");
 }
 
+// The command that sends a stored value again.
+std::string CommandFor(const Change &change) {
+  return change.forgets
+             ? DefaultCommand(change)
+             : ApplyCommand(*change.setting, change.channel, change.index);
+}
+
+// Whether the value has to be sent again when not every mixer has accepted all
+// values: a choice is always sent again, together with the others of its model;
+// a default only if not every mixer has accepted it.
+bool NeedsSending(const MadeChange &one, const MadeChanges &made) {
+  return !one.change.forgets || one.accepted < made.reach.found() ||
+         made.reach.found() == 0;
+}
+
 }  // namespace
 
 std::string DefaultCommand(const Change &change) {
@@ -174,6 +187,21 @@ std::string DefaultCommand(const Change &change) {
     return SetCommand(setting, change.channel, change.index);
   }
   return "ztk output default " + std::to_string(change.channel + 1);
+}
+
+std::string SendingAgain(const MadeChanges &made) {
+  std::vector<std::string> commands;
+  bool remembersDefault = false;
+  for (const Setting *setting : AllSettings()) {
+    for (const MadeChange &one : made.changes) {
+      if (one.change.setting != setting || !NeedsSending(one, made)) continue;
+      if (one.change.forgets && setting != &kOutput) remembersDefault = true;
+      commands.push_back(CommandFor(one.change));
+    }
+  }
+  return (remembersDefault ? "run (set also remembers the default): "
+                           : "run: ") +
+         Joined(commands);
 }
 
 Progress WaitForRequests(std::size_t requests) {

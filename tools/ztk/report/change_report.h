@@ -69,6 +69,11 @@ void ReportOutcome(const MadeChanges &made, const std::string &what,
 // USB output audio, this command also remembers the default.
 std::string DefaultCommand(const Change &change);
 
+// What the user is told to do to send the stored values again: "run: ztk
+// apply". Names a command for each model, and one for each default that not
+// every mixer has accepted, because apply does not know the defaults.
+std::string SendingAgain(const MadeChanges &made);
+
 // A line for a choice that the library will not send again, empty for others.
 std::string NoteOnSendingAgain(const Change &change);
 

@@ -58,6 +58,20 @@ void TakeBack(const PastChange &change, std::vector<UndoItem> *items) {
   }
 }
 
+// Takes all changes of a step back.
+void TakeBack(const Step &step, std::vector<UndoItem> *items) {
+  for (auto change = step.changes.rbegin(); change != step.changes.rend();
+       ++change) {
+    TakeBack(*change, items);
+  }
+}
+
+bool IsLeftAlone(const std::vector<UndoItem> &items, const PastChange &change) {
+  return std::any_of(items.begin(), items.end(), [&](const UndoItem &item) {
+    return item.action == Action::LeaveAlone && IsSamePlace(item, change);
+  });
+}
+
 }  // namespace
 
 std::uint32_t FormerIndex(const PastChange &change) {
@@ -76,22 +90,27 @@ std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
                                std::size_t count) {
   std::vector<UndoItem> items;
   for (std::size_t i = 0; i < count && i < steps.size(); ++i) {
-    const Step &step = steps[steps.size() - 1 - i];
-    for (auto change = step.changes.rbegin(); change != step.changes.rend();
-         ++change) {
-      TakeBack(*change, &items);
-    }
+    TakeBack(steps[steps.size() - 1 - i], &items);
   }
   return items;
 }
 
-std::optional<bool> IsLeftAlone(const std::vector<Step> &steps,
-                                std::size_t count, const PastChange &change) {
-  if (!WhyUnreadable(*change.setting).empty()) return std::nullopt;
-  const std::vector<UndoItem> items = PlanUndo(steps, count);
-  return std::any_of(items.begin(), items.end(), [&](const UndoItem &item) {
-    return item.action == Action::LeaveAlone && IsSamePlace(item, change);
-  });
+std::vector<std::vector<std::optional<bool>>> FindLeftAlone(
+    const std::vector<Step> &steps) {
+  SettingsSnapshot settings;
+  std::vector<UndoItem> items;
+  std::vector<std::vector<std::optional<bool>>> leftAlone;
+  for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
+    TakeBack(*step, &items);
+    leftAlone.emplace_back();
+    for (const PastChange &change : step->changes) {
+      const bool isReadable = settings.WhyUnreadable(*change.setting).empty();
+      leftAlone.back().push_back(isReadable
+                                     ? std::optional(IsLeftAlone(items, change))
+                                     : std::nullopt);
+    }
+  }
+  return leftAlone;
 }
 
 bool IsVoid(const Step &step) {

@@ -40,11 +40,11 @@ std::string WhyUnreadable(const Step &step);
 std::vector<UndoItem> PlanUndo(const std::vector<Step> &steps,
                                std::size_t count = 1);
 
-// Whether undo of the last `count` steps, which include this change, leaves the
-// value alone because another program has set it. None if the settings file
-// cannot be read.
-std::optional<bool> IsLeftAlone(const std::vector<Step> &steps,
-                                std::size_t count, const PastChange &change);
+// For each step, the last one first, and for each of its changes: whether undo
+// of this step and the later ones leaves the value alone, because another
+// program has set it. None if the settings file cannot be read.
+std::vector<std::vector<std::optional<bool>>> FindLeftAlone(
+    const std::vector<Step> &steps);
 
 // True when no change of the step is in effect: its command was interrupted,
 // all of it was taken back already, or another program has put the former
