@@ -204,7 +204,7 @@ TEST_F(Picking, TakesANumberOrTextFromTheList) {
     EXPECT_TRUE(
         terminal.WaitFor("\033[1m* 1  CH2 Control Tone PHONO\033[0m\n"));
     EXPECT_TRUE(terminal.WaitFor(
-        "  7  REC OUT\nUSB input 2, number or text (Enter ends): "));
+        "  7  REC OUT\nUSB input 2, number or text (empty to leave): "));
     terminal.Type(answer);
     EXPECT_EQ(terminal.End(), 0);
     EXPECT_THAT(terminal.shown(),
@@ -217,12 +217,14 @@ TEST_F(Picking, TakesANumberOrTextFromTheList) {
 
 TEST_F(Picking, AsksAgainAfterAWrongWord) {
   PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk boost set"), 40);
-  ASSERT_TRUE(terminal.WaitFor("Boost level, number or text (Enter ends): "));
+  ASSERT_TRUE(
+      terminal.WaitFor("Boost level, number or text (empty to leave): "));
   terminal.Type("12\n");
   EXPECT_TRUE(terminal.WaitFor("no choice \"12\"; nearest: -19 dB (4)\n"));
   terminal.Type("-1\n");
   EXPECT_TRUE(terminal.WaitFor("\"-1\" can mean: -10 dB (2), -15 dB (3),\n"));
-  EXPECT_TRUE(terminal.WaitFor("Boost level, number or text (Enter ends): "));
+  EXPECT_TRUE(
+      terminal.WaitFor("Boost level, number or text (empty to leave): "));
   terminal.Type("-10\n");
   EXPECT_EQ(terminal.End(), 0);
   EXPECT_THAT(Writes(), ElementsAre("mixer 1: 40 03 0200 8003 0000"));
@@ -231,11 +233,12 @@ TEST_F(Picking, AsksAgainAfterAWrongWord) {
 TEST_F(Picking, AsksForTheChannelToo) {
   PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk input set"), 80);
   ASSERT_TRUE(terminal.WaitFor("\n  5  USB input 5\n"));
-  ASSERT_TRUE(terminal.WaitFor("USB input audio, channel (Enter ends): "));
+  ASSERT_TRUE(terminal.WaitFor("USB input audio, channel (empty to leave): "));
   terminal.Type("9\n");
   EXPECT_TRUE(terminal.WaitFor("no channel \"9\"; nearest: 5"));
   terminal.Type("ch2\n");
-  EXPECT_TRUE(terminal.WaitFor("USB input 2, number or text (Enter ends): "));
+  EXPECT_TRUE(
+      terminal.WaitFor("USB input 2, number or text (empty to leave): "));
   terminal.Type("6\n");
   EXPECT_EQ(terminal.End(), 0);
   EXPECT_THAT(terminal.shown(), HasSubstr("USB input 2: MIC (6), sent"));
@@ -245,7 +248,7 @@ TEST_F(Picking, SendsNothingWithoutAnAnswer) {
   for (const char *answer : {"\n", "  \n", "\x04"}) {
     PseudoTerminal terminal(Sandbox({"-n", "1"}, "ztk midi set; echo =$?"), 80);
     ASSERT_TRUE(
-        terminal.WaitFor("MIDI channel, number or text (Enter ends): "));
+        terminal.WaitFor("MIDI channel, number or text (empty to leave): "));
     terminal.Type(answer);
     EXPECT_TRUE(terminal.WaitFor("ztk: nothing was chosen for MIDI channel"));
     EXPECT_TRUE(terminal.WaitFor("\n=2\n"));
@@ -257,7 +260,8 @@ TEST_F(Picking, SendsNothingWithoutAnAnswer) {
 TEST_F(Picking, EndsOnCtrlC) {
   PseudoTerminal terminal(
       Sandbox({"-n", "1"}, "trap : INT; ztk midi set; echo =$?"), 80);
-  ASSERT_TRUE(terminal.WaitFor("MIDI channel, number or text (Enter ends): "));
+  ASSERT_TRUE(
+      terminal.WaitFor("MIDI channel, number or text (empty to leave): "));
   terminal.Type("\x03");
   EXPECT_TRUE(
       terminal.WaitFor("^C\nztk: interrupted; nothing was changed\n=130\n"));

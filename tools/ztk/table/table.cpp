@@ -178,7 +178,7 @@ cli::Command MakeWatch() {
       "Shows the changes that all programs of your session make, and mixers\n"
       "that are plugged in or unplugged. Ctrl-C ends it, with exit status 0.\n"
       "Without a message bus only mixers are shown, and the exit status is 5.\n"
-      "--quiet is not accepted.",
+      "With --quiet the first line, which says that it watches, is left out.",
       "ztk watch --json", Watch);
 }
 

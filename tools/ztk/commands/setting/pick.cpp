@@ -82,7 +82,7 @@ bool CanPick() {
 Choice Pick(const std::string &place, const std::string &list,
             const std::vector<Choice> &choices) {
   Choice picked{};
-  AskUntilAccepted(place, list, place + ", number or text (Enter ends): ",
+  AskUntilAccepted(place, list, place + ", number or text (empty to leave): ",
                    [&](const std::string &answer) {
                      const Match match = FindChoice(choices, answer);
                      if (!match.choice) {
@@ -102,7 +102,7 @@ std::uint32_t PickChannel(const Setting &setting) {
   }
   std::uint32_t picked = 0;
   AskUntilAccepted(setting.title, list,
-                   std::string(setting.title) + ", channel (Enter ends): ",
+                   std::string(setting.title) + ", channel (empty to leave): ",
                    [&](const std::string &answer) {
                      const auto channel = ParseChannel(setting, answer);
                      if (!channel) {
